@@ -1,0 +1,59 @@
+# What every target shares, and the helpers that keep the layers apart.
+include_guard()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+option(TAVORENA_TIDY "Run clang-tidy on the product code" OFF)
+if(TAVORENA_TIDY)
+  find_program(TAVORENA_CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
+endif()
+
+find_program(TAVORENA_CCACHE ccache)
+if(TAVORENA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TAVORENA_CCACHE})
+endif()
+
+add_library(tavorena_regeln INTERFACE)
+target_compile_options(tavorena_regeln INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  -ffp-contract=off  # a result must not depend on a fused multiply-add of the processor
+  $<$<BOOL:${TAVORENA_WERROR}>:-Werror>)
+if(TAVORENA_SANITIZE)
+  target_compile_options(tavorena_regeln INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tavorena_regeln INTERFACE -fsanitize=address,undefined)
+endif()
+if(TAVORENA_FUZZ)
+  target_compile_options(tavorena_regeln INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# tavorena_schicht(core SOURCES a.cpp b.cpp DEPS forms): the static library of one folder. Its headers
+# are included as <tavorena/core/a.h>, by itself and by the layers that name it in DEPS, by no other.
+function(tavorena_schicht Name)
+  cmake_parse_arguments(S "" "" "SOURCES;DEPS" ${ARGN})
+  set(Sicht ${CMAKE_BINARY_DIR}/include/${Name}/tavorena)
+  file(MAKE_DIRECTORY ${Sicht})
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${Sicht}/${Name} SYMBOLIC)
+  add_library(tavorena_${Name} STATIC ${S_SOURCES})
+  add_library(Tavorena::${Name} ALIAS tavorena_${Name})
+  target_include_directories(tavorena_${Name} PUBLIC ${CMAKE_BINARY_DIR}/include/${Name})
+  target_link_libraries(tavorena_${Name} PRIVATE tavorena_regeln)
+  if(TAVORENA_TIDY)
+    set_target_properties(tavorena_${Name} PROPERTIES CXX_CLANG_TIDY ${TAVORENA_CLANG_TIDY})
+  endif()
+  foreach(D ${S_DEPS})
+    target_link_libraries(tavorena_${Name} PUBLIC Tavorena::${D})
+  endforeach()
+endfunction()
+
+# tavorena_test(core a.cpp b.cpp): one GoogleTest program for the folder of that name.
+function(tavorena_test Name)
+  add_executable(test_${Name} ${ARGN})
+  target_link_libraries(test_${Name} PRIVATE tavorena_regeln Tavorena::${Name} tavorena_testhilfe)
+  add_test(NAME ${Name} COMMAND test_${Name} --gtest_shuffle)
+  set_tests_properties(${Name} PROPERTIES TIMEOUT 300)
+endfunction()

@@ -1,0 +1,304 @@
+#include <algorithm>
+#include <cmath>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Sortierung.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+
+namespace tavorena {
+namespace {
+
+std::size_t Reihe(int Zeile) {
+  return static_cast<std::size_t>(Zeile);
+}
+
+bool KuerzerAls(std::string_view Zeile, std::size_t Zeichen) {
+  return Zeile.size() < Zeichen || (Zeile.size() < 4 * Zeichen && ZeichenAnzahl(Zeile) < Zeichen);
+}
+
+std::int16_t Ganzzahl(std::string_view Text) {
+  return PunktartVon(Text);
+}
+
+// A field of a fixed-column line, columns counted from 1.
+std::string_view Spalten(std::string_view Zeile, std::size_t Von, std::size_t Bis) {
+  return TextTeil(Zeile, Von - 1, Bis - Von + 1);
+}
+
+struct KorFelder {
+  std::string_view Pnr, Symbol;
+  double Rechts = 0, Hoch = 0, Hoehe = 0;
+};
+
+bool KorZerlegen(std::string_view Zeile, KorFelder& F) {
+  if (KuerzerAls(Zeile, 6)) return false;
+  F.Pnr = Wortnehmen(Zeile);
+  F.Rechts = ZahlAusText(Wortnehmen(Zeile));
+  F.Hoch = ZahlAusText(Wortnehmen(Zeile));
+  F.Hoehe = ZahlAusText(Wortnehmen(Zeile));
+  F.Symbol = Wortnehmen(Zeile);
+  return true;
+}
+
+// Fills a row of the table from a line. -1: no point in this line.
+int KorInReihe(std::string_view Zeile, int z) {
+  KorFelder F;
+  if (!KorZerlegen(Zeile, F)) return -1;
+  KorPnrSetzen(z, F.Pnr);
+  KorRechts[Reihe(z)] = F.Rechts;
+  KorHoch[Reihe(z)] = F.Hoch;
+  KorHoehe[Reihe(z)] = F.Hoehe;
+  KorSymbol[Reihe(z)].assign(F.Symbol);
+  return 0;
+}
+
+int Lt4InReihe(std::string_view Zeile, int z) {
+  std::string Pnr;
+  // The height of the row is left as it is: the format has none.
+  const int Ergebnis = Lt4ZeileLesen(Zeile, Pnr, KorRechts[Reihe(z)], KorHoch[Reihe(z)], KorSymbol[Reihe(z)],
+                                     KorInfo[Reihe(z)]);
+  if (Ergebnis >= 0) KorPnrSetzen(z, Pnr);
+  return Ergebnis;
+}
+
+using Reihenleser = int (*)(std::string_view, int);
+
+Reihenleser LeserFuer(int Format) {
+  if (Format == FormatKor) return KorInReihe;
+  if (Format == FormatLt4) return Lt4InReihe;
+  return nullptr;
+}
+
+int ZeilenZaehlen(std::string_view Text) {
+  Zeilenleser Leser(Text);
+  std::string_view Zeile;
+  int Anzahl = 0;
+  while (Leser.Naechste(Zeile)) ++Anzahl;
+  return Anzahl;
+}
+
+// One run of KorLesen over the text of a file.
+class Lesung {
+ public:
+  Lesung(std::string_view Text, int Modus, Reihenleser Leser,
+         const std::function<bool(std::string_view)>& Nimmt)
+      : Inhalt(Text), LeseModus(Modus), InReihe(Leser), Test(Nimmt) {
+    if (Modus == ModusErsetzen) Zusatz = " von " + std::to_string(ZeilenZaehlen(Text)) + " Punkten   ";
+  }
+
+  enum class Ende { Gut, Gestoppt, Voll };
+
+  Ende Laufen() {
+    Zeilenleser Leser(Inhalt);
+    std::string_view Zeile;
+    while (Leser.Naechste(Zeile)) {
+      if (KorAnzahl >= KorGrenze) return Ende::Voll;
+      if (InReihe(Zeile, KorAnzahl) < 0 || Verworfen()) continue;
+      ++KorAnzahl;
+      if (KorAnzahl % 100 == 0 && Angehalten()) return Ende::Gestoppt;
+    }
+    return Ende::Gut;
+  }
+
+ private:
+  [[nodiscard]] bool Verworfen() const {
+    const std::string& Pnr = KorPnr(KorAnzahl);
+    return Pnr.empty() || (Test && !Test(Pnr)) ||
+           (LeseModus == ModusNurNeue && KorSuche(std::string_view(Pnr)) >= 0);
+  }
+
+  bool Angehalten() {
+    const double Jetzt = Port().Zeitgeber();
+    if (Jetzt - Zuletzt < 0.5) return false;
+    Zuletzt = Jetzt;
+    KorAnzahlAnzeigen(Zusatz);
+    Port().EreignisseAbarbeiten();
+    if (KorStop != "Stop") return false;
+    KorStop.clear();
+    return true;
+  }
+
+  std::string_view Inhalt;
+  int LeseModus;
+  Reihenleser InReihe;
+  const std::function<bool(std::string_view)>& Test;
+  std::string Zusatz;
+  double Zuletzt = Port().Zeitgeber();
+};
+
+int Zuruecknehmen(int Modus, int AlteAnzahl) {
+  if (Modus != ModusErsetzen) {
+    KorAnzahl = AlteAnzahl;
+    return 0;
+  }
+  KoordinatendateiName.clear();
+  KorAnzahl = 0;
+  return -1;
+}
+
+void KorZeileAnhaengen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
+                       std::string_view Symbol) {
+  const int N = Optionen.OptNachkommaSpeichern;
+  Ziel.append(6, ' ').append(PnrFormat(Pnr)).append(3, ' ');
+  ZahlFormatAnhaengen(Ziel, Rechts, 7, N);
+  Ziel.append(3, ' ');
+  ZahlFormatAnhaengen(Ziel, Hoch, 7, N);
+  Ziel += ' ';
+  ZahlFormatAnhaengen(Ziel, Hoehe, 7, N);
+  Ziel.append(2, ' ').append(Symbol);
+}
+
+// The key of an LT4 line: the fixed area key of the format and the point number.
+std::string Lt4Schluessel(const std::string& Pnr) {
+  const std::size_t L = ZeichenAnzahl(Pnr);
+  if (L < 6) return "45590000" + ZahlFeldNull(Pnr, 6);
+  if (L < 10) return "4559" + ZahlFeldNull(Pnr, 10);
+  return "4559" + Pnr;
+}
+
+int ListenOrdnen(Punktlisten& L) {
+  std::vector<double> Werte(L.Pnr.size());
+  std::transform(L.Pnr.begin(), L.Pnr.end(), Werte.begin(),
+                 [](const std::string& Pnr) { return ZahlAusText(Pnr); });
+  const bool Komma = std::any_of(L.Pnr.begin(), L.Pnr.end(),
+                                 [](const std::string& Pnr) { return Pnr.find(',') != std::string::npos; });
+  std::vector<int> Folge;
+  const int Ergebnis = SortierfolgeErmitteln(L.Pnr, Werte, Komma, Folge);
+  SpaltenOrdnen(Folge, L.Pnr, L.Rechts, L.Hoch, L.Hoehe, L.Symbol);
+  return Ergebnis;
+}
+
+}  // namespace
+
+int Zeilenformat(int Dateiformat) {
+  constexpr int Formate[] = {FormatKor, FormatEdbs, FormatLt4};
+  return Dateiformat >= 0 && Dateiformat <= 2 ? Formate[Dateiformat] : -1;
+}
+
+int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, double& Hoehe,
+                  std::string& Symbol) {
+  KorFelder F;
+  if (!KorZerlegen(Zeile, F)) return -1;
+  Pnr = F.Pnr;
+  Rechts = F.Rechts;
+  Hoch = F.Hoch;
+  Hoehe = F.Hoehe;
+  Symbol = F.Symbol;
+  return 0;
+}
+
+void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,
+                       std::string& Zeile) {
+  Zeile.clear();
+  KorZeileAnhaengen(Zeile, Pnr, Rechts, Hoch, Hoehe, Symbol);
+}
+
+int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, std::string& Symbol,
+                  KorInfoSatz& Info) {
+  if (Zeile.starts_with('#') || KuerzerAls(Zeile, 64)) return -1;
+  Pnr = Spalten(Zeile, 9, 18);
+  Rechts = ZahlAusText(Spalten(Zeile, 24, 34));
+  Hoch = ZahlAusText(Spalten(Zeile, 36, 46));
+  Symbol = "2";
+  Info = {};
+  Info.Lagestatus = Spalten(Zeile, 1, 3);
+  Info.Vermarkungsart = Ganzzahl(Spalten(Zeile, 20, 22));
+  Info.Punktstatus = Ganzzahl(Spalten(Zeile, 62, 62));
+  Info.Lagegenauigkeit = Spalten(Zeile, 64, 64);
+  return 0;
+}
+
+void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
+                       std::string& Zeile) {
+  Zeile = ZahlFeldNull(Info.Lagestatus, 3) + " " + Lt4Schluessel(Trimmen(Pnr)) + " ";
+  Zeile += ZahlFeldNull(std::int32_t{Info.Vermarkungsart}, 3) + " " + ZahlFormat(Rechts, 7, 3) + " ";
+  Zeile += ZahlFormat(Hoch, 7, 3) + " " + Leerzeichen(8) + Leerzeichen(6);
+  Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
+}
+
+int KorLesen(std::string& Dateiname, int Modus, int Format,
+             const std::function<bool(std::string_view)>& Nimmt) {
+  if (Dateiname.empty()) return -1;
+  const Reihenleser InReihe = LeserFuer(Format);
+  if (InReihe == nullptr) {
+    FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
+    return -1;
+  }
+  std::string Inhalt;
+  if (TextdateiLesen(Dateiname, Inhalt) < 0) {
+    Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !");
+    Dateiname.clear();
+    return -1;
+  }
+  const int AlteAnzahl = KorAnzahl;
+  KoordinatenGeaendert = Modus != ModusErsetzen;
+  if (Modus == ModusErsetzen) KorAnzahl = 0;
+  Port().Beschaeftigt(true);
+  const Lesung::Ende Ende = Lesung(Inhalt, Modus, InReihe, Nimmt).Laufen();
+  int Ergebnis = 0;
+  if (Ende == Lesung::Ende::Gestoppt) Ergebnis = Zuruecknehmen(Modus, AlteAnzahl);
+  if (Ende == Lesung::Ende::Voll) {
+    Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
+  }
+  if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
+  Port().Beschaeftigt(false);
+  KorAnzahlAnzeigen();
+  if (Ende != Lesung::Ende::Gestoppt && AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
+  return Ergebnis;
+}
+
+int KorSchreiben(const std::string& Dateiname, int Format) {
+  if (Format != FormatKor && Format != FormatLt4) return -1;
+  std::string Inhalt, Zeile;
+  Inhalt.reserve(Reihe(KorAnzahl) * 64);
+  for (int i = 0; i < KorAnzahl; ++i) {
+    const std::size_t z = Reihe(i);
+    if (Format == FormatKor) {
+      KorZeileAnhaengen(Inhalt, std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorHoehe[z],
+                        KorSymbol[z]);
+    } else {
+      Lt4ZeileSchreiben(std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorInfo[z], Zeile);
+      Inhalt += Zeile;
+    }
+    Inhalt += "\r\n";
+  }
+  return DateiErsetzen(Dateiname, Inhalt) < 0 ? -1 : KorAnzahl;
+}
+
+int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,
+                     bool Sortieren) {
+  Anzahl = 0;
+  if (Dateiname.empty()) return 0;
+  Listen = {};
+  std::string Inhalt;
+  if (TextdateiLesen(Dateiname, Inhalt) < 0) {
+    Hinweis("Datei nicht gefunden:\n" + Dateiname);
+    return -1;
+  }
+  Zeilenleser Leser(Inhalt);
+  std::string_view Zeile;
+  KorFelder F;
+  while (Leser.Naechste(Zeile)) {
+    if (!KorZerlegen(Zeile, F) || F.Pnr.empty()) continue;
+    if (Anzahl == Maximum) {
+      Hinweis("Zu viele Punkte in " + Dateiname + "\n\nMaximalwert:" + ZahlFeld(Maximum, 8) + " Punkte");
+      return -1;
+    }
+    Listen.Pnr.emplace_back(F.Pnr);
+    Listen.Rechts.push_back(F.Rechts);
+    Listen.Hoch.push_back(F.Hoch);
+    Listen.Hoehe.push_back(F.Hoehe);
+    Listen.Symbol.emplace_back(F.Symbol);
+    ++Anzahl;
+  }
+  if (Sortieren) ListenOrdnen(Listen);
+  return 0;
+}
+
+}  // namespace tavorena

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <tavorena/core/Punkt.h>
+#include <tavorena/core/Wert.h>
+
+// Coordinate files: KOR by tokens, LT4 in fixed columns, and the loops that fill and write the table.
+
+namespace tavorena {
+
+/// Cuts one KOR line by tokens: number, Rechts, Hoch, Hoehe (0 if missing), symbol; "," counts as ".".
+/// @return 0; -1 if the line is shorter than 6 characters, the outputs are then untouched
+int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, double& Hoehe,
+                  std::string& Symbol);
+
+/// Builds one KOR line with OptNachkommaSpeichern decimals.
+void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,
+                       std::string& Zeile);
+
+/// Cuts one LT4 line. The format has no height; the symbol is "2" for every point.
+/// @return 0; -1 for a comment ("#") and for a line shorter than 64 characters, the outputs are then
+/// untouched
+int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, std::string& Symbol,
+                  KorInfoSatz& Info);
+
+/// Builds one LT4 line, always with 3 decimals.
+void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
+                       std::string& Zeile);
+
+/// Numbers of the line formats of a coordinate file.
+inline constexpr int FormatKor = 0, FormatEdbs = 10, FormatLt4 = 11;
+/// Format number of a Koordinatendateiformat (0, 1, 2); -1 for any other.
+int Zeilenformat(int Dateiformat);
+
+/// Modes of KorLesen.
+inline constexpr int ModusErsetzen = 1, ModusAnhaengen = 0, ModusNurNeue = -1;
+
+/// Reads a coordinate file into the table and sorts it. A missing file, the limit of 20000 points and
+/// double points are told in a message; every point that was read stays. The stop button rolls back.
+/// @param[in,out] Dateiname  emptied if the file can not be opened
+/// @param[in] Modus   1 replaces the table, -1 skips numbers that the table holds, all other append
+/// @param[in] Format  0 KOR, 11 LT4
+/// @param[in] Nimmt   reads only the points whose number passes this test; none if empty
+/// @return 0; -1 no name, no file, unknown format, or stopped with Modus 1
+int KorLesen(std::string& Dateiname, int Modus, int Format,
+             const std::function<bool(std::string_view)>& Nimmt = {});
+
+/// Writes the whole table, in its order, to a file that is replaced safely.
+/// @return the number of rows; -1 if the format is unknown or the file can not be written, an old file is
+///         then as it was
+int KorSchreiben(const std::string& Dateiname, int Format);
+
+/// Caller-owned columns of a KOR file.
+struct Punktlisten {
+  std::vector<std::string> Pnr;
+  std::vector<double> Rechts, Hoch, Hoehe;
+  std::vector<std::string> Symbol;
+};
+
+/// Reads a KOR file into lists without touching the table.
+/// @param[in] Maximum    most points that the lists take
+/// @param[in] Sortieren  false keeps the order of the file
+/// @return 0; -1 with a message if the file is missing or holds more points. An empty name does nothing.
+int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,
+                     bool Sortieren = true);
+
+}  // namespace tavorena

@@ -1,0 +1,7 @@
+#include <tavorena/core/Optionen.h>
+
+namespace tavorena {
+
+OptionenSatz Optionen;
+
+}  // namespace tavorena

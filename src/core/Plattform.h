@@ -1,0 +1,84 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tavorena {
+
+class Formular;  // src/forms; passed through here and never looked into
+
+enum class Knoepfe { OK, JaNein, JaNeinAbbruch };
+
+/// Button codes of a message box.
+inline constexpr int KnopfAbbruch = 2, KnopfJa = 6, KnopfNein = 7;
+
+/// What a file dialog is asked for.
+struct Dateiauftrag {
+  std::string Titel;
+  std::string Filter;           ///< "text|pattern|text|pattern", patterns of one entry separated by ";"
+  std::string Ordner;           ///< folder to start in
+  std::string Vorgabe;          ///< name or pattern to start with, such as "*.kor"
+  bool NurVorhandene = true;    ///< the file must exist
+  std::string Zusatz;           ///< caption of a check box below the list; none if empty
+  bool ZusatzGewaehlt = false;  ///< out: the check box was set
+};
+
+struct Zeitpunkt {
+  int Jahr = 1970, Monat = 1, Tag = 1, Stunde = 0, Minute = 0;
+};
+
+/// The panels of the status bar. Datei is the first one, which has no key of its own.
+enum class Statusfeld { Datei, StatusKordanz, StatusVersion, StatusUhr, StatusHilfe };
+
+/// What the lower layers ask of the program around them. This base class is the silent platform: it shows
+/// nothing, answers every question with "Abbruch", and only knows the time. The window, the console and
+/// the tests override what they can do.
+class Plattform {
+ public:
+  virtual ~Plattform() = default;
+
+  /// Message box. @return the code of the button; 1 for OK
+  virtual int Meldung(const std::string& Text, Knoepfe Art, const std::string& Titel);
+
+  /// Shows a form; with Modal the call returns when the form is closed.
+  virtual void FormularZeigen(Formular& Form, bool Modal);
+
+  /// File dialog. @return the chosen name; "" if cancelled
+  virtual std::string DateiWaehlen(Dateiauftrag& Auftrag);
+
+  /// Lets waiting events run (stop button, redraw).
+  virtual void EreignisseAbarbeiten() {}
+
+  /// Local date and time.
+  virtual Zeitpunkt Jetzt();
+  /// Seconds from any start; never runs back.
+  virtual double Zeitgeber();
+
+  /// Busy pointer, menus of the main window locked; the stop button stays alive.
+  virtual void Beschaeftigt(bool /*An*/) {}
+
+  virtual void StatusSetzen(Statusfeld /*Feld*/, const std::string& /*Text*/) {}
+  /// Title of the main window.
+  virtual void FenstertitelSetzen(const std::string& /*Titel*/) {}
+  /// Lines of the protocol window, menus or tool bar changed.
+  virtual void HauptfensterGeaendert() {}
+  /// Size of the main window [pixels].
+  virtual void HauptfensterGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
+
+  /// Starts a program with a file; an empty program means the desktop's own. @return 0 or -1
+  virtual int ProgrammStarten(const std::string& /*Programm*/, const std::string& /*Datei*/) { return -1; }
+
+  /// Folder of the executable.
+  virtual std::string ProgrammOrdner() { return {}; }
+
+  /// A replay holds after each connection until "Weiter" is pressed.
+  virtual bool StapelHaelt() { return false; }
+};
+
+/// The platform in use; the silent one if none was set.
+Plattform& Port();
+
+/// Sets the platform (nullptr: the silent one) and gives the one before.
+Plattform* PlattformSetzen(Plattform* Neue);
+
+}  // namespace tavorena

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tavorena {
+
+/// Cadastre attributes of a point, used when the current file came from EDBS or LT4.
+struct KorInfoSatz {
+  std::int16_t Punktart = 0;
+  std::int16_t Punktstatus = 0;
+  std::int16_t Aktualitaet = 0;
+  std::int16_t Vermarkungsart = 0;
+  double BemZurVerm = 0;
+  std::string Entstehung;
+  std::string Lagestatus;  ///< three digits in files
+  std::string Lagegenauigkeit;
+  std::int16_t ArtHoehenbestimmung = 0;
+
+  bool operator==(const KorInfoSatz&) const = default;
+};
+
+/// The Punktart of a point whose symbol is known: the integer value of the text, 0 beyond 16 bits.
+std::int16_t PunktartVon(std::string_view Symbol);
+
+}  // namespace tavorena

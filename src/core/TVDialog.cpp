@@ -1,0 +1,63 @@
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVDialog.h>
+
+namespace tavorena {
+namespace {
+
+const char* Beschreibung(Laufzeitfehler Fehler) {
+  switch (Fehler) {
+    case Laufzeitfehler::Ueberlauf:
+      return "Überlauf";
+    case Laufzeitfehler::Index:
+      return "Index außerhalb des gültigen Bereichs";
+    case Laufzeitfehler::DivisionDurchNull:
+      return "Division durch Null";
+    case Laufzeitfehler::Typen:
+      return "Typen unverträglich";
+    case Laufzeitfehler::DateiNichtGefunden:
+      return "Datei nicht gefunden";
+    case Laufzeitfehler::EinAusgabe:
+      return "E/A-Fehler";
+    case Laufzeitfehler::Zugriff:
+      return "Zugriff verweigert";
+    case Laufzeitfehler::Pfad:
+      return "Pfad nicht gefunden";
+  }
+  return "";
+}
+
+}  // namespace
+
+int Dialogergebnis = 0;
+
+int FrageJaNeinAbbruch(const std::string& Text) {
+  return Port().Meldung(Text, Knoepfe::JaNeinAbbruch, "Tavorena");
+}
+
+int FrageJaNein(const std::string& Text, const std::string& Titel) {
+  return Port().Meldung(Text, Knoepfe::JaNein, Titel);
+}
+
+void Hinweis(const std::string& Text, const std::string& Titel) {
+  Port().Meldung(Text, Knoepfe::OK, Titel);
+}
+
+void FehlerMeldung(const std::string& Text) {
+  Hinweis("Fehler aufgetreten:\n" + Text);
+}
+
+void DateiendeMeldung(const std::string& Datei) {
+  Hinweis("Unerwartetes Dateiende in:\n" + Datei);
+}
+
+void PunktVorhandenMeldung(const std::string& Pnr) {
+  Hinweis("Punkt " + Pnr + "schon vorhanden !");
+}
+
+void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort) {
+  Hinweis("Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
+              " wurde ausgelöst durch Tavorena\n" + Beschreibung(Fehler),
+          "Tavorena Fehlermeldung");
+}
+
+}  // namespace tavorena

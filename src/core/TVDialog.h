@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+// The general message boxes. Each is modal, carries the title "Tavorena" unless told otherwise, and goes
+// through the platform. The dialogs with fields stand in forms/TVWertdialog.h.
+
+namespace tavorena {
+
+/// Result of the last modal dialog: 0 or higher go on, -1 cancelled.
+extern int Dialogergebnis;
+
+/// @return the button code: 6 Ja, 7 Nein, 2 Abbruch
+int FrageJaNeinAbbruch(const std::string& Text);
+/// @return the button code: 6 Ja, 7 Nein
+int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena");
+void Hinweis(const std::string& Text, const std::string& Titel = "Tavorena");
+void FehlerMeldung(const std::string& Text);
+void DateiendeMeldung(const std::string& Datei);
+void PunktVorhandenMeldung(const std::string& Pnr);
+
+/// Numbers of run-time faults.
+enum class Laufzeitfehler : int {
+  Ueberlauf = 6,
+  Index = 9,
+  DivisionDurchNull = 11,
+  Typen = 13,
+  DateiNichtGefunden = 53,
+  EinAusgabe = 57,
+  Zugriff = 70,
+  Pfad = 76,
+};
+
+/// "Fehler <number> in <Ort> wurde ausgelöst durch Tavorena" and the description, under the title
+/// "Tavorena Fehlermeldung". Ort names module and routine, such as "Koordinatenmodul.KorFind".
+void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort);
+
+}  // namespace tavorena

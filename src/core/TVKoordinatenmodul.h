@@ -1,0 +1,139 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <tavorena/core/Punkt.h>
+#include <tavorena/core/Wert.h>
+
+// The point table: the one store of coordinates in the running program. Parallel columns, rows 0 to
+// KorAnzahl - 1 in use, kept in the order of KorSortieren. Coordinates in metres, Rechts = east,
+// Hoch = north; a height of 0 stands for a missing one.
+
+namespace tavorena {
+
+inline constexpr int KorGrenze = 20000;          ///< a read fills the rows below this one
+inline constexpr int KorZeilen = KorGrenze + 1;  ///< rows there are; the last is room for one Neupunkt
+
+extern int KorAnzahl;
+extern std::vector<double> KorRechts, KorHoch, KorHoehe;
+extern std::vector<std::string> KorSymbol;
+extern std::vector<KorInfoSatz> KorInfo;
+
+/// The point number of a row. Written only by KorPnrSetzen, so that the keys of search and sort that stand
+/// beside it are never stale.
+const std::string& KorPnr(int Zeile);
+void KorPnrSetzen(int Zeile, std::string_view Pnr);
+
+extern std::string KoordinatendateiName;     ///< path of the current file, empty if none
+extern std::int16_t Koordinatendateiformat;  ///< 0 KOR, 1 EDBS, 2 LT4/ALK
+extern bool KoordinatenGeaendert;            ///< the table differs from the file
+extern std::string KorStop;                  ///< "Stop" from the stop button; long loops look at it
+
+/// Empties table, columns and file name. Called at start and when a file is closed.
+void KorLeeren();
+
+/// Row of the first point with that number, -1 if none. Numbers are equal character by character after
+/// Trimmen of both sides. Linear, so that it finds a point in a table in any state; never asks.
+int KorSuche(const Wert& Pnr);
+int KorSuche(std::string_view Pnr);
+
+/// As KorSuche, but asks for a missing point until it is there.
+/// @param[in,out] Pnr  the user may type another number
+/// @return the row; negative if the user cancels
+int KorFind(Wert& Pnr);
+
+/// Removes one row. @return 0; -1 if Zeile is outside the table
+int KorLoeschen(int Zeile);
+
+/// Removes the rows Von to Bis, both included; nothing happens with bounds outside the table. The column
+/// KorSymbol stays where it is: symbols do not follow their points here, on purpose.
+void KorBereichLoeschen(int Von, int Bis);
+
+/// Inserts before Zeile. Nothing happens in an empty table or behind its end; the first point comes
+/// through Neupunkt. A full table is a run-time fault, the table then stays as it was.
+void KorEinfuegen(int Zeile, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
+                  const std::string& Symbol, const KorInfoSatz& Info);
+
+/// Sorts the table (see SortierfolgeErmitteln); a "," in a point number becomes a ".".
+void KorSortieren();
+
+/// Number of neighbouring rows with the same point number.
+int AnzahlDoppelte();
+
+/// Bounding box of all points [m]. The two sentinels of an empty table, 999999999.999 and -99999999.999,
+/// differ by a factor of ten on purpose.
+void KorBereich(double& MinRechts, double& MinHoch, double& MaxRechts, double& MaxHoch);
+
+/// Next row after Start whose numeric value lies between Von and Bis.
+/// @return the row; -1 if there is none; -3 if the table is empty or Start is at or past the last row
+int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start);
+
+/// Negates the axes that are asked for, adds the shifts [m], and exchanges two axes: Tausch 0 none,
+/// 1 Rechts and Hoch, 2 Hoch and Hoehe, 3 Rechts and Hoehe.
+void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, int NegHoch, int NegHoehe,
+                    int Tausch);
+
+/// Writes the number of points to the status bar, Zusatz in front of it.
+void KorAnzahlAnzeigen(const std::string& Zusatz = "");
+
+/// First index of a value in a list, -1 if none; compared as KorSuche does.
+int ListeFind(std::string_view Pnr, const std::vector<std::string>& Liste, int Anzahl);
+
+/// All indices of a value. @return -1 if none, -2 if more than Maximum (0: no limit), else the count
+int ListeFindAlle(const std::vector<std::string>& Liste, int Anzahl, std::string_view Wert,
+                  std::vector<int>& Indizes, int Maximum = 0);
+
+// ---- the way of a result into the table ------------------------------------------------------------
+
+/// What Neupunkt hands back besides its code.
+struct NeupunktErgebnis {
+  double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
+  std::string Pnr;                        ///< number under which the result now stands
+  double Rechts = 0, Hoch = 0;
+  std::string AlterPnr;  ///< code 3: new number of the old point; code 13: the number asked for first
+};
+
+/// Stores a calculated point. A taken number is asked about, see Konfliktantwort.
+/// @param[in,out] Pnr    empty or null stores nothing; the final number on return
+/// @param[in]     Hoehe  null or empty if there is none; stored as 0
+/// @param[in]     Info   attributes; nullptr: all empty, Punktart from the symbol
+/// @return 0 free number, 1 old point replaced, 2 mean, 3 old point renumbered, 11 new point dropped,
+///         13 new point renumbered; -1 nothing stored (no number, broken off, table full)
+int Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
+             const KorInfoSatz* Info, NeupunktErgebnis& Ergebnis);
+
+/// The two points that want the same number.
+struct Konflikt {
+  std::string Pnr;
+  int Zeile = 0;  ///< row of the old point
+  double Rechts = 0, Hoch = 0;
+  Wert Hoehe;
+  std::string Symbol;
+};
+
+/// "ABB" break off, "ALÖ" delete the old point, "MIT" mean, "ANN" the old point takes NeuePnr, "NLÖ" drop
+/// the new point, "NNN" the new point takes NeuePnr, "RÜC" ask again.
+struct Konfliktantwort {
+  std::string Wort = "ABB";
+  std::string NeuePnr;
+};
+
+/// Called when two points become one mean: old, new, mean.
+struct Mittelpunkt {
+  std::string Pnr;
+  double AltRechts = 0, AltHoch = 0, NeuRechts = 0, NeuHoch = 0, Rechts = 0, Hoch = 0;
+};
+
+/// What the table needs from above. Unplugged hooks answer as a break-off and do nothing.
+struct KoordinatenHaken {
+  std::function<int(Wert& Pnr)> FormEinzelKorein;  ///< asks for one point and stores it: 1, or -1
+  std::function<Konfliktantwort(const Konflikt&)> PunktVorhandenBehandeln;
+  std::function<void(const Mittelpunkt&)> MittelEintragen;  ///< protocol entry of a mean
+};
+extern KoordinatenHaken Haken;
+
+}  // namespace tavorena

@@ -1,0 +1,288 @@
+#include "Testhilfe.h"
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <tavorena/core/Sortierung.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Zahlen.h>
+
+namespace tavorena::test {
+namespace {
+
+// The quicksort of the point table, written down plainly as the witness of the fast one.
+void Abschrift(std::vector<std::string>& Nr, std::vector<int>& Begleiter) {
+  if (Nr.empty()) return;
+  const auto Z = [](int i) { return static_cast<std::size_t>(i); };
+  std::vector<std::pair<int, int>> Stapel{{0, static_cast<int>(Nr.size()) - 1}};
+  while (!Stapel.empty()) {
+    auto [lo, hi] = Stapel.back();
+    Stapel.pop_back();
+    for (;;) {
+      int i = lo, j = hi;
+      const double P = ZahlVonText(Nr[Z((lo + hi) / 2)]);
+      std::string Pivot = Nr[Z((lo + hi) / 2)];
+      const auto Vor = [&](int z) { return P == 0 ? Nr[Z(z)] < Pivot : ZahlVonText(Nr[Z(z)]) < P; };
+      const auto Nach = [&](int z) { return P == 0 ? Nr[Z(z)] > Pivot : ZahlVonText(Nr[Z(z)]) > P; };
+      do {
+        while (Vor(i)) ++i;
+        while (Nach(j)) --j;
+        if (i <= j) {
+          std::swap(Nr[Z(i)], Nr[Z(j)]);
+          std::swap(Begleiter[Z(i++)], Begleiter[Z(j--)]);
+        }
+      } while (i <= j);
+      if (i < hi) Stapel.emplace_back(i, hi);
+      if (lo >= j) break;
+      hi = j;
+    }
+  }
+}
+
+std::string Zufallsnummer(std::mt19937& Zufall, int Art) {
+  const auto n = static_cast<int>(Zufall() % 40);
+  const std::string Zahl = std::to_string(n);
+  switch (Art) {
+    case 0:
+      return std::to_string(Zufall());  // numbers, nearly all distinct
+    case 1:
+      return Zahl;  // many duplicates, 0 among them
+    case 2:
+      return n % 3 == 0 ? std::string(1, static_cast<char>('A' + n % 26)) : Zahl;  // mixed
+    case 3:
+      return n % 2 == 0 ? Zahl + "," + std::to_string(n % 7) : Zahl + "A";  // comma and letters
+    default:
+      return n % 4 == 0 ? "A," + Zahl : Zahl + ",5";
+  }
+}
+
+TEST(Sortierung, WieDieAbschrift) {
+  std::mt19937 Zufall(19700101);
+  for (int Lauf = 0; Lauf < 2000; ++Lauf) {
+    std::vector<std::string> Nr(Zufall() % 60);
+    for (auto& N : Nr) N = Zufallsnummer(Zufall, Lauf % 5);
+    if (Lauf % 3 == 0) std::sort(Nr.begin(), Nr.end());
+    std::vector<std::string> Soll = Nr;
+    std::vector<int> SollFolge(Nr.size()), Folge;
+    for (std::size_t i = 0; i < Nr.size(); ++i) SollFolge[i] = static_cast<int>(i);
+    Abschrift(Soll, SollFolge);
+    std::vector<double> Werte;
+    bool Komma = false;
+    for (const auto& N : Nr) {
+      Werte.push_back(ZahlAusText(N));
+      Komma = Komma || N.find(',') != std::string::npos;
+    }
+    ASSERT_GE(SortierfolgeErmitteln(Nr, Werte, Komma, Folge), 0);
+    ASSERT_EQ(Folge, SollFolge) << "run " << Lauf;
+    SpaltenOrdnen(Folge, Nr);
+    ASSERT_EQ(Nr, Soll) << "run " << Lauf;
+  }
+}
+
+class Punkttabelle : public TabellenTest {};
+
+// One table against a plain list through a long row of new points: order, columns and search stay together.
+TEST_F(Punkttabelle, NeupunktHaeltOrdnungUndSpalten) {
+  std::mt19937 Zufall(7);
+  for (int Art = 0; Art < 4; ++Art) {
+    KorLeeren();
+    std::vector<std::string> Soll;
+    std::vector<int> Begleiter;
+    for (int i = 0; i < 120; ++i) {
+      const std::string Pnr = Zufallsnummer(Zufall, Art);
+      if (KorSuche(std::string_view(Pnr)) >= 0) continue;
+      Punkt(Pnr.c_str(), i, 2 * i, 3 * i, std::to_string(i).c_str());
+      Soll.push_back(Pnr);
+      Begleiter.push_back(i);
+      Abschrift(Soll, Begleiter);
+    }
+    ASSERT_EQ(KorAnzahl, static_cast<int>(Soll.size()));
+    for (int z = 0; z < KorAnzahl; ++z) {
+      const auto s = static_cast<std::size_t>(z);
+      ASSERT_EQ(KorPnr(z), Soll[s]);
+      ASSERT_EQ(KorRechts[s], Begleiter[s]);
+      ASSERT_EQ(KorSymbol[s], std::to_string(Begleiter[s]));
+      ASSERT_EQ(KorInfo[s].Punktart, Begleiter[s]);
+      const int Gefunden = KorSuche(std::string_view(Soll[s]));
+      ASSERT_TRUE(Gefunden >= 0 && KorPnr(Gefunden) == Soll[s]);
+    }
+  }
+}
+
+TEST_F(Punkttabelle, OrdnungVonZahlenUndTexten) {
+  for (const char* Pnr : {"10", "2", "1,5"}) Punkt(Pnr, 1, 1);
+  EXPECT_EQ(KorPnr(0), "1.5");  // the comma has become a point
+  EXPECT_EQ(KorPnr(1), "2");
+  EXPECT_GE(KorSuche(Wert(1.5)), 0);
+  EXPECT_GE(KorSuche(Wert(" 10\t")), 0);
+  EXPECT_LT(KorSuche(Wert("1,5")), 0);
+  EXPECT_LT(KorSuche(Wert("010")), 0);
+}
+
+struct Antwortfall {
+  const char* Wort;
+  int Code;
+  int Anzahl;
+  const char* Pnr;  // number handed back
+  double Rechts;    // of the result
+  const char* AlterPnr;
+  double ZeileRechts;  // of point 5 in the table
+  double ZeileHoehe;
+};
+
+TEST_F(Punkttabelle, SiebenAntworten) {
+  const Antwortfall Faelle[] = {
+      {"ABB", -1, 1, "5", 104, "", 100, 10},   {"ALÖ", 1, 1, "5", 104, "", 104, 12.5},
+      {"MIT", 2, 1, "5", 102, "", 102, 11.25}, {"ANN", 3, 2, "5", 100, "77", 104, 12.5},
+      {"NLÖ", 11, 1, "5", 100, "", 100, 10},   {"NNN", 13, 2, "77", 104, "5", 100, 10},
+  };
+  for (const Antwortfall& f : Faelle) {
+    SCOPED_TRACE(f.Wort);
+    KorLeeren();
+    Punkt("5", 100, 200, 10, "015");
+    int Gefragt = 0, Gemittelt = 0;
+    Haken.PunktVorhandenBehandeln = [&](const Konflikt& K) {
+      EXPECT_EQ(K.Zeile, 0);
+      return Konfliktantwort{++Gefragt == 1 ? "RÜC" : f.Wort, " 77 "};
+    };
+    Haken.MittelEintragen = [&](const Mittelpunkt& M) {
+      ++Gemittelt;
+      EXPECT_EQ(M.AltRechts + M.NeuRechts, 2 * M.Rechts);
+    };
+    Wert Pnr("5");
+    NeupunktErgebnis E;
+    EXPECT_EQ(Neupunkt(Pnr, 104, 196, 12.5, "020", nullptr, E), f.Code);
+    EXPECT_EQ(Gefragt, 2);
+    EXPECT_EQ(Gemittelt, f.Code == 2 ? 1 : 0);
+    EXPECT_EQ(KorAnzahl, f.Anzahl);
+    EXPECT_EQ(Pnr, Wert(f.Pnr));
+    EXPECT_EQ(E.DeltaRechts, 4);
+    EXPECT_EQ(E.DeltaHoch, -4);
+    EXPECT_EQ(E.Rechts, f.Rechts);
+    EXPECT_EQ(E.AlterPnr, f.AlterPnr);
+    const auto z = static_cast<std::size_t>(KorSuche(Wert("5")));
+    EXPECT_EQ(KorRechts[z], f.ZeileRechts);
+    EXPECT_EQ(KorHoehe[z], f.ZeileHoehe);
+    EXPECT_EQ(KorSymbol[z], f.ZeileRechts == 104 ? "020" : "015");
+  }
+}
+
+TEST_F(Punkttabelle, MittelDerHoehe) {
+  struct Fall {
+    double Alt;
+    Wert Neu;
+    double Soll;
+  };
+  const Fall Faelle[] = {
+      {0, 12.5, 12.5}, {10, 12.5, 11.25}, {10, NullWert{}, 10}, {10, 0.0, 10}, {0, NullWert{}, 0}};
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"MIT", ""}; };
+  for (const Fall& f : Faelle) {
+    KorLeeren();
+    Punkt("5", 0, 0, f.Alt);
+    Wert Pnr(5);
+    NeupunktErgebnis E;
+    EXPECT_EQ(Neupunkt(Pnr, 0, 0, f.Neu, "020", nullptr, E), 2);
+    EXPECT_EQ(KorHoehe[0], f.Soll);
+    EXPECT_EQ(KorSymbol[0], "020");  // only an empty symbol takes the new one
+  }
+}
+
+TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
+  NeupunktErgebnis E;
+  Wert Leer, Null = NullWert{}, Blank("  ");
+  EXPECT_EQ(Neupunkt(Leer, 1, 1, 0, "", nullptr, E), -1);
+  EXPECT_EQ(Neupunkt(Null, 1, 1, 0, "", nullptr, E), -1);
+  EXPECT_EQ(Neupunkt(Blank, 1, 1, 0, "", nullptr, E), -1);
+  EXPECT_EQ(KorAnzahl, 0);
+  for (int i = 0; i < KorZeilen; ++i) KorPnrSetzen(i, std::to_string(i + 1));
+  KorAnzahl = KorZeilen;
+  for (const char* Wort : {"Neupunkt", "Neupunkt", "KorEinfuegen"})
+    Skript.Erwarte(std::string("Fehler 9 in Koordinatenmodul.") + Wort);
+  Wert Pnr("99999");
+  EXPECT_EQ(Neupunkt(Pnr, 1, 1, 0, "", nullptr, E), -1);
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"ANN", "99999"}; };
+  Wert Alt("7");
+  EXPECT_EQ(Neupunkt(Alt, 1, 1, 0, "", nullptr, E), -1);
+  EXPECT_EQ(KorPnr(6), "7");  // the table is as before
+  KorEinfuegen(3, "x", 1, 1, 1, "", {});
+  EXPECT_EQ(KorAnzahl, KorZeilen);
+}
+
+TEST_F(Punkttabelle, KorFindFragtBisDerPunktDaIst) {
+  Punkt("12", 1, 2);
+  Wert Pnr("11");
+  EXPECT_EQ(KorFind(Pnr), -1);  // nobody to ask
+  int Gefragt = 0;
+  Haken.FormEinzelKorein = [&](Wert& Nr) {
+    Nr = Wert(++Gefragt == 1 ? "10" : "12");
+    return Gefragt == 3 ? -1 : 1;
+  };
+  EXPECT_EQ(KorFind(Pnr), 0);
+  EXPECT_EQ(Pnr, Wert("12"));
+  EXPECT_EQ(Gefragt, 2);
+}
+
+TEST_F(Punkttabelle, LoeschenUndEinfuegen) {
+  KorEinfuegen(0, "1", 1, 1, 1, "", {});
+  EXPECT_EQ(KorAnzahl, 0);  // the first point comes through Neupunkt
+  for (int i = 1; i <= 6; ++i) Punkt(std::to_string(i).c_str(), i, i, i, std::to_string(i).c_str());
+  KorBereichLoeschen(2, 9);
+  KorBereichLoeschen(-1, 2);
+  EXPECT_EQ(KorLoeschen(6) + KorLoeschen(-1), -2);
+  EXPECT_EQ(KorAnzahl, 6);
+  KorBereichLoeschen(1, 2);
+  EXPECT_EQ(KorPnr(1), "4");
+  EXPECT_EQ(KorSymbol[1], "2");  // symbols do not follow here
+  EXPECT_EQ(KorLoeschen(0), 0);
+  EXPECT_EQ(KorPnr(0), "4");
+  EXPECT_EQ(KorSymbol[0], "2");  // here they do
+  KorInfo[1].Entstehung = "alt";
+  Koordinatendateiformat = 0;
+  KorEinfuegen(1, 45, 9, 9, 9, "neu", {});
+  EXPECT_EQ(KorPnr(1), "45");
+  EXPECT_EQ(KorInfo[1].Entstehung, "alt");  // attributes only for EDBS and LT4
+  EXPECT_EQ(KorSuche(Wert("6")), 3);
+  EXPECT_EQ(Skript.Status[1], "4 Punkte");
+}
+
+TEST_F(Punkttabelle, BereichSucheVerschieben) {
+  double a = 0, b = 0, c = 0, d = 0;
+  KorBereich(a, b, c, d);
+  EXPECT_EQ(a, 999999999.999);
+  EXPECT_EQ(c, -99999999.999);
+  EXPECT_EQ(KorBereichSuche(1, 9, -1), -3);
+  for (const char* Pnr : {"10", "12A", "14", "20"}) Punkt(Pnr, std::stod(Pnr), 100, 7);
+  EXPECT_EQ(KorBereichSuche("11", "15", -1), 1);
+  EXPECT_EQ(KorBereichSuche("11", "15", 1), 2);
+  EXPECT_EQ(KorBereichSuche("11", "15", 2), -1);
+  EXPECT_EQ(KorBereichSuche("11", "15", 3), -3);
+  const double Soll[4][3] = {{-9, 102, 10}, {102, -9, 10}, {-9, 10, 102}, {10, 102, -9}};
+  for (int Tausch = 0; Tausch < 4; ++Tausch) {
+    KorRechts[0] = 10;
+    KorHoch[0] = 100;
+    KorHoehe[0] = 7;
+    KorVerschieben(1, 2, 3, 1, 0, 0, Tausch);
+    EXPECT_EQ((std::vector{KorRechts[0], KorHoch[0], KorHoehe[0]}),
+              (std::vector<double>(Soll[Tausch], Soll[Tausch] + 3)));
+  }
+  std::vector<int> Indizes;
+  const std::vector<std::string> Liste{"1", " 2", "2", "2"};
+  EXPECT_EQ(ListeFind("2", Liste, 4), 1);
+  EXPECT_EQ(ListeFind("2", Liste, 1), -1);
+  EXPECT_EQ(ListeFindAlle(Liste, 4, "2", Indizes), 3);
+  EXPECT_EQ(ListeFindAlle(Liste, 4, "2", Indizes, 2), -2);
+  EXPECT_EQ(ListeFindAlle(Liste, 4, "9", Indizes), -1);
+}
+
+TEST(TVDialog, Texte) {
+  PlattformSkript Skript({{"Punkt 12schon vorhanden !", 1},
+                          {"Fehler 70 in Haupt.Test wurde ausgelöst durch Tavorena\nZugriff verweigert", 1}});
+  PunktVorhandenMeldung("12");
+  LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Haupt.Test");
+  EXPECT_EQ(Skript.Titel, (std::vector<std::string>{"Tavorena", "Tavorena Fehlermeldung"}));
+}
+
+}  // namespace
+}  // namespace tavorena::test

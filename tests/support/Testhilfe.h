@@ -1,0 +1,88 @@
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+
+namespace tavorena::test {
+
+/// A folder of its own for one test, removed with it.
+class Testordner {
+ public:
+  Testordner();
+  ~Testordner();
+  Testordner(const Testordner&) = delete;
+  Testordner& operator=(const Testordner&) = delete;
+  [[nodiscard]] std::string Pfad(std::string_view Name) const;
+
+ private:
+  std::filesystem::path Ort;
+};
+
+std::string Inhalt(const std::string& Datei);
+void Schreibe(const std::string& Datei, std::string_view Bytes);
+
+/// Compares with an approved file beside the tests, byte for byte. With TAVORENA_SOLL_NEU=1 the new text is
+/// taken over and the test still fails, so that the change is looked at.
+::testing::AssertionResult GleichSoll(const std::string& Ist, const std::string& SollDatei);
+
+/// Answers questions by a script and fails the test on one that nobody foresaw. The clock stands still at
+/// 01.02.2003 10:15; Zeitgeber advances by a second with each look.
+class PlattformSkript final : public Plattform {
+ public:
+  /// Piece of the expected text and the button that answers it.
+  using Folge = std::deque<std::pair<std::string, int>>;
+  explicit PlattformSkript(Folge Antworten = {});
+  ~PlattformSkript() override;
+  PlattformSkript(const PlattformSkript&) = delete;
+  PlattformSkript& operator=(const PlattformSkript&) = delete;
+
+  int Meldung(const std::string& Text, Knoepfe Art, const std::string& Ueberschrift) override;
+  void FormularZeigen(Formular& Form, bool Modal) override;
+  std::string DateiWaehlen(Dateiauftrag& Auftrag) override;
+  void EreignisseAbarbeiten() override;
+  Zeitpunkt Jetzt() override { return Uhr; }
+  double Zeitgeber() override { return Sekunden += 1; }
+  void StatusSetzen(Statusfeld Feld, const std::string& Text) override;
+  void FenstertitelSetzen(const std::string& Neuer) override { Fenstertitel = Neuer; }
+  std::string ProgrammOrdner() override { return Programmordner; }
+  bool StapelHaelt() override { return Haelt; }
+  int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;
+
+  void Erwarte(const std::string& Stueck, int Antwort = 1) { Offen.emplace_back(Stueck, Antwort); }
+
+  std::deque<std::string> Dateien;                       ///< names that the file dialogs give, in order
+  std::deque<std::function<void(Formular&)>> Formulare;  ///< what is done in each modal form, in order
+  std::function<void()> BeiEreignissen;                  ///< runs when the event queue is served
+  std::vector<std::string> Status, Titel, Gestartet;
+  std::vector<Dateiauftrag> Auftraege;
+  std::string Fenstertitel, Programmordner;
+  Zeitpunkt Uhr{2003, 2, 1, 10, 15};
+  bool Haelt = false;
+
+ private:
+  Folge Offen;
+  Plattform* Vorher;
+  double Sekunden = 0;
+};
+
+/// Puts the point table, the options and the clock into their start state before each test.
+class TabellenTest : public ::testing::Test {
+ protected:
+  TabellenTest();
+  ~TabellenTest() override;
+  static void Punkt(const char* Pnr, double R, double H, double Z = 0, const char* Symbol = "");
+  PlattformSkript Skript;
+  Testordner Ordner;
+};
+
+}  // namespace tavorena::test
