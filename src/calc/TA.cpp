@@ -1,0 +1,170 @@
+#include <array>
+#include <cmath>
+
+#include <tavorena/calc/TA.h>
+#include <tavorena/calc/TVBerechnungsmodul.h>
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+
+namespace tavorena {
+namespace {
+
+template <typename... Zahl>
+bool Endlich(Zahl... Zahlen) {
+  return (std::isfinite(Zahlen) && ...);
+}
+
+// A result that the caller may have left out.
+void Ausgeben(double* Ziel, double Zahl) {
+  if (Ziel != nullptr) *Ziel = Zahl;
+}
+
+enmResult Abbilden(int Ergebnis) {
+  return Ergebnis < 0 ? enmResult::Fehler_AnfangsUndEndpunktGleich : enmResult::ok;
+}
+
+// Looks numbers up in their order; false at the first one that is missing.
+template <std::size_t N>
+bool Punkte(const std::array<const Wert*, N>& Nummern, std::array<Lage, N>& Orte) {
+  for (std::size_t i = 0; i < N; ++i) {
+    const int Zeile = KorSuche(*Nummern[i]);
+    if (Zeile < 0) return false;
+    Orte[i] = {KorRechts[static_cast<std::size_t>(Zeile)], KorHoch[static_cast<std::size_t>(Zeile)]};
+  }
+  return true;
+}
+
+}  // namespace
+
+TA::TA() : Vorher(PlattformSetzen(nullptr)) {
+  Haken = {};
+  Optionen = {};
+  KorLeeren();
+}
+
+TA::~TA() {
+  KorLeeren();
+  PlattformSetzen(Vorher);
+}
+
+enmResult TA::Entfernungskontrolle(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
+                                   double& dEntfGerechnet, double dEntfGemessen, double* dAbweichungZulaessig,
+                                   double* dAbweichung) {
+  if (!Endlich(dAnfRW, dAnfHW, dEndRW, dEndHW, dEntfGemessen)) return enmResult::Fehler_Allgemein;
+  Anschlusswerte Werte;
+  const int Ergebnis =
+      tavorena::Entfernungskontrolle({dAnfRW, dAnfHW}, {dEndRW, dEndHW}, dEntfGemessen, Werte);
+  dEntfGerechnet = Werte.EntfGerechnet;
+  if (Ergebnis < 0) return enmResult::Fehler_Allgemein;
+  Ausgeben(dAbweichungZulaessig, Werte.AbweichungZulaessig);
+  Ausgeben(dAbweichung, Werte.Abweichung);
+  return enmResult::ok;
+}
+
+enmResult TA::EntfernungskontrollePnr(const Wert& vPnr1, const Wert& vPnr2, double& dEntfGerechnet,
+                                      double dEntfGemessen, double* dAbweichungZulaessig,
+                                      double* dAbweichung) {
+  std::array<Lage, 2> P;
+  if (!Punkte<2>({&vPnr1, &vPnr2}, P)) return enmResult::Fehler_PunktNichtVorhanden;
+  return Entfernungskontrolle(P[0].RW, P[0].HW, P[1].RW, P[1].HW, dEntfGerechnet, dEntfGemessen,
+                              dAbweichungZulaessig, dAbweichung);
+}
+
+enmResult TA::LinienelementeAnschluss(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
+                                      double& dEntfGerechnet, double dAnlegemass, double dEndmass,
+                                      double* dAbweichungZulaessig, double* dAbweichung, double* dMassstab) {
+  if (!Endlich(dAnfRW, dAnfHW, dEndRW, dEndHW, dAnlegemass, dEndmass)) return enmResult::Fehler_Allgemein;
+  Anschlusswerte Werte;
+  const int Ergebnis =
+      tavorena::LinienelementeAnschluss({dAnfRW, dAnfHW}, {dEndRW, dEndHW}, dAnlegemass, dEndmass, Werte);
+  dEntfGerechnet = Werte.EntfGerechnet;
+  Ausgeben(dAbweichungZulaessig, Werte.AbweichungZulaessig);
+  Ausgeben(dAbweichung, Werte.Abweichung);
+  Ausgeben(dMassstab, Werte.Massstab);
+  return Abbilden(Ergebnis);
+}
+
+enmResult TA::LinienelementeAnschlussPnr(const Wert& vPnr1, const Wert& vPnr2, double& dEntfGerechnet,
+                                         double dAnlegemass, double dEndmass, double* dAbweichungZulaessig,
+                                         double* dAbweichung, double* dMassstab) {
+  std::array<Lage, 2> P;
+  if (!Punkte<2>({&vPnr1, &vPnr2}, P)) return enmResult::Fehler_PunktNichtVorhanden;
+  return LinienelementeAnschluss(P[0].RW, P[0].HW, P[1].RW, P[1].HW, dEntfGerechnet, dAnlegemass, dEndmass,
+                                 dAbweichungZulaessig, dAbweichung, dMassstab);
+}
+
+enmResult TA::Linienelemente(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW, double dLinelRW,
+                             double dLinelHW, double& dLinie, double& dSeitwaerts) {
+  if (!Endlich(dAnfRW, dAnfHW, dEndRW, dEndHW, dLinelRW, dLinelHW)) return enmResult::Fehler_Allgemein;
+  return Abbilden(tavorena::Linienelemente({dAnfRW, dAnfHW}, {dEndRW, dEndHW}, {dLinelRW, dLinelHW}, dLinie,
+                                           dSeitwaerts));
+}
+
+enmResult TA::LinienelementePnr(const Wert& vPnr1, const Wert& vPnr2, const Wert& vLinelpnr, double& dLinie,
+                                double& dSeitwaerts) {
+  std::array<Lage, 3> P;
+  if (!Punkte<3>({&vPnr1, &vPnr2, &vLinelpnr}, P)) return enmResult::Fehler_PunktNichtVorhanden;
+  return Linienelemente(P[0].RW, P[0].HW, P[1].RW, P[1].HW, P[2].RW, P[2].HW, dLinie, dSeitwaerts);
+}
+
+enmResult TA::PolarelementeAnschluss(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
+                                     double& dEntfGerechnet, double* dAnschlussrichtung,
+                                     double* dNordrichtungGon) {
+  if (!Endlich(dAnfRW, dAnfHW, dEndRW, dEndHW)) return enmResult::Fehler_Allgemein;
+  Anschlusswerte Werte;
+  double Anschluss = 0, Nord = 0;
+  const int Ergebnis =
+      tavorena::PolarelementeAnschluss({dAnfRW, dAnfHW}, {dEndRW, dEndHW}, 0, Anschluss, Nord, Werte);
+  dEntfGerechnet = Werte.EntfGerechnet;
+  Ausgeben(dAnschlussrichtung, Anschluss);
+  Ausgeben(dNordrichtungGon, Nord);
+  return Abbilden(Ergebnis);
+}
+
+enmResult TA::PolarelementeAnschlussPnr(const Wert& vPnr1, const Wert& vPnr2, double& dEntfGerechnet,
+                                        double* dAnschlussrichtung, double* dNordrichtungGon) {
+  std::array<Lage, 2> P;
+  if (!Punkte<2>({&vPnr1, &vPnr2}, P)) return enmResult::Fehler_PunktNichtVorhanden;
+  return PolarelementeAnschluss(P[0].RW, P[0].HW, P[1].RW, P[1].HW, dEntfGerechnet, dAnschlussrichtung,
+                                dNordrichtungGon);
+}
+
+enmResult TA::Polarelemente(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW, double dPolelRW,
+                            double dPolelHW, double& dPolelWinkelGon, double& dPolelStrecke,
+                            const Wert& dAnschlussrichtungGemessen, double* dNordrichtung) {
+  const double Orientierung = dAnschlussrichtungGemessen.Zahl();
+  if (!Endlich(dAnfRW, dAnfHW, dEndRW, dEndHW, dPolelRW, dPolelHW, Orientierung))
+    return enmResult::Fehler_Allgemein;
+  double Nord = 0;
+  const int Ergebnis = tavorena::Polarelemente({dAnfRW, dAnfHW}, {dEndRW, dEndHW}, {dPolelRW, dPolelHW},
+                                               Orientierung, dPolelWinkelGon, dPolelStrecke, Nord);
+  Ausgeben(dNordrichtung, Nord);
+  return Abbilden(Ergebnis);
+}
+
+enmResult TA::PolarelementePnr(const Wert& vPnr1, const Wert& vPnr2, const Wert& vPolelpnr,
+                               double& dPolelWinkelGon, double& dPolelStrecke,
+                               const Wert& dAnschlussrichtungGemessen, double* dNordrichtung) {
+  std::array<Lage, 3> P;
+  if (!Punkte<3>({&vPnr1, &vPnr2, &vPolelpnr}, P)) return enmResult::Fehler_PunktNichtVorhanden;
+  return Polarelemente(P[0].RW, P[0].HW, P[1].RW, P[1].HW, P[2].RW, P[2].HW, dPolelWinkelGon, dPolelStrecke,
+                       dAnschlussrichtungGemessen, dNordrichtung);
+}
+
+std::int32_t TA::KoordinatendateiLesen(const std::string& strKoordinatendateiName) {
+  if (!DateiVorhanden(strKoordinatendateiName)) return -1;
+  std::string Name = strKoordinatendateiName;
+  return KorLesen(Name, ModusErsetzen, FormatKor) < 0 ? -1 : KorAnzahl;
+}
+
+std::int32_t TA::KoordinatendateiSchreiben(const std::string& strKoordinatendateiName,
+                                           std::int32_t lNachkomma) {
+  if (lNachkomma < 0 || lNachkomma > 15) return -1;
+  Optionen.OptNachkommaSpeichern = static_cast<std::int16_t>(lNachkomma);
+  return KorSchreiben(strKoordinatendateiName, FormatKor);
+}
+
+}  // namespace tavorena
