@@ -151,6 +151,12 @@ bool OrdnerVorhanden(std::string_view Name) {
   return !Name.empty() && fs::is_directory(Systempfad(Name), Fehler);
 }
 
+int OrdnerAnlegen(std::string_view Name) {
+  std::error_code Fehler;
+  if (!Name.empty()) fs::create_directories(Systempfad(Name), Fehler);
+  return Fehler ? -1 : 0;
+}
+
 int DateiLesen(std::string_view Name, std::string& Inhalt) {
   std::error_code Fehler;
   const fs::path Pfad = Systempfad(Name);

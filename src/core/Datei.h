@@ -22,6 +22,9 @@ Dateiname DateinameZerlegen(std::string_view Name);
 bool DateiVorhanden(std::string_view Name);
 bool OrdnerVorhanden(std::string_view Name);
 
+/// Makes a folder and those above it. @return 0 (also if it was there); -1
+int OrdnerAnlegen(std::string_view Name);
+
 /// Reads a whole regular file as it stands. @return 0; -1 if it can not be opened or read
 int DateiLesen(std::string_view Name, std::string& Inhalt);
 

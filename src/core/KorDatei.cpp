@@ -14,17 +14,13 @@
 namespace tavorena {
 namespace {
 
-std::size_t Reihe(int Zeile) {
-  return static_cast<std::size_t>(Zeile);
-}
+std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 
 bool KuerzerAls(std::string_view Zeile, std::size_t Zeichen) {
   return Zeile.size() < Zeichen || (Zeile.size() < 4 * Zeichen && ZeichenAnzahl(Zeile) < Zeichen);
 }
 
-std::int16_t Ganzzahl(std::string_view Text) {
-  return PunktartVon(Text);
-}
+std::int16_t Ganzzahl(std::string_view Text) { return PunktartVon(Text); }
 
 // A field of a fixed-column line, columns counted from 1.
 std::string_view Spalten(std::string_view Zeile, std::size_t Von, std::size_t Bis) {
@@ -253,22 +249,28 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
   return Ergebnis;
 }
 
-int KorSchreiben(const std::string& Dateiname, int Format) {
+int KorText(int Format, std::string& Text) {
   if (Format != FormatKor && Format != FormatLt4) return -1;
-  std::string Inhalt, Zeile;
-  Inhalt.reserve(Reihe(KorAnzahl) * 64);
+  std::string Zeile;
+  Text.clear();
+  Text.reserve(Reihe(KorAnzahl) * 64);
   for (int i = 0; i < KorAnzahl; ++i) {
     const std::size_t z = Reihe(i);
     if (Format == FormatKor) {
-      KorZeileAnhaengen(Inhalt, std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorHoehe[z],
+      KorZeileAnhaengen(Text, std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorHoehe[z],
                         KorSymbol[z]);
     } else {
       Lt4ZeileSchreiben(std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorInfo[z], Zeile);
-      Inhalt += Zeile;
+      Text += Zeile;
     }
-    Inhalt += "\r\n";
+    Text += "\r\n";
   }
-  return DateiErsetzen(Dateiname, Inhalt) < 0 ? -1 : KorAnzahl;
+  return 0;
+}
+
+int KorSchreiben(const std::string& Dateiname, int Format) {
+  std::string Text;
+  return KorText(Format, Text) < 0 || DateiErsetzen(Dateiname, Text) < 0 ? -1 : KorAnzahl;
 }
 
 int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,

@@ -8,9 +8,7 @@
 namespace tavorena {
 namespace {
 
-std::size_t Reihe(int Zeile) {
-  return static_cast<std::size_t>(Zeile);
-}
+std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 
 struct NeuerPunkt {
   double Rechts, Hoch;

@@ -17,9 +17,7 @@ int Plattform::Meldung(const std::string& /*Text*/, Knoepfe /*Art*/, const std::
 
 void Plattform::FormularZeigen(Formular& /*Form*/, bool /*Modal*/) {}
 
-std::string Plattform::DateiWaehlen(Dateiauftrag& /*Auftrag*/) {
-  return {};
-}
+std::string Plattform::DateiWaehlen(Dateiauftrag& /*Auftrag*/) { return {}; }
 
 Zeitpunkt Plattform::Jetzt() {
   const std::time_t Sekunden = std::time(nullptr);
@@ -36,9 +34,7 @@ double Plattform::Zeitgeber() {
   return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-Plattform& Port() {
-  return Gesetzt != nullptr ? *Gesetzt : Still;
-}
+Plattform& Port() { return Gesetzt != nullptr ? *Gesetzt : Still; }
 
 Plattform* PlattformSetzen(Plattform* Neue) {
   Plattform* Alte = Gesetzt;

@@ -70,6 +70,12 @@ class Plattform {
 
   /// Folder of the executable.
   virtual std::string ProgrammOrdner() { return {}; }
+  /// Folders of the user.
+  virtual std::string Heimordner() { return {}; }
+  virtual std::string Dokumentordner() { return Heimordner(); }
+
+  /// Ends the program, after the event that runs.
+  virtual void ProgrammBeenden() {}
 
   /// A replay holds after each connection until "Weiter" is pressed.
   virtual bool StapelHaelt() { return false; }

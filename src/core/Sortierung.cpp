@@ -11,9 +11,7 @@ namespace {
 
 constexpr std::size_t StapelTiefe = 501;
 
-std::size_t Reihe(int i) {
-  return static_cast<std::size_t>(i);
-}
+std::size_t Reihe(int i) { return static_cast<std::size_t>(i); }
 
 class Quicksort {
  public:

@@ -38,21 +38,13 @@ int FrageJaNein(const std::string& Text, const std::string& Titel) {
   return Port().Meldung(Text, Knoepfe::JaNein, Titel);
 }
 
-void Hinweis(const std::string& Text, const std::string& Titel) {
-  Port().Meldung(Text, Knoepfe::OK, Titel);
-}
+void Hinweis(const std::string& Text, const std::string& Titel) { Port().Meldung(Text, Knoepfe::OK, Titel); }
 
-void FehlerMeldung(const std::string& Text) {
-  Hinweis("Fehler aufgetreten:\n" + Text);
-}
+void FehlerMeldung(const std::string& Text) { Hinweis("Fehler aufgetreten:\n" + Text); }
 
-void DateiendeMeldung(const std::string& Datei) {
-  Hinweis("Unerwartetes Dateiende in:\n" + Datei);
-}
+void DateiendeMeldung(const std::string& Datei) { Hinweis("Unerwartetes Dateiende in:\n" + Datei); }
 
-void PunktVorhandenMeldung(const std::string& Pnr) {
-  Hinweis("Punkt " + Pnr + "schon vorhanden !");
-}
+void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Pnr + "schon vorhanden !"); }
 
 void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort) {
   Hinweis("Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +

@@ -27,9 +27,7 @@ std::vector<double> Zahlwerte(KorZeilen);              // ZahlAusText of each nu
 std::vector<std::uint64_t> Suchschluessel(KorZeilen);  // of each trimmed number, for the search
 bool MitKomma = false;                                 // a number may hold a ","
 
-std::size_t Reihe(int Zeile) {
-  return static_cast<std::size_t>(Zeile);
-}
+std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 
 // Up to eight bytes stand for themselves, so that equal keys mean equal numbers nearly always.
 std::uint64_t SchluesselVon(std::string_view Getrimmt) {
@@ -53,9 +51,7 @@ void ZeileKopieren(int Nach, int Von, bool MitSymbol, bool MitInfo) {
 
 }  // namespace
 
-const std::string& KorPnr(int Zeile) {
-  return Nummern[Reihe(Zeile)];
-}
+const std::string& KorPnr(int Zeile) { return Nummern[Reihe(Zeile)]; }
 
 void KorPnrSetzen(int Zeile, std::string_view Pnr) {
   Nummern[Reihe(Zeile)].assign(Pnr);

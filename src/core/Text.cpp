@@ -6,9 +6,7 @@
 namespace tavorena {
 namespace {
 
-bool IstFortsetzung(char Zeichen) {
-  return (static_cast<unsigned char>(Zeichen) & 0xC0U) == 0x80U;
-}
+bool IstFortsetzung(char Zeichen) { return (static_cast<unsigned char>(Zeichen) & 0xC0U) == 0x80U; }
 
 // Byte position of the 0-based character Nummer, or the length of the text.
 std::size_t ByteStelle(std::string_view Text, std::size_t Nummer) {
@@ -21,9 +19,7 @@ std::size_t ByteStelle(std::string_view Text, std::size_t Nummer) {
   return i;
 }
 
-std::size_t Anzahl(int Zahl) {
-  return Zahl > 0 ? static_cast<std::size_t>(Zahl) : 0;
-}
+std::size_t Anzahl(int Zahl) { return Zahl > 0 ? static_cast<std::size_t>(Zahl) : 0; }
 
 }  // namespace
 
@@ -68,9 +64,7 @@ std::string RechtsBuendig(std::string_view Text, int Breite) {
   return Feld.append(Text);
 }
 
-std::string Leerzeichen(int Zahl) {
-  return std::string(Anzahl(Zahl), ' ');
-}
+std::string Leerzeichen(int Zahl) { return std::string(Anzahl(Zahl), ' '); }
 
 std::string PfadVerbinden(std::string_view Pfad, std::string_view Name) {
   std::string Ganz(Pfad);
@@ -80,9 +74,7 @@ std::string PfadVerbinden(std::string_view Pfad, std::string_view Name) {
   return Ganz.append(Name);
 }
 
-bool IstLeerText(std::string_view Text) {
-  return Text.find_first_not_of(' ') == std::string_view::npos;
-}
+bool IstLeerText(std::string_view Text) { return Text.find_first_not_of(' ') == std::string_view::npos; }
 
 bool IstZahlText(std::string_view Text) {
   return Text.find_first_not_of("0123456789 \t,.+-") == std::string_view::npos;

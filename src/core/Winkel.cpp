@@ -16,9 +16,7 @@ bool AnzahlPasst(int Anzahl, std::span<const double> Liste) {
   return Anzahl > 0 && static_cast<std::size_t>(Anzahl) <= Liste.size();
 }
 
-double Bogen(double Winkel, double Vollkreis) {
-  return Pi() * (2 * (Winkel / Vollkreis));
-}
+double Bogen(double Winkel, double Vollkreis) { return Pi() * (2 * (Winkel / Vollkreis)); }
 
 }  // namespace
 
@@ -49,39 +47,19 @@ double WinkelGon(double DeltaHoch, double DeltaRechts) {
   return 400 * WinkelRad(DeltaHoch, DeltaRechts) / (2 * Pi());
 }
 
-double RadNachGonVoll(double Rad) {
-  return Rad == 0 ? 0 : 400 - 200 * Rad / Pi();
-}
+double RadNachGonVoll(double Rad) { return Rad == 0 ? 0 : 400 - 200 * Rad / Pi(); }
 
-void GonReduzieren(double& Gon) {
-  Reduzieren(Gon, 400);
-}
-void GradReduzieren(double& Grad) {
-  Reduzieren(Grad, 360);
-}
+void GonReduzieren(double& Gon) { Reduzieren(Gon, 400); }
+void GradReduzieren(double& Grad) { Reduzieren(Grad, 360); }
 
-double SinGon(double Gon) {
-  return std::sin(Bogen(Gon, 400));
-}
-double CosGon(double Gon) {
-  return std::cos(Bogen(Gon, 400));
-}
-double TanGon(double Gon) {
-  return std::tan(Bogen(Gon, 400));
-}
-double SinGrad(double Grad) {
-  return std::sin(Bogen(Grad, 360));
-}
-double CosGrad(double Grad) {
-  return std::cos(Bogen(Grad, 360));
-}
+double SinGon(double Gon) { return std::sin(Bogen(Gon, 400)); }
+double CosGon(double Gon) { return std::cos(Bogen(Gon, 400)); }
+double TanGon(double Gon) { return std::tan(Bogen(Gon, 400)); }
+double SinGrad(double Grad) { return std::sin(Bogen(Grad, 360)); }
+double CosGrad(double Grad) { return std::cos(Bogen(Grad, 360)); }
 
-double GonNachGradMath(double Gon) {
-  return Gon == 0 ? 0 : 360 - 360 * Gon / 400;
-}
-double GradNachGonMath(double Grad) {
-  return Grad == 0 ? 0 : 400 - 400 * Grad / 360;
-}
+double GonNachGradMath(double Gon) { return Gon == 0 ? 0 : 360 - 360 * Gon / 400; }
+double GradNachGonMath(double Grad) { return Grad == 0 ? 0 : 400 - 400 * Grad / 360; }
 
 double Richtungswinkel(double R1, double H1, double R2, double H2) {
   double t = RadNachGonVoll(WinkelRad(H2 - H1, R2 - R1)) - 300;

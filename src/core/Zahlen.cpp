@@ -12,9 +12,7 @@ namespace {
 
 constexpr int Stellen = 15;  // significant decimal digits that every double of the trade carries
 
-bool IstZiffer(char z) {
-  return z >= '0' && z <= '9';
-}
+bool IstZiffer(char z) { return z >= '0' && z <= '9'; }
 
 // Tells overflow from underflow for a number text that no double can hold: the sign of its decimal
 // exponent.
@@ -107,9 +105,7 @@ void DezimalSchreiben(std::string& Ziel, double Zahl, int MinVor, int Nachkomma)
 }
 
 // 10^n for the overflow tests.
-double Zehnerpotenz(int n) {
-  return std::pow(10.0, n);
-}
+double Zehnerpotenz(int n) { return std::pow(10.0, n); }
 
 void Rechtsstellen(std::string& Ziel, std::size_t Ab, int Breite) {
   const auto Laenge = static_cast<int>(Ziel.size() - Ab);
@@ -136,9 +132,7 @@ std::string FormatFuellen(const Wert& Zahl, int Vorkomma, int Nachkomma, bool Mi
   return Feld;
 }
 
-std::string Sterne(int Breite) {
-  return std::string(static_cast<std::size_t>(std::max(Breite, 1)), '*');
-}
+std::string Sterne(int Breite) { return std::string(static_cast<std::size_t>(std::max(Breite, 1)), '*'); }
 
 }  // namespace
 
@@ -240,8 +234,6 @@ std::string PnrFormat(const Wert& Pnr) {
   return RechtsBuendig(Feld, 8);
 }
 
-std::string GonText(double Grad) {
-  return ZahlFormat(Grad / 0.9, 3, 4) + " gon";
-}
+std::string GonText(double Grad) { return ZahlFormat(Grad / 0.9, 3, 4) + " gon"; }
 
 }  // namespace tavorena

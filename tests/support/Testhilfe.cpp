@@ -25,9 +25,7 @@ Testordner::~Testordner() {
   fs::remove_all(Ort, Fehler);
 }
 
-std::string Testordner::Pfad(std::string_view Name) const {
-  return (Ort / Name).string();
-}
+std::string Testordner::Pfad(std::string_view Name) const { return (Ort / Name).string(); }
 
 std::string Inhalt(const std::string& Datei) {
   std::ifstream K(Datei, std::ios::binary);
@@ -117,9 +115,7 @@ TabellenTest::TabellenTest() {
   Optionen = {};
 }
 
-TabellenTest::~TabellenTest() {
-  Haken = {};
-}
+TabellenTest::~TabellenTest() { Haken = {}; }
 
 void TabellenTest::Punkt(const char* Pnr, double R, double H, double Z, const char* Symbol) {
   Wert Nr(Pnr);

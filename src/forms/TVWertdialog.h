@@ -1,0 +1,56 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tavorena {
+
+/// One line of a value dialog.
+struct Wertfeld {
+  std::string Label;
+  std::string Wert;    ///< default on call, what the user typed on return
+  int Vorkomma = -1;   ///< number format that a number is brought into when the field is left
+  int Nachkomma = -1;  ///< below 0: the field is a text
+};
+
+/// Asks for up to as many values as there are fields, modal. Escape and "Abbrechen" cancel.
+/// @return 0; -1 if cancelled, the fields are then as they were (also left in Dialogergebnis)
+int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder);
+
+int EinWert(const std::string& Titel, const std::string& Label, std::string& Wert);
+int ZweiWerte(const std::string& Titel, const std::string& Label1, std::string& Wert1,
+              const std::string& Label2, std::string& Wert2);
+int DreiWerte(const std::string& Titel, std::span<Wertfeld, 3> Felder);
+
+/// One file name of a file dialog with several.
+struct Dateifeld {
+  std::string Label;
+  std::string Name;
+  std::string Filter;    ///< of its file-choosing button
+  bool Ausgabe = false;  ///< an existing file is asked about; must differ from the inputs
+};
+
+/// Asks for the file names, each with a button that chooses one. @return 0; -1 if cancelled
+int ZweiDateinamen(const std::string& Titel, std::span<Dateifeld, 2> Felder);
+int DreiDateinamen(const std::string& Titel, std::span<Dateifeld, 3> Felder);
+
+/// A list of entries. @return 0-based index of the chosen one; -1 if cancelled
+int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Eintraege);
+
+/// Asks "Von Punktnr." and "Bis Punktnr.". @return 0; -1 if cancelled
+int PunktbereichFrage(const std::string& Titel, std::string& Von, std::string& Bis);
+
+/// Asks for an existing folder. @return 0; -1 if cancelled
+int VerzeichnisWahl(const std::string& Titel, std::string& Verzeichnis);
+
+/// "Datei schon vorhanden:" and the name. @return 0 Anhängen, 1 Überschreiben, -1 Abbruch
+int DateiVorhandenFrage(const std::string& Dateiname);
+
+/// A connection point typed under a number that exists. @return 0 Weiter, 1 Zurück
+int PunktVorhandenFrage(const std::string& Pnr);
+
+/// A station whose number exists. @return 0 Orientierung, 1 Zurück, 2 Abbruch
+int PunktVorhandenOrientierungFrage(const std::string& Pnr);
+
+}  // namespace tavorena

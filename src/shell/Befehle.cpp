@@ -1,0 +1,237 @@
+#include <algorithm>
+#include <memory>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/Stapelschreiber.h>
+#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/shell/Befehle.h>
+#include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Konfiguration.h>
+#include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/shell/TVOptionenform.h>
+#include <tavorena/shell/TVPSelectForm.h>
+#include <tavorena/worksheets/TVDisForm.h>
+#include <tavorena/worksheets/TVLinelForm.h>
+#include <tavorena/worksheets/TVPolelForm.h>
+
+namespace tavorena {
+namespace {
+
+void DateiNeu() {
+  if (HauptKoordinatendateiWechseln(true) < 0) return;
+  HauptInitialisierung();
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Neu, FilterKor, "*.kor", KoordinatendateiName) < 0)
+    return;
+  Koordinatendateiformat = FormatNachEndung(KoordinatendateiName, 0);
+  if (HauptLesenUndDateinamenSetzen(false) < 0) return HauptInitialisierung();
+  HauptDateiOffenSetzen();
+}
+
+void DateiLesenMit(std::int16_t Format, const char* Filter, const char* Vorgabe) {
+  if (HauptKoordinatendateiWechseln(true) < 0) return;
+  HauptInitialisierung();
+  std::string Name;
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, Filter, Vorgabe, Name) < 0) return;
+  HauptDateiOeffnen(Name, Format);
+}
+
+void DateiSpeichern() { HauptDateiSpeichern(); }
+
+void DateiSpeichernUnter() {
+  const char* const Vorgaben[] = {"*.kor", "*.eds", "*.alk"};
+  const char* Vorgabe = Vorgaben[std::clamp<int>(Koordinatendateiformat, 0, 2)];
+  std::string Name;
+  bool Anhaengen = false;
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhaengen) < 0)
+    return;
+  const std::int16_t Format = FormatNachEndung(Name, 0);
+  if (KoordinatenExportieren(Name, Zeilenformat(Format), Anhaengen) < 0) return;
+  KoordinatendateiName = Name;
+  Koordinatendateiformat = Format;
+  KoordinatenGeaendert = false;
+  // An extended file holds more than the table: the table takes all of it.
+  if (Anhaengen) KorLesen(KoordinatendateiName, ModusErsetzen, Zeilenformat(Format));
+  TitelSetzen(KoordinatendateiName);
+  HauptHistSchreiben(KoordinatendateiName, Format);
+}
+
+void Stapelbearbeitung() {
+  if (StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
+  std::string Name;
+  if (DateiWahl(Dateisorte::Stapel, Wahlmodus::Lesen, "Stapeldateien (*.sta)|*.sta", "*.sta", Name) < 0)
+    return;
+  StapelStarten(Name);
+}
+
+void ProtokollWechseln() {
+  std::string Name;
+  if (ProtokollWahl(Name) == 0) ProtokollNehmen(Name);
+}
+
+void DateiSchliessen() {
+  if (HauptKoordinatendateiWechseln(true) == 0) HauptInitialisierung();
+}
+
+void Beenden() {
+  if (HauptBeenden() == 0) Port().ProgrammBeenden();
+}
+
+// Reads points of a file into the table that is open.
+void Hinzulesen(int Modus, const std::function<bool(std::string_view)>& Nimmt = {}) {
+  std::string Name;
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  KorLesen(Name, Modus, Zeilenformat(FormatNachEndung(Name, 0)), Nimmt);
+}
+
+void HinzuKomplett() { Hinzulesen(ModusAnhaengen); }
+void HinzuNurNeue() { Hinzulesen(ModusNurNeue); }
+
+void HinzuPunktbereich() {
+  std::string Name, Von, Bis;
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  if (PunktbereichFrage("Tavorena Auswahl Punktbereich", Von, Bis) < 0) return;
+  const double Unten = ZahlAusText(Von), Oben = ZahlAusText(Bis);
+  KorLesen(Name, ModusAnhaengen, Zeilenformat(FormatNachEndung(Name, 0)), [=](std::string_view Pnr) {
+    const double Nummer = ZahlAusText(Pnr);
+    return Nummer >= Unten && Nummer <= Oben;
+  });
+}
+
+void HinzuPunktselektion() {
+  std::string Name;
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  Punktlisten Listen;
+  int Anzahl = 0;
+  if (FormatNachEndung(Name, 0) != 0)
+    return FehlerMeldung("Punkte werden nur aus KOR-Dateien ausgewählt:\n" + Name);
+  if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
+  std::vector<std::string> Gewaehlt;
+  if (PunkteAuswaehlen(Listen, Gewaehlt) < 0) return;
+  KorLesen(Name, ModusAnhaengen, FormatKor, [&](std::string_view Pnr) {
+    return std::find(Gewaehlt.begin(), Gewaehlt.end(), Pnr) != Gewaehlt.end();
+  });
+}
+
+void Ansehen(const std::string& Datei) {
+  if (Datei.empty() || Port().ProgrammStarten(Optionen.DateinameEditorNT, Datei) == 0) return;
+  LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
+}
+
+void AnsichtProtokoll() { Ansehen(ProtokolldateiName); }
+void AnsichtStapel() { Ansehen(StapeldateiName); }
+void AnsichtKoordinaten() { Ansehen(KoordinatendateiName); }
+
+void AnsichtAllgemein() {
+  if (Port().ProgrammStarten(Optionen.DateinameEditorNT, "") < 0) {
+    LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
+  }
+}
+
+template <typename Form>
+void Rechenblatt() {
+  if (StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
+  BlattZeigen(std::make_unique<Form>());
+}
+
+// Replaces a text in a whole file and tells how often.
+void TextErsetzen() {
+  Wertfeld Felder[] = {{"zu ändernde Datei", ""}, {"Suchen nach...", ""}, {"Ersetzen durch...", ""}};
+  if (DreiWerte("Tavorena Text ersetzen", Felder) < 0 || Felder[1].Wert.empty()) return;
+  const std::string &Datei = Felder[0].Wert, &Such = Felder[1].Wert, &Ersatz = Felder[2].Wert;
+  std::string Bytes, Text;
+  if (DateiLesen(Datei, Bytes) < 0 || TextdateiLesen(Datei, Text) < 0)
+    return Hinweis("Datei nicht gefunden:\n" + Datei);
+  int Anzahl = 0;
+  for (std::size_t i = Text.find(Such); i != std::string::npos; i = Text.find(Such, i + Ersatz.size())) {
+    Text.replace(i, Such.size(), Ersatz);
+    ++Anzahl;
+  }
+  if (Anzahl == 0) return Hinweis("Kein Eintrag \"" + Such + "\"\n" + Datei + "\ngefunden");
+  if (DateiErsetzen(Datei, IstUtf8(Bytes) ? Text : NachWindows1252(Text)) < 0) {
+    return Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei);
+  }
+  Hinweis(std::to_string(Anzahl) + " mal \"" + Such + "\" durch \"" + Ersatz + "\"\n" + Datei + "\nersetzt");
+}
+
+void TexteditorWaehlen() {
+  Dateiauftrag Auftrag{"Tavorena Texteditor für Windows NT festlegen",
+                       "Programmdatei (*.exe)|*.exe|Batch-Datei (*.bat)|*.bat|Alle Dateien|*",
+                       Startordner(),
+                       "",
+                       true,
+                       "",
+                       false};
+  const std::string Name = Port().DateiWaehlen(Auftrag);
+  if (Name.empty()) return;
+  Optionen.DateinameEditorNT = Name;
+  VerzeichnisMerken(Name);
+}
+
+void Ueber() { Hinweis("Tavorena für PC\nVersion 3.0\nRelease 4"); }
+
+void Projektstand() {
+  Hinweis(
+      "Zu beachten:\n- Grafik für alle Katasterprogramme eingeführt\n  (Anschalten in \"Optionen | "
+      "Grafikfenster\")\n"
+      "- Hilfefunktion in der \"Statusleiste\" am unteren Bildrand\n  ist neu");
+}
+
+constexpr Befehl Befehle[] = {
+    {"MenüDateiNeu", false, DateiNeu},
+    {"MenüDateiLesen(0)", false, [] { DateiLesenMit(0, FilterKor, "*.kor"); }},
+    {"MenüDateiLesen(2)", false, [] { DateiLesenMit(2, FilterKor, "*.alk"); }},
+    {"MenüDateiSpeichern(0)", true, DateiSpeichern},
+    {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},
+    {"MenüDateiStapel", true, Stapelbearbeitung},
+    {"MenüDateiProtokoll", true, ProtokollWechseln},
+    {"MenüDateiSchließen", true, DateiSchliessen},
+    {"MenüDateiBeenden", false, Beenden},
+    {"MenüDateiHinzuLesenKomplett", true, HinzuKomplett},
+    {"MenüDateiHinzuLesenNurNeue", true, HinzuNurNeue},
+    {"MenüDateiHinzuLesenPunktbereich", true, HinzuPunktbereich},
+    {"MenüDateiHinzuLesenPunktselektion", true, HinzuPunktselektion},
+    {"MenüAnsichtTextPad(0)", true, AnsichtProtokoll},
+    {"MenüAnsichtTextPad(1)", true, AnsichtStapel},
+    {"MenüAnsichtTextPad(2)", true, AnsichtKoordinaten},
+    {"MenüAnsichtTextPad(3)", true, AnsichtAllgemein},
+    {"MenüAnsichtKoordinatendatei", true, AnsichtKoordinaten},
+    {"MenüAnsichtProtokolldatei", true, AnsichtProtokoll},
+    {"MenüAnsichtStapeldatei", true, AnsichtStapel},
+    {"MenüKatasterLinel", true, Rechenblatt<TVLinelForm>},
+    {"MenüKatasterPolel", true, Rechenblatt<TVPolelForm>},
+    {"MenüKatasterDis", true, Rechenblatt<TVDisForm>},
+    {"MenüFunktErsetzen", true, TextErsetzen},
+    {"MenüOptionenOptionen", false, TVOptionenformZeigen},
+    {"MenüOptionenDateinamen(0)", false, TexteditorWaehlen},
+    {"MenüInfoÜberAlt", false, Ueber},
+    {"MenüInfoProjektstand", false, Projektstand},
+    {"MenüInfoÜber", false, Ueber},
+};
+
+}  // namespace
+
+const Befehl* BefehlFinden(std::string_view Eintrag) {
+  const auto* i = std::find_if(std::begin(Befehle), std::end(Befehle),
+                               [&](const Befehl& B) { return B.Eintrag == Eintrag; });
+  return i != std::end(Befehle) ? i : nullptr;
+}
+
+void HistorieOeffnen(int Index) {
+  if (Index < 0 || Index >= HistorieAnzahl) return;
+  const HistorieEintrag H = Historie[static_cast<std::size_t>(Index)];
+  if (HauptKoordinatendateiWechseln(true) < 0) return;
+  HauptInitialisierung();
+  HauptDateiOeffnen(H.Dateiname, H.Format);
+}
+
+}  // namespace tavorena

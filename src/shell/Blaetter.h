@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+
+#include <tavorena/forms/Formular.h>
+
+// The open worksheets.
+
+namespace tavorena {
+
+/// Shows a new worksheet and keeps it until it is closed.
+void BlattZeigen(std::unique_ptr<Formular> Blatt);
+
+/// A worksheet is open.
+bool BlaetterOffen();
+
+/// Closes all open worksheets; one with something unwritten asks first. @return false: one stayed open
+bool BlaetterSchliessen();
+
+/// A batch write is not finished, or a replay runs: no other worksheet may be opened.
+bool StapelSchreibenOffen();
+
+/// Tells the batch reader which worksheet takes which block.
+void BlaetterAnmelden();
+
+}  // namespace tavorena

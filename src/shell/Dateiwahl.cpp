@@ -1,0 +1,93 @@
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Konfiguration.h>
+
+namespace tavorena {
+namespace {
+
+std::string TitelFuer(Dateisorte Sorte, Wahlmodus Modus) {
+  if (Sorte == Dateisorte::Protokoll) {
+    return Modus == Wahlmodus::Lesen ? "Protokolldatei auswählen" : "Protokolldatei zum Schreiben auswählen";
+  }
+  if (Sorte == Dateisorte::Stapel) {
+    return Modus == Wahlmodus::Lesen       ? "Stapeldatei zum Bearbeiten auswählen"
+           : Modus == Wahlmodus::Anhaengen ? "Stapeldatei zum Anhängen auswählen"
+                                           : "Stapeldatei zum Schreiben auswählen";
+  }
+  switch (Modus) {
+    case Wahlmodus::Lesen:
+      return "Koordinatendatei zum Lesen auswählen";
+    case Wahlmodus::Schreiben:
+      return "Koordinatendatei zum Schreiben auswählen";
+    case Wahlmodus::Anhaengen:
+      return "Koordinatendatei zum Anhängen auswählen";
+    case Wahlmodus::Neu:
+      break;
+  }
+  return "Neue Koordinatendatei angeben";
+}
+
+// A name typed without an ending gets the one of the default, "*.kor".
+void EndungErgaenzen(std::string& Name, const std::string& Vorgabe) {
+  const std::string Endung = DateinameZerlegen(Vorgabe).Endung;
+  if (DateinameZerlegen(Name).Endung.empty() && !Endung.empty()) Name += "." + Endung;
+}
+
+int Abbruch() { return Dialogergebnis = -1; }
+
+}  // namespace
+
+std::string Startordner() {
+  if (Optionen.VerzeichnisLetztes == "c:\\") return Port().Heimordner();
+  return OrdnerVorhanden(Optionen.VerzeichnisLetztes) ? Optionen.VerzeichnisLetztes : Port().Dokumentordner();
+}
+
+void VerzeichnisMerken(const std::string& Name) {
+  const std::string Ordner = DateinameZerlegen(Name).Ordner;
+  if (Ordner.empty()) return;
+  Optionen.VerzeichnisLetztes = Ordner;
+  OptionenSchreiben();
+}
+
+int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,
+              std::string& Name, bool* Anhaengen) {
+  Dateiauftrag Auftrag{TitelFuer(Sorte, Modus),   Filter, Startordner(), Vorgabe,
+                       Modus == Wahlmodus::Lesen, "",     false};
+  std::string Gewaehlt = Port().DateiWaehlen(Auftrag);
+  if (Gewaehlt.empty()) return Abbruch();
+  if (Modus != Wahlmodus::Lesen) EndungErgaenzen(Gewaehlt, Vorgabe);
+  if ((Modus == Wahlmodus::Schreiben || Modus == Wahlmodus::Neu) && DateiVorhanden(Gewaehlt)) {
+    const int Antwort = DateiVorhandenFrage(Gewaehlt);
+    if (Antwort < 0) return Abbruch();
+    if (Anhaengen != nullptr) *Anhaengen = Antwort == 0;
+  }
+  Name = Gewaehlt;
+  VerzeichnisMerken(Name);
+  return Dialogergebnis = 0;
+}
+
+int ProtokollWahl(std::string& Name) {
+  Dateiauftrag Auftrag{TitelFuer(Dateisorte::Protokoll, Wahlmodus::Anhaengen),
+                       "Protokolldateien (*.dru)|*.dru",
+                       Startordner(),
+                       "*.dru",
+                       false,
+                       "kein Protokoll",
+                       false};
+  std::string Gewaehlt = Port().DateiWaehlen(Auftrag);
+  if (Auftrag.ZusatzGewaehlt) {
+    Name.clear();
+    return Dialogergebnis = 0;
+  }
+  if (Gewaehlt.empty()) return Abbruch();
+  EndungErgaenzen(Gewaehlt, Auftrag.Vorgabe);
+  Name = Gewaehlt;
+  VerzeichnisMerken(Name);
+  return Dialogergebnis = 0;
+}
+
+}  // namespace tavorena

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+namespace tavorena {
+
+enum class Dateisorte { Koordinaten, Protokoll, Stapel };
+
+/// "r" read an existing file, "w" write, "a" append, "n" a new one.
+enum class Wahlmodus : char { Lesen = 'r', Schreiben = 'w', Anhaengen = 'a', Neu = 'n' };
+
+inline const char* const FilterKor = "CADdy (*.kor)|*.kor|KAFKA (*.lt4)|*.lt4";
+
+/// The chooser of the commands: starts in the last folder, keeps the folder of the name chosen. In mode
+/// "w" and "n" an existing file is asked about; it is not deleted, saving replaces it as a whole.
+/// @param[out] Anhaengen  the file exists and is to be extended; may be left out
+/// @return 0; -1 if cancelled (also left in Dialogergebnis)
+int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,
+              std::string& Name, bool* Anhaengen = nullptr);
+
+/// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
+int ProtokollWahl(std::string& Name);
+
+/// VerzeichnisLetztes becomes the folder of Name, and is written.
+void VerzeichnisMerken(const std::string& Name);
+
+/// Folder in which a file dialog starts.
+std::string Startordner();
+
+}  // namespace tavorena

@@ -1,0 +1,306 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <initializer_list>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/shell/Konfiguration.h>
+
+namespace tavorena {
+
+std::string Anwendungsordner, DateinameOptionen, DateinameExtra;
+std::array<HistorieEintrag, 11> Historie;
+
+namespace {
+
+std::string Umgebung(const char* Name) {
+  const char* Inhalt = std::getenv(Name);
+  return Inhalt != nullptr ? Inhalt : "";
+}
+
+std::string OrdnerSuchen() {
+  if (const std::string Gesetzt = Umgebung("TAVORENA_ORDNER"); !Gesetzt.empty()) return Gesetzt;
+  const std::string Programm = Port().ProgrammOrdner();
+  if (!Programm.empty() && DateiVorhanden(PfadVerbinden(Programm, "\\Tavorena.ini"))) return Programm;
+  const std::string Xdg = Umgebung("XDG_CONFIG_HOME");
+  return !Xdg.empty() ? Xdg + "/tavorena" : Umgebung("HOME") + "/.config/tavorena";
+}
+
+// An open configuration file, read line by line.
+class Kanal {
+ public:
+  explicit Kanal(const std::string& Dateiname) : Gut(TextdateiLesen(Dateiname, Text) == 0), Leser(Text) {}
+
+  // Goes behind the first line whose upper-case text holds Abschnitt.
+  bool Suchen(std::string_view Abschnitt) {
+    std::string Gelesen;
+    while (Zeile(Gelesen)) {
+      if (Grosstext(Gelesen).find(Abschnitt) != std::string::npos) return true;
+    }
+    return false;
+  }
+
+  bool Zeile(std::string& Gelesen) {
+    std::string_view Sicht;
+    if (!Gut || !Leser.Naechste(Sicht)) return false;
+    Gelesen = Sicht;
+    return true;
+  }
+
+  [[nodiscard]] bool AmEnde() const { return Leser.AmEnde(); }
+
+  // The first token of the next line.
+  bool ZeileLesen(std::string& Wert) {
+    std::string Gelesen;
+    if (!Zeile(Gelesen)) return false;
+    std::string_view Rest = Gelesen;
+    Wert = Wortnehmen(Rest);
+    return true;
+  }
+
+ private:
+  std::string Text;
+  bool Gut;
+  Zeilenleser Leser;
+};
+
+bool IstWahr(const std::string& Wort) {
+  const std::string Gross = Grosstext(Wort);
+  return Gross == "TRUE" || Gross == "WAHR" || Wort == "1";
+}
+
+int Ganz(const std::string& Wort) {
+  const double Zahl = std::floor(ZahlAusText(Wort));
+  return std::fabs(Zahl) <= 32767 ? static_cast<int>(Zahl) : 0;
+}
+
+std::int16_t Kurz(const std::string& Wort) { return static_cast<std::int16_t>(Ganz(Wort)); }
+
+void FensterwahlLesen(const std::string& Wort) {
+  // "1" is written for the protocol window and read as the graphics window; meant so.
+  Optionen.GrafikfensterAn = Wort == "1" || Wort == "2";
+  Optionen.CondorfensterAn = Wort == "3";
+  Optionen.ProtokollfensterAn = !Optionen.GrafikfensterAn && !Optionen.CondorfensterAn && IstWahr(Wort);
+}
+
+// The lines that older files do not have. Each line is consumed in any case: an older, shorter section
+// runs over into the next one, and its lines are read as values. Meant so.
+bool SpaetereZeile(Kanal& K, std::string& Wort, bool& Gilt) {
+  std::string Zeile;
+  if (!K.Zeile(Zeile)) return false;
+  std::string_view Rest = Zeile;
+  Wort = Wortnehmen(Rest);
+  Gilt = !Zeile.starts_with('[') && !K.AmEnde();
+  return true;
+}
+
+bool SpaetereLesen(Kanal& K) {
+  std::string Wort;
+  bool Gilt = false;
+  const auto Naechste = [&] { return SpaetereZeile(K, Wort, Gilt); };
+  if (!Naechste()) return false;
+  Optionen.VorgabeRechts = Gilt ? ZahlAusText(Wort) : 0;
+  if (!Naechste()) return false;
+  Optionen.VorgabeHoch = Gilt ? ZahlAusText(Wort) : 0;
+  if (!Naechste()) return false;
+  Optionen.OptWarnstufe = Gilt ? Ganz(Wort) : 3;
+  if (!Naechste()) return false;
+  Optionen.OptNachkommaSpeichern = Gilt ? Kurz(Wort) : std::int16_t{4};
+  if (!Naechste()) return false;
+  Optionen.FStatMitHoehe = Gilt ? IstWahr(Wort) : true;
+  if (!Naechste()) return false;
+  Optionen.GKreduzierteFlaechen = Gilt && IstWahr(Wort);
+  if (!Naechste()) return false;
+  Optionen.FStatPAAnschluss = Gilt && IstWahr(Wort);
+  return true;
+}
+
+std::string Fensterzeile() {
+  const char* Ziffer = Optionen.GrafikfensterAn      ? "2"
+                       : Optionen.ProtokollfensterAn ? "1"
+                       : Optionen.CondorfensterAn    ? "3"
+                                                     : "0";
+  return std::string(Ziffer) + "     (0:kein, 1=Protokoll- 2=Grafik- 3= Condorfenster)";
+}
+
+std::string Vorgabezeile(double Wert, const char* Kommentar) {
+  return Wert == 0 ? std::string("  0  ") + Kommentar
+                   : ZahlFormat(Wert, 3, 0);  // the field is narrow on purpose
+}
+
+// The irregular blanks behind "True" and "False" are part of the format.
+std::string Wahlzeile(bool An, const char* Wahr, const char* Falsch) { return An ? Wahr : Falsch; }
+
+int Schreiben(const std::string& Dateiname, const std::string& Text) {
+  OrdnerAnlegen(Anwendungsordner);
+  return DateiErsetzen(Dateiname, Text);
+}
+
+// The text of the values that DateinamenLesen takes, in the order of the file.
+struct Namenszeile {
+  std::string OptionenSatz::*Wert;
+  const char* Kommentar;
+};
+constexpr Namenszeile Namenszeilen[] = {
+    {&OptionenSatz::DateinameEditor31, "  Text-Editor fuer Windows 3.1"},
+    {&OptionenSatz::DateinameEditorNT, "  Text-Editor fuer Windows NT"},
+    {&OptionenSatz::DateinameSetzung, "  Parameterdatei fuer Setzungsmessung"},
+    {&OptionenSatz::DateinameVerformung, "  Parameterdatei fuer Verformungsmessung"},
+    {&OptionenSatz::DateinameTagebuch, "  Tagebuch- Datenbank"},
+    {&OptionenSatz::DateinameTagebuchVorlage, "  Tagebuch- Datenbank-Vorlage"},
+    {&OptionenSatz::VerzeichnisRohdatenQuelle, "  Rohdaten entladen: Quell-Verzeichnis"},
+    {&OptionenSatz::VerzeichnisRohdatenEdit, "  Rohdaten entladen: Ziel-Verzeichnis (Edit)"},
+    {&OptionenSatz::VerzeichnisRohdatenKor, "  Rohdaten entladen: Ziel-Verzeichnis (Kor)"},
+    {&OptionenSatz::VerzeichnisLetztes, "  Zuletzt gewähltes Verzeichnis"},
+};
+
+void NamenVorgeben() {
+  const OptionenSatz Vorgabe;
+  for (const Namenszeile& N : Namenszeilen) Optionen.*N.Wert = Vorgabe.*N.Wert;
+  Optionen.DateinameEditor31 = Optionen.DateinameEditorNT = Umgebung("windir") + "\\Notepad.exe";
+  Optionen.DateinameWinword31.clear();
+  Optionen.DateinameWinwordNT.clear();
+}
+
+std::string Theodolitdatei() { return PfadVerbinden(Anwendungsordner, "\\TavorenaTh.ini"); }
+
+}  // namespace
+
+void DateinamenAbleiten() {
+  Anwendungsordner = OrdnerSuchen();
+  DateinameOptionen = PfadVerbinden(Anwendungsordner, "\\Tavorena.ini");
+  DateinameExtra = PfadVerbinden(Anwendungsordner, "\\TavorenaExtra.ini");
+  DateinameProtokollTemp = PfadVerbinden(Anwendungsordner, "\\TavorenaProt.tmp");
+}
+
+int OptionenLesen() {
+  Optionen = {};
+  Kanal K(DateinameOptionen);
+  std::string Wort;
+  if (!K.Suchen("[OPTIONEN]")) return -1;
+  if (!K.ZeileLesen(Wort)) return -1;
+  Optionen.OptNachkommastellen = Kurz(Wort);
+  if (!K.ZeileLesen(Wort)) return -1;
+  FensterwahlLesen(Wort);
+  if (!K.ZeileLesen(Wort)) return -1;
+  Optionen.AbfrageRiss = IstWahr(Wort);
+  if (!K.ZeileLesen(Wort)) return -1;
+  Optionen.AbfrageDruck = IstWahr(Wort);
+  return SpaetereLesen(K) ? 0 : -1;
+}
+
+int HistorieLesen() {
+  Historie = {};
+  Kanal K(DateinameOptionen);
+  if (!K.Suchen("[HISTORIE]")) return -1;
+  std::string Zeile;
+  for (int i = 0; i < HistorieAnzahl; ++i) {
+    if (!K.Zeile(Zeile)) return -1;
+    HistorieEintrag& H = Historie[static_cast<std::size_t>(i)];
+    const std::size_t Stern = Zeile.find('*');
+    H.Dateiname = Stern == std::string::npos ? Zeile : Trimmen(Zeile.substr(0, Stern));
+    H.Format = Stern == std::string::npos ? std::int16_t{0} : Kurz(Zeile.substr(Stern + 1));
+    // Older files kept LT4 under the number of KOR.
+    if (H.Format == 0 && Grosstext(DateinameZerlegen(H.Dateiname).Endung) == "LT4") H.Format = 2;
+  }
+  return 0;
+}
+
+int FormularLesen() {
+  Optionen.SchriftgroesseProtokoll = 8;
+  return 0;
+}
+
+int DateinamenLesen() {
+  NamenVorgeben();
+  Kanal K(DateinameOptionen);
+  if (!K.Suchen("[DATEIN")) return -1;
+  for (const Namenszeile& N : Namenszeilen) {
+    if (!K.ZeileLesen(Optionen.*N.Wert)) return -1;
+  }
+  // The file has no lines for these two: they take what stands behind, "[EDBS]" and its value. Meant so.
+  return K.ZeileLesen(Optionen.DateinameWinword31) && K.ZeileLesen(Optionen.DateinameWinwordNT) ? 0 : -1;
+}
+
+int EDBSLesen() {
+  Kanal K(DateinameOptionen);
+  if (K.Suchen("[EDBS") && K.ZeileLesen(Optionen.EDBSInfo)) return 0;
+  DateinamenLesen();
+  return -1;
+}
+
+int OptionenSchreiben() {
+  const auto& O = Optionen;
+  const auto Zahl = [](std::int32_t n) { return ZahlFeld(n, 3); };
+  std::string Text;
+  const auto Zeile = [&Text](const std::string& Inhalt) { Text += Inhalt + "\r\n"; };
+  Zeile("[Optionen]");
+  Zeile(Zahl(O.OptNachkommastellen) + "   Nachkommastellen");
+  Zeile(Fensterzeile());
+  Zeile(Wahlzeile(O.AbfrageRiss, "True  Abfrage nach Rissbezeichung ?",
+                  "False  Abfrage nach Rissbezeichung ?"));
+  Zeile(Wahlzeile(O.AbfrageDruck, "True  Druckabfrage nach jeder Berechnung ?",
+                  "False Druckabfrage nach jeder Berechnung ?"));
+  Zeile(Vorgabezeile(O.VorgabeRechts, "Vorgabe Rechtswert"));
+  Zeile(Vorgabezeile(O.VorgabeHoch, "Vorgabe Hochwert"));
+  Zeile(Zahl(O.OptWarnstufe) + "  Warnstufe für Prokoll");
+  Zeile(Zahl(O.OptNachkommaSpeichern) + "  Nachkommastellen beim Speichern");
+  Zeile(Wahlzeile(O.FStatMitHoehe, "True  Freie Stationierung mit Höhe ?",
+                  "False  Freie Stationierung mit Höhe ?"));
+  Zeile(Wahlzeile(O.GKreduzierteFlaechen, "True  GKreduz. Flächen ?", "False  GKreduz. Flächen ?"));
+  Zeile(Wahlzeile(O.FStatPAAnschluss, "True Freie Stat. PA Anschl.?", "False Freie Stat. PA Anschl.?"));
+  Zeile("[Historie]");
+  for (int i = 0; i < HistorieAnzahl; ++i) {
+    const HistorieEintrag& H = Historie[static_cast<std::size_t>(i)];
+    Zeile(H.Dateiname + " * " + Zahl(H.Format));
+  }
+  Zeile("[Formular]");
+  Zeile(ZahlFormat(O.FormularZoomX, 3, 4) + "  " + ZahlFormat(O.FormularZoomY, 3, 4) + "  Formularzoom");
+  Zeile(Zahl(O.SchriftgroesseProtokoll) + "  Schriftgroesse Protokollfenster");
+  Zeile("[Dateinamen]");
+  for (const Namenszeile& N : Namenszeilen) Zeile(O.*N.Wert + N.Kommentar);
+  Zeile("[EDBS]");
+  Zeile(O.EDBSInfo);
+  return Schreiben(DateinameOptionen, Text);
+}
+
+void HauptHistSchreiben(const std::string& Dateiname, std::int16_t Format) {
+  int Stelle = HistorieAnzahl - 1;  // a new file pushes the oldest out
+  for (int i = 0; i < HistorieAnzahl; ++i) {
+    if (Historie[static_cast<std::size_t>(i)].Dateiname == Dateiname) Stelle = i;
+  }
+  const auto Vorn = Historie.begin();
+  std::move_backward(Vorn, Vorn + Stelle, Vorn + Stelle + 1);
+  Historie[0] = {Dateiname, Format};
+  OptionenSchreiben();
+}
+
+int TheoOptionenLesen(TheoOptionen& Gelesen) {
+  Kanal K(Theodolitdatei());
+  TheoOptionen Neu;
+  std::string Abschnitt, Port, Reduktion;
+  for (std::string* Zeile : {&Abschnitt, &Port, &Neu.Settings, &Neu.Rohdatendatei, &Reduktion}) {
+    if (!K.Zeile(*Zeile)) return -1;
+  }
+  Neu.Port = Port.starts_with("COM2") ? 2 : 1;
+  Neu.Reduktion = std::clamp(Ganz(Reduktion), 0, 2);
+  Gelesen = Neu;
+  return 0;
+}
+
+int TheoOptionenSchreiben(const TheoOptionen& T) {
+  const char* const Reduktionen[] = {"0   (Keine Reduktion)", "1   (Reduktion auf LASER- Punkte)",
+                                     "2   (Reduktion auf optische Punkte)"};
+  const std::string Port = T.Port == 1 ? "COM1" : "COM2";
+  return Schreiben(Theodolitdatei(), "[Optionen Theodolit]\r\n" + Port +
+                                         "  (Serielle Schnittstelle, folgende Zeile: Settings)\r\n" +
+                                         T.Settings + "\r\n" + T.Rohdatendatei + "\r\n" +
+                                         Reduktionen[std::clamp(T.Reduktion, 0, 2)] + "\r\n");
+}
+
+}  // namespace tavorena

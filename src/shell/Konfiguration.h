@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The two configuration files of the application folder. Both are line-position files: a line has its
+// meaning by its place, the words behind a value are comments for the reader. Missing or cut-off files are
+// no error: what was not read keeps its default.
+
+namespace tavorena {
+
+extern std::string Anwendungsordner;   ///< without a separator at its end
+extern std::string DateinameOptionen;  ///< <Anwendungsordner>\Tavorena.ini
+extern std::string DateinameExtra;     ///< <Anwendungsordner>\TavorenaExtra.ini; only computed, never opened
+
+/// Names that are kept for files of other programs; nothing reads or writes them.
+inline constexpr std::string_view ReservierteNamen[] = {"Tavorenalv.ini", "Tavorenasy.ini", "Tavorenafo.ini",
+                                                        "Tavorenali.ini"};
+
+/// The folder named by TAVORENA_ORDNER, if set; else the folder of the executable, if it holds a
+/// Tavorena.ini; else "tavorena" in the user's configuration folder. Sets the three names above and
+/// DateinameProtokollTemp.
+void DateinamenAbleiten();
+
+/// The recent files; 0 to 9 are used.
+struct HistorieEintrag {
+  std::string Dateiname;
+  std::int16_t Format = 0;  ///< 0 KOR/LT4, 1 EDBS, 2 ALK
+  bool operator==(const HistorieEintrag&) const = default;
+};
+extern std::array<HistorieEintrag, 11> Historie;
+inline constexpr int HistorieAnzahl = 10;
+
+// ---- readers; 0 good, -1 section missing, end of file or read error
+
+int OptionenLesen();
+int HistorieLesen();
+/// Reads nothing and sets the font size to 8: the section "[Formular]" reports the last run only.
+int FormularLesen();
+int DateinamenLesen();
+int EDBSLesen();
+
+/// Rewrites Tavorena.ini whole. Called after every change. @return 0; -1 if it could not be written
+int OptionenSchreiben();
+
+/// Puts a file to the front of the history, and writes it.
+void HauptHistSchreiben(const std::string& Dateiname, std::int16_t Format);
+
+/// Settings of the instrument link.
+struct TheoOptionen {
+  int Port = 1;
+  std::string Settings = "9600,N,8,1";
+  std::string Rohdatendatei;
+  int Reduktion = 0;  ///< 0 none, 1 laser points, 2 optical points
+};
+/// @return 0; -1 when the file is missing or cut off, the record is then untouched
+int TheoOptionenLesen(TheoOptionen& Gelesen);
+int TheoOptionenSchreiben(const TheoOptionen& T);
+
+}  // namespace tavorena

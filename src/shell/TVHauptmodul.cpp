@@ -1,0 +1,178 @@
+#include <exception>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/points/TVPDoppForm.h>
+#include <tavorena/records/Protbloecke.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/Stapelschreiber.h>
+#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Konfiguration.h>
+#include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/shell/TVKernMDIForm.h>
+#include <tavorena/shell/TVOptionenform.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+namespace {
+
+void Stapelstand(const std::string& Titel) {
+  if (!Titel.empty()) return StatusHilfeSetzen("Stapel: " + Titel);
+  std::string Text = "Stapel beendet: " + std::to_string(Stapellauf.Bloecke) + " Blöcke, " +
+                     std::to_string(Stapellauf.Zeilen) + " Zeilen";
+  if (!Stapellauf.Uebergangen.empty()) Text += ", übergangen:";
+  for (const std::string& Kennung : Stapellauf.Uebergangen) Text += " " + Kennung;
+  StatusHilfeSetzen(Text);
+}
+
+int ProtokollNehmenFragen(std::string Name) {
+  if (DateiVorhanden(Name)) {
+    const int Antwort = DateiVorhandenFrage(Name);
+    if (Antwort < 0 && ProtokollWahl(Name) < 0) return -1;
+    if (Antwort == 1 && DateiLoeschen(Name) < 0) {
+      LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Haupt.LesenUndDateinamenSetzen");
+      return -1;
+    }
+  }
+  ProtokollNehmen(Name);
+  return 0;
+}
+
+int LesenNachFormat() {
+  const int Format = Zeilenformat(Koordinatendateiformat);
+  if (Format >= 0) return KorLesen(KoordinatendateiName, ModusErsetzen, Format);
+  Hinweis("Es wird versucht, die Datei " + KoordinatendateiName + "als Koordinatendatei einzulesen",
+          "Interner Fehler");
+  return -1;
+}
+
+}  // namespace
+
+void HauptAnschliessen() {
+  Haken.FormEinzelKorein = FormEinzelKorein;
+  Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
+  Haken.MittelEintragen = [](const Mittelpunkt& M) { ProtMittel(M); };
+  StapelSchritt = Stapelstand;
+  BlaetterAnmelden();
+}
+
+void HauptInitialisierung() {
+  DateinamenAbleiten();
+  KorLeeren();
+  ProtokollNehmen("");
+  ProtokollfensterText.clear();
+  StapelschreiberLeeren();
+  OptionenLesen();
+  HistorieLesen();
+  FormularLesen();
+  DateinamenLesen();
+  EDBSLesen();
+  TVKernMDIForm::Fenster().OhneKoordinaten();
+  Port().FenstertitelSetzen("Tavorena    ");
+  Port().StatusSetzen(Statusfeld::Datei, "");
+  Port().StatusSetzen(Statusfeld::StatusVersion, "Version: 2.2");
+  KorAnzahlAnzeigen();
+}
+
+int HauptKoordinatendateiWechseln(bool Nachfragen) {
+  if (Nachfragen && !KoordinatendateiName.empty()) {
+    const int Antwort =
+        FrageJaNeinAbbruch("Koordinaten in Koordinatendatei\n\n" + KoordinatendateiName + "\n\nspeichern ? ");
+    if (Antwort != KnopfJa && Antwort != KnopfNein) return -1;
+    if (Antwort == KnopfJa && HauptDateiSpeichern() < 0) return -1;
+  }
+  if (!BlaetterSchliessen()) return -1;
+  KoordinatenGeaendert = false;
+  KorAnzahl = 0;
+  KoordinatendateiName.clear();
+  return 0;
+}
+
+int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
+  TitelSetzen(KoordinatendateiName);
+  if (Nachfragen) {
+    if (LesenNachFormat() < 0) return -1;
+  } else {
+    KoordinatenGeaendert = false;
+    KorAnzahl = 0;
+  }
+  const Dateiname Teile = DateinameZerlegen(KoordinatendateiName);
+  const std::string Stamm = Teile.Ordner + Teile.Grundname;
+  StapeldateiName = Stamm + ".sta";
+  KorAnzahlAnzeigen();
+  return ProtokollNehmenFragen(Stamm + ".dru");
+}
+
+std::int16_t FormatNachEndung(const std::string& Name, std::int16_t Sonst) {
+  const std::string Endung = Grosstext(DateinameZerlegen(Name).Endung);
+  if (Endung == "LT4" || Endung == "ALK") return 2;
+  if (Endung.size() == 3 && Endung.starts_with("ED")) return 1;
+  return Sonst;
+}
+
+int HauptDateiOeffnen(const std::string& Name, std::int16_t Format) {
+  KoordinatendateiName = Name;
+  Koordinatendateiformat = FormatNachEndung(Name, Format);
+  if (HauptLesenUndDateinamenSetzen(true) < 0) {
+    KorAnzahl = 0;
+    KoordinatendateiName.clear();
+    ProtokollNehmen("");
+    StapeldateiName.clear();
+    return -1;
+  }
+  HauptDateiOffenSetzen();
+  return 0;
+}
+
+void HauptDateiOffenSetzen() {
+  VerzeichnisMerken(KoordinatendateiName);
+  HauptHistSchreiben(KoordinatendateiName, Koordinatendateiformat);
+  TVKernMDIForm::Fenster().DateiOffen();
+}
+
+int HauptDateiSpeichern() {
+  if (KoordinatenExportieren(KoordinatendateiName, Zeilenformat(Koordinatendateiformat)) < 0) return -1;
+  KoordinatenGeaendert = false;
+  return 0;
+}
+
+int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhaengen) {
+  std::string Alt, Neu;
+  bool Gut = KorText(Format, Neu) == 0 && (!Anhaengen || DateiLesen(Dateiname, Alt) == 0);
+  if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
+  // A file that is extended keeps the coding that it has.
+  Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu))) == 0;
+  if (!Gut) Hinweis("Fehler aufgetreten beim Speichern der Datei " + Dateiname);
+  return Gut ? 0 : -1;
+}
+
+int HauptBeenden() {
+  if (FrageJaNein("Tavorena beenden ?") != KnopfJa) return -1;
+  try {
+    return HauptKoordinatendateiWechseln(true);
+  } catch (const std::exception& Fehler) {
+    Hinweis(std::string("Fehler beim Beenden: ") + Fehler.what());
+    return -1;
+  }
+}
+
+void HauptfensterAktiviert() { FormularZoomRechnen(true); }
+
+void TitelSetzen(const std::string& Dateiname) {
+  Port().StatusSetzen(Statusfeld::Datei, "   " + Dateiname + "   ");
+  Port().FenstertitelSetzen("Tavorena    " + Dateiname);
+}
+
+void StatusHilfeSetzen(const std::string& Text) {
+  Port().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");
+}
+
+}  // namespace tavorena

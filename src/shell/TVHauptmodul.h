@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// Start, end, and the commands on the coordinate file.
+
+namespace tavorena {
+
+/// Plugs the point dialogs, the protocol of means and the worksheets in. Once, before anything else.
+void HauptAnschliessen();
+
+/// The start sequence of settings and window state; also when a file is closed or replaced.
+void HauptInitialisierung();
+
+/// Asks whether the open file is to be saved (also when nothing changed: settled behaviour), closes the
+/// worksheets and empties the table. Nachfragen false leaves the question out.
+/// @return 0; -1 cancelled, everything stays
+int HauptKoordinatendateiWechseln(bool Nachfragen);
+
+/// Reads KoordinatendateiName (Nachfragen false: a new file, nothing is read) and takes the protocol and
+/// batch files beside it. @return 0; -1 failed or cancelled
+int HauptLesenUndDateinamenSetzen(bool Nachfragen);
+
+/// Opens a file by its name, as the command "lesen" and the recent files do.
+/// @return 0; -1, the state is then "no coordinates"
+int HauptDateiOeffnen(const std::string& Name, std::int16_t Format);
+
+/// Writes the table to KoordinatendateiName in its format. @return 0; -1 with a message
+int HauptDateiSpeichern();
+
+/// The common writer behind saving and exports. @param[in] Format 0 KOR, 11 LT4
+/// @return 0; -1, an old file is then as it was
+int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhaengen = false);
+
+/// The coordinate file format that the ending of a name stands for; Sonst for any other ending.
+std::int16_t FormatNachEndung(const std::string& Name, std::int16_t Sonst);
+
+/// Everything is set for work on a file: menus, last folder, history.
+void HauptDateiOffenSetzen();
+
+/// "Tavorena beenden ?" and the change of file behind it. @return 0 the program may end; -1 it goes on
+int HauptBeenden();
+
+/// The main window was activated: its size gives the zoom of the worksheets.
+void HauptfensterAktiviert();
+
+void TitelSetzen(const std::string& Dateiname);
+void StatusHilfeSetzen(const std::string& Text);
+
+}  // namespace tavorena

@@ -1,0 +1,122 @@
+#include <algorithm>
+#include <exception>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Plattform.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/shell/Befehle.h>
+#include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/Konfiguration.h>
+#include <tavorena/shell/TVKernMDIForm.h>
+
+namespace tavorena {
+namespace {
+
+// Number in the brackets of a control of an array.
+int IndexVon(std::string_view Name) {
+  const std::size_t Klammer = Name.find('(');
+  return Klammer == std::string_view::npos ? 0 : static_cast<int>(ZahlAusText(Name.substr(Klammer + 1)));
+}
+
+bool IstHist(const Menueeintrag& E) { return std::string_view(E.Name).starts_with("MenüDateiHist("); }
+
+bool IstEinerVon(std::string_view Name, std::initializer_list<std::string_view> Namen) {
+  return std::find(Namen.begin(), Namen.end(), Name) != Namen.end();
+}
+
+}  // namespace
+
+const Menueeintrag* MenueFinden(std::string_view Name) {
+  const auto Baum = Menuebaum();
+  const auto i =
+      std::find_if(Baum.begin(), Baum.end(), [&](const Menueeintrag& E) { return E.Name == Name; });
+  return i != Baum.end() ? &*i : nullptr;
+}
+
+TVKernMDIForm& TVKernMDIForm::Fenster() {
+  static TVKernMDIForm Eins;
+  return Eins;
+}
+
+void TVKernMDIForm::OhneKoordinaten() {
+  Offen = false;
+  Hist.fill(-1);
+  std::size_t Eintrag = 1;
+  for (int i = 0; i < HistorieAnzahl; ++i) {
+    if (!Historie[static_cast<std::size_t>(i)].Dateiname.empty()) Hist[Eintrag++] = i;
+  }
+  Port().HauptfensterGeaendert();
+}
+
+void TVKernMDIForm::DateiOffen() {
+  Offen = true;
+  Port().HauptfensterGeaendert();
+}
+
+bool TVKernMDIForm::Sichtbar(const Menueeintrag& E) const {
+  const std::string_view Name = E.Name;
+  if (IstHist(E)) return HistIndex(IndexVon(Name)) >= 0;
+  if (Name.starts_with("MenüDateiCondorLesen")) return Optionen.CondorfensterAn;
+  if (IstEinerVon(Name,
+                  {"MenüMain(5)", "MenüMain(6)", "MenüDateiImportierenMain", "MenüDateiExportierenMain"}))
+    return Offen;
+  return !E.Verborgen;
+}
+
+bool TVKernMDIForm::Aktiv(const Menueeintrag& E) const {
+  const std::string_view Name = E.Name;
+  if (Lang) return false;
+  if (Name.starts_with("MenüMain("))
+    return Offen || !IstEinerVon(Name, {"MenüMain(2)", "MenüMain(3)", "MenüMain(4)"});
+  if (IstHist(E)) return !Offen && HistIndex(IndexVon(Name)) >= 0;
+  const Befehl* B = BefehlFinden(Name);
+  if (B != nullptr) return Offen || !B->MitDatei;
+  // A submenu can be opened when one of its entries can be used.
+  const auto Baum = Menuebaum();
+  return std::any_of(Baum.begin(), Baum.end(),
+                     [&](const Menueeintrag& U) { return U.Eltern == Name && Sichtbar(U) && Aktiv(U); });
+}
+
+std::string TVKernMDIForm::Titel(const Menueeintrag& E) const {
+  if (!IstHist(E)) return E.Titel;
+  const int i = HistIndex(IndexVon(E.Name));
+  return i >= 0 ? Historie[static_cast<std::size_t>(i)].Dateiname : "";
+}
+
+bool TVKernMDIForm::WerkzeugAktiv(const Werkzeug& W) const {
+  if (std::string_view(W.Name) == "ImageStop") return Lang;
+  if (BlaetterOffen() && IstEinerVon(W.Name, {"ImageProgrammende", "ImageDateiLesen", "ImageOptionen"}))
+    return false;
+  const Menueeintrag* E = MenueFinden(W.Eintrag);
+  return E != nullptr && Aktiv(*E);
+}
+
+int TVKernMDIForm::Hilfe(const Menueeintrag& E) const {
+  if (E.Hilfe != 0) return E.Hilfe;
+  const Menueeintrag* Eltern = MenueFinden(E.Eltern);
+  return Eltern != nullptr ? Hilfe(*Eltern) : 0;
+}
+
+void TVKernMDIForm::Ausfuehren(std::string_view Name) {
+  const Menueeintrag* E = MenueFinden(Name);
+  if (E == nullptr || !Aktiv(*E)) return;
+  try {
+    if (IstHist(*E)) return HistorieOeffnen(HistIndex(IndexVon(Name)));
+    if (const Befehl* B = BefehlFinden(Name)) B->Tun();
+  } catch (const std::exception&) {
+    LaufzeitFehlerMeldung(Laufzeitfehler::Index, "TVKernMDIForm." + std::string(Name));
+  }
+}
+
+void TVKernMDIForm::WerkzeugAusfuehren(const Werkzeug& W) {
+  if (!WerkzeugAktiv(W)) return;
+  if (std::string_view(W.Name) == "ImageStop") {
+    KorStop = "Stop";
+  } else {
+    Ausfuehren(W.Eintrag);
+  }
+}
+
+}  // namespace tavorena

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include <tavorena/shell/Menuebaum.h>
+
+namespace tavorena {
+
+/// The main window as a model: which entries of the menu and images of the tool bar are there, can be
+/// used, and what they do. The window only shows it.
+class TVKernMDIForm {
+ public:
+  /// The one main window.
+  static TVKernMDIForm& Fenster();
+
+  // ---- states
+  /// No coordinates: after the start and when the file was closed. The recent files are offered.
+  void OhneKoordinaten();
+  /// A file is open; changing files goes through closing first.
+  void DateiOffen();
+  /// A long read or loop runs: only the stop button works.
+  void Beschaeftigt(bool An) { Lang = An; }
+  [[nodiscard]] bool IstBeschaeftigt() const { return Lang; }
+
+  // ---- what the window shows
+  [[nodiscard]] bool Sichtbar(const Menueeintrag& E) const;
+  [[nodiscard]] bool Aktiv(const Menueeintrag& E) const;
+  [[nodiscard]] std::string Titel(const Menueeintrag& E) const;
+  [[nodiscard]] bool WerkzeugAktiv(const Werkzeug& W) const;
+  /// Help number of an entry; that of its menu where it has none.
+  [[nodiscard]] int Hilfe(const Menueeintrag& E) const;
+
+  // ---- what the user does
+  /// Runs the command of an entry. Errors end in the run-time message.
+  void Ausfuehren(std::string_view Name);
+  void WerkzeugAusfuehren(const Werkzeug& W);
+
+  /// Index into the history of a recent-file entry 1 to 10; -1 if it is hidden.
+  [[nodiscard]] int HistIndex(int Eintrag) const { return Hist[static_cast<std::size_t>(Eintrag)]; }
+
+ private:
+  TVKernMDIForm() { Hist.fill(-1); }
+
+  bool Offen = false;  // a file is open
+  bool Lang = false;
+  std::array<int, 11> Hist{};
+};
+
+/// The entry of that name, nullptr if there is none.
+const Menueeintrag* MenueFinden(std::string_view Name);
+
+}  // namespace tavorena

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+
+#include <tavorena/core/Punkt.h>
+#include <tavorena/core/Wert.h>
+
+// What the worksheets share besides their frame: the last point number, the texts of their fields, the
+// point input and the way of a computed point into the table.
+
+namespace tavorena {
+
+/// The point number entered last; the keys "+" and "-" step it. Shared by all open worksheets.
+extern std::string LetztePunktnummer;
+
+/// The last point number raised by Schritt, as a plain number; "" if its numeric prefix is 0.
+std::string PunktnummerSchritt(int Schritt);
+
+/// Text of a coordinate or a computed length in a field: OptNachkommastellen decimals, no blanks.
+std::string Laengentext(const Wert& Zahl);
+
+/// Text of a measured value in a field. It is taken to 4 decimals, the precision in which the batch file
+/// keeps it, so that a replay computes with the same value; a fourth decimal of 0 is not shown with fewer
+/// decimals set.
+std::string Messwerttext(double Zahl);
+
+/// Reads a measured value that was typed and brings the text into its normal form.
+/// @return false: the text is no number; Text and Zahl are then untouched
+bool MesswertLesen(std::string& Text, double& Zahl);
+
+/// Asks for one point, the number filled in, and stores it by Neupunkt.
+/// @param[in,out] Pnr  the number that the user ended with
+/// @return 1; -1 if cancelled
+int FormEinzelKorein(Wert& Pnr);
+
+/// What NeupunktEintragen has to tell the protocol.
+struct Punktnotiz {
+  int Code = 0;        ///< of Neupunkt
+  std::string Nummer;  ///< code 3: new number of the old point; code 13: number of the new point
+  double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
+};
+
+/// Stores the point of a worksheet. A point that is there already with the same coordinates (rounded to
+/// OptNachkommaSpeichern decimals, and the new height missing or equal) is left as it is, without a
+/// question and without a note.
+/// @param[in,out] Pnr  the final number
+/// @return row of the point in the table; -1 if the surveyor broke off
+int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
+                      const KorInfoSatz* Info, Punktnotiz& Notiz);
+
+}  // namespace tavorena

@@ -1,0 +1,54 @@
+#include "Formulartest.h"
+
+namespace tavorena::test {
+namespace {
+
+Steuerelement& Suche(const Formular& Form, const std::string& Name) {
+  Steuerelement* S = Form.Finde(Name);
+  if (S == nullptr) throw std::runtime_error("no control " + Name + " in " + Form.FormName);
+  return *S;
+}
+
+}  // namespace
+
+void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
+  Steuerelement& S = Suche(Form, Name);
+  Form.FokusWechseln(S);
+  std::string Wort;
+  for (const char z : Text) {
+    if (z == '+' || (z == '-' && Text.size() == 1)) {
+      Form.TasteDruecken(z == '+' ? Taste::Plus : Taste::Minus);
+    } else if (z == '\n') {
+      if (!Wort.empty()) Form.Tippen(*Form.Fokus(), Wort);
+      Wort.clear();
+      Form.TasteDruecken(Taste::Return);
+    } else {
+      Wort += z;
+    }
+  }
+  if (!Wort.empty()) Form.Tippen(*Form.Fokus(), Wort);
+}
+
+void Druecke(Formular& Form, const std::string& Name) { Form.Klicken(Suche(Form, Name)); }
+
+std::string Text(const Formular& Form, const std::string& Name) { return Suche(Form, Name).Text; }
+
+std::string Zelle(const Formular& Form, const std::string& Name, int Zeile, int Spalte) {
+  return dynamic_cast<Gitter&>(Suche(Form, Name)).Inhalt(Zeile, Spalte);
+}
+
+std::function<void(Formular&)> Bediene(std::vector<Handgriff> Griffe) {
+  return [Griffe = std::move(Griffe)](Formular& Form) {
+    Form.Oeffnen();
+    for (const Handgriff& G : Griffe) {
+      if (G.Text.empty()) {
+        Druecke(Form, G.Name);
+      } else {
+        Tippe(Form, G.Name, G.Text);
+      }
+    }
+    EXPECT_FALSE(Form.Offen()) << Form.FormName << " is still open";
+  };
+}
+
+}  // namespace tavorena::test

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Testhilfe.h"
+
+#include <string>
+
+#include <tavorena/forms/Formular.h>
+
+namespace tavorena::test {
+
+/// Types into a control as the surveyor does: it gets the focus, each "\n" is Return, "+" and "-" alone
+/// are the keys of the number pad. A grid takes the text in its current cell.
+void Tippe(Formular& Form, const std::string& Name, const std::string& Text);
+
+/// Presses a button.
+void Druecke(Formular& Form, const std::string& Name);
+
+/// Text of a control.
+std::string Text(const Formular& Form, const std::string& Name);
+
+/// Text of a cell.
+std::string Zelle(const Formular& Form, const std::string& Gitter, int Zeile, int Spalte);
+
+/// What a scripted platform does in a modal form: opens it, types and presses.
+struct Handgriff {
+  std::string Name, Text;  ///< an empty text presses the button
+};
+std::function<void(Formular&)> Bediene(std::vector<Handgriff> Griffe);
+
+}  // namespace tavorena::test
