@@ -20,7 +20,7 @@ class TVPDoppForm final : public Formular {
     Titel = "Tavorena Punkt vorhanden";
     const auto z = static_cast<std::size_t>(Frage.Zeile);
     const char* const Spalten[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
-    for (int i = 0; i < 5; ++i) Beschriftung(Spalten[i], {0, i + 1});
+    for (int i = 0; i < 5; ++i) Beschriftung(Spalten[i], {0, i + 1}).Rechtsbuendig = i < 4;
     AlterPnr = &Punktzeile("Alter Punkt:", "AlterPunkt", 1, KorPnr(Frage.Zeile), KorRechts[z], KorHoch[z],
                            KorHoehe[z], KorSymbol[z]);
     NeuerPnr = &Punktzeile("Neuer Punkt:", "NeuerPunkt", 2, Frage.Pnr, Frage.Rechts, Frage.Hoch, Frage.Hoehe,

@@ -19,7 +19,9 @@ const char* const RahmenErgebnis = "Ergebnis";
 Anschlussblatt::Anschlussblatt(const Blattart& BlattArt)
     : Rechenblatt(BlattArt), Anf(Punktfelder("Anf", "Anf.pkt.", 1)), End(Punktfelder("End", "Endpkt.", 2)) {
   const char* const Ueberschriften[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
-  for (int i = 0; i < 5; ++i) Beschriftung(Ueberschriften[i], {0, i + 1}, RahmenAnschluss);
+  for (int i = 0; i < 5; ++i)
+    Beschriftung(Ueberschriften[i], {0, i + 1}, RahmenAnschluss).Rechtsbuendig = i < 4;
+  Anf.Sym.Rechtsbuendig = End.Sym.Rechtsbuendig = false;
 }
 
 Anschlussblatt::Anschlusspunkt Anschlussblatt::Punktfelder(const char* Welcher, const char* Label,

@@ -40,13 +40,13 @@ TVLinelForm::TVLinelForm()
   Breite->Text = "0";
   for (Steuerelement* S : {Pnrvon, Pnrbis}) S->IstPnr = S->Rechtsbuendig = true;
   Breite->Hilfe = "Return nimmt alle Punkte des Bereichs im Streifen als Zeilen auf";
-  GitterAufbauen({{"Punktnr.", 12, true},
-                  {"Rechts", 14},
-                  {"Hoch", 14},
-                  {"Linie", 12},
-                  {"Seitw.", 12},
-                  {"S-red", 12, false, true, false},
-                  {"A-red", 12, false, true, false}});
+  GitterAufbauen({{"Punktnr.", 10, true},
+                  {"Rechts", 12},
+                  {"Hoch", 12},
+                  {"Linie", 10},
+                  {"Seitw.", 10},
+                  {"S-red", 10, false, true, false},
+                  {"A-red", 10, false, true, false}});
 }
 
 void TVLinelForm::AnschlussAnAus(bool An) {

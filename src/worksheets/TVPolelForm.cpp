@@ -26,7 +26,7 @@ TVPolelForm::TVPolelForm()
       M(Anschlussergebnis("M", "M:", 2)),
       D(Anschlussergebnis("D", "D:", 4)),
       Ws(Anschlussergebnis("Ws", "WS:", 6)) {
-  GitterAufbauen({{"Punktnr.", 12, true}, {"Rechts", 14}, {"Hoch", 14}, {"Richtung", 12}, {"Strecke", 12}});
+  GitterAufbauen({{"Punktnr.", 10, true}, {"Rechts", 12}, {"Hoch", 12}, {"Richtung", 12}, {"Strecke", 12}});
 }
 
 void TVPolelForm::AnschlussRechnen() {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+#include <tavorena/core/Plattform.h>
+
+namespace tavorena {
+
+/// The program without a screen: messages go to a stream, and a question that the command line did not
+/// answer ends the run. Nothing waits for a key.
+class PlattformKonsole final : public Plattform {
+ public:
+  PlattformKonsole(std::ostream& Meldungsziel, std::string Ordner)
+      : Ziel(Meldungsziel), Programm(std::move(Ordner)) {}
+
+  int Meldung(const std::string& Text, Knoepfe Art, const std::string& Titel) override;
+  void FormularZeigen(Formular& Form, bool Modal) override;
+  std::string ProgrammOrdner() override { return Programm; }
+
+  /// A question met no answer.
+  [[nodiscard]] bool Unbeantwortet() const { return FrageOffen; }
+
+ private:
+  void Ohne(const std::string& Frage);
+
+  std::ostream& Ziel;
+  std::string Programm;
+  bool FrageOffen = false;
+};
+
+}  // namespace tavorena

@@ -1,0 +1,85 @@
+#include <map>
+#include <ostream>
+
+#include <tavorena/console/PlattformKonsole.h>
+#include <tavorena/console/Stapelbefehl.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/shell/TVHauptmodul.h>
+
+namespace tavorena {
+namespace {
+
+const std::map<std::string, std::string> Antworten = {
+    {"abbruch", "ABB"}, {"alt-loeschen", "ALÖ"}, {"mittel", "MIT"}, {"neu-loeschen", "NLÖ"}};
+
+// A line per block, written when the next one begins.
+class Blockzeilen {
+ public:
+  explicit Blockzeilen(std::ostream& Ausgabe) : Ziel(Ausgabe) {}
+
+  void Schritt(const std::string& Naechster) {
+    if (!Titel.empty()) {
+      Ziel << Titel << ": " << Stapellauf.Zeilen - Zeilen << " Zeilen, " << ProtMarken - Marken
+           << " Marken\n";
+    }
+    Titel = Naechster;
+    Zeilen = Stapellauf.Zeilen;
+    Marken = ProtMarken;
+  }
+
+ private:
+  std::ostream& Ziel;
+  std::string Titel;
+  int Zeilen = 0, Marken = 0;
+};
+
+void Uebergangene(std::ostream& Ausgabe) {
+  std::map<std::string, int> Anzahl;
+  for (const std::string& Kennung : Stapellauf.Uebergangen) ++Anzahl[Kennung];
+  for (const auto& [Kennung, n] : Anzahl) Ausgabe << "übergangen: " << Kennung << " (" << n << " mal)\n";
+}
+
+bool Speichern(const std::string& Name) {
+  if (Name.empty()) return true;
+  return KoordinatenExportieren(Name, Zeilenformat(FormatNachEndung(Name, 0))) == 0;
+}
+
+}  // namespace
+
+int StapelAusfuehren(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
+                     const std::string& Programmordner) {
+  PlattformKonsole Konsole(Meldungen, Programmordner);
+  Plattform* const Vorher = PlattformSetzen(&Konsole);
+  HauptAnschliessen();
+  HauptInitialisierung();
+  DateinameProtokollTemp.clear();  // nothing is printed afterwards
+  if (const auto Antwort = Antworten.find(Auftrag.Vorhanden); Antwort != Antworten.end()) {
+    Haken.PunktVorhandenBehandeln = [Wort = Antwort->second](const Konflikt&) {
+      return Konfliktantwort{Wort, ""};
+    };
+  }
+  KoordinatendateiName = Auftrag.Koordinaten;
+  const bool Gelesen = KorLesen(KoordinatendateiName, ModusErsetzen,
+                                Zeilenformat(FormatNachEndung(Auftrag.Koordinaten, 0))) == 0;
+  bool Gut = Gelesen;
+  if (Gelesen) {
+    ProtokollNehmen(Auftrag.Protokoll);
+    Blockzeilen Zeilen(Ausgabe);
+    StapelSchritt = [&](const std::string& Titel) { Zeilen.Schritt(Titel); };
+    StapelStarten(Auftrag.Stapel);
+    Uebergangene(Ausgabe);
+    Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << Stapellauf.Zeilen << "  Marken: " << ProtMarken
+            << '\n';
+    Gut = !Stapellauf.Fehler && !Konsole.Unbeantwortet();
+    // After an error the table may be half done: the file stays as it is.
+    if (Gut) Gut = Speichern(Auftrag.Speichern);
+  }
+  StapelSchritt = {};
+  PlattformSetzen(Vorher);
+  return Gut ? 0 : 1;
+}
+
+}  // namespace tavorena

@@ -1,0 +1,126 @@
+#include <QApplication>
+#include <QFile>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+
+#include <tavorena/desktop/Aussehen.h>
+
+namespace tavorena {
+namespace {
+
+// The two colours that the images are drawn with, replaced by those of the palette.
+constexpr const char* Tinte = "#101010";
+constexpr const char* Akzent = "#0a64a4";
+
+struct Farbsatz {
+  const char *Fenster, *Grund, *Streifen, *Text, *Knopf, *Rand, *Auswahl, *Auswahltext, *Blass, *Akzent;
+};
+constexpr Farbsatz Hell = {"#f3f3f0", "#ffffff", "#f7f8f6", "#23272a", "#e9e9e5",
+                           "#b9bab5", "#2f6f9f", "#ffffff", "#8b8f92", "#0a64a4"};
+constexpr Farbsatz Dunkel = {"#2a2d30", "#202326", "#25282b", "#dfe3e6", "#35393d",
+                             "#4b5056", "#3d84b8", "#ffffff", "#80868b", "#6ab7f0"};
+
+bool IstDunkel() { return qApp->palette().color(QPalette::Window).lightness() < 128; }
+
+QPalette Palette(const Farbsatz& F) {
+  QPalette P;
+  P.setColor(QPalette::Window, F.Fenster);
+  P.setColor(QPalette::WindowText, F.Text);
+  P.setColor(QPalette::Base, F.Grund);
+  P.setColor(QPalette::AlternateBase, F.Streifen);
+  P.setColor(QPalette::Text, F.Text);
+  P.setColor(QPalette::PlaceholderText, F.Blass);
+  P.setColor(QPalette::Button, F.Knopf);
+  P.setColor(QPalette::ButtonText, F.Text);
+  P.setColor(QPalette::ToolTipBase, F.Grund);
+  P.setColor(QPalette::ToolTipText, F.Text);
+  P.setColor(QPalette::Highlight, F.Auswahl);
+  P.setColor(QPalette::HighlightedText, F.Auswahltext);
+  P.setColor(QPalette::Link, F.Akzent);
+  P.setColor(QPalette::Mid, F.Rand);
+  P.setColor(QPalette::Light, QColor(F.Knopf).lighter(115));
+  P.setColor(QPalette::Midlight, QColor(F.Knopf).lighter(108));
+  P.setColor(QPalette::Dark, QColor(F.Rand).darker(115));
+  P.setColor(QPalette::Shadow, QColor(F.Rand).darker(160));
+  for (const auto Rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    P.setColor(QPalette::Disabled, Rolle, F.Blass);
+  }
+  P.setColor(QPalette::Disabled, QPalette::Base, F.Fenster);
+  return P;
+}
+
+QString Stil(bool Dunkles) {
+  // The caption of a frame stands in its line, a result has no edge, a value that failed is told by its
+  // colour.
+  return QString(
+             "QGroupBox { border: 1px solid palette(mid); border-radius: 4px; margin-top: 0.7em; "
+             "padding-top: 0.4em; }"
+             "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; color: palette(link); "
+             "}"
+             "QLineEdit { border: 1px solid palette(mid); border-radius: 3px; padding: 1px 3px; background: "
+             "palette(base); }"
+             "QLineEdit:focus { border-color: palette(highlight); }"
+             "QLineEdit:read-only { border-color: transparent; background: transparent; }"
+             "QLineEdit[fehlerhaft=\"true\"] { color: %1; }")
+      .arg(Dunkles ? "#ff8a75" : "#b3261e");
+}
+
+QPixmap Zeichnen(QSvgRenderer& Bild, int Kante, double Deckung) {
+  QPixmap Flaeche(Kante, Kante);
+  Flaeche.fill(Qt::transparent);
+  QPainter Maler(&Flaeche);
+  Maler.setOpacity(Deckung);
+  Bild.render(&Maler);
+  return Flaeche;
+}
+
+QByteArray Bilddatei(const QString& Name) {
+  QFile Datei(":/symbole/" + Name + ".svg");
+  return Datei.open(QIODevice::ReadOnly) ? Datei.readAll() : QByteArray();
+}
+
+}  // namespace
+
+void AussehenSetzen(QApplication& App, Helligkeit Wahl) {
+  const bool Dunkles = Wahl == Helligkeit::Dunkel || (Wahl == Helligkeit::System && IstDunkel());
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  App.setPalette(Palette(Dunkles ? Dunkel : Hell));
+  App.setStyleSheet(Stil(Dunkles));
+  App.setWindowIcon(Programmsymbol());
+}
+
+QFont Zahlenschrift() {
+  QFont Schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  Schrift.setPointSizeF(QApplication::font().pointSizeF());
+  return Schrift;
+}
+
+int Zeichenbreite(const QFont& Schrift, int Zeichen) {
+  return QFontMetrics(Schrift).horizontalAdvance(QLatin1Char('0')) * Zeichen;
+}
+
+QIcon Symbol(const QString& Name) {
+  const Farbsatz& F = IstDunkel() ? Dunkel : Hell;
+  QByteArray Text = Bilddatei(Name);
+  Text.replace(Tinte, F.Text).replace(Akzent, F.Akzent);
+  QSvgRenderer Bild(Text);
+  QIcon Fertig;
+  for (const int Kante : {24, 32, 48, 72}) {
+    Fertig.addPixmap(Zeichnen(Bild, Kante, 1.0));
+    Fertig.addPixmap(Zeichnen(Bild, Kante, 0.3), QIcon::Disabled);
+  }
+  return Fertig;
+}
+
+QIcon Programmsymbol() {
+  QSvgRenderer Bild(Bilddatei("tavorena"));
+  QIcon Fertig;
+  for (const int Kante : {16, 24, 32, 48, 64, 128, 256}) Fertig.addPixmap(Zeichnen(Bild, Kante, 1.0));
+  return Fertig;
+}
+
+}  // namespace tavorena

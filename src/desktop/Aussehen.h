@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QFont>
+#include <QIcon>
+#include <QString>
+
+class QApplication;
+
+// One calm look in light and dark, the same on every desktop.
+
+namespace tavorena {
+
+enum class Helligkeit { System, Hell, Dunkel };
+
+/// Style, palette and fonts of the program.
+void AussehenSetzen(QApplication& App, Helligkeit Wahl);
+
+/// The face of numbers: fixed pitch, so that columns stand.
+QFont Zahlenschrift();
+
+/// Width of that many characters [pixels].
+int Zeichenbreite(const QFont& Schrift, int Zeichen);
+
+/// A tool bar image, drawn in the colours of the palette.
+QIcon Symbol(const QString& Name);
+
+/// The icon of the program.
+QIcon Programmsymbol();
+
+}  // namespace tavorena

@@ -1,0 +1,52 @@
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QStyle>
+
+#include <tavorena/desktop/Eingabefeld.h>
+
+namespace tavorena {
+
+Eingabefeld::Eingabefeld(QWidget* Eltern) : QLineEdit(Eltern) {}
+
+void Eingabefeld::ErgebnisZeigen(bool An) {
+  if (isReadOnly() == An) return;
+  setReadOnly(An);
+  setFocusPolicy(An ? Qt::NoFocus : Qt::StrongFocus);
+  NeuAnziehen();
+}
+
+void Eingabefeld::FehlerhaftZeigen(bool An) {
+  if (property("fehlerhaft").toBool() == An) return;
+  setProperty("fehlerhaft", An);
+  NeuAnziehen();
+}
+
+// The style sheet looks at properties only then.
+void Eingabefeld::NeuAnziehen() {
+  style()->unpolish(this);
+  style()->polish(this);
+}
+
+void Eingabefeld::keyPressEvent(QKeyEvent* Ereignis) {
+  if (BeiTaste && BeiTaste(*Ereignis)) {
+    Ereignis->accept();
+  } else {
+    QLineEdit::keyPressEvent(Ereignis);
+  }
+}
+
+void Eingabefeld::focusInEvent(QFocusEvent* Ereignis) {
+  QLineEdit::focusInEvent(Ereignis);
+  // The whole text is selected, so that typing replaces it; a click must not undo that.
+  if (Ereignis->reason() != Qt::PopupFocusReason && Ereignis->reason() != Qt::ActiveWindowFocusReason) {
+    QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+    if (Ereignis->reason() != Qt::MouseFocusReason) selectAll();
+  }
+  if (BeiFokus) BeiFokus();
+}
+
+bool Eingabefeld::focusNextPrevChild(bool Vor) {
+  return (BeiTab && BeiTab(Vor)) || QLineEdit::focusNextPrevChild(Vor);
+}
+
+}  // namespace tavorena

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+
+#include <QLineEdit>
+
+namespace tavorena {
+
+/// A line of text that hands the keys of the trade to whoever owns it before it takes them itself.
+class Eingabefeld final : public QLineEdit {
+ public:
+  explicit Eingabefeld(QWidget* Eltern = nullptr);
+
+  std::function<bool(QKeyEvent&)> BeiTaste;  ///< true: the key is done with
+  std::function<void()> BeiFokus;
+  std::function<bool(bool Vor)> BeiTab;  ///< true: the focus was moved
+
+  /// A result: shown flat, never typed into.
+  void ErgebnisZeigen(bool An);
+  /// The value failed or exceeds its limit.
+  void FehlerhaftZeigen(bool An);
+
+ protected:
+  void keyPressEvent(QKeyEvent* Ereignis) override;
+  void focusInEvent(QFocusEvent* Ereignis) override;
+  bool focusNextPrevChild(bool Vor) override;
+
+ private:
+  void NeuAnziehen();
+};
+
+}  // namespace tavorena

@@ -1,0 +1,150 @@
+#include <QAbstractTableModel>
+#include <QFontDatabase>
+#include <QHeaderView>
+
+#include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Eingabefeld.h>
+#include <tavorena/desktop/Gitteransicht.h>
+
+namespace tavorena {
+
+/// The cells of a Gitter for the table view; nothing is kept twice.
+class Gittermodell final : public QAbstractTableModel {
+ public:
+  Gittermodell(const Gitter& Zeigt, QObject* Eltern) : QAbstractTableModel(Eltern), Daten(&Zeigt) {}
+
+  [[nodiscard]] int rowCount(const QModelIndex& Eltern = {}) const override {
+    return Eltern.isValid() ? 0 : Zeilen;
+  }
+  [[nodiscard]] int columnCount(const QModelIndex& Eltern = {}) const override {
+    return Eltern.isValid() ? 0 : SpaltenAnzahl;
+  }
+  [[nodiscard]] QVariant data(const QModelIndex& Zelle, int Rolle) const override {
+    if (Daten == nullptr || !Zelle.isValid() || Zelle.row() >= Daten->Zeilen()) return {};
+    if (Rolle == Qt::DisplayRole) return QString::fromStdString(Daten->Inhalt(Zelle.row(), Zelle.column()));
+    if (Rolle == Qt::TextAlignmentRole) return Buendig(Zelle.column());
+    return {};
+  }
+  [[nodiscard]] QVariant headerData(int Spalte, Qt::Orientation Richtung, int Rolle) const override {
+    if (Daten == nullptr || Richtung != Qt::Horizontal) return {};
+    if (Rolle == Qt::DisplayRole)
+      return QString::fromStdString(Daten->Spalten[static_cast<std::size_t>(Spalte)].Titel);
+    if (Rolle == Qt::TextAlignmentRole) return Buendig(Spalte);
+    return {};
+  }
+
+  void Loesen() { Daten = nullptr; }
+
+  void Auffrischen() {
+    const int Neu = Daten->Zeilen();
+    if (Neu > Zeilen) {
+      beginInsertRows({}, Zeilen, Neu - 1);
+      Zeilen = Neu;
+      endInsertRows();
+    } else if (Neu < Zeilen) {
+      beginRemoveRows({}, Neu, Zeilen - 1);
+      Zeilen = Neu;
+      endRemoveRows();
+    }
+    if (Zeilen > 0) emit dataChanged(index(0, 0), index(Zeilen - 1, columnCount() - 1));
+  }
+
+ private:
+  [[nodiscard]] QVariant Buendig(int Spalte) const {
+    const bool Rechts = Daten->Spalten[static_cast<std::size_t>(Spalte)].Rechtsbuendig;
+    return QVariant::fromValue(Qt::Alignment((Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+  }
+
+  const Gitter* Daten;  // nullptr after the form was closed
+  const int SpaltenAnzahl = static_cast<int>(Daten->Spalten.size());
+  int Zeilen = 0;
+};
+
+Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
+    : QTableView(Eltern), Daten(Zeigt), Modell(new Gittermodell(Zeigt, this)), Zellfeld(Feld) {
+  setModel(Modell);
+  setFont(Zahlenschrift());
+  setEditTriggers(NoEditTriggers);
+  setSelectionMode(NoSelection);
+  setTabKeyNavigation(false);
+  setAlternatingRowColors(true);
+  setShowGrid(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  for (int s = 0; s < Modell->columnCount(); ++s) {
+    setColumnWidth(s, Zeichenbreite(font(), Daten.Spalten[static_cast<std::size_t>(s)].Zeichen) + 12);
+  }
+  Zellfeld->setParent(viewport());
+  Zellfeld->setFont(font());
+  Zellfeld->setAlignment(Qt::AlignRight);
+  Zellfeld->hide();
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Gitteransicht::FeldRuecken);
+  connect(this, &QTableView::clicked, this, [this](const QModelIndex& Zelle) {
+    if (BeiZelle) BeiZelle(Zelle.row(), Zelle.column());
+  });
+}
+
+void Gitteransicht::Loesen() {
+  Modell->Loesen();
+  Feldzelle = QModelIndex();
+}
+
+void Gitteransicht::Auffrischen() {
+  Modell->Auffrischen();
+  for (int s = 0; s < Modell->columnCount(); ++s) {
+    setColumnHidden(s, !Daten.Spalten[static_cast<std::size_t>(s)].Sichtbar);
+  }
+  setEnabled(Daten.Aktiv);
+  FeldSetzen();
+}
+
+// Puts the field of the current cell into its place.
+void Gitteransicht::FeldSetzen() {
+  const bool Tippbar = Daten.Aktiv && Daten.Zeile < Modell->rowCount() &&
+                       Daten.Spalten[static_cast<std::size_t>(Daten.Spalte)].Eingabe;
+  if (!Tippbar) {
+    Feldzelle = QModelIndex();
+    Zellfeld->hide();
+    return;
+  }
+  const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
+  const QString Text = QString::fromStdString(Daten.Inhalt(Daten.Zeile, Daten.Spalte));
+  if (Zellfeld->text() != Text) Zellfeld->setText(Text);
+  if (Zelle != Feldzelle) {
+    scrollTo(Zelle);
+    Feldzelle = Zelle;
+    if (Zellfeld->hasFocus()) Zellfeld->selectAll();
+  }
+  FeldRuecken();
+  Zellfeld->show();
+}
+
+void Gitteransicht::FeldRuecken() {
+  if (Feldzelle.isValid()) Zellfeld->setGeometry(visualRect(Feldzelle));
+}
+
+void Gitteransicht::updateGeometries() {
+  QTableView::updateGeometries();
+  FeldRuecken();
+}
+
+void Gitteransicht::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  FeldRuecken();
+}
+
+void Gitteransicht::focusInEvent(QFocusEvent* Ereignis) {
+  QTableView::focusInEvent(Ereignis);
+  if (Feldzelle.isValid()) Zellfeld->setFocus();
+}
+
+QSize Gitteransicht::sizeHint() const {
+  int Breite = 2 * frameWidth() + 24;
+  for (const Gitterspalte& S : Daten.Spalten) Breite += Zeichenbreite(font(), S.Zeichen) + 12;
+  return {Breite, 8 * verticalHeader()->defaultSectionSize()};
+}
+
+}  // namespace tavorena

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+
+#include <QTableView>
+
+#include <tavorena/forms/Steuerelement.h>
+
+namespace tavorena {
+
+class Eingabefeld;
+class Gittermodell;
+
+/// Shows a grid. The current cell holds a field of its own while the grid can be typed into, so that the
+/// first key already goes where it belongs.
+class Gitteransicht final : public QTableView {
+ public:
+  Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern = nullptr);
+
+  /// Takes over what changed in the grid.
+  void Auffrischen();
+  /// The form is closed: its grid must not be looked at any more.
+  void Loesen();
+
+  std::function<void(int Zeile, int Spalte)> BeiZelle;  ///< the user clicked a cell
+
+ protected:
+  void focusInEvent(QFocusEvent* Ereignis) override;
+  void updateGeometries() override;
+  void scrollContentsBy(int dx, int dy) override;
+  [[nodiscard]] QSize sizeHint() const override;
+
+ private:
+  void FeldSetzen();
+  void FeldRuecken();
+
+  Gitter& Daten;
+  Gittermodell* Modell;
+  Eingabefeld* Zellfeld;
+  QPersistentModelIndex Feldzelle;
+};
+
+}  // namespace tavorena

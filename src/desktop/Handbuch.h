@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace tavorena {
+
+/// Page of the handbook that belongs to a help number, as a file name; the first page for an unknown one.
+QString Handbuchseite(int Hilfenummer);
+
+/// Opens the handbook at the page of a help number, in a window of its own.
+void HandbuchZeigen(int Hilfenummer);
+
+}  // namespace tavorena

@@ -1,0 +1,243 @@
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTime>
+#include <QToolBar>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/FormularAnsicht.h>
+#include <tavorena/desktop/Gitteransicht.h>
+#include <tavorena/desktop/Handbuch.h>
+#include <tavorena/desktop/Hauptfenster.h>
+#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/shell/TVKernMDIForm.h>
+
+namespace tavorena {
+namespace {
+
+constexpr int TerminatorFrist = 200;  // ms
+
+TVKernMDIForm& Kern() { return TVKernMDIForm::Fenster(); }
+
+// The usual keys of the most used commands.
+QKeySequence Kurztaste(std::string_view Name) {
+  if (Name == "MenüDateiNeu") return QKeySequence::New;
+  if (Name == "MenüDateiLesen(0)") return QKeySequence::Open;
+  if (Name == "MenüDateiSpeichern(0)") return QKeySequence::Save;
+  if (Name == "MenüDateiBeenden") return QKeySequence::Quit;
+  return {};
+}
+
+bool NeueGruppe(std::string_view Bild) {
+  return Bild == "ImageDateiDrucken" || Bild == "ImageOptionen" || Bild == "ImageVR2440" ||
+         Bild == "ImageVR0900" || Bild == "ImageVWS" || Bild == "ImageProgrammende";
+}
+
+/// A worksheet in the work area; closing it asks the form first.
+class Blattfenster final : public QMdiSubWindow {
+ public:
+  explicit Blattfenster(FormularAnsicht* Zeigt) : Ansicht(Zeigt) {
+    setWidget(Ansicht);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowIcon(Programmsymbol());
+    Ansicht->BeiGeschlossen = [this] {
+      hide();
+      deleteLater();
+    };
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* Ereignis) override {
+    if (Ansicht->Form() == nullptr) return Ereignis->accept();
+    Ansicht->Form()->SchliessenVerlangen();
+    Ereignis->ignore();  // when the form closes, the window goes with it
+  }
+
+ private:
+  FormularAnsicht* Ansicht;
+};
+
+}  // namespace
+
+Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
+  setObjectName("TVKernMDIForm");
+  setCentralWidget(Flaeche);
+  Flaeche->setBackground(palette().color(QPalette::Window).darker(112));
+  Flaeche->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  Flaeche->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  MenuesBauen();
+  SymbolleisteBauen();
+  StatusleisteBauen();
+  ProtokollfensterBauen();
+  TerminatorTimer.setSingleShot(true);
+  TerminatorTimer.setInterval(TerminatorFrist);
+  connect(&TerminatorTimer, &QTimer::timeout, this, [this] {
+    Ende = true;
+    close();
+    QCoreApplication::quit();
+  });
+  auto* Hilfe = new QAction(this);
+  Hilfe->setShortcut(QKeySequence(Qt::Key_F1));
+  Hilfe->setShortcutContext(Qt::ApplicationShortcut);
+  connect(Hilfe, &QAction::triggered, this, &Hauptfenster::HilfeZeigen);
+  addAction(Hilfe);
+  resize(1280, 800);
+}
+
+void Hauptfenster::MenuesBauen() {
+  std::map<std::string_view, QMenu*> Menues;
+  for (const Menueeintrag& E : Menuebaum()) {
+    QMenu* Eltern = *E.Eltern == '\0' ? nullptr : Menues.at(E.Eltern);
+    const auto Unter = [&](const Menueeintrag& U) { return std::string_view(U.Eltern) == E.Name; };
+    const bool IstMenue = std::any_of(Menuebaum().begin(), Menuebaum().end(), Unter);
+    QAction* A = nullptr;
+    if (*E.Titel == '\0') {
+      A = Eltern->addSeparator();
+    } else if (IstMenue) {
+      QMenu* M = Eltern == nullptr ? menuBar()->addMenu(E.Titel) : Eltern->addMenu(E.Titel);
+      Menues[E.Name] = M;
+      A = M->menuAction();
+    } else {
+      A = Eltern->addAction(E.Titel);
+      A->setShortcut(Kurztaste(E.Name));
+      connect(A, &QAction::triggered, this, [&E] { Kern().Ausfuehren(E.Name); });
+    }
+    A->setObjectName(E.Name);
+    A->setStatusTip(QString());
+    Eintraege[&E] = A;
+  }
+}
+
+void Hauptfenster::SymbolleisteBauen() {
+  auto* Leiste = addToolBar("Symbolleiste");
+  Leiste->setObjectName("Symbolleiste");
+  Leiste->setMovable(false);
+  Leiste->setIconSize({24, 24});
+  Leiste->setContextMenuPolicy(Qt::PreventContextMenu);
+  for (const Werkzeug& W : Symbolleiste()) {
+    if (NeueGruppe(W.Name)) Leiste->addSeparator();
+    QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis).trimmed());
+    A->setObjectName(W.Name);
+    connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusfuehren(W); });
+    connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(W.Hinweis); });
+    Bilder.emplace_back(&W, A);
+  }
+}
+
+void Hauptfenster::StatusleisteBauen() {
+  for (const Statusfeld Feld : {Statusfeld::Datei, Statusfeld::StatusKordanz, Statusfeld::StatusVersion,
+                                Statusfeld::StatusUhr, Statusfeld::StatusHilfe}) {
+    auto* Text = new QLabel(this);
+    Text->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(Text, Feld == Statusfeld::StatusHilfe ? 1 : 0);
+    Statusfelder[Feld] = Text;
+  }
+  statusBar()->setSizeGripEnabled(false);
+  const auto Zeigen = [this] { StatusSetzen(Statusfeld::StatusUhr, QTime::currentTime().toString("HH:mm")); };
+  connect(&Uhr, &QTimer::timeout, this, Zeigen);
+  Uhr.start(5000);
+  Zeigen();
+}
+
+void Hauptfenster::ProtokollfensterBauen() {
+  Protokolltext = new QPlainTextEdit(this);
+  Protokolltext->setReadOnly(true);
+  Protokolltext->setLineWrapMode(QPlainTextEdit::NoWrap);
+  Protokollfenster = new QDockWidget("Protokoll", this);
+  Protokollfenster->setObjectName("Protokollfenster");
+  Protokollfenster->setFeatures(QDockWidget::DockWidgetMovable);
+  Protokollfenster->setWidget(Protokolltext);
+  addDockWidget(Qt::RightDockWidgetArea, Protokollfenster);
+  Protokollfenster->hide();
+}
+
+void Hauptfenster::ProtokollZeigen() {
+  Protokollfenster->setVisible(Optionen.ProtokollfensterAn);
+  QFont Schrift = Zahlenschrift();
+  Schrift.setPointSize(Optionen.SchriftgroesseProtokoll);
+  Protokolltext->setFont(Schrift);
+  const QString Neu = QString::fromStdString(ProtokollfensterText);
+  if (Protokolltext->toPlainText() == Neu) return;
+  Protokolltext->setPlainText(Neu);
+  Protokolltext->verticalScrollBar()->setValue(Protokolltext->verticalScrollBar()->maximum());
+}
+
+void Hauptfenster::Auffrischen() {
+  for (const auto& [E, A] : Eintraege) {
+    if (A->isSeparator()) continue;
+    A->setVisible(Kern().Sichtbar(*E));
+    A->setEnabled(Kern().Aktiv(*E));
+    A->setText(QString::fromStdString(Kern().Titel(*E)));
+  }
+  for (const auto& [W, A] : Bilder) A->setEnabled(Kern().WerkzeugAktiv(*W));
+  ProtokollZeigen();
+}
+
+void Hauptfenster::BlattZeigen(Formular& Form) {
+  auto* Ansicht = new FormularAnsicht(Form);
+  auto* Fenster = new Blattfenster(Ansicht);
+  Flaeche->addSubWindow(Fenster);
+  // Room for a few rows, as far as the work area has it.
+  const QSize Wunsch = Fenster->sizeHint();
+  const bool MitGitter = Ansicht->findChild<Gitteransicht*>() != nullptr;
+  Fenster->resize(Wunsch.width(),
+                  MitGitter ? std::max(Wunsch.height(), Flaeche->height() - 40) : Wunsch.height());
+  Fenster->show();
+  Form.Oeffnen();
+  if (Ansicht->Form() != nullptr) Ansicht->FokusZeigen();
+}
+
+void Hauptfenster::StatusSetzen(Statusfeld Feld, const QString& Text) {
+  Statusfelder.at(Feld)->setText(Text);
+}
+
+void Hauptfenster::Sperren(bool An) {
+  Flaeche->setEnabled(!An);
+  Auffrischen();
+}
+
+void Hauptfenster::Beenden() { TerminatorTimer.start(); }
+
+void Hauptfenster::BildSichern(const QString& Datei) { grab().save(Datei); }
+
+void Hauptfenster::HilfeZeigen() {
+  int Nummer = 0;
+  for (const auto& [E, A] : Eintraege) {
+    const auto* M = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
+    if (M != nullptr && M->activeAction() == A) Nummer = Kern().Hilfe(*E);
+  }
+  const QWidget* W = QApplication::focusWidget();
+  while (Nummer == 0 && W != nullptr) {
+    const auto* Ansicht = dynamic_cast<const FormularAnsicht*>(W);
+    if (Ansicht != nullptr && Ansicht->Form() != nullptr) Nummer = Ansicht->Form()->Hilfenummer;
+    W = W->parentWidget();
+  }
+  HandbuchZeigen(Nummer);
+}
+
+bool Hauptfenster::event(QEvent* Ereignis) {
+  if (Ereignis->type() == QEvent::WindowActivate) HauptfensterAktiviert();
+  if (Ereignis->type() == QEvent::MouseMove) StatusHilfeSetzen("");
+  return QMainWindow::event(Ereignis);
+}
+
+void Hauptfenster::closeEvent(QCloseEvent* Ereignis) {
+  if (Ende) return Ereignis->accept();
+  Ereignis->ignore();
+  if (Kern().IstBeschaeftigt() || HauptBeenden() < 0) return;
+  Ende = true;
+  Ereignis->accept();
+  QCoreApplication::quit();
+}
+
+}  // namespace tavorena

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <tavorena/core/Plattform.h>
+#include <tavorena/shell/Menuebaum.h>
+
+class QAction;
+class QDockWidget;
+class QLabel;
+class QMdiArea;
+class QMenu;
+class QPlainTextEdit;
+
+namespace tavorena {
+
+class Formular;
+
+/// The main window: menus, tool bar, status bar, the worksheets and the protocol window. What can be used
+/// and what it does stands in TVKernMDIForm.
+class Hauptfenster final : public QMainWindow {
+ public:
+  Hauptfenster();
+
+  /// Takes over menus, tool bar and protocol window.
+  void Auffrischen();
+  void BlattZeigen(Formular& Form);
+  void StatusSetzen(Statusfeld Feld, const QString& Text);
+  /// A long loop runs: only the stop button can be used.
+  void Sperren(bool An);
+  /// Ends the program when the event that runs is done.
+  void Beenden();
+  /// The window as it is shown, for pictures of it.
+  void BildSichern(const QString& Datei);
+
+ protected:
+  bool event(QEvent* Ereignis) override;
+  void closeEvent(QCloseEvent* Ereignis) override;
+
+ private:
+  void MenuesBauen();
+  void SymbolleisteBauen();
+  void StatusleisteBauen();
+  void ProtokollfensterBauen();
+  void ProtokollZeigen();
+  void HilfeZeigen();
+  void ZuletztBenutztes(const QString& Name);
+
+  std::map<const Menueeintrag*, QAction*> Eintraege;
+  std::vector<std::pair<const Werkzeug*, QAction*>> Bilder;
+  std::map<Statusfeld, QLabel*> Statusfelder;
+  QMdiArea* Flaeche;
+  QDockWidget* Protokollfenster = nullptr;
+  QPlainTextEdit* Protokolltext = nullptr;
+  QTimer TerminatorTimer;
+  QTimer Uhr;
+  bool Ende = false;
+};
+
+}  // namespace tavorena

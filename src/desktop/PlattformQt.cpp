@@ -1,0 +1,171 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/FormularAnsicht.h>
+#include <tavorena/desktop/Hauptfenster.h>
+#include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/shell/TVKernMDIForm.h>
+
+namespace tavorena {
+namespace {
+
+QString Q(const std::string& Text) { return QString::fromStdString(Text); }
+
+QString Pfad(const std::string& Name) { return Q(Systempfad(Name).string()); }
+
+// A modal form; closing the window asks the form first.
+class Dialogfenster final : public QDialog {
+ public:
+  Dialogfenster(Formular& Gezeigt, QWidget* Eltern)
+      : QDialog(Eltern), Form(Gezeigt), Ansicht(new FormularAnsicht(Gezeigt, this)) {
+    auto* Platz = new QVBoxLayout(this);
+    Platz->setContentsMargins(0, 0, 0, 0);
+    Platz->addWidget(Ansicht);
+    setMinimumWidth(Zeichenbreite(font(), 45));  // the title is to be read
+    setWindowTitle(Ansicht->windowTitle());
+    connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
+    Ansicht->BeiGeschlossen = [this] { QDialog::accept(); };
+  }
+
+  void Zeigen() {
+    show();
+    Form.Oeffnen();
+    Ansicht->FokusZeigen();
+    if (Form.Offen()) exec();
+  }
+
+  void reject() override {
+    if (Ansicht->Form() != nullptr) Form.SchliessenVerlangen();
+  }
+
+ private:
+  Formular& Form;
+  FormularAnsicht* Ansicht;
+};
+
+// "text|pattern|text|pattern" as Qt takes it.
+QString QtFilter(const std::string& Filter) {
+  const QStringList Teile = Q(Filter).split('|');
+  QStringList Eintraege;
+  for (qsizetype i = 0; i + 1 < Teile.size(); i += 2) {
+    QString Name = Teile[i].trimmed(), Muster = Teile[i + 1];
+    Muster.replace(';', ' ');
+    Eintraege << Name.section('(', 0, 0).trimmed() + " (" + Muster + " " + Muster.toUpper() + ")";
+  }
+  Eintraege << "Alle Dateien (*)";
+  return Eintraege.join(";;");
+}
+
+QMessageBox::Icon Bild(Knoepfe Art, const std::string& Titel) {
+  if (Art != Knoepfe::OK) return QMessageBox::Question;
+  return Titel == "Tavorena Fehlermeldung" ? QMessageBox::Critical : QMessageBox::Information;
+}
+
+}  // namespace
+
+int PlattformQt::Meldung(const std::string& Text, Knoepfe Art, const std::string& Titel) {
+  QMessageBox Kasten(Bild(Art, Titel), Q(Titel), Q(Text), QMessageBox::NoButton,
+                     QApplication::activeWindow());
+  Kasten.setTextFormat(Qt::PlainText);
+  if (Art == Knoepfe::OK) {
+    Kasten.addButton("&OK", QMessageBox::AcceptRole);
+    Kasten.exec();
+    return 1;
+  }
+  QPushButton* Ja = Kasten.addButton("&Ja", QMessageBox::YesRole);
+  QPushButton* Nein = Kasten.addButton("&Nein", QMessageBox::NoRole);
+  Kasten.setDefaultButton(Ja);
+  QPushButton* Zurueck = Nein;
+  if (Art == Knoepfe::JaNeinAbbruch) Zurueck = Kasten.addButton("&Abbrechen", QMessageBox::RejectRole);
+  Kasten.setEscapeButton(Zurueck);
+  Kasten.exec();
+  if (Kasten.clickedButton() == Ja) return KnopfJa;
+  return Kasten.clickedButton() == Nein ? KnopfNein : KnopfAbbruch;
+}
+
+void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
+  if (!Modal) return Fenster.BlattZeigen(Form);
+  Dialogfenster Dialog(Form, QApplication::activeWindow());
+  Dialog.Zeigen();
+}
+
+std::string PlattformQt::DateiWaehlen(Dateiauftrag& Auftrag) {
+  QFileDialog Dialog(QApplication::activeWindow(), Q(Auftrag.Titel), Pfad(Auftrag.Ordner),
+                     QtFilter(Auftrag.Filter));
+  Dialog.setAcceptMode(Auftrag.NurVorhandene ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  Dialog.setFileMode(Auftrag.NurVorhandene ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  Dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks in its own words
+  Dialog.setLabelText(QFileDialog::Accept, Auftrag.NurVorhandene ? "Ö&ffnen" : "Ü&bernehmen");
+  Dialog.setLabelText(QFileDialog::Reject, "&Abbrechen");
+  QCheckBox* Zusatz = nullptr;
+  if (!Auftrag.Zusatz.empty()) {
+    Dialog.setOption(QFileDialog::DontUseNativeDialog);
+    Zusatz = new QCheckBox(Q(Auftrag.Zusatz), &Dialog);
+    if (auto* Platz = qobject_cast<QGridLayout*>(Dialog.layout()))
+      Platz->addWidget(Zusatz, Platz->rowCount(), 0, 1, -1);
+    QObject::connect(Zusatz, &QCheckBox::toggled, &Dialog, &QDialog::accept);
+  }
+  const bool Gewaehlt = Dialog.exec() == QDialog::Accepted;
+  Auftrag.ZusatzGewaehlt = Zusatz != nullptr && Zusatz->isChecked();
+  if (!Gewaehlt || Auftrag.ZusatzGewaehlt || Dialog.selectedFiles().isEmpty()) return {};
+  return Dialog.selectedFiles().constFirst().toStdString();
+}
+
+void PlattformQt::EreignisseAbarbeiten() { QCoreApplication::processEvents(); }
+
+void PlattformQt::Beschaeftigt(bool An) {
+  if (An == TVKernMDIForm::Fenster().IstBeschaeftigt()) return;
+  TVKernMDIForm::Fenster().Beschaeftigt(An);
+  if (An) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+  Fenster.Sperren(An);
+}
+
+void PlattformQt::StatusSetzen(Statusfeld Feld, const std::string& Text) {
+  Fenster.StatusSetzen(Feld, Q(Text));
+}
+void PlattformQt::FenstertitelSetzen(const std::string& Titel) { Fenster.setWindowTitle(Q(Titel)); }
+void PlattformQt::HauptfensterGeaendert() { Fenster.Auffrischen(); }
+
+void PlattformQt::HauptfensterGroesse(int& Breite, int& Hoehe) {
+  Breite = Fenster.width();
+  Hoehe = Fenster.height();
+}
+
+int PlattformQt::ProgrammStarten(const std::string& Programm, const std::string& Datei) {
+  const QString Name = Pfad(Programm);
+  if (!Programm.empty() && QFileInfo(Name).isExecutable()) {
+    return QProcess::startDetached(Name, Datei.empty() ? QStringList() : QStringList(Pfad(Datei))) ? 0 : -1;
+  }
+  // The program set does not exist here: the desktop's own editor takes the file.
+  if (Datei.empty() || !QFileInfo::exists(Pfad(Datei))) return -1;
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(Pfad(Datei))) ? 0 : -1;
+}
+
+std::string PlattformQt::ProgrammOrdner() { return QCoreApplication::applicationDirPath().toStdString(); }
+std::string PlattformQt::Heimordner() {
+  return QStandardPaths::writableLocation(QStandardPaths::HomeLocation).toStdString();
+}
+std::string PlattformQt::Dokumentordner() {
+  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString();
+}
+
+void PlattformQt::ProgrammBeenden() { Fenster.Beenden(); }
+
+}  // namespace tavorena
