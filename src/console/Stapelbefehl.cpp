@@ -56,6 +56,7 @@ int StapelAusfuehren(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
   HauptAnschliessen();
   HauptInitialisierung();
   DateinameProtokollTemp.clear();  // nothing is printed afterwards
+  ProtMarken = 0;
   if (const auto Antwort = Antworten.find(Auftrag.Vorhanden); Antwort != Antworten.end()) {
     Haken.PunktVorhandenBehandeln = [Wort = Antwort->second](const Konflikt&) {
       return Konfliktantwort{Wort, ""};

@@ -74,7 +74,10 @@ int PlattformSkript::Meldung(const std::string& Text, Knoepfe /*Art*/, const std
 }
 
 void PlattformSkript::FormularZeigen(Formular& Form, bool Modal) {
-  if (!Modal) return;
+  if (!Modal) {
+    if (BeiBlatt) BeiBlatt(Form);
+    return;
+  }
   if (Formulare.empty()) {
     ADD_FAILURE() << "unforeseen modal form";
     return;

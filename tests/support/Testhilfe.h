@@ -62,6 +62,7 @@ class PlattformSkript final : public Plattform {
 
   std::deque<std::string> Dateien;                       ///< names that the file dialogs give, in order
   std::deque<std::function<void(Formular&)>> Formulare;  ///< what is done in each modal form, in order
+  std::function<void(Formular&)> BeiBlatt;               ///< what is done with a worksheet that is shown
   std::function<void()> BeiEreignissen;                  ///< runs when the event queue is served
   std::vector<std::string> Status, Titel, Gestartet;
   std::vector<Dateiauftrag> Auftraege;

@@ -1,0 +1,86 @@
+#include "Testhilfe.h"
+
+#include <cstdlib>
+#include <sstream>
+
+#include <tavorena/console/Stapelbefehl.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/Stapelschreiber.h>
+
+namespace tavorena::test {
+namespace {
+
+class Stapelbefehl : public TabellenTest {
+ protected:
+  Stapelbefehl() {
+    setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1);
+    Schreibe(Auftrag.Koordinaten = Ordner.Pfad("a.kor"),
+             "1001 3500100 5600200\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
+    Auftrag.Stapel = Ordner.Pfad("a.sta");
+  }
+  ~Stapelbefehl() override { unsetenv("TAVORENA_ORDNER"); }
+  int Laufen(const std::string& Sta) {
+    Schreibe(Auftrag.Stapel, Sta);
+    Aus.str("");
+    Meldungen.str("");
+    return StapelAusfuehren(Auftrag, Aus, Meldungen, "");
+  }
+  Stapelauftrag Auftrag;
+  std::ostringstream Aus, Meldungen;
+  const std::string Gut =
+      "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002 99.93\r\nNR 2003\r\nNR 1002\r\nE\r\n";
+};
+
+TEST_F(Stapelbefehl, EineZeileJeBlockUndDieSummen) {
+  Auftrag.Speichern = Ordner.Pfad("b.kor");
+  EXPECT_EQ(Laufen(Gut + "M VR 65.00 x\r\nPN 1\r\nE\r\nM 3D WINKEL\r\nE\r\n" + Gut), 0);
+  EXPECT_EQ(Aus.str(),
+            "VR 24.40 Linienelemente: 2 Zeilen, 1 Marken\nVR 24.40 Linienelemente: 2 Zeilen, 1 Marken\n"
+            "übergangen: 3D WINKEL (1 mal)\nübergangen: 65.00 (1 mal)\nPunkte: 3  Zeilen: 4  Marken: 2\n");
+  EXPECT_EQ(Meldungen.str(), "");
+  const std::string Gespeichert = Inhalt(Auftrag.Speichern);
+  EXPECT_EQ(std::count(Gespeichert.begin(), Gespeichert.end(), '\n'), 3);
+}
+
+TEST_F(Stapelbefehl, FehlerUndFragenBeendenMitEins) {
+  Auftrag.Speichern = Ordner.Pfad("b.kor");
+  EXPECT_EQ(Laufen(Gut + "M VR 24.40 x\r\nPXN 1\r\n"), 1);
+  EXPECT_EQ(Meldungen.str(), "Fehler 8 beim Lesen der Stapeldatei:\nPXN 1\n");
+  EXPECT_EQ(Laufen("M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n" + Gut), 1);
+  EXPECT_EQ(Meldungen.str(),
+            "Frage ohne Antwort (" + Auftrag.Stapel + ", Zeile 4): Punkt 77 nicht vorhanden\n");
+  EXPECT_EQ(Stapellauf.Bloecke, 1);  // nothing runs after it
+  Auftrag.Koordinaten = Ordner.Pfad("fehlt.kor");
+  EXPECT_EQ(Laufen(Gut), 1);
+  EXPECT_NE(Meldungen.str().find("nicht vorhanden !"), std::string::npos);
+  EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
+}
+
+TEST_F(Stapelbefehl, AntwortAufVergebeneNummer) {
+  Laufen(Gut);
+  Auftrag.Vorhanden = "mittel";
+  Laufen(Gut);
+  EXPECT_EQ(Haken.PunktVorhandenBehandeln({}).Wort, "MIT");
+}
+
+// The lines of a protocol but those with the time and the path of the file.
+std::string OhneStempel(const std::string& Protokoll) {
+  std::istringstream Zeilen(Protokoll);
+  std::string Rest, Zeile;
+  while (std::getline(Zeilen, Zeile)) {
+    if (!Zeile.starts_with("|Tavorena ") && Zeile.find(".kor ") == std::string::npos) Rest += Zeile + "\n";
+  }
+  return Rest;
+}
+
+// The example job gives the protocol that lies beside it, apart from the stamps.
+TEST_F(Stapelbefehl, BeispielGibtSeinProtokoll) {
+  const std::string Beispiel = std::string(TAVORENA_TESTS) + "/../examples/";
+  Auftrag = {Beispiel + "musterdorf.kor", Ordner.Pfad("m.dru"), "", "", Beispiel + "musterdorf.sta"};
+  std::ostringstream Still;
+  EXPECT_EQ(StapelAusfuehren(Auftrag, Still, Meldungen, ""), 0) << Meldungen.str();
+  EXPECT_TRUE(OhneStempel(Inhalt(Auftrag.Protokoll)) == OhneStempel(Inhalt(Beispiel + "musterdorf.dru")));
+}
+
+}  // namespace
+}  // namespace tavorena::test
