@@ -37,10 +37,12 @@ void Eingabefeld::keyPressEvent(QKeyEvent* Ereignis) {
 
 void Eingabefeld::focusInEvent(QFocusEvent* Ereignis) {
   QLineEdit::focusInEvent(Ereignis);
-  // The whole text is selected, so that typing replaces it; a click must not undo that.
-  if (Ereignis->reason() != Qt::PopupFocusReason && Ereignis->reason() != Qt::ActiveWindowFocusReason) {
+  // The whole text is selected, so that typing replaces it. A click places the cursor first.
+  if (Ereignis->reason() == Qt::MouseFocusReason) {
     QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
-    if (Ereignis->reason() != Qt::MouseFocusReason) selectAll();
+  } else if (Ereignis->reason() != Qt::PopupFocusReason &&
+             Ereignis->reason() != Qt::ActiveWindowFocusReason) {
+    selectAll();
   }
   if (BeiFokus) BeiFokus();
 }

@@ -34,6 +34,7 @@ class Dialogfenster final : public QDialog {
     auto* Platz = new QVBoxLayout(this);
     Platz->setContentsMargins(0, 0, 0, 0);
     Platz->addWidget(Ansicht);
+    setModal(true);
     setMinimumWidth(Zeichenbreite(font(), 45));  // the title is to be read
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);

@@ -13,8 +13,8 @@ void Gitterblatt::GitterAufbauen(std::vector<Gitterspalte> Spalten) {
   Rechengitter = &NeuesGitter(Mit("Gitter"), std::move(Spalten), {0, 0}, "Zeilen");
   Rechengitter->IstPnr = true;
   Rechengitter->Hilfe = "Punktnummer, Return rechnet und schreibt die Zeile";
-  KnopfAn = &Knopf(Mit("An"), "Anschluß &rechnen", {0, 0});
-  KnopfEnd10 = &Knopf(Mit("End10"), "&Anschluß beenden", {0, 1});
+  KnopfAn = &Knopf(Mit("An"), "Anschluß re&chnen", {0, 0});
+  KnopfEnd10 = &Knopf(Mit("End10"), "A&nschluß beenden", {0, 1});
   KnopfDelete = &Knopf(Mit("Delete"), "Zeile &löschen", {0, 2});
   KnopfEnd10->OhnePruefung = KnopfDelete->OhnePruefung = true;
   KnopfAn->Hilfe = "Anschluß rechnen und Zeilen öffnen";

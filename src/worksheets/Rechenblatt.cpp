@@ -32,9 +32,10 @@ Rechenblatt::Rechenblatt(const Blattart& BlattArt)
   }
 }
 
+// The keys of the buttons are those that the menu bar leaves free.
 void Rechenblatt::KnoepfeAnlegen() {
-  KnopfEnd = &Knopf(Mit("End"), "&Beenden", {0, 3});
-  KnopfStop = &Knopf(Mit("Stop"), "- &Stop - ", {0, 4});
+  KnopfEnd = &Knopf(Mit("End"), "&Schließen", {0, 3});
+  KnopfStop = &Knopf(Mit("Stop"), "- Sto&p - ", {0, 4});
   KnopfWeiter = &Knopf(Mit("Weiter"), "&Weiter", {0, 5});
   KnopfEnd->OhnePruefung = KnopfStop->OhnePruefung = true;
   KnopfEnd->Hilfe = "Rechenblatt schließen";

@@ -1,0 +1,347 @@
+// The window driven by key presses, as a surveyor drives it. Runs with QT_QPA_PLATFORM=offscreen.
+#include <deque>
+#include <functional>
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QtTest>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Eingabefeld.h>
+#include <tavorena/desktop/FormularAnsicht.h>
+#include <tavorena/desktop/Handbuch.h>
+#include <tavorena/desktop/Hauptfenster.h>
+#include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+using namespace tavorena;
+
+namespace {
+
+// A platform whose clock stands still, and which presses the stop button when it is told to.
+class Testplattform final : public PlattformQt {
+ public:
+  explicit Testplattform(Hauptfenster& H) : PlattformQt(H), Fenster(H) {}
+  Zeitpunkt Jetzt() override { return {2003, 2, 1, 10, 15}; }
+  double Zeitgeber() override { return Sekunden += 1; }
+  void EreignisseAbarbeiten() override {
+    if (StopDruecken) Fenster.findChild<QAction*>("ImageStop")->trigger();
+    PlattformQt::EreignisseAbarbeiten();
+  }
+  bool StopDruecken = false;
+
+ private:
+  Hauptfenster& Fenster;
+  double Sekunden = 0;
+};
+
+// Types into whatever has the focus; "\n" is Return.
+void Tippe(const QString& Text) {
+  for (const QChar z : Text) {
+    QTRY_VERIFY(QApplication::focusWidget() != nullptr);
+    QWidget* Ziel = QApplication::focusWidget();
+    if (z == '\n') {
+      QTest::keyClick(Ziel, Qt::Key_Return);
+    } else {
+      QTest::keyClicks(Ziel, QString(z));
+    }
+    QCoreApplication::processEvents();
+  }
+}
+
+QByteArray Inhalt(const QString& Name) {
+  QFile Datei(Name);
+  return Datei.open(QIODevice::ReadOnly) ? Datei.readAll() : QByteArray();
+}
+
+}  // namespace
+
+class FensterTest : public QObject {
+  Q_OBJECT
+
+ private:
+  QTemporaryDir Ordner;
+  std::unique_ptr<Hauptfenster> Fenster;
+  std::unique_ptr<Testplattform> Plattform;
+  std::deque<std::function<void()>> Dialoge;  // what is done in the modal dialogs that come, in order
+  QTimer Bediener;
+  QPointer<QWidget> Bedient;
+
+  QString Pfad(const char* Name) const { return Ordner.filePath(Name); }
+  void Menue(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
+
+  // Chooses a file in the file dialog by typing its name.
+  std::function<void()> Waehle(const QString& Name) {
+    return [this, Name] {
+      auto* Dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      QVERIFY(Dialog != nullptr);
+      auto* Feld = Dialog->findChild<QLineEdit*>("fileNameEdit");
+      Feld->setText(Name);  // typed, its list of suggestions would take the Return
+      QTest::keyClick(Feld, Qt::Key_Return);
+    };
+  }
+  static std::function<void()> Druecke(Qt::Key Taste, Qt::KeyboardModifiers Mit = Qt::AltModifier) {
+    return [=] { QTest::keyClick(QApplication::activeModalWidget(), Taste, Mit); };
+  }
+  static std::function<void()> Eingabe(const QString& Text) {
+    return [=] { Tippe(Text); };
+  }
+
+  void Oeffne() {
+    QFile Datei(Pfad("a.kor"));
+    QVERIFY(Datei.open(QIODevice::WriteOnly));
+    Datei.write(
+        "1001 3500100 5600200 12.5 015\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n"
+        "2004 3500100 5600275\r\n2005 3500220 5600360\r\n");
+    Datei.close();
+    QFile::remove(Pfad("a.dru"));
+    QFile::remove(Pfad("a.sta"));
+    Dialoge.push_back(Waehle(Pfad("a.kor")));
+    QTest::keyClick(Fenster.get(), Qt::Key_O, Qt::ControlModifier);
+    QCOMPARE(KorAnzahl, 5);
+    QTRY_VERIFY(Fenster->isActiveWindow());
+  }
+  void OhneRiss() { Optionen.AbfrageRiss = false; }
+  static QString FokusName() {
+    return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : "";
+  }
+
+ private slots:
+  void initTestCase() {
+    qputenv("TAVORENA_ORDNER", Pfad("app").toUtf8());
+    AussehenSetzen(*qApp, Helligkeit::Hell);
+    connect(&Bediener, &QTimer::timeout, this, [this] {
+      QWidget* Offen = QApplication::activeModalWidget();
+      if (Offen == nullptr) Bedient = nullptr;
+      // Nobody manages windows here: the one in front has to be made active.
+      QWidget* Aktiv = QApplication::activeWindow();
+      if (Offen != nullptr && Aktiv != Offen) return Offen->activateWindow();
+      if (Aktiv == nullptr && Fenster != nullptr) return Fenster->activateWindow();
+      if (Offen == nullptr || Offen == Bedient) return;
+      Bedient = Offen;
+      if (Dialoge.empty()) {
+        QTest::qFail(("a dialog that nobody foresaw: " + Offen->windowTitle()).toUtf8().constData(), __FILE__,
+                     __LINE__);
+        Offen->close();
+        return;
+      }
+      const auto Tun = Dialoge.front();
+      Dialoge.pop_front();
+      Tun();
+    });
+    Bediener.start(10);
+  }
+
+  void init() {
+    Fenster = std::make_unique<Hauptfenster>();
+    Plattform = std::make_unique<Testplattform>(*Fenster);
+    PlattformSetzen(Plattform.get());
+    QFile::remove(Pfad("app/Tavorena.ini"));
+    LetztePunktnummer.clear();
+    ProtokollLeeren();
+    HauptAnschliessen();
+    Fenster->show();
+    HauptInitialisierung();
+    QVERIFY(QTest::qWaitForWindowActive(Fenster.get()));
+  }
+
+  void cleanup() {
+    QVERIFY2(Dialoge.empty(), "a dialog did not come");
+    StapelAnhalten();
+    KoordinatendateiName.clear();
+    BlaetterSchliessen();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    PlattformSetzen(nullptr);
+    Plattform.reset();
+    Fenster.reset();
+  }
+
+  // Open a file, three worksheets, leave, save; look at the three files; replay the job on them.
+  void einAuftragMitDerTastatur() {
+    Oeffne();
+    Dialoge.push_back(Eingabe("Riss 12\n3\n"));
+    QTest::keyClick(Fenster.get(), Qt::Key_R, Qt::AltModifier);
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);  // the first one that can be used
+    Tippe("1001\n1002\n0\n99,93\n2003\n2004\n");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus, Qt::KeypadModifier);
+    Tippe("\n\n\n");  // 2005, then out of the grid, then the end of the connection
+    QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlaetterOffen());
+    OhneRiss();
+    Menue("MenüKatasterPolel");
+    QTRY_COMPARE(FokusName(), QString("PolelAnfPnr"));
+    Tippe("1001\n1002\n12.5\n99.98\n2003\n2004\n\n\n");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
+    Menue("MenüKatasterDis");
+    QTRY_COMPARE(FokusName(), QString("DisAnfPnr"));
+    Tippe("1001\n1002\n99.8\n2005\n0\n");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlaetterOffen());
+    QTest::keyClick(Fenster.get(), Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(
+        Inhalt(Pfad("a.kor")).startsWith("          1001   3500100.000   5600200.000      12.500  015\r\n"));
+    const QByteArray Protokoll = Inhalt(Pfad("a.dru")), Stapel = Inhalt(Pfad("a.sta"));
+    QVERIFY(Protokoll.contains("(Riss 12) 3"));
+    QVERIFY(Protokoll.contains("      3500130.000  5600230.000       42.000        6.000      2003\r\n"));
+    QVERIFY(Protokoll.contains("      3500130.000  5600230.000      21.5334       42.426      2003\r\n"));
+    QVERIFY(Protokoll.contains("WS=      0.200  D=    0.160 ******(>D)\r\n"));
+    QCOMPARE(Stapel.count("\nNR  ") + Stapel.count("\nNND "), 6);
+
+    ProtokollNehmen(Pfad("b.dru").toStdString());
+    Optionen.AbfrageRiss = true;  // the first block has its plan, the heads of the others follow it
+    Dialoge.push_back(Waehle(Pfad("a.sta")));
+    Menue("MenüDateiStapel");
+    const char* const Titel[] = {"Linienelemente", "Polarelemente", "Entfernungskontrolle"};
+    for (const char* Name : Titel) {
+      QVERIFY(StapelAktiv);  // each block shows its connection and waits
+      const QString Erwartet = QString("Tavorena ") + Name + " [Stapel]";
+      QTRY_VERIFY(FokusName().endsWith("Weiter") &&
+                  QApplication::focusWidget()->parentWidget()->windowTitle() == Erwartet);
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::AltModifier);
+    }
+    QTRY_VERIFY(!StapelAktiv && !BlaetterOffen());
+    QCOMPARE(Inhalt(Pfad("a.sta")), Stapel);
+    const auto OhneKopf = [](QByteArray Text) {
+      QByteArray Rest;
+      for (const QByteArray& Zeile : Text.split('\n')) Rest += Zeile.startsWith("|VR") ? QByteArray() : Zeile;
+      return Rest;
+    };
+    QCOMPARE(OhneKopf(Inhalt(Pfad("b.dru"))), OhneKopf(Protokoll));
+  }
+
+  void fehlenderPunktUndFokus() {
+    Oeffne();
+    OhneRiss();
+    Menue("MenüKatasterLinel");
+    QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
+    Dialoge.push_back(Druecke(Qt::Key_Escape, Qt::NoModifier));
+    Tippe("77\n");
+    QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
+    Dialoge.push_back(Eingabe("3500000,5\n5600000\n\n\n"));  // the number stands, Rechts has the focus
+    Tippe("\n");
+    QCOMPARE(KorAnzahl, 6);
+    QTRY_COMPARE(FokusName(), QString("LinelEndPnr"));
+    Tippe("1002");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    QTRY_COMPARE(FokusName(), QString("LinelAnlegemass"));
+    QCOMPARE(qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectedText(), QString("0.000"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QCoreApplication::processEvents();
+    QTRY_COMPARE(FokusName(), QString("LinelEndPnr"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Minus);  // wholly selected: it counts
+    QCOMPARE(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), QString("1001"));
+    QTest::keyClicks(QApplication::focusWidget(), "-5");  // now it belongs to the number
+    QCOMPARE(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), QString("1001-5"));
+    Dialoge.push_back(Druecke(Qt::Key_Escape, Qt::NoModifier));
+    QTest::mouseClick(Fenster->findChild<QWidget*>("LinelEndmass"), Qt::LeftButton);
+    QTRY_VERIFY(Dialoge.empty());
+    QTRY_COMPARE(FokusName(), QString("LinelEndPnr"));  // the number does not exist: the focus goes back
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);  // closing works all the same
+    QTRY_VERIFY(!BlaetterOffen());
+  }
+
+  void zeilenImGitter() {
+    Oeffne();
+    OhneRiss();
+    Menue("MenüKatasterLinel");
+    Tippe("1001\n1002\n0\n0\n2003\n2004\n");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    QCoreApplication::processEvents();
+    QCOMPARE(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), QString("2004"));
+    Tippe("2005\n");  // corrected
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_L, Qt::AltModifier);  // the first row goes
+    QTRY_COMPARE(Inhalt(Pfad("a.dru")).count("***gelöscht"), 2);
+    QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_N, Qt::AltModifier);
+    QTRY_VERIFY(Inhalt(Pfad("a.sta")).contains("PEN     1002        0.0000\r\nNR      2005\r\nE Ende"));
+    Tippe("1001\n1002\n0\n0\n2003");
+    Dialoge.push_back(Druecke(Qt::Key_N));
+    Dialoge.push_back(Druecke(Qt::Key_J));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlaetterOffen());
+  }
+
+  void langesLesenLaesstSichAnhalten() {
+    Oeffne();
+    QFile Gross(Pfad("gross.kor"));
+    QVERIFY(Gross.open(QIODevice::WriteOnly));
+    for (int i = 0; i < 5000; ++i) Gross.write(QString("%1 1.0 2.0\r\n").arg(10000 + i).toUtf8());
+    Gross.close();
+    Plattform->StopDruecken = true;
+    Dialoge.push_back(Waehle(Pfad("gross.kor")));
+    Menue("MenüDateiHinzuLesenKomplett");
+    QCOMPARE(KorAnzahl, 5);
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+    QVERIFY(Fenster->findChild<QAction*>("MenüKatasterLinel")->isEnabled());
+  }
+
+  void hilfeOptionenUndEnde() {
+    Oeffne();
+    OhneRiss();
+    Menue("MenüKatasterPolel");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    QTextBrowser* Handbuch = nullptr;
+    for (QWidget* W : QApplication::topLevelWidgets()) {
+      if (W->objectName() == "Handbuch") Handbuch = qobject_cast<QTextBrowser*>(W);
+    }
+    QVERIFY(Handbuch != nullptr);
+    QCOMPARE(Handbuch->source().fileName(), QString("polarelemente.md"));
+    QVERIFY(Handbuch->toPlainText().contains("Polarelemente"));
+    Handbuch->close();
+    for (int Nummer = 0; Nummer < 9000; Nummer += 10)
+      QVERIFY(QFile::exists(":/handbuch/" + Handbuchseite(Nummer)));
+    Dialoge.push_back(Druecke(Qt::Key_Escape, Qt::NoModifier));
+    Menue("MenüOptionenOptionen");
+    Dialoge.push_back(Druecke(Qt::Key_N));
+    QVERIFY(!Fenster->close());  // "Tavorena beenden ?" No
+    QVERIFY(BlaetterOffen());
+    Dialoge.push_back(Druecke(Qt::Key_J));
+    Dialoge.push_back(Druecke(Qt::Key_A));
+    QVERIFY(!Fenster->close());  // the save question was cancelled
+    QCOMPARE(KorAnzahl, 5);
+    Dialoge.push_back(Druecke(Qt::Key_J));
+    Dialoge.push_back(Druecke(Qt::Key_N));
+    QVERIFY(Fenster->close());
+  }
+
+  void jederEintragIstImMenue() {
+    for (const Menueeintrag& E : Menuebaum()) {
+      auto* A = Fenster->findChild<QAction*>(QString(E.Name));
+      QVERIFY2(A != nullptr, E.Name);
+    }
+    for (const Werkzeug& W : Symbolleiste()) {
+      auto* A = Fenster->findChild<QAction*>(W.Name);
+      QVERIFY2(A != nullptr && !A->icon().isNull(), W.Name);
+      const QImage Bild = A->icon().pixmap(24).toImage();
+      bool Gezeichnet = false;
+      for (int y = 0; y < Bild.height(); ++y) {
+        for (int x = 0; x < Bild.width(); ++x) Gezeichnet = Gezeichnet || qAlpha(Bild.pixel(x, y)) > 0;
+      }
+      QVERIFY2(Gezeichnet, W.Name);
+    }
+    QVERIFY(!Fenster->findChild<QAction*>("MenüKatasterLinel")->isEnabled());
+  }
+};
+
+QTEST_MAIN(FensterTest)
+#include "FensterTest.moc"
