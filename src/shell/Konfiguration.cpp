@@ -24,8 +24,8 @@ std::string Umgebung(const char* Name) {
 }
 
 std::string OrdnerSuchen() {
-  if (const std::string Gesetzt = Umgebung("TAVORENA_ORDNER"); !Gesetzt.empty()) return Gesetzt;
-  const std::string Programm = Port().ProgrammOrdner();
+  if (std::string Gesetzt = Umgebung("TAVORENA_ORDNER"); !Gesetzt.empty()) return Gesetzt;
+  std::string Programm = Port().ProgrammOrdner();
   if (!Programm.empty() && DateiVorhanden(PfadVerbinden(Programm, "\\Tavorena.ini"))) return Programm;
   const std::string Xdg = Umgebung("XDG_CONFIG_HOME");
   return !Xdg.empty() ? Xdg + "/tavorena" : Umgebung("HOME") + "/.config/tavorena";

@@ -16,8 +16,8 @@ constexpr Blattart Linel = {"TVLinelForm",
                             "Tavorena Linienelemente [Stapel]",
                             "Berechnung Linienelemente",
                             4110};
-constexpr int SpalteRed = 5;       // first of the two grid columns with the reduced values
-constexpr double Atempause = 0.5;  // s between two looks at the stop button
+constexpr std::size_t SpalteRed = 5;  // first of the two grid columns with the reduced values
+constexpr double Atempause = 0.5;     // s between two looks at the stop button
 
 }  // namespace
 

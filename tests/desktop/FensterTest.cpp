@@ -86,8 +86,8 @@ class FensterTest : public QObject {
   void Menue(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
 
   // Chooses a file in the file dialog by typing its name.
-  std::function<void()> Waehle(const QString& Name) {
-    return [this, Name] {
+  static std::function<void()> Waehle(const QString& Name) {
+    return [Name] {
       auto* Dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       QVERIFY(Dialog != nullptr);
       auto* Feld = Dialog->findChild<QLineEdit*>("fileNameEdit");
