@@ -73,9 +73,15 @@ Kodierung KodierungVon(std::string_view Inhalt) {
 struct Anhangspur {
   fs::path Pfad;
   std::uintmax_t Laenge = 0;
+  fs::file_time_type Zeit;
   Kodierung Art = Kodierung::Ascii;
 };
 Anhangspur Spur;
+
+fs::file_time_type Schreibzeit(const fs::path& Pfad) {
+  std::error_code Fehler;
+  return fs::last_write_time(Pfad, Fehler);
+}
 
 constexpr std::array<char16_t, 32> Oben1252 = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
@@ -207,10 +213,10 @@ int TextAnhaengen(std::string_view Name, std::string_view Text) {
   const fs::path Pfad = Systempfad(Name);
   std::uintmax_t Laenge = fs::file_size(Pfad, Fehler);
   if (Fehler) Laenge = 0;
-  if (Pfad != Spur.Pfad || Laenge != Spur.Laenge || Laenge == 0) {
+  if (Pfad != Spur.Pfad || Laenge != Spur.Laenge || Laenge == 0 || Schreibzeit(Pfad) != Spur.Zeit) {
     std::string Alt;
     if (Laenge > 0 && DateiLesen(Name, Alt) < 0) return -1;
-    Spur = {Pfad, Laenge, KodierungVon(Alt)};
+    Spur = {Pfad, Laenge, {}, KodierungVon(Alt)};
   }
   const std::string Bytes = Spur.Art == Kodierung::Windows1252 ? NachWindows1252(Text) : std::string(Text);
   Kanal K = Oeffnen(Pfad, "ab");
@@ -221,6 +227,7 @@ int TextAnhaengen(std::string_view Name, std::string_view Text) {
     return -1;
   }
   Spur.Laenge = Laenge + Bytes.size();
+  Spur.Zeit = Schreibzeit(Pfad);
   if (Spur.Art == Kodierung::Ascii) Spur.Art = KodierungVon(Bytes);
   return 0;
 }

@@ -84,9 +84,7 @@ class Lesung {
  public:
   Lesung(std::string_view Text, int Modus, Reihenleser Leser,
          const std::function<bool(std::string_view)>& Nimmt)
-      : Inhalt(Text), LeseModus(Modus), InReihe(Leser), Test(Nimmt) {
-    if (Modus == ModusErsetzen) Zusatz = " von " + std::to_string(ZeilenZaehlen(Text)) + " Punkten   ";
-  }
+      : Inhalt(Text), LeseModus(Modus), InReihe(Leser), Test(Nimmt) {}
 
   enum class Ende { Gut, Gestoppt, Voll };
 
@@ -105,7 +103,7 @@ class Lesung {
  private:
   [[nodiscard]] bool Verworfen() const {
     const std::string& Pnr = KorPnr(KorAnzahl);
-    return Pnr.empty() || (Test && !Test(Pnr)) ||
+    return TrimmenSicht(Pnr).empty() || (Test && !Test(Pnr)) ||
            (LeseModus == ModusNurNeue && KorSuche(std::string_view(Pnr)) >= 0);
   }
 
@@ -113,6 +111,10 @@ class Lesung {
     const double Jetzt = Port().Zeitgeber();
     if (Jetzt - Zuletzt < 0.5) return false;
     Zuletzt = Jetzt;
+    // The lines are counted when there is somebody to show them to.
+    if (LeseModus == ModusErsetzen && Zusatz.empty()) {
+      Zusatz = " von " + std::to_string(ZeilenZaehlen(Inhalt)) + " Punkten   ";
+    }
     KorAnzahlAnzeigen(Zusatz);
     Port().EreignisseAbarbeiten();
     if (KorStop != "Stop") return false;

@@ -64,6 +64,7 @@ class Plattform {
   virtual void HauptfensterGeaendert() {}
   /// Size of the main window [pixels].
   virtual void HauptfensterGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
+  virtual void BildschirmGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
 
   /// Starts a program with a file; an empty program means the desktop's own. @return 0 or -1
   virtual int ProgrammStarten(const std::string& /*Programm*/, const std::string& /*Datei*/) { return -1; }

@@ -111,11 +111,14 @@ std::string Grosstext(std::string_view Text) {
 }
 
 std::string_view Wortnehmen(std::string_view& Zeile) {
-  constexpr std::string_view Trenner(" \t\0", 3), Ende(" \t\0\r", 4);
-  Zeile.remove_prefix(std::min(Zeile.find_first_not_of(Trenner), Zeile.size()));
-  const std::string_view Wort = Zeile.substr(0, Zeile.find_first_of(Ende));
-  Zeile.remove_prefix(Wort.size());
-  return Wort;
+  // Plain loops: tokens are short, and this is where the reading of a large file spends its time.
+  const auto IstTrenner = [](char z) { return z == ' ' || z == '\t' || z == '\0'; };
+  const char *Ab = Zeile.data(), *const Schluss = Ab + Zeile.size();
+  while (Ab != Schluss && IstTrenner(*Ab)) ++Ab;
+  const char* Bis = Ab;
+  while (Bis != Schluss && !IstTrenner(*Bis) && *Bis != '\r') ++Bis;
+  Zeile = {Bis, static_cast<std::size_t>(Schluss - Bis)};
+  return {Ab, static_cast<std::size_t>(Bis - Ab)};
 }
 
 }  // namespace tavorena

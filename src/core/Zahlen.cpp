@@ -137,6 +137,11 @@ std::string Sterne(int Breite) { return std::string(static_cast<std::size_t>(std
 }  // namespace
 
 double ZahlAusText(std::string_view Text) {
+  if (!Text.empty() && IstZiffer(Text.front())) {  // nearly always: a plain number and nothing else
+    double Zahl = 0;
+    const auto Ergebnis = std::from_chars(Text.data(), Text.data() + Text.size(), Zahl);
+    if (Ergebnis.ec == std::errc{} && Ergebnis.ptr == Text.data() + Text.size()) return Zahl;
+  }
   Text = TrimmenSicht(Text);
   const bool Negativ = Text.starts_with('-');
   if (Negativ || Text.starts_with('+')) Text.remove_prefix(1);

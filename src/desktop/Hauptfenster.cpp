@@ -75,6 +75,8 @@ Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
   Flaeche->setBackground(palette().color(QPalette::Window).darker(112));
   Flaeche->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   Flaeche->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  Flaeche->viewport()->setMouseTracking(true);
+  Flaeche->viewport()->installEventFilter(this);
   MenuesBauen();
   SymbolleisteBauen();
   StatusleisteBauen();
@@ -208,8 +210,6 @@ void Hauptfenster::Sperren(bool An) {
 
 void Hauptfenster::Beenden() { TerminatorTimer.start(); }
 
-void Hauptfenster::BildSichern(const QString& Datei) { grab().save(Datei); }
-
 void Hauptfenster::HilfeZeigen() {
   int Nummer = 0;
   for (const auto& [E, A] : Eintraege) {
@@ -227,8 +227,13 @@ void Hauptfenster::HilfeZeigen() {
 
 bool Hauptfenster::event(QEvent* Ereignis) {
   if (Ereignis->type() == QEvent::WindowActivate) HauptfensterAktiviert();
-  if (Ereignis->type() == QEvent::MouseMove) StatusHilfeSetzen("");
   return QMainWindow::event(Ereignis);
+}
+
+// The mouse over the bare work area clears the help text.
+bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
+  if (Objekt == Flaeche->viewport() && Ereignis->type() == QEvent::MouseMove) StatusHilfeSetzen("");
+  return QMainWindow::eventFilter(Objekt, Ereignis);
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* Ereignis) {

@@ -34,11 +34,10 @@ class Hauptfenster final : public QMainWindow {
   void Sperren(bool An);
   /// Ends the program when the event that runs is done.
   void Beenden();
-  /// The window as it is shown, for pictures of it.
-  void BildSichern(const QString& Datei);
 
  protected:
   bool event(QEvent* Ereignis) override;
+  bool eventFilter(QObject* Objekt, QEvent* Ereignis) override;
   void closeEvent(QCloseEvent* Ereignis) override;
 
  private:
@@ -48,7 +47,6 @@ class Hauptfenster final : public QMainWindow {
   void ProtokollfensterBauen();
   void ProtokollZeigen();
   void HilfeZeigen();
-  void ZuletztBenutztes(const QString& Name);
 
   std::map<const Menueeintrag*, QAction*> Eintraege;
   std::vector<std::pair<const Werkzeug*, QAction*>> Bilder;

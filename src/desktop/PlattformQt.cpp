@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -147,6 +148,11 @@ void PlattformQt::HauptfensterGeaendert() { Fenster.Auffrischen(); }
 void PlattformQt::HauptfensterGroesse(int& Breite, int& Hoehe) {
   Breite = Fenster.width();
   Hoehe = Fenster.height();
+}
+
+void PlattformQt::BildschirmGroesse(int& Breite, int& Hoehe) {
+  Breite = Fenster.screen()->size().width();
+  Hoehe = Fenster.screen()->size().height();
 }
 
 int PlattformQt::ProgrammStarten(const std::string& Programm, const std::string& Datei) {

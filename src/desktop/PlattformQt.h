@@ -20,6 +20,7 @@ class PlattformQt : public Plattform {
   void FenstertitelSetzen(const std::string& Titel) override;
   void HauptfensterGeaendert() override;
   void HauptfensterGroesse(int& Breite, int& Hoehe) override;
+  void BildschirmGroesse(int& Breite, int& Hoehe) override;
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;
   std::string ProgrammOrdner() override;
   std::string Heimordner() override;

@@ -64,11 +64,16 @@ int NaechsterSatz(Satz& S) {
   return IstEnde(S) ? -2 : 0;
 }
 
+void Beenden() {
+  StapelAktiv = StapelAblauf = false;
+  if (StapelSchritt) StapelSchritt("");
+}
+
 int Ablehnen(const Satz& S) {
   Hinweis("Fehler " + std::to_string(StapelZeilennummer) + " beim Lesen der Stapeldatei:\n" +
           std::string(S.Zeile));
-  StapelAktiv = false;
   Stapellauf.Fehler = true;
+  Beenden();
   return -1;
 }
 
@@ -93,11 +98,6 @@ void BlockUebergehen() {
   }
 }
 
-void Beenden() {
-  StapelAktiv = StapelAblauf = false;
-  if (StapelSchritt) StapelSchritt("");
-}
-
 void BlockZeigen(const Anmeldung& Blatt) {
   StapelAktiv = true;
   StapelAblauf = false;
@@ -112,7 +112,7 @@ void NaechsterBlock() {
   std::string Kennung;
   for (;;) {
     const int Art = StapelLeseKopf(Kennung);
-    if (Art == -1 && !Kennung.empty()) StapelFehlerMeldung("Modulkopf fehlerhaft");
+    if (Art == -1 && !Kennung.empty()) return StapelFehlerMeldung("Modulkopf fehlerhaft");
     if (Art < 0) return Beenden();
     const auto Blatt = std::find_if(Blaetter.begin(), Blaetter.end(), [&](const Anmeldung& B) {
       return std::find(B.Kennungen.begin(), B.Kennungen.end(), Kennung) != B.Kennungen.end();
@@ -166,12 +166,14 @@ void StapelWeiter() {
     Nochmal = true;  // the worksheet was done at once: no recursion over the blocks of a long file
     return;
   }
-  ImVerteiler = true;
+  struct Verteiler {
+    Verteiler() { ImVerteiler = true; }
+    ~Verteiler() { ImVerteiler = false; }
+  } const Laeuft;
   do {
     Nochmal = false;
     NaechsterBlock();
   } while (Nochmal);
-  ImVerteiler = false;
 }
 
 void StapelAnhalten() {

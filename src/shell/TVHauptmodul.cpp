@@ -22,6 +22,9 @@
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
+
+int BildschirmBreite = 0, BildschirmHoehe = 0;
+
 namespace {
 
 void Stapelstand(const std::string& Titel) {
@@ -75,6 +78,7 @@ void HauptInitialisierung() {
   FormularLesen();
   DateinamenLesen();
   EDBSLesen();
+  HauptOptionsmenüSetzen();
   TVKernMDIForm::Fenster().OhneKoordinaten();
   Port().FenstertitelSetzen("Tavorena    ");
   Port().StatusSetzen(Statusfeld::Datei, "");
@@ -164,7 +168,12 @@ int HauptBeenden() {
   }
 }
 
-void HauptfensterAktiviert() { FormularZoomRechnen(true); }
+void HauptfensterAktiviert() {
+  Port().BildschirmGroesse(BildschirmBreite, BildschirmHoehe);
+  FormularZoomRechnen(true);
+}
+
+void HauptOptionsmenüSetzen() {}
 
 void TitelSetzen(const std::string& Dateiname) {
   Port().StatusSetzen(Statusfeld::Datei, "   " + Dateiname + "   ");

@@ -42,8 +42,14 @@ void HauptDateiOffenSetzen();
 /// "Tavorena beenden ?" and the change of file behind it. @return 0 the program may end; -1 it goes on
 int HauptBeenden();
 
+/// Size of the screen when the main window was last activated [pixels].
+extern int BildschirmBreite, BildschirmHoehe;
+
 /// The main window was activated: its size gives the zoom of the worksheets.
 void HauptfensterAktiviert();
+
+/// Does nothing: kept so that the order of the start sequence stays.
+void HauptOptionsmenüSetzen();
 
 void TitelSetzen(const std::string& Dateiname);
 void StatusHilfeSetzen(const std::string& Text);

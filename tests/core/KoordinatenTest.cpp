@@ -1,3 +1,4 @@
+#include "Abschrift.h"
 #include "Testhilfe.h"
 
 #include <algorithm>
@@ -12,33 +13,12 @@
 namespace tavorena::test {
 namespace {
 
-// The quicksort of the point table, written down plainly as the witness of the fast one.
-void Abschrift(std::vector<std::string>& Nr, std::vector<int>& Begleiter) {
-  if (Nr.empty()) return;
-  const auto Z = [](int i) { return static_cast<std::size_t>(i); };
-  std::vector<std::pair<int, int>> Stapel{{0, static_cast<int>(Nr.size()) - 1}};
-  while (!Stapel.empty()) {
-    auto [lo, hi] = Stapel.back();
-    Stapel.pop_back();
-    for (;;) {
-      int i = lo, j = hi;
-      const double P = ZahlVonText(Nr[Z((lo + hi) / 2)]);
-      std::string Pivot = Nr[Z((lo + hi) / 2)];
-      const auto Vor = [&](int z) { return P == 0 ? Nr[Z(z)] < Pivot : ZahlVonText(Nr[Z(z)]) < P; };
-      const auto Nach = [&](int z) { return P == 0 ? Nr[Z(z)] > Pivot : ZahlVonText(Nr[Z(z)]) > P; };
-      do {
-        while (Vor(i)) ++i;
-        while (Nach(j)) --j;
-        if (i <= j) {
-          std::swap(Nr[Z(i)], Nr[Z(j)]);
-          std::swap(Begleiter[Z(i++)], Begleiter[Z(j--)]);
-        }
-      } while (i <= j);
-      if (i < hi) Stapel.emplace_back(i, hi);
-      if (lo >= j) break;
-      hi = j;
-    }
-  }
+// The plain quicksort on numbers and the rows that go with them.
+void Ordnen(std::vector<std::string>& Nr, std::vector<int>& Begleiter) {
+  Abschrift(Nr, 501, [&](std::size_t i, std::size_t j) {
+    std::swap(Nr[i], Nr[j]);
+    std::swap(Begleiter[i], Begleiter[j]);
+  });
 }
 
 std::string Zufallsnummer(std::mt19937& Zufall, int Art) {
@@ -67,7 +47,7 @@ TEST(Sortierung, WieDieAbschrift) {
     std::vector<std::string> Soll = Nr;
     std::vector<int> SollFolge(Nr.size()), Folge;
     for (std::size_t i = 0; i < Nr.size(); ++i) SollFolge[i] = static_cast<int>(i);
-    Abschrift(Soll, SollFolge);
+    Ordnen(Soll, SollFolge);
     std::vector<double> Werte;
     bool Komma = false;
     for (const auto& N : Nr) {
@@ -96,7 +76,7 @@ TEST_F(Punkttabelle, NeupunktHaeltOrdnungUndSpalten) {
       Punkt(Pnr.c_str(), i, 2 * i, 3 * i, std::to_string(i).c_str());
       Soll.push_back(Pnr);
       Begleiter.push_back(i);
-      Abschrift(Soll, Begleiter);
+      Ordnen(Soll, Begleiter);
     }
     ASSERT_EQ(KorAnzahl, static_cast<int>(Soll.size()));
     for (int z = 0; z < KorAnzahl; ++z) {

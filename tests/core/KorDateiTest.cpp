@@ -116,6 +116,15 @@ TEST_F(KorDatei, Lt4HatFesteSpalten) {
   EXPECT_EQ(Lt4ZeileLesen(Zeile.substr(0, 63), Pnr, R, H, Symbol, Info), -1);
 }
 
+TEST_F(KorDatei, Lt4PunktOhneNummerIstKeiner) {
+  std::string Zeile;
+  Lt4ZeileSchreiben("12", 3500100.5, 5600200.25, {}, Zeile);
+  std::string Ohne = Zeile;
+  Ohne.replace(8, 10, 10, ' ');
+  ASSERT_EQ(Lies(Zeile + "\r\n" + Ohne, ModusErsetzen, FormatLt4), 0);
+  EXPECT_EQ(KorAnzahl, 1);  // as a KOR line its Rechts would become the number
+}
+
 TEST_F(KorDatei, GrenzeVon20000Punkten) {
   Skript.Erwarte("Maximale Anzahl von \n\n20000\n\nPunkten überschritten !");
   EXPECT_EQ(Lies(Zeilen(20001)), 0);

@@ -111,6 +111,8 @@ TEST_F(Stapel, KoepfeUndKommentare) {
 TEST_F(Stapel, FalschesWortBeendetDenLauf) {
   std::string P, S;
   double w = 0;
+  int Enden = 0;
+  StapelSchritt = [&](const std::string& Titel) { Enden += Titel.empty() ? 1 : 0; };
   Skript.Erwarte("Fehler 3 beim Lesen der Stapeldatei:\nPXN 2");
   Laufen("M VR LE\r\nPAN 1\r\nPXN 2\r\nE\r\nM VR LE\r\n",
          [&] { EXPECT_EQ(StapelLesenPnrMitWerte(P, w, S, w), -1); });
@@ -118,6 +120,8 @@ TEST_F(Stapel, FalschesWortBeendetDenLauf) {
   EXPECT_EQ(Stapellauf.Bloecke, 1);
   Skript.Erwarte("Zeile: 1\nModulkopf fehlerhaft");
   Laufen("M XY 24.40\r\nM VR LE\r\n", [] { FAIL(); });
+  EXPECT_EQ(Enden, 2);  // each run is told to have ended once
+  StapelSchritt = {};
   Laufen("E\r\nM VR LE\r\n", [] { FAIL(); });  // a lone "E" ends the run without a word
   EXPECT_FALSE(Stapellauf.Fehler);
   Laufen("M VR LE\r\nRISS x\r\nBERNR  7\r\nNEUPUNKT  12  -\r\nNEUPUNKT  0 - -\r\nNND 1 2 3,5\r\nE\r\n", [&] {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include <tavorena/core/KorDatei.h>
+
+// What the benchmarks measure on: the points of one large job, always the same.
+
+namespace tavorena::messung {
+
+inline constexpr std::size_t Punktzahl = 20000;
+
+/// Points in the order of the table: numbers from 1001 on, Gauss-Krueger coordinates and heights in whole
+/// millimetres, so that a file gives them back exactly.
+const Punktlisten& Punkte();
+
+/// KOR file of all points, with its rows in order or shuffled.
+std::string Kordatei(bool Gemischt);
+
+/// A name in the folder of this run.
+std::string Messpfad(const char* Name);
+
+/// Fills the table with all points.
+void TabelleFuellen();
+
+/// The table holds all points, and nothing else, in their order, and no message was shown on the way.
+bool TabelleIstGanz();
+
+/// Processor time of this thread [s]: what other programs do on the machine does not count.
+double Prozessorzeit();
+
+}  // namespace tavorena::messung

@@ -1,0 +1,71 @@
+#!/usr/bin/env python3
+"""Sets each measurement of a run beside its baseline; exit status 1 if a limit is missed."""
+
+import json
+import statistics
+import sys
+
+# Measurement, baselines (their times are added), highest ratio. All stem from the same run; a measurement
+# that stands in no pair is printed as a figure only.
+PAARE = (
+    ("KorLesen/geordnet", ("NurZahlen/geordnet",), 3.0),
+    ("KorLesen/gemischt", ("NurZahlen/gemischt",), 6.0),
+    ("KorText", ("FmtText",), 3.0),
+    ("KorSuche/letzte", ("StdFind/letzte",), 3.0),
+    ("KorSuche/fehlt", ("StdFind/fehlt",), 3.0),
+    ("Neupunkt", ("AnhaengenUndSortieren",), 0.05),
+    ("KorLesen/mischen", ("KorSuche/jede", "KorLesen/geordnet"), 1.1),
+)
+SEKUNDEN = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
+
+
+def zeiten_lesen(datei):
+    """Median time of each measurement in seconds."""
+    with open(datei, encoding="utf-8") as kanal:
+        laeufe = json.load(kanal)["benchmarks"]
+    zeiten = {}
+    for lauf in laeufe:
+        if lauf.get("error_occurred"):
+            sys.exit(f"{lauf['name']}: {lauf['error_message']}")
+        if lauf["run_type"] != "iteration":
+            continue
+        # Processor time, unless the measurement says what its time is: other programs run beside it.
+        name, _, art = lauf["run_name"].partition("/manual_time")[0].partition("/real_time")
+        eigene = name != lauf["run_name"]
+        zeit = lauf["real_time" if eigene else "cpu_time"] * SEKUNDEN[lauf["time_unit"]]
+        zeiten.setdefault(name, []).append(zeit)
+    return {name: statistics.median(werte) for name, werte in zeiten.items()}
+
+
+def zeit_text(sekunden):
+    for einheit in ("s", "ms", "us"):
+        if sekunden >= SEKUNDEN[einheit]:
+            return f"{sekunden / SEKUNDEN[einheit]:8.2f} {einheit:2}"
+    return f"{sekunden / 1e-9:8.2f} ns"
+
+
+def main():
+    zeiten = zeiten_lesen(sys.argv[1])
+    genannt = set()
+    zu_langsam = False
+    print(f"{'Messung':20} {'Zeit':>11}   {'Grundlage':34} {'Zeit':>11} {'Verhältnis':>11} {'Grenze':>7}")
+    for messung, grundlagen, grenze in PAARE:
+        genannt.update((messung, *grundlagen))
+        fehlende = [name for name in (messung, *grundlagen) if name not in zeiten]
+        if fehlende:
+            sys.exit(f"nicht gemessen: {', '.join(fehlende)}")
+        grundzeit = sum(zeiten[name] for name in grundlagen)
+        verhaeltnis = zeiten[messung] / grundzeit
+        gut = verhaeltnis <= grenze
+        zu_langsam = zu_langsam or not gut
+        print(
+            f"{messung:20} {zeit_text(zeiten[messung])}   {' + '.join(grundlagen):34} {zeit_text(grundzeit)}"
+            f" {verhaeltnis:11.3f} {grenze:7.2f}  {'ok' if gut else 'ZU LANGSAM'}"
+        )
+    for name in sorted(zeiten.keys() - genannt):
+        print(f"{name:20} {zeit_text(zeiten[name])}")
+    return 1 if zu_langsam else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,88 @@
+#include "Fuzzhilfe.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <unistd.h>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+
+namespace fs = std::filesystem;
+
+namespace tavorena::fuzz {
+namespace {
+
+class Laufordner {
+ public:
+  Laufordner() { fs::create_directories(Ort); }
+  ~Laufordner() {
+    std::error_code Fehler;
+    fs::remove_all(Ort, Fehler);
+  }
+  Laufordner(const Laufordner&) = delete;
+  Laufordner& operator=(const Laufordner&) = delete;
+
+  const std::string Ort = fs::temp_directory_path() / ("tavorena-fuzz-" + std::to_string(getpid()));
+};
+
+}  // namespace
+
+int Eingabe::Zahl(int Von, int Bis) {
+  if (Offen.empty()) return Von;
+  const auto Byte = static_cast<unsigned char>(Offen.front());
+  Offen.remove_prefix(1);
+  return Von + Byte % (Bis - Von + 1);
+}
+
+void Pruefen(bool Gilt, const char* Versprechen) {
+  if (Gilt) return;
+  std::fprintf(stderr, "Befund: %s\n", Versprechen);
+  std::abort();
+}
+
+const std::string& Ordner() {
+  static const Laufordner Lauf;
+  return Lauf.Ort;
+}
+
+std::string Datei(const char* Name, std::string_view Bytes) {
+  const std::string Pfad = Ordner() + "/" + Name;
+  std::FILE* Kanal = std::fopen(Pfad.c_str(), "wb");
+  Pruefen(Kanal != nullptr, "die Eingabe läßt sich schreiben");
+  std::fwrite(Bytes.data(), 1, Bytes.size(), Kanal);
+  std::fclose(Kanal);
+  return Pfad;
+}
+
+std::string Inhalt(const std::string& Name) {
+  std::string Bytes;
+  Pruefen(DateiLesen(Name, Bytes) == 0, "die Datei ist lesbar");
+  return Bytes;
+}
+
+void TabelleLeeren() {
+  KorPnrSetzen(0, ",");  // the table remembers that there was a comma, until KorLeeren
+  const int Reihen = std::min(KorAnzahl + 1, KorZeilen);  // a read tries one row more than it keeps
+  for (int i = 0; i < Reihen; ++i) {
+    const auto z = static_cast<std::size_t>(i);
+    KorPnrSetzen(i, "");
+    KorRechts[z] = KorHoch[z] = KorHoehe[z] = 0;
+    KorSymbol[z].clear();
+    KorInfo[z] = {};
+  }
+  KorAnzahl = 0;
+}
+
+void TabellePruefen() {
+  for (int i = 0; i < KorAnzahl; ++i) {
+    const std::string_view Pnr = TrimmenSicht(KorPnr(i));
+    Pruefen(!Pnr.empty(), "kein Punkt ohne Nummer");
+    const int Zeile = KorSuche(Pnr);
+    Pruefen(Zeile >= 0 && Zeile <= i && TrimmenSicht(KorPnr(Zeile)) == Pnr, "jede Nummer wird gefunden");
+  }
+}
+
+}  // namespace tavorena::fuzz

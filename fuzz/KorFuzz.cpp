@@ -1,0 +1,73 @@
+#include "Fuzzhilfe.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+
+namespace tavorena::fuzz {
+namespace {
+
+bool Wiedergegeben(double Alt, double Neu) {
+  const bool Passt = Alt < 1e7 && Alt > -1e6;  // anything else is a field of stars
+  return !Passt || std::fabs(Alt - Neu) <= 0.000'500'1;
+}
+
+// Reading the lists takes the same points in the same order as the table.
+void ListenVergleichen(const std::string& Name) {
+  Punktlisten L;
+  int Anzahl = 0;
+  Pruefen(KorDateiInListen(Name, L, KorGrenze, Anzahl) == 0, "die Listen fassen die Datei");
+  Pruefen(Anzahl == KorAnzahl, "Listen und Tabelle haben gleich viele Punkte");
+  for (int i = 0; i < Anzahl; ++i) {
+    const auto z = static_cast<std::size_t>(i);
+    Pruefen(L.Pnr[z] == KorPnr(i) && L.Rechts[z] == KorRechts[z] && L.Hoch[z] == KorHoch[z] &&
+                L.Hoehe[z] == KorHoehe[z] && L.Symbol[z] == KorSymbol[z],
+            "Listen und Tabelle sind gleich");
+  }
+}
+
+void SchreibenUndLesen() {
+  std::string Text;
+  Pruefen(KorText(FormatKor, Text) == 0, "KOR wird geschrieben");
+  Punktlisten L;
+  int Anzahl = 0;
+  KorDateiInListen(Datei("b.kor", Text), L, KorGrenze, Anzahl, false);
+  Pruefen(Anzahl == KorAnzahl, "kein Punkt geht beim Schreiben verloren");
+  for (int i = 0; i < Anzahl; ++i) {
+    const auto z = static_cast<std::size_t>(i);
+    Pruefen(L.Pnr[z] == KorPnr(i) && L.Symbol[z] == KorSymbol[z], "Nummer und Symbol bleiben");
+    Pruefen(Wiedergegeben(KorRechts[z], L.Rechts[z]) && Wiedergegeben(KorHoch[z], L.Hoch[z]) &&
+                Wiedergegeben(KorHoehe[z], L.Hoehe[z]),
+            "Koordinaten bleiben");
+  }
+}
+
+void Lauf(Eingabe E) {
+  TabelleLeeren();
+  const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
+  const bool Komma = E.Rest().find(',') != std::string_view::npos;
+  for (const char* Pnr : {"1", "12", "A7"}) {
+    Wert Nr(Pnr);
+    NeupunktErgebnis Ergebnis;
+    if (Modus != ModusErsetzen) Neupunkt(Nr, 3480000, 5550000, 100, "015", nullptr, Ergebnis);
+  }
+  const int Vorher = KorAnzahl;
+  std::string Name = Datei("a.kor", E.Rest());
+  Pruefen(KorLesen(Name, Modus, FormatKor) == 0, "eine Datei wird immer gelesen");
+  Pruefen(KorAnzahl >= Vorher, "es geht kein Punkt verloren");
+  TabellePruefen();
+  // A comma becomes a point after the search for the number: only then there may be doubles.
+  if (Modus == ModusNurNeue && !Komma) Pruefen(AnzahlDoppelte() == 0, "Mischen macht keine Doppelten");
+  if (Modus == ModusErsetzen) ListenVergleichen(Name);
+  SchreibenUndLesen();
+}
+
+}  // namespace
+}  // namespace tavorena::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Daten, std::size_t Laenge) {
+  tavorena::fuzz::Lauf({Daten, Laenge});
+  return 0;
+}

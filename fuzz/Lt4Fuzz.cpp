@@ -1,0 +1,54 @@
+#include "Fuzzhilfe.h"
+
+#include <cmath>
+
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Zahlen.h>
+
+namespace tavorena::fuzz {
+namespace {
+
+bool NurZiffern(std::string_view Text) {
+  return !Text.empty() && Text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool Passt(double Zahl) { return Zahl < 1e7 - 0.001 && Zahl > -1e6 + 0.001; }
+
+// A point whose parts fit their columns comes back from its line.
+void ZeilePruefen(int Zeile) {
+  const auto z = static_cast<std::size_t>(Zeile);
+  const KorInfoSatz& Info = KorInfo[z];
+  std::string Text, Pnr, Symbol;
+  double Rechts = 0, Hoch = 0;
+  KorInfoSatz Neu;
+  Lt4ZeileSchreiben(std::string_view(KorPnr(Zeile)), KorRechts[z], KorHoch[z], Info, Text);
+  const int Ergebnis = Lt4ZeileLesen(Text, Pnr, Rechts, Hoch, Symbol, Neu);
+  if (!NurZiffern(KorPnr(Zeile)) || !NurZiffern(Info.Lagestatus) || Info.Vermarkungsart < 0 ||
+      Info.Vermarkungsart > 999 || Info.Punktstatus < 0 || !Passt(KorRechts[z]) || !Passt(KorHoch[z])) {
+    return;
+  }
+  Pruefen(Ergebnis == 0, "die Zeile ist wieder ein Punkt");
+  Pruefen(ZahlAusText(Pnr) == ZahlAusText(KorPnr(Zeile)), "die Nummer bleibt");
+  Pruefen(std::fabs(Rechts - KorRechts[z]) <= 0.000'500'1 && std::fabs(Hoch - KorHoch[z]) <= 0.000'500'1,
+          "Koordinaten bleiben");
+  Pruefen(Neu == Info, "Angaben bleiben");
+}
+
+void Lauf(Eingabe E) {
+  TabelleLeeren();
+  const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
+  std::string Name = Datei("a.lt4", E.Rest()), Text;
+  Pruefen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");
+  TabellePruefen();
+  for (int i = 0; i < KorAnzahl; ++i) ZeilePruefen(i);
+  Pruefen(KorText(FormatLt4, Text) == 0 && KorText(FormatKor, Text) == 0, "beide Formate werden geschrieben");
+}
+
+}  // namespace
+}  // namespace tavorena::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Daten, std::size_t Laenge) {
+  tavorena::fuzz::Lauf({Daten, Laenge});
+  return 0;
+}

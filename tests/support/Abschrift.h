@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <tavorena/core/Zahlen.h>
+
+namespace tavorena {
+
+/// The quicksort of the point table, written down plainly: the witness of the fast one, and what the fast
+/// one is measured by.
+/// @param[in] Tiefe   most pairs on the stack
+/// @param[in] Tausch  exchanges two rows of all columns, the numbers included
+/// @return false on overflow of the stack
+template <typename Tauscher>
+bool Abschrift(std::vector<std::string>& Nr, std::size_t Tiefe, Tauscher Tausch) {
+  if (Nr.empty()) return true;
+  const auto Z = [](int i) { return static_cast<std::size_t>(i); };
+  std::vector<std::pair<int, int>> Stapel{{0, static_cast<int>(Nr.size()) - 1}};
+  while (!Stapel.empty()) {
+    auto [lo, hi] = Stapel.back();
+    Stapel.pop_back();
+    for (;;) {
+      int i = lo, j = hi;
+      const double P = ZahlVonText(Nr[Z((lo + hi) / 2)]);
+      const std::string Pivot = Nr[Z((lo + hi) / 2)];
+      const auto Vor = [&](int z) { return P == 0 ? Nr[Z(z)] < Pivot : ZahlVonText(Nr[Z(z)]) < P; };
+      const auto Nach = [&](int z) { return P == 0 ? Nr[Z(z)] > Pivot : ZahlVonText(Nr[Z(z)]) > P; };
+      do {
+        while (Vor(i)) ++i;
+        while (Nach(j)) --j;
+        if (i <= j) Tausch(Z(i++), Z(j--));
+      } while (i <= j);
+      if (i < hi) {
+        if (Stapel.size() == Tiefe) return false;
+        Stapel.emplace_back(i, hi);
+      }
+      if (lo >= j) break;
+      hi = j;
+    }
+  }
+  return true;
+}
+
+}  // namespace tavorena
