@@ -60,8 +60,10 @@ class Plattform {
   virtual void StatusSetzen(Statusfeld /*Feld*/, const std::string& /*Text*/) {}
   /// Title of the main window.
   virtual void FenstertitelSetzen(const std::string& /*Titel*/) {}
-  /// Lines of the protocol window, menus or tool bar changed.
+  /// Menus, tool bar or windows changed.
   virtual void HauptfensterGeaendert() {}
+  /// Lines of the protocol window changed; called for each line.
+  virtual void ProtokollGeaendert() {}
   /// Size of the main window [pixels].
   virtual void HauptfensterGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
   virtual void BildschirmGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }

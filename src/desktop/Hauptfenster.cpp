@@ -161,16 +161,22 @@ void Hauptfenster::ProtokollfensterBauen() {
   Protokollfenster->setWidget(Protokolltext);
   addDockWidget(Qt::RightDockWidgetArea, Protokollfenster);
   Protokollfenster->hide();
+  Protokolluhr.setSingleShot(true);
+  Protokolluhr.setInterval(50);
+  connect(&Protokolluhr, &QTimer::timeout, this, &Hauptfenster::ProtokollZeigen);
 }
 
 void Hauptfenster::ProtokollZeigen() {
+  const bool Neu = Optionen.ProtokollfensterAn && Protokollfenster->isHidden();
   Protokollfenster->setVisible(Optionen.ProtokollfensterAn);
   QFont Schrift = Zahlenschrift();
   Schrift.setPointSize(Optionen.SchriftgroesseProtokoll);
   Protokolltext->setFont(Schrift);
-  const QString Neu = QString::fromStdString(ProtokollfensterText);
-  if (Protokolltext->toPlainText() == Neu) return;
-  Protokolltext->setPlainText(Neu);
+  // A line of the protocol without its print margin fits in.
+  if (Neu) resizeDocks({Protokollfenster}, {Zeichenbreite(Schrift, 74) + 30}, Qt::Horizontal);
+  const QString Text = QString::fromStdString(ProtokollfensterText);
+  if (Protokolltext->toPlainText() == Text) return;
+  Protokolltext->setPlainText(Text);
   Protokolltext->verticalScrollBar()->setValue(Protokolltext->verticalScrollBar()->maximum());
 }
 

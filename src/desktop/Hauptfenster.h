@@ -30,6 +30,8 @@ class Hauptfenster final : public QMainWindow {
   void Auffrischen();
   void BlattZeigen(Formular& Form);
   void StatusSetzen(Statusfeld Feld, const QString& Text);
+  /// Shows the lines of the protocol when a burst of them is over.
+  void ProtokollSpaeterZeigen() { Protokolluhr.start(); }
   /// A long loop runs: only the stop button can be used.
   void Sperren(bool An);
   /// Ends the program when the event that runs is done.
@@ -56,6 +58,7 @@ class Hauptfenster final : public QMainWindow {
   QPlainTextEdit* Protokolltext = nullptr;
   QTimer TerminatorTimer;
   QTimer Uhr;
+  QTimer Protokolluhr;
   bool Ende = false;
 };
 

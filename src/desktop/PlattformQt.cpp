@@ -144,6 +144,7 @@ void PlattformQt::StatusSetzen(Statusfeld Feld, const std::string& Text) {
 }
 void PlattformQt::FenstertitelSetzen(const std::string& Titel) { Fenster.setWindowTitle(Q(Titel)); }
 void PlattformQt::HauptfensterGeaendert() { Fenster.Auffrischen(); }
+void PlattformQt::ProtokollGeaendert() { Fenster.ProtokollSpaeterZeigen(); }
 
 void PlattformQt::HauptfensterGroesse(int& Breite, int& Hoehe) {
   Breite = Fenster.width();

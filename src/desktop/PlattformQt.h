@@ -19,6 +19,7 @@ class PlattformQt : public Plattform {
   void StatusSetzen(Statusfeld Feld, const std::string& Text) override;
   void FenstertitelSetzen(const std::string& Titel) override;
   void HauptfensterGeaendert() override;
+  void ProtokollGeaendert() override;
   void HauptfensterGroesse(int& Breite, int& Hoehe) override;
   void BildschirmGroesse(int& Breite, int& Hoehe) override;
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;

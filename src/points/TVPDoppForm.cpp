@@ -93,7 +93,9 @@ class TVPDoppForm final : public Formular {
     Ergebnisfeld(Name + "Rechts", {Zeile, 2}).Text = Zahlentext(R);
     Ergebnisfeld(Name + "Hoch", {Zeile, 3}).Text = Zahlentext(H);
     Ergebnisfeld(Name + "Höhe", {Zeile, 4}, "", 9).Text = Zahlentext(Z);
-    Ergebnisfeld(Name + "Symbol", {Zeile, 5}, "", 5).Text = Sy;
+    Steuerelement& Symbol = Ergebnisfeld(Name + "Symbol", {Zeile, 5}, "", 5);
+    Symbol.Text = Sy;
+    Symbol.Rechtsbuendig = false;
     return Feldnummer;
   }
 

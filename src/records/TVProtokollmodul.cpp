@@ -36,7 +36,7 @@ void InsFenster(const std::string& Text, bool Zeilenende) {
   const bool OhneRand = !ProtNeueZeile && Text.starts_with("      ") && ZeichenAnzahl(Text) >= 7;
   ProtokollfensterText += OhneRand ? Text.substr(6) : Text;
   if (Zeilenende) ProtokollfensterText += '\n';
-  Port().HauptfensterGeaendert();
+  Port().ProtokollGeaendert();
 }
 
 std::string Artzeile(const std::string& Titel, int Seite) {

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
@@ -303,8 +304,14 @@ class FensterTest : public QObject {
     QCOMPARE(Handbuch->source().fileName(), QString("polarelemente.md"));
     QVERIFY(Handbuch->toPlainText().contains("Polarelemente"));
     Handbuch->close();
-    for (int Nummer = 0; Nummer < 9000; Nummer += 10)
-      QVERIFY(QFile::exists(":/handbuch/" + Handbuchseite(Nummer)));
+    static const QRegularExpression Verweis("\\]\\(([^)]+)\\)");
+    for (int Nummer = 0; Nummer < 9000; Nummer += 10) {
+      const QByteArray Seite = Inhalt(":/handbuch/" + Handbuchseite(Nummer));
+      QVERIFY2(!Seite.isEmpty(), qPrintable(Handbuchseite(Nummer)));
+      for (const auto& Treffer : Verweis.globalMatch(QString::fromUtf8(Seite))) {
+        QVERIFY2(QFile::exists(":/handbuch/" + Treffer.captured(1)), qPrintable(Treffer.captured(1)));
+      }
+    }
     Dialoge.push_back(Druecke(Qt::Key_Escape, Qt::NoModifier));
     Menue("MenüOptionenOptionen");
     Dialoge.push_back(Druecke(Qt::Key_N));
