@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/pakete.sh
 
-pakete_sichern bauen desktop test
+pakete_sichern bauen desktop test pruefpaket
 
 schritt() { printf '\n== %s\n' "$1"; }
 
@@ -24,6 +24,9 @@ cmake --build build/clang
 schritt "ohne Qt"
 cmake --preset headless -DTAVORENA_TESTS=OFF -DTAVORENA_WERROR=ON >/dev/null
 cmake --build build/headless
+
+schritt "aus einem fremden Programm"
+tests/paket/pruefen.sh build/headless
 
 echo
 echo "Alles in Ordnung."
