@@ -1,7 +1,5 @@
-#include <array>
-#include <cmath>
-
 #include <tavorena/calc/TA.h>
+#include <tavorena/calc/TAHilfe.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
@@ -10,31 +8,29 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace tavorena {
+
+using ta::Ausgeben;
+using ta::Endlich;
+using ta::Punkte;
+
+enmResult ta::PunktListe(std::span<const Wert> Nummern, std::int32_t Anzahl, std::vector<double>& RW,
+                         std::vector<double>& HW) {
+  if (Anzahl < 0 || static_cast<std::size_t>(Anzahl) > Nummern.size()) return enmResult::Fehler_Allgemein;
+  RW.clear();
+  HW.clear();
+  for (const Wert& Nummer : Nummern.first(static_cast<std::size_t>(Anzahl))) {
+    const int Zeile = KorSuche(Nummer);
+    if (Zeile < 0) return enmResult::Fehler_PunktNichtVorhanden;
+    RW.push_back(KorRechts[static_cast<std::size_t>(Zeile)]);
+    HW.push_back(KorHoch[static_cast<std::size_t>(Zeile)]);
+  }
+  return enmResult::ok;
+}
+
 namespace {
-
-template <typename... Zahl>
-bool Endlich(Zahl... Zahlen) {
-  return (std::isfinite(Zahlen) && ...);
-}
-
-// A result that the caller may have left out.
-void Ausgeben(double* Ziel, double Zahl) {
-  if (Ziel != nullptr) *Ziel = Zahl;
-}
 
 enmResult Abbilden(int Ergebnis) {
   return Ergebnis < 0 ? enmResult::Fehler_AnfangsUndEndpunktGleich : enmResult::ok;
-}
-
-// Looks numbers up in their order; false at the first one that is missing.
-template <std::size_t N>
-bool Punkte(const std::array<const Wert*, N>& Nummern, std::array<Lage, N>& Orte) {
-  for (std::size_t i = 0; i < N; ++i) {
-    const int Zeile = KorSuche(*Nummern[i]);
-    if (Zeile < 0) return false;
-    Orte[i] = {KorRechts[static_cast<std::size_t>(Zeile)], KorHoch[static_cast<std::size_t>(Zeile)]};
-  }
-  return true;
 }
 
 }  // namespace

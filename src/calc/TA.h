@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
+#include <vector>
 
 #include <tavorena/core/Wert.h>
 
@@ -10,7 +12,7 @@ namespace tavorena {
 /// Result of nearly every method of TA. Values and names are published and stay.
 enum class enmResult : std::int32_t {
   ok = 0,
-  Fehler_Allgemein = 1,
+  Fehler_Allgemein = 1,  ///< bad input, or no solution
   Fehler_AnfangsUndEndpunktGleich = 2,
   Hinweis_GeradenParallel = 3,
   Hinweis_GeradeSchneidetKreisNicht = 4,
@@ -20,9 +22,34 @@ enum class enmResult : std::int32_t {
   Hinweis_GefaehrlicherKreis = 8,
   Hinweis_PunktAusserhalbDesPasspunktfeldes = 9,
   Fehler_GefaehrlicherKreis = 10,
-  Fehler_DateiNichtVorhanden = 11,
+  Fehler_DateiNichtVorhanden = 11,  ///< the file is missing or can not be read
   Fehler_ZuweningePunkte = 12,
   Fehler_ZuvielePunkte = 13,
+};
+
+/// How the two figures of an intersection are given: Orig the line with its parallel distance, Parallpunkt
+/// the parallel through a point, Senkrpunkt the perpendicular through it; Radius a given radius, Punkt a
+/// radius taken from a point on the arc.
+enum class enmArtGeradenschnitt : std::int32_t {
+  Gerade1Orig_Gerade2Orig = 0,
+  Gerade1Orig_Gerade2Parallpunkt = 1,
+  Gerade1Orig_Gerade2Senkrpunkt = 2,
+  Gerade1Parallpunkt_Gerade2Orig = 3,
+  Gerade1Parallpunkt_Gerade2Parallpunkt = 4,
+  Gerade1Parallpunkt_Gerade2Senkrpunkt = 5,
+  Gerade1Senkrpunkt_Gerade2Orig = 6,
+  Gerade1Senkrpunkt_Gerade2Parallpunkt = 7,
+  Gerade1Senkrpunkt_Gerade2Senkrpunkt = 8,
+  GeradeOrig_KreisRadius = 9,
+  GeradeOrig_KreisPunkt = 10,
+  GeradeParallpunkt_KreisRadius = 11,
+  GeradeParallpunkt_KreisPunkt = 12,
+  GeradeSenkrpunkt_KreisRadius = 13,
+  GeradeSenkrpunkt_KreisPunkt = 14,
+  Kreis1Radius_Kreis2Radius = 15,
+  Kreis1Radius_Kreis2Punkt = 16,
+  Kreis1Punkt_Kreis2Radius = 17,
+  Kreis2Punkt_Kreis2Punkt = 18,
 };
 
 class Plattform;
@@ -48,10 +75,11 @@ class TA {
   TA& operator=(const TA&) = delete;
 
   /// Distance between two points against a measured one.
-  /// @param[out] dEntfGerechnet       distance from the coordinates; written in every case
-  /// @param[in]  dEntfGemessen        measured distance; 0 means not measured
-  /// @param[out] dAbweichungZulaessig permitted discrepancy D = 0.05 + 0.0003 s + 0.008 sqrt(s)
-  /// @param[out] dAbweichung          computed minus measured
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW the two points [m]
+  /// @param[out] dEntfGerechnet distance from the coordinates [m]; written in every case
+  /// @param[in] dEntfGemessen measured distance [m]; 0 means not measured
+  /// @param[out] dAbweichungZulaessig permitted discrepancy D = 0.05 + 0.0003 s + 0.008 sqrt(s) [m]
+  /// @param[out] dAbweichung computed minus measured [m]
   /// @return ok; Fehler_Allgemein without a measured distance, although dEntfGerechnet is valid then
   enmResult Entfernungskontrolle(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
                                  double& dEntfGerechnet, double dEntfGemessen = 0.0,
@@ -62,9 +90,13 @@ class TA {
                                     double* dAbweichung = nullptr);
 
   /// Tie-in of line elements.
-  /// @param[in]  dAnlegemass, dEndmass  tape readings on start and end; a dEndmass of 0 means not measured
-  /// @param[out] dAbweichungZulaessig   D, in every case
-  /// @param[out] dMassstab              (dEndmass - dAnlegemass) / dEntfGerechnet; 1 when not measured
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW start and end of the line [m]
+  /// @param[out] dEntfGerechnet distance from the coordinates [m]
+  /// @param[in] dAnlegemass, dEndmass tape readings on start and end [m]; a dEndmass of 0 means not
+  ///     measured
+  /// @param[out] dAbweichungZulaessig D [m], in every case
+  /// @param[out] dAbweichung computed minus measured [m]; 0 when not measured
+  /// @param[out] dMassstab (dEndmass - dAnlegemass) / dEntfGerechnet; 1 when not measured
   /// @return ok; Fehler_AnfangsUndEndpunktGleich if the points coincide and dEndmass is given
   enmResult LinienelementeAnschluss(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
                                     double& dEntfGerechnet, double dAnlegemass = 0.0, double dEndmass = 0.0,
@@ -77,8 +109,10 @@ class TA {
                                        double* dMassstab = nullptr);
 
   /// Orthogonal elements of a point against the line start -> end.
-  /// @param[out] dLinie       along the line from the start; negative behind it
-  /// @param[out] dSeitwaerts  offset; positive to the right of start -> end
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW start and end of the line [m]
+  /// @param[in] dLinelRW, dLinelHW the point [m]
+  /// @param[out] dLinie along the line from the start [m]; negative behind it
+  /// @param[out] dSeitwaerts offset [m]; positive to the right of start -> end
   /// @return ok; Fehler_AnfangsUndEndpunktGleich, the outputs are then untouched
   enmResult Linienelemente(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW, double dLinelRW,
                            double dLinelHW, double& dLinie, double& dSeitwaerts);
@@ -87,8 +121,11 @@ class TA {
                               double& dSeitwaerts);
 
   /// Tie-in of polar elements.
-  /// @param[out] dAnschlussrichtung  clockwise intermediate of the bearing (bearing + 300, not reduced)
-  /// @param[out] dNordrichtungGon    bearing start -> end
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW station and reference point [m]
+  /// @param[out] dEntfGerechnet distance from the coordinates [m]
+  /// @param[out] dAnschlussrichtung clockwise intermediate of the bearing [gon] (bearing + 300, not
+  ///     reduced)
+  /// @param[out] dNordrichtungGon bearing start -> end [gon]
   /// @return ok; Fehler_AnfangsUndEndpunktGleich
   enmResult PolarelementeAnschluss(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
                                    double& dEntfGerechnet, double* dAnschlussrichtung = nullptr,
@@ -99,9 +136,13 @@ class TA {
                                       double* dNordrichtungGon = nullptr);
 
   /// Direction and distance from the start to a point.
-  /// @param[in]  dAnschlussrichtungGemessen  circle reading on the end point (a Wert in spite of its prefix)
-  /// @param[out] dPolelWinkelGon   reading on the point, 0 up to below 400
-  /// @param[out] dNordrichtung     bearing start -> end; written even if the points coincide
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW station and reference point [m]
+  /// @param[in] dPolelRW, dPolelHW the point [m]
+  /// @param[out] dPolelWinkelGon reading on the point [gon], 0 up to below 400
+  /// @param[out] dPolelStrecke distance to the point [m]
+  /// @param[in] dAnschlussrichtungGemessen circle reading on the end point (a Wert in spite of its prefix)
+  ///     [gon]
+  /// @param[out] dNordrichtung bearing start -> end [gon]; written even if the points coincide
   /// @return ok; Fehler_AnfangsUndEndpunktGleich
   enmResult Polarelemente(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW, double dPolelRW,
                           double dPolelHW, double& dPolelWinkelGon, double& dPolelStrecke,
@@ -113,11 +154,149 @@ class TA {
                              const Wert& dAnschlussrichtungGemessen = Wert(0.0),
                              double* dNordrichtung = nullptr);
 
+  /// Tie-in of a measured line.
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW start and end of the line [m]
+  /// @param[out] dEntfGerechnet distance from the coordinates [m]
+  /// @param[in] dAnlegemass, dEndmass tape readings on start and end [m]; a dEndmass of 0 means not
+  ///     measured
+  /// @param[out] dAbweichungZulaessig permitted discrepancy D [m], in every case
+  /// @param[out] dAbweichung computed minus measured [m]; 0 when not measured
+  /// @param[out] dMassstab dEntfGerechnet / (dEndmass - dAnlegemass): the reverse of
+  ///     LinienelementeAnschluss, on purpose; 1 when not measured
+  /// @return ok; Fehler_AnfangsUndEndpunktGleich if dEndmass is given and equals dAnlegemass
+  enmResult MesslinieAnschluss(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
+                               double& dEntfGerechnet, double dAnlegemass = 0.0, double dEndmass = 0.0,
+                               double* dAbweichungZulaessig = nullptr, double* dAbweichung = nullptr,
+                               double* dMassstab = nullptr);
+  /// MesslinieAnschluss by point numbers.
+  enmResult MesslinieAnschlussPnr(const Wert& vPnr1, const Wert& vPnr2, double& dEntfGerechnet,
+                                  double dAnlegemass = 0.0, double dEndmass = 0.0,
+                                  double* dAbweichungZulaessig = nullptr, double* dAbweichung = nullptr,
+                                  double* dMassstab = nullptr);
+
+  /// One new point of a measured line, from the tape reading and the offset. The point is placed by the
+  /// measured scale; no further scale is to be applied.
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW start and end of the line [m]
+  /// @param[in] dLinie tape reading at the foot of the point [m]
+  /// @param[in] dSeitwaerts offset [m], positive to the right
+  /// @param[out] dNeupunktRw, dNeupunktHw the new point [m]
+  /// @param[in] dAnlegemass, dEndmass tape readings on start and end [m]; a dEndmass of 0 means not
+  ///     measured
+  /// @return ok; Fehler_AnfangsUndEndpunktGleich if dEndmass is given and equals dAnlegemass: the outputs
+  ///     are then the start point
+  enmResult Messlinie(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW, double dLinie,
+                      double dSeitwaerts, double& dNeupunktRw, double& dNeupunktHw, double dAnlegemass = 0.0,
+                      double dEndmass = 0.0);
+  /// Messlinie by point numbers.
+  enmResult MessliniePnr(const Wert& vPnr1, const Wert& vPnr2, double dLinie, double dSeitwaerts,
+                         double& dNeupunktRw, double& dNeupunktHw, double dAnlegemass = 0.0,
+                         double dEndmass = 0.0);
+
+  /// Tie-in of polar points: station and reference point.
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW station and reference point [m]
+  /// @param[out] dStreckeGerechnet distance from the coordinates [m]
+  /// @param[in] dStreckeGemessen measured distance [m]; 0 means not measured
+  /// @param[out] dNordrichtungGon bearing station -> reference point [gon]
+  /// @param[out] dAbweichungZulaessig permitted discrepancy D [m], in every case
+  /// @param[out] dAbweichung computed minus measured [m]
+  /// @param[out] dMassstab computed / measured; 1 when not measured
+  /// @return ok, also for two equal points
+  enmResult PolarpunktAnschluss(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
+                                double& dStreckeGerechnet, double dStreckeGemessen = 0.0,
+                                double* dNordrichtungGon = nullptr, double* dAbweichungZulaessig = nullptr,
+                                double* dAbweichung = nullptr, double* dMassstab = nullptr);
+  /// PolarpunktAnschluss by point numbers.
+  enmResult PolarpunktAnschlussPnr(const Wert& vPnr1, const Wert& vPnr2, double& dStreckeGerechnet,
+                                   double dStreckeGemessen = 0.0, double* dNordrichtungGon = nullptr,
+                                   double* dAbweichungZulaessig = nullptr, double* dAbweichung = nullptr,
+                                   double* dMassstab = nullptr);
+
+  /// One polar point.
+  /// @param[in] dAnfRW, dAnfHW, dEndRW, dEndHW station and reference point [m]
+  /// @param[in] dWinkelGon circle reading on the point [gon]
+  /// @param[in] dStrecke horizontal distance [m]
+  /// @param[out] dNeupunktRw, dNeupunktHw the new point [m]
+  /// @param[in] dOrientierungGon circle reading on the reference point [gon]
+  /// @param[in] dMassstab factor of dStrecke
+  /// @return ok; Fehler_AnfangsUndEndpunktGleich, the outputs are then untouched
+  enmResult Polarpunkt(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW, double dWinkelGon,
+                       double dStrecke, double& dNeupunktRw, double& dNeupunktHw,
+                       double dOrientierungGon = 0.0, double dMassstab = 1.0);
+  /// Polarpunkt by point numbers.
+  enmResult PolarpunktPnr(const Wert& vPnr1, const Wert& vPnr2, double dWinkelGon, double dStrecke,
+                          double& dNeupunktRw, double& dNeupunktHw, double dOrientierungGon = 0.0,
+                          double dMassstab = 1.0);
+
+  /// Intersection of two lines, each as given, shifted in parallel, or replaced by a parallel or a
+  /// perpendicular through a point.
+  /// @param[in] dGerade1RW1, dGerade1HW1, dGerade1RW2, dGerade1HW2 two points of line 1 [m]
+  /// @param[in] dGerade2RW1, dGerade2HW1, dGerade2RW2, dGerade2HW2 two points of line 2 [m]
+  /// @param[out] dSchnittpunktRW, dSchnittpunktHW the intersection [m]
+  /// @param[out] dSchnittwinkelGon crossing angle [gon], 0 to 100
+  /// @param[in] eSchnittart how the two lines are meant, 0 to 8
+  /// @param[in] dGerade1Parallenabstand shift of line 1 [m]; positive to the right of its direction
+  /// @param[in] dGerade2Parallenabstand the same for line 2 [m]
+  /// @param[in] dGerade1PunktRW, dGerade1PunktHW point for the parallel or the perpendicular of line 1 [m]
+  /// @param[in] dGerade2PunktRW, dGerade2PunktHW the same for line 2 [m]
+  /// @return ok; Hinweis_GeradenParallel; Fehler_AnfangsUndEndpunktGleich if a line can not be built;
+
+  /// Best-fit circle: one linearised step from the circle through the first, the middle and the last
+  /// point. It is not iterated: with a poor start circle it stays short (54 mm in one published set).
+  /// @param[in] dPunktRW, dPunktHW the points in the order of the arc [m]
+  /// @param[in] lPunktanzahl number of points, 3 to 201
+  /// @param[out] dAusgleichenderKreisMittelpunktRW, AusgleichenderKreisMittelpunktHW centre [m]
+  /// @param[out] dAusgleichenderKreisRadius radius [m]
+  /// @return ok; Fehler_Allgemein below 3 points or where these three lie on one line;
+
+  /// Free stationing: the station and its orientation from directions, zenith angles and slope distances
+  /// to known points.
+  /// @param[in] dPunktRW, dPunktHW the known points [m]
+  /// @param[in] dRichtungGon circle readings [gon]
+  /// @param[in] dVkgon zenith angles [gon]; 0 gives a horizontal distance of 0
+  /// @param[in] dStrecke slope distances [m]
+  /// @param[in] lPunktanzahl number of points
+  /// @param[out] dStandPunktRW, dStandPunktHW the station [m]
+  /// @param[in] bTransformationsartHelmert true: scale free; false: scale fixed to 1
+  /// @param[out] dVRechts, dVHoch, dWL residuals of each point and their length [m]
+  /// @param[out] dMassstab scale of the distances
+  /// @param[out] dEpsilonGon turns a local direction into a bearing [gon], 0 up to below 400
+  /// @param[out] dStandardabwMK, FStandardabwML standard deviation of a coordinate and of a point [m]; 0
+  ///     with a free scale and two points
+  /// @return ok; Fehler_Allgemein without points or for a count that the arrays do not hold;
+
+  /// Resection from three directions observed on the new point; point 2 is the middle one.
+  /// @param[in] dPunkt1RW, dPunkt1HW, dPunkt2RW, dPunkt2HW, dPunkt3RW, dPunkt3HW the known points [m]
+  /// @param[in] dPunkt1RichtungGon, dPunkt2RichtungGon, dPunkt3RichtungGon circle readings on them [gon]
+  /// @param[in] bCassini true: Cassini, false: Collins
+  /// @param[out] dNeupunktRw, dNeupunktHw the new point [m]
+  /// @param[out] dTauGon1 angle between the sides at point 2 [gon]; its definition differs by 200 gon
+  ///     between the methods, and only Cassini reduces it
+  /// @param[out] dTauGon2 angle [gon]; near 0 the point lies on the circle through the three
+  /// @return ok with a dTauGon2 of 20 or more; Hinweis_GefaehrlicherKreis from 5,
+  ///     Fehler_GefaehrlicherKreis below (the point is delivered all the same);
+
+  /// Four-parameter similarity from passpoints: Y = SY + a (R - sR) + b (H - sH), X = SX + a (H - sH) - b
+  /// (R - sR).
+  /// @param[in] dPasspunktAltesSystemRW, dPasspunktAltesSystemHW passpoints in the old system [m]
+  /// @param[in] dPasspunktNeuesSystemRW, dPasspunktNeuesSystemHW the same points in the new system [m]
+  /// @param[in] lPunktanzahl number of passpoints, 2 to 101
+  /// @param[in] bMasstabaenderungZulaessig false: a and b are normalised to scale 1
+  /// @param[out] dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW centroid of the passpoints [m], old
+  ///     system
+  /// @param[out] dSchwerpunktNeuesSystemRW, dSchwerpunktNeuesSystemHW centroid [m], new system
+  /// @param[out] ParamA, ParamB a and b
+  /// @param[out] dMassstab sqrt(a2 + b2)
+  /// @param[out] dDrehwinkelGon rotation [gon], 0 up to below 400
+  /// @param[out] dMaximalerAbstand largest distance of a passpoint from the old centroid [m]
+  /// @param[out] dRestklaffeVY, dRestklaffeVX, dLinieareAbweichungWL residuals [m], resized to the count;
+
   /// Reads a KOR file into the point table, which it replaces; at most 20000 points.
   /// @return number of points; -1 if the file can not be read
   std::int32_t KoordinatendateiLesen(const std::string& strKoordinatendateiName);
+
   /// Writes the point table as a KOR file; an old file is replaced safely.
-  /// @param[in] lNachkomma  decimals, 0 to 15
+  /// @param[in] strKoordinatendateiName file to write
+  /// @param[in] lNachkomma decimals, 0 to 15
   /// @return number of rows; -1 if the file can not be written or lNachkomma is out of range
   std::int32_t KoordinatendateiSchreiben(const std::string& strKoordinatendateiName,
                                          std::int32_t lNachkomma = 3);

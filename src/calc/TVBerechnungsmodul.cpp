@@ -4,13 +4,6 @@
 #include <tavorena/core/Winkel.h>
 
 namespace tavorena {
-namespace {
-
-double Abstand(Lage A, Lage B) { return Strecke(A.RW, A.HW, B.RW, B.HW); }
-double Richtung(Lage A, Lage B) { return Richtungswinkel(A.RW, A.HW, B.RW, B.HW); }
-
-}  // namespace
-
 double AbweichungZulaessig(double s) { return 0.008 * std::sqrt(s) + 0.0003 * s + 0.05; }
 
 int Entfernungskontrolle(Lage Anf, Lage End, double Gemessen, Anschlusswerte& Werte) {
