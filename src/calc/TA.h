@@ -239,6 +239,83 @@ class TA {
   /// @param[in] dGerade1PunktRW, dGerade1PunktHW point for the parallel or the perpendicular of line 1 [m]
   /// @param[in] dGerade2PunktRW, dGerade2PunktHW the same for line 2 [m]
   /// @return ok; Hinweis_GeradenParallel; Fehler_AnfangsUndEndpunktGleich if a line can not be built;
+  ///     Fehler_Allgemein for another eSchnittart. The outputs are untouched then.
+  enmResult SchnittGeradeGerade(
+      double dGerade1RW1, double dGerade1HW1, double dGerade1RW2, double dGerade1HW2, double dGerade2RW1,
+      double dGerade2HW1, double dGerade2RW2, double dGerade2HW2, double& dSchnittpunktRW,
+      double& dSchnittpunktHW, double* dSchnittwinkelGon = nullptr,
+      enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::Gerade1Orig_Gerade2Orig,
+      double dGerade1Parallenabstand = 0.0, double dGerade2Parallenabstand = 0.0,
+      double dGerade1PunktRW = 0.0, double dGerade1PunktHW = 0.0, double dGerade2PunktRW = 0.0,
+      double dGerade2PunktHW = 0.0);
+  /// SchnittGeradeGerade by point numbers; an empty vGerade1Pnr or vGerade2Pnr is not looked up.
+  enmResult SchnittGeradeGeradePnr(
+      const Wert& vGerade1Pnr1, const Wert& vGerade1Pnr2, const Wert& vGerade2Pnr1, const Wert& vGerade2Pnr2,
+      double& dSchnittpunktRW, double& dSchnittpunktHW, double* dSchnittwinkelGon = nullptr,
+      enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::Gerade1Orig_Gerade2Orig,
+      double dGerade1Parallenabstand = 0.0, double dGerade2Parallenabstand = 0.0,
+      const Wert& vGerade1Pnr = Wert{}, const Wert& vGerade2Pnr = Wert{});
+
+  /// Intersection of a circle and a line. Of two solutions the first lies further along the direction of
+  /// the line.
+  /// @param[in] dKreisMittelpunktRW, dKreisMittelpunktHW centre of the circle [m]
+  /// @param[in] dKreisRadius radius [m]; not used where eSchnittart takes it from a point on the arc
+  /// @param[in] dGeradeRW1, dGeradeHW1, dGeradeRW2, dGeradeHW2 two points of the line [m]
+  /// @param[out] dSchnittpunkt1RW, dSchnittpunkt1HW, dSchnittpunkt2RW, dSchnittpunkt2HW the solutions [m]
+  /// @param[out] dSchnittwinkelGon crossing angle [gon], 0 to 100; -9999 / 0.9 where the line misses the
+  ///     circle
+  /// @param[out] iAnzahlSchnittpunkte 0 none, 1 or 2 points, 3 the touching point (first solution)
+  /// @param[in] eSchnittart 9 to 14; 11 takes the branch of 9 on purpose: the distance is used, the point
+  ///     ignored
+  /// @param[in] dGeradeParallenabstand shift of the line [m]; positive to the right of its direction
+  /// @param[in] dKreisPunktRW, dKreisPunktHW point on the arc that the radius is taken from [m]
+  /// @param[in] dGeradePunktRW, dGeradePunktHW point for the parallel or the perpendicular [m]
+  /// @return ok, also for a miss (all four coordinates 0); Fehler_AnfangsUndEndpunktGleich if the line can
+  ///     not be built; Fehler_Allgemein for another eSchnittart or a radius not above 0
+  enmResult SchnittKreisGerade(
+      double dKreisMittelpunktRW, double dKreisMittelpunktHW, double dKreisRadius, double dGeradeRW1,
+      double dGeradeHW1, double dGeradeRW2, double dGeradeHW2, double& dSchnittpunkt1RW,
+      double& dSchnittpunkt1HW, double& dSchnittpunkt2RW, double& dSchnittpunkt2HW,
+      double* dSchnittwinkelGon = nullptr, std::int16_t* iAnzahlSchnittpunkte = nullptr,
+      enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::GeradeOrig_KreisRadius,
+      double dGeradeParallenabstand = 0.0, double dKreisPunktRW = 0.0, double dKreisPunktHW = 0.0,
+      double dGeradePunktRW = 0.0, double dGeradePunktHW = 0.0);
+  /// SchnittKreisGerade by point numbers; empty optional numbers are not looked up.
+  enmResult SchnittKreisGeradePnr(
+      const Wert& vKreisMittelpunktPnr, double dKreisRadius, const Wert& vGeradePnr1, const Wert& vGeradePnr2,
+      double& dSchnittpunkt1RW, double& dSchnittpunkt1HW, double& dSchnittpunkt2RW, double& dSchnittpunkt2HW,
+      double* dSchnittwinkelGon = nullptr, std::int16_t* iAnzahlSchnittpunkte = nullptr,
+      enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::GeradeOrig_KreisRadius,
+      double dGeradeParallenabstand = 0.0, const Wert& vKreisPunktPnr = Wert{},
+      const Wert& vGeradePunktPnr = Wert{});
+
+  /// Intersection of two circles. The first solution lies right of the direction from centre 1 to centre
+  /// 2.
+  /// @param[in] dKreis1MittelpunktRW, dKreis1MittelpunktHW, dKreis2MittelpunktRW, dKreis2MittelpunktHW
+  ///     centres
+  /// @param[in] dKreis1Radius, dKreis2Radius radii [m]; not used where taken from a point on the arc
+  /// @param[out] dSchnittpunkt1RW, dSchnittpunkt1HW, dSchnittpunkt2RW, dSchnittpunkt2HW the solutions [m]
+  /// @param[out] dSchnittwinkelGon crossing angle [gon]
+  /// @param[out] iAnzahlSchnittpunkte 0 or 2; circles that touch give 2 equal points
+  /// @param[in] eSchnittart 15 to 18: which radii are taken from a point on the arc
+  /// @param[in] dKreis1PunktRW, dKreis1PunktHW, dKreis2PunktRW, dKreis2PunktHW points on the arcs [m]
+  /// @return ok, also for a miss; Fehler_AnfangsUndEndpunktGleich for equal centres, a radius of 0 or
+  ///     another eSchnittart
+  enmResult SchnittKreisKreis(
+      double dKreis1MittelpunktRW, double dKreis1MittelpunktHW, double dKreis1Radius,
+      double dKreis2MittelpunktRW, double dKreis2MittelpunktHW, double dKreis2Radius,
+      double& dSchnittpunkt1RW, double& dSchnittpunkt1HW, double& dSchnittpunkt2RW, double& dSchnittpunkt2HW,
+      double* dSchnittwinkelGon = nullptr, std::int16_t* iAnzahlSchnittpunkte = nullptr,
+      enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::Kreis1Radius_Kreis2Radius,
+      double dKreis1PunktRW = 0.0, double dKreis1PunktHW = 0.0, double dKreis2PunktRW = 0.0,
+      double dKreis2PunktHW = 0.0);
+  /// SchnittKreisKreis by point numbers; empty optional numbers are not looked up.
+  enmResult SchnittKreisKreisPnr(
+      const Wert& vKreis1MittelPnr, double dKreis1Radius, const Wert& vKreis2MittelPnr, double dKreis2Radius,
+      double& dSchnittpunkt1RW, double& dSchnittpunkt1HW, double& dSchnittpunkt2RW, double& dSchnittpunkt2HW,
+      double* dSchnittwinkelGon = nullptr, std::int16_t* iAnzahlSchnittpunkte = nullptr,
+      enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::Kreis1Radius_Kreis2Radius,
+      const Wert& vKreis1Pnr = Wert{}, const Wert& vKreis2Pnr = Wert{});
 
   /// Best-fit circle: one linearised step from the circle through the first, the middle and the last
   /// point. It is not iterated: with a poor start circle it stays short (54 mm in one published set).
@@ -289,6 +366,24 @@ class TA {
   /// @param[out] dDrehwinkelGon rotation [gon], 0 up to below 400
   /// @param[out] dMaximalerAbstand largest distance of a passpoint from the old centroid [m]
   /// @param[out] dRestklaffeVY, dRestklaffeVX, dLinieareAbweichungWL residuals [m], resized to the count;
+
+  /// Centre of the circle through three points.
+  /// @param[in] dBogenpunkt1RW, dBogenpunkt1HW, dBogenpunkt2RW, dBogenpunkt2HW, dBogenpunkt3RW,
+  ///     dBogenpunkt3HW the points
+  /// @param[out] dMittelpunktRW Rechtswert of the centre [m]
+  /// @param[out] dMittelpunkt3HW Hochwert of the centre [m] (the name is published so)
+  /// @param[out] dRadius distance from the centre to the first point [m]
+  /// @param[out] dSchnittwinkelGon angle between the two chords [gon], as the engine gives it, not
+  ///     normalised
+  /// @return ok; Fehler_Allgemein where two points coincide or all three lie on one line: untouched then
+  enmResult KreisMittelpunkt(double dBogenpunkt1RW, double dBogenpunkt1HW, double dBogenpunkt2RW,
+                             double dBogenpunkt2HW, double dBogenpunkt3RW, double dBogenpunkt3HW,
+                             double& dMittelpunktRW, double& dMittelpunkt3HW, double* dRadius = nullptr,
+                             double* dSchnittwinkelGon = nullptr);
+  /// KreisMittelpunkt by point numbers.
+  enmResult KreisMittelpunktPnr(const Wert& vBogenpunkt1Pnr, const Wert& vBogenpunkt2Pnr,
+                                const Wert& vBogenpunkt3Pnr, double& dMittelpunktRW, double& dMittelpunkt3HW,
+                                double* dRadius = nullptr, double* dSchnittwinkelGon = nullptr);
 
   /// Reads a KOR file into the point table, which it replaces; at most 20000 points.
   /// @return number of points; -1 if the file can not be read
