@@ -351,6 +351,40 @@ class TA {
   /// @param[out] dTauGon2 angle [gon]; near 0 the point lies on the circle through the three
   /// @return ok with a dTauGon2 of 20 or more; Hinweis_GefaehrlicherKreis from 5,
   ///     Fehler_GefaehrlicherKreis below (the point is delivered all the same);
+  ///     Fehler_ZweiRichtungenGleich, or Fehler_GefaehrlicherKreis where Cassini can not compute it: the
+  ///     outputs are then untouched
+  enmResult Rueckwaertsschnitt(double dPunkt1RW, double dPunkt1HW, double dPunkt1RichtungGon,
+                               double dPunkt2RW, double dPunkt2HW, double dPunkt2RichtungGon,
+                               double dPunkt3RW, double dPunkt3HW, double dPunkt3RichtungGon, bool bCassini,
+                               double& dNeupunktRw, double& dNeupunktHw, double* dTauGon1 = nullptr,
+                               double* dTauGon2 = nullptr);
+  /// Rueckwaertsschnitt by point numbers.
+  enmResult RueckwaertsschnittPnr(const Wert& vPunkt1Pnr, double dPunkt1RichtungGon, const Wert& vPunkt2Pnr,
+                                  double dPunkt2RichtungGon, const Wert& vPunkt3Pnr,
+                                  double dPunkt3RichtungGon, bool bCassini, double& dNeupunktRw,
+                                  double& dNeupunktHw, double* dTauGon1 = nullptr,
+                                  double* dTauGon2 = nullptr);
+
+  /// Forward intersection from two stations, each oriented on a far point.
+  /// @param[in] dStandPunkt1RW, dStandPunkt1HW, dStandPunkt2RW, dStandPunkt2HW the stations [m]
+  /// @param[in] dFernPunkt1RW, dFernPunkt1HW, dFernPunkt2RW, dFernPunkt2HW their far points [m]
+  /// @param[in] dFernPunkt1RichtungGon, dFernPunkt2RichtungGon circle readings on the far points [gon]
+  /// @param[in] dNeuPunktRichtung1Gon, dNeuPunktRichtung2Gon circle readings on the new point [gon]
+  /// @param[out] dNeupunktRw, dNeupunktHw the new point [m]
+  /// @param[out] dTauGon angle of the sightings [gon], vA - vB brought into 0 to 200
+  /// @return ok; Fehler_Allgemein for parallel sightings, the outputs are then untouched
+  enmResult VorwaertsschnittEbene(double dStandPunkt1RW, double dStandPunkt1HW, double dFernPunkt1RW,
+                                  double dFernPunkt1HW, double dFernPunkt1RichtungGon,
+                                  double dNeuPunktRichtung1Gon, double dStandPunkt2RW, double dStandPunkt2HW,
+                                  double dFernPunkt2RW, double dFernPunkt2HW, double dFernPunkt2RichtungGon,
+                                  double dNeuPunktRichtung2Gon, double& dNeupunktRw, double& dNeupunktHw,
+                                  double* dTauGon = nullptr);
+  /// VorwaertsschnittEbene by point numbers.
+  enmResult VorwaertsschnittEbenePnr(const Wert& vStandPunkt1Pnr, const Wert& vFernPunkt1Pnr,
+                                     double dFernPunkt1RichtungGon, double dNeuPunktRichtung1Gon,
+                                     const Wert& vStandPunkt2Pnr, const Wert& vFernPunkt2Pnr,
+                                     double dFernPunkt2RichtungGon, double dNeuPunktRichtung2Gon,
+                                     double& dNeupunktRw, double& dNeupunktHw, double* dTauGon = nullptr);
 
   /// Four-parameter similarity from passpoints: Y = SY + a (R - sR) + b (H - sH), X = SX + a (H - sH) - b
   /// (R - sR).

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <vector>
+
+#include <tavorena/calc/Lage.h>
+
+// Traverse (VR 19.10). Metres and gon; Rechts = east, Hoch = north; bearings clockwise from north, breaking
+// angles clockwise from the backward to the forward side.
+
+namespace tavorena {
+
+/// One row of the grid: a new point.
+struct PolygonZeile {
+  double Winkel = 0;   ///< breaking angle on the point [gon]
+  double Strecke = 0;  ///< side from the point to the next one [m]
+};
+
+/// A traverse as it was measured. With k rows it has the sides 1 to k + 1 and the new points 1 to k.
+struct PolygonZug {
+  Lage PFA, PA, PE, PFE;         ///< target at the start, start, end, target at the end
+  double PolygonAnfWinkel = 0;   ///< breaking angle on PA from PFA [gon]; only with a start connection
+  double PolygonAnfStrecke = 0;  ///< side from PA to the first new point [m]
+  double PolygonEndWinkel = 0;   ///< breaking angle on PE to PFE [gon]; only with an end connection
+  std::vector<PolygonZeile> Zeilen;
+};
+
+/// One side of the result.
+struct PolygonSeite {
+  double t = 0;           ///< bearing with its correction [gon, 0 up to below 400]
+  double dR = 0, dH = 0;  ///< vector of the side [m]
+  double vR = 0, vH = 0;  ///< its corrections [m], "Verbess.RW" and "Verbess.HW"; 0 without distribution
+  Lage Ende;              ///< point at its end: the new points, for the last side PE as computed
+};
+
+/// Permitted misclosures.
+struct PolygonToleranzen {
+  double FW = 0;  ///< angular [gon]
+  double FL = 0;  ///< longitudinal [m]
+  double FQ = 0;  ///< transverse [m]
+};
+
+struct PolygonErgebnis {
+  double S = 0;                 ///< straight distance from PA to PE [m]
+  int n = 0;                    ///< breaking angles: rows + 2 with a start connection, otherwise rows
+  double SummeS = 0;            ///< length of all sides [m]
+  double L = 0;                 ///< distance from PA to the end of the chain as computed [m]
+  double d1 = 0, d2 = 0;        ///< distance of the targets from PA and PE [m]; 0 without the connection
+  double FW = 0;                ///< angular misclosure, should minus is [gon]; 0 without an end connection
+  double Verbesserung = 0;      ///< correction per breaking angle [gon]; 0 when FW is not distributed
+  double WY = 0, WX = 0;        ///< misclosure in Rechts and Hoch, should minus is [m]
+  double FL = 0, FQ = 0;        ///< the same along the chain and to its right [m]; 0 when L is 0
+  bool Ring = false;            ///< closed on itself: WY and WX are not distributed
+  bool WinkelVerteilt = false;  ///< FW was distributed
+  bool LinearVerteilt = false;  ///< WY and WX were distributed
+  PolygonToleranzen TP, NP;     ///< first and second set, both computed always
+  std::vector<PolygonSeite> Seiten;
+};
+
+/// Tolerance class of a traverse.
+enum class PolygonKlasse { TP, NP, Frei };
+
+constexpr int PolygonMaxSeiten = 1000;
+
+/// Computes a traverse: bearings, misclosures, tolerances, distribution, coordinates.
+///
+/// Without a start connection the chain is computed with a first bearing of 0 and then turned until its end
+/// lies in the direction of PE. WinkelVerteilen takes effect only with both connections and if both targets
+/// are further away than S/2; LinearVerteilen not in a ring (PA = PE, or a chain that ends on PA). An
+/// exceeded tolerance stops nothing.
+///
+/// FW is not brought back by 400 gon: where the two bearings it compares lie on both sides of north it is
+/// near 400 or -400. This is meant, its mark shows it.
+///
+/// @param[in]  RichtungAnschluss  direction connection at the start, by PFA and PolygonAnfWinkel
+/// @param[in]  RichtungAbschluss  direction connection at the end, by PFE and PolygonEndWinkel
+/// @param[out] Ergebnis  untouched on failure
+/// @return 0; -2 for more than 1000 sides; -1 if the traverse can not be computed: no rows, a value or
+///         distance that is not finite, an end connection without a start connection, a target on its
+///         station, or no start connection and PA = PE or a chain that ends on PA, which leaves the direction
+///         open
+/// Accuracy: rounding only, 1e-8 m for some 100 sides in Gauss-Krüger coordinates.
+/// Source: traverse with proportional distribution along and across the chain, limits of error of the
+///         cadastral regulations for traverses between trigonometric (TP) and lower points (NP).
+[[nodiscard]] int PolygonCalc(const PolygonZug& Zug, bool RichtungAnschluss, bool RichtungAbschluss,
+                              bool WinkelVerteilen, bool LinearVerteilen, PolygonErgebnis& Ergebnis);
+
+/// The tolerances that are shown and judged: the first set for TP and for every ring, the second for NP.
+/// @return nullptr for Frei: nothing is shown, no mark is set
+const PolygonToleranzen* PolygonToleranz(const PolygonErgebnis& Ergebnis, PolygonKlasse Klasse);
+
+}  // namespace tavorena

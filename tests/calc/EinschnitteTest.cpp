@@ -1,0 +1,206 @@
+#include "Testhilfe.h"
+
+#include <cmath>
+#include <random>
+
+#include <tavorena/calc/Einschnitte.h>
+#include <tavorena/calc/TA.h>
+
+namespace tavorena::test {
+namespace {
+
+using enum enmResult;
+
+constexpr double Gms(double Grad, double Minuten, double Sekunden) {  // as gon
+  return (Grad + Minuten / 60 + Sekunden / 3600) / 0.9;
+}
+constexpr Lage Orte[] = {{0, 0}, {3456789.123, 5678901.456}, {-3456789.123, -5678901.456}};
+Lage Ab(Lage P, Lage d) { return {P.RW + d.RW, P.HW + d.HW}; }
+VorwStation Ab(Lage P, VorwStation s) { return {Ab(P, s.Stand), Ab(P, s.Fern), s.rF, s.rN}; }
+RueckPunkt Ab(Lage P, RueckPunkt p) { return {Ab(P, p.Ort), p.r}; }
+
+// All rows near the origin, in Gauss-Krüger coordinates and at their negative.
+TEST(Einschnitte, VorwaertsschnittTabelle) {
+  struct Fall {
+    const char* Name;
+    VorwStation A, B;
+    Lage Neu;
+    double Tau, Genau = 1e-8;
+  };
+  constexpr double Az1 = Gms(76, 4, 24), Az2 = Gms(141, 30, 16);
+  // Published: Ghilani, Wolf: Elementary Surveying, two lines with known azimuths (feet).
+  constexpr Lage A{1425.07, 1971.28}, B{7484.80, 5209.64}, P{8637.85, 3759.83};
+  constexpr Fall Faelle[] = {
+      {"published", {A, {1425.07, 9999}, 0, Az1}, {B, {7484.80, 9999}, 0, Az2}, P, 200 + Az1 - Az2, 0.005},
+      {"A due east", {{0, 0}, {0, 9}, 0, 100}, {{600, -300}, {600, 900}, 10, 10}, {600, 0}, 100},
+      {"A west, behind B", {{0, 0}, {0, 9}, 400, 300}, {{9, 409}, {99, 409}, 350, 300}, {-400, 0}, 50},
+      {"B due east", {{0, 0}, {9, 0}, 20, 370}, {{-1000, 7000}, {5, 7000}, 0, 0}, {7000, 7000}, 150},
+      {"north and west", {{0, 0}, {0, -9}, 200, 400}, {{40, 70}, {40, 60}, 33, 133}, {0, 70}, 100},
+      {"equal stations", {{7, 8}, {7, 9}, 0, 0}, {{7, 8}, {8, 8}, 0, 0}, {7, 8}, 100},
+      {"far point on A is east", {{0, 0}, {0, 0}, 0, 0}, {{30, -5}, {30, 0}, 0, 0}, {30, 0}, 100},
+  };
+  for (const Fall& f : Faelle) {
+    for (const Lage Ort : Orte) {
+      SCOPED_TRACE(f.Name);
+      Vorwaertsschnittwerte w;
+      ASSERT_EQ(VorwaertsschnittEbene(Ab(Ort, f.A), Ab(Ort, f.B), w), 0);
+      EXPECT_LT(Abstand({w.NeuRechts, w.NeuHoch}, Ab(Ort, f.Neu)), f.Genau);
+      EXPECT_NEAR(w.TauGon, f.Tau, 1e-9);
+    }
+  }
+}
+
+TEST(Einschnitte, VorwaertsschnittHoehe) {
+  VorwStation A{{0, 0}, {0, 9}, 0, 100, 50, 350}, B{{300, -400}, {300, 9}, 0, 0, 60, 50};
+  Vorwaertsschnittwerte w;
+  ASSERT_EQ(VorwaertsschnittEbene(A, B, w), 0);
+  EXPECT_EQ(w.VorwNeuHoehe + w.VorwParallaxe, 0);
+  VorwaertsschnittHoehe(A, B, w);  // 50 - 300, 60 + 400
+  EXPECT_NEAR(w.VorwNeuHoehe, 105, 1e-9);
+  EXPECT_NEAR(w.VorwParallaxe, 710, 1e-9);
+  for (const double Ohne : {0.0, 100.0, 300.0}) {
+    B.z = Ohne;
+    VorwaertsschnittHoehe(A, B, w);
+    EXPECT_NEAR(w.VorwParallaxe, 310, 1e-9);
+  }
+}
+
+TEST(Einschnitte, RueckwaertsschnittTabelle) {
+  struct Fall {
+    const char* Name;
+    RueckPunkt P1, P2, P3;
+    Lage Neu;
+    double Genau = 1e-8;
+  };
+  // Published: Bannister, Raymond, Baker: Surveying, resection (there by Tienstra's formula).
+  constexpr double r2 = Gms(109, 30, 45), r3 = Gms(224, 36, 5);
+  constexpr Fall Faelle[] = {
+      {"published", {{1000, 5300}, 0}, {{2200, 6300}, r2}, {{3100, 5000}, r3}, {2128.39, 5578.14}, 0.005},
+      {"alpha 100", {{0, 400}, 0}, {{300, 0}, 100}, {{200, -200}, 150}, {0, 0}},
+      {"beta 100, over 400", {{50, 50}, 390}, {{70, 0}, 440}, {{0, -90}, 140}, {0, 0}},
+      {"alpha 300", {{80, 0}, 7}, {{0, 150}, 307}, {{-60, 60}, 257}, {0, 0}},
+      {"beta 300", {{0, 90}, 0}, {{20, 20}, 50}, {{-55, 55}, 350}, {0, 0}},
+      {"between P1 and P2: Q is P1", {{0, 300}, 0}, {{0, -500}, 200}, {{-400, 0}, 300}, {0, 0}},
+      {"between P2 and P3: Q is P3", {{0, 300}, 0}, {{30, -30}, 150}, {{-600, 600}, 350}, {0, 0}},
+      {"cuts due east and west", {{0, 100}, 0}, {{300, 300}, 50}, {{100, 0}, 100}, {0, 0}},
+  };
+  for (const Fall& f : Faelle) {
+    for (const Lage Ort : Orte) {
+      SCOPED_TRACE(f.Name);
+      Rueckwaertsschnittwerte a, b;
+      ASSERT_EQ(RueckwaertsschnittCollins(Ab(Ort, f.P1), Ab(Ort, f.P2), Ab(Ort, f.P3), a), 0);
+      ASSERT_EQ(RueckwaertsschnittCassini(Ab(Ort, f.P1), Ab(Ort, f.P2), Ab(Ort, f.P3), b), 0);
+      EXPECT_LT(Abstand({a.NeuRechts, a.NeuHoch}, Ab(Ort, f.Neu)), f.Genau);
+      EXPECT_LT(Abstand({b.NeuRechts, b.NeuHoch}, Ab(Ort, f.Neu)), f.Genau);
+    }
+  }
+}
+
+// Observations made from known points give the point back, and Collins agrees with Cassini.
+TEST(Einschnitte, KonstruierteBeobachtungen) {
+  std::mt19937 Zufall(19700101);
+  std::uniform_real_distribution<double> R(3.40e6, 3.41e6), H(5.70e6, 5.71e6), O(-400, 400);
+  int Geprueft = 0;
+  for (int i = 0; i < 5000; ++i) {
+    const Lage A{R(Zufall), H(Zufall)}, B{R(Zufall), H(Zufall)}, C{R(Zufall), H(Zufall)},
+        N{R(Zufall), H(Zufall)};
+    const double o = O(Zufall), q = O(Zufall);
+    const VorwStation SA{A, C, Richtung(A, C) + o, Richtung(A, N) + o};
+    const VorwStation SB{B, C, Richtung(B, C) + q, Richtung(B, N) + q};
+    Vorwaertsschnittwerte v;
+    ASSERT_EQ(VorwaertsschnittEbene(SA, SB, v), 0);
+    ASSERT_LT(Abstand({v.NeuRechts, v.NeuHoch}, N) * std::fabs(SinGon(v.TauGon)), 2e-9) << i;
+    const RueckPunkt P1{A, Richtung(N, A) + o}, P2{B, Richtung(N, B) + o}, P3{C, Richtung(N, C) + o};
+    Rueckwaertsschnittwerte a, b, Blatt;
+    ASSERT_EQ(RueckwaertsschnittCollins(P1, P2, P3, a) + RueckwaertsschnittCassini(P1, P2, P3, b), 0);
+    ASSERT_EQ(RueckwaertsschnittCollins(P1, P2, P3, Blatt, RueckTau::Blatt), 0);
+    if (std::fabs(SinGon(b.TauGon2)) < 0.001 || std::fabs(SinGon(a.Alpha + a.Beta)) < 0.001) continue;
+    ASSERT_LT(Abstand({a.NeuRechts, a.NeuHoch}, N), 1e-6) << i;
+    ASSERT_LT(Abstand({b.NeuRechts, b.NeuHoch}, N), 1e-6) << i;
+    ASSERT_NEAR(std::fabs(Blatt.TauGon1 - a.TauGon1), 200, 1e-9);
+    ASSERT_NEAR(SinGon(a.TauGon2 - b.TauGon2), 0, 1e-9);  // the same angle, but for half circles
+    ++Geprueft;
+  }
+  EXPECT_GT(Geprueft, 4900);
+}
+
+class EinschnitteTA : public TabellenTest {
+ protected:
+  enmResult Resektion(bool Cassini, double r1, double r2, double r3) {
+    a = b = c = d = 9;
+    return Ta.Rueckwaertsschnitt(-100, 0, r1, 0, 100, r2, 100, 0, r3, Cassini, a, b, &c, &d);
+  }
+  [[nodiscard]] bool Unberuehrt() const { return a == 9 && b == 9 && c == 9 && d == 9; }
+  TA Ta;
+  double a = 9, b = 9, c = 9, d = 9;
+};
+
+// Thales triangle: the bearings at P2 are 250 and 150, so that Collins has τ2 = alpha + beta - 100.
+TEST_F(EinschnitteTA, Ergebniszuordnung) {
+  for (const double Tau2 : {20.1, 19.9, 5.1, 4.9, -5.0}) {
+    const enmResult Soll =
+        Tau2 >= 20 ? ok : (Tau2 >= 5 ? Hinweis_GefaehrlicherKreis : Fehler_GefaehrlicherKreis);
+    EXPECT_EQ(Resektion(false, 300, 390, 400 + Tau2), Soll);
+    EXPECT_NEAR(c, 100, 1e-9);
+    EXPECT_NEAR(d, Tau2, 1e-9);
+    const Lage Collins{a, b};
+    EXPECT_EQ(Resektion(true, 300, 390, 400 + Tau2), Tau2 < 0 ? ok : Soll);  // reduced: 395 is beyond 20
+    EXPECT_LT(Abstand(Collins, {a, b}), 1e-9);
+  }
+}
+
+TEST_F(EinschnitteTA, Ablehnungen) {
+  for (const bool Cassini : {false, true}) {
+    for (const double r2 : {0.0, 400.0, 12.3456, 412.3456})
+      EXPECT_EQ(Resektion(Cassini, 0, r2, 12.3456), Fehler_ZweiRichtungenGleich);
+    EXPECT_EQ(Resektion(Cassini, 0, 20, std::nan("")), Fehler_Allgemein);
+    EXPECT_EQ(Resektion(Cassini, HUGE_VAL, 20, 50), Fehler_Allgemein);
+    EXPECT_TRUE(Unberuehrt());
+  }
+  EXPECT_EQ(Resektion(false, 0, 130, 200), Fehler_ZweiRichtungenGleich);  // auxiliary point at infinity
+  EXPECT_EQ(Resektion(true, 300, 0, 100), Fehler_GefaehrlicherKreis);     // both diameters end at Hoch 0
+  for (const double rB : {50.0, 250.0, std::nan("")})
+    EXPECT_EQ(Ta.VorwaertsschnittEbene(0, 0, 0, 9, 0, 50, 7, 8, 7, 9, 0, rB, a, b, &c), Fehler_Allgemein);
+  EXPECT_TRUE(Unberuehrt());
+}
+
+// On the circle Cassini refuses, also where the last digit of a coordinate hides it; Collins tells by τ2 and
+// delivers a point.
+TEST_F(EinschnitteTA, AufDemKreis) {
+  std::mt19937 Zufall(19700101);
+  std::uniform_real_distribution<double> Viertel(0, 90), Radius(50, 5000);
+  for (int i = 0; i < 500; ++i) {
+    RueckPunkt P[4];  // round the circle in this order
+    const double s = Radius(Zufall);
+    for (int k = 3; k >= 0; --k) {
+      const double t = 100 * k + Viertel(Zufall);
+      P[k].Ort = Ab(Orte[1], Lage{s * SinGon(t), s * CosGon(t)});
+      P[k].r = Richtung(P[3].Ort, P[k].Ort);
+    }
+    Rueckwaertsschnittwerte w;
+    ASSERT_EQ(RueckwaertsschnittCassini(P[0], P[1], P[2], w), -2);
+    ASSERT_EQ(RueckwaertsschnittCollins(P[0], P[1], P[2], w), 0);
+    ASSERT_NEAR(SinGon(w.TauGon2), 0, 1e-7);
+    ASSERT_LT(w.TauGon2, 5);
+  }
+}
+
+TEST_F(EinschnitteTA, Zwillinge) {
+  Punkt("1", 0, 0);
+  Punkt("2", 0, 9);
+  Punkt("3", 30, -40);
+  Punkt("4A", 30, 40);
+  EXPECT_EQ(Ta.VorwaertsschnittEbenePnr(1, 2, 0, 100, 3, "4a", 20, 20, a, b), Fehler_PunktNichtVorhanden);
+  EXPECT_EQ(Ta.RueckwaertsschnittPnr(1, 0, 7, 1, 3, 2, true, a, b), Fehler_PunktNichtVorhanden);
+  EXPECT_TRUE(Unberuehrt());
+  EXPECT_EQ(Ta.VorwaertsschnittEbenePnr(1, 2, 0, 100, 3, "4A", 20, 20, a, b), ok);
+  EXPECT_LT(Abstand({a, b}, {30, 0}), 1e-9);
+  const double r = Richtung({10, 0}, {30, 40});
+  for (const bool Cassini : {false, true}) {
+    EXPECT_EQ(Ta.RueckwaertsschnittPnr(1, 300, "4A", r, 3, 200 - r, Cassini, a, b), ok);
+    EXPECT_LT(Abstand({a, b}, {10, 0}), 1e-9);
+  }
+}
+
+}  // namespace
+}  // namespace tavorena::test
