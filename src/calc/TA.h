@@ -317,6 +317,40 @@ class TA {
       enmArtGeradenschnitt eSchnittart = enmArtGeradenschnitt::Kreis1Radius_Kreis2Radius,
       const Wert& vKreis1Pnr = Wert{}, const Wert& vKreis2Pnr = Wert{});
 
+  /// Area of a closed boundary of straight edges and arcs. Row i describes the edge from point i to the
+  /// next one, the last row the closing edge.
+  /// @param[in] dPunktRW, dPunktHW the points of the boundary in its sense [m]
+  /// @param[in] dRadius radius of the edge [m]; 0 straight, positive adds the segment of the short arc,
+  ///     negative takes it away
+  /// @param[in] lPunktanzahl number of points
+  /// @param[out] dFlaeche polygon area plus arc segments [m2]; the sign tells the sense of the boundary
+  /// @param[out] dUmring perimeter [m]
+  /// @param[out] dBogenflaeche sum of the arc segments with their signs [m2]
+  /// @return ok; Fehler_Allgemein for a count that the arrays do not hold
+  enmResult Flaechenberechnung(std::span<const double> dPunktRW, std::span<const double> dPunktHW,
+                               std::span<const double> dRadius, std::int32_t lPunktanzahl, double& dFlaeche,
+                               double* dUmring = nullptr, double* dBogenflaeche = nullptr);
+  /// Flaechenberechnung by point numbers.
+  enmResult FlaechenberechnungPnr(std::span<const Wert> vPunktPnr, std::span<const double> dRadius,
+                                  std::int32_t lPunktanzahl, double& dFlaeche, double* dUmring = nullptr,
+                                  double* dBogenflaeche = nullptr);
+
+  /// Best-fit line: the longer of the two regressions, H on R and R on H. Not an orthogonal regression.
+  /// @param[in] dPunktRW, dPunktHW the points [m]
+  /// @param[in] lPunktanzahl number of points
+  /// @param[out] AusgleichendeGeradeAnfRW, AusgleichendeGeradeAnfHW foot of one outermost point on the
+  ///     line [m]
+  /// @param[out] AusgleichendeGeradeEndRW, AusgleichendeGeradeEndHW foot of the other one [m]
+  /// @return ok; Fehler_Allgemein without points
+  enmResult AusgleichendeGerade(std::span<const double> dPunktRW, std::span<const double> dPunktHW,
+                                std::int32_t lPunktanzahl, double& AusgleichendeGeradeAnfRW,
+                                double& AusgleichendeGeradeAnfHW, double& AusgleichendeGeradeEndRW,
+                                double& AusgleichendeGeradeEndHW);
+  /// AusgleichendeGerade by point numbers.
+  enmResult AusgleichendeGeradePnr(std::span<const Wert> vPunktPnr, std::int32_t lPunktanzahl,
+                                   double& AusgleichendeGeradeAnfRW, double& AusgleichendeGeradeAnfHW,
+                                   double& AusgleichendeGeradeEndRW, double& AusgleichendeGeradeEndHW);
+
   /// Best-fit circle: one linearised step from the circle through the first, the middle and the last
   /// point. It is not iterated: with a poor start circle it stays short (54 mm in one published set).
   /// @param[in] dPunktRW, dPunktHW the points in the order of the arc [m]
@@ -324,6 +358,15 @@ class TA {
   /// @param[out] dAusgleichenderKreisMittelpunktRW, AusgleichenderKreisMittelpunktHW centre [m]
   /// @param[out] dAusgleichenderKreisRadius radius [m]
   /// @return ok; Fehler_Allgemein below 3 points or where these three lie on one line;
+  ///     Fehler_ZuvielePunkte above 201
+  enmResult AusgleichenderKreis(std::span<const double> dPunktRW, std::span<const double> dPunktHW,
+                                std::int32_t lPunktanzahl, double& dAusgleichenderKreisMittelpunktRW,
+                                double& AusgleichenderKreisMittelpunktHW, double& dAusgleichenderKreisRadius);
+  /// AusgleichenderKreis by point numbers.
+  enmResult AusgleichenderKreisPnr(std::span<const Wert> vPunktPnr, std::int32_t lPunktanzahl,
+                                   double& dAusgleichenderKreisMittelpunktRW,
+                                   double& AusgleichenderKreisMittelpunktHW,
+                                   double& dAusgleichenderKreisRadius);
 
   /// Free stationing: the station and its orientation from directions, zenith angles and slope distances
   /// to known points.
