@@ -8,8 +8,8 @@ pakete_von() {
   case "$1" in
     bauen) echo g++ cmake ninja-build libcli11-dev ;;
     desktop) echo qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins qt6-wayland qt6-translations-l10n libgl-dev fonts-dejavu-core ;;
-    test) echo libgtest-dev clang-14 clang-tidy-14 clang-format-14 git ccache python3 ;;
-    bench) echo libbenchmark-dev libfmt-dev libfast-float-dev python3 ;;
+    test) echo libgtest-dev clang-14 clang-tidy-14 clang-format-14 libproj-dev git ccache python3 ;;
+    bench) echo libbenchmark-dev libfmt-dev libfast-float-dev libproj-dev python3 ;;
     pruefpaket) echo pkg-config ;;
     paket) echo dpkg-dev file ;;
     fuzz) echo clang-14 libclang-rt-14-dev ;;

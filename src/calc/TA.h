@@ -429,6 +429,72 @@ class TA {
                                      double dFernPunkt2RichtungGon, double dNeuPunktRichtung2Gon,
                                      double& dNeupunktRw, double& dNeupunktHw, double* dTauGon = nullptr);
 
+  /// Geographic to Gauss-Krüger coordinates, 3-degree strips on the Bessel ellipsoid, scale 1. The strip
+  /// follows from the longitude.
+  /// @param[in] dGeographischeLaengeGrad, dGeographischeBreiteGrad degrees, east and north positive
+  /// @param[out] dGKRechtswert, dGKHochwert grid coordinates [m]; the Rechtswert carries the strip
+  /// @return ok
+  enmResult KonvertierungGeographischNachGK(double dGeographischeLaengeGrad, double dGeographischeBreiteGrad,
+                                            double& dGKRechtswert, double& dGKHochwert);
+
+  /// The same from degrees, minutes and seconds.
+  enmResult KonvertierungGeographischGMSNachGK(std::int32_t lGeographischeLaengeGrad,
+                                               std::int32_t lGeographischeLaengeMinute,
+                                               double dGeographischeLaengeSekunde,
+                                               std::int32_t lGeographischeBreiteGrad,
+                                               std::int32_t lGeographischeBreiteMinute,
+                                               double dGeographischeBreiteSekunde, double& dGKRechtswert,
+                                               double& dGKHochwert);
+
+  /// Gauss-Krüger to geographic coordinates; the strip is the million of the Rechtswert. Degrees.
+  /// @return ok
+  enmResult KonvertierungGKNachGeographisch(double dGKRechtswert, double dGKHochwert,
+                                            double& dGeographischeLaenge, double& dGeographischeBreite);
+
+  /// The same to degrees, minutes and seconds; the sign goes with the degrees.
+  enmResult KonvertierungGKNachGeographischGMS(double dGKRechtswert, double dGKHochwert,
+                                               std::int32_t& lGeographischeLaengeGrad,
+                                               std::int32_t& lGeographischeLaengeMinuten,
+                                               double& dGeographischeLaengeSekunden,
+                                               std::int32_t& lGeographischeBreiteGrad,
+                                               std::int32_t& lGeographischeBreiteMinuten,
+                                               double& dGeographischeBreiteSekunden);
+
+  /// UTM (GRS 80, scale 0.9996) to geographic coordinates.
+  /// @param[in] dEasting, dNorthing grid coordinates without the zone [m]
+  /// @param[in] lZone zone, 32 for 6 to 12 degrees east
+  /// @param[out] dGeographischeLaengeGrad, dGeographischeBreiteGrad degrees
+  /// @return ok
+  enmResult KonvertierungUTMNachGeographisch(double dEasting, double dNorthing, std::int32_t lZone,
+                                             double& dGeographischeLaengeGrad,
+                                             double& dGeographischeBreiteGrad);
+
+  /// The same to degrees, minutes and seconds.
+  enmResult KonvertierungUTMNachGeographischGMS(double dEasting, double dNorthing, std::int32_t lZone,
+                                                std::int32_t& lGeographischeLaengeGrad,
+                                                std::int32_t& lGeographischeLaengeMinuten,
+                                                double& dGeographischeLaengeSekunden,
+                                                std::int32_t& lGeographischeBreiteGrad,
+                                                std::int32_t& lGeographischeBreiteMinuten,
+                                                double& dGeographischeBreiteSekunden);
+
+  /// Geographic to UTM coordinates (GRS 80, scale 0.9996).
+  /// @param[in] dGeographischeLaengeGrad, dGeographischeBreiteGrad degrees, east and north positive
+  /// @param[out] lZone zone that the longitude falls in
+  /// @param[out] dEasting, dNorthing grid coordinates without the zone [m]
+  /// @return ok
+  enmResult KonvertierungGeographischNachUTM(double dGeographischeLaengeGrad, double dGeographischeBreiteGrad,
+                                             std::int32_t& lZone, double& dEasting, double& dNorthing);
+
+  /// The same from degrees, minutes and seconds.
+  enmResult KonvertierungGeographischGMSNachUTM(std::int32_t lGeographischeLaengeGrad,
+                                                std::int32_t lGeographischeLaengeMinute,
+                                                double dGeographischeLaengeSekunde,
+                                                std::int32_t lGeographischeBreiteGrad,
+                                                std::int32_t lGeographischeBreiteMinute,
+                                                double dGeographischeBreiteSekunde, std::int32_t& lZone,
+                                                double& dEasting, double& dNorthing);
+
   /// Four-parameter similarity from passpoints: Y = SY + a (R - sR) + b (H - sH), X = SX + a (H - sH) - b
   /// (R - sR).
   /// @param[in] dPasspunktAltesSystemRW, dPasspunktAltesSystemHW passpoints in the old system [m]
