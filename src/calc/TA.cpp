@@ -18,6 +18,8 @@ enmResult ta::PunktListe(std::span<const Wert> Nummern, std::int32_t Anzahl, std
   if (Anzahl < 0 || static_cast<std::size_t>(Anzahl) > Nummern.size()) return enmResult::Fehler_Allgemein;
   RW.clear();
   HW.clear();
+  RW.reserve(static_cast<std::size_t>(Anzahl));
+  HW.reserve(static_cast<std::size_t>(Anzahl));
   for (const Wert& Nummer : Nummern.first(static_cast<std::size_t>(Anzahl))) {
     const int Zeile = KorSuche(Nummer);
     if (Zeile < 0) return enmResult::Fehler_PunktNichtVorhanden;
