@@ -26,6 +26,7 @@ double ProduktSumme(std::span<const double> Liste1, std::span<const double> List
 [[nodiscard]] int ListenMaximumIndex(std::span<const double> Liste, int Anzahl, int& Index);
 
 /// Inverse of a small square matrix, by Gauss-Jordan elimination with the largest pivot of the column.
+/// @param[in]  n        rows and columns
 /// @param[in]  Matrix   n by n entries, row by row
 /// @param[out] Inverse  n by n entries, row by row
 /// @return 0; -1 if the matrix is singular or has less than n by n entries
@@ -40,9 +41,10 @@ double ProduktSumme(std::span<const double> Liste1, std::span<const double> List
                                     double& a, double& b);
 
 /// Best-fit line: the longer of two regressions, H on R and R on H. Not an orthogonal regression.
-/// @param[in]  R, H  the points [m]
-/// @param[out] Anf   foot of the point with the least R (fit of H on R) or the least H (fit of R on H) [m]
-/// @param[out] End   foot of the point with the greatest R or H [m]
+/// @param[in]  Anzahl  number of points
+/// @param[in]  R, H    the points [m]
+/// @param[out] Anf     foot of the point with the least R (fit of H on R) or the least H (fit of R on H) [m]
+/// @param[out] End     foot of the point with the greatest R or H [m]
 /// @return 0; -1 for an Anzahl of 0 or less or beyond the lists
 /// Equal lengths give the fit of R on H, and so do fits that coincide within the rounding of the coordinates:
 /// points on one straight line run from the least H to the greatest, due east from the least R. One point is
@@ -57,6 +59,7 @@ constexpr int KreisausgleichPunkte = 201;
 
 /// Best-fit circle: one linearised step from the circle through the first, the middle and the last point, on
 /// purpose not iterated.
+/// @param[in]  Anzahl       number of points, 3 to KreisausgleichPunkte
 /// @param[in]  R, H         the points [m]
 /// @param[out] Mittelpunkt  centre [m]
 /// @param[out] Radius       [m]

@@ -41,6 +41,7 @@ struct Flaechenwerte {
 };
 
 /// Area and perimeter of a polygon.
+/// @param[in]  Anzahl   number of corners
 /// @param[in]  RW, HW   corners in their order [m]; the closing edge is added
 /// @param[out] Flaeche  [m2]; positive for a counter-clockwise boundary, the caller decides on the sign
 /// @param[out] Umring   sum of the edges, the closing one included [m]
@@ -51,7 +52,9 @@ struct Flaechenwerte {
                                double& Flaeche, double& Umring);
 
 /// Elements of the two arcs over the chord P -> Q.
-/// @param[in] Radius  its absolute value counts [m]
+/// @param[in]  P, Q    ends of the chord
+/// @param[in]  Radius  its absolute value counts [m]
+/// @param[out] Werte   all fields; untouched on failure
 /// @return 0; -1 if the chord is longer than the diameter
 /// A half chord that equals the radius within the rounding of the coordinates makes a semicircle. Accuracy:
 /// rounding only for flat arcs; close to a semicircle the area hangs on the root of radius minus half chord
@@ -61,10 +64,13 @@ struct Flaechenwerte {
 
 /// Area of a boundary of edges and arcs. Row i describes the edge from point i to point i + 1, the last row
 /// the closing edge.
-/// @param[in] Radius  0 for a straight edge; otherwise its absolute value counts [m]
-/// @param[in] Art     0 a line; 1 adds the short segment, 2 and 3 the long one; -1 takes the short segment
+/// @param[in]  RW, HW  points in their order [m]
+/// @param[in]  Radius  0 for a straight edge; otherwise its absolute value counts [m]
+/// @param[in]  Art  0 a line; 1 adds the short segment, 2 and 3 the long one; -1 takes the short segment
 ///                    away, -2 the long one. The sign does not look at the sense of the boundary, on purpose:
 ///                    whoever wants "outward is larger" takes the absolute Polygonflaeche first.
+/// @param[in]  Anzahl  number of points
+/// @param[out] Werte   all fields
 /// @return 0; -1 for a bad Anzahl or a kind outside -2 to 3
 /// One point with a radius is a full circle, whatever its kind; its Bogenflaeche is 0. Below 3 points
 /// polygon area and straight edges count 0 in Flaeche and Umring, arcs still count. An arc whose chord is
@@ -76,7 +82,9 @@ struct Flaechenwerte {
 
 /// Area on the ellipsoid from an area in Gauss-Krüger coordinates: Flaeche (1 - y^2 / R^2), y the mean
 /// distance of the points from the central meridian, R = 6381 km.
+/// @param[in]  RW, HW     points [m]
 /// @param[in]  Flaeche    [m2]
+/// @param[in]  Anzahl     number of points
 /// @param[out] Reduziert  [m2]
 /// @return 0; -1 without points or if one does not carry Gauss-Krüger coordinates of the same strip (Rechts
 ///         from 1000000 to below 6000000 with the same first digit, Hoch from 4000000 to below 7000000)

@@ -49,7 +49,7 @@ struct FreieStation {
 };
 
 /// Fits the local system of the instrument to the known points; the station is the image of its origin.
-/// @param[in]  B        observations to the connection points
+/// @param[in]  B  observations to the connection points
 /// @param[in]  Transformationsart  2 scale free (Helmert), 3 scale fixed to 1 (congruent)
 /// @param[out] Station  MK and ML are 0 where there is no redundancy: two points with a free scale, one
 ///                      point. If all local points fall on one spot (also with a single one), the calculation

@@ -25,18 +25,23 @@
 
 namespace tavorena {
 
-inline constexpr double RadJeGrad = std::numbers::pi / 180;  // pi is the same double as Pi()
-inline constexpr double GradJeRad = 180 / std::numbers::pi;
+inline constexpr double RadJeGrad = std::numbers::pi / 180;  ///< pi is the same double as Pi()
+inline constexpr double GradJeRad = 180 / std::numbers::pi;  ///< the reciprocal
 
 /// A series k0 x + k2 sin 2x + k4 sin 4x + k6 sin 6x + k8 sin 8x, as the arc of the meridian has it.
 struct Sinusreihe {
-  double k0 = 0, k2 = 0, k4 = 0, k6 = 0, k8 = 0;
+  double k0 = 0;  ///< of x
+  double k2 = 0;  ///< of sin 2x
+  double k4 = 0;  ///< of sin 4x
+  double k6 = 0;  ///< of sin 6x
+  double k8 = 0;  ///< of sin 8x
   /// The sines alone. Those of the multiples are polynomials in 2 cos 2x, not four calls: an arc of the
   /// meridian moves by less than 1e-11 m.
   [[nodiscard]] double Sinusglieder(double SinX, double CosX) const {
     const double u = 2 * (1 - 2 * SinX * SinX);
     return 2 * SinX * CosX * ((k2 - k6) + u * ((k4 - 2 * k8) + u * (k6 + u * k8)));
   }
+  /// The whole series at x, from x and its sine and cosine.
   [[nodiscard]] double Summe(double x, double SinX, double CosX) const {
     return k0 * x + Sinusglieder(SinX, CosX);
   }
@@ -53,7 +58,8 @@ struct Ellipsoid {
     Fusspunkt = {1, 3.0 / 2 * n * (1 - 9.0 / 16 * n2), n2 / 16 * (21 - 55.0 / 2 * n2), 151.0 / 96 * n3,
                  1097.0 / 512 * n4};
   }
-  double a, b;
+  double a;              ///< large semi-axis [m]
+  double b;              ///< small semi-axis [m]
   double e2;             ///< e'^2 = (a^2 - b^2) / b^2, the second eccentricity squared
   double c;              ///< a^2 / b, radius of curvature at the pole [m]
   double n;              ///< (a - b) / (a + b)
@@ -84,6 +90,7 @@ int EllipsoidAchsen(int Nummer, double& a, double& b);
 [[nodiscard]] int GKStreifen(double Laenge, double& Delta, std::int32_t& Kennziffer);
 
 /// Arc of the meridian from the equator to a latitude.
+/// @param[in] E  the ellipsoid
 /// @param[in] Phi  latitude [rad]
 /// @return the arc [m]; below 0 in the south
 /// Accuracy: 1e-8 m. Source: F. R. Helmert, Die mathematischen und physikalischen Theorieen der höheren
@@ -91,12 +98,14 @@ int EllipsoidAchsen(int Nummer, double& a, double& b);
 double Meridianbogen(const Ellipsoid& E, double Phi);
 
 /// Latitude that belongs to an arc of the meridian: the inverse of Meridianbogen.
+/// @param[in] E  the ellipsoid
 /// @param[in] Bogen  arc from the equator [m]
 /// @return the latitude [rad]; 1e-6 m on the ground. Source: as above.
 double Fusspunktbreite(const Ellipsoid& E, double Bogen);
 
 /// Geographic to Gauss-Krüger coordinates. The point may lie outside the strip; the terms of the sixth order
 /// that are left out grow with the sixth power of DeltaLambda (2 mm at 3.7 degrees).
+/// @param[in]  E            the ellipsoid
 /// @param[in]  Massstab     scale on the central meridian, 1 in Germany
 /// @param[in]  Kennziffer   see GKStreifen
 /// @param[in]  Phi          latitude [rad]
@@ -111,7 +120,8 @@ double Fusspunktbreite(const Ellipsoid& E, double Bogen);
                               double DeltaLambda, double& Rechts, double& Hoch, double& Konvergenz);
 
 /// Gauss-Krüger to geographic coordinates; the strip is the million of Rechts.
-/// @param[in]  Massstab    scale on the central meridian
+/// @param[in]  E         the ellipsoid
+/// @param[in]  Massstab  scale on the central meridian
 /// @param[in]  Rechts,Hoch [m]
 /// @param[out] Breite      latitude [degrees]
 /// @param[out] Laenge      longitude [degrees]
@@ -133,7 +143,9 @@ double Fusspunktbreite(const Ellipsoid& E, double Bogen);
 
 /// UTM to geographic coordinates, the way back of UTMVorwaerts. Its eccentricity is another one on purpose
 /// (see there in the source), which is worth 0.1 mm.
-/// @param[in] Zone  any number; also one beside the zone of the point
+/// @param[in]  Easting, Northing  [m], Easting with 500000
+/// @param[in]  Zone               any number; also one beside the zone of the point
+/// @param[out] Laenge, Breite     [degrees]
 /// @return 0; -1 if a result is not finite
 [[nodiscard]] int UTMRueckwaerts(double Easting, double Northing, std::int32_t Zone, double& Laenge,
                                  double& Breite);

@@ -135,9 +135,9 @@ double HelmertStandardab(const ReduziertePasspunkte& P, double a, double b, std:
 void HelmertRestklaff(const ReduziertePasspunkte& P, double a, double b, std::size_t i, Restklaffen& Klaffen);
 
 /// Fits the similarity by least squares.
-/// @param[in]  P         the passpoints
+/// @param[in]  P  the passpoints
 /// @param[in]  MasstabaenderungZulaessig  false: a and b are divided by M, and M is computed again
-/// @param[in]  Fest      takes the place of the centroids; none in TA
+/// @param[in]  Fest  takes the place of the centroids; none in TA
 /// @param[out] Ergebnis  with two passpoints ("Transformation über Rechenachse") all residuals, MK and ML are
 ///                       0 on purpose, also with a fixed scale or point; WS and D tell the discrepancy then
 /// @return 0; -1 below two passpoints or for columns of different lengths, with all old points on one spot,

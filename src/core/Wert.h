@@ -9,9 +9,11 @@ namespace tavorena {
 
 /// Marks a Wert that was set to "no value", which is not the same as never set.
 struct NullWert {
+  /// All are equal.
   bool operator==(const NullWert&) const = default;
 };
 
+/// State of a Wert, in the order of its alternatives.
 enum class WertArt { Leer, Null, Ganz16, Ganz32, Gleit, Wahr, Text };
 
 /// The tagged value that crosses nearly every interface: a point number may be typed as text or as a
@@ -19,8 +21,12 @@ enum class WertArt { Leer, Null, Ganz16, Ganz32, Gleit, Wahr, Text };
 /// it is never flattened into a double on the way.
 class Wert {
  public:
+  /// Never set.
   Wert() = default;
+  /// Set to no value.
   Wert(NullWert) : Inhalt(NullWert{}) {}
+  /// @{
+  /// Set to a value; a null pointer counts as the empty text.
   Wert(std::int16_t Zahl) : Inhalt(Zahl) {}
   Wert(std::int32_t Zahl) : Inhalt(Zahl) {}
   Wert(double Zahl) : Inhalt(Zahl) {}
@@ -28,10 +34,15 @@ class Wert {
   Wert(std::string Text) : Inhalt(std::move(Text)) {}
   Wert(std::string_view Text) : Inhalt(std::string(Text)) {}
   Wert(const char* Text) : Inhalt(std::string(Text != nullptr ? Text : "")) {}
+  /// @}
 
+  /// The state.
   [[nodiscard]] WertArt Art() const { return static_cast<WertArt>(Inhalt.index()); }
+  /// Never set.
   [[nodiscard]] bool IstLeer() const { return Art() == WertArt::Leer; }
+  /// Set to no value.
   [[nodiscard]] bool IstNull() const { return Art() == WertArt::Null; }
+  /// A text, also an empty one.
   [[nodiscard]] bool IstText() const { return Art() == WertArt::Text; }
   /// Neither empty nor null: there is something to calculate or to write with.
   [[nodiscard]] bool IstGegeben() const { return !IstLeer() && !IstNull(); }
@@ -43,6 +54,7 @@ class Wert {
   /// as "."), 0 if it has none.
   [[nodiscard]] double Zahl() const;
 
+  /// The same state and the same value: 1 and "1" are two things.
   bool operator==(const Wert&) const = default;
 
  private:
