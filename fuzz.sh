@@ -14,11 +14,15 @@ TMPDIR=$(mktemp -d "${TMPDIR:-/tmp}/tavorena-fuzz-XXXXXX")
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 mkdir -p build/fuzz/befunde
-for EINTRAG in kor:4096 lt4:4096 sta:4096 ini:4096 theo:1024 text:512 sortierung:4096; do
+for EINTRAG in kor:4096 lt4:4096 sta:4096 ini:4096 theo:1024 text:512 sortierung:4096 passpunkte:2048 \
+  ta_linien:512 ta_messlinie:512 ta_schnitte:512 ta_einschnitte:512 ta_flaeche:2048 ta_transformation:2048 \
+  ta_stationierung:2048 ta_geo:512; do
   ZIEL=${EINTRAG%:*}
+  SAAT=fuzz/saat/$ZIEL
+  [ -d "$SAAT" ] || SAAT=
   PROTOKOLL=build/fuzz/befunde/$ZIEL.log
   mkdir -p "build/fuzz/korpus/$ZIEL"
-  if ! "build/fuzz/fuzz/fuzz_$ZIEL" "build/fuzz/korpus/$ZIEL" "fuzz/saat/$ZIEL" \
+  if ! "build/fuzz/fuzz/fuzz_$ZIEL" "build/fuzz/korpus/$ZIEL" ${SAAT:+"$SAAT"} \
     -max_total_time="$SEKUNDEN" -max_len="${EINTRAG#*:}" -timeout=10 -rss_limit_mb=2048 \
     -print_final_stats=1 -artifact_prefix="build/fuzz/befunde/$ZIEL-" >"$PROTOKOLL" 2>&1; then
     BEFUND=$(sed -n 's/.*Test unit written to //p' "$PROTOKOLL" | tail -n 1)
