@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Everything that has to hold: formatting, g++ with sanitizers and all tests, clang with clang-tidy, and
-# the build without Qt; warnings are errors. Safe to repeat; only what changed is built again.
+# the build without Qt with the reference; warnings are errors. Safe to repeat; only
+# what changed is built again.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/pakete.sh
 
-pakete_sichern bauen desktop test pruefpaket
+pakete_sichern bauen desktop test pruefpaket beschreibung
 
 schritt() { printf '\n== %s\n' "$1"; }
 
@@ -27,6 +28,9 @@ cmake --build build/headless
 
 schritt "aus einem fremden Programm"
 tests/paket/pruefen.sh build/headless
+
+schritt "Beschreibung"
+cmake --build build/headless --target doc
 
 echo
 echo "Alles in Ordnung."

@@ -11,6 +11,7 @@ pakete_von() {
     test) echo libgtest-dev clang-14 clang-tidy-14 clang-format-14 libproj-dev git ccache python3 ;;
     bench) echo libbenchmark-dev libfmt-dev libfast-float-dev libproj-dev python3 ;;
     pruefpaket) echo pkg-config ;;
+    beschreibung) echo doxygen ;;
     paket) echo dpkg-dev file ;;
     fuzz) echo clang-14 libclang-rt-14-dev ;;
     *) echo "pakete.sh: unknown task $1" >&2; return 1 ;;
