@@ -3,8 +3,8 @@
 
     examples/erzeugen.py [path of tavorena-stapel]
 
-Writes musterdorf.kor and musterdorf.sta beside this file, and musterdorf.dru by replaying the batch file
-when the program is given. The same numbers come out every time: the measuring errors have a fixed seed.
+Writes musterdorf.kor and musterdorf.sta beside this file, the passpoints of python/ to a new survey, and
+musterdorf.dru by replaying the batch file when the program is given. The same numbers come out every time: the measuring errors have a fixed seed.
 """
 import math
 import pathlib
@@ -75,8 +75,21 @@ def punktfeld():
     flurstuecke(1301, 4301, 2, breiten(11), lambda x: -96 - 0.03 * x, -1, 37)
 
 
-def kor():
-    return "".join(f"      {n:8d}   {r:11.3f}   {h:11.3f} {z:11.3f}  {s}\r\n" for n, (r, h, z, s) in sorted(punkte.items()))
+def kor(feld):
+    return "".join(f"      {n:8d}   {r:11.3f}   {h:11.3f} {z:11.3f}  {s}\r\n" for n, (r, h, z, s) in sorted(feld.items()))
+
+
+def passpunkte():
+    """The control points as a new survey found them: shifted, turned by 3 mgon, 12 ppm longer, with errors of a
+    centimetre."""
+    w, m = math.radians(0.0027), 1.000012
+    neu = {}
+    for n in range(101, 113):
+        r, h, z, s = punkte[n]
+        dr, dh = m * (r - URSPRUNG[0]), m * (h - URSPRUNG[1])
+        neu[n] = (URSPRUNG[0] + 0.184 + dr * math.cos(w) + dh * math.sin(w) + ZUFALL.gauss(0, 0.01),
+                  URSPRUNG[1] - 0.327 + dh * math.cos(w) - dr * math.sin(w) + ZUFALL.gauss(0, 0.01), z, s)
+    return neu
 
 
 def block(titel, anfang, zeilen, ende):
@@ -120,8 +133,9 @@ def sta():
 
 def main():
     punktfeld()
-    (HIER / "musterdorf.kor").write_bytes(kor().encode())
+    (HIER / "musterdorf.kor").write_bytes(kor(punkte).encode())
     (HIER / "musterdorf.sta").write_bytes(sta().encode())
+    (HIER / "python" / "passpunkte.kor").write_bytes(kor(passpunkte()).encode())
     if len(sys.argv) > 1:
         dru = HIER / "musterdorf.dru"
         dru.unlink(missing_ok=True)

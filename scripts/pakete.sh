@@ -11,6 +11,7 @@ pakete_von() {
     test) echo libgtest-dev clang-14 clang-tidy-14 clang-format-14 libproj-dev git ccache python3 ;;
     bench) echo libbenchmark-dev libfmt-dev libfast-float-dev libproj-dev python3 ;;
     pruefpaket) echo pkg-config ;;
+    python) echo pybind11-dev python3-dev python3-numpy python3-matplotlib ;;
     beschreibung) echo doxygen ;;
     paket) echo dpkg-dev file ;;
     fuzz) echo clang-14 libclang-rt-14-dev ;;
