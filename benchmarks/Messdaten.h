@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include <tavorena/core/KorDatei.h>
@@ -25,6 +26,9 @@ void TabelleFuellen();
 
 /// The table holds all points, and nothing else, in their order, and no message was shown on the way.
 bool TabelleIstGanz();
+
+/// How often this process has taken memory from the heap.
+std::int64_t Zuteilungen();
 
 /// Processor time of this thread [s]: what other programs do on the machine does not count.
 double Prozessorzeit();
