@@ -40,7 +40,7 @@ double ProduktSumme(std::span<const double> Liste1, std::span<const double> List
 [[nodiscard]] int Regressionsgerade(std::span<const double> X, std::span<const double> Y, int Anzahl,
                                     double& a, double& b);
 
-/// Best-fit line: the longer of two regressions, H on R and R on H. Not an orthogonal regression.
+/// Best-fit line: the longer of two regressions, H on R and R on H; on purpose no orthogonal regression.
 /// @param[in]  Anzahl  number of points
 /// @param[in]  R, H    the points [m]
 /// @param[out] Anf     foot of the point with the least R (fit of H on R) or the least H (fit of R on H) [m]

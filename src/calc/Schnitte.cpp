@@ -10,7 +10,8 @@ namespace {
 
 constexpr double KeinWinkel = -9999;   // mark of the arc cosines
 constexpr double Pruefgrenze = 0.001;  // of the discriminant [m2], below which circle and line touch
-constexpr double Beruehrgrad = 0.5;    // crossing angle [degrees] below which they touch
+// Crossing angle [degrees] below which they touch; the protocol marks one below 0.5 gon: both are meant.
+constexpr double Beruehrgrad = 0.5;
 
 /// Builds a line by a digit of a kind. @return 0; -1 for coinciding points or another digit
 int Bauen(int Ziffer, const Schnittgerade& S, GebauteGerade& G) {
