@@ -5,8 +5,9 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Best-fit line and circle, and the sums that they are made of. Metres; Rechts = east, Hoch = north. Results
-// 0 good, negative failed: all outputs are then untouched. Lists are read from index 0 to Anzahl - 1.
+/// @file
+/// Best-fit line and circle, and the sums that they are made of. Metres; Rechts = east, Hoch = north. Results
+/// 0 good, negative failed: all outputs are then untouched. Lists are read from index 0 to Anzahl - 1.
 
 namespace tavorena {
 

@@ -2,10 +2,11 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Forward intersection (VR 10.00) and resection (VR 11.00). Metres and gon; Rechts = east, Hoch = north;
-// bearings and circle readings clockwise, bearings from north. Results 0 good, negative failed; on failure
-// the record is untouched. No dialog, no file, no table. Input that is not finite gives values that are not
-// finite or a failing result; TA refuses it.
+/// @file
+/// Forward intersection (VR 10.00) and resection (VR 11.00). Metres and gon; Rechts = east, Hoch = north;
+/// bearings and circle readings clockwise, bearings from north. Results 0 good, negative failed; on failure
+/// the record is untouched. No dialog, no file, no table. Input that is not finite gives values that are not
+/// finite or a failing result; TA refuses it.
 
 namespace tavorena {
 

@@ -6,9 +6,10 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Area of a closed boundary of straight edges and circular arcs (VR 65.00). Metres and square metres. Results
-// 0 good, negative failed: all outputs are then untouched. Lists are read from index 0 to Anzahl - 1; a list
-// that is shorter than Anzahl or a negative Anzahl gives -1.
+/// @file
+/// Area of a closed boundary of straight edges and circular arcs (VR 65.00). Metres and square metres.
+/// Results 0 good, negative failed: all outputs are then untouched. Lists are read from index 0 to Anzahl -
+/// 1; a list that is shorter than Anzahl or a negative Anzahl gives -1.
 
 namespace tavorena {
 

@@ -7,11 +7,12 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Free stationing: position, orientation and height of an instrument on an unknown point from polar
-// observations to known points. Metres, gon, Rechts = east, Hoch = north, directions clockwise. No dialog,
-// no file, no table. Accuracy: 1e-8 m for stations with coordinates in the millions.
-// Source: similarity of the polar observations in a local system onto the known points, as in
-// H. Kahmen, Angewandte Geodäsie: Vermessungskunde ("Freie Standpunktwahl").
+/// @file
+/// Free stationing: position, orientation and height of an instrument on an unknown point from polar
+/// observations to known points. Metres, gon, Rechts = east, Hoch = north, directions clockwise. No dialog,
+/// no file, no table. Accuracy: 1e-8 m for stations with coordinates in the millions.
+/// Source: similarity of the polar observations in a local system onto the known points, as in
+/// H. Kahmen, Angewandte Geodäsie: Vermessungskunde ("Freie Standpunktwahl").
 
 namespace tavorena {
 

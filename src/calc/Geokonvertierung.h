@@ -4,24 +4,25 @@
 #include <cstdint>
 #include <numbers>
 
-// Geographic coordinates and the conformal grids of Germany: Gauss-Krüger in 3-degree strips and UTM. Grid
-// coordinates in metres, Rechts and Easting = east, Hoch and Northing = north of the equator; longitudes
-// count from Greenwich, east and north positive. Latitudes are not tested: beyond 90 degrees the series run
-// on over the pole, and next to a pole the way back from the grid has no meaning. Results 0 good, 1 a notice,
-// -1 failed with the outputs untouched. No dialog, no file, no table.
-//
-// Largest differences from the exact projection over Germany (47 to 55.2 N, 5.8 to 15.1 E), found against
-// PROJ [mm in the plane]:
-//
-//                                                         forward   back   there and back
-//   Gauss-Krüger, Bessel of the table, own strip            0.016   0.003   0.019
-//     half a degree beyond the strip (2 degrees)            0.07    0.02    0.09
-//   Gauss-Krüger against the defined Bessel ellipsoid,
-//     whose b is 0.2 mm below that of the table             0.23    0.22
-//   UTM against GRS 80, own zone                            0.11    0.41    0.50
-//     half a degree beyond the zone (3.5 degrees)             -     0.97
-//
-// The convergences keep to 0.0002".
+/// @file
+/// Geographic coordinates and the conformal grids of Germany: Gauss-Krüger in 3-degree strips and UTM. Grid
+/// coordinates in metres, Rechts and Easting = east, Hoch and Northing = north of the equator; longitudes
+/// count from Greenwich, east and north positive. Latitudes are not tested: beyond 90 degrees the series run
+/// on over the pole, and next to a pole the way back from the grid has no meaning. Results 0 good, 1 a
+/// notice, -1 failed with the outputs untouched. No dialog, no file, no table.
+///
+/// Largest differences from the exact projection over Germany (47 to 55.2 N, 5.8 to 15.1 E), found against
+/// PROJ [mm in the plane]:
+/// @verbatim
+///                                                         forward   back   there and back
+///   Gauss-Krüger, Bessel of the table, own strip            0.016   0.003   0.019
+///     half a degree beyond the strip (2 degrees)            0.07    0.02    0.09
+///   Gauss-Krüger against the defined Bessel ellipsoid,
+///     whose b is 0.2 mm below that of the table             0.23    0.22
+///   UTM against GRS 80, own zone                            0.11    0.41    0.50
+///     half a degree beyond the zone (3.5 degrees)             -     0.97
+/// @endverbatim
+/// The convergences keep to 0.0002".
 
 namespace tavorena {
 

@@ -2,6 +2,9 @@
 
 #include <tavorena/core/Winkel.h>
 
+/// @file
+/// Places in the plane, and what all calculations do with them. Metres, gon clockwise from north.
+
 namespace tavorena {
 
 /// A place in the plane [m].

@@ -3,10 +3,11 @@
 #include <tavorena/calc/Lage.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
 
-// Measured line (VR 22.00) and polar points (VR 19.70). Metres; Rechts = east, Hoch = north. Engine functions
-// take directions in Grad form (degrees counter-clockwise from east, see GonNachGrad). Results 0 good,
-// negative failed, positive a notice. No dialog, no file, no table. Accuracy of all functions here: rounding
-// only, 2e-9 m for Gauss-Krüger coordinates and distances up to some kilometres.
+/// @file
+/// Measured line (VR 22.00) and polar points (VR 19.70). Metres; Rechts = east, Hoch = north. Engine
+/// functions take directions in Grad form (degrees counter-clockwise from east, see GonNachGrad). Results 0
+/// good, negative failed, positive a notice. No dialog, no file, no table. Accuracy of all functions here:
+/// rounding only, 2e-9 m for Gauss-Krüger coordinates and distances up to some kilometres.
 
 namespace tavorena {
 

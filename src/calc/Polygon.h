@@ -4,8 +4,9 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Traverse (VR 19.10). Metres and gon; Rechts = east, Hoch = north; bearings clockwise from north, breaking
-// angles clockwise from the backward to the forward side.
+/// @file
+/// Traverse (VR 19.10). Metres and gon; Rechts = east, Hoch = north; bearings clockwise from north, breaking
+/// angles clockwise from the backward to the forward side.
 
 namespace tavorena {
 

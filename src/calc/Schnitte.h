@@ -4,11 +4,12 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Intersections of lines and circles (VR 09.00, 09.40, 23.10) and the circle through three points (VR 09.50).
-// Metres; Rechts = east, Hoch = north; crossing angles in degrees unless a name says gon. Results 0 good,
-// negative failed; for circles the number of points. No dialog, no file, no table. Accuracy: rounding only,
-// 1e-8 m for Gauss-Krüger coordinates where the figures cross above 1 gon; the error grows with the inverse
-// sine of the crossing angle.
+/// @file
+/// Intersections of lines and circles (VR 09.00, 09.40, 23.10) and the circle through three points (VR
+/// 09.50). Metres; Rechts = east, Hoch = north; crossing angles in degrees unless a name says gon. Results 0
+/// good, negative failed; for circles the number of points. No dialog, no file, no table. Accuracy: rounding
+/// only, 1e-8 m for Gauss-Krüger coordinates where the figures cross above 1 gon; the error grows with the
+/// inverse sine of the crossing angle.
 
 namespace tavorena {
 

@@ -7,6 +7,9 @@
 
 #include <tavorena/core/Wert.h>
 
+/// @file
+/// The class TA, the one header of other programs.
+
 /// The calculation package: values, points, calculations.
 namespace tavorena {
 

@@ -2,9 +2,10 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Pure calculations on coordinates. Metres and gon; Rechts = east, Hoch = north; bearings clockwise from
-// north. Results 0 good, negative failed, positive a notice. No dialog, no file, no table. Accuracy of all
-// functions here: rounding only, 1e-8 m for Gauss-Krüger coordinates.
+/// @file
+/// Pure calculations on coordinates. Metres and gon; Rechts = east, Hoch = north; bearings clockwise from
+/// north. Results 0 good, negative failed, positive a notice. No dialog, no file, no table. Accuracy of all
+/// functions here: rounding only, 1e-8 m for Gauss-Krüger coordinates.
 
 namespace tavorena {
 

@@ -7,15 +7,16 @@
 
 #include <tavorena/calc/Lage.h>
 
-// Transformation of plane coordinates by passpoints, points that are known in an old and in a new system:
-// Helmert (similarity, four parameters, scale free or fixed to 1) and affine (six parameters).
-//
-// Metres; RW = Rechts = Y = east, HW = Hoch = X = north. Angles of the results are degrees here, in spite of
-// their names, and are divided by 0.9 by whoever hands them out: deliberate, both steps belong together.
-// Sums run over coordinates reduced to the centroid. Accuracy within the field: 2e-8 m (Helmert) and 1e-7 m
-// (affine) for fields of some kilometres and coordinates of up to eight places.
-// No dialog; only the functions on "the table" touch the point table.
-// Source: C. D. Ghilani, Adjustment Computations, chapter 18; W. Niemeier, Ausgleichungsrechnung.
+/// @file
+/// Transformation of plane coordinates by passpoints, points that are known in an old and in a new system:
+/// Helmert (similarity, four parameters, scale free or fixed to 1) and affine (six parameters).
+///
+/// Metres; RW = Rechts = Y = east, HW = Hoch = X = north. Angles of the results are degrees here, in spite of
+/// their names, and are divided by 0.9 by whoever hands them out: deliberate, both steps belong together.
+/// Sums run over coordinates reduced to the centroid. Accuracy within the field: 2e-8 m (Helmert) and 1e-7 m
+/// (affine) for fields of some kilometres and coordinates of up to eight places.
+/// No dialog; only the functions on "the table" touch the point table.
+/// Source: C. D. Ghilani, Adjustment Computations, chapter 18; W. Niemeier, Ausgleichungsrechnung.
 
 namespace tavorena {
 
