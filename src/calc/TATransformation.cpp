@@ -132,8 +132,6 @@ enmResult TabelleSchreiben(TA& Ta, const std::string& Name, std::int32_t Nachkom
   return Transformiert;
 }
 
-bool NachkommaGut(std::int32_t Nachkomma) { return Nachkomma >= 0 && Nachkomma <= 15; }
-
 }  // namespace
 
 // ---- Helmert ---------------------------------------------------------------------------------------
@@ -233,7 +231,6 @@ enmResult TA::HelmertTransformationKoordinatendateiPasspunktdatei(const std::str
                                                                   const std::string& strPasspunktdateiName,
                                                                   bool bMasstabaenderungZulaessig,
                                                                   std::int32_t lNachkomma) {
-  if (!NachkommaGut(lNachkomma)) return enmResult::Fehler_Allgemein;
   const enmResult Tabelle = TabelleLesen(*this, strKoordinatendateiName);
   if (Tabelle != enmResult::ok) return Tabelle;
   Passpunktdatei D;
@@ -366,7 +363,6 @@ enmResult TA::AffinTransformationAlleKoordinaten(double dParamA10, double dParam
 enmResult TA::AffinTransformationKoordinatendateiPasspunktdatei(const std::string& strKoordinatendateiName,
                                                                 const std::string& strPasspunktdateiName,
                                                                 std::int32_t lNachkomma) {
-  if (!NachkommaGut(lNachkomma)) return enmResult::Fehler_Allgemein;
   const enmResult Tabelle = TabelleLesen(*this, strKoordinatendateiName);
   if (Tabelle != enmResult::ok) return Tabelle;
   Passpunktdatei D;

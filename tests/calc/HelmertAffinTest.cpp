@@ -256,7 +256,9 @@ TEST_F(Transformation, NeupunktUndTabelle) {
     EXPECT_TRUE(Nahe({a, b, c, d}, {4 + 5 * y + 6 * x, 1 + 2 * y + 3 * x, a, b}));
     KorLeeren();
     Punkt("1", x, y, 12.5, "x");
+    KoordinatenGeaendert = false;
     EXPECT_EQ(Ta.HelmertTransformationAlleKoordinaten(10, 20, 10, 20, 1, 0, Rand), Helmert);
+    EXPECT_TRUE(KoordinatenGeaendert);
     EXPECT_EQ(Ta.AffinTransformationAlleKoordinatenSigmamax(10, 20, 0, 1, 0, 0, 0, 1, Rand), Affin);
     EXPECT_EQ(Ta.AffinTransformationAlleKoordinaten(1, 2, 3, 4, 5, 6), ok);
     EXPECT_TRUE(Nahe({KorRechts[0], KorHoch[0], KorHoehe[0]}, {a, b, 12.5}));
@@ -357,6 +359,10 @@ TEST_F(Transformation, DateienBleibenGanz) {
   for (const auto& [K, P] : {std::pair{Ordnername, Pass}, {Kor, Ordnername}})  // there, but not readable
     Versuch(K, P, 3, Fehler, Fehler);
   for (const int Nachkomma : {-1, 16}) Versuch(Kor, Pass, Nachkomma, Fehler, Fehler);
+  const std::string Zuvoll = Zeilen(20001, 0);  // would come back without its last point
+  Schreibe(Kor, Zuvoll);
+  EXPECT_EQ(Ta.HelmertTransformationKoordinatendateiPasspunktdatei(Kor, Pass, true), Zuviele);
+  EXPECT_EQ(Inhalt(Kor), Zuvoll);
   std::filesystem::create_directories(Kor + ".neu~/voll");  // nobody, not even root, can write the new file
   Versuch(Kor, Pass, 3, Fehler, Fehler);
   EXPECT_FALSE(std::filesystem::exists(Weg));
