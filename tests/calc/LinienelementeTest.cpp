@@ -17,6 +17,8 @@ TEST(Linienelemente, Tabelle) {
       {"behind the start", {0, 0}, {0, 100}, {-5, -5}, -5, -5},
       {"Gauss-Krüger, 3-4-5", {3400000, 5700000}, {3400030, 5700040}, {3400023, 5700014}, 25, 10},
       {"negative coordinates", {-30, -40}, {0, 0}, {-30, -40}, 0, 0},
+      // S. L. Loney, The Elements of Coordinate Geometry, 1895, examples on perpendiculars.
+      {"Loney, 4 2/5 off 3x + 4y = 10", {2, 1}, {-2, 4}, {4, 5}, 0.8, 4.4},
   };
   for (const Fall& f : Faelle) {
     SCOPED_TRACE(f.Name);
