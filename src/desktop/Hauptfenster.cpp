@@ -184,8 +184,11 @@ void Hauptfenster::Auffrischen() {
   for (const auto& [E, A] : Eintraege) {
     if (A->isSeparator()) continue;
     A->setVisible(Kern().Sichtbar(*E));
+    QString Titel = QString::fromStdString(Kern().Titel(*E));
+    // A disabled entry leaves its letter to the others, with which Qt would let it take turns.
+    if (!Kern().Aktiv(*E)) Titel.remove('&');
     A->setEnabled(Kern().Aktiv(*E));
-    A->setText(QString::fromStdString(Kern().Titel(*E)));
+    A->setText(Titel);
   }
   for (const auto& [W, A] : Bilder) A->setEnabled(Kern().WerkzeugAktiv(*W));
   ProtokollZeigen();
