@@ -2,6 +2,7 @@
 #include "Testhilfe.h"
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
@@ -21,21 +22,15 @@ void Ordnen(std::vector<std::string>& Nr, std::vector<int>& Begleiter) {
   });
 }
 
+// Nearly all distinct, many duplicates (0 among them), mixed with letters, with commas and letters.
 std::string Zufallsnummer(std::mt19937& Zufall, int Art) {
   const auto n = static_cast<int>(Zufall() % 40);
   const std::string Zahl = std::to_string(n);
-  switch (Art) {
-    case 0:
-      return std::to_string(Zufall());  // numbers, nearly all distinct
-    case 1:
-      return Zahl;  // many duplicates, 0 among them
-    case 2:
-      return n % 3 == 0 ? std::string(1, static_cast<char>('A' + n % 26)) : Zahl;  // mixed
-    case 3:
-      return n % 2 == 0 ? Zahl + "," + std::to_string(n % 7) : Zahl + "A";  // comma and letters
-    default:
-      return n % 4 == 0 ? "A," + Zahl : Zahl + ",5";
-  }
+  if (Art == 0) return std::to_string(Zufall());
+  if (Art == 2 && n % 3 == 0) return {static_cast<char>('A' + n % 26)};
+  if (Art < 3) return Zahl;
+  if (Art == 3) return n % 2 == 0 ? Zahl + "," + std::to_string(n % 7) : Zahl + "A";
+  return n % 4 == 0 ? "A," + Zahl : Zahl + ",5";
 }
 
 TEST(Sortierung, WieDieAbschrift) {
@@ -46,7 +41,7 @@ TEST(Sortierung, WieDieAbschrift) {
     if (Lauf % 3 == 0) std::sort(Nr.begin(), Nr.end());
     std::vector<std::string> Soll = Nr;
     std::vector<int> SollFolge(Nr.size()), Folge;
-    for (std::size_t i = 0; i < Nr.size(); ++i) SollFolge[i] = static_cast<int>(i);
+    std::iota(SollFolge.begin(), SollFolge.end(), 0);
     Ordnen(Soll, SollFolge);
     std::vector<double> Werte;
     bool Komma = false;
@@ -81,10 +76,9 @@ TEST_F(Punkttabelle, NeupunktHaeltOrdnungUndSpalten) {
     ASSERT_EQ(KorAnzahl, static_cast<int>(Soll.size()));
     for (int z = 0; z < KorAnzahl; ++z) {
       const auto s = static_cast<std::size_t>(z);
-      ASSERT_EQ(KorPnr(z), Soll[s]);
-      ASSERT_EQ(KorRechts[s], Begleiter[s]);
-      ASSERT_EQ(KorSymbol[s], std::to_string(Begleiter[s]));
-      ASSERT_EQ(KorInfo[s].Punktart, Begleiter[s]);
+      const int B = Begleiter[s];
+      ASSERT_EQ(Reihe(KorPnr(z), KorRechts[s], KorHoch[s], KorHoehe[s], KorSymbol[s], KorInfo[s].Punktart),
+                Reihe(Soll[s], B, 2 * B, 3 * B, B, B));
       const int Gefunden = KorSuche(std::string_view(Soll[s]));
       ASSERT_TRUE(Gefunden >= 0 && KorPnr(Gefunden) == Soll[s]);
     }
@@ -93,32 +87,24 @@ TEST_F(Punkttabelle, NeupunktHaeltOrdnungUndSpalten) {
 
 TEST_F(Punkttabelle, OrdnungVonZahlenUndTexten) {
   for (const char* Pnr : {"10", "2", "1,5"}) Punkt(Pnr, 1, 1);
-  EXPECT_EQ(KorPnr(0), "1.5");  // the comma has become a point
-  EXPECT_EQ(KorPnr(1), "2");
-  EXPECT_GE(KorSuche(Wert(1.5)), 0);
-  EXPECT_GE(KorSuche(Wert(" 10\t")), 0);
-  EXPECT_LT(KorSuche(Wert("1,5")), 0);
-  EXPECT_LT(KorSuche(Wert("010")), 0);
+  EXPECT_EQ(Reihe(KorPnr(0), KorPnr(1)), "1.5|2");  // the comma has become a point
+  EXPECT_EQ(Reihe(KorSuche(Wert(1.5)), KorSuche(Wert(" 10\t")), KorSuche(Wert("1,5")), KorSuche(Wert("010"))),
+            "0|2|-1|-1");
 }
 
-struct Antwortfall {
-  const char* Wort;
-  int Code;
-  int Anzahl;
-  const char* Pnr;  // number handed back
-  double Rechts;    // of the result
-  const char* AlterPnr;
-  double ZeileRechts;  // of point 5 in the table
-  double ZeileHoehe;
-};
-
 TEST_F(Punkttabelle, SiebenAntworten) {
-  const Antwortfall Faelle[] = {
-      {"ABB", -1, 1, "5", 104, "", 100, 10},   {"ALÖ", 1, 1, "5", 104, "", 104, 12.5},
-      {"MIT", 2, 1, "5", 102, "", 102, 11.25}, {"ANN", 3, 2, "5", 100, "77", 104, 12.5},
-      {"NLÖ", 11, 1, "5", 100, "", 100, 10},   {"NNN", 13, 2, "77", 104, "5", 100, 10},
+  struct Fall {
+    const char* Wort;
+    int Code;
+    const char* Soll;   // points, number handed back, Rechts of the result, number of the old point
+    const char* Zeile;  // Rechts, height and symbol of point 5 in the table
   };
-  for (const Antwortfall& f : Faelle) {
+  constexpr Fall Faelle[] = {
+      {"ABB", -1, "1|5|104|", "100|10|015"},   {"ALÖ", 1, "1|5|104|", "104|12.5|020"},
+      {"MIT", 2, "1|5|102|", "102|11.25|015"}, {"ANN", 3, "2|5|100|77", "104|12.5|020"},
+      {"NLÖ", 11, "1|5|100|", "100|10|015"},   {"NNN", 13, "2|77|104|5", "100|10|015"},
+  };
+  for (const Fall& f : Faelle) {
     SCOPED_TRACE(f.Wort);
     KorLeeren();
     Punkt("5", 100, 200, 10, "015");
@@ -134,57 +120,39 @@ TEST_F(Punkttabelle, SiebenAntworten) {
     Wert Pnr("5");
     NeupunktErgebnis E;
     EXPECT_EQ(Neupunkt(Pnr, 104, 196, 12.5, "020", nullptr, E), f.Code);
-    EXPECT_EQ(Gefragt, 2);
-    EXPECT_EQ(Gemittelt, f.Code == 2 ? 1 : 0);
-    EXPECT_EQ(KorAnzahl, f.Anzahl);
-    EXPECT_EQ(Pnr, Wert(f.Pnr));
-    EXPECT_EQ(E.DeltaRechts, 4);
-    EXPECT_EQ(E.DeltaHoch, -4);
-    EXPECT_EQ(E.Rechts, f.Rechts);
-    EXPECT_EQ(E.AlterPnr, f.AlterPnr);
+    EXPECT_EQ(Reihe(Gefragt, Gemittelt, E.DeltaRechts, E.DeltaHoch), f.Code == 2 ? "2|1|4|-4" : "2|0|4|-4");
+    EXPECT_EQ(Reihe(KorAnzahl, Pnr.Text(), E.Rechts, E.AlterPnr), f.Soll);
     const auto z = static_cast<std::size_t>(KorSuche(Wert("5")));
-    EXPECT_EQ(KorRechts[z], f.ZeileRechts);
-    EXPECT_EQ(KorHoehe[z], f.ZeileHoehe);
-    EXPECT_EQ(KorSymbol[z], f.ZeileRechts == 104 ? "020" : "015");
+    EXPECT_EQ(Reihe(KorRechts[z], KorHoehe[z], KorSymbol[z]), f.Zeile);
   }
 }
 
 TEST_F(Punkttabelle, MittelDerHoehe) {
-  struct Fall {
-    double Alt;
-    Wert Neu;
-    double Soll;
-  };
-  const Fall Faelle[] = {
-      {0, 12.5, 12.5}, {10, 12.5, 11.25}, {10, NullWert{}, 10}, {10, 0.0, 10}, {0, NullWert{}, 0}};
   Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"MIT", ""}; };
-  for (const Fall& f : Faelle) {
+  using Fall = std::tuple<double, Wert, double>;  // old, new, mean
+  for (const auto& [Alt, Neu, Soll] : {Fall{0, 12.5, 12.5}, Fall{10, 12.5, 11.25}, Fall{10, NullWert{}, 10},
+                                       Fall{10, 0.0, 10}, Fall{0, NullWert{}, 0}}) {
     KorLeeren();
-    Punkt("5", 0, 0, f.Alt);
+    Punkt("5", 0, 0, Alt);
     Wert Pnr(5);
     NeupunktErgebnis E;
-    EXPECT_EQ(Neupunkt(Pnr, 0, 0, f.Neu, "020", nullptr, E), 2);
-    EXPECT_EQ(KorHoehe[0], f.Soll);
+    EXPECT_EQ(Neupunkt(Pnr, 0, 0, Neu, "020", nullptr, E), 2);
+    EXPECT_EQ(KorHoehe[0], Soll);
     EXPECT_EQ(KorSymbol[0], "020");  // only an empty symbol takes the new one
   }
 }
 
 TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
   NeupunktErgebnis E;
-  Wert Leer, Null = NullWert{}, Blank("  ");
-  EXPECT_EQ(Neupunkt(Leer, 1, 1, 0, "", nullptr, E), -1);
-  EXPECT_EQ(Neupunkt(Null, 1, 1, 0, "", nullptr, E), -1);
-  EXPECT_EQ(Neupunkt(Blank, 1, 1, 0, "", nullptr, E), -1);
+  for (Wert Keine : {Wert(), Wert(NullWert{}), Wert("  ")})
+    EXPECT_EQ(Neupunkt(Keine, 1, 1, 0, "", nullptr, E), -1);
   EXPECT_EQ(KorAnzahl, 0);
   for (int i = 0; i < KorZeilen; ++i) KorPnrSetzen(i, std::to_string(i + 1));
   KorAnzahl = KorZeilen;
   for (const char* Wort : {"Neupunkt", "Neupunkt", "KorEinfuegen"})
     Skript.Erwarte(std::string("Fehler 9 in Koordinatenmodul.") + Wort);
-  Wert Pnr("99999");
-  EXPECT_EQ(Neupunkt(Pnr, 1, 1, 0, "", nullptr, E), -1);
   Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"ANN", "99999"}; };
-  Wert Alt("7");
-  EXPECT_EQ(Neupunkt(Alt, 1, 1, 0, "", nullptr, E), -1);
+  for (Wert Pnr : {Wert("99999"), Wert("7")}) EXPECT_EQ(Neupunkt(Pnr, 1, 1, 0, "", nullptr, E), -1);
   EXPECT_EQ(KorPnr(6), "7");  // the table is as before
   KorEinfuegen(3, "x", 1, 1, 1, "", {});
   EXPECT_EQ(KorAnzahl, KorZeilen);
@@ -200,8 +168,7 @@ TEST_F(Punkttabelle, KorFindFragtBisDerPunktDaIst) {
     return Gefragt == 3 ? -1 : 1;
   };
   EXPECT_EQ(KorFind(Pnr), 0);
-  EXPECT_EQ(Pnr, Wert("12"));
-  EXPECT_EQ(Gefragt, 2);
+  EXPECT_EQ(Reihe(Pnr.Text(), Gefragt), "12|2");
 }
 
 TEST_F(Punkttabelle, LoeschenUndEinfuegen) {
@@ -210,50 +177,36 @@ TEST_F(Punkttabelle, LoeschenUndEinfuegen) {
   for (int i = 1; i <= 6; ++i) Punkt(std::to_string(i).c_str(), i, i, i, std::to_string(i).c_str());
   KorBereichLoeschen(2, 9);
   KorBereichLoeschen(-1, 2);
-  EXPECT_EQ(KorLoeschen(6) + KorLoeschen(-1), -2);
-  EXPECT_EQ(KorAnzahl, 6);
+  EXPECT_EQ(Reihe(KorLoeschen(6), KorLoeschen(-1), KorAnzahl), "-1|-1|6");
   KorBereichLoeschen(1, 2);
-  EXPECT_EQ(KorPnr(1), "4");
-  EXPECT_EQ(KorSymbol[1], "2");  // symbols do not follow here
+  EXPECT_EQ(Reihe(KorPnr(1), KorSymbol[1]), "4|2");  // symbols do not follow here
   EXPECT_EQ(KorLoeschen(0), 0);
-  EXPECT_EQ(KorPnr(0), "4");
-  EXPECT_EQ(KorSymbol[0], "2");  // here they do
+  EXPECT_EQ(Reihe(KorPnr(0), KorSymbol[0]), "4|2");  // here they do
   KorInfo[1].Entstehung = "alt";
-  Koordinatendateiformat = 0;
   KorEinfuegen(1, 45, 9, 9, 9, "neu", {});
-  EXPECT_EQ(KorPnr(1), "45");
-  EXPECT_EQ(KorInfo[1].Entstehung, "alt");  // attributes only for EDBS and LT4
-  EXPECT_EQ(KorSuche(Wert("6")), 3);
-  EXPECT_EQ(Skript.Status[1], "4 Punkte");
+  EXPECT_EQ(Reihe(KorPnr(1), KorInfo[1].Entstehung), "45|alt");  // attributes only for EDBS and LT4
+  EXPECT_EQ(Reihe(KorSuche(Wert("6")), Skript.Status[1]), "3|4 Punkte");
 }
 
 TEST_F(Punkttabelle, BereichSucheVerschieben) {
   double a = 0, b = 0, c = 0, d = 0;
   KorBereich(a, b, c, d);
-  EXPECT_EQ(a, 999999999.999);
-  EXPECT_EQ(c, -99999999.999);
+  EXPECT_EQ(Reihe(a, b, c, d), "999999999.999|999999999.999|-99999999.999|-99999999.999");
   EXPECT_EQ(KorBereichSuche(1, 9, -1), -3);
   for (const char* Pnr : {"10", "12A", "14", "20"}) Punkt(Pnr, std::stod(Pnr), 100, 7);
-  EXPECT_EQ(KorBereichSuche("11", "15", -1), 1);
-  EXPECT_EQ(KorBereichSuche("11", "15", 1), 2);
-  EXPECT_EQ(KorBereichSuche("11", "15", 2), -1);
-  EXPECT_EQ(KorBereichSuche("11", "15", 3), -3);
-  const double Soll[4][3] = {{-9, 102, 10}, {102, -9, 10}, {-9, 10, 102}, {10, 102, -9}};
+  constexpr int Naechste[] = {1, 1, 2, -1, -3};
+  for (int Start = -1; Start <= 3; ++Start)
+    EXPECT_EQ(KorBereichSuche("11", "15", Start), Naechste[Start + 1]);
+  const char* const Soll[] = {"-9|102|10", "102|-9|10", "-9|10|102", "10|102|-9"};
   for (int Tausch = 0; Tausch < 4; ++Tausch) {
-    KorRechts[0] = 10;
-    KorHoch[0] = 100;
-    KorHoehe[0] = 7;
+    KorRechts[0] = 10, KorHoch[0] = 100, KorHoehe[0] = 7;
     KorVerschieben(1, 2, 3, 1, 0, 0, Tausch);
-    EXPECT_EQ((std::vector{KorRechts[0], KorHoch[0], KorHoehe[0]}),
-              (std::vector<double>(Soll[Tausch], Soll[Tausch] + 3)));
+    EXPECT_EQ(Reihe(KorRechts[0], KorHoch[0], KorHoehe[0]), Soll[Tausch]);
   }
   std::vector<int> Indizes;
   const std::vector<std::string> Liste{"1", " 2", "2", "2"};
-  EXPECT_EQ(ListeFind("2", Liste, 4), 1);
-  EXPECT_EQ(ListeFind("2", Liste, 1), -1);
-  EXPECT_EQ(ListeFindAlle(Liste, 4, "2", Indizes), 3);
-  EXPECT_EQ(ListeFindAlle(Liste, 4, "2", Indizes, 2), -2);
-  EXPECT_EQ(ListeFindAlle(Liste, 4, "9", Indizes), -1);
+  EXPECT_EQ(Reihe(ListeFind("2", Liste, 4), ListeFind("2", Liste, 1)), "1|-1");
+  EXPECT_EQ(Reihe(ListeFindAlle(Liste, 4, "2", Indizes), ListeFindAlle(Liste, 4, "2", Indizes, 2)), "3|-2");
 }
 
 TEST(TVDialog, Texte) {

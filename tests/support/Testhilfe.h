@@ -3,6 +3,7 @@
 #include <deque>
 #include <filesystem>
 #include <functional>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -30,6 +31,16 @@ class Testordner {
 
 std::string Inhalt(const std::string& Datei);
 void Schreibe(const std::string& Datei, std::string_view Bytes);
+
+/// The values in one line, "|" between them.
+template <typename... T>
+std::string Reihe(const T&... Werte) {
+  std::ostringstream Text;
+  Text.precision(15);
+  const char* Trenner = "";
+  ((Text << std::exchange(Trenner, "|") << Werte), ...);
+  return Text.str();
+}
 
 /// Compares with an approved file beside the tests, byte for byte. With TAVORENA_SOLL_NEU=1 the new text is
 /// taken over and the test still fails, so that the change is looked at.
