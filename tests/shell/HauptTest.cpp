@@ -10,24 +10,18 @@ using Haupt = Shelltest;
 
 TEST_F(Haupt, DateiLesenNimmtDieDateienDaneben) {
   Oeffne();
-  EXPECT_EQ(KorAnzahl, 3);
-  EXPECT_EQ(ProtokolldateiName, Ordner.Pfad("a.dru"));
-  EXPECT_EQ(StapeldateiName, Ordner.Pfad("a.sta"));
-  EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("a.kor"));
-  EXPECT_EQ(Skript.Status[0], "   " + Ordner.Pfad("a.kor") + "   ");
-  EXPECT_EQ(Skript.Status[1] + "|" + Skript.Status[2], "3 Punkte|Version: 2.2");
-  EXPECT_EQ(Historie[0].Dateiname, Ordner.Pfad("a.kor"));
-  EXPECT_EQ(Optionen.VerzeichnisLetztes, Ordner.Pfad(""));
+  EXPECT_EQ(Reihe(KorAnzahl, ProtokolldateiName, StapeldateiName), Reihe(3, A_dru, Ordner.Pfad("a.sta")));
+  EXPECT_EQ(Reihe(Skript.Fenstertitel, Skript.Status[0], Skript.Status[1], Skript.Status[2]),
+            Reihe("Tavorena    " + A_kor, "   " + A_kor + "   ", "3 Punkte", "Version: 2.2"));
+  EXPECT_EQ(Reihe(Historie[0].Dateiname, Optionen.VerzeichnisLetztes), Reihe(A_kor, Ordner.Pfad("")));
   EXPECT_EQ(Skript.Auftraege[0].Titel, "Koordinatendatei zum Lesen auswählen");
   // Every change of file asks, even when nothing changed; cancel leaves everything.
-  Skript.Erwarte("Koordinaten in Koordinatendatei\n\n" + Ordner.Pfad("a.kor") + "\n\nspeichern ? ",
-                 KnopfAbbruch);
+  Skript.Erwarte("Koordinaten in Koordinatendatei\n\n" + A_kor + "\n\nspeichern ? ", KnopfAbbruch);
   Befehl("MenüDateiSchließen");
   EXPECT_EQ(KorAnzahl, 3);
   Skript.Erwarte("speichern ? ", KnopfNein);
   Befehl("MenüDateiSchließen");
-  EXPECT_EQ(KorAnzahl, 0);
-  EXPECT_EQ(KoordinatendateiName + ProtokolldateiName + StapeldateiName, "");
+  EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName, ProtokolldateiName, StapeldateiName), "0|||");
 }
 
 TEST_F(Haupt, Menuezustaende) {
@@ -39,9 +33,8 @@ TEST_F(Haupt, Menuezustaende) {
   Oeffne();
   EXPECT_TRUE(Aktiv("MenüMain(4)") && Aktiv("MenüKatasterLinel") && BildAktiv("ImageVR2440") &&
               Sichtbar("MenüMain(5)"));
-  EXPECT_FALSE(Aktiv("MenüKatasterOrtho") ||
-               BildAktiv("ImageVR2200"));  // their calculation does not exist yet
-  EXPECT_TRUE(Sichtbar("MenüDateiHist(1)") || !Aktiv("MenüDateiHist(1)"));
+  // There is no calculation behind the first two yet.
+  EXPECT_FALSE(Aktiv("MenüKatasterOrtho") || BildAktiv("ImageVR2200") || Aktiv("MenüDateiHist(1)"));
   EXPECT_TRUE(BildAktiv("ImageDateiLesen") && BildAktiv("ImageProgrammende") && BildAktiv("ImageOptionen"));
   Optionen.AbfrageRiss = false;
   Befehl("MenüKatasterPolel");
@@ -58,71 +51,58 @@ TEST_F(Haupt, Menuezustaende) {
 }
 
 TEST_F(Haupt, VorhandenesProtokollFragt) {
-  const std::string Dru = Ordner.Pfad("a.dru");
-  Schreibe(Dru, "alt\r\n");
-  Skript.Formulare.push_back(Bediene({{"Knopf(0)", ""}}));
   Oeffne();
-  EXPECT_EQ(Inhalt(ProtokolldateiName), "alt\r\n");
-  Skript.Erwarte("speichern ? ", KnopfNein);
-  Skript.Formulare.push_back(Bediene({{"Knopf(1)", ""}}));
-  Oeffne();
-  EXPECT_FALSE(DateiVorhanden(Dru));
-  Schreibe(Dru, "alt\r\n");
-  Skript.Erwarte("speichern ? ", KnopfNein);
-  Skript.Formulare.push_back(Bediene({{"Knopf(2)", ""}}));
-  Skript.Dateien = {Ordner.Pfad("a.kor"), Ordner.Pfad("neu")};
-  Befehl("MenüDateiLesen(0)");
-  EXPECT_EQ(ProtokolldateiName, Ordner.Pfad("neu.dru"));
-  Skript.Erwarte("speichern ? ", KnopfNein);
-  Skript.Formulare.push_back(Bediene({{"Knopf(2)", ""}}));
-  Skript.Dateien = {Ordner.Pfad("a.kor"), ""};
-  Befehl("MenüDateiLesen(0)");
-  EXPECT_EQ(KorAnzahl, 0);  // cancelled: no coordinates
-  EXPECT_FALSE(Aktiv("MenüKatasterLinel"));
-  EXPECT_EQ(Inhalt(Dru), "alt\r\n");
+  struct Fall {
+    int Antwort;
+    std::deque<std::string> Anderes;  // chosen in its dialog
+    std::string Protokoll, Inhalt;
+    int Punkte;  // then
+  };
+  for (const Fall& f : {Fall{0, {}, A_dru, "alt\r\n", 3}, Fall{1, {}, A_dru, "", 3},
+                        Fall{2, {Ordner.Pfad("neu")}, Ordner.Pfad("neu.dru"), "alt\r\n", 3},
+                        Fall{2, {""}, "", "alt\r\n", 0}}) {  // cancelled: no coordinates
+    Schreibe(A_dru, "alt\r\n");
+    Skript.Erwarte("speichern ? ", KnopfNein);
+    Knopf(f.Antwort);
+    Skript.Dateien = f.Anderes;
+    Skript.Dateien.push_front(A_kor);
+    Befehl("MenüDateiLesen(0)");
+    EXPECT_EQ(Reihe(ProtokolldateiName, Inhalt(A_dru), KorAnzahl), Reihe(f.Protokoll, f.Inhalt, f.Punkte));
+    EXPECT_EQ(Aktiv("MenüKatasterLinel"), f.Punkte > 0);
+  }
 }
 
 TEST_F(Haupt, MisslungenesLesenLaesstDenTitelStehen) {
-  Skript.Dateien = {Ordner.Pfad("fehlt.kor")};
   Skript.Erwarte("nicht vorhanden !");
-  Befehl("MenüDateiLesen(0)");
+  Befehl("MenüDateiLesen(0)", Ordner.Pfad("fehlt.kor"));
   EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("fehlt.kor"));
-  EXPECT_EQ(KoordinatendateiName, "");
-  EXPECT_FALSE(Aktiv("MenüKatasterLinel"));
-  EXPECT_EQ(Historie[0].Dateiname, "");
   Schreibe(Ordner.Pfad("a.eds"), "x");
-  Skript.Dateien = {Ordner.Pfad("a.eds")};
   Skript.Erwarte("Das Format der Datei wird nicht gelesen");
-  Befehl("MenüDateiLesen(0)");
-  Skript.Dateien = {""};
-  Befehl("MenüDateiNeu");
-  EXPECT_EQ(KoordinatendateiName, "");
+  Befehl("MenüDateiLesen(0)", Ordner.Pfad("a.eds"));
+  Befehl("MenüDateiNeu", "");
+  EXPECT_EQ(Reihe(KoordinatendateiName, Historie[0].Dateiname), "|");
+  EXPECT_FALSE(Aktiv("MenüKatasterLinel"));
 }
 
 TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
-  Skript.Dateien = {Ordner.Pfad("neu")};
-  Befehl("MenüDateiNeu");
-  EXPECT_EQ(KoordinatendateiName, Ordner.Pfad("neu.kor"));
+  Befehl("MenüDateiNeu", Ordner.Pfad("neu"));
   Punkt("7", 1, 2, 3, "015");
   Befehl("MenüDateiSpeichern(0)");
   EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")),
             "             7         1.000         2.000       3.000  015\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
-  Skript.Dateien = {Ordner.Pfad("b.lt4")};
-  Befehl("MenüDateiSpeichernUnter");
-  EXPECT_EQ(Koordinatendateiformat, 2);
+  Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
   EXPECT_TRUE(Inhalt(Ordner.Pfad("b.lt4")).starts_with("000 45590000000007"));
   // An existing file can be extended: the table then holds all of it.
-  Schreibe(Ordner.Pfad("c.kor"),
-           "S\xFC"
-           "d1 1.0 2 3");
-  Skript.Dateien = {Ordner.Pfad("c.kor")};
-  Skript.Formulare.push_back(Bediene({{"Knopf(0)", ""}}));
-  Befehl("MenüDateiSpeichernUnter");
+  const std::string Alt =
+                        "S\xFC"
+                        "d1 1.0 2 3",
+                    Datei = Ordner.Pfad("c.kor");
+  Schreibe(Datei, Alt);
+  Knopf(0);
+  Befehl("MenüDateiSpeichernUnter", Datei);
   EXPECT_EQ(KorAnzahl, 2);
-  EXPECT_TRUE(Inhalt(Ordner.Pfad("c.kor"))
-                  .starts_with("S\xFC"
-                               "d1 1.0 2 3\r\n      "));
+  EXPECT_TRUE(Inhalt(Datei).starts_with(Alt + "\r\n      "));
   KoordinatendateiName = Ordner.Pfad("fehlt/x.kor");
   Skript.Erwarte("Fehler aufgetreten beim Speichern der Datei " + KoordinatendateiName);
   EXPECT_EQ(HauptDateiSpeichern(), -1);
@@ -132,88 +112,66 @@ TEST_F(Haupt, Hinzulesen) {
   Oeffne();
   const std::string Datei = Ordner.Pfad("h.kor");
   Schreibe(Datei, "1001 9.0 9\r\n3001 1.0 1\r\n3002 1.0 1\r\n3003 1.0 1\r\n");
-  Skript.Dateien = {Datei, Datei, Datei, Datei};
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "3002\n"}, {"Wert(1)", "3003\n"}}));
-  Befehl("MenüDateiHinzuLesenPunktbereich");
+  Befehl("MenüDateiHinzuLesenPunktbereich", Datei);
   EXPECT_EQ(KorAnzahl, 5);
-  Befehl("MenüDateiHinzuLesenNurNeue");
-  EXPECT_EQ(KorAnzahl, 6);
-  EXPECT_EQ(KorRechts[0], 3500100);
+  Befehl("MenüDateiHinzuLesenNurNeue", Datei);
+  EXPECT_EQ(Reihe(KorAnzahl, KorRechts[0]), "6|3500100");
   Skript.Formulare.push_back(Bediene({{"PSelectGitter", "\n"}, {"OK", ""}}));  // Return marks the first
-  Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
-  Befehl("MenüDateiHinzuLesenPunktselektion");
+  for (int i = 0; i < 2; ++i) Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
+  Befehl("MenüDateiHinzuLesenPunktselektion", Datei);
   EXPECT_EQ(KorAnzahl, 7);
-  Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
-  Befehl("MenüDateiHinzuLesenKomplett");
+  Befehl("MenüDateiHinzuLesenKomplett", Datei);
   EXPECT_EQ(KorAnzahl, 11);
-  EXPECT_TRUE(KoordinatenGeaendert);
 }
 
-TEST_F(Haupt, OffenerStapelblockHaeltAndereBlaetterZurueck) {
-  Oeffne();
-  Optionen.AbfrageRiss = false;
-  Befehl("MenüKatasterLinel");
-  StapelKopfLinie("VR 24.40 Linienelemente", "1001", 0, "1002", 0);
-  Befehl("MenüKatasterDis");
-  EXPECT_EQ(Skript.Status[4], "   Stapel noch nicht abgeschlossen   ");
-  Befehl("MenüDateiStapel");
-  EXPECT_TRUE(StapelSchreibenOffen());
-  StapelEnde(true);
-}
-
-TEST_F(Haupt, StapelUeberDasMenue) {
+TEST_F(Haupt, StapelUeberDasMenueUndOffenerBlock) {
   Oeffne();
   const std::string Sta = Ordner.Pfad("lauf.sta");
   Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 65.00 x\r\nE\r\n");
-  Skript.Dateien = {Sta};
-  Befehl("MenüDateiStapel");
+  Befehl("MenüDateiStapel", Sta);
   EXPECT_FALSE(StapelAktiv || BlaetterOffen());
   EXPECT_EQ(Skript.Status[4], "   Stapel beendet: 1 Blöcke, 1 Zeilen, übergangen: 65.00   ");
   EXPECT_FALSE(DateiVorhanden(StapeldateiName));
+  StapelKopfLinie("VR 24.40 Linienelemente", "1001", 0, "1002", 0);
+  for (const char* Name : {"MenüKatasterDis", "MenüDateiStapel"}) {  // an open block holds them back
+    Skript.Status[4].clear();
+    Befehl(Name);
+    EXPECT_EQ(Skript.Status[4], "   Stapel noch nicht abgeschlossen   ");
+  }
+  EXPECT_FALSE(BlaetterOffen());
 }
 
-TEST_F(Haupt, BeendenFragtUndSichert) {
+TEST_F(Haupt, BeendenSichert) {
   Oeffne();
   Punkt("7", 1, 2);
-  Skript.Erwarte("Tavorena beenden ?", KnopfNein);
-  EXPECT_EQ(HauptBeenden(), -1);
-  Skript.Erwarte("Tavorena beenden ?", KnopfJa);
-  Skript.Erwarte("speichern ? ", KnopfAbbruch);
-  EXPECT_EQ(HauptBeenden(), -1);
-  EXPECT_EQ(KorAnzahl, 4);
   Skript.Erwarte("Tavorena beenden ?", KnopfJa);
   Skript.Erwarte("speichern ? ", KnopfJa);
   EXPECT_EQ(HauptBeenden(), 0);
-  EXPECT_TRUE(Inhalt(Ordner.Pfad("a.kor")).starts_with("             7 "));
+  EXPECT_TRUE(Inhalt(A_kor).starts_with("             7 "));
 }
 
-TEST_F(Haupt, ProtokollwechselUndAnsicht) {
+TEST_F(Haupt, ProtokollwechselAnsichtUndTextErsetzen) {
   Oeffne();
-  Skript.Dateien = {""};
-  Befehl("MenüDateiProtokoll");
-  EXPECT_EQ(ProtokolldateiName, Ordner.Pfad("a.dru"));  // cancel changes nothing
-  Skript.Dateien = {Ordner.Pfad("p.dru")};
-  Befehl("MenüDateiProtokoll");
-  EXPECT_EQ(ProtokolldateiName, Ordner.Pfad("p.dru"));
-  EXPECT_EQ(Skript.Auftraege.back().Zusatz, "kein Protokoll");
+  Befehl("MenüDateiProtokoll", "");
+  EXPECT_EQ(ProtokolldateiName, A_dru);  // cancel changes nothing
+  Befehl("MenüDateiProtokoll", Ordner.Pfad("p.dru"));
+  EXPECT_EQ(Reihe(ProtokolldateiName, Skript.Auftraege.back().Zusatz),
+            Ordner.Pfad("p.dru") + "|kein Protokoll");
   Optionen.DateinameEditorNT = "ed";
   Befehl("MenüAnsichtKoordinatendatei");
-  EXPECT_EQ(Skript.Gestartet.back(), "ed|" + Ordner.Pfad("a.kor"));
-}
-
-TEST_F(Haupt, TextErsetzen) {
-  Oeffne();
+  EXPECT_EQ(Skript.Gestartet.back(), "ed|" + A_kor);
   const std::string Datei = Ordner.Pfad("t.txt");
   Schreibe(Datei, "M\xFCller, M\xFCller");
   for (const auto& [Such, Meldung] :
-       {std::pair{"Müller", "2 mal \"Müller\" durch \"Maier\"\n" + Datei + "\nersetzt"},
+       {std::pair{"Müller", "2 mal \"Müller\" durch \"Müllerin\"\n" + Datei + "\nersetzt"},
         std::pair{"Huber", "Kein Eintrag \"Huber\"\n" + Datei + "\ngefunden"}}) {
     Skript.Formulare.push_back(
-        Bediene({{"Wert(0)", Datei}, {"Wert(1)", Such}, {"Wert(2)", "Maier"}, {"OK", ""}}));
+        Bediene({{"Wert(0)", Datei}, {"Wert(1)", Such}, {"Wert(2)", "Müllerin"}, {"OK", ""}}));
     Skript.Erwarte(Meldung);
     Befehl("MenüFunktErsetzen");
   }
-  EXPECT_EQ(Inhalt(Datei), "Maier, Maier");
+  EXPECT_EQ(Inhalt(Datei), "M\xFCllerin, M\xFCllerin");
 }
 
 TEST_F(Haupt, AllgemeineDialoge) {
@@ -225,11 +183,11 @@ TEST_F(Haupt, AllgemeineDialoge) {
     Form.TasteDruecken(Taste::Return);
   });
   EXPECT_EQ(DateiVorhandenFrage(Lang), -1);
-  Skript.Formulare.push_back(Bediene({{"Knopf(1)", ""}}));
+  Knopf(1);
   EXPECT_EQ(PunktVorhandenFrage("12"), 1);
-  Skript.Formulare.push_back(Bediene({{"Knopf(2)", ""}}));
+  Knopf(2);
   EXPECT_EQ(PunktVorhandenOrientierungFrage("12"), 2);
-  std::string Wert = "0.01";
+  std::string Wert = "0.01", Verzeichnis = Ordner.Pfad("");
   Skript.Formulare.push_back([](Formular& Form) {
     Form.Oeffnen();
     Form.TasteDruecken(Taste::Escape);
@@ -241,11 +199,10 @@ TEST_F(Haupt, AllgemeineDialoge) {
   Wertfeld Felder[] = {{"a", "", 7, 2}, {"b", "", 7, 3}, {"c", ""}};
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "1,5\n2.0005\nx\n"}}));
   EXPECT_EQ(DreiWerte("T", Felder), 0);
-  EXPECT_EQ(Felder[0].Wert + Felder[1].Wert + Felder[2].Wert, "1.502.001x");
-  std::string Verzeichnis = Ordner.Pfad("");
-  Skript.Formulare.push_back(Bediene({{"Wert(0)", "/gibt es nicht\n"}}));
+  EXPECT_EQ(Reihe(Felder[0].Wert, Felder[1].Wert, Felder[2].Wert), "1.50|2.001|x");
+  for (const char* Getippt : {"/gibt es nicht\n", "/\n"})
+    Skript.Formulare.push_back(Bediene({{"Wert(0)", Getippt}}));
   Skript.Erwarte("Fehler 76");
-  Skript.Formulare.push_back(Bediene({{"Wert(0)", "/\n"}}));
   EXPECT_EQ(VerzeichnisWahl("T", Verzeichnis), 0);
   EXPECT_EQ(Verzeichnis, "/");
 }
@@ -260,10 +217,10 @@ TEST_F(Haupt, DateinamenDialogSchuetztEinUndAusgabe) {
     Form.Oeffnen();
     Druecke(Form, "OK");
     Druecke(Form, "Waehlen(1)");
-    Skript.Formulare.push_back(Bediene({{"Knopf(2)", ""}}));
+    Knopf(2);
     Druecke(Form, "OK");
     EXPECT_TRUE(Form.Offen());  // it exists and was not given up
-    Skript.Formulare.push_back(Bediene({{"Knopf(1)", ""}}));
+    Knopf(1);
     Druecke(Form, "OK");
   });
   EXPECT_EQ(ZweiDateinamen("T", Felder), 0);

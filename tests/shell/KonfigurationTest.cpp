@@ -21,8 +21,8 @@ TEST_F(Konfiguration, DateiByteFuerByte) {
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Vorgabe.ini"));
   Optionen.OptNachkommastellen = 4;
   Optionen.GrafikfensterAn = false;
-  Optionen.AbfrageRiss = Optionen.FStatMitHoehe = Optionen.GKreduzierteFlaechen = Optionen.FStatPAAnschluss =
-      false;
+  Optionen.AbfrageRiss = Optionen.FStatMitHoehe = Optionen.GKreduzierteFlaechen = false;
+  Optionen.FStatPAAnschluss = false;
   Optionen.AbfrageDruck = Optionen.ProtokollfensterAn = true;
   Optionen.VorgabeRechts = 350;
   Optionen.VorgabeHoch = 5600000;  // overflows its narrow field
@@ -46,70 +46,53 @@ TEST_F(Konfiguration, ZurueckgelesenMitAllenEigenheiten) {
   Optionen.OptNachkommaSpeichern = 2;
   OptionenSchreiben();
   HauptInitialisierung();
-  EXPECT_TRUE(Optionen.GrafikfensterAn);  // the saved protocol window comes back as the graphics window
-  EXPECT_FALSE(Optionen.ProtokollfensterAn);
-  EXPECT_EQ(Optionen.VorgabeRechts, 350);
-  EXPECT_EQ(Optionen.VorgabeHoch, 0);  // stars
-  EXPECT_EQ(Optionen.OptNachkommaSpeichern, 2);
-  EXPECT_EQ(Optionen.FormularZoomX, 1);
-  EXPECT_EQ(Optionen.SchriftgroesseProtokoll, 8);
-  EXPECT_EQ(Optionen.VerzeichnisLetztes, "/mein");
-  EXPECT_EQ(Optionen.DateinameWinword31, "[EDBS]");
-  EXPECT_EQ(Optionen.DateinameWinwordNT, "ULPUHESS");
-  EXPECT_EQ(Optionen.EDBSInfo, "ULPUHESS");
+  // The saved protocol window comes back as the graphics window, a wide value is stars.
+  const auto& O = Optionen;
+  EXPECT_EQ(Reihe(O.GrafikfensterAn, O.ProtokollfensterAn, O.VorgabeRechts, O.VorgabeHoch), "1|0|350|0");
+  EXPECT_EQ(Reihe(O.OptNachkommaSpeichern, O.FormularZoomX, O.SchriftgroesseProtokoll), "2|1|8");
+  EXPECT_EQ(Reihe(O.VerzeichnisLetztes, O.DateinameWinword31, O.DateinameWinwordNT, O.EDBSInfo),
+            "/mein|[EDBS]|ULPUHESS|ULPUHESS");
 }
 
 TEST_F(Konfiguration, FensterwahlUndWahrheitswerte) {
-  struct Fall {
-    const char* Wort;
-    bool Protokoll, Grafik, Condor;
-  };
-  for (const Fall& f :
-       {Fall{"0", false, false, false}, Fall{"1", false, true, false}, Fall{"2", false, true, false},
-        Fall{"3", false, false, true}, Fall{"wahr", true, false, false}, Fall{"x", false, false, false}}) {
-    Ini(std::string("[optionen]\r\n  4\r\n") + f.Wort + "\r\nTRUE\r\n1\r\n");
+  // Protocol, graphics and third window.
+  for (const auto& [Wort, Soll] :
+       {std::pair{"0", "0|0|0"}, std::pair{"1", "0|1|0"}, std::pair{"2", "0|1|0"}, std::pair{"3", "0|0|1"},
+        std::pair{"wahr", "1|0|0"}, std::pair{"x", "0|0|0"}}) {
+    Ini(std::string("[optionen]\r\n  4\r\n") + Wort + "\r\nTRUE\r\n1\r\n");
     EXPECT_EQ(OptionenLesen(), -1);  // the file ends: what was read stands
-    EXPECT_EQ(Optionen.OptNachkommastellen, 4);
-    EXPECT_EQ(Optionen.ProtokollfensterAn, f.Protokoll) << f.Wort;
-    EXPECT_EQ(Optionen.GrafikfensterAn, f.Grafik) << f.Wort;
-    EXPECT_EQ(Optionen.CondorfensterAn, f.Condor) << f.Wort;
-    EXPECT_TRUE(Optionen.AbfrageRiss && Optionen.AbfrageDruck);
-    EXPECT_EQ(Sichtbar("MenüDateiCondorLesen(0)"), f.Condor);
+    EXPECT_EQ(Reihe(Optionen.ProtokollfensterAn, Optionen.GrafikfensterAn, Optionen.CondorfensterAn), Soll)
+        << Wort;
+    EXPECT_EQ(Reihe(Optionen.OptNachkommastellen, Optionen.AbfrageRiss, Optionen.AbfrageDruck), "4|1|1");
+    EXPECT_EQ(Sichtbar("MenüDateiCondorLesen(0)"), Optionen.CondorfensterAn);
   }
 }
 
 TEST_F(Konfiguration, AeltereDateiLaeuftInDenNaechstenAbschnitt) {
   Ini("[Optionen]\n3\n2\nTrue\nFalse\n1,5 x\n2.5\n[Historie]\na.kor * 0\nwahr\nwahr\nwahr\nwahr\n");
   EXPECT_EQ(OptionenLesen(), 0);
-  EXPECT_EQ(Optionen.VorgabeRechts, 1.5);
-  EXPECT_EQ(Optionen.VorgabeHoch, 2.5);
-  EXPECT_EQ(Optionen.OptWarnstufe, 3);           // a line of the next section is not used ...
-  EXPECT_EQ(Optionen.OptNachkommaSpeichern, 0);  // ... but the ones behind it are
-  EXPECT_TRUE(Optionen.FStatPAAnschluss);
+  EXPECT_EQ(Reihe(Optionen.VorgabeRechts, Optionen.VorgabeHoch), "1.5|2.5");
+  // A line of the next section is not used, but the ones behind it are.
+  EXPECT_EQ(Reihe(Optionen.OptWarnstufe, Optionen.OptNachkommaSpeichern, Optionen.FStatPAAnschluss), "3|0|1");
   Ini("[Optionen]\n3\n2\nTrue\nFalse\n1\n1\n[\n[\n[\n[\nTrue");
   EXPECT_EQ(OptionenLesen(), 0);
   EXPECT_EQ(Optionen.OptNachkommaSpeichern, 4);
   EXPECT_FALSE(Optionen.GKreduzierteFlaechen || Optionen.FStatPAAnschluss);  // the last line ends the file
 }
 
-TEST_F(Konfiguration, FehlendeDateiGibtVorgaben) {
-  EXPECT_EQ(OptionenLesen() + HistorieLesen() + DateinamenLesen() + EDBSLesen(), -4);
-  EXPECT_EQ(Optionen.DateinameEditorNT, "\\Notepad.exe");
+TEST_F(Konfiguration, FehlendeDateiUndAnwendungsordner) {
   setenv("windir", "c:\\windows", 1);
-  DateinamenLesen();
-  EXPECT_EQ(Optionen.DateinameEditor31, "c:\\windows\\Notepad.exe");
-}
-
-TEST_F(Konfiguration, Anwendungsordner) {
+  EXPECT_EQ(OptionenLesen() + HistorieLesen() + DateinamenLesen() + EDBSLesen(), -4);
+  EXPECT_EQ(Reihe(Optionen.DateinameEditor31, Optionen.DateinameEditorNT),
+            "c:\\windows\\Notepad.exe|c:\\windows\\Notepad.exe");
   unsetenv("TAVORENA_ORDNER");
   setenv("XDG_CONFIG_HOME", "/xdg", 1);
   DateinamenAbleiten();
   EXPECT_EQ(DateinameProtokollTemp, "/xdg/tavorena\\TavorenaProt.tmp");
-  Skript.Programmordner = Ordner.Pfad("prog");
-  std::filesystem::create_directories(Skript.Programmordner);
-  Schreibe(Ordner.Pfad("prog/Tavorena.ini"), "");
+  Skript.Programmordner = Ordner.Pfad("");
+  Schreibe(Ordner.Pfad("Tavorena.ini"), "");
   DateinamenAbleiten();
-  EXPECT_EQ(tavorena::Anwendungsordner, Skript.Programmordner);
+  EXPECT_EQ(Anwendungsordner, Skript.Programmordner);
   unsetenv("XDG_CONFIG_HOME");
 }
 
@@ -123,8 +106,8 @@ TEST_F(Konfiguration, Historie) {
   HauptInitialisierung();
   EXPECT_EQ(tavorena::Historie[1], (HistorieEintrag{"/a/alt.lt4", 2}));  // LT4 under its old number
   EXPECT_EQ(tavorena::Historie[3].Dateiname, "ohne Stern");
-  auto& Fenster = TVKernMDIForm::Fenster();
-  EXPECT_EQ(Fenster.Titel(*MenueFinden("MenüDateiHist(2)")), "/a b/c.kor");  // empty entries are left out
+  // Empty entries are left out.
+  EXPECT_EQ(TVKernMDIForm::Fenster().Titel(*MenueFinden("MenüDateiHist(2)")), "/a b/c.kor");
   EXPECT_TRUE(Sichtbar("MenüDateiHist(3)") && !Sichtbar("MenüDateiHist(4)"));
 }
 
@@ -135,8 +118,7 @@ TEST_F(Konfiguration, Theodolitdatei) {
   EXPECT_TRUE(GleichSoll(Inhalt(Ordner.Pfad("app/TavorenaTh.ini")), "shell/soll/Theodolit.ini"));
   TheoOptionen Neu;
   EXPECT_EQ(TheoOptionenLesen(Neu), 0);
-  EXPECT_EQ(Neu.Settings + Neu.Rohdatendatei + std::to_string(Neu.Port * 10 + Neu.Reduktion),
-            "4800,E,7,1/roh.gsi21");
+  EXPECT_EQ(Reihe(Neu.Settings, Neu.Rohdatendatei, Neu.Port, Neu.Reduktion), "4800,E,7,1|/roh.gsi|2|1");
 }
 
 class Groesse final : public Plattform {
@@ -151,17 +133,13 @@ class Groesse final : public Plattform {
 };
 
 TEST_F(Konfiguration, ZoomAusDemHauptfenster) {
-  struct Fall {
-    int Twips;
-    double Soll;
-  };
-  for (const Fall& f : {Fall{14550, 0.77}, Fall{11640, 0.77}, Fall{11010, 11010 / 14550.0}}) {
-    const Groesse Fenster(1280, f.Twips / 15);
+  for (const int Twips : {14550, 11640, 11010}) {
+    const Groesse Fenster(1280, Twips / 15);
     HauptfensterAktiviert();
-    EXPECT_EQ(Optionen.FormularZoomY, f.Soll);
+    EXPECT_EQ(Optionen.FormularZoomY, Twips == 11010 ? 11010 / 14550.0 : 0.77);
     EXPECT_EQ(Optionen.FormularZoomX, 1.0);
     FormularZoomRechnen(false);
-    EXPECT_EQ(Optionen.FormularZoomY, f.Twips / 14550.0);
+    EXPECT_EQ(Optionen.FormularZoomY, Twips / 14550.0);
   }
 }
 
@@ -190,12 +168,10 @@ TEST_F(Konfiguration, Optionsdialog) {
     Druecke(Form, "OptEnd");
   });
   TVOptionenformZeigen();
-  EXPECT_EQ(Optionen.OptNachkommastellen, 4);
-  EXPECT_EQ(Optionen.OptWarnstufe, 0);
-  EXPECT_FALSE(Optionen.AbfrageRiss || Optionen.GrafikfensterAn || Optionen.ProtokollfensterAn);
-  EXPECT_EQ(Optionen.FormularZoomY, 1);
-  EXPECT_EQ(Optionen.VorgabeRechts, 350.5);
-  EXPECT_EQ(Optionen.EDBSInfo, "ZUVIELEZ");
+  const auto& O = Optionen;
+  EXPECT_EQ(Reihe(O.OptNachkommastellen, O.OptWarnstufe, O.FormularZoomY, O.VorgabeRechts, O.EDBSInfo),
+            "4|0|1|350.5|ZUVIELEZ");
+  EXPECT_FALSE(O.AbfrageRiss || O.GrafikfensterAn || O.ProtokollfensterAn);
   EXPECT_TRUE(DateiVorhanden(DateinameOptionen));
 }
 

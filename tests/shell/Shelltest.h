@@ -35,7 +35,18 @@ class Shelltest : public TabellenTest {
     unsetenv("TAVORENA_ORDNER");
   }
 
+  const std::string A_kor = Ordner.Pfad("a.kor"), A_dru = Ordner.Pfad("a.dru");
+
   static void Befehl(const char* Name) { TVKernMDIForm::Fenster().Ausfuehren(Name); }
+  /// With the file that is chosen in its dialog.
+  void Befehl(const char* Name, const std::string& Datei) {
+    Skript.Dateien.push_back(Datei);
+    Befehl(Name);
+  }
+  /// The next modal form is left by one of its buttons.
+  void Knopf(int Nummer) {
+    Skript.Formulare.push_back(Bediene({{"Knopf(" + std::to_string(Nummer) + ")", ""}}));
+  }
   static bool Aktiv(const char* Name) { return TVKernMDIForm::Fenster().Aktiv(*MenueFinden(Name)); }
   static bool Sichtbar(const char* Name) { return TVKernMDIForm::Fenster().Sichtbar(*MenueFinden(Name)); }
   static bool BildAktiv(const std::string& Name) {
@@ -46,11 +57,9 @@ class Shelltest : public TabellenTest {
   }
 
   /// A coordinate file of three points, opened by the command.
-  void Oeffne(const char* Name = "a.kor") {
-    Schreibe(Ordner.Pfad(Name),
-             "1001 3500100 5600200 12.5 015\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
-    Skript.Dateien.push_back(Ordner.Pfad(Name));
-    Befehl("MenüDateiLesen(0)");
+  void Oeffne() {
+    Schreibe(A_kor, "1001 3500100 5600200 12.5 015\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
+    Befehl("MenüDateiLesen(0)", A_kor);
   }
 };
 
