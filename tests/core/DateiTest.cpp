@@ -31,7 +31,7 @@ TEST_F(Datei, NamenMitLaufwerkUndRueckstrich) {
 
 TEST_F(Datei, Kodierungen) {
   EXPECT_TRUE(IstUtf8("Meßlinie äöü € \xF0\x9F\x93\x90 und noch mehr Text"));
-  for (const char* Falsch : {"\xFC", "abcdefgh\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF5\x80\x80\x80"})
+  for (const char* Falsch : {"\xFC", "abcdefgh\xC3", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF5\x80\x80\x80"})
     EXPECT_FALSE(IstUtf8(Falsch)) << Falsch;
   std::string Alle;
   for (int i = 1; i < 256; ++i) Alle += static_cast<char>(i);

@@ -98,12 +98,12 @@ TEST_F(KorDatei, Lt4HatFesteSpalten) {
     Lt4ZeileSchreiben(Nummer, 1, 2, Info, Zeile);
     EXPECT_EQ(Zeile.substr(4, 14), Schluessel);
   }
-  Lt4ZeileSchreiben("1234567890", 3500100.5, 5600200.25, Info, Zeile);
-  EXPECT_EQ(Zeile, "007 45591234567890 012 3500100.500 5600200.250               3  ");
+  Lt4ZeileSchreiben("1234567890", 3500100.625, 5600200.25, Info, Zeile);
+  EXPECT_EQ(Zeile, "007 45591234567890 012 3500100.625 5600200.250               3  ");
   ASSERT_EQ(Lt4ZeileLesen(Zeile, Pnr, R, H, Symbol, Zurueck), 0);
   EXPECT_EQ(Reihe(Pnr, R, H, Symbol, Zurueck.Lagestatus, Zurueck.Vermarkungsart, Zurueck.Punktstatus,
                   Zurueck.Lagegenauigkeit),
-            "1234567890|3500100.5|5600200.25|2|007|12|3| ");
+            "1234567890|3500100.625|5600200.25|2|007|12|3| ");
   EXPECT_EQ(Lt4ZeileLesen("#" + Zeile, Pnr, R, H, Symbol, Info), -1);
   EXPECT_EQ(Lt4ZeileLesen(Zeile.substr(0, 63), Pnr, R, H, Symbol, Info), -1);
   std::string Ohne = Zeile;

@@ -86,10 +86,9 @@ TEST_F(Haupt, MisslungenesLesenLaesstDenTitelStehen) {
 
 TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
   Befehl("MenüDateiNeu", Ordner.Pfad("neu"));
-  Punkt("7", 1, 2, 3, "015");
+  Punkt("7", 1, 2, 3, "ß");
   Befehl("MenüDateiSpeichern(0)");
-  EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")),
-            "             7         1.000         2.000       3.000  015\r\n");
+  EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")), "             7         1.000         2.000       3.000  ß\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
   Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
   EXPECT_TRUE(Inhalt(Ordner.Pfad("b.lt4")).starts_with("000 45590000000007"));
@@ -102,7 +101,7 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
   Knopf(0);
   Befehl("MenüDateiSpeichernUnter", Datei);
   EXPECT_EQ(KorAnzahl, 2);
-  EXPECT_TRUE(Inhalt(Datei).starts_with(Alt + "\r\n      "));
+  EXPECT_TRUE(Inhalt(Datei).starts_with(Alt + "\r\n      ") && Inhalt(Datei).ends_with("  \xDF\r\n"));
   KoordinatendateiName = Ordner.Pfad("fehlt/x.kor");
   Skript.Erwarte("Fehler aufgetreten beim Speichern der Datei " + KoordinatendateiName);
   EXPECT_EQ(HauptDateiSpeichern(), -1);
@@ -112,7 +111,7 @@ TEST_F(Haupt, Hinzulesen) {
   Oeffne();
   const std::string Datei = Ordner.Pfad("h.kor");
   Schreibe(Datei, "1001 9.0 9\r\n3001 1.0 1\r\n3002 1.0 1\r\n3003 1.0 1\r\n");
-  Skript.Formulare.push_back(Bediene({{"Wert(0)", "3002\n"}, {"Wert(1)", "3003\n"}}));
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "3001\n"}, {"Wert(1)", "3002\n"}}));
   Befehl("MenüDateiHinzuLesenPunktbereich", Datei);
   EXPECT_EQ(KorAnzahl, 5);
   Befehl("MenüDateiHinzuLesenNurNeue", Datei);

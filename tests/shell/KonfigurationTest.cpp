@@ -121,20 +121,10 @@ TEST_F(Konfiguration, Theodolitdatei) {
   EXPECT_EQ(Reihe(Neu.Settings, Neu.Rohdatendatei, Neu.Port, Neu.Reduktion), "4800,E,7,1|/roh.gsi|2|1");
 }
 
-class Groesse final : public Plattform {
- public:
-  Groesse(int B, int H) : Breite(B), Hoehe(H), Vorher(PlattformSetzen(this)) {}
-  ~Groesse() override { PlattformSetzen(Vorher); }
-  void HauptfensterGroesse(int& B, int& H) override { B = Breite, H = Hoehe; }
-
- private:
-  int Breite, Hoehe;
-  Plattform* Vorher;
-};
-
 TEST_F(Konfiguration, ZoomAusDemHauptfenster) {
+  Skript.Breite = 1280;
   for (const int Twips : {14550, 11640, 11010}) {
-    const Groesse Fenster(1280, Twips / 15);
+    Skript.Hoehe = Twips / 15;
     HauptfensterAktiviert();
     EXPECT_EQ(Optionen.FormularZoomY, Twips == 11010 ? 11010 / 14550.0 : 0.77);
     EXPECT_EQ(Optionen.FormularZoomX, 1.0);

@@ -67,6 +67,7 @@ class PlattformSkript final : public Plattform {
   void FenstertitelSetzen(const std::string& Neuer) override { Fenstertitel = Neuer; }
   std::string ProgrammOrdner() override { return Programmordner; }
   bool StapelHaelt() override { return Haelt; }
+  void HauptfensterGroesse(int& B, int& H) override { B = Breite, H = Hoehe; }
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;
 
   void Erwarte(const std::string& Stueck, int Antwort = 1) { Offen.emplace_back(Stueck, Antwort); }
@@ -80,6 +81,7 @@ class PlattformSkript final : public Plattform {
   std::string Fenstertitel, Programmordner;
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
   bool Haelt = false;
+  int Breite = 0, Hoehe = 0;  // of the main window in pixels
 
  private:
   Folge Offen;
