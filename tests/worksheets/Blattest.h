@@ -43,7 +43,26 @@ class Blatttest : public TabellenTest {
     return Blatt;
   }
 
-  /// Replays the batch file that was written, on the same points, into a new protocol.
+  /// Cell of the grid of a worksheet.
+  static std::string Zelle(const Formular& Form, int Zeile, int Spalte) {
+    return test::Zelle(Form, Form.FormName.substr(2, 5) + "Gitter", Zeile, Spalte);
+  }
+
+  /// The files of a worksheet that is done are the approved ones, and replaying the batch file on the same
+  /// points gives the same protocol.
+  void PruefeDateien(const std::string& Name, int Zeilen) {
+    const std::string Protokoll = Inhalt(ProtokolldateiName), Stapel = Inhalt(StapeldateiName);
+    EXPECT_TRUE(GleichSoll(Protokoll, "worksheets/soll/" + Name + ".dru"));
+    EXPECT_TRUE(GleichSoll(Stapel, "worksheets/soll/" + Name + ".sta"));
+    // The second target holds the blocks without the head.
+    const std::string Zweites = Inhalt(DateinameProtokollTemp);
+    EXPECT_TRUE(!Zweites.empty() && Protokoll.ends_with(Zweites));
+    EXPECT_EQ(Nachlauf(), Protokoll);
+    EXPECT_EQ(Inhalt(StapeldateiName), Stapel);  // a replay never grows its own file
+    EXPECT_EQ(Stapellauf.Zeilen, Zeilen);
+  }
+
+  /// Replays the batch file into a new protocol.
   std::string Nachlauf() {
     Starten();
     EXPECT_FALSE(StapelAktiv);
