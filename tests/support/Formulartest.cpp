@@ -33,8 +33,8 @@ void Druecke(Formular& Form, const std::string& Name) { Form.Klicken(Suche(Form,
 
 std::string Text(const Formular& Form, const std::string& Name) { return Suche(Form, Name).Text; }
 
-std::string Zelle(const Formular& Form, const std::string& Name, int Zeile, int Spalte) {
-  return dynamic_cast<Gitter&>(Suche(Form, Name)).Inhalt(Zeile, Spalte);
+Gitter& Gitterfeld(const Formular& Form) {
+  return dynamic_cast<Gitter&>(Suche(Form, Form.FormName.substr(2, 5) + "Gitter"));
 }
 
 std::function<void(Formular&)> Bediene(std::vector<Handgriff> Griffe) {

@@ -18,8 +18,8 @@ void Druecke(Formular& Form, const std::string& Name);
 /// Text of a control.
 std::string Text(const Formular& Form, const std::string& Name);
 
-/// Text of a cell.
-std::string Zelle(const Formular& Form, const std::string& Gitter, int Zeile, int Spalte);
+/// The grid of a worksheet.
+Gitter& Gitterfeld(const Formular& Form);
 
 /// What a scripted platform does in a modal form: opens it, types and presses.
 struct Handgriff {

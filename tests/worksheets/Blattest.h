@@ -43,11 +43,6 @@ class Blatttest : public TabellenTest {
     return Blatt;
   }
 
-  /// Cell of the grid of a worksheet.
-  static std::string Zelle(const Formular& Form, int Zeile, int Spalte) {
-    return test::Zelle(Form, Form.FormName.substr(2, 5) + "Gitter", Zeile, Spalte);
-  }
-
   /// The files of a worksheet that is done are the approved ones, and replaying the batch file on the same
   /// points gives the same protocol.
   void PruefeDateien(const std::string& Name, int Zeilen) {

@@ -7,6 +7,7 @@ using Linienblatt = Blatttest;
 
 TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
   auto B = Oeffne<TVLinelForm>();
+  const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n");
   EXPECT_EQ(Reihe(Text(*B, "LinelAnfH_he"), Text(*B, "LinelAnfSym")), "12.500|015");
   Tippe(*B, "LinelEndPnr", "1002\n0\n99,93\n");  // Return leads through the connection into the grid
@@ -15,9 +16,9 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
             "100.000|100.000|1.000700|0.160|0.070");
   EXPECT_FALSE(DateiVorhanden(ProtokolldateiName));  // nothing is written before the first row
   Tippe(*B, "LinelGitter", "2003\n2004\n+\n");       // + steps to 2005
-  EXPECT_EQ(Reihe(Zelle(*B, 0, 3), Zelle(*B, 0, 4), Zelle(*B, 0, 5), Zelle(*B, 0, 6)),
+  EXPECT_EQ(Reihe(G.Inhalt(0, 3), G.Inhalt(0, 4), G.Inhalt(0, 5), G.Inhalt(0, 6)),
             "42.000|6.000|41.971|5.996");
-  EXPECT_EQ(Zelle(*B, 2, 0), "2005");
+  EXPECT_EQ(G.Inhalt(2, 0), "2005");
   Tippe(*B, "LinelGitter", "\n");  // Return in an empty row leads out of the grid
   EXPECT_EQ(B->Fokus()->Name, "LinelEnd10");
   Druecke(*B, "LinelEnd10");
@@ -25,7 +26,7 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
   Tippe(*B, "LinelAnfPnr", "1002\n");
   Tippe(*B, "LinelEndPnr", "2005\n0\n0\n2003\n");
   // Nothing measured, nothing to reduce.
-  EXPECT_FALSE(dynamic_cast<Gitter*>(B->Finde("LinelGitter"))->Spalten[5].Sichtbar);
+  EXPECT_FALSE(G.Spalten[5].Sichtbar);
   Druecke(*B, "LinelEnd");
   EXPECT_FALSE(B->Offen());
   PruefeDateien("linel", 4);
@@ -34,8 +35,9 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
 
 TEST_F(Linienblatt, PolarelementeVomAnschlussZumProtokollUndZurueck) {
   auto B = Oeffne<TVPolelForm>();
+  const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n");
-  EXPECT_EQ(Reihe(Zelle(*B, 0, 3), Zelle(*B, 0, 4)), "21.5334|42.426");
+  EXPECT_EQ(Reihe(G.Inhalt(0, 3), G.Inhalt(0, 4)), "21.5334|42.426");
   EXPECT_EQ(Reihe(Text(*B, "PolelM"), Text(*B, "PolelWs")), "1.000200|0.020");
   Druecke(*B, "PolelEnd");
   PruefeDateien("polel", 2);
@@ -74,6 +76,7 @@ TEST_F(Linienblatt, FehlenderPunktWirdGefragt) {
 
 TEST_F(Linienblatt, UngueltigeEingabenHaltenDenFokus) {
   auto B = Oeffne<TVLinelForm>();
+  const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
   EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
   EXPECT_TRUE(B->Fokus()->Fehlerhaft);
@@ -84,27 +87,27 @@ TEST_F(Linienblatt, UngueltigeEingabenHaltenDenFokus) {
   Tippe(*B, "LinelEndmass", "105\n");
   EXPECT_EQ(B->Fokus()->Name, "LinelGitter");
   Tippe(*B, "LinelGitter", "+");  // the number entered last was 1002
-  EXPECT_EQ(Zelle(*B, 0, 0), "1003");
+  EXPECT_EQ(G.Inhalt(0, 0), "1003");
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Tippe(*B, "LinelGitter", "\n");
-  EXPECT_EQ(Zelle(*B, 0, 3), "");
+  EXPECT_EQ(G.Inhalt(0, 3), "");
   Druecke(*B, "LinelEnd");  // a number without a point is nothing to write
   EXPECT_FALSE(DateiVorhanden(StapeldateiName));
 }
 
 TEST_F(Linienblatt, ZeilenBerichtigenLoeschenUndOffenVerlassen) {
   auto B = Oeffne<TVLinelForm>();
+  Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1002\n0\n0\n2003\n2004\n2005\n");
-  auto& G = dynamic_cast<Gitter&>(*B->Finde("LinelGitter"));
   B->ZelleWechseln(G, 1, 0);
   B->Tippen(G, "1002");
   B->ZelleWechseln(G, 0, 0);  // not confirmed: what was written stands
-  EXPECT_EQ(Reihe(Zelle(*B, 1, 0), Zelle(*B, 1, 4)), "2004|-45.000");
+  EXPECT_EQ(Reihe(G.Inhalt(1, 0), G.Inhalt(1, 4)), "2004|-45.000");
   B->ZelleWechseln(G, 1, 0);
   Tippe(*B, "LinelGitter", "1002\n");
   B->ZelleWechseln(G, 2, 0);
   Druecke(*B, "LinelDelete");
-  EXPECT_EQ(Reihe(Zelle(*B, 0, 0), Zelle(*B, 1, 0)), "2003|1002");
+  EXPECT_EQ(Reihe(G.Inhalt(0, 0), G.Inhalt(1, 0)), "2003|1002");
   Tippe(*B, "LinelGitter", "2004");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
   Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfNein);
@@ -123,11 +126,12 @@ TEST_F(Linienblatt, ZeilenBerichtigenLoeschenUndOffenVerlassen) {
 
 TEST_F(Linienblatt, StreifenNimmtDiePunkteDesBereichs) {
   auto B = Oeffne<TVLinelForm>();
+  const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1002\n0\n0\n");
   Tippe(*B, "LinelPnrvon", "2000\n2999\n10\n");
-  EXPECT_EQ(Zelle(*B, 0, 0) + Zelle(*B, 1, 0), "20032005");  // 2004 is 45 m off
+  EXPECT_EQ(G.Inhalt(0, 0) + G.Inhalt(1, 0), "20032005");  // 2004 is 45 m off
   Tippe(*B, "LinelPnrvon", "2000\n2999\n0\n");
-  EXPECT_EQ(dynamic_cast<Gitter*>(B->Finde("LinelGitter"))->Zeilen(), 6);
+  EXPECT_EQ(G.Zeilen(), 6);
 }
 
 TEST_F(Linienblatt, RissfrageUndPlusTaste) {
