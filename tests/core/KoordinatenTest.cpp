@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <numeric>
 #include <random>
-#include <string>
-#include <vector>
 
 #include <tavorena/core/Sortierung.h>
 #include <tavorena/core/TVDialog.h>
@@ -210,8 +208,9 @@ TEST_F(Punkttabelle, BereichSucheVerschieben) {
 }
 
 TEST(TVDialog, Texte) {
-  PlattformSkript Skript({{"Punkt 12schon vorhanden !", 1},
-                          {"Fehler 70 in Haupt.Test wurde ausgelöst durch Tavorena\nZugriff verweigert", 1}});
+  PlattformSkript Skript;
+  Skript.Erwarte("Punkt 12schon vorhanden !");
+  Skript.Erwarte("Fehler 70 in Haupt.Test wurde ausgelöst durch Tavorena\nZugriff verweigert");
   PunktVorhandenMeldung("12");
   LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Haupt.Test");
   EXPECT_EQ(Skript.Titel, (std::vector<std::string>{"Tavorena", "Tavorena Fehlermeldung"}));

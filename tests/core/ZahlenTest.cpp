@@ -3,7 +3,6 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
-#include <string>
 
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
@@ -17,29 +16,15 @@ constexpr double Unendlich = std::numeric_limits<double>::infinity();
 const Wert Leer, Null(NullWert{});
 
 TEST(ZahlFormat, Tabelle) {
-  struct Fall {
-    const char* Name;
-    Wert Zahl;
-    int V, N;
-    const char* Soll;
-  };
-  const Fall Faelle[] = {
-      {"negative one place short", -1000000.0, 7, 3, "*******.***"},
-      {"negative that just fits", -999999.0, 7, 3, "-999999.000"},
-      {"overflow looks at the unrounded value", 9999999.9999, 7, 3, "10000000.000"},
-      {"overflow", 1000.0, 3, 0, "***."},
-      {"empty", Leer, 7, 3, "           "},
-      {"null", Null, 7, 3, "           "},
-      {"true is -1", true, 3, 0, "  -1"},
-      {"text with comma", "12,5", 3, 1, " 12.5"},
-      {"16 bits", std::int16_t{7}, 3, 0, "   7"},
-      {"no decimals keep the place of the point", 12.5, 7, 0, "      13"},
-      {"no integer places", 0.5, 0, 2, ".50"},
-      {"no integer places, no room for a sign", -0.2, 0, 2, ".**"},
-      {"not a number", std::nan(""), 3, 1, "***.*"},
-      {"minus infinite", -Unendlich, 3, 1, "***.*"},
-  };
-  for (const Fall& f : Faelle) EXPECT_EQ(ZahlFormat(f.Zahl, f.V, f.N), f.Soll) << f.Name;
+  // A sign takes a place; the overflow looks at the unrounded value.
+  EXPECT_EQ(Reihe(ZahlFormat(-1000000.0, 7, 3), ZahlFormat(-999999.0, 7, 3)), "*******.***|-999999.000");
+  EXPECT_EQ(Reihe(ZahlFormat(9999999.9999, 7, 3), ZahlFormat(1000.0, 3, 0)), "10000000.000|***.");
+  EXPECT_EQ(Reihe(ZahlFormat(Leer, 3, 1), ZahlFormat(Null, 3, 1)), "     |     ");
+  EXPECT_EQ(Reihe(ZahlFormat(true, 3, 0), ZahlFormat("12,5", 3, 1), ZahlFormat(std::int16_t{7}, 3, 0)),
+            "  -1| 12.5|   7");
+  EXPECT_EQ(ZahlFormat(12.5, 7, 0), "      13");  // no decimals keep the place of the point
+  EXPECT_EQ(Reihe(ZahlFormat(0.5, 0, 2), ZahlFormat(-0.2, 0, 2)), ".50|.**");  // no room for a sign
+  EXPECT_EQ(Reihe(ZahlFormat(std::nan(""), 3, 1), ZahlFormat(-Unendlich, 3, 1)), "***.*|***.*");
 }
 
 TEST(ZahlFormat, KaufmaennischAufDemDezimaltext) {

@@ -15,7 +15,7 @@ class Konfiguration : public Shelltest {
   std::string Ini() const { return Inhalt(Ordner.Pfad("app/Tavorena.ini")); }
 };
 
-TEST_F(Konfiguration, DateiByteFuerByte) {
+TEST_F(Konfiguration, DateiByteFuerByteUndZurueckMitAllenEigenheiten) {
   EXPECT_FALSE(DateiVorhanden(DateinameOptionen));  // nothing is written at the start
   OptionenSchreiben();
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Vorgabe.ini"));
@@ -33,16 +33,7 @@ TEST_F(Konfiguration, DateiByteFuerByte) {
   HauptHistSchreiben("/daten/a.kor", 0);
   HauptHistSchreiben("/daten/b.lt4", 2);
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Anders.ini"));
-}
-
-TEST_F(Konfiguration, ZurueckgelesenMitAllenEigenheiten) {
-  Optionen.GrafikfensterAn = false;
-  Optionen.ProtokollfensterAn = true;
-  Optionen.VorgabeRechts = 350;
-  Optionen.VorgabeHoch = 5600000;
-  Optionen.FormularZoomX = 1.5;
   Optionen.SchriftgroesseProtokoll = 12;
-  Optionen.VerzeichnisLetztes = "/mein ordner/";
   Optionen.OptNachkommaSpeichern = 2;
   OptionenSchreiben();
   HauptInitialisierung();
@@ -134,35 +125,29 @@ TEST_F(Konfiguration, ZoomAusDemHauptfenster) {
 }
 
 TEST_F(Konfiguration, Optionsdialog) {
-  Skript.Formulare.push_back([](Formular& Form) {
-    Form.Oeffnen();
-    Form.Waehlen(*Form.Finde("OptNachkommastellen"), "4", true);
-    Form.TasteDruecken(Taste::Escape);
-    EXPECT_FALSE(Form.Offen());
-  });
-  TVOptionenformZeigen();
-  EXPECT_EQ(Optionen.OptNachkommastellen, 3);
-  EXPECT_FALSE(DateiVorhanden(DateinameOptionen));
-  Skript.Formulare.push_back([](Formular& Form) {
-    Form.Oeffnen();
-    Form.Waehlen(*Form.Finde("OptNachkommastellen"), "4", true);
-    Form.Waehlen(*Form.Finde("OptWarnstufe"), "Keine", true);
-    Form.Waehlen(*Form.Finde("OptAbfrRiß"), "", false);
-    Form.Waehlen(*Form.Finde("OptProtokoll(1)"), "", true);
-    EXPECT_FALSE(Form.Finde("OptProtokoll(2)")->Gewaehlt);
-    Tippe(Form, "OptVorgabeRechts", "abc");
-    Druecke(Form, "OptEnd");
-    EXPECT_TRUE(Form.Offen());  // no number
-    Tippe(Form, "OptVorgabeRechts", "350,5");
-    Tippe(Form, "OptEDBSInfo", "ZUVIELEZEICHEN");
-    Druecke(Form, "OptEnd");
-  });
-  TVOptionenformZeigen();
-  const auto& O = Optionen;
-  EXPECT_EQ(Reihe(O.OptNachkommastellen, O.OptWarnstufe, O.FormularZoomY, O.VorgabeRechts, O.EDBSInfo),
-            "4|0|1|350.5|ZUVIELEZ");
-  EXPECT_FALSE(O.AbfrageRiss || O.GrafikfensterAn || O.ProtokollfensterAn);
-  EXPECT_TRUE(DateiVorhanden(DateinameOptionen));
+  for (const char* Ende : {"OptAbbruch", "OptEnd"}) {
+    Skript.Formulare.push_back([Ende](Formular& Form) {
+      Form.Oeffnen();
+      Form.Waehlen(*Form.Finde("OptNachkommastellen"), "4", true);
+      Form.Waehlen(*Form.Finde("OptWarnstufe"), "Keine", true);
+      Form.Waehlen(*Form.Finde("OptAbfrRiß"), "", false);
+      Form.Waehlen(*Form.Finde("OptProtokoll(1)"), "", true);
+      EXPECT_FALSE(Form.Finde("OptProtokoll(2)")->Gewaehlt);
+      Tippe(Form, "OptVorgabeRechts", "abc");
+      Druecke(Form, "OptEnd");
+      EXPECT_TRUE(Form.Offen());  // no number
+      Tippe(Form, "OptVorgabeRechts", "350,5");
+      Tippe(Form, "OptEDBSInfo", "ZUVIELEZEICHEN");
+      Druecke(Form, Ende);
+    });
+    TVOptionenformZeigen();
+    const auto& O = Optionen;
+    const bool Neu = DateiVorhanden(DateinameOptionen);
+    EXPECT_EQ(Neu, std::string_view(Ende) == "OptEnd");
+    EXPECT_EQ(Reihe(O.OptNachkommastellen, O.OptWarnstufe, O.FormularZoomY, O.VorgabeRechts, O.EDBSInfo),
+              Neu ? "4|0|1|350.5|ZUVIELEZ" : "3|3|1|0|ULPUHESS");
+    EXPECT_EQ(Reihe(O.AbfrageRiss, O.GrafikfensterAn, O.ProtokollfensterAn), Neu ? "0|0|0" : "1|1|0");
+  }
 }
 
 }  // namespace

@@ -1,18 +1,14 @@
 #include "Formulartest.h"
 
 namespace tavorena::test {
-namespace {
-
-Steuerelement& Suche(const Formular& Form, const std::string& Name) {
+Steuerelement& Feld(const Formular& Form, const std::string& Name) {
   Steuerelement* S = Form.Finde(Name);
   if (S == nullptr) throw std::runtime_error("no control " + Name + " in " + Form.FormName);
   return *S;
 }
 
-}  // namespace
-
 void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
-  Steuerelement& S = Suche(Form, Name);
+  Steuerelement& S = Feld(Form, Name);
   Form.FokusWechseln(S);
   std::string Wort;
   for (const char z : Text) {
@@ -29,12 +25,10 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
   if (!Wort.empty()) Form.Tippen(*Form.Fokus(), Wort);
 }
 
-void Druecke(Formular& Form, const std::string& Name) { Form.Klicken(Suche(Form, Name)); }
-
-std::string Text(const Formular& Form, const std::string& Name) { return Suche(Form, Name).Text; }
+void Druecke(Formular& Form, const std::string& Name) { Form.Klicken(Feld(Form, Name)); }
 
 Gitter& Gitterfeld(const Formular& Form) {
-  return dynamic_cast<Gitter&>(Suche(Form, Form.FormName.substr(2, 5) + "Gitter"));
+  return dynamic_cast<Gitter&>(Feld(Form, Form.FormName.substr(2, 5) + "Gitter"));
 }
 
 std::function<void(Formular&)> Bediene(std::vector<Handgriff> Griffe) {

@@ -15,8 +15,14 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text);
 /// Presses a button.
 void Druecke(Formular& Form, const std::string& Name);
 
-/// Text of a control.
-std::string Text(const Formular& Form, const std::string& Name);
+/// A control, which must be there.
+Steuerelement& Feld(const Formular& Form, const std::string& Name);
+
+/// Texts of controls, "|" between them.
+template <typename... T>
+std::string Text(const Formular& Form, const T&... Namen) {
+  return Reihe(Feld(Form, Namen).Text...);
+}
 
 /// The grid of a worksheet.
 Gitter& Gitterfeld(const Formular& Form);

@@ -52,9 +52,6 @@ void Schreibe(const std::string& Datei, std::string_view Bytes) {
                                        << Ist;
 }
 
-PlattformSkript::PlattformSkript(Folge Antworten)
-    : Offen(std::move(Antworten)), Vorher(PlattformSetzen(this)) {}
-
 PlattformSkript::~PlattformSkript() {
   PlattformSetzen(Vorher);
   EXPECT_TRUE(Offen.empty()) << "not asked: " << Offen.front().first;

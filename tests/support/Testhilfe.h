@@ -50,9 +50,7 @@ std::string Reihe(const T&... Werte) {
 /// 01.02.2003 10:15; Zeitgeber advances by a second with each look.
 class PlattformSkript final : public Plattform {
  public:
-  /// Piece of the expected text and the button that answers it.
-  using Folge = std::deque<std::pair<std::string, int>>;
-  explicit PlattformSkript(Folge Antworten = {});
+  PlattformSkript() : Vorher(PlattformSetzen(this)) {}
   ~PlattformSkript() override;
   PlattformSkript(const PlattformSkript&) = delete;
   PlattformSkript& operator=(const PlattformSkript&) = delete;
@@ -70,6 +68,7 @@ class PlattformSkript final : public Plattform {
   void HauptfensterGroesse(int& B, int& H) override { B = Breite, H = Hoehe; }
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;
 
+  /// A question to come: piece of its text and the button that answers it.
   void Erwarte(const std::string& Stueck, int Antwort = 1) { Offen.emplace_back(Stueck, Antwort); }
 
   std::deque<std::string> Dateien;                       ///< names that the file dialogs give, in order
@@ -84,7 +83,7 @@ class PlattformSkript final : public Plattform {
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
 
  private:
-  Folge Offen;
+  std::deque<std::pair<std::string, int>> Offen;
   Plattform* Vorher;
   double Sekunden = 0;
 };

@@ -4,7 +4,6 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Text.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/records/Stapelschreiber.h>
 #include <tavorena/records/TVProtokollmodul.h>

@@ -9,10 +9,9 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
   auto B = Oeffne<TVLinelForm>();
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n");
-  EXPECT_EQ(Reihe(Text(*B, "LinelAnfH_he"), Text(*B, "LinelAnfSym")), "12.500|015");
+  EXPECT_EQ(Text(*B, "LinelAnfH_he", "LinelAnfSym"), "12.500|015");
   Tippe(*B, "LinelEndPnr", "1002\n0\n99,93\n");  // Return leads through the connection into the grid
-  EXPECT_EQ(Reihe(Text(*B, "LinelL"), Text(*B, "LinelE"), Text(*B, "LinelM"), Text(*B, "LinelD"),
-                  Text(*B, "LinelWs")),
+  EXPECT_EQ(Text(*B, "LinelL", "LinelE", "LinelM", "LinelD", "LinelWs"),
             "100.000|100.000|1.000700|0.160|0.070");
   EXPECT_FALSE(DateiVorhanden(ProtokolldateiName));  // nothing is written before the first row
   Tippe(*B, "LinelGitter", "2003\n2004\n+\n");       // + steps to 2005
@@ -25,8 +24,7 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
   EXPECT_EQ(B->Fokus()->Name, "LinelAnfPnr");
   Tippe(*B, "LinelAnfPnr", "1002\n");
   Tippe(*B, "LinelEndPnr", "2005\n0\n0\n2003\n");
-  // Nothing measured, nothing to reduce.
-  EXPECT_FALSE(G.Spalten[5].Sichtbar);
+  EXPECT_FALSE(G.Spalten[5].Sichtbar);  // nothing measured, nothing to reduce
   Druecke(*B, "LinelEnd");
   EXPECT_FALSE(B->Offen());
   PruefeDateien("linel", 4);
@@ -38,7 +36,7 @@ TEST_F(Linienblatt, PolarelementeVomAnschlussZumProtokollUndZurueck) {
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n");
   EXPECT_EQ(Reihe(G.Inhalt(0, 3), G.Inhalt(0, 4)), "21.5334|42.426");
-  EXPECT_EQ(Reihe(Text(*B, "PolelM"), Text(*B, "PolelWs")), "1.000200|0.020");
+  EXPECT_EQ(Text(*B, "PolelM", "PolelWs"), "1.000200|0.020");
   Druecke(*B, "PolelEnd");
   PruefeDateien("polel", 2);
 }
@@ -46,8 +44,8 @@ TEST_F(Linienblatt, PolarelementeVomAnschlussZumProtokollUndZurueck) {
 TEST_F(Linienblatt, EntfernungskontrollenVomAnschlussZumProtokollUndZurueck) {
   auto B = Oeffne<TVDisForm>();
   Tippe(*B, "DisAnfPnr", "1001\n1002\n99,8\n");
-  EXPECT_EQ(Reihe(Text(*B, "DisL"), Text(*B, "DisD"), Text(*B, "DisWs")), "100.000|0.160|0.200");
-  EXPECT_TRUE(B->Finde("DisWs")->Fehlerhaft);
+  EXPECT_EQ(Text(*B, "DisL", "DisD", "DisWs"), "100.000|0.160|0.200");
+  EXPECT_TRUE(Feld(*B, "DisWs").Fehlerhaft);
   // The end point is the new start point.
   EXPECT_EQ(Reihe(Text(*B, "DisAnfPnr"), B->Fokus()->Name), "1002|DisEndPnr");
   Tippe(*B, "DisEndPnr", "2005\n0\n");  // not measured
@@ -77,15 +75,15 @@ TEST_F(Linienblatt, FehlenderPunktWirdGefragt) {
 TEST_F(Linienblatt, UngueltigeEingabenHaltenDenFokus) {
   auto B = Oeffne<TVLinelForm>();
   const Gitter& G = Gitterfeld(*B);
-  Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
-  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
-  EXPECT_TRUE(B->Fokus()->Fehlerhaft);
-  Tippe(*B, "LinelEndmass", "0\n");  // both points the same
-  EXPECT_EQ(B->Fokus()->Name, "LinelEndPnr");
-  Tippe(*B, "LinelEndPnr", "1002\n5\n5\n");  // Endmass equal to Anlegemass
-  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
-  Tippe(*B, "LinelEndmass", "105\n");
-  EXPECT_EQ(B->Fokus()->Name, "LinelGitter");
+  using Schritt = std::array<const char*, 3>;  // where, what is typed, where the focus then is
+  // A text for a number, both points the same, Endmass equal to Anlegemass, all well.
+  for (const auto& [Name, Text, Fokus] :
+       {Schritt{"LinelAnfPnr", "1001\n1001\n0\nabc\n", "LinelEndmass"},
+        Schritt{"LinelEndmass", "0\n", "LinelEndPnr"}, Schritt{"LinelEndPnr", "1002\n5\n5\n", "LinelEndmass"},
+        Schritt{"LinelEndmass", "105\n", "LinelGitter"}}) {
+    Tippe(*B, Name, Text);
+    EXPECT_EQ(B->Fokus()->Name, Fokus) << Text;
+  }
   Tippe(*B, "LinelGitter", "+");  // the number entered last was 1002
   EXPECT_EQ(G.Inhalt(0, 0), "1003");
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
@@ -138,11 +136,11 @@ TEST_F(Linienblatt, RissfrageUndPlusTaste) {
   Optionen.AbfrageRiss = true;
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "Riss 12\n"}, {"Wert(1)", "3\n"}}));
   auto B = Oeffne<TVLinelForm>();
-  EXPECT_EQ(Reihe(Text(*B, "LinelRi_bez"), Text(*B, "LinelBernr")), "Riss 12|3");
+  EXPECT_EQ(Text(*B, "LinelRi_bez", "LinelBernr"), "Riss 12|3");
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   auto C = Oeffne<TVPolelForm>();
   EXPECT_EQ(Reihe(Riss, BerNr), "Riss 12|3");  // cancel keeps the old values
-  B->FokusWechseln(*B->Finde("LinelAnfPnr"));
+  B->FokusWechseln(Feld(*B, "LinelAnfPnr"));
   EXPECT_FALSE(B->TasteDruecken(Taste::Plus));  // no number yet: the key is left to the text
   LetztePunktnummer = "12A";
   EXPECT_TRUE(B->TasteDruecken(Taste::Minus));
@@ -171,8 +169,8 @@ TEST_F(Linienblatt, NachlaufHaeltUndLaesstSichStoppen) {
 
 TEST_F(Linienblatt, NachlaufMitFehlendenPunkten) {
   Schreibe(StapeldateiName,
-           "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\nM VR 24.40 x\r\nPAN 77\r\nPEN "
-           "1002\r\n");
+           "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n"
+           "M VR 24.40 x\r\nPAN 77\r\nPEN 1002\r\n");
   for (int i = 0; i < 2; ++i) Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Skript.Erwarte("Zeile: 9\nAnschlußpunkt 77 fehlt");
   EXPECT_NE(Nachlauf().find("2003"), std::string::npos);
