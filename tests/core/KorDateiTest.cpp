@@ -122,18 +122,6 @@ TEST_F(KorDatei, GrenzeVon20000Punkten) {
   EXPECT_EQ(KorAnzahl, 20001);
 }
 
-TEST_F(KorDatei, AnhaengenUndMischen) {
-  ASSERT_EQ(Lies(Zeilen(3)), 0);
-  EXPECT_FALSE(KoordinatenGeaendert);
-  ASSERT_EQ(Lies("2 9.0 9\r\n7 1.0 1\r\n7 2.0 2\r\n", ModusNurNeue), 0);
-  EXPECT_EQ(KorAnzahl, 4);
-  EXPECT_EQ(Punktzeile(3), "7|1|0|");  // of two new points of one number the first
-  EXPECT_TRUE(KoordinatenGeaendert);
-  Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
-  ASSERT_EQ(Lies("2 9.0 9\r\n", ModusAnhaengen), 0);
-  EXPECT_EQ(Reihe(KorAnzahl, AnzahlDoppelte()), "5|1");
-}
-
 TEST_F(KorDatei, StopNimmtZurueck) {
   ASSERT_EQ(Lies(Zeilen(5)), 0);
   KoordinatendateiName = "alt.kor";

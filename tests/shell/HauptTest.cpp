@@ -111,19 +111,20 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
 
 TEST_F(Haupt, Hinzulesen) {
   Oeffne();
+  EXPECT_FALSE(KoordinatenGeaendert);
   const std::string Datei = Ordner.Pfad("h.kor");
-  Schreibe(Datei, "1001 9.0 9\r\n3001 1.0 1\r\n3002 1.0 1\r\n3003 1.0 1\r\n");
+  Schreibe(Datei, "1001 9.0 9\r\n3001 1.0 1\r\n3002 1.0 1\r\n3003 1.0 1\r\n3003 2.0 2\r\n");
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "3001\n"}, {"Wert(1)", "3002\n"}}));
   Befehl("MenüDateiHinzuLesenPunktbereich", Datei);
   EXPECT_EQ(KorAnzahl, 5);
-  Befehl("MenüDateiHinzuLesenNurNeue", Datei);
-  EXPECT_EQ(Reihe(KorAnzahl, KorRechts[0]), "6|3500100");
+  Befehl("MenüDateiHinzuLesenNurNeue", Datei);  // of two new points of one number the first
+  EXPECT_EQ(Reihe(KorAnzahl, KorRechts[0], KorRechts[5], KoordinatenGeaendert), "6|3500100|1|1");
   Skript.Formulare.push_back(Bediene({{"PSelectGitter", "\n"}, {"OK", ""}}));  // Return marks the first
   for (int i = 0; i < 2; ++i) Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
   Befehl("MenüDateiHinzuLesenPunktselektion", Datei);
-  EXPECT_EQ(KorAnzahl, 7);
+  EXPECT_EQ(Reihe(KorAnzahl, AnzahlDoppelte()), "7|1");
   Befehl("MenüDateiHinzuLesenKomplett", Datei);
-  EXPECT_EQ(KorAnzahl, 11);
+  EXPECT_EQ(KorAnzahl, 12);
 }
 
 TEST_F(Haupt, StapelUeberDasMenueUndOffenerBlock) {
@@ -161,7 +162,7 @@ TEST_F(Haupt, ProtokollwechselAnsichtUndTextErsetzen) {
             Ordner.Pfad("p.dru") + "|kein Protokoll");
   Optionen.DateinameEditorNT = "ed";
   Befehl("MenüAnsichtKoordinatendatei");
-  EXPECT_EQ(Skript.Gestartet.back(), "ed|" + A_kor);
+  EXPECT_EQ(Skript.Gestartet, "ed|" + A_kor);
   const std::string Datei = Ordner.Pfad("t.txt");
   Schreibe(Datei, "M\xFCller, M\xFCller");
   for (const auto& [Such, Meldung] :

@@ -52,6 +52,18 @@ void Schreibe(const std::string& Datei, std::string_view Bytes) {
                                        << Ist;
 }
 
+// The next of the answers in store.
+template <typename T>
+T Nehmen(std::deque<T>& Vorrat, const std::string& Wofuer) {
+  if (Vorrat.empty()) {
+    ADD_FAILURE() << "unforeseen " << Wofuer;
+    return {};
+  }
+  T Erstes = std::move(Vorrat.front());
+  Vorrat.pop_front();
+  return Erstes;
+}
+
 PlattformSkript::~PlattformSkript() {
   PlattformSetzen(Vorher);
   EXPECT_TRUE(Offen.empty()) << "not asked: " << Offen.front().first;
@@ -61,52 +73,19 @@ PlattformSkript::~PlattformSkript() {
 
 int PlattformSkript::Meldung(const std::string& Text, Knoepfe /*Art*/, const std::string& Ueberschrift) {
   Titel.push_back(Ueberschrift);
-  if (Offen.empty() || Text.find(Offen.front().first) == std::string::npos) {
-    ADD_FAILURE() << "unforeseen message: " << Text;
-    return KnopfAbbruch;
-  }
-  const int Antwort = Offen.front().second;
-  Offen.pop_front();
+  const auto [Stueck, Antwort] = Nehmen(Offen, "message: " + Text);
+  EXPECT_NE(Text.find(Stueck), std::string::npos) << Text;
   return Antwort;
 }
 
 void PlattformSkript::FormularZeigen(Formular& Form, bool Modal) {
-  if (!Modal) {
-    if (BeiBlatt) BeiBlatt(Form);
-    return;
-  }
-  if (Formulare.empty()) {
-    ADD_FAILURE() << "unforeseen modal form";
-    return;
-  }
-  const auto Tun = std::move(Formulare.front());
-  Formulare.pop_front();
-  Tun(Form);
+  const auto Tun = Modal ? Nehmen(Formulare, "modal form") : BeiBlatt;
+  if (Tun) Tun(Form);
 }
 
 std::string PlattformSkript::DateiWaehlen(Dateiauftrag& Auftrag) {
   Auftraege.push_back(Auftrag);
-  if (Dateien.empty()) {
-    ADD_FAILURE() << "unforeseen file dialog: " << Auftrag.Titel;
-    return {};
-  }
-  std::string Name = std::move(Dateien.front());
-  Dateien.pop_front();
-  return Name;
-}
-
-void PlattformSkript::EreignisseAbarbeiten() {
-  if (BeiEreignissen) BeiEreignissen();
-}
-
-void PlattformSkript::StatusSetzen(Statusfeld Feld, const std::string& Text) {
-  Status.resize(std::max(Status.size(), static_cast<std::size_t>(Feld) + 1));
-  Status[static_cast<std::size_t>(Feld)] = Text;
-}
-
-int PlattformSkript::ProgrammStarten(const std::string& Programm, const std::string& Datei) {
-  Gestartet.push_back(Programm + "|" + Datei);
-  return 0;
+  return Nehmen(Dateien, "file dialog: " + Auftrag.Titel);
 }
 
 TabellenTest::TabellenTest() {

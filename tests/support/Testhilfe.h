@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <deque>
 #include <filesystem>
 #include <functional>
@@ -58,15 +59,20 @@ class PlattformSkript final : public Plattform {
   int Meldung(const std::string& Text, Knoepfe Art, const std::string& Ueberschrift) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string DateiWaehlen(Dateiauftrag& Auftrag) override;
-  void EreignisseAbarbeiten() override;
+  void EreignisseAbarbeiten() override { BeiEreignissen(); }
   Zeitpunkt Jetzt() override { return Uhr; }
   double Zeitgeber() override { return Sekunden += 1; }
-  void StatusSetzen(Statusfeld Feld, const std::string& Text) override;
+  void StatusSetzen(Statusfeld Feld, const std::string& Text) override {
+    Status.at(static_cast<std::size_t>(Feld)) = Text;
+  }
   void FenstertitelSetzen(const std::string& Neuer) override { Fenstertitel = Neuer; }
   std::string ProgrammOrdner() override { return Programmordner; }
   bool StapelHaelt() override { return Haelt; }
   void HauptfensterGroesse(int& B, int& H) override { B = Breite, H = Hoehe; }
-  int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;
+  int ProgrammStarten(const std::string& Programm, const std::string& Datei) override {
+    Gestartet = Programm + "|" + Datei;
+    return 0;
+  }
 
   /// A question to come: piece of its text and the button that answers it.
   void Erwarte(const std::string& Stueck, int Antwort = 1) { Offen.emplace_back(Stueck, Antwort); }
@@ -74,10 +80,11 @@ class PlattformSkript final : public Plattform {
   std::deque<std::string> Dateien;                       ///< names that the file dialogs give, in order
   std::deque<std::function<void(Formular&)>> Formulare;  ///< what is done in each modal form, in order
   std::function<void(Formular&)> BeiBlatt;               ///< what is done with a worksheet that is shown
-  std::function<void()> BeiEreignissen;                  ///< runs when the event queue is served
-  std::vector<std::string> Status, Titel, Gestartet;
+  std::function<void()> BeiEreignissen = [] {};          ///< runs when the event queue is served
+  std::array<std::string, 8> Status;
+  std::vector<std::string> Titel;
   std::vector<Dateiauftrag> Auftraege;
-  std::string Fenstertitel, Programmordner;
+  std::string Fenstertitel, Programmordner, Gestartet;
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
   bool Haelt = false;
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
