@@ -6,7 +6,6 @@
 #include <random>
 
 #include <tavorena/core/Sortierung.h>
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Zahlen.h>
 
 namespace tavorena::test {
@@ -156,19 +155,6 @@ TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
   EXPECT_EQ(KorAnzahl, KorZeilen);
 }
 
-TEST_F(Punkttabelle, KorFindFragtBisDerPunktDaIst) {
-  Punkt("12", 1, 2);
-  Wert Pnr("11");
-  EXPECT_EQ(KorFind(Pnr), -1);  // nobody to ask
-  int Gefragt = 0;
-  Haken.FormEinzelKorein = [&](Wert& Nr) {
-    Nr = Wert(++Gefragt == 1 ? "10" : "12");
-    return Gefragt == 3 ? -1 : 1;
-  };
-  EXPECT_EQ(KorFind(Pnr), 0);
-  EXPECT_EQ(Reihe(Pnr.Text(), Gefragt), "12|2");
-}
-
 TEST_F(Punkttabelle, LoeschenUndEinfuegen) {
   KorEinfuegen(0, "1", 1, 1, 1, "", {});
   EXPECT_EQ(KorAnzahl, 0);  // the first point comes through Neupunkt
@@ -205,15 +191,6 @@ TEST_F(Punkttabelle, BereichSucheVerschieben) {
   const std::vector<std::string> Liste{"1", " 2", "2", "2"};
   EXPECT_EQ(Reihe(ListeFind("2", Liste, 4), ListeFind("2", Liste, 1)), "1|-1");
   EXPECT_EQ(Reihe(ListeFindAlle(Liste, 4, "2", Indizes), ListeFindAlle(Liste, 4, "2", Indizes, 2)), "3|-2");
-}
-
-TEST(TVDialog, Texte) {
-  PlattformSkript Skript;
-  Skript.Erwarte("Punkt 12schon vorhanden !");
-  Skript.Erwarte("Fehler 70 in Haupt.Test wurde ausgelöst durch Tavorena\nZugriff verweigert");
-  PunktVorhandenMeldung("12");
-  LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Haupt.Test");
-  EXPECT_EQ(Skript.Titel, (std::vector<std::string>{"Tavorena", "Tavorena Fehlermeldung"}));
 }
 
 }  // namespace

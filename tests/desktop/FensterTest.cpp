@@ -211,8 +211,7 @@ class FensterTest : public QObject {
     ProtokollNehmen(Pfad("b.dru").toStdString());
     Waehle(Pfad("a.sta"));
     Menue("MenüDateiStapel");
-    const char* const Titel[] = {"Linienelemente", "Polarelemente", "Entfernungskontrolle"};
-    for (const char* Name : Titel) {
+    for (const char* Name : {"Linienelemente", "Polarelemente", "Entfernungskontrolle"}) {
       QVERIFY(StapelAktiv);  // each block shows its connection and waits
       const QString Erwartet = QString("Tavorena ") + Name + " [Stapel]";
       QTRY_VERIFY(FokusName().endsWith("Weiter") &&

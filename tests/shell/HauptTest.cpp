@@ -54,23 +54,20 @@ TEST_F(Haupt, Menuezustaende) {
 
 TEST_F(Haupt, VorhandenesProtokollFragt) {
   Oeffne();
-  struct Fall {
-    int Antwort;
-    std::deque<std::string> Anderes;  // chosen in its dialog
-    std::string Protokoll, Inhalt;
-    int Punkte;  // then
-  };
-  for (const Fall& f : {Fall{0, {}, A_dru, "alt\r\n", 3}, Fall{1, {}, A_dru, "", 3},
-                        Fall{2, {Ordner.Pfad("neu")}, Ordner.Pfad("neu.dru"), "alt\r\n", 3},
-                        Fall{2, {""}, "", "alt\r\n", 0}}) {  // cancelled: no coordinates
+  // The button, what is chosen in its dialog; the protocol, what stands in the old one and the points then.
+  using Fall = std::tuple<int, std::deque<std::string>, std::string, const char*, int>;
+  for (const auto& [Antwort, Anderes, Protokoll, Altes, Punkte] :
+       {Fall{0, {}, A_dru, "alt\r\n", 3}, Fall{1, {}, A_dru, "", 3},
+        Fall{2, {Ordner.Pfad("neu")}, Ordner.Pfad("neu.dru"), "alt\r\n", 3},
+        Fall{2, {""}, "", "alt\r\n", 0}}) {  // cancelled: no coordinates
     Schreibe(A_dru, "alt\r\n");
     Skript.Erwarte("speichern ? ", KnopfNein);
-    Knopf(f.Antwort);
-    Skript.Dateien = f.Anderes;
+    Knopf(Antwort);
+    Skript.Dateien = Anderes;
     Skript.Dateien.push_front(A_kor);
     Befehl("MenüDateiLesen(0)");
-    EXPECT_EQ(Reihe(ProtokolldateiName, Inhalt(A_dru), KorAnzahl), Reihe(f.Protokoll, f.Inhalt, f.Punkte));
-    EXPECT_EQ(Aktiv("MenüKatasterLinel"), f.Punkte > 0);
+    EXPECT_EQ(Reihe(ProtokolldateiName, Inhalt(A_dru), KorAnzahl), Reihe(Protokoll, Altes, Punkte));
+    EXPECT_EQ(Aktiv("MenüKatasterLinel"), Punkte > 0);
   }
 }
 
@@ -201,9 +198,9 @@ TEST_F(Haupt, AllgemeineDialoge) {
   EXPECT_EQ(Reihe(Felder[0].Wert, Felder[1].Wert, Felder[2].Wert), "1.50|2.001|x");
   for (const char* Getippt : {"/gibt es nicht\n", "/\n"})
     Skript.Formulare.push_back(Bediene({{"Wert(0)", Getippt}}));
-  Skript.Erwarte("Fehler 76");
+  Skript.Erwarte("Fehler 76 in Dialog.VerzeichnisWahl wurde ausgelöst durch Tavorena\nPfad nicht gefunden");
   EXPECT_EQ(VerzeichnisWahl("T", Verzeichnis), 0);
-  EXPECT_EQ(Verzeichnis, "/");
+  EXPECT_EQ(Reihe(Verzeichnis, Skript.Titel.back()), "/|Tavorena Fehlermeldung");
 }
 
 TEST_F(Haupt, DateinamenDialogSchuetztEinUndAusgabe) {
