@@ -95,7 +95,9 @@ TEST_F(Datei, AbbruchZuJederZeitLaesstEineGanzeDatei) {
   Schreibe(Name, A);
   for (int i = 0; i < 20; ++i) {
     const pid_t Kind = fork();
-    for (int k = 0; Kind == 0; ++k) DateiErsetzen(Name, k % 2 == 0 ? B : A);
+    if (Kind == 0) {
+      for (int k = 0;; ++k) DateiErsetzen(Name, k % 2 == 0 ? B : A);
+    }
     std::this_thread::sleep_for(std::chrono::milliseconds(2 + i));
     kill(Kind, SIGKILL);
     waitpid(Kind, nullptr, 0);
