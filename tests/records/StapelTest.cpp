@@ -101,7 +101,7 @@ TEST_F(Stapel, KoepfeUndKommentare) {
   EXPECT_EQ(Stapellauf.Uebergangen, (std::vector<std::string>{"09.00", "65.00", "3D WINKEL"}));
 }
 
-TEST_F(Stapel, FalscherKopfBeendetDenLaufUndSaetze) {
+TEST_F(Stapel, FalscherKopfUndFalscherSatzBeendenDenLauf) {
   std::string P, S;
   double w = 0;
   int Enden = 0;
@@ -112,15 +112,18 @@ TEST_F(Stapel, FalscherKopfBeendetDenLaufUndSaetze) {
   StapelSchritt = {};
   Laufen("E\r\nM VR LE\r\n", [] { FAIL(); });  // a lone "E" ends the run without a word
   EXPECT_FALSE(Stapellauf.Fehler);
-  Laufen("M VR LE\r\nRISS x\r\nBERNR  7\r\nNEUPUNKT  12  -\r\nNEUPUNKT  0 - -\r\nNND 1 2 3,5\r\nE\r\n", [&] {
-    EXPECT_EQ(StapelLeseRisszeilen() + StapelLeseNeupunkt(P, S), 0);
-    EXPECT_EQ(Reihe(BerNr, P, S), "7|12|");
-    EXPECT_EQ(StapelLeseNeupunkt(P, S), 0);
-    EXPECT_EQ(P, "");
-    EXPECT_EQ(StapelLeseZweiPnr("NND", P, S, w), 0);
-    EXPECT_EQ(Reihe(P, S, w), "1|2|3.5");
-    EXPECT_EQ(StapelLeseNeupunkt(P, S), -2);
-  });
+  Laufen("M VR LE\r\nRISS x\r\nBERNR  7\r\nNEUPUNKT  12  -\r\nNEUPUNKT  0 - -\r\nNND 1 2 3,5\r\nPXN 2\r\n",
+         [&] {
+           EXPECT_EQ(StapelLeseRisszeilen() + StapelLeseNeupunkt(P, S), 0);
+           EXPECT_EQ(Reihe(BerNr, P, S), "7|12|");
+           EXPECT_EQ(StapelLeseNeupunkt(P, S), 0);
+           EXPECT_EQ(P, "");
+           EXPECT_EQ(StapelLeseZweiPnr("NND", P, S, w), 0);
+           EXPECT_EQ(Reihe(P, S, w), "1|2|3.5");
+           Skript.Erwarte("Fehler 7 beim Lesen der Stapeldatei:\nPXN 2");
+           EXPECT_EQ(StapelLeseNeupunkt(P, S), -1);
+         });
+  EXPECT_TRUE(Stapellauf.Fehler);
 }
 
 TEST_F(Stapel, GrenzenDesLaufs) {
