@@ -182,7 +182,7 @@ class FensterTest : public QObject {
     Antworte("Riss 12\n3\n");
     QTest::keyClick(Fenster.get(), Qt::Key_R, Qt::AltModifier);
     QVERIFY(QApplication::activePopupWidget() != nullptr);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);  // the first one that can be used
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_L);  // not the disabled one of this letter
     Tippe("1001\n1002\n0\n99,93\n2003\n2004\n");
     Druecke(Qt::Key_Plus, Qt::KeypadModifier);
     Tippe("\n\n\n");  // 2005, then out of the grid, then the end of the connection
