@@ -203,6 +203,8 @@ TEST_F(Transformation, ParameterUndGrenzen) {
                    {28 / 3., 9, 3, -2, 7, 4, .5, 5, std::sqrt(4.25), std::atan(4 / 3.) * 200 / pi,
                     200 - std::atan(.25) * 200 / pi, std::sqrt(5.) / 3},
                    1e-12));
+  EXPECT_EQ(Affin({{1, -1, -1, 1}, {1, 1, -1, -1}, {1.5, -1.5, -.5, .5}, {1, 1, -1, -1}}, 4), ok);
+  EXPECT_TRUE(Nahe({z[15], z[16], v[0][1], v[1][1]}, {std::sqrt(.5), 1, -.5, 0}, 1e-12));
 
   const Punkte Viele = Kette(1500);
   EXPECT_EQ(Helmert(Viele, 101), ok);

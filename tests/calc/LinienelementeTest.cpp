@@ -1,4 +1,11 @@
-#include "Rechentest.h"
+#include "Testhilfe.h"
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include <tavorena/calc/TA.h>
+#include <tavorena/calc/TVBerechnungsmodul.h>
 
 namespace tavorena::test {
 namespace {
@@ -13,7 +20,8 @@ TEST(Linienelemente, Tabelle) {
   constexpr Fall Faelle[] = {
       {"north, point to the east", {0, 0}, {0, 100}, {30, 40}, 40, 30},
       {"east, point to the south", {0, 0}, {100, 0}, {40, -30}, 40, 30},
-      {"south-west, point to the south", {0, 0}, {-30, -40}, {-30, -90}, 90, -30},
+      {"south, point to the east", {0, 0}, {0, -100}, {30, -40}, 40, -30},
+      {"west, point to the south", {0, 0}, {-100, 0}, {-40, -30}, 40, -30},
       {"behind the start", {0, 0}, {0, 100}, {-5, -5}, -5, -5},
       {"Gauss-Krüger, 3-4-5", {3400000, 5700000}, {3400030, 5700040}, {3400023, 5700014}, 25, 10},
       {"negative coordinates", {-30, -40}, {0, 0}, {-30, -40}, 0, 0},
@@ -24,69 +32,96 @@ TEST(Linienelemente, Tabelle) {
     SCOPED_TRACE(f.Name);
     double Linie = 0, Seitwaerts = 0;
     EXPECT_EQ(Linienelemente(f.Anf, f.End, f.Punkt, Linie, Seitwaerts), 0);
-    EXPECT_TRUE(Nahe({Linie, Seitwaerts}, {f.Linie, f.Seitwaerts}));
+    EXPECT_NEAR(Linie, f.Linie, 1e-9);
+    EXPECT_NEAR(Seitwaerts, f.Seitwaerts, 1e-9);
   }
 }
 
 // A point placed from foot point and offset comes back with them; the polar elements agree by Pythagoras.
 TEST(Linienelemente, StimmenMitPolarelementenUndFusspunkt) {
-  Gelaende G;
+  std::mt19937 Zufall(19700101);
+  std::uniform_real_distribution<double> R(3.40e6, 3.41e6), H(5.70e6, 5.71e6);
   for (int i = 0; i < 5000; ++i) {
-    const Lage A = G(), E = G(), P = G();
+    const Lage A{R(Zufall), H(Zufall)}, E{R(Zufall), H(Zufall)}, P{R(Zufall), H(Zufall)};
     double Linie = 0, Seitwaerts = 0, Richtung = 0, Entf = 0, Nord = 0;
     Lage F;
     ASSERT_EQ(Linienelemente(A, E, P, Linie, Seitwaerts) + Fusspunkt(A, E, P, F), 0);
     ASSERT_EQ(Polarelemente(A, E, P, 0, Richtung, Entf, Nord), 0);
-    ASSERT_NEAR(Abstand(P, F), std::fabs(Seitwaerts), 1e-8);
-    ASSERT_TRUE(Nahe({Linie, Seitwaerts}, {Entf * CosGon(Richtung), Entf * SinGon(Richtung)}, 1e-7));
+    ASSERT_NEAR(std::hypot(P.RW - F.RW, P.HW - F.HW), std::fabs(Seitwaerts), 1e-8);
+    ASSERT_NEAR(Entf * std::cos(Richtung / 200 * M_PI), Linie, 1e-7);
+    ASSERT_NEAR(Entf * std::sin(Richtung / 200 * M_PI), Seitwaerts, 1e-7);
   }
 }
 
-using Schnittstelle = RechenTest;
+class Schnittstelle : public TabellenTest {
+ protected:
+  TA Ta;
+  double a = 9, b = 9, c = 9, d = 9;
+};
 
-TEST_F(Schnittstelle, Anschluesse) {
-  constexpr auto Gleich = Fehler_AnfangsUndEndpunktGleich;
-  EXPECT_EQ(Ta.Entfernungskontrolle(0, 0, 60, 80, a, 0, &b, &c), Fehler_Allgemein);
-  EXPECT_TRUE(Nahe({a, b, c}, {100, Nichts, Nichts}));  // the distance is valid all the same
-  EXPECT_EQ(Ta.Entfernungskontrolle(0, 0, 60, 80, a, 99.8, &b, &c), ok);
-  EXPECT_TRUE(Nahe({a, b, c}, {100, 0.16, 0.2}));  // 0.08 + 0.03 + 0.05
-  EXPECT_EQ(Ta.LinienelementeAnschluss(0, 0, 60, 80, a, 5, 0, &b, &c, &d), ok);
-  EXPECT_TRUE(Nahe({a, b, c, d}, {100, 0.16, 0, 1}));  // D is set although nothing was measured
-  EXPECT_EQ(Ta.LinienelementeAnschluss(0, 0, 60, 80, a, 5, 104.93, &b, &c, &d), ok);
-  EXPECT_TRUE(Nahe({c, d}, {0.07, 0.9993}));  // measured over computed
-  EXPECT_EQ(Ta.LinienelementeAnschluss(1, 1, 1, 1, a, 0, 7, &b, &c, &d), Gleich);
-  EXPECT_TRUE(Nahe({a, c, d}, {0, -7, 1}));
-  EXPECT_EQ(Ta.PolarelementeAnschluss(0, 0, 100, 0, a, &b, &c), ok);
-  EXPECT_TRUE(Nahe({a, b, c}, {100, 0, 100}));  // 0 is the clockwise intermediate of due east
-  EXPECT_EQ(Ta.PolarelementeAnschluss(1, 1, 1, 1, a, &b, &c), Gleich);
-  EXPECT_EQ(Ta.Polarelemente(0, 0, 60, 80, 30, 30, a, b, "12,5", &c), ok);
-  EXPECT_TRUE(Nahe({a, b, c}, {21.5334, 42.4264, 40.9666}, 5e-5));
-  Vorbesetzen();
-  EXPECT_EQ(Ta.Polarelemente(1, 1, 1, 1, 30, 30, a, b, 0.0, &c), Gleich);
-  EXPECT_EQ(c, 0);  // written all the same
-  c = Nichts;
-  EXPECT_EQ(Ta.Linienelemente(1, 1, 1, 1, 5, 5, a, b), Gleich);
-  EXPECT_EQ(Ta.Linienelemente(0, 0, 60, 80, std::nan(""), 0, a, b), Fehler_Allgemein);
-  EXPECT_EQ(Ta.Polarelemente(0, 0, 60, 80, 1, 0, a, b, HUGE_VAL), Fehler_Allgemein);
-  EXPECT_TRUE(Unberuehrt());
+TEST_F(Schnittstelle, Entfernungskontrolle) {
+  EXPECT_EQ(Ta.Entfernungskontrolle(0, 0, 60, 80, a, 0, &b, &c), enmResult::Fehler_Allgemein);
+  EXPECT_EQ(a, 100);  // valid all the same
+  EXPECT_EQ(b + c, 18);
+  EXPECT_EQ(Ta.Entfernungskontrolle(0, 0, 60, 80, a, 99.8, &b, &c), enmResult::ok);
+  EXPECT_NEAR(b, 0.16, 1e-12);  // 0.08 + 0.03 + 0.05
+  EXPECT_NEAR(c, 0.2, 1e-12);
+  EXPECT_EQ(Ta.Entfernungskontrolle(0, 0, 60, 80, a, 99.8), enmResult::ok);
 }
 
-TEST_F(Schnittstelle, Zwillinge) {
+TEST_F(Schnittstelle, LinienelementeAnschluss) {
+  EXPECT_EQ(Ta.LinienelementeAnschluss(0, 0, 60, 80, a, 5, 0, &b, &c, &d), enmResult::ok);
+  EXPECT_EQ(a + c + d, 101);
+  EXPECT_NEAR(b, 0.16, 1e-12);  // D is set although nothing was measured
+  EXPECT_EQ(Ta.LinienelementeAnschluss(0, 0, 60, 80, a, 5, 104.93, &b, &c, &d), enmResult::ok);
+  EXPECT_NEAR(c, 0.07, 1e-9);
+  EXPECT_NEAR(d, 0.9993, 1e-12);  // measured over computed
+  EXPECT_EQ(Ta.LinienelementeAnschluss(1, 1, 1, 1, a, 0, 7, &b, &c, &d),
+            enmResult::Fehler_AnfangsUndEndpunktGleich);
+  EXPECT_EQ(a + d, 1);
+  EXPECT_EQ(c, -7);
+  EXPECT_EQ(Ta.Linienelemente(1, 1, 1, 1, 5, 5, a = 9, b = 9), enmResult::Fehler_AnfangsUndEndpunktGleich);
+  EXPECT_EQ(a + b, 18);
+}
+
+TEST_F(Schnittstelle, Polarelemente) {
+  EXPECT_EQ(Ta.PolarelementeAnschluss(0, 0, 100, 0, a, &b, &c), enmResult::ok);
+  EXPECT_EQ(a, 100);
+  EXPECT_EQ(b, 0);  // the clockwise intermediate of due east
+  EXPECT_NEAR(c, 100, 1e-10);
+  EXPECT_EQ(Ta.PolarelementeAnschluss(1, 1, 1, 1, a, &b, &c), enmResult::Fehler_AnfangsUndEndpunktGleich);
+  EXPECT_EQ(Ta.Polarelemente(0, 0, 60, 80, 30, 30, a, b, "12,5", &c), enmResult::ok);
+  EXPECT_NEAR(a, 21.5334, 5e-5);
+  EXPECT_NEAR(b, 42.4264, 5e-5);
+  EXPECT_NEAR(c, 40.9666, 5e-5);
+  EXPECT_EQ(Ta.Polarelemente(1, 1, 1, 1, 30, 30, a = 9, b = 9, 0.0, &c),
+            enmResult::Fehler_AnfangsUndEndpunktGleich);
+  EXPECT_EQ(a + b, 18);
+  EXPECT_EQ(c, 0);
+}
+
+TEST_F(Schnittstelle, ZwillingeUndSchlechteEingaben) {
   Punkt("1", 0, 0);
   Punkt("2", 60, 80);
   Punkt("12A", 30, 30);
-  EXPECT_EQ(Ta.EntfernungskontrollePnr(1, 2.0, a, 99.8, &b, &c), ok);
-  EXPECT_EQ(Ta.LinienelementeAnschlussPnr(1, "2", d), ok);
-  EXPECT_EQ(a + d, 200);
-  EXPECT_EQ(Ta.LinienelementePnr(1, " 2 ", "12A", a, b), ok);
-  EXPECT_EQ(Ta.PolarelementeAnschlussPnr("2", 1, d, nullptr, &c), ok);
-  EXPECT_TRUE(Nahe({a, b, c}, {42, 6, 240.9666}, 5e-5));
-  EXPECT_EQ(Ta.PolarelementePnr("1", "2", "12A", a, b), ok);
+  EXPECT_EQ(Ta.EntfernungskontrollePnr(1, 2.0, a, 99.8, &b, &c), enmResult::ok);
+  EXPECT_EQ(a, 100);
+  EXPECT_EQ(Ta.LinienelementeAnschlussPnr(1, "2", a), enmResult::ok);
+  EXPECT_EQ(Ta.LinienelementePnr(1, " 2 ", "12A", a, b), enmResult::ok);
+  EXPECT_NEAR(a, 42, 1e-9);
+  EXPECT_NEAR(b, 6, 1e-9);
+  EXPECT_EQ(Ta.PolarelementeAnschlussPnr("2", 1, a, nullptr, &c), enmResult::ok);
+  EXPECT_NEAR(c, 240.9666, 5e-5);
+  EXPECT_EQ(Ta.PolarelementePnr("1", "2", "12A", a, b), enmResult::ok);
   for (const Wert& Fehlt : {Wert("12a"), Wert(), Wert(NullWert{}), Wert(3)}) {
-    Vorbesetzen();
-    EXPECT_EQ(Ta.LinienelementePnr(Fehlt, 2, 1, a, b), Fehler_PunktNichtVorhanden);
-    EXPECT_EQ(Ta.PolarelementePnr(1, 2, Fehlt, a, b), Fehler_PunktNichtVorhanden);
-    EXPECT_TRUE(Unberuehrt());
+    EXPECT_EQ(Ta.LinienelementePnr(Fehlt, 2, 1, a = 9, b = 9), enmResult::Fehler_PunktNichtVorhanden);
+    EXPECT_EQ(Ta.PolarelementePnr(1, 2, Fehlt, a, b), enmResult::Fehler_PunktNichtVorhanden);
+    EXPECT_EQ(a + b, 18);
+  }
+  for (const double x : {std::nan(""), std::numeric_limits<double>::infinity()}) {
+    EXPECT_EQ(Ta.Linienelemente(0, 0, 60, 80, x, 0, a, b), enmResult::Fehler_Allgemein);
+    EXPECT_EQ(Ta.Polarelemente(0, 0, 60, 80, 1, 0, a, b, x), enmResult::Fehler_Allgemein);
+    EXPECT_EQ(a + b, 18);
   }
 }
 

@@ -92,10 +92,13 @@ TEST(Polygon, HandprobeUndToleranzen) {
   EXPECT_TRUE(Nahe({E.FW, E.FL, E.FQ, E.Seiten[1].vR, E.Seiten[1].vH}, {0, 0.3, 0.1, 0.075, -0.025}));
   EXPECT_TRUE(Nahe(E.Seiten[1].Ende, {500.15, -0.05}));
   Zug.PE = {1000, 0};
-  Zug.PFE = {1000, 500};  // S/2 does not exceed itself
   Zug.PolygonEndWinkel = 100.01;
-  ASSERT_EQ(PolygonCalc(Zug, true, true, true, true, E), 0);
-  EXPECT_FALSE(E.WinkelVerteilt);
+  for (const auto& [d1, d2] : {std::pair{600, 500}, std::pair{500, 600}}) {  // S/2 does not exceed itself
+    Zug.PFA = {-1.0 * d1, 0};
+    Zug.PFE = {1000, 1.0 * d2};
+    ASSERT_EQ(PolygonCalc(Zug, true, true, true, true, E), 0);
+    EXPECT_FALSE(E.WinkelVerteilt);
+  }
   EXPECT_NEAR(E.FW, -0.01, 1e-9);
   Zug.PolygonEndWinkel = 99.99;
   ASSERT_EQ(PolygonCalc(Zug, true, true, true, true, E), 0);

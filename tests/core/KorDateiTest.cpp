@@ -113,9 +113,11 @@ TEST_F(KorDatei, Lt4HatFesteSpalten) {
 }
 
 TEST_F(KorDatei, GrenzeVon20000Punkten) {
-  Skript.Erwarte("Maximale Anzahl von \n\n20000\n\nPunkten überschritten !");
-  EXPECT_EQ(Lies(Zeilen(20001)), 0);
-  EXPECT_EQ(KorAnzahl, 20000);
+  for (const int Anzahl : {100000, 20001}) {
+    Skript.Erwarte("Maximale Anzahl von \n\n20000\n\nPunkten überschritten !");
+    EXPECT_EQ(Lies(Zeilen(Anzahl)), 0);
+    EXPECT_EQ(KorAnzahl, 20000);
+  }
   EXPECT_EQ(KorSuche(Wert(20001)), -1);
   EXPECT_EQ(Lies(Zeilen(20000)), 0);  // no message
   Punkt("30000", 1, 1);               // the last row is for one more point

@@ -206,6 +206,8 @@ class FensterTest : public QObject {
     const QByteArray Protokoll = Inhalt(Pfad("a.dru")), Stapel = Inhalt(Pfad("a.sta"));
     QVERIFY(Protokoll.contains("(Riss 12) 3"));
     QVERIFY(Protokoll.contains("      3500130.000  5600230.000       42.000        6.000      2003\r\n"));
+    QVERIFY(Protokoll.contains("      3500130.000  5600230.000      21.5334       42.426      2003\r\n"));
+    QVERIFY(Protokoll.contains("WS=      0.200  D=    0.160 ******(>D)\r\n"));
     QCOMPARE(Stapel.count("\nNR  ") + Stapel.count("\nNND "), 6);
 
     ProtokollNehmen(Pfad("b.dru").toStdString());
@@ -254,6 +256,10 @@ class FensterTest : public QObject {
   void zeilenImGitter() {
     Oeffne("MenüKatasterLinel");
     Tippe("1001\n1002\n0\n0\n2003\n2004\n");
+    Druecke(Qt::Key_Tab);  // out of the grid, and back
+    QTRY_COMPARE(FokusName(), QString("LinelEnd10"));
+    Druecke(Qt::Key_Backtab, Qt::ShiftModifier);
+    QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
     Druecke(Qt::Key_Up);
     QCOMPARE(Feldtext(), QString("2004"));
     Tippe("2005\n");  // corrected

@@ -70,6 +70,7 @@ TEST_F(Stapel, StreichenInFremderKodierung) {
 TEST_F(Stapel, OhneDateiUndMitSchreibfehler) {
   StapeldateiName.clear();
   EXPECT_EQ(StapelKopfLinie("VR 24.40 Linienelemente", "1", 0, "2", 0), 0);
+  EXPECT_FALSE(StapelBlockOffen());
   StapeldateiName = Ordner.Pfad("fehlt/a.sta");
   Skript.Erwarte("Fehler 57 in Stapelmodul.StapelKopf");
   EXPECT_EQ(StapelKopfLinie("VR 24.40 Linienelemente", "1", 0, "2", 0), -1);

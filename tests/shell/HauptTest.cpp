@@ -90,6 +90,7 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
   EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")), "             7         1.000         2.000       3.000  ß\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
   Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
+  EXPECT_EQ(Koordinatendateiformat, 2);
   EXPECT_TRUE(Inhalt(Ordner.Pfad("b.lt4")).starts_with("000 45590000000007"));
   // An existing file can be extended: the table then holds all of it.
   const std::string Alt =
@@ -141,9 +142,14 @@ TEST_F(Haupt, StapelUeberDasMenueUndOffenerBlock) {
   EXPECT_FALSE(BlaetterOffen());
 }
 
-TEST_F(Haupt, BeendenSichert) {
+TEST_F(Haupt, BeendenFragtUndSichert) {
   Oeffne();
   Punkt("7", 1, 2);
+  Skript.Erwarte("Tavorena beenden ?", KnopfNein);
+  EXPECT_EQ(HauptBeenden(), -1);
+  Skript.Erwarte("Tavorena beenden ?", KnopfJa);
+  Skript.Erwarte("speichern ? ", KnopfAbbruch);
+  EXPECT_EQ(Reihe(HauptBeenden(), KorAnzahl), "-1|4");
   Skript.Erwarte("Tavorena beenden ?", KnopfJa);
   Skript.Erwarte("speichern ? ", KnopfJa);
   EXPECT_EQ(HauptBeenden(), 0);

@@ -72,8 +72,10 @@ TEST_F(Konfiguration, AeltereDateiLaeuftInDenNaechstenAbschnitt) {
 }
 
 TEST_F(Konfiguration, FehlendeDateiUndAnwendungsordner) {
-  setenv("windir", "c:\\windows", 1);
   EXPECT_EQ(OptionenLesen() + HistorieLesen() + DateinamenLesen() + EDBSLesen(), -4);
+  EXPECT_EQ(Optionen.DateinameEditorNT, "\\Notepad.exe");
+  setenv("windir", "c:\\windows", 1);
+  DateinamenLesen();
   EXPECT_EQ(Reihe(Optionen.DateinameEditor31, Optionen.DateinameEditorNT),
             "c:\\windows\\Notepad.exe|c:\\windows\\Notepad.exe");
   unsetenv("TAVORENA_ORDNER");

@@ -75,11 +75,16 @@ TEST_F(Linienblatt, FehlenderPunktWirdGefragt) {
 TEST_F(Linienblatt, UngueltigeEingabenHaltenDenFokus) {
   auto B = Oeffne<TVLinelForm>();
   const Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
+  EXPECT_TRUE(Feld(*B, "LinelEndmass").Fehlerhaft);
+  B->FokusWechseln(Feld(*B, "LinelAnlegemass"));
+  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
+  B->FokusWechseln(Feld(*B, "LinelEnd"));  // a way out is always open
+  EXPECT_EQ(B->Fokus()->Name, "LinelEnd");
   using Schritt = std::array<const char*, 3>;  // where, what is typed, where the focus then is
-  // A text for a number, both points the same, Endmass equal to Anlegemass, all well.
+  // Both points the same, Endmass equal to Anlegemass, all well.
   for (const auto& [Name, Text, Fokus] :
-       {Schritt{"LinelAnfPnr", "1001\n1001\n0\nabc\n", "LinelEndmass"},
-        Schritt{"LinelEndmass", "0\n", "LinelEndPnr"}, Schritt{"LinelEndPnr", "1002\n5\n5\n", "LinelEndmass"},
+       {Schritt{"LinelEndmass", "0\n", "LinelEndPnr"}, Schritt{"LinelEndPnr", "1002\n5\n5\n", "LinelEndmass"},
         Schritt{"LinelEndmass", "105\n", "LinelGitter"}}) {
     Tippe(*B, Name, Text);
     EXPECT_EQ(B->Fokus()->Name, Fokus) << Text;
