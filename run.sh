@@ -18,10 +18,10 @@ if [ ! -f "$beispiel/musterdorf.kor" ]; then
 fi
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  exec build/release/src/desktop/tavorena "${@:-$beispiel/musterdorf.kor}"
+  exec build/release/tavorena/desktop/tavorena "${@:-$beispiel/musterdorf.kor}"
 fi
 echo "Kein Bildschirm: das Beispiel wird ohne Fenster gerechnet."
 protokoll=$(mktemp -d)/musterdorf.dru
-build/release/src/console/tavorena-stapel --koordinaten "$beispiel/musterdorf.kor" --protokoll "$protokoll" "$beispiel/beispiel.sta"
+build/release/tavorena/console/tavorena-stapel --koordinaten "$beispiel/musterdorf.kor" --protokoll "$protokoll" "$beispiel/beispiel.sta"
 cat "$protokoll"
 rm -r "$(dirname "$protokoll")"

@@ -5,7 +5,7 @@
 
 namespace tavorena {
 
-class Formular;  // src/forms; passed through here and never looked into
+class Formular;  // tavorena/forms; passed through here and never looked into
 
 enum class Knoepfe { OK, JaNein, JaNeinAbbruch };
 
