@@ -9,7 +9,7 @@
 #include <benchmark/benchmark.h>
 #include <proj.h>
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 
 namespace tavorena::messung {
 namespace {

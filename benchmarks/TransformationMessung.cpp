@@ -7,7 +7,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace tavorena::messung {

@@ -1,6 +1,6 @@
 #include "Fuzzhilfe.h"
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 
 namespace tavorena::fuzz {
 namespace {

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace tavorena::fuzz {

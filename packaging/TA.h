@@ -1,4 +1,4 @@
 #pragma once
 
 // The public face of the library under the name that other programs use.
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>

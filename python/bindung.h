@@ -13,7 +13,7 @@
 #include <pybind11/stl/filesystem.h>
 #include <utility>
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 
 namespace py = pybind11;
 

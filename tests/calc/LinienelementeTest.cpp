@@ -4,7 +4,7 @@
 #include <limits>
 #include <random>
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
 
 namespace tavorena::test {

@@ -8,7 +8,7 @@
 #include <initializer_list>
 #include <random>
 
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
 
 // What the tests of the calculations share.

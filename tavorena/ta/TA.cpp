@@ -1,5 +1,5 @@
-#include <tavorena/calc/TA.h>
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TA.h>
+#include <tavorena/ta/TAHilfe.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>

@@ -1,5 +1,5 @@
 #include <tavorena/calc/Einschnitte.h>
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TAHilfe.h>
 
 namespace tavorena {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include <tavorena/calc/Lage.h>
-#include <tavorena/calc/TA.h>
+#include <tavorena/ta/TA.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 // What the methods of TA share. Not for other programs.

@@ -1,7 +1,7 @@
 #include <utility>
 
 #include <tavorena/calc/FreieStationierung.h>
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TAHilfe.h>
 
 namespace tavorena {
 namespace {

@@ -1,5 +1,5 @@
 #include <tavorena/calc/Geokonvertierung.h>
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TAHilfe.h>
 
 namespace tavorena {
 

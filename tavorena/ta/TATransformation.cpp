@@ -2,7 +2,7 @@
 #include <optional>
 #include <utility>
 
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TAHilfe.h>
 #include <tavorena/calc/TVBerechnungsmodulHelmertAffin.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>

@@ -1,6 +1,6 @@
 #include <tavorena/calc/Ausgleich.h>
 #include <tavorena/calc/Flaeche.h>
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TAHilfe.h>
 
 // A result that overflowed is a failure here: finite numbers in, finite numbers out.
 

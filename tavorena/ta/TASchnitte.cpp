@@ -1,5 +1,5 @@
 #include <tavorena/calc/Schnitte.h>
-#include <tavorena/calc/TAHilfe.h>
+#include <tavorena/ta/TAHilfe.h>
 #include <tavorena/core/Text.h>
 
 namespace tavorena {
