@@ -77,7 +77,7 @@ void FmtText(fmt::memory_buffer& Text) {
 }
 
 void KorTextMessen(benchmark::State& Stand) {
-  TabelleFuellen();
+  TabelleFüllen();
   std::string Text;
   for (auto _ : Stand) {
     KorText(FormatKor, Text);
@@ -89,7 +89,7 @@ void KorTextMessen(benchmark::State& Stand) {
 }
 
 void FmtTextMessen(benchmark::State& Stand) {
-  TabelleFuellen();
+  TabelleFüllen();
   fmt::memory_buffer Text;
   for (auto _ : Stand) {
     FmtText(Text);
@@ -101,7 +101,7 @@ void FmtTextMessen(benchmark::State& Stand) {
 }
 
 void KorSchreibenMessen(benchmark::State& Stand) {
-  TabelleFuellen();
+  TabelleFüllen();
   std::string Name = Messpfad("neu.kor");
   int Zeilen = 0;
   for (auto _ : Stand) Zeilen = KorSchreiben(Name, FormatKor);
@@ -118,7 +118,7 @@ constexpr int Fehlender = static_cast<int>(Punktzahl) - 1;
 
 void MischenMessen(benchmark::State& Stand) {
   std::string Name = Kordatei(false);
-  TabelleFuellen();
+  TabelleFüllen();
   for (auto _ : Stand) {
     KorLoeschen(Fehlender);
     const double Ab = Prozessorzeit();
@@ -129,7 +129,7 @@ void MischenMessen(benchmark::State& Stand) {
 }
 
 void JedeSuchenMessen(benchmark::State& Stand) {
-  TabelleFuellen();
+  TabelleFüllen();
   KorLoeschen(Fehlender);
   int Gefunden = 0;
   for (auto _ : Stand) {

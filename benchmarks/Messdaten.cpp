@@ -33,16 +33,16 @@ class Messordner {
 };
 
 // A message means that something other than the job was measured.
-class Meldezaehler final : public Plattform {
+class Meldezähler final : public Plattform {
  public:
-  Meldezaehler() { PlattformSetzen(this); }
-  int Meldung(const std::string& /*Text*/, Knoepfe /*Art*/, const std::string& /*Titel*/) override {
+  Meldezähler() { PlattformSetzen(this); }
+  int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/) override {
     ++Anzahl;
     return KnopfAbbruch;
   }
   int Anzahl = 0;
 };
-Meldezaehler Meldungen;
+Meldezähler Meldungen;
 
 Punktlisten PunkteBilden() {
   constexpr const char* Symbole[] = {"015", "020", "031", "2", ""};
@@ -92,7 +92,7 @@ std::string Kordatei(bool Gemischt) {
   return Name;
 }
 
-void TabelleFuellen() {
+void TabelleFüllen() {
   KorLeeren();
   std::string Name = Kordatei(false);
   if (KorLesen(Name, ModusErsetzen, FormatKor) == 0 && TabelleIstGanz()) return;

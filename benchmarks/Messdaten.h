@@ -22,7 +22,7 @@ std::string Kordatei(bool Gemischt);
 std::string Messpfad(const char* Name);
 
 /// Fills the table with all points.
-void TabelleFuellen();
+void TabelleFüllen();
 
 /// The table holds all points, and nothing else, in their order, and no message was shown on the way.
 bool TabelleIstGanz();

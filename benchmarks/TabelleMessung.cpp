@@ -18,7 +18,7 @@ namespace tavorena::messung {
 namespace {
 
 void KorSucheMessen(benchmark::State& Stand, bool Fehlt) {
-  TabelleFuellen();
+  TabelleFüllen();
   const std::string Pnr = Fehlt ? "999" : Punkte().Pnr.back();
   int Zeile = 0;
   for (auto _ : Stand) {
@@ -29,29 +29,29 @@ void KorSucheMessen(benchmark::State& Stand, bool Fehlt) {
 }
 
 void StdFindMessen(benchmark::State& Stand, bool Fehlt) {
-  std::vector<std::uint64_t> Schluessel(Punktzahl);
-  for (std::size_t i = 0; i < Punktzahl; ++i) Schluessel[i] = 1001 + i;
-  std::uint64_t Gesucht = Fehlt ? 999 : Schluessel.back();
-  auto Stelle = Schluessel.begin();
+  std::vector<std::uint64_t> Schlüssel(Punktzahl);
+  for (std::size_t i = 0; i < Punktzahl; ++i) Schlüssel[i] = 1001 + i;
+  std::uint64_t Gesucht = Fehlt ? 999 : Schlüssel.back();
+  auto Stelle = Schlüssel.begin();
   for (auto _ : Stand) {
     benchmark::DoNotOptimize(Gesucht);
-    benchmark::DoNotOptimize(Stelle = std::find(Schluessel.begin(), Schluessel.end(), Gesucht));
+    benchmark::DoNotOptimize(Stelle = std::find(Schlüssel.begin(), Schlüssel.end(), Gesucht));
     benchmark::ClobberMemory();
   }
-  if (Stelle != Schluessel.end() - (Fehlt ? 0 : 1)) Stand.SkipWithError("Die Stelle stimmt nicht.");
+  if (Stelle != Schlüssel.end() - (Fehlt ? 0 : 1)) Stand.SkipWithError("Die Stelle stimmt nicht.");
 }
 
 // A job with 19000 of the points; the others come one by one, in any order.
-class Luecken {
+class Lücken {
  public:
-  Luecken() : Neue(Punktzahl) {
+  Lücken() : Neue(Punktzahl) {
     for (std::size_t i = 0; i < Punktzahl; ++i) Neue[i] = i;
     std::shuffle(Neue.begin(), Neue.end(), std::mt19937(11));
     Bekannte.assign(Neue.begin() + 1000, Neue.end());
     Neue.resize(1000);
     std::sort(Bekannte.begin(), Bekannte.end());
   }
-  std::size_t Naechster() { return Neue[Stelle++ % Neue.size()]; }
+  std::size_t Nächster() { return Neue[Stelle++ % Neue.size()]; }
   [[nodiscard]] std::size_t Reihe(std::size_t Punkt) const {
     return static_cast<std::size_t>(std::lower_bound(Bekannte.begin(), Bekannte.end(), Punkt) -
                                     Bekannte.begin());
@@ -65,15 +65,15 @@ class Luecken {
 };
 
 void NeupunktMessen(benchmark::State& Stand) {
-  Luecken L;
+  Lücken L;
   const Punktlisten& P = Punkte();
-  TabelleFuellen();
+  TabelleFüllen();
   for (std::size_t i = Punktzahl; i-- > 0;) {
     if (!std::binary_search(L.Bekannte.begin(), L.Bekannte.end(), i)) KorLoeschen(static_cast<int>(i));
   }
   NeupunktErgebnis E;
   for (auto _ : Stand) {
-    const std::size_t p = L.Naechster();
+    const std::size_t p = L.Nächster();
     Wert Pnr(P.Pnr[p]);
     const double Ab = Prozessorzeit();
     const int Code = Neupunkt(Pnr, P.Rechts[p], P.Hoch[p], P.Hoehe[p], P.Symbol[p], nullptr, E);
@@ -92,7 +92,7 @@ struct Spalten {
   std::vector<std::string> Symbol;
   std::vector<KorInfoSatz> Info;
 
-  void Anhaengen(const Punktlisten& P, std::size_t p) {
+  void Anhängen(const Punktlisten& P, std::size_t p) {
     Pnr.push_back(P.Pnr[p]);
     Rechts.push_back(P.Rechts[p]);
     Hoch.push_back(P.Hoch[p]);
@@ -105,7 +105,7 @@ struct Spalten {
       Alle([&](auto& Spalte) { std::swap(Spalte[i], Spalte[j]); });
     });
   }
-  void Loeschen(std::size_t Reihe) {
+  void Löschen(std::size_t Reihe) {
     Alle([&](auto& Spalte) { Spalte.erase(Spalte.begin() + static_cast<std::ptrdiff_t>(Reihe)); });
   }
 
@@ -116,20 +116,20 @@ struct Spalten {
   }
 };
 
-void AnhaengenUndSortierenMessen(benchmark::State& Stand) {
-  Luecken L;
+void AnhängenUndSortierenMessen(benchmark::State& Stand) {
+  Lücken L;
   const Punktlisten& P = Punkte();
   Spalten S;
-  for (const std::size_t p : L.Bekannte) S.Anhaengen(P, p);
+  for (const std::size_t p : L.Bekannte) S.Anhängen(P, p);
   for (auto _ : Stand) {
-    const std::size_t p = L.Naechster(), Reihe = L.Reihe(p);
+    const std::size_t p = L.Nächster(), Reihe = L.Reihe(p);
     const double Ab = Prozessorzeit();
-    S.Anhaengen(P, p);
+    S.Anhängen(P, p);
     S.Sortieren();
     Stand.SetIterationTime(Prozessorzeit() - Ab);
     if (S.Pnr[Reihe] != P.Pnr[p] || S.Rechts[Reihe] != P.Rechts[p])
       return Stand.SkipWithError("Der Punkt steht falsch.");
-    S.Loeschen(Reihe);
+    S.Löschen(Reihe);
   }
 }
 
@@ -138,7 +138,7 @@ BENCHMARK_CAPTURE(KorSucheMessen, fehlt, true)->Name("KorSuche/fehlt");
 BENCHMARK_CAPTURE(StdFindMessen, letzte, false)->Name("StdFind/letzte");
 BENCHMARK_CAPTURE(StdFindMessen, fehlt, true)->Name("StdFind/fehlt");
 BENCHMARK(NeupunktMessen)->Name("Neupunkt")->UseManualTime();
-BENCHMARK(AnhaengenUndSortierenMessen)->Name("AnhaengenUndSortieren")->UseManualTime();
+BENCHMARK(AnhängenUndSortierenMessen)->Name("AnhaengenUndSortieren")->UseManualTime();
 
 }  // namespace
 }  // namespace tavorena::messung

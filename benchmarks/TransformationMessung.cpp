@@ -7,8 +7,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include <tavorena/ta/TA.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/ta/TA.h>
 
 namespace tavorena::messung {
 namespace {
@@ -16,18 +16,18 @@ namespace {
 // A turn by 20 gon about a point of the table: however often it runs, the coordinates stay in the grid.
 constexpr double MitteR = 3456000, MitteH = 5612000;
 const double DrehungA = std::cos(M_PI / 10), DrehungB = std::sin(M_PI / 10);
-constexpr double Ueberall = 1e9, Nirgends = 0;  // border of the passpoint field
+constexpr double Überall = 1e9, Nirgends = 0;  // border of the passpoint field
 
 void HelmertMessen(benchmark::State& Stand, double MaximalerAbstand) {
   TA Ta;
-  TabelleFuellen();
+  TabelleFüllen();
   enmResult Ergebnis{};
   for (auto _ : Stand) {
     Ergebnis = Ta.HelmertTransformationAlleKoordinaten(MitteR, MitteH, MitteR, MitteH, DrehungA, DrehungB,
                                                        MaximalerAbstand);
     benchmark::ClobberMemory();
   }
-  const bool Innen = MaximalerAbstand == Ueberall;
+  const bool Innen = MaximalerAbstand == Überall;
   if (KorAnzahl != static_cast<int>(Punktzahl) ||
       Ergebnis != (Innen ? enmResult::ok : enmResult::Hinweis_PunktAusserhalbDesPasspunktfeldes))
     Stand.SkipWithError("Die Transformation stimmt nicht.");
@@ -81,15 +81,15 @@ struct Ergebnisse {
 template <typename Rechnung>
 void RechnungMessen(benchmark::State& Stand, std::size_t Anzahl, Rechnung Rechne) {
   TA Ta;
-  TabelleFuellen();
+  TabelleFüllen();
   const Beobachtungen Wenige(Anzahl / 4), Alle(Anzahl);
-  const auto Zaehlen = [&](const Beobachtungen& B) {
+  const auto Zählen = [&](const Beobachtungen& B) {
     Ergebnisse E;
     const std::int64_t Vorher = Zuteilungen();
     if (Rechne(Ta, B, E) != enmResult::ok) Stand.SkipWithError("Die Rechnung scheitert.");
     return Zuteilungen() - Vorher;
   };
-  if (Zaehlen(Wenige) != Zaehlen(Alle)) Stand.SkipWithError("Die Schleifen fordern Speicher an.");
+  if (Zählen(Wenige) != Zählen(Alle)) Stand.SkipWithError("Die Schleifen fordern Speicher an.");
   Ergebnisse E;
   for (auto _ : Stand) {
     benchmark::DoNotOptimize(Rechne(Ta, Alle, E));
@@ -123,7 +123,7 @@ enmResult PnrPolarRechnen(TA& Ta, const Beobachtungen& B, Ergebnisse& E) {
 }
 
 void SuchenMessen(benchmark::State& Stand, std::size_t Anzahl) {
-  TabelleFuellen();
+  TabelleFüllen();
   const Beobachtungen B(Anzahl);
   int Summe = 0;
   for (auto _ : Stand) {
@@ -135,7 +135,7 @@ void SuchenMessen(benchmark::State& Stand, std::size_t Anzahl) {
 
 constexpr auto us = benchmark::kMicrosecond;
 
-BENCHMARK_CAPTURE(HelmertMessen, innen, Ueberall)->Name("HelmertAlle/innen")->Unit(us);
+BENCHMARK_CAPTURE(HelmertMessen, innen, Überall)->Name("HelmertAlle/innen")->Unit(us);
 BENCHMARK_CAPTURE(HelmertMessen, aussen, Nirgends)->Name("HelmertAlle/aussen")->Unit(us);
 BENCHMARK(MalUndPlusMessen)->Name("MalUndPlus")->Unit(us);
 BENCHMARK_CAPTURE(RechnungMessen, 101, 101, Ausgleichen)->Name("HelmertParameter/101");

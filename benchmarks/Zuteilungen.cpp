@@ -8,16 +8,16 @@
 
 namespace {
 
-std::atomic<std::int64_t> Zaehler{0};
+std::atomic<std::int64_t> Zähler{0};
 
 }  // namespace
 
-std::int64_t tavorena::messung::Zuteilungen() { return Zaehler; }
+std::int64_t tavorena::messung::Zuteilungen() { return Zähler; }
 
-void* operator new(std::size_t Groesse) {
-  Zaehler.fetch_add(1, std::memory_order_relaxed);
-  if (void* Stueck = std::malloc(Groesse > 0 ? Groesse : 1)) return Stueck;
+void* operator new(std::size_t Größe) {
+  Zähler.fetch_add(1, std::memory_order_relaxed);
+  if (void* Stück = std::malloc(Größe > 0 ? Größe : 1)) return Stück;
   throw std::bad_alloc();
 }
-void operator delete(void* Stueck) noexcept { std::free(Stueck); }
-void operator delete(void* Stueck, std::size_t) noexcept { std::free(Stueck); }
+void operator delete(void* Stück) noexcept { std::free(Stück); }
+void operator delete(void* Stück, std::size_t) noexcept { std::free(Stück); }

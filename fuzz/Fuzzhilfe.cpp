@@ -37,7 +37,7 @@ int Eingabe::Zahl(int Von, int Bis) {
   return Von + Byte % (Bis - Von + 1);
 }
 
-void Pruefen(bool Gilt, const char* Versprechen) {
+void Prüfen(bool Gilt, const char* Versprechen) {
   if (Gilt) return;
   std::fprintf(stderr, "Befund: %s\n", Versprechen);
   std::abort();
@@ -51,7 +51,7 @@ const std::string& Ordner() {
 std::string Datei(const char* Name, std::string_view Bytes) {
   const std::string Pfad = Ordner() + "/" + Name;
   std::FILE* Kanal = std::fopen(Pfad.c_str(), "wb");
-  Pruefen(Kanal != nullptr, "die Eingabe läßt sich schreiben");
+  Prüfen(Kanal != nullptr, "die Eingabe läßt sich schreiben");
   std::fwrite(Bytes.data(), 1, Bytes.size(), Kanal);
   std::fclose(Kanal);
   return Pfad;
@@ -59,7 +59,7 @@ std::string Datei(const char* Name, std::string_view Bytes) {
 
 std::string Inhalt(const std::string& Name) {
   std::string Bytes;
-  Pruefen(DateiLesen(Name, Bytes) == 0, "die Datei ist lesbar");
+  Prüfen(DateiLesen(Name, Bytes) == 0, "die Datei ist lesbar");
   return Bytes;
 }
 
@@ -76,12 +76,12 @@ void TabelleLeeren() {
   KorAnzahl = 0;
 }
 
-void TabellePruefen() {
+void TabellePrüfen() {
   for (int i = 0; i < KorAnzahl; ++i) {
     const std::string_view Pnr = TrimmenSicht(KorPnr(i));
-    Pruefen(!Pnr.empty(), "kein Punkt ohne Nummer");
+    Prüfen(!Pnr.empty(), "kein Punkt ohne Nummer");
     const int Zeile = KorSuche(Pnr);
-    Pruefen(Zeile >= 0 && Zeile <= i && TrimmenSicht(KorPnr(Zeile)) == Pnr, "jede Nummer wird gefunden");
+    Prüfen(Zeile >= 0 && Zeile <= i && TrimmenSicht(KorPnr(Zeile)) == Pnr, "jede Nummer wird gefunden");
   }
 }
 

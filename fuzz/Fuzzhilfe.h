@@ -22,7 +22,7 @@ class Eingabe {
 };
 
 /// A broken promise is a finding: the run ends.
-void Pruefen(bool Gilt, const char* Versprechen);
+void Prüfen(bool Gilt, const char* Versprechen);
 
 /// The folder of this process, removed with it.
 const std::string& Ordner();
@@ -37,6 +37,6 @@ std::string Inhalt(const std::string& Name);
 void TabelleLeeren();
 
 /// The promises of a table in any state: the search finds each number, at the first row that holds it.
-void TabellePruefen();
+void TabellePrüfen();
 
 }  // namespace tavorena::fuzz

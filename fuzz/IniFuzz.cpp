@@ -19,7 +19,7 @@ void AllesLesen() {
 
 // Writes the settings, reads them again, and gives what was written.
 std::string Runde() {
-  Pruefen(OptionenSchreiben() == 0, "die Optionen werden geschrieben");
+  Prüfen(OptionenSchreiben() == 0, "die Optionen werden geschrieben");
   std::string Geschrieben = Inhalt(DateinameOptionen);
   AllesLesen();
   return Geschrieben;
@@ -32,7 +32,7 @@ void Lauf(Eingabe E) {
   const std::string Erste = Runde();
   // A value that holds the name of a section is taken for it; five are the sections themselves.
   if (std::count(Erste.begin(), Erste.end(), '[') > 5) return;
-  Pruefen(Runde() == Erste, "Schreiben und Lesen ändert die Optionen nicht");
+  Prüfen(Runde() == Erste, "Schreiben und Lesen ändert die Optionen nicht");
 }
 
 }  // namespace

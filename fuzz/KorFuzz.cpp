@@ -18,29 +18,29 @@ bool Wiedergegeben(double Alt, double Neu) {
 void ListenVergleichen(const std::string& Name) {
   Punktlisten L;
   int Anzahl = 0;
-  Pruefen(KorDateiInListen(Name, L, KorGrenze, Anzahl) == 0, "die Listen fassen die Datei");
-  Pruefen(Anzahl == KorAnzahl, "Listen und Tabelle haben gleich viele Punkte");
+  Prüfen(KorDateiInListen(Name, L, KorGrenze, Anzahl) == 0, "die Listen fassen die Datei");
+  Prüfen(Anzahl == KorAnzahl, "Listen und Tabelle haben gleich viele Punkte");
   for (int i = 0; i < Anzahl; ++i) {
     const auto z = static_cast<std::size_t>(i);
-    Pruefen(L.Pnr[z] == KorPnr(i) && L.Rechts[z] == KorRechts[z] && L.Hoch[z] == KorHoch[z] &&
-                L.Hoehe[z] == KorHoehe[z] && L.Symbol[z] == KorSymbol[z],
-            "Listen und Tabelle sind gleich");
+    Prüfen(L.Pnr[z] == KorPnr(i) && L.Rechts[z] == KorRechts[z] && L.Hoch[z] == KorHoch[z] &&
+               L.Hoehe[z] == KorHoehe[z] && L.Symbol[z] == KorSymbol[z],
+           "Listen und Tabelle sind gleich");
   }
 }
 
 void SchreibenUndLesen() {
   std::string Text;
-  Pruefen(KorText(FormatKor, Text) == 0, "KOR wird geschrieben");
+  Prüfen(KorText(FormatKor, Text) == 0, "KOR wird geschrieben");
   Punktlisten L;
   int Anzahl = 0;
   KorDateiInListen(Datei("b.kor", Text), L, KorGrenze, Anzahl, false);
-  Pruefen(Anzahl == KorAnzahl, "kein Punkt geht beim Schreiben verloren");
+  Prüfen(Anzahl == KorAnzahl, "kein Punkt geht beim Schreiben verloren");
   for (int i = 0; i < Anzahl; ++i) {
     const auto z = static_cast<std::size_t>(i);
-    Pruefen(L.Pnr[z] == KorPnr(i) && L.Symbol[z] == KorSymbol[z], "Nummer und Symbol bleiben");
-    Pruefen(Wiedergegeben(KorRechts[z], L.Rechts[z]) && Wiedergegeben(KorHoch[z], L.Hoch[z]) &&
-                Wiedergegeben(KorHoehe[z], L.Hoehe[z]),
-            "Koordinaten bleiben");
+    Prüfen(L.Pnr[z] == KorPnr(i) && L.Symbol[z] == KorSymbol[z], "Nummer und Symbol bleiben");
+    Prüfen(Wiedergegeben(KorRechts[z], L.Rechts[z]) && Wiedergegeben(KorHoch[z], L.Hoch[z]) &&
+               Wiedergegeben(KorHoehe[z], L.Hoehe[z]),
+           "Koordinaten bleiben");
   }
 }
 
@@ -55,11 +55,11 @@ void Lauf(Eingabe E) {
   }
   const int Vorher = KorAnzahl;
   std::string Name = Datei("a.kor", E.Rest());
-  Pruefen(KorLesen(Name, Modus, FormatKor) == 0, "eine Datei wird immer gelesen");
-  Pruefen(KorAnzahl >= Vorher, "es geht kein Punkt verloren");
-  TabellePruefen();
+  Prüfen(KorLesen(Name, Modus, FormatKor) == 0, "eine Datei wird immer gelesen");
+  Prüfen(KorAnzahl >= Vorher, "es geht kein Punkt verloren");
+  TabellePrüfen();
   // A comma becomes a point after the search for the number: only then there may be doubles.
-  if (Modus == ModusNurNeue && !Komma) Pruefen(AnzahlDoppelte() == 0, "Mischen macht keine Doppelten");
+  if (Modus == ModusNurNeue && !Komma) Prüfen(AnzahlDoppelte() == 0, "Mischen macht keine Doppelten");
   if (Modus == ModusErsetzen) ListenVergleichen(Name);
   SchreibenUndLesen();
 }

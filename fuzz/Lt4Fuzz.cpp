@@ -16,7 +16,7 @@ bool NurZiffern(std::string_view Text) {
 bool Passt(double Zahl) { return Zahl < 1e7 - 0.001 && Zahl > -1e6 + 0.001; }
 
 // A point whose parts fit their columns comes back from its line.
-void ZeilePruefen(int Zeile) {
+void ZeilePrüfen(int Zeile) {
   const auto z = static_cast<std::size_t>(Zeile);
   const KorInfoSatz& Info = KorInfo[z];
   std::string Text, Pnr, Symbol;
@@ -28,21 +28,21 @@ void ZeilePruefen(int Zeile) {
       Info.Vermarkungsart > 999 || Info.Punktstatus < 0 || !Passt(KorRechts[z]) || !Passt(KorHoch[z])) {
     return;
   }
-  Pruefen(Ergebnis == 0, "die Zeile ist wieder ein Punkt");
-  Pruefen(ZahlAusText(Pnr) == ZahlAusText(KorPnr(Zeile)), "die Nummer bleibt");
-  Pruefen(std::fabs(Rechts - KorRechts[z]) <= 0.000'500'1 && std::fabs(Hoch - KorHoch[z]) <= 0.000'500'1,
-          "Koordinaten bleiben");
-  Pruefen(Neu == Info, "Angaben bleiben");
+  Prüfen(Ergebnis == 0, "die Zeile ist wieder ein Punkt");
+  Prüfen(ZahlAusText(Pnr) == ZahlAusText(KorPnr(Zeile)), "die Nummer bleibt");
+  Prüfen(std::fabs(Rechts - KorRechts[z]) <= 0.000'500'1 && std::fabs(Hoch - KorHoch[z]) <= 0.000'500'1,
+         "Koordinaten bleiben");
+  Prüfen(Neu == Info, "Angaben bleiben");
 }
 
 void Lauf(Eingabe E) {
   TabelleLeeren();
   const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
   std::string Name = Datei("a.lt4", E.Rest()), Text;
-  Pruefen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");
-  TabellePruefen();
-  for (int i = 0; i < KorAnzahl; ++i) ZeilePruefen(i);
-  Pruefen(KorText(FormatLt4, Text) == 0 && KorText(FormatKor, Text) == 0, "beide Formate werden geschrieben");
+  Prüfen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");
+  TabellePrüfen();
+  for (int i = 0; i < KorAnzahl; ++i) ZeilePrüfen(i);
+  Prüfen(KorText(FormatLt4, Text) == 0 && KorText(FormatKor, Text) == 0, "beide Formate werden geschrieben");
 }
 
 }  // namespace

@@ -22,11 +22,11 @@ void Lauf(TA& Ta, Eingabe E) {
       Affin ? Ta.AffinTransformationKoordinatendateiPasspunktdatei(PunktDatei, PasspunktDatei, Nachkomma)
             : Ta.HelmertTransformationKoordinatendateiPasspunktdatei(PunktDatei, PasspunktDatei, Massstab,
                                                                      Nachkomma);
-  Pruefen(Inhalt(PasspunktDatei) == Passpunkte, "die Paßpunktdatei bleibt");
+  Prüfen(Inhalt(PasspunktDatei) == Passpunkte, "die Paßpunktdatei bleibt");
   const bool Geschrieben =
       Ergebnis == enmResult::ok || Ergebnis == enmResult::Hinweis_PunktAusserhalbDesPasspunktfeldes;
-  Pruefen(Geschrieben || Inhalt(PunktDatei) == Punkte, "nach einer Absage ist die Datei heil");
-  TabellePruefen();
+  Prüfen(Geschrieben || Inhalt(PunktDatei) == Punkte, "nach einer Absage ist die Datei heil");
+  TabellePrüfen();
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ void Lauf(Eingabe E) {
   std::vector<double> Werte;
   std::string_view Zeile;
   Zeilenleser Leser(E.Rest());
-  while (Leser.Naechste(Zeile)) {
+  while (Leser.Nächste(Zeile)) {
     Nr.emplace_back(Zeile);
     Werte.push_back(ZahlAusText(Zeile));
   }
@@ -31,9 +31,9 @@ void Lauf(Eingabe E) {
   const int Ergebnis = SortierfolgeErmitteln(Nr, Werte, Komma, Folge);
   // The short way needs no stack: it may succeed where the plain one overflows.
   if (!Gut) return;
-  Pruefen(Ergebnis >= 0 && Folge == SollFolge, "die Folge ist die der Abschrift");
+  Prüfen(Ergebnis >= 0 && Folge == SollFolge, "die Folge ist die der Abschrift");
   SpaltenOrdnen(Folge, Nr);
-  Pruefen(Nr == Soll, "die Nummern sind die der Abschrift");
+  Prüfen(Nr == Soll, "die Nummern sind die der Abschrift");
 }
 
 }  // namespace

@@ -42,11 +42,11 @@ void Lauf(Eingabe E) {
   Pnr1.clear();
   ProtokollLeeren();
   StapelStarten(Datei("a.sta", E.Rest()));
-  Pruefen(!StapelAktiv, "der Lauf ist zu Ende");
-  Pruefen(StapelZeiger <= StapelAnzahl && StapelZeilennummer == StapelZeiger, "die Zeilen werden gezählt");
-  Pruefen(Stapellauf.Bloecke + static_cast<int>(Stapellauf.Uebergangen.size()) <= StapelAnzahl,
-          "jeder Block hat einen Kopf");
-  Pruefen(Schlussrufe == 1, "das Ende des Laufs wird einmal gemeldet");
+  Prüfen(!StapelAktiv, "der Lauf ist zu Ende");
+  Prüfen(StapelZeiger <= StapelAnzahl && StapelZeilennummer == StapelZeiger, "die Zeilen werden gezählt");
+  Prüfen(Stapellauf.Blöcke + static_cast<int>(Stapellauf.Übergangen.size()) <= StapelAnzahl,
+         "jeder Block hat einen Kopf");
+  Prüfen(Schlussrufe == 1, "das Ende des Laufs wird einmal gemeldet");
 }
 
 }  // namespace

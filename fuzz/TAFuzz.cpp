@@ -13,8 +13,8 @@
 #include <utility>
 #include <vector>
 
-#include <tavorena/ta/TA.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/ta/TA.h>
 
 namespace tavorena::fuzz {
 namespace {
@@ -76,13 +76,13 @@ Wert Punktnummer(Eingabe& E) {
 // What the promises of a call depend on.
 struct Eingang {
   bool Endlich = true;
-  bool Maessig = true;  // no number from which a square or a quotient leaves the range
+  bool Mäßig = true;  // no number from which a square or a quotient leaves the range
   bool Punktnummern = false;
   std::int32_t Anzahl = std::numeric_limits<std::int32_t>::max();
 
   void Ansehen(double x) {
     Endlich = Endlich && std::isfinite(x);
-    Maessig = Maessig && (x == 0 || (std::fabs(x) > 1e-4 && std::fabs(x) < 1e7));
+    Mäßig = Mäßig && (x == 0 || (std::fabs(x) > 1e-4 && std::fabs(x) < 1e7));
   }
 };
 
@@ -133,7 +133,7 @@ class Parameter {
         Gesamt.Ansehen(Inhalt[i]);
     }
   }
-  [[nodiscard]] bool Unberuehrt() const {
+  [[nodiscard]] bool Unberührt() const {
     if constexpr (Ausgabe<P>)
       return Inhalt == Leer();
     else
@@ -197,13 +197,13 @@ void Rufen(TA& Ta, Eingabe& E, enmResult (TA::*Methode)(P...)) {
         (W.ReiheAnsehen(Gesamt), ...);
         Ergebnis = (Ta.*Methode)(W.Geben()...);
         if (!Gesamt.Endlich) {
-          Pruefen(Ergebnis == enmResult::Fehler_Allgemein || Ergebnis == enmResult::Fehler_ZuvielePunkte ||
-                      Ergebnis == enmResult::Fehler_ZuweningePunkte ||
-                      (Gesamt.Punktnummern && Ergebnis == enmResult::Fehler_PunktNichtVorhanden),
-                  "was nicht endlich ist, wird abgewiesen");
-          Pruefen((W.Unberuehrt() && ...), "eine Absage läßt die Ergebnisse, wie sie waren");
-        } else if (Gesamt.Maessig && !Gesamt.Punktnummern && Ergebnis == enmResult::ok) {
-          Pruefen((W.Endlich() && ...), "aus mäßigen Zahlen wird Endliches");
+          Prüfen(Ergebnis == enmResult::Fehler_Allgemein || Ergebnis == enmResult::Fehler_ZuvielePunkte ||
+                     Ergebnis == enmResult::Fehler_ZuweningePunkte ||
+                     (Gesamt.Punktnummern && Ergebnis == enmResult::Fehler_PunktNichtVorhanden),
+                 "was nicht endlich ist, wird abgewiesen");
+          Prüfen((W.Unberührt() && ...), "eine Absage läßt die Ergebnisse, wie sie waren");
+        } else if (Gesamt.Mäßig && !Gesamt.Punktnummern && Ergebnis == enmResult::ok) {
+          Prüfen((W.Endlich() && ...), "aus mäßigen Zahlen wird Endliches");
         }
       },
       Werte);
@@ -221,10 +221,10 @@ void Tabelle(Eingabe& E) {
 }
 
 template <typename... Methode>
-void Waehlen(TA& Ta, Eingabe& E, Methode... Methoden) {
-  const int Gewaehlt = E.Zahl(0, static_cast<int>(sizeof...(Methoden)) - 1);
+void Wählen(TA& Ta, Eingabe& E, Methode... Methoden) {
+  const int Gewählt = E.Zahl(0, static_cast<int>(sizeof...(Methoden)) - 1);
   int i = 0;
-  ((i++ == Gewaehlt ? Rufen(Ta, E, Methoden) : void()), ...);
+  ((i++ == Gewählt ? Rufen(Ta, E, Methoden) : void()), ...);
 }
 
 }  // namespace
@@ -235,6 +235,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Daten, std::size_t Lae
   static TA Ta;
   tavorena::fuzz::Eingabe E(Daten, Laenge);
   tavorena::fuzz::Tabelle(E);
-  tavorena::fuzz::Waehlen(Ta, E, FAMILIE);
+  tavorena::fuzz::Wählen(Ta, E, FAMILIE);
   return 0;
 }

@@ -16,94 +16,94 @@ std::string Ohne(std::string_view Text, std::string_view Zeichen) {
   return Rest;
 }
 
-void ZeilenPruefen(std::string_view Bytes) {
+void ZeilenPrüfen(std::string_view Bytes) {
   std::string Alle;
   std::string_view Zeile;
   Zeilenleser Leser(Bytes);
-  while (Leser.Naechste(Zeile)) {
-    Pruefen(Zeile.find_first_of("\r\n") == std::string_view::npos, "eine Zeile ist eine Zeile");
+  while (Leser.Nächste(Zeile)) {
+    Prüfen(Zeile.find_first_of("\r\n") == std::string_view::npos, "eine Zeile ist eine Zeile");
     Alle += Zeile;
   }
   constexpr std::string_view Enden("\r\n\0", 3);
-  Pruefen(Leser.AmEnde() && Ohne(Alle, Enden) == Ohne(Bytes, Enden), "die Zeilen sind der ganze Text");
+  Prüfen(Leser.AmEnde() && Ohne(Alle, Enden) == Ohne(Bytes, Enden), "die Zeilen sind der ganze Text");
 }
 
-void KodierungPruefen(std::string_view Bytes) {
+void KodierungPrüfen(std::string_view Bytes) {
   const std::string Gewandelt = AusWindows1252(Bytes);
-  Pruefen(IstUtf8(Gewandelt) && NachWindows1252(Gewandelt) == Bytes, "Windows-1252 hin und zurück");
-  if (IstUtf8(Bytes)) Pruefen(NachWindows1252(Bytes).size() == ZeichenAnzahl(Bytes), "ein Byte je Zeichen");
+  Prüfen(IstUtf8(Gewandelt) && NachWindows1252(Gewandelt) == Bytes, "Windows-1252 hin und zurück");
+  if (IstUtf8(Bytes)) Prüfen(NachWindows1252(Bytes).size() == ZeichenAnzahl(Bytes), "ein Byte je Zeichen");
 }
 
-void DateiPruefen(std::string_view Bytes) {
-  TextAnhaengen(Datei("b.txt", ""), "x");  // the module remembers the file extended last
+void DateiPrüfen(std::string_view Bytes) {
+  TextAnhängen(Datei("b.txt", ""), "x");  // the module remembers the file extended last
   const std::string Name = Datei("a.txt", "");
   std::string Vorher, Nachher;
-  Pruefen(DateiErsetzen(Name, Bytes) == 0 && Inhalt(Name) == Bytes, "die Datei ist ersetzt");
+  Prüfen(DateiErsetzen(Name, Bytes) == 0 && Inhalt(Name) == Bytes, "die Datei ist ersetzt");
   TextdateiLesen(Name, Vorher);
-  Pruefen(IstUtf8(Vorher), "ein Text ist UTF-8");
-  Pruefen(TextAnhaengen(Name, "äß\r\n") == 0, "der Text wird angehängt");
+  Prüfen(IstUtf8(Vorher), "ein Text ist UTF-8");
+  Prüfen(TextAnhängen(Name, "äß\r\n") == 0, "der Text wird angehängt");
   TextdateiLesen(Name, Nachher);
-  Pruefen(Nachher == Vorher + "äß\r\n", "die Datei behält ihre Kodierung");
+  Prüfen(Nachher == Vorher + "äß\r\n", "die Datei behält ihre Kodierung");
 }
 
-void NamenPruefen(std::string_view Name) {
+void NamenPrüfen(std::string_view Name) {
   const Dateiname D = DateinameZerlegen(Name);
   std::string Ganz = D.Ordner + D.Grundname;
   if (Ganz != Name) Ganz += "." + D.Endung;
-  Pruefen(Ganz == Name, "ein Name ist die Summe seiner Teile");
+  Prüfen(Ganz == Name, "ein Name ist die Summe seiner Teile");
   Systempfad(Name);
   PfadVerbinden("c:\\x", Name);
 }
 
-void FelderPruefen(std::string_view Text, int Breite, int Stelle) {
+void FelderPrüfen(std::string_view Text, int Breite, int Stelle) {
   const auto Soll = static_cast<std::size_t>(std::max(Breite, 0));
   const std::size_t L = ZeichenAnzahl(Text);
   for (const std::string& Feld : {FeldLinks(Text, Breite), FeldRechts(Text, Breite)})
-    Pruefen(ZeichenAnzahl(Feld) == Soll && IstUtf8(Feld), "ein Feld hat seine Breite");
-  Pruefen(ZeichenAnzahl(RechtsBuendig(Text, Breite)) == std::max(Soll, L), "nichts wird abgeschnitten");
-  Pruefen(Breite <= 3 || ZeichenAnzahl(KuerzenMitPunkten(Text, Breite)) <= Soll, "gekürzt ist kürzer");
-  Pruefen(ZeichenAnzahl(TeilVonRechts(Text, Stelle, Breite)) <= Soll, "ein Teil ist nicht länger");
-  Pruefen(std::string(TextTeil(Text, 0, Soll)).append(TextTeil(Text, Soll)) == Text, "zwei Teile, ein Text");
-  const std::string Gross = Grosstext(Text);
-  Pruefen(IstUtf8(Gross) && Gross.size() == Text.size() && Grosstext(Gross) == Gross, "Großtext");
+    Prüfen(ZeichenAnzahl(Feld) == Soll && IstUtf8(Feld), "ein Feld hat seine Breite");
+  Prüfen(ZeichenAnzahl(RechtsBündig(Text, Breite)) == std::max(Soll, L), "nichts wird abgeschnitten");
+  Prüfen(Breite <= 3 || ZeichenAnzahl(KuerzenMitPunkten(Text, Breite)) <= Soll, "gekürzt ist kürzer");
+  Prüfen(ZeichenAnzahl(TeilVonRechts(Text, Stelle, Breite)) <= Soll, "ein Teil ist nicht länger");
+  Prüfen(std::string(TextTeil(Text, 0, Soll)).append(TextTeil(Text, Soll)) == Text, "zwei Teile, ein Text");
+  const std::string Gross = Großtext(Text);
+  Prüfen(IstUtf8(Gross) && Gross.size() == Text.size() && Großtext(Gross) == Gross, "Großtext");
   std::string Worte;
   std::string_view Rest = Text, Wort;
   while (!(Wort = Wortnehmen(Rest)).empty()) Worte += Wort;
-  Pruefen(Ohne(Text.substr(0, Text.size() - Rest.size()), std::string_view(" \t\0", 3)) == Worte,
-          "die Worte sind der ganze Text");
+  Prüfen(Ohne(Text.substr(0, Text.size() - Rest.size()), std::string_view(" \t\0", 3)) == Worte,
+         "die Worte sind der ganze Text");
 }
 
-void FormatPruefen(double x, int Vor, int Nach) {
+void FormatPrüfen(double x, int Vor, int Nach) {
   const std::string Feld = ZahlFormat(x, Vor, Nach);
   const bool Sterne = x >= std::pow(10, Vor) || -x >= std::pow(10, Vor - 1);
-  std::string Angehaengt = "a";
-  ZahlFormatAnhaengen(Angehaengt, x, Vor, Nach);
-  Pruefen(Angehaengt == "a" + Feld, "Anhängen gibt dasselbe Feld");
-  Pruefen(Sterne == (Feld.find('*') != std::string::npos), "Sterne für das, was nicht paßt");
+  std::string Angehängt = "a";
+  ZahlFormatAnhängen(Angehängt, x, Vor, Nach);
+  Prüfen(Angehängt == "a" + Feld, "Anhängen gibt dasselbe Feld");
+  Prüfen(Sterne == (Feld.find('*') != std::string::npos), "Sterne für das, was nicht paßt");
   // A value that rounds up to the next power of ten, and the sign where no place is left for it, widen.
   const bool Breiter =
       (x < 0 && Vor < 2) || std::fabs(x) >= std::pow(10, x < 0 ? Vor - 1 : Vor) - std::pow(10, -Nach);
-  Pruefen(Breiter || Feld.size() == static_cast<std::size_t>(Vor + Nach + 1), "ein Feld hat seine Breite");
+  Prüfen(Breiter || Feld.size() == static_cast<std::size_t>(Vor + Nach + 1), "ein Feld hat seine Breite");
   if (Sterne) return;
   const double Fehler = 0.500001 * std::pow(10, -Nach) + std::fabs(x) * 1e-14;
-  Pruefen(std::fabs(ZahlAusText(Feld) - x) <= Fehler, "ein Feld zeigt seinen Wert");
+  Prüfen(std::fabs(ZahlAusText(Feld) - x) <= Fehler, "ein Feld zeigt seinen Wert");
 }
 
-void ZahlenPruefen(std::string_view Text, int Vor, int Nach) {
+void ZahlenPrüfen(std::string_view Text, int Vor, int Nach) {
   std::string Kopie(Text);
   const double x = ZahlAusText(Text);
-  Pruefen(!std::isnan(x) && ZahlVonText(Kopie) == x, "das Komma ist ein Punkt");
-  if (Vor >= 0 && Nach >= 0 && Vor + Nach > 0) FormatPruefen(x, Vor, Nach);
+  Prüfen(!std::isnan(x) && ZahlVonText(Kopie) == x, "das Komma ist ein Punkt");
+  if (Vor >= 0 && Nach >= 0 && Vor + Nach > 0) FormatPrüfen(x, Vor, Nach);
   if (x == 0 || (std::fabs(x) > 1e-300 && std::fabs(x) < 1e300)) {
-    const double Zurueck = ZahlAusText(ZahlNachText(x).Text());
-    Pruefen(std::fabs(Zurueck - x) <= std::fabs(x) * 1e-14, "eine Zahl wird Text und wieder Zahl");
+    const double Zurück = ZahlAusText(ZahlNachText(x).Text());
+    Prüfen(std::fabs(Zurück - x) <= std::fabs(x) * 1e-14, "eine Zahl wird Text und wieder Zahl");
   }
   const auto Ganz = static_cast<std::int32_t>(std::fabs(x) < 2e9 ? x : 0);
   for (const Wert& W : {Wert(x), Wert(Text), Wert(Ganz), Wert(static_cast<std::int16_t>(Ganz % 30000)),
                         Wert(x > 0), Wert(NullWert{}), Wert()}) {
     for (const std::string& Feld : {ZahlFormat(W, Vor, Nach), ZahlFormatNull(W, Vor, Nach), ZahlFormatFest(W),
                                     ZahlFeld(W, Vor), ZahlFeldNull(W, Vor), PnrFormat(W), Trimmen(W)}) {
-      Pruefen(IstUtf8(Feld), "ein Feld ist Text");
+      Prüfen(IstUtf8(Feld), "ein Feld ist Text");
     }
   }
   GonText(x);
@@ -112,13 +112,13 @@ void ZahlenPruefen(std::string_view Text, int Vor, int Nach) {
 void Lauf(Eingabe E) {
   const int Vor = E.Zahl(-3, 20), Nach = E.Zahl(-3, 20);
   const std::string_view Bytes = E.Rest();
-  ZeilenPruefen(Bytes);
-  KodierungPruefen(Bytes);
-  DateiPruefen(Bytes);
-  NamenPruefen(Bytes);
+  ZeilenPrüfen(Bytes);
+  KodierungPrüfen(Bytes);
+  DateiPrüfen(Bytes);
+  NamenPrüfen(Bytes);
   const std::string Text = IstUtf8(Bytes) ? std::string(Bytes) : AusWindows1252(Bytes);
-  FelderPruefen(Text, Vor, Nach);
-  ZahlenPruefen(Text, Vor, Nach);
+  FelderPrüfen(Text, Vor, Nach);
+  ZahlenPrüfen(Text, Vor, Nach);
 }
 
 }  // namespace

@@ -11,14 +11,13 @@ void Lauf(Eingabe E) {
   Datei("TavorenaTh.ini", E.Rest());
   TheoOptionen Alt, Neu;
   if (TheoOptionenLesen(Alt) != 0) {
-    Pruefen(Alt.Settings == "9600,N,8,1" && Alt.Rohdatendatei.empty(), "eine halbe Datei ändert nichts");
+    Prüfen(Alt.Settings == "9600,N,8,1" && Alt.Rohdatendatei.empty(), "eine halbe Datei ändert nichts");
     return;
   }
-  Pruefen(TheoOptionenSchreiben(Alt) == 0 && TheoOptionenLesen(Neu) == 0,
-          "was gelesen ist, wird geschrieben");
-  Pruefen(Neu.Port == Alt.Port && Neu.Settings == Alt.Settings && Neu.Rohdatendatei == Alt.Rohdatendatei &&
-              Neu.Reduktion == Alt.Reduktion,
-          "Schreiben und Lesen ändert nichts");
+  Prüfen(TheoOptionenSchreiben(Alt) == 0 && TheoOptionenLesen(Neu) == 0, "was gelesen ist, wird geschrieben");
+  Prüfen(Neu.Port == Alt.Port && Neu.Settings == Alt.Settings && Neu.Rohdatendatei == Alt.Rohdatendatei &&
+             Neu.Reduktion == Alt.Reduktion,
+         "Schreiben und Lesen ändert nichts");
 }
 
 }  // namespace

@@ -31,8 +31,8 @@ namespace tavorena::python {
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 
 /// An IntEnum of the module.
-void Aufzaehlung(py::module_& Modul, const char* Name,
-                 std::initializer_list<std::pair<const char*, int>> Werte);
+void Aufzählung(py::module_& Modul, const char* Name,
+                std::initializer_list<std::pair<const char*, int>> Werte);
 
 /// The named tuple <Method>Result of the module; a call makes one.
 class Ergebnistupel {
@@ -50,15 +50,15 @@ class Ergebnistupel {
 
 /// The count that was given, or that of the first list.
 inline std::int32_t Anzahl(std::optional<std::int32_t> Gegeben, std::size_t Laenge) {
-  constexpr std::size_t Groesste = std::numeric_limits<std::int32_t>::max();
-  return Gegeben.value_or(static_cast<std::int32_t>(Laenge < Groesste ? Laenge : Groesste));
+  constexpr std::size_t Größte = std::numeric_limits<std::int32_t>::max();
+  return Gegeben.value_or(static_cast<std::int32_t>(Laenge < Größte ? Laenge : Größte));
 }
 
 /// Gives the process free for the next object.
-struct Loeschen {
+struct Löschen {
   void operator()(TA* Ta) const;
 };
-using Taklasse = py::class_<TA, std::unique_ptr<TA, Loeschen>>;
+using Taklasse = py::class_<TA, std::unique_ptr<TA, Löschen>>;
 
 /// Generated: the enumerations and every method of TA.
 void Binden(py::module_& Modul, Taklasse& Klasse);

@@ -20,11 +20,11 @@ bool pybind11::detail::type_caster<Wert>::load(handle Quelle, bool) {
   if (PyIndex_Check(Quelle.ptr())) {
     const auto Ganz = reinterpret_steal<object>(PyNumber_Index(Quelle.ptr()));
     if (!Ganz) throw error_already_set();
-    int Ueberlauf = 0;
-    const long long Zahl = PyLong_AsLongLongAndOverflow(Ganz.ptr(), &Ueberlauf);
+    int Überlauf = 0;
+    const long long Zahl = PyLong_AsLongLongAndOverflow(Ganz.ptr(), &Überlauf);
     const auto Kurz = static_cast<std::int32_t>(Zahl);
     // A number that an int32 does not hold keeps its digits as a text.
-    value = Ueberlauf == 0 && Kurz == Zahl ? Wert(Kurz) : Wert(str(Ganz).cast<std::string>());
+    value = Überlauf == 0 && Kurz == Zahl ? Wert(Kurz) : Wert(str(Ganz).cast<std::string>());
     return true;
   }
   if (!PyNumber_Check(Quelle.ptr())) return false;
@@ -57,13 +57,13 @@ TA* Anlegen() {
 
 }  // namespace
 
-void Loeschen::operator()(TA* Ta) const {
+void Löschen::operator()(TA* Ta) const {
   delete Ta;
   Lebt = false;
 }
 
-void Aufzaehlung(py::module_& Modul, const char* Name,
-                 std::initializer_list<std::pair<const char*, int>> Werte) {
+void Aufzählung(py::module_& Modul, const char* Name,
+                std::initializer_list<std::pair<const char*, int>> Werte) {
   py::dict Glieder;
   for (const auto& [Glied, Zahl] : Werte) Glieder[Glied] = Zahl;
   Modul.attr(Name) =

@@ -48,10 +48,10 @@ Enden FitEnden(Liste x, Liste y) {
     static_cast<void>(Fusspunkt(Mitte, Richtpunkt, {x[i], y[i]}, F));  // the two points differ by 1000
     return F;
   };
-  int Kleinster = 0, Groesster = 0;
+  int Kleinster = 0, Größter = 0;
   static_cast<void>(ListenMinimumIndex(x, n, Kleinster));
-  static_cast<void>(ListenMaximumIndex(x, n, Groesster));
-  return {Fuss(Kleinster), Fuss(Groesster)};
+  static_cast<void>(ListenMaximumIndex(x, n, Größter));
+  return {Fuss(Kleinster), Fuss(Größter)};
 }
 
 /// P1, P2 and P3 lie on one line as far as their coordinates, rounded by about Rundung, can tell.

@@ -8,10 +8,10 @@
 namespace tavorena {
 namespace {
 
-constexpr double KeinWinkel = -9999;   // mark of the arc cosines
-constexpr double Pruefgrenze = 0.001;  // of the discriminant [m2], below which circle and line touch
+constexpr double KeinWinkel = -9999;  // mark of the arc cosines
+constexpr double Prüfgrenze = 0.001;  // of the discriminant [m2], below which circle and line touch
 // Crossing angle [degrees] below which they touch; the protocol marks one below 0.5 gon: both are meant.
-constexpr double Beruehrgrad = 0.5;
+constexpr double Berührgrad = 0.5;
 
 /// Builds a line by a digit of a kind. @return 0; -1 for coinciding points or another digit
 int Bauen(int Ziffer, const Schnittgerade& S, GebauteGerade& G) {
@@ -107,7 +107,7 @@ int SchnittKreisGeradeKern(Lage M, double r, const GebauteGerade& G, KreisGerade
   Werte.Fusspunkt = Punkt(0);
   Werte.Lotlaenge = h;
   const double Rest = (r - h) * (r + h), D = 4 * Rest / (Steht ? 1 : eR * eR);
-  if (std::fabs(D) < Pruefgrenze) {
+  if (std::fabs(D) < Prüfgrenze) {
     Werte.S1 = Werte.S2 = Werte.Fusspunkt;
     if (Steht) Werte.S2.RW = 0;  // deliberate: this value is not set for a line north or south
     return 1;
@@ -140,7 +140,7 @@ int SchnittKreisGeradeBerechnung(int Art, Lage M, double r, const Schnittgerade&
   }
   // There is a point, so an h above r is rounding and counts as r.
   Werte.Winkel = ArcusKosinusGrad(std::min(Werte.Lotlaenge / r, 1.0));
-  if (Werte.Winkel >= Beruehrgrad) return Anzahl;
+  if (Werte.Winkel >= Berührgrad) return Anzahl;
   Werte.S1 = Werte.Fusspunkt;
   return 3;
 }

@@ -34,10 +34,10 @@ class Reduktion {
 
   // Largest distance from the old centroid.
   [[nodiscard]] double MaximalerAbstand() const {
-    double Groesster = 0;
+    double Größter = 0;
     for (std::size_t i = 0; i < Anzahl; ++i)
-      Groesster = std::max(Groesster, Laenge(Speicher[i], Speicher[Anzahl + i]));
-    return Groesster;
+      Größter = std::max(Größter, Laenge(Speicher[i], Speicher[Anzahl + i]));
+    return Größter;
   }
 
  private:
@@ -63,11 +63,11 @@ void StandardabwSetzen(Restklaffen& Klaffen, double Freiheitsgrade) {
 // decides exactly as comparing the distance, ties included. -1, which lets nothing in, for a negative one.
 double GrenzeDerQuadrate(double MaximalerAbstand) {
   if (!(MaximalerAbstand >= 0)) return -1;
-  constexpr double Hoechste = std::numeric_limits<double>::max();
-  double Grenze = std::min(MaximalerAbstand * MaximalerAbstand, Hoechste);
+  constexpr double Höchste = std::numeric_limits<double>::max();
+  double Grenze = std::min(MaximalerAbstand * MaximalerAbstand, Höchste);
   while (std::sqrt(Grenze) > MaximalerAbstand) Grenze = std::nextafter(Grenze, 0.0);
-  while (Grenze < Hoechste && std::sqrt(std::nextafter(Grenze, Hoechste)) <= MaximalerAbstand)
-    Grenze = std::nextafter(Grenze, Hoechste);
+  while (Grenze < Höchste && std::sqrt(std::nextafter(Grenze, Höchste)) <= MaximalerAbstand)
+    Grenze = std::nextafter(Grenze, Höchste);
   return Grenze;
 }
 
@@ -95,8 +95,8 @@ int EinenUmformen(Lage Punkt, const Parameterart& Parameter, Lage& Neu) {
 // Transforms a piece of the table. With the test, the sign bit of the result tells a point outside: an OR of
 // signs is what compilers can keep in vectors, comparisons are not.
 template <bool MitTest, typename Parameterart>
-std::uint64_t StueckUmformen(double* R, double* H, std::size_t Anzahl, const Parameterart Parameter,
-                             double Grenze) {
+std::uint64_t StückUmformen(double* R, double* H, std::size_t Anzahl, const Parameterart Parameter,
+                            double Grenze) {
   const Lage Mitte = Parameter.SchwerpunktAltesSystem;
   std::uint64_t Vorzeichen = 0;
   for (std::size_t i = 0; i < Anzahl; ++i) {
@@ -111,7 +111,7 @@ std::uint64_t StueckUmformen(double* R, double* H, std::size_t Anzahl, const Par
 // One pass over the table in its order. After the first point outside the test is over.
 template <typename Parameterart>
 int TabelleUmformen(const Parameterart& Parameter, std::vector<bool>* Ausserhalb) {
-  constexpr std::size_t Stueck = 512;
+  constexpr std::size_t Stück = 512;
   const double Grenze = GrenzeDerQuadrate(Parameter.MaximalerAbstand);
   double* const R = KorRechts.data();
   double* const H = KorHoch.data();
@@ -121,17 +121,17 @@ int TabelleUmformen(const Parameterart& Parameter, std::vector<bool>* Ausserhalb
     for (std::size_t i = 0; i < Anzahl; ++i)
       (*Ausserhalb)[i] = AbstandQuadrat({R[i], H[i]}, Parameter.SchwerpunktAltesSystem) > Grenze;
   }
-  bool Draussen = false;
-  for (std::size_t i = 0; i < Anzahl; i += Stueck) {
-    const std::size_t n = std::min(Stueck, Anzahl - i);
-    if (Draussen) {
-      StueckUmformen<false>(R + i, H + i, n, Parameter, Grenze);
+  bool Draußen = false;
+  for (std::size_t i = 0; i < Anzahl; i += Stück) {
+    const std::size_t n = std::min(Stück, Anzahl - i);
+    if (Draußen) {
+      StückUmformen<false>(R + i, H + i, n, Parameter, Grenze);
     } else {
-      Draussen = StueckUmformen<true>(R + i, H + i, n, Parameter, Grenze) >> 63 != 0;
+      Draußen = StückUmformen<true>(R + i, H + i, n, Parameter, Grenze) >> 63 != 0;
     }
   }
   if (Anzahl > 0) KoordinatenGeaendert = true;
-  return Draussen ? 1 : 0;
+  return Draußen ? 1 : 0;
 }
 
 }  // namespace
@@ -173,9 +173,9 @@ int HelmertTranspara(const ReduziertePasspunkte& P, double& a, double& b) {
   return 0;
 }
 
-double HelmertDrehwinkel(double Zaehler, double Nenner) {
-  double Grad = Zaehler < 0 ? 270 : 90;
-  if (Nenner != 0) Grad = std::atan(Zaehler / Nenner) / (8 * std::atan(1.0)) * 360;
+double HelmertDrehwinkel(double Zähler, double Nenner) {
+  double Grad = Zähler < 0 ? 270 : 90;
+  if (Nenner != 0) Grad = std::atan(Zähler / Nenner) / (8 * std::atan(1.0)) * 360;
   if (Nenner < 0) Grad += 180;
   if (Grad < 0) Grad += 360;
   return Grad >= 360 ? Grad - 360 : Grad;  // an angle just below 0 was rounded up to the full circle

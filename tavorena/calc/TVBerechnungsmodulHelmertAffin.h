@@ -125,8 +125,8 @@ int HelmertSchwerpu(std::span<const double> x, std::span<const double> y, Lage& 
 /// @return 0; -1 if Q is exactly 0 (all old points on one spot), a and b are then untouched
 [[nodiscard]] int HelmertTranspara(const ReduziertePasspunkte& P, double& a, double& b);
 
-/// Rotation of (Zaehler, Nenner) in degrees, 0 up to below 360; 90 for (0, 0).
-double HelmertDrehwinkel(double Zaehler, double Nenner);
+/// Rotation of (Zähler, Nenner) in degrees, 0 up to below 360; 90 for (0, 0).
+double HelmertDrehwinkel(double Zähler, double Nenner);
 
 /// Residuals of passpoint i [m]. @return WL, the length of (vY, vX)
 double HelmertStandardab(const ReduziertePasspunkte& P, double a, double b, std::size_t i, double& vY,

@@ -6,15 +6,15 @@
 
 namespace tavorena {
 
-int PlattformKonsole::Meldung(const std::string& Text, Knoepfe Art, const std::string& /*Titel*/) {
-  if (Art != Knoepfe::OK) Ohne(Text);
-  if (Art == Knoepfe::OK) Ziel << Text << '\n';
-  return Art == Knoepfe::OK ? 1 : KnopfAbbruch;
+int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::string& /*Titel*/) {
+  if (Art != Knöpfe::OK) Ohne(Text);
+  if (Art == Knöpfe::OK) Ziel << Text << '\n';
+  return Art == Knöpfe::OK ? 1 : KnopfAbbruch;
 }
 
 void PlattformKonsole::FormularZeigen(Formular& Form, bool Modal) {
   if (Modal) return Ohne(Form.Titel);
-  Form.Oeffnen();
+  Form.Öffnen();
 }
 
 void PlattformKonsole::Ohne(const std::string& Frage) {

@@ -20,12 +20,12 @@ class Blockzeilen {
  public:
   explicit Blockzeilen(std::ostream& Ausgabe) : Ziel(Ausgabe) {}
 
-  void Schritt(const std::string& Naechster) {
+  void Schritt(const std::string& Nächster) {
     if (!Titel.empty()) {
       Ziel << Titel << ": " << Stapellauf.Zeilen - Zeilen << " Zeilen, " << ProtMarken - Marken
            << " Marken\n";
     }
-    Titel = Naechster;
+    Titel = Nächster;
     Zeilen = Stapellauf.Zeilen;
     Marken = ProtMarken;
   }
@@ -36,9 +36,9 @@ class Blockzeilen {
   int Zeilen = 0, Marken = 0;
 };
 
-void Uebergangene(std::ostream& Ausgabe) {
+void Übergangene(std::ostream& Ausgabe) {
   std::map<std::string, int> Anzahl;
-  for (const std::string& Kennung : Stapellauf.Uebergangen) ++Anzahl[Kennung];
+  for (const std::string& Kennung : Stapellauf.Übergangen) ++Anzahl[Kennung];
   for (const auto& [Kennung, n] : Anzahl) Ausgabe << "übergangen: " << Kennung << " (" << n << " mal)\n";
 }
 
@@ -49,11 +49,11 @@ bool Speichern(const std::string& Name) {
 
 }  // namespace
 
-int StapelAusfuehren(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
-                     const std::string& Programmordner) {
+int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
+                    const std::string& Programmordner) {
   PlattformKonsole Konsole(Meldungen, Programmordner);
   Plattform* const Vorher = PlattformSetzen(&Konsole);
-  HauptAnschliessen();
+  HauptAnschließen();
   HauptInitialisierung();
   DateinameProtokollTemp.clear();  // nothing is printed afterwards
   ProtMarken = 0;
@@ -71,7 +71,7 @@ int StapelAusfuehren(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
     Blockzeilen Zeilen(Ausgabe);
     StapelSchritt = [&](const std::string& Titel) { Zeilen.Schritt(Titel); };
     StapelStarten(Auftrag.Stapel);
-    Uebergangene(Ausgabe);
+    Übergangene(Ausgabe);
     Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << Stapellauf.Zeilen << "  Marken: " << ProtMarken
             << '\n';
     Gut = !Stapellauf.Fehler && !Konsole.Unbeantwortet();

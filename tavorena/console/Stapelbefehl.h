@@ -16,7 +16,7 @@ struct Stapelauftrag {
 
 /// Replays a batch file on a coordinate file, with a line per block and a summary.
 /// @return 0; 1 with a message where the replay met an error or a question had no answer
-int StapelAusfuehren(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
-                     const std::string& Programmordner);
+int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
+                    const std::string& Programmordner);
 
 }  // namespace tavorena

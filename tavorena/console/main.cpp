@@ -21,7 +21,7 @@ int main(int argc, char** argv) try {
   CLI11_PARSE(App, argc, argv);
   std::error_code Fehler;
   const std::filesystem::path Programm = std::filesystem::absolute(argv[0], Fehler).parent_path();
-  return tavorena::StapelAusfuehren(Auftrag, std::cout, std::cerr, Programm.string());
+  return tavorena::StapelAusführen(Auftrag, std::cout, std::cerr, Programm.string());
 } catch (const std::exception& Fehler) {
   std::cerr << "tavorena-stapel: " << Fehler.what() << '\n';
   return 1;

@@ -17,12 +17,12 @@ namespace fs = std::filesystem;
 namespace tavorena {
 namespace {
 
-struct Schliessen {
+struct Schließen {
   void operator()(std::FILE* Kanal) const { std::fclose(Kanal); }
 };
-using Kanal = std::unique_ptr<std::FILE, Schliessen>;
+using Kanal = std::unique_ptr<std::FILE, Schließen>;
 
-Kanal Oeffnen(const fs::path& Pfad, const char* Modus) {
+Kanal Öffnen(const fs::path& Pfad, const char* Modus) {
   return Kanal(std::fopen(Pfad.string().c_str(), Modus));
 }
 
@@ -47,7 +47,7 @@ void OrdnerAufPlatte(const fs::path& Ordner) {
 }
 
 bool Schreiben(const fs::path& Pfad, std::string_view Inhalt) {
-  const Kanal K = Oeffnen(Pfad, "wb");
+  const Kanal K = Öffnen(Pfad, "wb");
   return K && std::fwrite(Inhalt.data(), 1, Inhalt.size(), K.get()) == Inhalt.size() && AufPlatte(K.get());
 }
 
@@ -109,7 +109,7 @@ int FolgenVon(unsigned char Erstes, char32_t& Kleinstes) {
   return Folgen;
 }
 
-bool MehrbytezeichenGueltig(std::string_view Text, std::size_t& i) {
+bool MehrbytezeichenGültig(std::string_view Text, std::size_t& i) {
   char32_t Kleinstes = 0;
   const int Folgen = FolgenVon(static_cast<unsigned char>(Text[i]), Kleinstes);
   if (Folgen == 0 || Text.size() - i <= static_cast<std::size_t>(Folgen)) return false;
@@ -167,10 +167,10 @@ int DateiLesen(std::string_view Name, std::string& Inhalt) {
   std::error_code Fehler;
   const fs::path Pfad = Systempfad(Name);
   if (!fs::is_regular_file(Pfad, Fehler)) return -1;  // a folder, or a pipe that would wait for ever
-  const Kanal K = Oeffnen(Pfad, "rb");
-  const std::uintmax_t Groesse = fs::file_size(Pfad, Fehler);
+  const Kanal K = Öffnen(Pfad, "rb");
+  const std::uintmax_t Größe = fs::file_size(Pfad, Fehler);
   if (!K || Fehler) return -1;
-  Inhalt.resize(Groesse);
+  Inhalt.resize(Größe);
   Inhalt.resize(std::fread(Inhalt.data(), 1, Inhalt.size(), K.get()));
   return std::ferror(K.get()) == 0 ? 0 : -1;
 }
@@ -207,7 +207,7 @@ int DateiErsetzen(std::string_view Name, std::string_view Inhalt) {
   return Gut ? 0 : -1;
 }
 
-int TextAnhaengen(std::string_view Name, std::string_view Text) {
+int TextAnhängen(std::string_view Name, std::string_view Text) {
   if (Name.empty()) return -1;
   std::error_code Fehler;
   const fs::path Pfad = Systempfad(Name);
@@ -219,7 +219,7 @@ int TextAnhaengen(std::string_view Name, std::string_view Text) {
     Spur = {Pfad, Laenge, {}, KodierungVon(Alt)};
   }
   const std::string Bytes = Spur.Art == Kodierung::Windows1252 ? NachWindows1252(Text) : std::string(Text);
-  Kanal K = Oeffnen(Pfad, "ab");
+  Kanal K = Öffnen(Pfad, "ab");
   bool Gut = K && std::fwrite(Bytes.data(), 1, Bytes.size(), K.get()) == Bytes.size();
   Gut = K && std::fclose(K.release()) == 0 && Gut;
   if (!Gut) {
@@ -232,7 +232,7 @@ int TextAnhaengen(std::string_view Name, std::string_view Text) {
   return 0;
 }
 
-int DateiLoeschen(std::string_view Name) {
+int DateiLöschen(std::string_view Name) {
   std::error_code Fehler;
   const fs::path Pfad = Systempfad(Name);
   if (fs::is_directory(Pfad, Fehler)) return -1;
@@ -253,7 +253,7 @@ bool IstUtf8(std::string_view Text) {
     }
     if ((static_cast<unsigned char>(Text[i]) & 0x80U) == 0) {
       ++i;
-    } else if (!MehrbytezeichenGueltig(Text, i)) {
+    } else if (!MehrbytezeichenGültig(Text, i)) {
       return false;
     }
   }
@@ -298,7 +298,7 @@ std::string NachWindows1252(std::string_view Text) {
   return Bytes;
 }
 
-bool Zeilenleser::Naechste(std::string_view& Zeile) {
+bool Zeilenleser::Nächste(std::string_view& Zeile) {
   if (Rest.empty()) return false;
   if (!Unix) {
     Zeile = Rest.substr(0, Rest.find('\r'));

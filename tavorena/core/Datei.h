@@ -38,10 +38,10 @@ int DateiErsetzen(std::string_view Name, std::string_view Inhalt);
 
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length. @return 0 or -1
-int TextAnhaengen(std::string_view Name, std::string_view Text);
+int TextAnhängen(std::string_view Name, std::string_view Text);
 
 /// Removes a file. @return 0 (also if there was none); -1 if it stays
-int DateiLoeschen(std::string_view Name);
+int DateiLöschen(std::string_view Name);
 
 bool IstUtf8(std::string_view Text);
 std::string AusWindows1252(std::string_view Bytes);
@@ -55,7 +55,7 @@ class Zeilenleser {
   explicit Zeilenleser(std::string_view Text) : Rest(Text) {}
 
   /// The next line without its end. @return false at the end of the text
-  bool Naechste(std::string_view& Zeile);
+  bool Nächste(std::string_view& Zeile);
   /// Nothing is left to read.
   [[nodiscard]] bool AmEnde() const { return Rest.empty(); }
 

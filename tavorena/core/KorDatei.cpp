@@ -16,7 +16,7 @@ namespace {
 
 std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 
-bool KuerzerAls(std::string_view Zeile, std::size_t Zeichen) {
+bool KürzerAls(std::string_view Zeile, std::size_t Zeichen) {
   return Zeile.size() < Zeichen || (Zeile.size() < 4 * Zeichen && ZeichenAnzahl(Zeile) < Zeichen);
 }
 
@@ -33,7 +33,7 @@ struct KorFelder {
 };
 
 bool KorZerlegen(std::string_view Zeile, KorFelder& F) {
-  if (KuerzerAls(Zeile, 6)) return false;
+  if (KürzerAls(Zeile, 6)) return false;
   F.Pnr = Wortnehmen(Zeile);
   F.Rechts = ZahlAusText(Wortnehmen(Zeile));
   F.Hoch = ZahlAusText(Wortnehmen(Zeile));
@@ -65,17 +65,17 @@ int Lt4InReihe(std::string_view Zeile, int z) {
 
 using Reihenleser = int (*)(std::string_view, int);
 
-Reihenleser LeserFuer(int Format) {
+Reihenleser LeserFür(int Format) {
   if (Format == FormatKor) return KorInReihe;
   if (Format == FormatLt4) return Lt4InReihe;
   return nullptr;
 }
 
-int ZeilenZaehlen(std::string_view Text) {
+int ZeilenZählen(std::string_view Text) {
   Zeilenleser Leser(Text);
   std::string_view Zeile;
   int Anzahl = 0;
-  while (Leser.Naechste(Zeile)) ++Anzahl;
+  while (Leser.Nächste(Zeile)) ++Anzahl;
   return Anzahl;
 }
 
@@ -91,7 +91,7 @@ class Lesung {
   Ende Laufen() {
     Zeilenleser Leser(Inhalt);
     std::string_view Zeile;
-    while (Leser.Naechste(Zeile)) {
+    while (Leser.Nächste(Zeile)) {
       if (KorAnzahl >= KorGrenze) return Ende::Voll;
       if (InReihe(Zeile, KorAnzahl) < 0 || Verworfen()) continue;
       ++KorAnzahl;
@@ -113,7 +113,7 @@ class Lesung {
     Zuletzt = Jetzt;
     // The lines are counted when there is somebody to show them to.
     if (LeseModus == ModusErsetzen && Zusatz.empty()) {
-      Zusatz = " von " + std::to_string(ZeilenZaehlen(Inhalt)) + " Punkten   ";
+      Zusatz = " von " + std::to_string(ZeilenZählen(Inhalt)) + " Punkten   ";
     }
     KorAnzahlAnzeigen(Zusatz);
     Port().EreignisseAbarbeiten();
@@ -130,7 +130,7 @@ class Lesung {
   double Zuletzt = Port().Zeitgeber();
 };
 
-int Zuruecknehmen(int Modus, int AlteAnzahl) {
+int Zurücknehmen(int Modus, int AlteAnzahl) {
   if (Modus != ModusErsetzen) {
     KorAnzahl = AlteAnzahl;
     return 0;
@@ -140,20 +140,20 @@ int Zuruecknehmen(int Modus, int AlteAnzahl) {
   return -1;
 }
 
-void KorZeileAnhaengen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
-                       std::string_view Symbol) {
+void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
+                      std::string_view Symbol) {
   const int N = Optionen.OptNachkommaSpeichern;
   Ziel.append(6, ' ').append(PnrFormat(Pnr)).append(3, ' ');
-  ZahlFormatAnhaengen(Ziel, Rechts, 7, N);
+  ZahlFormatAnhängen(Ziel, Rechts, 7, N);
   Ziel.append(3, ' ');
-  ZahlFormatAnhaengen(Ziel, Hoch, 7, N);
+  ZahlFormatAnhängen(Ziel, Hoch, 7, N);
   Ziel += ' ';
-  ZahlFormatAnhaengen(Ziel, Hoehe, 7, N);
+  ZahlFormatAnhängen(Ziel, Hoehe, 7, N);
   Ziel.append(2, ' ').append(Symbol);
 }
 
 // The key of an LT4 line: the fixed area key of the format and the point number.
-std::string Lt4Schluessel(const std::string& Pnr) {
+std::string Lt4Schlüssel(const std::string& Pnr) {
   const std::size_t L = ZeichenAnzahl(Pnr);
   if (L < 6) return "45590000" + ZahlFeldNull(Pnr, 6);
   if (L < 10) return "4559" + ZahlFeldNull(Pnr, 10);
@@ -194,12 +194,12 @@ int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, doub
 void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,
                        std::string& Zeile) {
   Zeile.clear();
-  KorZeileAnhaengen(Zeile, Pnr, Rechts, Hoch, Hoehe, Symbol);
+  KorZeileAnhängen(Zeile, Pnr, Rechts, Hoch, Hoehe, Symbol);
 }
 
 int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, std::string& Symbol,
                   KorInfoSatz& Info) {
-  if (Zeile.starts_with('#') || KuerzerAls(Zeile, 64)) return -1;
+  if (Zeile.starts_with('#') || KürzerAls(Zeile, 64)) return -1;
   Pnr = Spalten(Zeile, 9, 18);
   Rechts = ZahlAusText(Spalten(Zeile, 24, 34));
   Hoch = ZahlAusText(Spalten(Zeile, 36, 46));
@@ -214,7 +214,7 @@ int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, doub
 
 void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
                        std::string& Zeile) {
-  Zeile = ZahlFeldNull(Info.Lagestatus, 3) + " " + Lt4Schluessel(Trimmen(Pnr)) + " ";
+  Zeile = ZahlFeldNull(Info.Lagestatus, 3) + " " + Lt4Schlüssel(Trimmen(Pnr)) + " ";
   Zeile += ZahlFeldNull(std::int32_t{Info.Vermarkungsart}, 3) + " " + ZahlFormat(Rechts, 7, 3) + " ";
   Zeile += ZahlFormat(Hoch, 7, 3) + " " + Leerzeichen(8) + Leerzeichen(6);
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
@@ -223,7 +223,7 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
 int KorLesen(std::string& Dateiname, int Modus, int Format,
              const std::function<bool(std::string_view)>& Nimmt) {
   if (Dateiname.empty()) return -1;
-  const Reihenleser InReihe = LeserFuer(Format);
+  const Reihenleser InReihe = LeserFür(Format);
   if (InReihe == nullptr) {
     FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
     return -1;
@@ -237,15 +237,15 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
   const int AlteAnzahl = KorAnzahl;
   KoordinatenGeaendert = Modus != ModusErsetzen;
   if (Modus == ModusErsetzen) KorAnzahl = 0;
-  Port().Beschaeftigt(true);
+  Port().Beschäftigt(true);
   const Lesung::Ende Ende = Lesung(Inhalt, Modus, InReihe, Nimmt).Laufen();
   int Ergebnis = 0;
-  if (Ende == Lesung::Ende::Gestoppt) Ergebnis = Zuruecknehmen(Modus, AlteAnzahl);
+  if (Ende == Lesung::Ende::Gestoppt) Ergebnis = Zurücknehmen(Modus, AlteAnzahl);
   if (Ende == Lesung::Ende::Voll) {
     Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
   }
   if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
-  Port().Beschaeftigt(false);
+  Port().Beschäftigt(false);
   KorAnzahlAnzeigen();
   if (Ende != Lesung::Ende::Gestoppt && AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
   return Ergebnis;
@@ -259,8 +259,8 @@ int KorText(int Format, std::string& Text) {
   for (int i = 0; i < KorAnzahl; ++i) {
     const std::size_t z = Reihe(i);
     if (Format == FormatKor) {
-      KorZeileAnhaengen(Text, std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorHoehe[z],
-                        KorSymbol[z]);
+      KorZeileAnhängen(Text, std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorHoehe[z],
+                       KorSymbol[z]);
     } else {
       Lt4ZeileSchreiben(std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorInfo[z], Zeile);
       Text += Zeile;
@@ -288,7 +288,7 @@ int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maxi
   Zeilenleser Leser(Inhalt);
   std::string_view Zeile;
   KorFelder F;
-  while (Leser.Naechste(Zeile)) {
+  while (Leser.Nächste(Zeile)) {
     if (!KorZerlegen(Zeile, F) || F.Pnr.empty()) continue;
     if (Anzahl == Maximum) {
       Hinweis("Zu viele Punkte in " + Dateiname + "\n\nMaximalwert:" + ZahlFeld(Maximum, 8) + " Punkte");

@@ -37,7 +37,7 @@ inline constexpr int FormatKor = 0, FormatEdbs = 10, FormatLt4 = 11;
 int Zeilenformat(int Dateiformat);
 
 /// Modes of KorLesen.
-inline constexpr int ModusErsetzen = 1, ModusAnhaengen = 0, ModusNurNeue = -1;
+inline constexpr int ModusErsetzen = 1, ModusAnhängen = 0, ModusNurNeue = -1;
 
 /// Reads a coordinate file into the table and sorts it. A missing file, the limit of 20000 points and
 /// double points are told in a message; every point that was read stays. The stop button rolls back.

@@ -17,7 +17,7 @@ struct NeuerPunkt {
   const KorInfoSatz* Info;
 };
 
-int Anhaengen(const std::string& Pnr, const NeuerPunkt& P) {
+int Anhängen(const std::string& Pnr, const NeuerPunkt& P) {
   if (KorAnzahl >= KorZeilen) {
     LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.Neupunkt");
     return -1;
@@ -68,18 +68,18 @@ Konfliktantwort Fragen(const Konflikt& Frage) {
 
 int AlterNeueNummer(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
                     NeupunktErgebnis& Ergebnis) {
-  if (KorAnzahl >= KorZeilen) return Anhaengen(Ergebnis.Pnr, P);  // reports the full table, changes nothing
+  if (KorAnzahl >= KorZeilen) return Anhängen(Ergebnis.Pnr, P);  // reports the full table, changes nothing
   Ergebnis.Rechts = KorRechts[Reihe(Zeile)];
   Ergebnis.Hoch = KorHoch[Reihe(Zeile)];
   Ergebnis.AlterPnr = Antwort.NeuePnr;
   KorPnrSetzen(Zeile, Antwort.NeuePnr);
   KorSortieren();
-  Anhaengen(Ergebnis.Pnr, P);
+  Anhängen(Ergebnis.Pnr, P);
   return 3;
 }
 
-int AntwortAusfuehren(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
-                      NeupunktErgebnis& Ergebnis) {
+int AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
+                     NeupunktErgebnis& Ergebnis) {
   if (Antwort.Wort == "ALÖ") {
     AltenErsetzen(Zeile, P);
     return 1;
@@ -96,7 +96,7 @@ int AntwortAusfuehren(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Ant
   if (Antwort.Wort == "ANN") return AlterNeueNummer(Zeile, P, Antwort, Ergebnis);
   if (Antwort.Wort == "NNN") {
     Ergebnis.AlterPnr = std::exchange(Ergebnis.Pnr, Antwort.NeuePnr);
-    return Anhaengen(Ergebnis.Pnr, P) < 0 ? -1 : 13;
+    return Anhängen(Ergebnis.Pnr, P) < 0 ? -1 : 13;
   }
   return -1;
 }
@@ -119,11 +119,11 @@ int Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std
   if (TrimmenSicht(Ergebnis.Pnr).empty()) return -1;
   const NeuerPunkt P{Rechts, Hoch, Hoehe, Symbol, Info};
   const int Zeile = KorSuche(Pnr);
-  if (Zeile < 0) return Anhaengen(Ergebnis.Pnr, P);
+  if (Zeile < 0) return Anhängen(Ergebnis.Pnr, P);
   Ergebnis.DeltaRechts = Rechts - KorRechts[Reihe(Zeile)];
   Ergebnis.DeltaHoch = Hoch - KorHoch[Reihe(Zeile)];
   const Konfliktantwort Antwort = Fragen({Ergebnis.Pnr, Zeile, Rechts, Hoch, Hoehe, Symbol});
-  const int Code = AntwortAusfuehren(Zeile, P, Antwort, Ergebnis);
+  const int Code = AntwortAusführen(Zeile, P, Antwort, Ergebnis);
   if (Code == 11 || Code == 13) Pnr = Wert(Ergebnis.Pnr);
   return Code;
 }

@@ -11,13 +11,13 @@ Plattform* Gesetzt = nullptr;
 
 }  // namespace
 
-int Plattform::Meldung(const std::string& /*Text*/, Knoepfe /*Art*/, const std::string& /*Titel*/) {
+int Plattform::Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/) {
   return KnopfAbbruch;
 }
 
 void Plattform::FormularZeigen(Formular& /*Form*/, bool /*Modal*/) {}
 
-std::string Plattform::DateiWaehlen(Dateiauftrag& /*Auftrag*/) { return {}; }
+std::string Plattform::DateiWählen(Dateiauftrag& /*Auftrag*/) { return {}; }
 
 Zeitpunkt Plattform::Jetzt() {
   const std::time_t Sekunden = std::time(nullptr);

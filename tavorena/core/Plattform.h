@@ -7,7 +7,7 @@ namespace tavorena {
 
 class Formular;  // tavorena/forms; passed through here and never looked into
 
-enum class Knoepfe { OK, JaNein, JaNeinAbbruch };
+enum class Knöpfe { OK, JaNein, JaNeinAbbruch };
 
 /// Button codes of a message box.
 inline constexpr int KnopfAbbruch = 2, KnopfJa = 6, KnopfNein = 7;
@@ -15,12 +15,12 @@ inline constexpr int KnopfAbbruch = 2, KnopfJa = 6, KnopfNein = 7;
 /// What a file dialog is asked for.
 struct Dateiauftrag {
   std::string Titel;
-  std::string Filter;           ///< "text|pattern|text|pattern", patterns of one entry separated by ";"
-  std::string Ordner;           ///< folder to start in
-  std::string Vorgabe;          ///< name or pattern to start with, such as "*.kor"
-  bool NurVorhandene = true;    ///< the file must exist
-  std::string Zusatz;           ///< caption of a check box below the list; none if empty
-  bool ZusatzGewaehlt = false;  ///< out: the check box was set
+  std::string Filter;          ///< "text|pattern|text|pattern", patterns of one entry separated by ";"
+  std::string Ordner;          ///< folder to start in
+  std::string Vorgabe;         ///< name or pattern to start with, such as "*.kor"
+  bool NurVorhandene = true;   ///< the file must exist
+  std::string Zusatz;          ///< caption of a check box below the list; none if empty
+  bool ZusatzGewählt = false;  ///< out: the check box was set
 };
 
 struct Zeitpunkt {
@@ -38,13 +38,13 @@ class Plattform {
   virtual ~Plattform() = default;
 
   /// Message box. @return the code of the button; 1 for OK
-  virtual int Meldung(const std::string& Text, Knoepfe Art, const std::string& Titel);
+  virtual int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel);
 
   /// Shows a form; with Modal the call returns when the form is closed.
   virtual void FormularZeigen(Formular& Form, bool Modal);
 
   /// File dialog. @return the chosen name; "" if cancelled
-  virtual std::string DateiWaehlen(Dateiauftrag& Auftrag);
+  virtual std::string DateiWählen(Dateiauftrag& Auftrag);
 
   /// Lets waiting events run (stop button, redraw).
   virtual void EreignisseAbarbeiten() {}
@@ -55,18 +55,18 @@ class Plattform {
   virtual double Zeitgeber();
 
   /// Busy pointer, menus of the main window locked; the stop button stays alive.
-  virtual void Beschaeftigt(bool /*An*/) {}
+  virtual void Beschäftigt(bool /*An*/) {}
 
   virtual void StatusSetzen(Statusfeld /*Feld*/, const std::string& /*Text*/) {}
   /// Title of the main window.
   virtual void FenstertitelSetzen(const std::string& /*Titel*/) {}
   /// Menus, tool bar or windows changed.
-  virtual void HauptfensterGeaendert() {}
+  virtual void HauptfensterGeändert() {}
   /// Lines of the protocol window changed; called for each line.
-  virtual void ProtokollGeaendert() {}
+  virtual void ProtokollGeändert() {}
   /// Size of the main window [pixels].
-  virtual void HauptfensterGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
-  virtual void BildschirmGroesse(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
+  virtual void HauptfensterGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
+  virtual void BildschirmGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
 
   /// Starts a program with a file; an empty program means the desktop's own. @return 0 or -1
   virtual int ProgrammStarten(const std::string& /*Programm*/, const std::string& /*Datei*/) { return -1; }
@@ -81,7 +81,7 @@ class Plattform {
   virtual void ProgrammBeenden() {}
 
   /// A replay holds after each connection until "Weiter" is pressed.
-  virtual bool StapelHaelt() { return false; }
+  virtual bool StapelHält() { return false; }
 };
 
 /// The platform in use; the silent one if none was set.

@@ -32,10 +32,10 @@ void SpaltenOrdnen(std::vector<int>& Folge, Spalte&... Spalten) {
     [&](auto... Gemerkt) {
       std::size_t i = Anfang;
       for (;;) {
-        const auto Naechste = static_cast<std::size_t>(std::exchange(Folge[i], static_cast<int>(i)));
-        if (Naechste == Anfang) break;
-        ((s[i] = std::move(s[Naechste])), ...);
-        i = Naechste;
+        const auto Nächste = static_cast<std::size_t>(std::exchange(Folge[i], static_cast<int>(i)));
+        if (Nächste == Anfang) break;
+        ((s[i] = std::move(s[Nächste])), ...);
+        i = Nächste;
       }
       ((s[i] = std::move(Gemerkt)), ...);
     }(std::move(s[Anfang])...);

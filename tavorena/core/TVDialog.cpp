@@ -6,7 +6,7 @@ namespace {
 
 const char* Beschreibung(Laufzeitfehler Fehler) {
   switch (Fehler) {
-    case Laufzeitfehler::Ueberlauf:
+    case Laufzeitfehler::Überlauf:
       return "Überlauf";
     case Laufzeitfehler::Index:
       return "Index außerhalb des gültigen Bereichs";
@@ -31,14 +31,14 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
 int Dialogergebnis = 0;
 
 int FrageJaNeinAbbruch(const std::string& Text) {
-  return Port().Meldung(Text, Knoepfe::JaNeinAbbruch, "Tavorena");
+  return Port().Meldung(Text, Knöpfe::JaNeinAbbruch, "Tavorena");
 }
 
 int FrageJaNein(const std::string& Text, const std::string& Titel) {
-  return Port().Meldung(Text, Knoepfe::JaNein, Titel);
+  return Port().Meldung(Text, Knöpfe::JaNein, Titel);
 }
 
-void Hinweis(const std::string& Text, const std::string& Titel) { Port().Meldung(Text, Knoepfe::OK, Titel); }
+void Hinweis(const std::string& Text, const std::string& Titel) { Port().Meldung(Text, Knöpfe::OK, Titel); }
 
 void FehlerMeldung(const std::string& Text) { Hinweis("Fehler aufgetreten:\n" + Text); }
 

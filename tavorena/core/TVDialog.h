@@ -21,7 +21,7 @@ void PunktVorhandenMeldung(const std::string& Pnr);
 
 /// Numbers of run-time faults.
 enum class Laufzeitfehler : int {
-  Ueberlauf = 6,
+  Überlauf = 6,
   Index = 9,
   DivisionDurchNull = 11,
   Typen = 13,

@@ -23,25 +23,25 @@ KoordinatenHaken Haken;
 namespace {
 
 std::vector<std::string> Nummern(KorZeilen);
-std::vector<double> Zahlwerte(KorZeilen);              // ZahlAusText of each number, for the sort
-std::vector<std::uint64_t> Suchschluessel(KorZeilen);  // of each trimmed number, for the search
-bool MitKomma = false;                                 // a number may hold a ","
+std::vector<double> Zahlwerte(KorZeilen);             // ZahlAusText of each number, for the sort
+std::vector<std::uint64_t> Suchschlüssel(KorZeilen);  // of each trimmed number, for the search
+bool MitKomma = false;                                // a number may hold a ","
 
 std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 
 // Up to eight bytes stand for themselves, so that equal keys mean equal numbers nearly always.
-std::uint64_t SchluesselVon(std::string_view Getrimmt) {
-  std::uint64_t Schluessel = 0;
-  if (Getrimmt.size() > sizeof Schluessel) return std::hash<std::string_view>{}(Getrimmt);
-  std::memcpy(&Schluessel, Getrimmt.data(), Getrimmt.size());
-  return Schluessel;
+std::uint64_t SchlüsselVon(std::string_view Getrimmt) {
+  std::uint64_t Schlüssel = 0;
+  if (Getrimmt.size() > sizeof Schlüssel) return std::hash<std::string_view>{}(Getrimmt);
+  std::memcpy(&Schlüssel, Getrimmt.data(), Getrimmt.size());
+  return Schlüssel;
 }
 
 void ZeileKopieren(int Nach, int Von, bool MitSymbol, bool MitInfo) {
   const std::size_t n = Reihe(Nach), v = Reihe(Von);
   Nummern[n] = Nummern[v];
   Zahlwerte[n] = Zahlwerte[v];
-  Suchschluessel[n] = Suchschluessel[v];
+  Suchschlüssel[n] = Suchschlüssel[v];
   KorRechts[n] = KorRechts[v];
   KorHoch[n] = KorHoch[v];
   KorHoehe[n] = KorHoehe[v];
@@ -56,7 +56,7 @@ const std::string& KorPnr(int Zeile) { return Nummern[Reihe(Zeile)]; }
 void KorPnrSetzen(int Zeile, std::string_view Pnr) {
   Nummern[Reihe(Zeile)].assign(Pnr);
   Zahlwerte[Reihe(Zeile)] = ZahlAusText(Pnr);
-  Suchschluessel[Reihe(Zeile)] = SchluesselVon(TrimmenSicht(Pnr));
+  Suchschlüssel[Reihe(Zeile)] = SchlüsselVon(TrimmenSicht(Pnr));
   if (Pnr.find(',') != std::string_view::npos) MitKomma = true;
 }
 
@@ -75,10 +75,10 @@ void KorLeeren() {
 
 int KorSuche(std::string_view Pnr) {
   const std::string_view Gesucht = TrimmenSicht(Pnr);
-  const std::uint64_t Schluessel = SchluesselVon(Gesucht);
-  const auto Ende = Suchschluessel.begin() + KorAnzahl;
-  for (auto i = Suchschluessel.begin(); (i = std::find(i, Ende, Schluessel)) != Ende; ++i) {
-    const auto Zeile = static_cast<int>(i - Suchschluessel.begin());
+  const std::uint64_t Schlüssel = SchlüsselVon(Gesucht);
+  const auto Ende = Suchschlüssel.begin() + KorAnzahl;
+  for (auto i = Suchschlüssel.begin(); (i = std::find(i, Ende, Schlüssel)) != Ende; ++i) {
+    const auto Zeile = static_cast<int>(i - Suchschlüssel.begin());
     if (TrimmenSicht(KorPnr(Zeile)) == Gesucht) return Zeile;
   }
   return -1;
@@ -134,10 +134,9 @@ void KorSortieren() {
   if (Ergebnis < 0) LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.KorSortieren");
   // A comma that became a point changes the key of the search.
   for (int i = 0; MitKomma && i < KorAnzahl; ++i)
-    Suchschluessel[Reihe(i)] = SchluesselVon(TrimmenSicht(KorPnr(i)));
+    Suchschlüssel[Reihe(i)] = SchlüsselVon(TrimmenSicht(KorPnr(i)));
   if (Ergebnis == 0) {
-    SpaltenOrdnen(Folge, Nummern, Zahlwerte, Suchschluessel, KorRechts, KorHoch, KorHoehe, KorSymbol,
-                  KorInfo);
+    SpaltenOrdnen(Folge, Nummern, Zahlwerte, Suchschlüssel, KorRechts, KorHoch, KorHoehe, KorSymbol, KorInfo);
   }
 }
 

@@ -55,10 +55,10 @@ std::string FeldLinks(std::string_view Text, int Breite) {
 
 std::string FeldRechts(std::string_view Text, int Breite) {
   const std::size_t Laenge = ZeichenAnzahl(Text), Soll = Anzahl(Breite);
-  return Laenge > Soll ? std::string(TextTeil(Text, Laenge - Soll)) : RechtsBuendig(Text, Breite);
+  return Laenge > Soll ? std::string(TextTeil(Text, Laenge - Soll)) : RechtsBündig(Text, Breite);
 }
 
-std::string RechtsBuendig(std::string_view Text, int Breite) {
+std::string RechtsBündig(std::string_view Text, int Breite) {
   const std::size_t Laenge = ZeichenAnzahl(Text), Soll = Anzahl(Breite);
   std::string Feld(Soll > Laenge ? Soll - Laenge : 0, ' ');
   return Feld.append(Text);
@@ -98,7 +98,7 @@ int ZeichenKlasse(int Zeichencode) {
   return 0;
 }
 
-std::string Grosstext(std::string_view Text) {
+std::string Großtext(std::string_view Text) {
   std::string Gross(Text);
   for (std::size_t i = 0; i < Gross.size(); ++i) {
     if (Gross[i] >= 'a' && Gross[i] <= 'z') Gross[i] = static_cast<char>(Gross[i] - 'a' + 'A');

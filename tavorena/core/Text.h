@@ -34,7 +34,7 @@ std::string FeldLinks(std::string_view Text, int Breite);
 std::string FeldRechts(std::string_view Text, int Breite);
 
 /// Text right-aligned in Breite characters; a longer text is returned whole.
-std::string RechtsBuendig(std::string_view Text, int Breite);
+std::string RechtsBündig(std::string_view Text, int Breite);
 
 /// That many blanks; a negative Anzahl gives "".
 std::string Leerzeichen(int Anzahl);
@@ -59,7 +59,7 @@ std::string KuerzenMitPunkten(std::string_view Text, int Breite);
 int ZeichenKlasse(int Zeichencode);
 
 /// Upper case of the letters a to z and of the umlauts; ß stays.
-std::string Grosstext(std::string_view Text);
+std::string Großtext(std::string_view Text);
 
 /// Next token of a line. Blank, tab and code 0 separate; a carriage return ends the token and the
 /// skipping of separators too, so that it can not merge two lines. Zeile is advanced behind the token.

@@ -16,7 +16,7 @@ bool IstZiffer(char z) { return z >= '0' && z <= '9'; }
 
 // Tells overflow from underflow for a number text that no double can hold: the sign of its decimal
 // exponent.
-bool IstUeberlauf(std::string_view Text) {
+bool IstÜberlauf(std::string_view Text) {
   const std::size_t e = Text.find_first_of("eE");
   int Exponent = 0;
   if (e != std::string_view::npos) {
@@ -37,7 +37,7 @@ double BetragLesen(std::string_view Text, const char*& Ende) {
   Ende = Ergebnis.ptr;
   if (Ergebnis.ec == std::errc::result_out_of_range) {
     const std::string_view Gelesen = Text.substr(0, static_cast<std::size_t>(Ende - Text.data()));
-    return IstUeberlauf(Gelesen) ? std::numeric_limits<double>::infinity() : 0.0;
+    return IstÜberlauf(Gelesen) ? std::numeric_limits<double>::infinity() : 0.0;
   }
   return Ergebnis.ec == std::errc{} ? Zahl : 0.0;
 }
@@ -72,13 +72,13 @@ struct Dezimal {
     if (Behalten < Stellen) {
       const bool Auf = Behalten >= 0 && Ziffern[static_cast<std::size_t>(Behalten)] >= '5';
       std::fill(Ziffern.begin() + std::max(Behalten, 0), Ziffern.end(), '0');
-      if (Auf) Erhoehen(Behalten - 1);
+      if (Auf) Erhöhen(Behalten - 1);
     }
     if (std::all_of(Ziffern.begin(), Ziffern.end(), [](char z) { return z == '0'; })) Negativ = false;
   }
 
  private:
-  void Erhoehen(int i) {
+  void Erhöhen(int i) {
     for (; i >= 0; --i) {
       char& z = Ziffern[static_cast<std::size_t>(i)];
       if (z != '9') {
@@ -112,7 +112,7 @@ void Rechtsstellen(std::string& Ziel, std::size_t Ab, int Breite) {
   if (Laenge < Breite) Ziel.insert(Ab, static_cast<std::size_t>(Breite - Laenge), ' ');
 }
 
-void FormatFuellen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma, bool MitNullen) {
+void FormatFüllen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma, bool MitNullen) {
   const int V = std::max(Vorkomma, 0), N = Nachkomma;
   const std::size_t Ab = Ziel.size();
   if (!(Zahl < Zehnerpotenz(V)) || (Zahl < 0 && -Zahl >= Zehnerpotenz(V - 1))) {
@@ -125,10 +125,10 @@ void FormatFuellen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma, 
   Rechtsstellen(Ziel, Ab, V + N + 1);
 }
 
-std::string FormatFuellen(const Wert& Zahl, int Vorkomma, int Nachkomma, bool MitNullen) {
+std::string FormatFüllen(const Wert& Zahl, int Vorkomma, int Nachkomma, bool MitNullen) {
   if (!Zahl.IstGegeben()) return Leerzeichen(std::max(Vorkomma, 0) + Nachkomma + 1);
   std::string Feld;
-  FormatFuellen(Feld, Zahl.Zahl(), Vorkomma, Nachkomma, MitNullen);
+  FormatFüllen(Feld, Zahl.Zahl(), Vorkomma, Nachkomma, MitNullen);
   return Feld;
 }
 
@@ -194,31 +194,31 @@ Wert ZahlNachText(const Wert& Zahl) {
 }
 
 std::string ZahlFormat(const Wert& Zahl, int Vorkomma, int Nachkomma) {
-  if (Vorkomma >= 0) return FormatFuellen(Zahl, Vorkomma, Nachkomma, false);
-  return std::string(TrimmenSicht(FormatFuellen(Zahl, 20, Nachkomma, false)));
+  if (Vorkomma >= 0) return FormatFüllen(Zahl, Vorkomma, Nachkomma, false);
+  return std::string(TrimmenSicht(FormatFüllen(Zahl, 20, Nachkomma, false)));
 }
 
 std::string ZahlFormatNull(const Wert& Zahl, int Vorkomma, int Nachkomma) {
-  return FormatFuellen(Zahl, Vorkomma, Nachkomma, true);
+  return FormatFüllen(Zahl, Vorkomma, Nachkomma, true);
 }
 
 std::string ZahlFormatFest(const Wert& Zahl) {
   std::string Feld;
   if (Zahl.IstGegeben() && std::isfinite(Zahl.Zahl())) DezimalSchreiben(Feld, Zahl.Zahl(), 1, 3);
-  return RechtsBuendig(Feld, 12);
+  return RechtsBündig(Feld, 12);
 }
 
-void ZahlFormatAnhaengen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma) {
-  FormatFuellen(Ziel, Zahl, Vorkomma, Nachkomma, false);
+void ZahlFormatAnhängen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma) {
+  FormatFüllen(Ziel, Zahl, Vorkomma, Nachkomma, false);
 }
 
 std::string ZahlFeld(const Wert& Zahl, int Breite) {
-  if (Zahl.IstText()) return RechtsBuendig(Zahl.Text(), Breite);
+  if (Zahl.IstText()) return RechtsBündig(Zahl.Text(), Breite);
   if (Zahl.IstNull() || !std::isfinite(Zahl.Zahl())) return Sterne(Breite);
   if (Breite > 0 && Zahl.Zahl() >= Zehnerpotenz(Breite)) return Sterne(Breite);
   std::string Feld;
   DezimalSchreiben(Feld, Zahl.Zahl(), 1, 0);
-  return RechtsBuendig(Feld, Breite);
+  return RechtsBündig(Feld, Breite);
 }
 
 std::string ZahlFeldNull(const Wert& Zahl, int Breite) {
@@ -226,17 +226,17 @@ std::string ZahlFeldNull(const Wert& Zahl, int Breite) {
   if (!(x < Zehnerpotenz(Breite)) || !std::isfinite(x)) return Sterne(Breite);
   std::string Feld;
   DezimalSchreiben(Feld, x, std::max(Breite, 0), 0);
-  return RechtsBuendig(Feld, Breite);
+  return RechtsBündig(Feld, Breite);
 }
 
 std::string PnrFormat(const Wert& Pnr) {
   if (Pnr.IstLeer()) return "*";
   if (Pnr.IstNull()) return Leerzeichen(8);
-  if (Pnr.IstText()) return RechtsBuendig(Pnr.Text(), 8);
+  if (Pnr.IstText()) return RechtsBündig(Pnr.Text(), 8);
   if (!std::isfinite(Pnr.Zahl())) return Sterne(8);
   std::string Feld;
   DezimalSchreiben(Feld, Pnr.Zahl(), 1, 0);
-  return RechtsBuendig(Feld, 8);
+  return RechtsBündig(Feld, 8);
 }
 
 std::string GonText(double Grad) { return ZahlFormat(Grad / 0.9, 3, 4) + " gon"; }

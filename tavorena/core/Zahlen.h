@@ -41,7 +41,7 @@ std::string ZahlFormatNull(const Wert& Zahl, int Vorkomma, int Nachkomma);
 std::string ZahlFormatFest(const Wert& Zahl);
 
 /// ZahlFormat of a number with Vorkomma of 0 or more, appended to Ziel: for whole files.
-void ZahlFormatAnhaengen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma);
+void ZahlFormatAnhängen(std::string& Ziel, double Zahl, int Vorkomma, int Nachkomma);
 
 /// Integer field of width Breite: a text is right-aligned (a longer one returned whole), null gives
 /// stars, a number of 10^Breite or more gives stars, empty counts as 0. A Breite of 0 or less means free.

@@ -28,7 +28,7 @@ QString Q(const std::string& Text) { return QString::fromStdString(Text); }
 // The keys that a form looks at. "+" and "-" of the number pad always step a point number; those of the
 // main keyboard only where they can not belong to the number: in an empty or wholly selected field.
 std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang) {
-  const bool Zaehlt = Anfang || E.modifiers().testFlag(Qt::KeypadModifier);
+  const bool Zählt = Anfang || E.modifiers().testFlag(Qt::KeypadModifier);
   switch (E.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -40,9 +40,9 @@ std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang) {
     case Qt::Key_Down:
       return Taste::Ab;
     case Qt::Key_Plus:
-      return Zaehlt ? std::optional(Taste::Plus) : std::nullopt;
+      return Zählt ? std::optional(Taste::Plus) : std::nullopt;
     case Qt::Key_Minus:
-      return Zaehlt ? std::optional(Taste::Minus) : std::nullopt;
+      return Zählt ? std::optional(Taste::Minus) : std::nullopt;
     default:
       return std::nullopt;
   }
@@ -51,13 +51,13 @@ std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang) {
 }  // namespace
 
 FormularAnsicht::FormularAnsicht(Formular& Gezeigt, QWidget* Eltern)
-    : QWidget(Eltern), Modell(&Gezeigt), Kaesten(new QVBoxLayout(this)) {
+    : QWidget(Eltern), Modell(&Gezeigt), Kästen(new QVBoxLayout(this)) {
   setObjectName(Q(Gezeigt.FormName));
-  Kaesten->setContentsMargins(10, 10, 10, 10);
-  Kaesten->setSpacing(8);
+  Kästen->setContentsMargins(10, 10, 10, 10);
+  Kästen->setSpacing(8);
   Aufbauen();
   Modell->Beobachter = this;
-  FormularGeaendert();
+  FormularGeändert();
 }
 
 FormularAnsicht::~FormularAnsicht() {
@@ -74,9 +74,9 @@ void FormularAnsicht::Aufbauen() {
     } else if (S->Art == Steuerart::Gitter) {
       QGridLayout* Platz = Rahmenplatz(S->Rahmen);
       Platz->addWidget(W, S->Ort.Zeile, 0, 1, -1);
-      Kaesten->setStretchFactor(Platz->parentWidget(), 1);
+      Kästen->setStretchFactor(Platz->parentWidget(), 1);
     } else {
-      const bool Rechts = S->Rechtsbuendig && S->Art == Steuerart::Beschriftung;
+      const bool Rechts = S->Rechtsbündig && S->Art == Steuerart::Beschriftung;
       Rahmenplatz(S->Rahmen)->addWidget(W, S->Ort.Zeile, S->Ort.Spalte, 1, S->Ort.Breite,
                                         (Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
@@ -85,7 +85,7 @@ void FormularAnsicht::Aufbauen() {
   auto* Unten = new QHBoxLayout;
   Unten->addStretch(1);
   Unten->addLayout(Knopfleiste);
-  Kaesten->addLayout(Unten);
+  Kästen->addLayout(Unten);
 }
 
 QGridLayout* FormularAnsicht::Rahmenplatz(const std::string& Titel) {
@@ -96,7 +96,7 @@ QGridLayout* FormularAnsicht::Rahmenplatz(const std::string& Titel) {
     Platz->setHorizontalSpacing(8);
     Platz->setVerticalSpacing(4);
     if (Titel.empty()) Platz->setContentsMargins(0, 0, 0, 0);
-    Kaesten->addWidget(Kasten);
+    Kästen->addWidget(Kasten);
   }
   return Platz;
 }
@@ -129,8 +129,8 @@ QWidget* FormularAnsicht::FeldErzeugen(Steuerelement& S) {
   auto* Feld = new Eingabefeld(this);
   Feld->setFont(Zahlenschrift());
   Feld->setFixedWidth(Zeichenbreite(Feld->font(), S.Zeichen) + 16);
-  Feld->setAlignment(S.Rechtsbuendig ? Qt::AlignRight : Qt::AlignLeft);
-  FeldAnschliessen(*Feld, S);
+  Feld->setAlignment(S.Rechtsbündig ? Qt::AlignRight : Qt::AlignLeft);
+  FeldAnschließen(*Feld, S);
   return Feld;
 }
 
@@ -138,7 +138,7 @@ QWidget* FormularAnsicht::GitterErzeugen(Gitter& G) {
   auto* Feld = new Eingabefeld(this);
   Feld->setObjectName(Q(G.Name + "Feld"));
   Feld->installEventFilter(this);
-  FeldAnschliessen(*Feld, G);
+  FeldAnschließen(*Feld, G);
   auto* Tabelle = new Gitteransicht(G, Feld, this);
   Tabelle->BeiZelle = [this, &G](int Zeile, int Spalte) {
     if (Modell == nullptr) return;
@@ -153,10 +153,10 @@ QWidget* FormularAnsicht::GitterErzeugen(Gitter& G) {
 QWidget* FormularAnsicht::AuswahlErzeugen(Steuerelement& S) {
   if (S.Art == Steuerart::Liste) {
     auto* Liste = new QComboBox(this);
-    for (const std::string& Eintrag : S.Eintraege) Liste->addItem(Q(Eintrag));
+    for (const std::string& Eintrag : S.Einträge) Liste->addItem(Q(Eintrag));
     Liste->setMinimumWidth(Zeichenbreite(font(), S.Zeichen) + 40);
     connect(Liste, &QComboBox::textActivated, this, [this, &S](const QString& Text) {
-      if (Modell != nullptr) Modell->Waehlen(S, Text.toStdString(), true);
+      if (Modell != nullptr) Modell->Wählen(S, Text.toStdString(), true);
     });
     return Liste;
   }
@@ -175,14 +175,14 @@ QWidget* FormularAnsicht::AuswahlErzeugen(Steuerelement& S) {
     if (S.Art == Steuerart::Knopf) {
       Modell->Klicken(S);
     } else {
-      Modell->Waehlen(S, "", An);
+      Modell->Wählen(S, "", An);
     }
     FokusZeigen();
   });
   return Knopf;
 }
 
-void FormularAnsicht::FeldAnschliessen(Eingabefeld& Feld, Steuerelement& S) {
+void FormularAnsicht::FeldAnschließen(Eingabefeld& Feld, Steuerelement& S) {
   Feld.BeiFokus = [this, &S] {
     // The form may ask a question about the field that is left: never inside the focus event itself.
     QTimer::singleShot(0, this, [this, &S] { FokusMelden(S); });
@@ -209,7 +209,7 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   const std::optional<Taste> T = TasteVon(Ereignis, Anfang);
   FokusMelden(S);
   if (Modell == nullptr || Modell->Fokus() != &S) return true;  // the focus went back: the key is void
-  if (!T || !Modell->TasteDruecken(*T)) return false;
+  if (!T || !Modell->TasteDrücken(*T)) return false;
   FokusZeigen();
   if ((T == Taste::Plus || T == Taste::Minus) && Feld != nullptr) Feld->end(false);
   return true;
@@ -246,7 +246,7 @@ void FormularAnsicht::FokusZeigen() {
   if (W != nullptr && !W->hasFocus()) W->setFocus(Qt::OtherFocusReason);
 }
 
-void FormularAnsicht::FormularGeaendert() {
+void FormularAnsicht::FormularGeändert() {
   if (Modell == nullptr || Auffrischend) return;
   const QScopedValueRollback<bool> Sperre(Auffrischend, true);
   for (const auto& S : Modell->Steuerelemente()) Zeigen(*S, *Widgets.at(S.get()));
@@ -270,7 +270,7 @@ void FormularAnsicht::Zeigen(Steuerelement& S, QWidget& W) {
     Liste->setCurrentText(Q(S.Text));
   } else if (auto* Knopf = qobject_cast<QAbstractButton*>(&W)) {
     Knopf->setText(Q(S.Text));
-    if (Knopf->isCheckable()) Knopf->setChecked(S.Gewaehlt);
+    if (Knopf->isCheckable()) Knopf->setChecked(S.Gewählt);
   }
 }
 
@@ -282,7 +282,7 @@ void FormularAnsicht::FeldZeigen(const Steuerelement& S, Eingabefeld& Feld) {
 
 void FormularAnsicht::FormularGeschlossen() {
   for (const auto& [S, W] : Widgets) {
-    if (auto* Tabelle = dynamic_cast<Gitteransicht*>(W)) Tabelle->Loesen();
+    if (auto* Tabelle = dynamic_cast<Gitteransicht*>(W)) Tabelle->Lösen();
   }
   Modell = nullptr;
   if (BeiGeschlossen) BeiGeschlossen();

@@ -22,7 +22,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   explicit FormularAnsicht(Formular& Gezeigt, QWidget* Eltern = nullptr);
   ~FormularAnsicht() override;
 
-  void FormularGeaendert() override;
+  void FormularGeändert() override;
   void FormularGeschlossen() override;
 
   /// The form that is shown; nullptr after it was closed.
@@ -42,7 +42,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   QWidget* FeldErzeugen(Steuerelement& S);
   QWidget* GitterErzeugen(Gitter& G);
   QWidget* AuswahlErzeugen(Steuerelement& S);
-  void FeldAnschliessen(Eingabefeld& Feld, Steuerelement& S);
+  void FeldAnschließen(Eingabefeld& Feld, Steuerelement& S);
   void Zeigen(Steuerelement& S, QWidget& W);
   void FeldZeigen(const Steuerelement& S, Eingabefeld& Feld);
   bool TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis);
@@ -53,7 +53,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   Formular* Modell;
   std::unordered_map<const Steuerelement*, QWidget*> Widgets;
   std::unordered_map<std::string, QGridLayout*> Rahmen;
-  QVBoxLayout* Kaesten;
+  QVBoxLayout* Kästen;
   QGridLayout* Knopfleiste = nullptr;
   bool Auffrischend = false;
 };

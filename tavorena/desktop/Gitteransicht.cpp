@@ -22,18 +22,18 @@ class Gittermodell final : public QAbstractTableModel {
   [[nodiscard]] QVariant data(const QModelIndex& Zelle, int Rolle) const override {
     if (Daten == nullptr || !Zelle.isValid() || Zelle.row() >= Daten->Zeilen()) return {};
     if (Rolle == Qt::DisplayRole) return QString::fromStdString(Daten->Inhalt(Zelle.row(), Zelle.column()));
-    if (Rolle == Qt::TextAlignmentRole) return Buendig(Zelle.column());
+    if (Rolle == Qt::TextAlignmentRole) return Bündig(Zelle.column());
     return {};
   }
   [[nodiscard]] QVariant headerData(int Spalte, Qt::Orientation Richtung, int Rolle) const override {
     if (Daten == nullptr || Richtung != Qt::Horizontal) return {};
     if (Rolle == Qt::DisplayRole)
       return QString::fromStdString(Daten->Spalten[static_cast<std::size_t>(Spalte)].Titel);
-    if (Rolle == Qt::TextAlignmentRole) return Buendig(Spalte);
+    if (Rolle == Qt::TextAlignmentRole) return Bündig(Spalte);
     return {};
   }
 
-  void Loesen() { Daten = nullptr; }
+  void Lösen() { Daten = nullptr; }
 
   void Auffrischen() {
     const int Neu = Daten->Zeilen();
@@ -50,8 +50,8 @@ class Gittermodell final : public QAbstractTableModel {
   }
 
  private:
-  [[nodiscard]] QVariant Buendig(int Spalte) const {
-    const bool Rechts = Daten->Spalten[static_cast<std::size_t>(Spalte)].Rechtsbuendig;
+  [[nodiscard]] QVariant Bündig(int Spalte) const {
+    const bool Rechts = Daten->Spalten[static_cast<std::size_t>(Spalte)].Rechtsbündig;
     return QVariant::fromValue(Qt::Alignment((Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
   }
 
@@ -81,14 +81,14 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   Zellfeld->setFont(font());
   Zellfeld->setAlignment(Qt::AlignRight);
   Zellfeld->hide();
-  connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Gitteransicht::FeldRuecken);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Gitteransicht::FeldRücken);
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& Zelle) {
     if (BeiZelle) BeiZelle(Zelle.row(), Zelle.column());
   });
 }
 
-void Gitteransicht::Loesen() {
-  Modell->Loesen();
+void Gitteransicht::Lösen() {
+  Modell->Lösen();
   Feldzelle = QModelIndex();
 }
 
@@ -118,22 +118,22 @@ void Gitteransicht::FeldSetzen() {
     Feldzelle = Zelle;
     if (Zellfeld->hasFocus()) Zellfeld->selectAll();
   }
-  FeldRuecken();
+  FeldRücken();
   Zellfeld->show();
 }
 
-void Gitteransicht::FeldRuecken() {
+void Gitteransicht::FeldRücken() {
   if (Feldzelle.isValid()) Zellfeld->setGeometry(visualRect(Feldzelle));
 }
 
 void Gitteransicht::updateGeometries() {
   QTableView::updateGeometries();
-  FeldRuecken();
+  FeldRücken();
 }
 
 void Gitteransicht::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
-  FeldRuecken();
+  FeldRücken();
 }
 
 void Gitteransicht::focusInEvent(QFocusEvent* Ereignis) {

@@ -20,7 +20,7 @@ class Gitteransicht final : public QTableView {
   /// Takes over what changed in the grid.
   void Auffrischen();
   /// The form is closed: its grid must not be looked at any more.
-  void Loesen();
+  void Lösen();
 
   std::function<void(int Zeile, int Spalte)> BeiZelle;  ///< the user clicked a cell
 
@@ -32,7 +32,7 @@ class Gitteransicht final : public QTableView {
 
  private:
   void FeldSetzen();
-  void FeldRuecken();
+  void FeldRücken();
 
   Gitter& Daten;
   Gittermodell* Modell;

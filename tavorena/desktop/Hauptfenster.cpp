@@ -59,7 +59,7 @@ class Blattfenster final : public QMdiSubWindow {
  protected:
   void closeEvent(QCloseEvent* Ereignis) override {
     if (Ansicht->Form() == nullptr) return Ereignis->accept();
-    Ansicht->Form()->SchliessenVerlangen();
+    Ansicht->Form()->SchließenVerlangen();
     Ereignis->ignore();  // when the form closes, the window goes with it
   }
 
@@ -77,7 +77,7 @@ Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
   Flaeche->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   Flaeche->viewport()->setMouseTracking(true);
   Flaeche->viewport()->installEventFilter(this);
-  MenuesBauen();
+  MenüsBauen();
   SymbolleisteBauen();
   StatusleisteBauen();
   ProtokollfensterBauen();
@@ -96,27 +96,27 @@ Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
   resize(1280, 800);
 }
 
-void Hauptfenster::MenuesBauen() {
-  std::map<std::string_view, QMenu*> Menues;
-  for (const Menueeintrag& E : Menuebaum()) {
-    QMenu* Eltern = *E.Eltern == '\0' ? nullptr : Menues.at(E.Eltern);
-    const auto Unter = [&](const Menueeintrag& U) { return std::string_view(U.Eltern) == E.Name; };
-    const bool IstMenue = std::any_of(Menuebaum().begin(), Menuebaum().end(), Unter);
+void Hauptfenster::MenüsBauen() {
+  std::map<std::string_view, QMenu*> Menüs;
+  for (const Menüeintrag& E : Menübaum()) {
+    QMenu* Eltern = *E.Eltern == '\0' ? nullptr : Menüs.at(E.Eltern);
+    const auto Unter = [&](const Menüeintrag& U) { return std::string_view(U.Eltern) == E.Name; };
+    const bool IstMenü = std::any_of(Menübaum().begin(), Menübaum().end(), Unter);
     QAction* A = nullptr;
     if (*E.Titel == '\0') {
       A = Eltern->addSeparator();
-    } else if (IstMenue) {
+    } else if (IstMenü) {
       QMenu* M = Eltern == nullptr ? menuBar()->addMenu(E.Titel) : Eltern->addMenu(E.Titel);
-      Menues[E.Name] = M;
+      Menüs[E.Name] = M;
       A = M->menuAction();
     } else {
       A = Eltern->addAction(E.Titel);
       A->setShortcut(Kurztaste(E.Name));
-      connect(A, &QAction::triggered, this, [&E] { Kern().Ausfuehren(E.Name); });
+      connect(A, &QAction::triggered, this, [&E] { Kern().Ausführen(E.Name); });
     }
     A->setObjectName(E.Name);
     A->setStatusTip(QString());
-    Eintraege[&E] = A;
+    Einträge[&E] = A;
   }
 }
 
@@ -130,7 +130,7 @@ void Hauptfenster::SymbolleisteBauen() {
     if (NeueGruppe(W.Name)) Leiste->addSeparator();
     QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis).trimmed());
     A->setObjectName(W.Name);
-    connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusfuehren(W); });
+    connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusführen(W); });
     connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(W.Hinweis); });
     Bilder.emplace_back(&W, A);
   }
@@ -181,7 +181,7 @@ void Hauptfenster::ProtokollZeigen() {
 }
 
 void Hauptfenster::Auffrischen() {
-  for (const auto& [E, A] : Eintraege) {
+  for (const auto& [E, A] : Einträge) {
     if (A->isSeparator()) continue;
     A->setVisible(Kern().Sichtbar(*E));
     QString Titel = QString::fromStdString(Kern().Titel(*E));
@@ -204,7 +204,7 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   Fenster->resize(Wunsch.width(),
                   MitGitter ? std::max(Wunsch.height(), Flaeche->height() - 40) : Wunsch.height());
   Fenster->show();
-  Form.Oeffnen();
+  Form.Öffnen();
   if (Ansicht->Form() != nullptr) Ansicht->FokusZeigen();
 }
 
@@ -221,7 +221,7 @@ void Hauptfenster::Beenden() { TerminatorTimer.start(); }
 
 void Hauptfenster::HilfeZeigen() {
   int Nummer = 0;
-  for (const auto& [E, A] : Eintraege) {
+  for (const auto& [E, A] : Einträge) {
     const auto* M = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
     if (M != nullptr && M->activeAction() == A) Nummer = Kern().Hilfe(*E);
   }
@@ -248,7 +248,7 @@ bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
 void Hauptfenster::closeEvent(QCloseEvent* Ereignis) {
   if (Ende) return Ereignis->accept();
   Ereignis->ignore();
-  if (Kern().IstBeschaeftigt() || HauptBeenden() < 0) return;
+  if (Kern().IstBeschäftigt() || HauptBeenden() < 0) return;
   Ende = true;
   Ereignis->accept();
   QCoreApplication::quit();

@@ -31,7 +31,7 @@ class Hauptfenster final : public QMainWindow {
   void BlattZeigen(Formular& Form);
   void StatusSetzen(Statusfeld Feld, const QString& Text);
   /// Shows the lines of the protocol when a burst of them is over.
-  void ProtokollSpaeterZeigen() { Protokolluhr.start(); }
+  void ProtokollSpäterZeigen() { Protokolluhr.start(); }
   /// A long loop runs: only the stop button can be used.
   void Sperren(bool An);
   /// Ends the program when the event that runs is done.
@@ -43,14 +43,14 @@ class Hauptfenster final : public QMainWindow {
   void closeEvent(QCloseEvent* Ereignis) override;
 
  private:
-  void MenuesBauen();
+  void MenüsBauen();
   void SymbolleisteBauen();
   void StatusleisteBauen();
   void ProtokollfensterBauen();
   void ProtokollZeigen();
   void HilfeZeigen();
 
-  std::map<const Menueeintrag*, QAction*> Eintraege;
+  std::map<const Menüeintrag*, QAction*> Einträge;
   std::vector<std::pair<const Werkzeug*, QAction*>> Bilder;
   std::map<Statusfeld, QLabel*> Statusfelder;
   QMdiArea* Flaeche;

@@ -44,13 +44,13 @@ class Dialogfenster final : public QDialog {
 
   void Zeigen() {
     show();
-    Form.Oeffnen();
+    Form.Öffnen();
     Ansicht->FokusZeigen();
     if (Form.Offen()) exec();
   }
 
   void reject() override {
-    if (Ansicht->Form() != nullptr) Form.SchliessenVerlangen();
+    if (Ansicht->Form() != nullptr) Form.SchließenVerlangen();
   }
 
  private:
@@ -61,28 +61,28 @@ class Dialogfenster final : public QDialog {
 // "text|pattern|text|pattern" as Qt takes it.
 QString QtFilter(const std::string& Filter) {
   const QStringList Teile = Q(Filter).split('|');
-  QStringList Eintraege;
+  QStringList Einträge;
   for (qsizetype i = 0; i + 1 < Teile.size(); i += 2) {
     QString Name = Teile[i].trimmed(), Muster = Teile[i + 1];
     Muster.replace(';', ' ');
-    Eintraege << Name.section('(', 0, 0).trimmed() + " (" + Muster + " " + Muster.toUpper() + ")";
+    Einträge << Name.section('(', 0, 0).trimmed() + " (" + Muster + " " + Muster.toUpper() + ")";
   }
-  Eintraege << "Alle Dateien (*)";
-  return Eintraege.join(";;");
+  Einträge << "Alle Dateien (*)";
+  return Einträge.join(";;");
 }
 
-QMessageBox::Icon Bild(Knoepfe Art, const std::string& Titel) {
-  if (Art != Knoepfe::OK) return QMessageBox::Question;
+QMessageBox::Icon Bild(Knöpfe Art, const std::string& Titel) {
+  if (Art != Knöpfe::OK) return QMessageBox::Question;
   return Titel == "Tavorena Fehlermeldung" ? QMessageBox::Critical : QMessageBox::Information;
 }
 
 }  // namespace
 
-int PlattformQt::Meldung(const std::string& Text, Knoepfe Art, const std::string& Titel) {
+int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel) {
   QMessageBox Kasten(Bild(Art, Titel), Q(Titel), Q(Text), QMessageBox::NoButton,
                      QApplication::activeWindow());
   Kasten.setTextFormat(Qt::PlainText);
-  if (Art == Knoepfe::OK) {
+  if (Art == Knöpfe::OK) {
     Kasten.addButton("&OK", QMessageBox::AcceptRole);
     Kasten.exec();
     return 1;
@@ -90,9 +90,9 @@ int PlattformQt::Meldung(const std::string& Text, Knoepfe Art, const std::string
   QPushButton* Ja = Kasten.addButton("&Ja", QMessageBox::YesRole);
   QPushButton* Nein = Kasten.addButton("&Nein", QMessageBox::NoRole);
   Kasten.setDefaultButton(Ja);
-  QPushButton* Zurueck = Nein;
-  if (Art == Knoepfe::JaNeinAbbruch) Zurueck = Kasten.addButton("&Abbrechen", QMessageBox::RejectRole);
-  Kasten.setEscapeButton(Zurueck);
+  QPushButton* Zurück = Nein;
+  if (Art == Knöpfe::JaNeinAbbruch) Zurück = Kasten.addButton("&Abbrechen", QMessageBox::RejectRole);
+  Kasten.setEscapeButton(Zurück);
   Kasten.exec();
   if (Kasten.clickedButton() == Ja) return KnopfJa;
   return Kasten.clickedButton() == Nein ? KnopfNein : KnopfAbbruch;
@@ -104,7 +104,7 @@ void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   Dialog.Zeigen();
 }
 
-std::string PlattformQt::DateiWaehlen(Dateiauftrag& Auftrag) {
+std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
   QFileDialog Dialog(QApplication::activeWindow(), Q(Auftrag.Titel), Pfad(Auftrag.Ordner),
                      QtFilter(Auftrag.Filter));
   Dialog.setAcceptMode(Auftrag.NurVorhandene ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
@@ -120,17 +120,17 @@ std::string PlattformQt::DateiWaehlen(Dateiauftrag& Auftrag) {
       Platz->addWidget(Zusatz, Platz->rowCount(), 0, 1, -1);
     QObject::connect(Zusatz, &QCheckBox::toggled, &Dialog, &QDialog::accept);
   }
-  const bool Gewaehlt = Dialog.exec() == QDialog::Accepted;
-  Auftrag.ZusatzGewaehlt = Zusatz != nullptr && Zusatz->isChecked();
-  if (!Gewaehlt || Auftrag.ZusatzGewaehlt || Dialog.selectedFiles().isEmpty()) return {};
+  const bool Gewählt = Dialog.exec() == QDialog::Accepted;
+  Auftrag.ZusatzGewählt = Zusatz != nullptr && Zusatz->isChecked();
+  if (!Gewählt || Auftrag.ZusatzGewählt || Dialog.selectedFiles().isEmpty()) return {};
   return Dialog.selectedFiles().constFirst().toStdString();
 }
 
 void PlattformQt::EreignisseAbarbeiten() { QCoreApplication::processEvents(); }
 
-void PlattformQt::Beschaeftigt(bool An) {
-  if (An == TVKernMDIForm::Fenster().IstBeschaeftigt()) return;
-  TVKernMDIForm::Fenster().Beschaeftigt(An);
+void PlattformQt::Beschäftigt(bool An) {
+  if (An == TVKernMDIForm::Fenster().IstBeschäftigt()) return;
+  TVKernMDIForm::Fenster().Beschäftigt(An);
   if (An) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
   } else {
@@ -143,15 +143,15 @@ void PlattformQt::StatusSetzen(Statusfeld Feld, const std::string& Text) {
   Fenster.StatusSetzen(Feld, Q(Text));
 }
 void PlattformQt::FenstertitelSetzen(const std::string& Titel) { Fenster.setWindowTitle(Q(Titel)); }
-void PlattformQt::HauptfensterGeaendert() { Fenster.Auffrischen(); }
-void PlattformQt::ProtokollGeaendert() { Fenster.ProtokollSpaeterZeigen(); }
+void PlattformQt::HauptfensterGeändert() { Fenster.Auffrischen(); }
+void PlattformQt::ProtokollGeändert() { Fenster.ProtokollSpäterZeigen(); }
 
-void PlattformQt::HauptfensterGroesse(int& Breite, int& Hoehe) {
+void PlattformQt::HauptfensterGröße(int& Breite, int& Hoehe) {
   Breite = Fenster.width();
   Hoehe = Fenster.height();
 }
 
-void PlattformQt::BildschirmGroesse(int& Breite, int& Hoehe) {
+void PlattformQt::BildschirmGröße(int& Breite, int& Hoehe) {
   Breite = Fenster.screen()->size().width();
   Hoehe = Fenster.screen()->size().height();
 }

@@ -34,11 +34,11 @@ int main(int argc, char** argv) {
   Hauptfenster Fenster;
   PlattformQt Qt(Fenster);
   PlattformSetzen(&Qt);
-  HauptAnschliessen();
+  HauptAnschließen();
   Fenster.show();
   HauptInitialisierung();
   const QStringList Dateien = Zeile.positionalArguments();
-  if (!Dateien.isEmpty()) HauptDateiOeffnen(Dateien.first().toStdString(), 0);
+  if (!Dateien.isEmpty()) HauptDateiÖffnen(Dateien.first().toStdString(), 0);
   const int Ergebnis = QApplication::exec();
   PlattformSetzen(nullptr);
   return Ergebnis;

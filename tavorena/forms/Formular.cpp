@@ -16,9 +16,9 @@ void Gitter::InhaltSetzen(int z, int s, std::string Neu) {
   Zellen.at(Stelle(z)).at(Stelle(s)) = std::move(Neu);
 }
 
-void Gitter::ZeileAnhaengen() { Zellen.emplace_back(Spalten.size()); }
+void Gitter::ZeileAnhängen() { Zellen.emplace_back(Spalten.size()); }
 
-void Gitter::ZeileLoeschen(int z) {
+void Gitter::ZeileLöschen(int z) {
   if (z < 0 || z >= Zeilen()) return;
   Zellen.erase(Zellen.begin() + z);
   Zeile = std::clamp(Zeile, 0, std::max(Zeilen() - 1, 0));
@@ -57,7 +57,7 @@ Steuerelement& Formular::Feld(std::string FeldName, Platz Ort, std::string Rahme
 
 Steuerelement& Formular::Zahlenfeld(std::string FeldName, Platz Ort, std::string Rahmen, int Zeichen) {
   Steuerelement& S = Feld(std::move(FeldName), Ort, std::move(Rahmen), Zeichen);
-  S.Rechtsbuendig = true;
+  S.Rechtsbündig = true;
   return S;
 }
 
@@ -93,16 +93,16 @@ void Formular::FehlerZeigen(const char* Was) {
 }
 
 void Formular::Melden() {
-  if (Beobachter != nullptr && IstOffen) Beobachter->FormularGeaendert();
+  if (Beobachter != nullptr && IstOffen) Beobachter->FormularGeändert();
 }
 
-void Formular::Oeffnen() {
+void Formular::Öffnen() {
   IstOffen = true;
-  Ausfuehren([&] {
+  Ausführen([&] {
     const auto Erstes =
         std::find_if(Liste.begin(), Liste.end(), [](const auto& S) { return NimmtFokus(*S); });
     if (Erstes != Liste.end()) FokusSetzen(**Erstes);
-    BeiOeffnen();
+    BeiÖffnen();
   });
 }
 
@@ -116,37 +116,37 @@ void Formular::FokusWeiter() {
   const auto Dieses =
       std::find_if(Liste.begin(), Liste.end(), [&](const auto& S) { return S.get() == Aktuell; });
   if (Dieses == Liste.end()) return;
-  const auto Naechstes = std::find_if(Dieses + 1, Liste.end(), [](const auto& S) { return NimmtFokus(*S); });
-  if (Naechstes != Liste.end()) FokusSetzen(**Naechstes);
+  const auto Nächstes = std::find_if(Dieses + 1, Liste.end(), [](const auto& S) { return NimmtFokus(*S); });
+  if (Nächstes != Liste.end()) FokusSetzen(**Nächstes);
 }
 
 void Formular::FokusWechseln(Steuerelement& Neu) {
   if (&Neu == Aktuell || !NimmtFokus(Neu)) return;
-  Ausfuehren([&] {
-    if (Aktuell == nullptr || Neu.OhnePruefung || FokusVerloren(*Aktuell)) FokusSetzen(Neu);
+  Ausführen([&] {
+    if (Aktuell == nullptr || Neu.OhnePrüfung || FokusVerloren(*Aktuell)) FokusSetzen(Neu);
   });
 }
 
 void Formular::Tippen(Steuerelement& S, const std::string& Text) {
   if (!NimmtFokus(S)) return;
-  Ausfuehren([&] {
+  Ausführen([&] {
     S.Fehlerhaft = false;
     if (auto* G = dynamic_cast<Gitter*>(&S)) {
       if (G->Zeilen() > 0) G->InhaltSetzen(G->Zeile, G->Spalte, Text);
     } else {
       S.Text = Text;
     }
-    TextGeaendert(S);
+    TextGeändert(S);
   });
 }
 
-bool Formular::TasteDruecken(Taste T) {
+bool Formular::TasteDrücken(Taste T) {
   if (Aktuell == nullptr || !IstOffen) return false;
   bool Genommen = true;
-  Ausfuehren([&] {
+  Ausführen([&] {
     Steuerelement& S = *Aktuell;
     if (TasteUnten(S, T)) return;
-    if (T == Taste::Return) return ReturnDruecken(S);
+    if (T == Taste::Return) return ReturnDrücken(S);
     if (T == Taste::Escape) {
       const auto Knopf =
           std::find_if(Liste.begin(), Liste.end(), [](const auto& K) { return K->Abbruch && K->Aktiv; });
@@ -157,7 +157,7 @@ bool Formular::TasteDruecken(Taste T) {
   return Genommen;
 }
 
-void Formular::ReturnDruecken(Steuerelement& S) {
+void Formular::ReturnDrücken(Steuerelement& S) {
   if (S.Art == Steuerart::Knopf) return Geklickt(S);
   if (!FokusVerloren(S)) return;
   FokusWeiter();
@@ -166,47 +166,47 @@ void Formular::ReturnDruecken(Steuerelement& S) {
 
 void Formular::Klicken(Steuerelement& S) {
   if (!NimmtFokus(S)) return;
-  Ausfuehren([&] {
-    if (Aktuell != nullptr && Aktuell != &S && !S.OhnePruefung && !FokusVerloren(*Aktuell)) return;
+  Ausführen([&] {
+    if (Aktuell != nullptr && Aktuell != &S && !S.OhnePrüfung && !FokusVerloren(*Aktuell)) return;
     Geklickt(S);
   });
 }
 
-void Formular::Waehlen(Steuerelement& S, const std::string& Eintrag, bool An) {
+void Formular::Wählen(Steuerelement& S, const std::string& Eintrag, bool An) {
   if (!NimmtFokus(S)) return;
-  Ausfuehren([&] {
+  Ausführen([&] {
     if (S.Art == Steuerart::Liste) S.Text = Eintrag;
     if (S.Art == Steuerart::Option && An) {
       for (const auto& Andere : Liste) {
-        if (Andere->Art == Steuerart::Option && Andere->Rahmen == S.Rahmen) Andere->Gewaehlt = false;
+        if (Andere->Art == Steuerart::Option && Andere->Rahmen == S.Rahmen) Andere->Gewählt = false;
       }
     }
-    S.Gewaehlt = An;
-    Gewaehlt(S);
+    S.Gewählt = An;
+    Gewählt(S);
   });
 }
 
 void Formular::ZelleWechseln(Gitter& G, int Zeile, int Spalte) {
   if (Zeile < 0 || Zeile >= G.Zeilen() || (Zeile == G.Zeile && Spalte == G.Spalte)) return;
-  Ausfuehren([&] {
+  Ausführen([&] {
     if (!ZelleVerlassen(G)) return;
     G.Zeile = std::min(Zeile, G.Zeilen() - 1);
     G.Spalte = Spalte;
   });
 }
 
-void Formular::SchliessenVerlangen() {
-  Ausfuehren([&] {
-    if (IstOffen && DarfSchliessen()) Schliessen();
+void Formular::SchließenVerlangen() {
+  Ausführen([&] {
+    if (IstOffen && DarfSchließen()) Schließen();
   });
 }
 
-void Formular::Schliessen() {
+void Formular::Schließen() {
   if (!IstOffen) return;
   IstOffen = false;
-  BeiSchliessen();
+  BeiSchließen();
   if (Beobachter != nullptr) Beobachter->FormularGeschlossen();
-  if (NachSchliessen) NachSchliessen();
+  if (NachSchließen) NachSchließen();
 }
 
 }  // namespace tavorena

@@ -17,7 +17,7 @@ enum class Taste { Return, Escape, Plus, Minus, Auf, Ab };
 class FormularBeobachter {
  public:
   virtual ~FormularBeobachter() = default;
-  virtual void FormularGeaendert() = 0;
+  virtual void FormularGeändert() = 0;
   virtual void FormularGeschlossen() = 0;
 };
 
@@ -42,7 +42,7 @@ class Formular {
   [[nodiscard]] bool Offen() const { return IstOffen; }
 
   FormularBeobachter* Beobachter = nullptr;
-  std::function<void()> NachSchliessen;  ///< for whoever opened the form
+  std::function<void()> NachSchließen;  ///< for whoever opened the form
 
   /// An event of the form is still running: it must not be destroyed.
   [[nodiscard]] bool InArbeit() const { return Tiefe > 0; }
@@ -50,29 +50,29 @@ class Formular {
   // ---- what the user does ---------------------------------------------------------------------------
 
   /// The form appears: its activation runs and the first control takes the focus.
-  void Oeffnen();
+  void Öffnen();
   /// The user moved to another control. The one before is read first; if its value fails, the focus
   /// stays there.
   void FokusWechseln(Steuerelement& Neu);
   /// The text of a field or of the current cell of a grid as it now stands.
   void Tippen(Steuerelement& S, const std::string& Text);
   /// A key in the control with the focus. @return false: the key belongs to the text
-  bool TasteDruecken(Taste T);
+  bool TasteDrücken(Taste T);
   void Klicken(Steuerelement& S);
   /// The user chose an entry of a list, a check box or an option.
-  void Waehlen(Steuerelement& S, const std::string& Eintrag, bool An);
+  void Wählen(Steuerelement& S, const std::string& Eintrag, bool An);
   /// The user moved to another cell of a grid.
   void ZelleWechseln(Gitter& G, int Zeile, int Spalte);
   /// The user closes the window.
-  void SchliessenVerlangen();
+  void SchließenVerlangen();
 
   /// Closes the form without a question.
-  void Schliessen();
+  void Schließen();
 
   /// An event that came in from outside, such as a replay: runs Tun, shows what it changed.
   template <typename Arbeit>
   void Ereignis(Arbeit Tun) {
-    Ausfuehren(Tun);
+    Ausführen(Tun);
   }
 
  protected:
@@ -91,27 +91,27 @@ class Formular {
   /// Moves the focus to the next control that the user can type into or press.
   void FokusWeiter();
 
-  virtual void BeiOeffnen() {}
+  virtual void BeiÖffnen() {}
   virtual void FokusErhalten(Steuerelement& /*S*/) {}
   /// Reads a field that is left. @return false: its value failed, the focus stays
   virtual bool FokusVerloren(Steuerelement& /*S*/) { return true; }
-  virtual void TextGeaendert(Steuerelement& /*S*/) {}
+  virtual void TextGeändert(Steuerelement& /*S*/) {}
   /// Return moves on by itself unless this takes the key.
   virtual bool TasteUnten(Steuerelement& /*S*/, Taste /*T*/) { return false; }
   virtual void Geklickt(Steuerelement& /*S*/) {}
-  virtual void Gewaehlt(Steuerelement& /*S*/) {}
+  virtual void Gewählt(Steuerelement& /*S*/) {}
   /// Reads the current cell before another one is taken. @return false: the cell stays
   virtual bool ZelleVerlassen(Gitter& /*G*/) { return true; }
   /// @return false: the form stays open
-  virtual bool DarfSchliessen() { return true; }
-  virtual void BeiSchliessen() {}
+  virtual bool DarfSchließen() { return true; }
+  virtual void BeiSchließen() {}
 
  private:
   template <typename Arbeit>
-  void Ausfuehren(Arbeit Tun);
+  void Ausführen(Arbeit Tun);
   void FehlerZeigen(const char* Was);
   void Melden();
-  void ReturnDruecken(Steuerelement& S);
+  void ReturnDrücken(Steuerelement& S);
   [[nodiscard]] static bool NimmtFokus(const Steuerelement& S);
 
   std::vector<std::unique_ptr<Steuerelement>> Liste;
@@ -121,7 +121,7 @@ class Formular {
 };
 
 template <typename Arbeit>
-void Formular::Ausfuehren(Arbeit Tun) {
+void Formular::Ausführen(Arbeit Tun) {
   ++Tiefe;
   try {
     Tun();

@@ -23,19 +23,19 @@ struct Steuerelement {
   std::string Text;    ///< caption ("&" marks the key) or contents; of a list the chosen entry
   std::string Rahmen;  ///< caption of the frame around it
   Platz Ort;
-  int Zeichen = 12;                    ///< width in characters
-  std::string Hilfe;                   ///< text for the status bar
-  std::vector<std::string> Eintraege;  ///< of a list
-  bool Gewaehlt = false;               ///< of a check box or an option
+  int Zeichen = 12;                   ///< width in characters
+  std::string Hilfe;                  ///< text for the status bar
+  std::vector<std::string> Einträge;  ///< of a list
+  bool Gewählt = false;               ///< of a check box or an option
   bool Aktiv = true;
   bool Sichtbar = true;
-  bool NurLesen = false;       ///< a result: shown, never typed into
-  bool Rechtsbuendig = false;  ///< numbers
-  bool IstPnr = false;         ///< a point number: "+" and "-" step it
-  bool Fehlerhaft = false;     ///< the value failed; the view shows it in its warning colour
-  bool OhnePruefung = false;   ///< a button that works although the field with the focus has failed
-  bool Vorgabe = false;        ///< the button that Return presses from the last field
-  bool Abbruch = false;        ///< the button that Escape presses
+  bool NurLesen = false;      ///< a result: shown, never typed into
+  bool Rechtsbündig = false;  ///< numbers
+  bool IstPnr = false;        ///< a point number: "+" and "-" step it
+  bool Fehlerhaft = false;    ///< the value failed; the view shows it in its warning colour
+  bool OhnePrüfung = false;   ///< a button that works although the field with the focus has failed
+  bool Vorgabe = false;       ///< the button that Return presses from the last field
+  bool Abbruch = false;       ///< the button that Escape presses
 };
 
 /// A column of a grid.
@@ -43,7 +43,7 @@ struct Gitterspalte {
   std::string Titel;
   int Zeichen = 12;
   bool Eingabe = false;  ///< the user types here
-  bool Rechtsbuendig = true;
+  bool Rechtsbündig = true;
   bool Sichtbar = true;
 };
 
@@ -55,8 +55,8 @@ struct Gitter : Steuerelement {
   [[nodiscard]] int Zeilen() const { return static_cast<int>(Zellen.size()); }
   [[nodiscard]] const std::string& Inhalt(int z, int s) const;
   void InhaltSetzen(int z, int s, std::string Neu);
-  void ZeileAnhaengen();
-  void ZeileLoeschen(int z);
+  void ZeileAnhängen();
+  void ZeileLöschen(int z);
   /// Empties the grid cell by cell and leaves that many rows.
   void Leeren(int ZeilenDanach);
 

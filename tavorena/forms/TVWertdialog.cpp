@@ -27,13 +27,13 @@ class Dialogform : public Formular {
  protected:
   void Fertig(int Ergebnis) {
     Dialogergebnis = Ergebnis;
-    Schliessen();
+    Schließen();
   }
 
   void OkUndAbbruch() {
     Knopf("OK", "&OK").Vorgabe = true;
     Steuerelement& Nein = Knopf("Abbrechen", "&Abbrechen", {0, 1});
-    Nein.Abbruch = Nein.OhnePruefung = true;
+    Nein.Abbruch = Nein.OhnePrüfung = true;
   }
 };
 
@@ -45,7 +45,7 @@ class Wertform final : public Dialogform {
     for (const Wertfeld& W : Werte) {
       Beschriftung(W.Label, {Zeile, 0});
       Steuerelement& F = Feld("Wert(" + std::to_string(Zeile) + ")", {Zeile, 1}, "", 20);
-      F.Rechtsbuendig = W.Nachkomma >= 0;
+      F.Rechtsbündig = W.Nachkomma >= 0;
       F.Text = W.Wert;
       Felder.push_back(&F);
       ++Zeile;
@@ -77,21 +77,21 @@ class Wertform final : public Dialogform {
 
 class Knopfform final : public Dialogform {
  public:
-  Knopfform(const std::string& FormTitel, const std::string& Text, const std::vector<std::string>& Knoepfe,
+  Knopfform(const std::string& FormTitel, const std::string& Text, const std::vector<std::string>& Knöpfe,
             int Vorgabe)
       : Dialogform("TVKnopfform", FormTitel) {
     Beschriftung(FormTitel, {0, 0});
     Beschriftung(Text, {1, 0});
-    for (int i = 0; i < static_cast<int>(Knoepfe.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(Knöpfe.size()); ++i) {
       Steuerelement& K =
-          Knopf("Knopf(" + std::to_string(i) + ")", Knoepfe[static_cast<std::size_t>(i)], {0, i});
+          Knopf("Knopf(" + std::to_string(i) + ")", Knöpfe[static_cast<std::size_t>(i)], {0, i});
       K.Vorgabe = i == Vorgabe;
-      K.Abbruch = i + 1 == static_cast<int>(Knoepfe.size());
+      K.Abbruch = i + 1 == static_cast<int>(Knöpfe.size());
     }
   }
 
  protected:
-  void BeiOeffnen() override {
+  void BeiÖffnen() override {
     for (const auto& S : Steuerelemente()) {
       if (S->Vorgabe) FokusSetzen(*S);
     }
@@ -109,7 +109,7 @@ class Dateiform final : public Dialogform {
       Beschriftung(D.Label, {Zeile, 0});
       Felder.push_back(&Feld("Datei" + Index, {Zeile, 1}, "", 50));
       Felder.back()->Text = D.Name;
-      Knopf("Waehlen" + Index, "...", {Zeile, 2}, "").OhnePruefung = true;
+      Knopf("Waehlen" + Index, "...", {Zeile, 2}, "").OhnePrüfung = true;
       ++Zeile;
     }
     OkUndAbbruch();
@@ -118,18 +118,18 @@ class Dateiform final : public Dialogform {
  protected:
   void Geklickt(Steuerelement& S) override {
     if (S.Name == "Abbrechen") return Fertig(-1);
-    if (S.Name == "OK") return Uebernehmen();
+    if (S.Name == "OK") return Übernehmen();
     const auto i = static_cast<std::size_t>(S.Name[8] - '0');
     const Dateiname Teile = DateinameZerlegen(Felder[i]->Text);
     Dateiauftrag Auftrag{
         Dateien[i].Label, Dateien[i].Filter, Teile.Ordner, Teile.Grundname, !Dateien[i].Ausgabe, "", false};
-    const std::string Name = Port().DateiWaehlen(Auftrag);
+    const std::string Name = Port().DateiWählen(Auftrag);
     if (!Name.empty()) Felder[i]->Text = Name;
   }
 
  private:
   // An output must not be one of the inputs, and is not written over without a question.
-  void Uebernehmen() {
+  void Übernehmen() {
     for (std::size_t i = 0; i < Dateien.size(); ++i) {
       const std::string Name = Trimmen(Felder[i]->Text);
       if (Name.empty()) return FokusSetzen(*Felder[i]);
@@ -141,7 +141,7 @@ class Dateiform final : public Dialogform {
       if (!Dateien[i].Ausgabe || !DateiVorhanden(Name)) continue;
       const int Antwort = DateiVorhandenFrage(Name);
       if (Antwort < 0) return FokusSetzen(*Felder[i]);
-      if (Antwort == 1 && DateiLoeschen(Name) < 0)
+      if (Antwort == 1 && DateiLöschen(Name) < 0)
         return LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Dialog.Dateinamen");
     }
     for (std::size_t i = 0; i < Dateien.size(); ++i) Dateien[i].Name = Trimmen(Felder[i]->Text);
@@ -154,28 +154,27 @@ class Dateiform final : public Dialogform {
 
 class Listenform final : public Dialogform {
  public:
-  Listenform(const std::string& FormTitel, const std::vector<std::string>& Eintraege)
+  Listenform(const std::string& FormTitel, const std::vector<std::string>& Einträge)
       : Dialogform("TVAuswahlform", FormTitel) {
-    Liste = &Steuer(Steuerart::Liste, "Liste", Eintraege.empty() ? "" : Eintraege.front(), {0, 0}, "");
-    Liste->Eintraege = Eintraege;
+    Liste = &Steuer(Steuerart::Liste, "Liste", Einträge.empty() ? "" : Einträge.front(), {0, 0}, "");
+    Liste->Einträge = Einträge;
     Liste->Zeichen = 40;
     OkUndAbbruch();
   }
 
  protected:
   void Geklickt(Steuerelement& S) override {
-    const auto i = std::find(Liste->Eintraege.begin(), Liste->Eintraege.end(), Liste->Text);
-    Fertig(S.Name == "OK" && i != Liste->Eintraege.end() ? static_cast<int>(i - Liste->Eintraege.begin())
-                                                         : -1);
+    const auto i = std::find(Liste->Einträge.begin(), Liste->Einträge.end(), Liste->Text);
+    Fertig(S.Name == "OK" && i != Liste->Einträge.end() ? static_cast<int>(i - Liste->Einträge.begin()) : -1);
   }
 
  private:
   Steuerelement* Liste;
 };
 
-int Knopffrage(const std::string& Titel, const std::string& Text, const std::vector<std::string>& Knoepfe,
+int Knopffrage(const std::string& Titel, const std::string& Text, const std::vector<std::string>& Knöpfe,
                int Vorgabe) {
-  return Knopfform(Titel, Text, Knoepfe, Vorgabe).Zeigen();
+  return Knopfform(Titel, Text, Knöpfe, Vorgabe).Zeigen();
 }
 
 }  // namespace
@@ -210,8 +209,8 @@ int DreiDateinamen(const std::string& Titel, std::span<Dateifeld, 3> Felder) {
   return Dateiform(Titel, Felder).Zeigen();
 }
 
-int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Eintraege) {
-  return Listenform(Titel, Eintraege).Zeigen();
+int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Einträge) {
+  return Listenform(Titel, Einträge).Zeigen();
 }
 
 int PunktbereichFrage(const std::string& Titel, std::string& Von, std::string& Bis) {

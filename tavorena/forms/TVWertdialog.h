@@ -36,7 +36,7 @@ int ZweiDateinamen(const std::string& Titel, std::span<Dateifeld, 2> Felder);
 int DreiDateinamen(const std::string& Titel, std::span<Dateifeld, 3> Felder);
 
 /// A list of entries. @return 0-based index of the chosen one; -1 if cancelled
-int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Eintraege);
+int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Einträge);
 
 /// Asks "Von Punktnr." and "Bis Punktnr.". @return 0; -1 if cancelled
 int PunktbereichFrage(const std::string& Titel, std::string& Von, std::string& Bis);

@@ -20,7 +20,7 @@ class TVPDoppForm final : public Formular {
     Titel = "Tavorena Punkt vorhanden";
     const auto z = static_cast<std::size_t>(Frage.Zeile);
     const char* const Spalten[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
-    for (int i = 0; i < 5; ++i) Beschriftung(Spalten[i], {0, i + 1}).Rechtsbuendig = i < 4;
+    for (int i = 0; i < 5; ++i) Beschriftung(Spalten[i], {0, i + 1}).Rechtsbündig = i < 4;
     AlterPnr = &Punktzeile("Alter Punkt:", "AlterPunkt", 1, KorPnr(Frage.Zeile), KorRechts[z], KorHoch[z],
                            KorHoehe[z], KorSymbol[z]);
     NeuerPnr = &Punktzeile("Neuer Punkt:", "NeuerPunkt", 2, Frage.Pnr, Frage.Rechts, Frage.Hoch, Frage.Hoehe,
@@ -38,15 +38,15 @@ class TVPDoppForm final : public Formular {
     Knopf("PDoppMitteln", "&Mitteln", {0, 2});
     Knopf("PDoppAltenNeunum", "A&lten neu numerieren", {1, 0}).Aktiv = false;
     Knopf("PDoppNeuenNeunum", "Ne&uen neu numerieren", {1, 1}).Aktiv = false;
-    Knopf("PDoppRückgängig", "&Rückgängig", {1, 2}).OhnePruefung = true;
+    Knopf("PDoppRückgängig", "&Rückgängig", {1, 2}).OhnePrüfung = true;
     Steuerelement& Abbrechen = Knopf("PDoppAbbruch", "- A&bbrechen -", {1, 3});
-    Abbrechen.Abbruch = Abbrechen.OhnePruefung = true;
+    Abbrechen.Abbruch = Abbrechen.OhnePrüfung = true;
   }
 
   Konfliktantwort Antwort;
 
  protected:
-  void BeiOeffnen() override { FokusSetzen(*Finde("PDoppAbbruch")); }
+  void BeiÖffnen() override { FokusSetzen(*Finde("PDoppAbbruch")); }
 
   // A new number must differ from the taken one and be free.
   bool FokusVerloren(Steuerelement& S) override {
@@ -60,7 +60,7 @@ class TVPDoppForm final : public Formular {
     return !S.Fehlerhaft;
   }
 
-  void TextGeaendert(Steuerelement& S) override {
+  void TextGeändert(Steuerelement& S) override {
     const bool Alt = &S == AlterPnr;
     (Alt ? NeuerPnr : AlterPnr)->Text = Trimmen(Nummer);
     const bool Anders = Trimmen(S.Text) != Trimmen(Nummer);
@@ -80,7 +80,7 @@ class TVPDoppForm final : public Formular {
     }
     if (Antwort.Wort == "ANN") Antwort.NeuePnr = AlterPnr->Text;
     if (Antwort.Wort == "NNN") Antwort.NeuePnr = NeuerPnr->Text;
-    Schliessen();
+    Schließen();
   }
 
  private:
@@ -89,13 +89,13 @@ class TVPDoppForm final : public Formular {
     Beschriftung(Label, {Zeile, 0});
     Steuerelement& Feldnummer = Feld(Name + "Pnr", {Zeile, 1});
     Feldnummer.Text = Trimmen(Pnr);
-    Feldnummer.Rechtsbuendig = Feldnummer.IstPnr = true;
+    Feldnummer.Rechtsbündig = Feldnummer.IstPnr = true;
     Ergebnisfeld(Name + "Rechts", {Zeile, 2}).Text = Zahlentext(R);
     Ergebnisfeld(Name + "Hoch", {Zeile, 3}).Text = Zahlentext(H);
     Ergebnisfeld(Name + "Höhe", {Zeile, 4}, "", 9).Text = Zahlentext(Z);
     Steuerelement& Symbol = Ergebnisfeld(Name + "Symbol", {Zeile, 5}, "", 5);
     Symbol.Text = Sy;
-    Symbol.Rechtsbuendig = false;
+    Symbol.Rechtsbündig = false;
     return Feldnummer;
   }
 

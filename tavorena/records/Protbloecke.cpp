@@ -12,8 +12,8 @@ namespace {
 
 // A number with the decimals of the forms, and the gap that keeps the next column in its place.
 std::string F(const Wert& x, int Vorkomma) { return ZahlFormat(x, Vorkomma, Optionen.OptNachkommastellen); }
-std::string Luecke() { return Leerzeichen(5 - Optionen.OptNachkommastellen); }
-std::string Spalte(const Wert& x) { return F(x, 7) + Luecke(); }
+std::string Lücke() { return Leerzeichen(5 - Optionen.OptNachkommastellen); }
+std::string Spalte(const Wert& x) { return F(x, 7) + Lücke(); }
 // A direction in gon, as wide as a column.
 std::string Gonspalte(const Wert& x) { return Leerzeichen(3) + ZahlFormat(x, 3, 4) + Leerzeichen(2); }
 

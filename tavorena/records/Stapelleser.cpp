@@ -24,39 +24,39 @@ struct Anmeldung {
   std::vector<std::string> Kennungen;
   std::function<void()> Zeigen;
 };
-std::vector<Anmeldung> Blaetter;
+std::vector<Anmeldung> Blätter;
 bool ImVerteiler = false, Nochmal = false;
 
 // A record: keyword in upper case and the rest of its line.
 struct Satz {
-  std::string Schluessel;
+  std::string Schlüssel;
   std::string_view Rest;
   std::string_view Zeile;
 };
 
-bool NaechsteZeile(Satz& S) {
+bool NächsteZeile(Satz& S) {
   if (StapelZeiger >= StapelAnzahl) return false;
   S.Zeile = S.Rest = StapelZeilen[static_cast<std::size_t>(StapelZeiger++)];
   ++StapelZeilennummer;
-  S.Schluessel = Grosstext(Wortnehmen(S.Rest));
+  S.Schlüssel = Großtext(Wortnehmen(S.Rest));
   return true;
 }
 
 bool IstKommentar(const Satz& S) {
-  return S.Schluessel.empty() || S.Schluessel == "C" || S.Zeile.starts_with('C');
+  return S.Schlüssel.empty() || S.Schlüssel == "C" || S.Zeile.starts_with('C');
 }
-bool IstEnde(const Satz& S) { return S.Schluessel == "E" || S.Schluessel == "EM"; }
+bool IstEnde(const Satz& S) { return S.Schlüssel == "E" || S.Schlüssel == "EM"; }
 
 bool RissNehmen(const Satz& S) {
-  if (S.Schluessel != "RISS" && S.Schluessel != "BERNR") return false;
-  (S.Schluessel == "RISS" ? Riss : BerNr) = TrimmenSicht(S.Rest);
+  if (S.Schlüssel != "RISS" && S.Schlüssel != "BERNR") return false;
+  (S.Schlüssel == "RISS" ? Riss : BerNr) = TrimmenSicht(S.Rest);
   return true;
 }
 
 // The next record that is no comment; -1 with a message at the end of the file, -2 at the end of the block.
-int NaechsterSatz(Satz& S) {
+int NächsterSatz(Satz& S) {
   do {
-    if (!NaechsteZeile(S)) {
+    if (!NächsteZeile(S)) {
       StapelFehlerMeldung("Unerwartetes Dateiende");
       return -1;
     }
@@ -77,21 +77,21 @@ int Ablehnen(const Satz& S) {
   return -1;
 }
 
-int SatzLesen(const std::string& Schluessel, Satz& S) {
-  const int Ergebnis = NaechsterSatz(S);
+int SatzLesen(const std::string& Schlüssel, Satz& S) {
+  const int Ergebnis = NächsterSatz(S);
   if (Ergebnis < 0) return Ergebnis;
-  return S.Schluessel == Schluessel ? 0 : Ablehnen(S);
+  return S.Schlüssel == Schlüssel ? 0 : Ablehnen(S);
 }
 
 std::string PnrNehmen(Satz& S) { return std::string(Wortnehmen(S.Rest)); }
 double ZahlNehmen(Satz& S) { return ZahlAusText(Wortnehmen(S.Rest)); }
 
 // A block that no worksheet takes is passed over up to its end, or to the next head.
-void BlockUebergehen() {
+void BlockÜbergehen() {
   Satz S;
-  while (NaechsteZeile(S)) {
+  while (NächsteZeile(S)) {
     if (!IstKommentar(S) && IstEnde(S)) return;
-    if (S.Schluessel != "M") continue;
+    if (S.Schlüssel != "M") continue;
     --StapelZeiger;
     --StapelZeilennummer;
     return;
@@ -101,33 +101,33 @@ void BlockUebergehen() {
 void BlockZeigen(const Anmeldung& Blatt) {
   StapelAktiv = true;
   StapelAblauf = false;
-  ++Stapellauf.Bloecke;
+  ++Stapellauf.Blöcke;
   if (StapelSchritt) StapelSchritt(ProtArt);
   Port().EreignisseAbarbeiten();
   Blatt.Zeigen();
 }
 
-void NaechsterBlock() {
+void NächsterBlock() {
   StapelAktiv = false;  // for the time of the search
   std::string Kennung;
   for (;;) {
     const int Art = StapelLeseKopf(Kennung);
     if (Art == -1 && !Kennung.empty()) return StapelFehlerMeldung("Modulkopf fehlerhaft");
     if (Art < 0) return Beenden();
-    const auto Blatt = std::find_if(Blaetter.begin(), Blaetter.end(), [&](const Anmeldung& B) {
+    const auto Blatt = std::find_if(Blätter.begin(), Blätter.end(), [&](const Anmeldung& B) {
       return std::find(B.Kennungen.begin(), B.Kennungen.end(), Kennung) != B.Kennungen.end();
     });
-    if (Art == 0 && Blatt != Blaetter.end()) return BlockZeigen(*Blatt);
-    Stapellauf.Uebergangen.push_back(Art == 1 ? "3D " + Kennung : Kennung);
-    BlockUebergehen();
+    if (Art == 0 && Blatt != Blätter.end()) return BlockZeigen(*Blatt);
+    Stapellauf.Übergangen.push_back(Art == 1 ? "3D " + Kennung : Kennung);
+    BlockÜbergehen();
   }
 }
 
 }  // namespace
 
 void StapelBlattAnmelden(const std::vector<std::string>& Kennungen, std::function<void()> Zeigen) {
-  std::erase_if(Blaetter, [&](const Anmeldung& B) { return B.Kennungen == Kennungen; });
-  Blaetter.push_back({Kennungen, std::move(Zeigen)});
+  std::erase_if(Blätter, [&](const Anmeldung& B) { return B.Kennungen == Kennungen; });
+  Blätter.push_back({Kennungen, std::move(Zeigen)});
 }
 
 void StapelleserLeeren() {
@@ -148,7 +148,7 @@ void StapelStarten(const std::string& Dateiname) {
   }
   Zeilenleser Leser(Text);
   std::string_view Zeile;
-  while (Leser.Naechste(Zeile)) {
+  while (Leser.Nächste(Zeile)) {
     if (StapelZeilen.size() == StapelGrenze) {
       StapelZeilen.clear();
       Stapellauf.Fehler = true;
@@ -169,10 +169,10 @@ void StapelWeiter() {
   struct Verteiler {
     Verteiler() { ImVerteiler = true; }
     ~Verteiler() { ImVerteiler = false; }
-  } const Laeuft;
+  } const Läuft;
   do {
     Nochmal = false;
-    NaechsterBlock();
+    NächsterBlock();
   } while (Nochmal);
 }
 
@@ -190,13 +190,13 @@ void StapelFehlerMeldung(const std::string& Text) {
 int StapelLeseKopf(std::string& Kennung) {
   Kennung.clear();
   Satz S;
-  while (NaechsteZeile(S)) {
+  while (NächsteZeile(S)) {
     if (IstKommentar(S)) continue;
-    if (S.Schluessel == "E") return -2;
-    if (S.Schluessel != "M") continue;  // lines between blocks
+    if (S.Schlüssel == "E") return -2;
+    if (S.Schlüssel != "M") continue;  // lines between blocks
     ProtArt = TrimmenSicht(S.Rest);
-    const std::string Art = Grosstext(Wortnehmen(S.Rest));
-    Kennung = Grosstext(Wortnehmen(S.Rest));
+    const std::string Art = Großtext(Wortnehmen(S.Rest));
+    Kennung = Großtext(Wortnehmen(S.Rest));
     if (Art == "VR") return 0;
     if (Art == "3D") return 1;
     if (Kennung.empty()) Kennung = "?";
@@ -209,11 +209,11 @@ int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& En
   bool MitAnfang = false, MitEnde = false;
   while (!MitAnfang || !MitEnde) {
     Satz S;
-    const int Ergebnis = NaechsterSatz(S);
+    const int Ergebnis = NächsterSatz(S);
     if (Ergebnis < 0) return Ergebnis;
     if (RissNehmen(S)) continue;
-    if (S.Schluessel != "PAN" && S.Schluessel != "PEN") return Ablehnen(S);
-    const bool Anfang = S.Schluessel == "PAN";
+    if (S.Schlüssel != "PAN" && S.Schlüssel != "PEN") return Ablehnen(S);
+    const bool Anfang = S.Schlüssel == "PAN";
     (Anfang ? AnfPnr : EndPnr) = PnrNehmen(S);
     (Anfang ? AnfWert : EndWert) = ZahlNehmen(S);
     (Anfang ? MitAnfang : MitEnde) = true;
@@ -223,7 +223,7 @@ int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& En
 
 int StapelLeseRisszeilen() {
   Satz S;
-  while (NaechsteZeile(S)) {
+  while (NächsteZeile(S)) {
     if (IstKommentar(S) || RissNehmen(S)) continue;
     --StapelZeiger;
     --StapelZeilennummer;
@@ -232,16 +232,16 @@ int StapelLeseRisszeilen() {
   return -1;
 }
 
-int StapelLesePnr(const std::string& Schluessel, std::string& Pnr) {
+int StapelLesePnr(const std::string& Schlüssel, std::string& Pnr) {
   Satz S;
-  const int Ergebnis = SatzLesen(Schluessel, S);
+  const int Ergebnis = SatzLesen(Schlüssel, S);
   if (Ergebnis == 0) Pnr = PnrNehmen(S);
   return Ergebnis;
 }
 
-int StapelLeseZweiPnr(const std::string& Schluessel, std::string& Pnr1, std::string& Pnr2, double& Wert) {
+int StapelLeseZweiPnr(const std::string& Schlüssel, std::string& Pnr1, std::string& Pnr2, double& Wert) {
   Satz S;
-  const int Ergebnis = SatzLesen(Schluessel, S);
+  const int Ergebnis = SatzLesen(Schlüssel, S);
   if (Ergebnis < 0) return Ergebnis;
   Pnr1 = PnrNehmen(S);
   Pnr2 = PnrNehmen(S);

@@ -19,10 +19,10 @@ extern bool StapelAblauf;                      ///< the worksheet has taken its 
 /// What came of a replay.
 struct StapelBilanz {
   std::string Datei;
-  int Bloecke = 0;                       ///< blocks that a worksheet took
-  int Zeilen = 0;                        ///< rows that were calculated
-  std::vector<std::string> Uebergangen;  ///< Kennungen that no worksheet takes
-  bool Fehler = false;                   ///< the replay ended with an error
+  int Blöcke = 0;                       ///< blocks that a worksheet took
+  int Zeilen = 0;                       ///< rows that were calculated
+  std::vector<std::string> Übergangen;  ///< Kennungen that no worksheet takes
+  bool Fehler = false;                  ///< the replay ended with an error
 };
 extern StapelBilanz Stapellauf;
 
@@ -62,9 +62,9 @@ int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& En
 int StapelLeseRisszeilen();
 
 /// One point record with that keyword; Werte takes the numbers behind the point number.
-int StapelLesePnr(const std::string& Schluessel, std::string& Pnr);
+int StapelLesePnr(const std::string& Schlüssel, std::string& Pnr);
 /// One record of two point numbers and a value, such as "NND".
-int StapelLeseZweiPnr(const std::string& Schluessel, std::string& Pnr1, std::string& Pnr2, double& Wert);
+int StapelLeseZweiPnr(const std::string& Schlüssel, std::string& Pnr1, std::string& Pnr2, double& Wert);
 
 /// One "NEUPUNKT" record; "0  -   -" gives an empty number, "-" an empty symbol.
 int StapelLeseNeupunkt(std::string& Pnr, std::string& Symbol);

@@ -18,12 +18,12 @@ namespace {
 struct OffenerBlock {
   std::string Datei;  // empty: no block is open
   std::string Titel;
-  std::vector<std::string> Saetze;  // records behind the head, as lines
+  std::vector<std::string> Sätze;  // records behind the head, as lines
 };
 OffenerBlock Block;
 
 int Schreiben(const std::string& Datei, const std::string& Text, const char* Routine) {
-  if (TextAnhaengen(Datei, Text) == 0) return 0;
+  if (TextAnhängen(Datei, Text) == 0) return 0;
   LaufzeitFehlerMeldung(Laufzeitfehler::EinAusgabe, std::string("Stapelmodul.") + Routine);
   return -1;
 }
@@ -57,12 +57,12 @@ int StapelKopfLinie(const std::string& Titel, const std::string& AnfPnr, double 
   if (StapelKopf(Titel) < 0) return -1;
   if (StapelPunktzeile("PAN ", AnfPnr, {AnfWert}) < 0 || StapelPunktzeile("PEN ", EndPnr, {EndWert}) < 0)
     return -1;
-  Block.Saetze.clear();  // the connection belongs to the head
+  Block.Sätze.clear();  // the connection belongs to the head
   return 0;
 }
 
-int StapelPunktzeile(const std::string& Schluessel, const std::string& Pnr, const std::vector<Wert>& Werte) {
-  std::string Zeile = Schluessel + PnrFormat(Pnr);
+int StapelPunktzeile(const std::string& Schlüssel, const std::string& Pnr, const std::vector<Wert>& Werte) {
+  std::string Zeile = Schlüssel + PnrFormat(Pnr);
   for (const Wert& Zahl : Werte) Zeile += "  " + (Zahl.IstText() ? PnrFormat(Zahl) : StapelZahl(Zahl));
   return StapelZeile(Zeile);
 }
@@ -75,24 +75,24 @@ int StapelNeupunkt(const std::string& Pnr, const std::string& Symbol) {
 int StapelZeile(const std::string& Text) {
   if (!StapelBlockOffen()) return 0;
   if (Schreiben(Block.Datei, Text + "\r\n", "StapelPunktzeile") < 0) return -1;
-  Block.Saetze.push_back(Text);
+  Block.Sätze.push_back(Text);
   return 0;
 }
 
 int StapelSatzEntfernen(int Nummer) {
-  if (!StapelBlockOffen() || Nummer < 0 || Nummer >= std::ssize(Block.Saetze)) return 0;
+  if (!StapelBlockOffen() || Nummer < 0 || Nummer >= std::ssize(Block.Sätze)) return 0;
   std::string Inhalt;
-  const std::string Alt = Zusammen(Block.Saetze);
-  std::vector<std::string> Uebrig = Block.Saetze;
-  Uebrig.erase(Uebrig.begin() + Nummer);
+  const std::string Alt = Zusammen(Block.Sätze);
+  std::vector<std::string> Übrig = Block.Sätze;
+  Übrig.erase(Übrig.begin() + Nummer);
   // Only the end of the file is ours; somebody may have edited the rest meanwhile.
   if (DateiLesen(Block.Datei, Inhalt) == 0) {
     const std::string Kodiert = IstUtf8(Inhalt) ? Alt : NachWindows1252(Alt);
     if (Inhalt.ends_with(Kodiert)) {
       Inhalt.resize(Inhalt.size() - Kodiert.size());
-      Inhalt += IstUtf8(Inhalt) ? Zusammen(Uebrig) : NachWindows1252(Zusammen(Uebrig));
+      Inhalt += IstUtf8(Inhalt) ? Zusammen(Übrig) : NachWindows1252(Zusammen(Übrig));
       if (DateiErsetzen(Block.Datei, Inhalt) == 0) {
-        Block.Saetze = Uebrig;
+        Block.Sätze = Übrig;
         return 0;
       }
     }

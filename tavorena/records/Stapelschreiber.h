@@ -25,7 +25,7 @@ int StapelKopfLinie(const std::string& Titel, const std::string& AnfPnr, double 
                     const std::string& EndPnr, double EndWert);
 
 /// One record behind the head: keyword with its blanks, point number and values.
-int StapelPunktzeile(const std::string& Schluessel, const std::string& Pnr,
+int StapelPunktzeile(const std::string& Schlüssel, const std::string& Pnr,
                      const std::vector<Wert>& Werte = {});
 
 /// One "NEUPUNKT" record; a missing symbol is written "-", no number at all as "0  -   -".

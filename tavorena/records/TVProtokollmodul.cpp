@@ -36,7 +36,7 @@ void InsFenster(const std::string& Text, bool Zeilenende) {
   const bool OhneRand = !ProtNeueZeile && Text.starts_with("      ") && ZeichenAnzahl(Text) >= 7;
   ProtokollfensterText += OhneRand ? Text.substr(6) : Text;
   if (Zeilenende) ProtokollfensterText += '\n';
-  Port().ProtokollGeaendert();
+  Port().ProtokollGeändert();
 }
 
 std::string Artzeile(const std::string& Titel, int Seite) {
@@ -53,7 +53,7 @@ std::vector<std::string> Kopfzeilen(const std::string& Titel, const std::string&
   std::vector<std::string> Zeilen = {
       "",
       Strich,
-      ProtRahmen + FeldLinks("Tavorena", 29) + RechtsBuendig(Stempel, 40) + " " + ProtRahmen,
+      ProtRahmen + FeldLinks("Tavorena", 29) + RechtsBündig(Stempel, 40) + " " + ProtRahmen,
       ProtRahmen + FeldLinks(KuerzenMitPunkten(Dateiname, 70), 70) + ProtRahmen,
       Artzeile(Titel, Seite),
       Strich,
@@ -87,11 +87,11 @@ std::string Zeitstempel() {
          Zweistellig(t.Stunde) + ":" + Zweistellig(t.Minute);
 }
 
-ProtKanal ProtOeffnen() { return {ProtokolldateiName, {}}; }
+ProtKanal ProtÖffnen() { return {ProtokolldateiName, {}}; }
 
-int ProtSchliessen(ProtKanal& Kanal) {
+int ProtSchließen(ProtKanal& Kanal) {
   const std::string Puffer = std::exchange(Kanal.Puffer, {});
-  if (Puffer.empty() || TextAnhaengen(Kanal.Name, Puffer) == 0) return 0;
+  if (Puffer.empty() || TextAnhängen(Kanal.Name, Puffer) == 0) return 0;
   Hinweis("Fehler aufgetreten beim Schreiben in\n" + Kanal.Name);
   return -1;
 }
@@ -110,7 +110,7 @@ void ProtZeile(ProtKanal& Kanal, const std::string& Text, int Vorschub) {
 int ProtZaehlen(ProtKanal& Kanal, int Anzahl) {
   ProtZeilen += Anzahl;
   if (ProtOhneUmbruch || ProtZeilen <= ZeilenJeSeite) return 0;
-  const int Ergebnis = ProtSchliessen(Kanal);
+  const int Ergebnis = ProtSchließen(Kanal);
   if (Ergebnis == 0) ProtNeueSeite();
   return Ergebnis;
 }
@@ -118,7 +118,7 @@ int ProtZaehlen(ProtKanal& Kanal, int Anzahl) {
 void ProtNeueSeite() {
   if (ProtokolldateiName.empty()) return;
   ProtKanal Kanal{ProtokolldateiName, "\f"};
-  if (ProtSchliessen(Kanal) < 0) return;
+  if (ProtSchließen(Kanal) < 0) return;
   ProtZeilen = 1;
   ++ProtSeite;
   ProtNeueZeile = ProtSeiteFrisch = true;
@@ -128,19 +128,19 @@ void ProtKopf() {
   if (ProtokolldateiName.empty()) return;
   // A fresh page has its number already: ProtNeueSeite raised it.
   const int Seite = ProtSeiteFrisch ? ProtSeite - 1 : ProtSeite++;
-  ProtKanal Kanal = ProtOeffnen();
+  ProtKanal Kanal = ProtÖffnen();
   for (const std::string& Zeile : Kopfzeilen(ProtArt, KoordinatendateiName, Seite)) {
     ProtZeile(Kanal, Zeile);
     ++ProtZeilen;  // a head is never broken
   }
-  ProtSchliessen(Kanal);
+  ProtSchließen(Kanal);
   ProtLetzteArt = ProtArt;
 }
 
 void ProtKopfAusgabe(const std::string& Datei, const std::string& Titel, const std::string& Name) {
   ProtKanal Kanal{Datei, {}};
   for (const std::string& Zeile : Kopfzeilen(Titel, Name, ProtSeite)) Kanal.Puffer += Zeile + "\r\n";
-  ProtSchliessen(Kanal);
+  ProtSchließen(Kanal);
 }
 
 void ProtKopfBeiWechsel(const std::string& Art) {
@@ -152,9 +152,9 @@ void ProtKopfBeiWechsel(const std::string& Art) {
 
 void ProtLeerzeile() {
   if (ProtokolldateiName.empty()) return;
-  ProtKanal Kanal = ProtOeffnen();
+  ProtKanal Kanal = ProtÖffnen();
   ProtZeile(Kanal, "");
-  ProtSchliessen(Kanal);
+  ProtSchließen(Kanal);
 }
 
 void ProtZiel(bool Haupt, ProtZielsatz& Eigenes) {
@@ -173,13 +173,13 @@ int ProtBlock(const std::vector<std::string>& Zeilen, int Marken) {
   if (!ProtZielWechsel) ProtMarken += Marken;
   if (ProtokolldateiName.empty()) return 0;
   const bool ZuViele = Optionen.OptNachkommastellen > 5;
-  ProtKanal Kanal = ProtOeffnen();
+  ProtKanal Kanal = ProtÖffnen();
   for (const std::string& Zeile :
        ZuViele ? std::vector<std::string>{"      #Fehler: Zu viele Nachkommastellen#"} : Zeilen) {
     ProtZeile(Kanal, Zeile);
     if (ProtZaehlen(Kanal, 1) < 0) return -1;
   }
-  return ProtSchliessen(Kanal);
+  return ProtSchließen(Kanal);
 }
 
 }  // namespace tavorena

@@ -44,14 +44,14 @@ struct ProtKanal {
   std::string Puffer;
 };
 
-ProtKanal ProtOeffnen();
+ProtKanal ProtÖffnen();
 /// @return 0; -1 with a message if the file could not be written
-int ProtSchliessen(ProtKanal& Kanal);
+int ProtSchließen(ProtKanal& Kanal);
 
 /// The one output primitive. Vorschub 0: without a line end, the next line goes on behind it.
 void ProtZeile(ProtKanal& Kanal, const std::string& Text, int Vorschub = 1);
 
-/// Adds Anzahl to the lines of the page; above 50 a new page begins. @return as ProtSchliessen
+/// Adds Anzahl to the lines of the page; above 50 a new page begins. @return as ProtSchließen
 int ProtZaehlen(ProtKanal& Kanal, int Anzahl);
 
 /// Form feed, new page number; writes no head. Nothing without a protocol.

@@ -15,7 +15,7 @@ const std::vector<std::string> Einschnitt = {
     "          Rechts          Hoch             Richtung/Tau    Pkt.Nr.  Bemerkung",
     "            (m)            (m)                   (gon)"};
 
-const Kopf Koepfe[] = {
+const Kopf Köpfe[] = {
     {"VR 24.40",
      {"          Rechts         Hoch      Linie(m)    Seitw.(m)   Pkt.Nr.  Bemerkung",
       "             (m)          (m)      S-red(m)    A-red (m)"}},
@@ -63,16 +63,16 @@ const char* const KopfPunkte =
     "       Rechts(m)       Hoch(m)                             Pkt.Nr.  Bemerkung";
 
 std::vector<std::string> Tabellenkopf(std::string_view Titel, bool MitHoehen, const std::string& SollDatei) {
-  const std::string_view Schluessel = TextTeil(Titel, 0, 8);
-  if (Schluessel == "Koordina" || Schluessel == "Punktnum") return Vergleichskopf(SollDatei);
-  if (Schluessel == "Höhenübe") {
+  const std::string_view Schlüssel = TextTeil(Titel, 0, 8);
+  if (Schlüssel == "Koordina" || Schlüssel == "Punktnum") return Vergleichskopf(SollDatei);
+  if (Schlüssel == "Höhenübe") {
     return {"                                     Hoehe                 Pkt.Nr. Soll",
             "                                    dHoehe                         Soll-Ist"};
   }
-  for (const Kopf& K : Koepfe) {
-    if (Schluessel != K.Titel) continue;
+  for (const Kopf& K : Köpfe) {
+    if (Schlüssel != K.Titel) continue;
     std::vector<std::string> Zeilen = K.Zeilen;
-    if (Schluessel == "VR 19.70") {
+    if (Schlüssel == "VR 19.70") {
       const auto& Polar = MitHoehen ? PolarMitHoehen : PolarOhneHoehen;
       Zeilen.insert(Zeilen.end(), Polar.begin(), Polar.end());
     }

@@ -42,7 +42,7 @@ void DateiLesenMit(std::int16_t Format, const char* Filter, const char* Vorgabe)
   HauptInitialisierung();
   std::string Name;
   if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, Filter, Vorgabe, Name) < 0) return;
-  HauptDateiOeffnen(Name, Format);
+  HauptDateiÖffnen(Name, Format);
 }
 
 void DateiSpeichern() { HauptDateiSpeichern(); }
@@ -51,16 +51,16 @@ void DateiSpeichernUnter() {
   const char* const Vorgaben[] = {"*.kor", "*.eds", "*.alk"};
   const char* Vorgabe = Vorgaben[std::clamp<int>(Koordinatendateiformat, 0, 2)];
   std::string Name;
-  bool Anhaengen = false;
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhaengen) < 0)
+  bool Anhängen = false;
+  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhängen) < 0)
     return;
   const std::int16_t Format = FormatNachEndung(Name, 0);
-  if (KoordinatenExportieren(Name, Zeilenformat(Format), Anhaengen) < 0) return;
+  if (KoordinatenExportieren(Name, Zeilenformat(Format), Anhängen) < 0) return;
   KoordinatendateiName = Name;
   Koordinatendateiformat = Format;
   KoordinatenGeaendert = false;
   // An extended file holds more than the table: the table takes all of it.
-  if (Anhaengen) KorLesen(KoordinatendateiName, ModusErsetzen, Zeilenformat(Format));
+  if (Anhängen) KorLesen(KoordinatendateiName, ModusErsetzen, Zeilenformat(Format));
   TitelSetzen(KoordinatendateiName);
   HauptHistSchreiben(KoordinatendateiName, Format);
 }
@@ -78,7 +78,7 @@ void ProtokollWechseln() {
   if (ProtokollWahl(Name) == 0) ProtokollNehmen(Name);
 }
 
-void DateiSchliessen() {
+void DateiSchließen() {
   if (HauptKoordinatendateiWechseln(true) == 0) HauptInitialisierung();
 }
 
@@ -93,7 +93,7 @@ void Hinzulesen(int Modus, const std::function<bool(std::string_view)>& Nimmt = 
   KorLesen(Name, Modus, Zeilenformat(FormatNachEndung(Name, 0)), Nimmt);
 }
 
-void HinzuKomplett() { Hinzulesen(ModusAnhaengen); }
+void HinzuKomplett() { Hinzulesen(ModusAnhängen); }
 void HinzuNurNeue() { Hinzulesen(ModusNurNeue); }
 
 void HinzuPunktbereich() {
@@ -101,7 +101,7 @@ void HinzuPunktbereich() {
   if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   if (PunktbereichFrage("Tavorena Auswahl Punktbereich", Von, Bis) < 0) return;
   const double Unten = ZahlAusText(Von), Oben = ZahlAusText(Bis);
-  KorLesen(Name, ModusAnhaengen, Zeilenformat(FormatNachEndung(Name, 0)), [=](std::string_view Pnr) {
+  KorLesen(Name, ModusAnhängen, Zeilenformat(FormatNachEndung(Name, 0)), [=](std::string_view Pnr) {
     const double Nummer = ZahlAusText(Pnr);
     return Nummer >= Unten && Nummer <= Oben;
   });
@@ -115,10 +115,10 @@ void HinzuPunktselektion() {
   if (FormatNachEndung(Name, 0) != 0)
     return FehlerMeldung("Punkte werden nur aus KOR-Dateien ausgewählt:\n" + Name);
   if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
-  std::vector<std::string> Gewaehlt;
-  if (PunkteAuswaehlen(Listen, Gewaehlt) < 0) return;
-  KorLesen(Name, ModusAnhaengen, FormatKor, [&](std::string_view Pnr) {
-    return std::find(Gewaehlt.begin(), Gewaehlt.end(), Pnr) != Gewaehlt.end();
+  std::vector<std::string> Gewählt;
+  if (PunkteAuswählen(Listen, Gewählt) < 0) return;
+  KorLesen(Name, ModusAnhängen, FormatKor, [&](std::string_view Pnr) {
+    return std::find(Gewählt.begin(), Gewählt.end(), Pnr) != Gewählt.end();
   });
 }
 
@@ -163,7 +163,7 @@ void TextErsetzen() {
   Hinweis(std::to_string(Anzahl) + " mal \"" + Such + "\" durch \"" + Ersatz + "\"\n" + Datei + "\nersetzt");
 }
 
-void TexteditorWaehlen() {
+void TexteditorWählen() {
   Dateiauftrag Auftrag{"Tavorena Texteditor für Windows NT festlegen",
                        "Programmdatei (*.exe)|*.exe|Batch-Datei (*.bat)|*.bat|Alle Dateien|*",
                        Startordner(),
@@ -171,13 +171,13 @@ void TexteditorWaehlen() {
                        true,
                        "",
                        false};
-  const std::string Name = Port().DateiWaehlen(Auftrag);
+  const std::string Name = Port().DateiWählen(Auftrag);
   if (Name.empty()) return;
   Optionen.DateinameEditorNT = Name;
   VerzeichnisMerken(Name);
 }
 
-void Ueber() { Hinweis("Tavorena für PC\nVersion 3.0\nRelease 4"); }
+void Über() { Hinweis("Tavorena für PC\nVersion 3.0\nRelease 4"); }
 
 void Projektstand() {
   Hinweis(
@@ -194,7 +194,7 @@ constexpr Befehl Befehle[] = {
     {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},
     {"MenüDateiStapel", true, Stapelbearbeitung},
     {"MenüDateiProtokoll", true, ProtokollWechseln},
-    {"MenüDateiSchließen", true, DateiSchliessen},
+    {"MenüDateiSchließen", true, DateiSchließen},
     {"MenüDateiBeenden", false, Beenden},
     {"MenüDateiHinzuLesenKomplett", true, HinzuKomplett},
     {"MenüDateiHinzuLesenNurNeue", true, HinzuNurNeue},
@@ -212,10 +212,10 @@ constexpr Befehl Befehle[] = {
     {"MenüKatasterDis", true, Rechenblatt<TVDisForm>},
     {"MenüFunktErsetzen", true, TextErsetzen},
     {"MenüOptionenOptionen", false, TVOptionenformZeigen},
-    {"MenüOptionenDateinamen(0)", false, TexteditorWaehlen},
-    {"MenüInfoÜberAlt", false, Ueber},
+    {"MenüOptionenDateinamen(0)", false, TexteditorWählen},
+    {"MenüInfoÜberAlt", false, Über},
     {"MenüInfoProjektstand", false, Projektstand},
-    {"MenüInfoÜber", false, Ueber},
+    {"MenüInfoÜber", false, Über},
 };
 
 }  // namespace
@@ -226,12 +226,12 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   return i != std::end(Befehle) ? i : nullptr;
 }
 
-void HistorieOeffnen(int Index) {
+void HistorieÖffnen(int Index) {
   if (Index < 0 || Index >= HistorieAnzahl) return;
   const HistorieEintrag H = Historie[static_cast<std::size_t>(Index)];
   if (HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
-  HauptDateiOeffnen(H.Dateiname, H.Format);
+  HauptDateiÖffnen(H.Dateiname, H.Format);
 }
 
 }  // namespace tavorena

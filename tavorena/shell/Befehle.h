@@ -15,6 +15,6 @@ struct Befehl {
 const Befehl* BefehlFinden(std::string_view Eintrag);
 
 /// Opens a file of the history.
-void HistorieOeffnen(int Index);
+void HistorieÖffnen(int Index);
 
 }  // namespace tavorena

@@ -12,7 +12,7 @@
 namespace tavorena {
 namespace {
 
-std::vector<std::unique_ptr<Formular>> Blaetter;
+std::vector<std::unique_ptr<Formular>> Blätter;
 
 template <typename Form>
 void Anmelden(const std::vector<std::string>& Kennungen) {
@@ -23,28 +23,28 @@ void Anmelden(const std::vector<std::string>& Kennungen) {
 
 void BlattZeigen(std::unique_ptr<Formular> Blatt) {
   // A closed worksheet goes here, when none of its events is running any more.
-  std::erase_if(Blaetter, [](const auto& B) { return !B->Offen() && !B->InArbeit(); });
-  Formular& Form = *Blaetter.emplace_back(std::move(Blatt));
-  Form.NachSchliessen = [] { Port().HauptfensterGeaendert(); };
+  std::erase_if(Blätter, [](const auto& B) { return !B->Offen() && !B->InArbeit(); });
+  Formular& Form = *Blätter.emplace_back(std::move(Blatt));
+  Form.NachSchließen = [] { Port().HauptfensterGeändert(); };
   Port().FormularZeigen(Form, false);
-  Port().HauptfensterGeaendert();
+  Port().HauptfensterGeändert();
 }
 
-bool BlaetterOffen() {
-  return std::any_of(Blaetter.begin(), Blaetter.end(), [](const auto& B) { return B->Offen(); });
+bool BlätterOffen() {
+  return std::any_of(Blätter.begin(), Blätter.end(), [](const auto& B) { return B->Offen(); });
 }
 
-bool BlaetterSchliessen() {
-  for (std::size_t i = 0; i < Blaetter.size(); ++i) {
-    Blaetter[i]->SchliessenVerlangen();
-    if (Blaetter[i]->Offen()) return false;
+bool BlätterSchließen() {
+  for (std::size_t i = 0; i < Blätter.size(); ++i) {
+    Blätter[i]->SchließenVerlangen();
+    if (Blätter[i]->Offen()) return false;
   }
   return true;
 }
 
 bool StapelSchreibenOffen() { return StapelBlockOffen() || StapelAktiv; }
 
-void BlaetterAnmelden() {
+void BlätterAnmelden() {
   Anmelden<TVLinelForm>({"24.40", "LE"});
   Anmelden<TVPolelForm>({"08.40", "8.40", "PE"});
   Anmelden<TVDisForm>({"22.10", "EK"});

@@ -12,15 +12,15 @@ namespace tavorena {
 void BlattZeigen(std::unique_ptr<Formular> Blatt);
 
 /// A worksheet is open.
-bool BlaetterOffen();
+bool BlätterOffen();
 
 /// Closes all open worksheets; one with something unwritten asks first. @return false: one stayed open
-bool BlaetterSchliessen();
+bool BlätterSchließen();
 
 /// A batch write is not finished, or a replay runs: no other worksheet may be opened.
 bool StapelSchreibenOffen();
 
 /// Tells the batch reader which worksheet takes which block.
-void BlaetterAnmelden();
+void BlätterAnmelden();
 
 }  // namespace tavorena

@@ -9,21 +9,21 @@
 namespace tavorena {
 namespace {
 
-std::string TitelFuer(Dateisorte Sorte, Wahlmodus Modus) {
+std::string TitelFür(Dateisorte Sorte, Wahlmodus Modus) {
   if (Sorte == Dateisorte::Protokoll) {
     return Modus == Wahlmodus::Lesen ? "Protokolldatei auswählen" : "Protokolldatei zum Schreiben auswählen";
   }
   if (Sorte == Dateisorte::Stapel) {
-    return Modus == Wahlmodus::Lesen       ? "Stapeldatei zum Bearbeiten auswählen"
-           : Modus == Wahlmodus::Anhaengen ? "Stapeldatei zum Anhängen auswählen"
-                                           : "Stapeldatei zum Schreiben auswählen";
+    return Modus == Wahlmodus::Lesen      ? "Stapeldatei zum Bearbeiten auswählen"
+           : Modus == Wahlmodus::Anhängen ? "Stapeldatei zum Anhängen auswählen"
+                                          : "Stapeldatei zum Schreiben auswählen";
   }
   switch (Modus) {
     case Wahlmodus::Lesen:
       return "Koordinatendatei zum Lesen auswählen";
     case Wahlmodus::Schreiben:
       return "Koordinatendatei zum Schreiben auswählen";
-    case Wahlmodus::Anhaengen:
+    case Wahlmodus::Anhängen:
       return "Koordinatendatei zum Anhängen auswählen";
     case Wahlmodus::Neu:
       break;
@@ -32,7 +32,7 @@ std::string TitelFuer(Dateisorte Sorte, Wahlmodus Modus) {
 }
 
 // A name typed without an ending gets the one of the default, "*.kor".
-void EndungErgaenzen(std::string& Name, const std::string& Vorgabe) {
+void EndungErgänzen(std::string& Name, const std::string& Vorgabe) {
   const std::string Endung = DateinameZerlegen(Vorgabe).Endung;
   if (DateinameZerlegen(Name).Endung.empty() && !Endung.empty()) Name += "." + Endung;
 }
@@ -54,38 +54,38 @@ void VerzeichnisMerken(const std::string& Name) {
 }
 
 int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,
-              std::string& Name, bool* Anhaengen) {
-  Dateiauftrag Auftrag{TitelFuer(Sorte, Modus),   Filter, Startordner(), Vorgabe,
+              std::string& Name, bool* Anhängen) {
+  Dateiauftrag Auftrag{TitelFür(Sorte, Modus),    Filter, Startordner(), Vorgabe,
                        Modus == Wahlmodus::Lesen, "",     false};
-  std::string Gewaehlt = Port().DateiWaehlen(Auftrag);
-  if (Gewaehlt.empty()) return Abbruch();
-  if (Modus != Wahlmodus::Lesen) EndungErgaenzen(Gewaehlt, Vorgabe);
-  if ((Modus == Wahlmodus::Schreiben || Modus == Wahlmodus::Neu) && DateiVorhanden(Gewaehlt)) {
-    const int Antwort = DateiVorhandenFrage(Gewaehlt);
+  std::string Gewählt = Port().DateiWählen(Auftrag);
+  if (Gewählt.empty()) return Abbruch();
+  if (Modus != Wahlmodus::Lesen) EndungErgänzen(Gewählt, Vorgabe);
+  if ((Modus == Wahlmodus::Schreiben || Modus == Wahlmodus::Neu) && DateiVorhanden(Gewählt)) {
+    const int Antwort = DateiVorhandenFrage(Gewählt);
     if (Antwort < 0) return Abbruch();
-    if (Anhaengen != nullptr) *Anhaengen = Antwort == 0;
+    if (Anhängen != nullptr) *Anhängen = Antwort == 0;
   }
-  Name = Gewaehlt;
+  Name = Gewählt;
   VerzeichnisMerken(Name);
   return Dialogergebnis = 0;
 }
 
 int ProtokollWahl(std::string& Name) {
-  Dateiauftrag Auftrag{TitelFuer(Dateisorte::Protokoll, Wahlmodus::Anhaengen),
+  Dateiauftrag Auftrag{TitelFür(Dateisorte::Protokoll, Wahlmodus::Anhängen),
                        "Protokolldateien (*.dru)|*.dru",
                        Startordner(),
                        "*.dru",
                        false,
                        "kein Protokoll",
                        false};
-  std::string Gewaehlt = Port().DateiWaehlen(Auftrag);
-  if (Auftrag.ZusatzGewaehlt) {
+  std::string Gewählt = Port().DateiWählen(Auftrag);
+  if (Auftrag.ZusatzGewählt) {
     Name.clear();
     return Dialogergebnis = 0;
   }
-  if (Gewaehlt.empty()) return Abbruch();
-  EndungErgaenzen(Gewaehlt, Auftrag.Vorgabe);
-  Name = Gewaehlt;
+  if (Gewählt.empty()) return Abbruch();
+  EndungErgänzen(Gewählt, Auftrag.Vorgabe);
+  Name = Gewählt;
   VerzeichnisMerken(Name);
   return Dialogergebnis = 0;
 }

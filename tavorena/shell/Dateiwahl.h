@@ -7,16 +7,16 @@ namespace tavorena {
 enum class Dateisorte { Koordinaten, Protokoll, Stapel };
 
 /// "r" read an existing file, "w" write, "a" append, "n" a new one.
-enum class Wahlmodus : char { Lesen = 'r', Schreiben = 'w', Anhaengen = 'a', Neu = 'n' };
+enum class Wahlmodus : char { Lesen = 'r', Schreiben = 'w', Anhängen = 'a', Neu = 'n' };
 
 inline const char* const FilterKor = "CADdy (*.kor)|*.kor|KAFKA (*.lt4)|*.lt4";
 
 /// The chooser of the commands: starts in the last folder, keeps the folder of the name chosen. In mode
 /// "w" and "n" an existing file is asked about; it is not deleted, saving replaces it as a whole.
-/// @param[out] Anhaengen  the file exists and is to be extended; may be left out
+/// @param[out] Anhängen  the file exists and is to be extended; may be left out
 /// @return 0; -1 if cancelled (also left in Dialogergebnis)
 int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,
-              std::string& Name, bool* Anhaengen = nullptr);
+              std::string& Name, bool* Anhängen = nullptr);
 
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
 int ProtokollWahl(std::string& Name);

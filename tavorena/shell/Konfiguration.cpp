@@ -40,14 +40,14 @@ class Kanal {
   bool Suchen(std::string_view Abschnitt) {
     std::string Gelesen;
     while (Zeile(Gelesen)) {
-      if (Grosstext(Gelesen).find(Abschnitt) != std::string::npos) return true;
+      if (Großtext(Gelesen).find(Abschnitt) != std::string::npos) return true;
     }
     return false;
   }
 
   bool Zeile(std::string& Gelesen) {
     std::string_view Sicht;
-    if (!Gut || !Leser.Naechste(Sicht)) return false;
+    if (!Gut || !Leser.Nächste(Sicht)) return false;
     Gelesen = Sicht;
     return true;
   }
@@ -70,7 +70,7 @@ class Kanal {
 };
 
 bool IstWahr(const std::string& Wort) {
-  const std::string Gross = Grosstext(Wort);
+  const std::string Gross = Großtext(Wort);
   return Gross == "TRUE" || Gross == "WAHR" || Wort == "1";
 }
 
@@ -90,7 +90,7 @@ void FensterwahlLesen(const std::string& Wort) {
 
 // The lines that older files do not have. Each line is consumed in any case: an older, shorter section
 // runs over into the next one, and its lines are read as values. Meant so.
-bool SpaetereZeile(Kanal& K, std::string& Wort, bool& Gilt) {
+bool SpätereZeile(Kanal& K, std::string& Wort, bool& Gilt) {
   std::string Zeile;
   if (!K.Zeile(Zeile)) return false;
   std::string_view Rest = Zeile;
@@ -99,23 +99,23 @@ bool SpaetereZeile(Kanal& K, std::string& Wort, bool& Gilt) {
   return true;
 }
 
-bool SpaetereLesen(Kanal& K) {
+bool SpätereLesen(Kanal& K) {
   std::string Wort;
   bool Gilt = false;
-  const auto Naechste = [&] { return SpaetereZeile(K, Wort, Gilt); };
-  if (!Naechste()) return false;
+  const auto Nächste = [&] { return SpätereZeile(K, Wort, Gilt); };
+  if (!Nächste()) return false;
   Optionen.VorgabeRechts = Gilt ? ZahlAusText(Wort) : 0;
-  if (!Naechste()) return false;
+  if (!Nächste()) return false;
   Optionen.VorgabeHoch = Gilt ? ZahlAusText(Wort) : 0;
-  if (!Naechste()) return false;
+  if (!Nächste()) return false;
   Optionen.OptWarnstufe = Gilt ? Ganz(Wort) : 3;
-  if (!Naechste()) return false;
+  if (!Nächste()) return false;
   Optionen.OptNachkommaSpeichern = Gilt ? Kurz(Wort) : std::int16_t{4};
-  if (!Naechste()) return false;
+  if (!Nächste()) return false;
   Optionen.FStatMitHoehe = Gilt ? IstWahr(Wort) : true;
-  if (!Naechste()) return false;
+  if (!Nächste()) return false;
   Optionen.GKreduzierteFlaechen = Gilt && IstWahr(Wort);
-  if (!Naechste()) return false;
+  if (!Nächste()) return false;
   Optionen.FStatPAAnschluss = Gilt && IstWahr(Wort);
   return true;
 }
@@ -191,7 +191,7 @@ int OptionenLesen() {
   Optionen.AbfrageRiss = IstWahr(Wort);
   if (!K.ZeileLesen(Wort)) return -1;
   Optionen.AbfrageDruck = IstWahr(Wort);
-  return SpaetereLesen(K) ? 0 : -1;
+  return SpätereLesen(K) ? 0 : -1;
 }
 
 int HistorieLesen() {
@@ -206,7 +206,7 @@ int HistorieLesen() {
     H.Dateiname = Stern == std::string::npos ? Zeile : Trimmen(Zeile.substr(0, Stern));
     H.Format = Stern == std::string::npos ? std::int16_t{0} : Kurz(Zeile.substr(Stern + 1));
     // Older files kept LT4 under the number of KOR.
-    if (H.Format == 0 && Grosstext(DateinameZerlegen(H.Dateiname).Endung) == "LT4") H.Format = 2;
+    if (H.Format == 0 && Großtext(DateinameZerlegen(H.Dateiname).Endung) == "LT4") H.Format = 2;
   }
   return 0;
 }

@@ -17,7 +17,7 @@ constexpr const char* Test = "MenüMain(10)";
 constexpr const char* Fragezeichen = "MenüMain(18)";
 constexpr bool Verborgen = true;
 
-constexpr Menueeintrag Baum[] = {
+constexpr Menüeintrag Baum[] = {
     {"MenüMain(1)", "&Datei", 1000, Bar},
     {"MenüDateiNeu", "Koordinatendatei &neu ...", 1010, Datei},
     {"MenüDateiLesen(0)", "Koordinatendatei &lesen ...", 1020, Datei},
@@ -242,7 +242,7 @@ constexpr Werkzeug Leiste[] = {
 
 }  // namespace
 
-std::span<const Menueeintrag> Menuebaum() { return Baum; }
+std::span<const Menüeintrag> Menübaum() { return Baum; }
 std::span<const Werkzeug> Symbolleiste() { return Leiste; }
 
 }  // namespace tavorena

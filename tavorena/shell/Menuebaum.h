@@ -5,14 +5,14 @@
 namespace tavorena {
 
 /// An entry of the menu tree. The order of the table is the order in the menu.
-struct Menueeintrag {
+struct Menüeintrag {
   const char* Name;        ///< control name; of an array with its index
   const char* Titel;       ///< caption; "" a separator
   int Hilfe;               ///< help number; 0 that of its menu
   const char* Eltern;      ///< name of the menu it stands in; "" the menu bar
   bool Verborgen = false;  ///< kept for building the same tree, not shown at start
 };
-std::span<const Menueeintrag> Menuebaum();
+std::span<const Menüeintrag> Menübaum();
 
 /// An image of the tool bar and the entry whose command it runs.
 struct Werkzeug {

@@ -29,10 +29,10 @@ namespace {
 
 void Stapelstand(const std::string& Titel) {
   if (!Titel.empty()) return StatusHilfeSetzen("Stapel: " + Titel);
-  std::string Text = "Stapel beendet: " + std::to_string(Stapellauf.Bloecke) + " Blöcke, " +
+  std::string Text = "Stapel beendet: " + std::to_string(Stapellauf.Blöcke) + " Blöcke, " +
                      std::to_string(Stapellauf.Zeilen) + " Zeilen";
-  if (!Stapellauf.Uebergangen.empty()) Text += ", übergangen:";
-  for (const std::string& Kennung : Stapellauf.Uebergangen) Text += " " + Kennung;
+  if (!Stapellauf.Übergangen.empty()) Text += ", übergangen:";
+  for (const std::string& Kennung : Stapellauf.Übergangen) Text += " " + Kennung;
   StatusHilfeSetzen(Text);
 }
 
@@ -40,7 +40,7 @@ int ProtokollNehmenFragen(std::string Name) {
   if (DateiVorhanden(Name)) {
     const int Antwort = DateiVorhandenFrage(Name);
     if (Antwort < 0 && ProtokollWahl(Name) < 0) return -1;
-    if (Antwort == 1 && DateiLoeschen(Name) < 0) {
+    if (Antwort == 1 && DateiLöschen(Name) < 0) {
       LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Haupt.LesenUndDateinamenSetzen");
       return -1;
     }
@@ -59,12 +59,12 @@ int LesenNachFormat() {
 
 }  // namespace
 
-void HauptAnschliessen() {
+void HauptAnschließen() {
   Haken.FormEinzelKorein = FormEinzelKorein;
   Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
   Haken.MittelEintragen = [](const Mittelpunkt& M) { ProtMittel(M); };
   StapelSchritt = Stapelstand;
-  BlaetterAnmelden();
+  BlätterAnmelden();
 }
 
 void HauptInitialisierung() {
@@ -93,7 +93,7 @@ int HauptKoordinatendateiWechseln(bool Nachfragen) {
     if (Antwort != KnopfJa && Antwort != KnopfNein) return -1;
     if (Antwort == KnopfJa && HauptDateiSpeichern() < 0) return -1;
   }
-  if (!BlaetterSchliessen()) return -1;
+  if (!BlätterSchließen()) return -1;
   KoordinatenGeaendert = false;
   KorAnzahl = 0;
   KoordinatendateiName.clear();
@@ -116,13 +116,13 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
 }
 
 std::int16_t FormatNachEndung(const std::string& Name, std::int16_t Sonst) {
-  const std::string Endung = Grosstext(DateinameZerlegen(Name).Endung);
+  const std::string Endung = Großtext(DateinameZerlegen(Name).Endung);
   if (Endung == "LT4" || Endung == "ALK") return 2;
   if (Endung.size() == 3 && Endung.starts_with("ED")) return 1;
   return Sonst;
 }
 
-int HauptDateiOeffnen(const std::string& Name, std::int16_t Format) {
+int HauptDateiÖffnen(const std::string& Name, std::int16_t Format) {
   KoordinatendateiName = Name;
   Koordinatendateiformat = FormatNachEndung(Name, Format);
   if (HauptLesenUndDateinamenSetzen(true) < 0) {
@@ -148,9 +148,9 @@ int HauptDateiSpeichern() {
   return 0;
 }
 
-int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhaengen) {
+int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhängen) {
   std::string Alt, Neu;
-  bool Gut = KorText(Format, Neu) == 0 && (!Anhaengen || DateiLesen(Dateiname, Alt) == 0);
+  bool Gut = KorText(Format, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt) == 0);
   if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
   // A file that is extended keeps the coding that it has.
   Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu))) == 0;
@@ -169,7 +169,7 @@ int HauptBeenden() {
 }
 
 void HauptfensterAktiviert() {
-  Port().BildschirmGroesse(BildschirmBreite, BildschirmHoehe);
+  Port().BildschirmGröße(BildschirmBreite, BildschirmHoehe);
   FormularZoomRechnen(true);
 }
 

@@ -8,7 +8,7 @@
 namespace tavorena {
 
 /// Plugs the point dialogs, the protocol of means and the worksheets in. Once, before anything else.
-void HauptAnschliessen();
+void HauptAnschließen();
 
 /// The start sequence of settings and window state; also when a file is closed or replaced.
 void HauptInitialisierung();
@@ -24,14 +24,14 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen);
 
 /// Opens a file by its name, as the command "lesen" and the recent files do.
 /// @return 0; -1, the state is then "no coordinates"
-int HauptDateiOeffnen(const std::string& Name, std::int16_t Format);
+int HauptDateiÖffnen(const std::string& Name, std::int16_t Format);
 
 /// Writes the table to KoordinatendateiName in its format. @return 0; -1 with a message
 int HauptDateiSpeichern();
 
 /// The common writer behind saving and exports. @param[in] Format 0 KOR, 11 LT4
 /// @return 0; -1, an old file is then as it was
-int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhaengen = false);
+int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhängen = false);
 
 /// The coordinate file format that the ending of a name stands for; Sonst for any other ending.
 std::int16_t FormatNachEndung(const std::string& Name, std::int16_t Sonst);

@@ -20,7 +20,7 @@ int IndexVon(std::string_view Name) {
   return Klammer == std::string_view::npos ? 0 : static_cast<int>(ZahlAusText(Name.substr(Klammer + 1)));
 }
 
-bool IstHist(const Menueeintrag& E) { return std::string_view(E.Name).starts_with("MenüDateiHist("); }
+bool IstHist(const Menüeintrag& E) { return std::string_view(E.Name).starts_with("MenüDateiHist("); }
 
 bool IstEinerVon(std::string_view Name, std::initializer_list<std::string_view> Namen) {
   return std::find(Namen.begin(), Namen.end(), Name) != Namen.end();
@@ -28,10 +28,9 @@ bool IstEinerVon(std::string_view Name, std::initializer_list<std::string_view> 
 
 }  // namespace
 
-const Menueeintrag* MenueFinden(std::string_view Name) {
-  const auto Baum = Menuebaum();
-  const auto i =
-      std::find_if(Baum.begin(), Baum.end(), [&](const Menueeintrag& E) { return E.Name == Name; });
+const Menüeintrag* MenüFinden(std::string_view Name) {
+  const auto Baum = Menübaum();
+  const auto i = std::find_if(Baum.begin(), Baum.end(), [&](const Menüeintrag& E) { return E.Name == Name; });
   return i != Baum.end() ? &*i : nullptr;
 }
 
@@ -47,15 +46,15 @@ void TVKernMDIForm::OhneKoordinaten() {
   for (int i = 0; i < HistorieAnzahl; ++i) {
     if (!Historie[static_cast<std::size_t>(i)].Dateiname.empty()) Hist[Eintrag++] = i;
   }
-  Port().HauptfensterGeaendert();
+  Port().HauptfensterGeändert();
 }
 
 void TVKernMDIForm::DateiOffen() {
   Offen = true;
-  Port().HauptfensterGeaendert();
+  Port().HauptfensterGeändert();
 }
 
-bool TVKernMDIForm::Sichtbar(const Menueeintrag& E) const {
+bool TVKernMDIForm::Sichtbar(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
   if (IstHist(E)) return HistIndex(IndexVon(Name)) >= 0;
   if (Name.starts_with("MenüDateiCondorLesen")) return Optionen.CondorfensterAn;
@@ -65,7 +64,7 @@ bool TVKernMDIForm::Sichtbar(const Menueeintrag& E) const {
   return !E.Verborgen;
 }
 
-bool TVKernMDIForm::Aktiv(const Menueeintrag& E) const {
+bool TVKernMDIForm::Aktiv(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
   if (Lang) return false;
   if (Name.starts_with("MenüMain("))
@@ -74,12 +73,12 @@ bool TVKernMDIForm::Aktiv(const Menueeintrag& E) const {
   const Befehl* B = BefehlFinden(Name);
   if (B != nullptr) return Offen || !B->MitDatei;
   // A submenu can be opened when one of its entries can be used.
-  const auto Baum = Menuebaum();
+  const auto Baum = Menübaum();
   return std::any_of(Baum.begin(), Baum.end(),
-                     [&](const Menueeintrag& U) { return U.Eltern == Name && Sichtbar(U) && Aktiv(U); });
+                     [&](const Menüeintrag& U) { return U.Eltern == Name && Sichtbar(U) && Aktiv(U); });
 }
 
-std::string TVKernMDIForm::Titel(const Menueeintrag& E) const {
+std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
   if (!IstHist(E)) return E.Titel;
   const int i = HistIndex(IndexVon(E.Name));
   return i >= 0 ? Historie[static_cast<std::size_t>(i)].Dateiname : "";
@@ -87,35 +86,35 @@ std::string TVKernMDIForm::Titel(const Menueeintrag& E) const {
 
 bool TVKernMDIForm::WerkzeugAktiv(const Werkzeug& W) const {
   if (std::string_view(W.Name) == "ImageStop") return Lang;
-  if (BlaetterOffen() && IstEinerVon(W.Name, {"ImageProgrammende", "ImageDateiLesen", "ImageOptionen"}))
+  if (BlätterOffen() && IstEinerVon(W.Name, {"ImageProgrammende", "ImageDateiLesen", "ImageOptionen"}))
     return false;
-  const Menueeintrag* E = MenueFinden(W.Eintrag);
+  const Menüeintrag* E = MenüFinden(W.Eintrag);
   return E != nullptr && Aktiv(*E);
 }
 
-int TVKernMDIForm::Hilfe(const Menueeintrag& E) const {
+int TVKernMDIForm::Hilfe(const Menüeintrag& E) const {
   if (E.Hilfe != 0) return E.Hilfe;
-  const Menueeintrag* Eltern = MenueFinden(E.Eltern);
+  const Menüeintrag* Eltern = MenüFinden(E.Eltern);
   return Eltern != nullptr ? Hilfe(*Eltern) : 0;
 }
 
-void TVKernMDIForm::Ausfuehren(std::string_view Name) {
-  const Menueeintrag* E = MenueFinden(Name);
+void TVKernMDIForm::Ausführen(std::string_view Name) {
+  const Menüeintrag* E = MenüFinden(Name);
   if (E == nullptr || !Aktiv(*E)) return;
   try {
-    if (IstHist(*E)) return HistorieOeffnen(HistIndex(IndexVon(Name)));
+    if (IstHist(*E)) return HistorieÖffnen(HistIndex(IndexVon(Name)));
     if (const Befehl* B = BefehlFinden(Name)) B->Tun();
   } catch (const std::exception&) {
     LaufzeitFehlerMeldung(Laufzeitfehler::Index, "TVKernMDIForm." + std::string(Name));
   }
 }
 
-void TVKernMDIForm::WerkzeugAusfuehren(const Werkzeug& W) {
+void TVKernMDIForm::WerkzeugAusführen(const Werkzeug& W) {
   if (!WerkzeugAktiv(W)) return;
   if (std::string_view(W.Name) == "ImageStop") {
     KorStop = "Stop";
   } else {
-    Ausfuehren(W.Eintrag);
+    Ausführen(W.Eintrag);
   }
 }
 

@@ -21,21 +21,21 @@ class TVKernMDIForm {
   /// A file is open; changing files goes through closing first.
   void DateiOffen();
   /// A long read or loop runs: only the stop button works.
-  void Beschaeftigt(bool An) { Lang = An; }
-  [[nodiscard]] bool IstBeschaeftigt() const { return Lang; }
+  void Beschäftigt(bool An) { Lang = An; }
+  [[nodiscard]] bool IstBeschäftigt() const { return Lang; }
 
   // ---- what the window shows
-  [[nodiscard]] bool Sichtbar(const Menueeintrag& E) const;
-  [[nodiscard]] bool Aktiv(const Menueeintrag& E) const;
-  [[nodiscard]] std::string Titel(const Menueeintrag& E) const;
+  [[nodiscard]] bool Sichtbar(const Menüeintrag& E) const;
+  [[nodiscard]] bool Aktiv(const Menüeintrag& E) const;
+  [[nodiscard]] std::string Titel(const Menüeintrag& E) const;
   [[nodiscard]] bool WerkzeugAktiv(const Werkzeug& W) const;
   /// Help number of an entry; that of its menu where it has none.
-  [[nodiscard]] int Hilfe(const Menueeintrag& E) const;
+  [[nodiscard]] int Hilfe(const Menüeintrag& E) const;
 
   // ---- what the user does
   /// Runs the command of an entry. Errors end in the run-time message.
-  void Ausfuehren(std::string_view Name);
-  void WerkzeugAusfuehren(const Werkzeug& W);
+  void Ausführen(std::string_view Name);
+  void WerkzeugAusführen(const Werkzeug& W);
 
   /// Index into the history of a recent-file entry 1 to 10; -1 if it is hidden.
   [[nodiscard]] int HistIndex(int Eintrag) const { return Hist[static_cast<std::size_t>(Eintrag)]; }
@@ -49,6 +49,6 @@ class TVKernMDIForm {
 };
 
 /// The entry of that name, nullptr if there is none.
-const Menueeintrag* MenueFinden(std::string_view Name);
+const Menüeintrag* MenüFinden(std::string_view Name);
 
 }  // namespace tavorena

@@ -21,7 +21,7 @@ class TVOptionenform final : public Formular {
     Hilfenummer = 8020;
     Knopf("OptEnd", "&OK");
     Steuerelement& Nein = Knopf("OptAbbruch", "&Abbrechen", {0, 1});
-    Nein.Abbruch = Nein.OhnePruefung = true;
+    Nein.Abbruch = Nein.OhnePrüfung = true;
   }
 
  protected:
@@ -31,8 +31,8 @@ class TVOptionenform final : public Formular {
   }
 
   void Geklickt(Steuerelement& S) override {
-    if (S.Name == "OptEnd") Uebernehmen();
-    Schliessen();
+    if (S.Name == "OptEnd") Übernehmen();
+    Schließen();
   }
 
  private:
@@ -40,21 +40,21 @@ class TVOptionenform final : public Formular {
                              const std::string& Rahmen) {
     Beschriftung(Label, {Zeile, 0}, Rahmen);
     Steuerelement& S = Steuer(Steuerart::Liste, Name, std::to_string(Zahl), {Zeile, 1}, Rahmen);
-    for (int i = 0; i <= 5; ++i) S.Eintraege.push_back(std::to_string(i));
-    if (Zahl < 0 || Zahl > 5) S.Eintraege.push_back(S.Text);  // a value from an edited file stays choosable
+    for (int i = 0; i <= 5; ++i) S.Einträge.push_back(std::to_string(i));
+    if (Zahl < 0 || Zahl > 5) S.Einträge.push_back(S.Text);  // a value from an edited file stays choosable
     S.Zeichen = 6;
     return S;
   }
 
   Steuerelement& Haken(const char* Name, const char* Label, int Zeile, bool An, const std::string& Rahmen) {
     Steuerelement& S = Steuer(Steuerart::Kontrollkaestchen, Name, Label, {Zeile, 0, 4}, Rahmen);
-    S.Gewaehlt = An;
+    S.Gewählt = An;
     return S;
   }
 
   Steuerelement& Wahl(const char* Name, const char* Label, int Spalte, bool An) {
     Steuerelement& S = Steuer(Steuerart::Option, Name, Label, {0, Spalte}, "Grafikfenster");
-    S.Gewaehlt = An;
+    S.Gewählt = An;
     return S;
   }
 
@@ -62,7 +62,7 @@ class TVOptionenform final : public Formular {
     Beschriftung("Ausgabe von Warnungen ins Protokoll ?", {2, 0}, Ausgabe);
     Steuerelement& S = Steuer(Steuerart::Liste, "OptWarnstufe", Optionen.OptWarnstufe == 0 ? "Keine" : "Alle",
                               {2, 1}, Ausgabe);
-    S.Eintraege = {"Keine", "Alle"};
+    S.Einträge = {"Keine", "Alle"};
     S.Zeichen = 8;
     return S;
   }
@@ -82,29 +82,29 @@ class TVOptionenform final : public Formular {
     return S;
   }
 
-  void Uebernehmen() {
+  void Übernehmen() {
     auto& O = Optionen;
     O.OptNachkommastellen = static_cast<std::int16_t>(ZahlAusText(OptNachkommastellen.Text));
     O.OptNachkommaSpeichern = static_cast<std::int16_t>(ZahlAusText(OptNachkommaSpeichern.Text));
     O.OptWarnstufe = OptWarnstufe.Text == "Keine" ? 0 : 3;
-    O.AbfrageRiss = OptAbfrRiß.Gewaehlt;
-    O.AbfrageDruck = OptAbfrDruck.Gewaehlt;
-    O.FStatMitHoehe = OptFStatHöhen.Gewaehlt;
-    O.GKreduzierteFlaechen = OptGKRed.Gewaehlt;
-    O.FStatPAAnschluss = OptFStatAnschluss.Gewaehlt;
+    O.AbfrageRiss = OptAbfrRiß.Gewählt;
+    O.AbfrageDruck = OptAbfrDruck.Gewählt;
+    O.FStatMitHoehe = OptFStatHöhen.Gewählt;
+    O.GKreduzierteFlaechen = OptGKRed.Gewählt;
+    O.FStatPAAnschluss = OptFStatAnschluss.Gewählt;
     O.VorgabeRechts = ZahlAusText(OptVorgabeRechts.Text);
     O.VorgabeHoch = ZahlAusText(OptVorgabeHoch.Text);
     O.EDBSInfo = TextTeil(OptEDBSInfo.Text, 0, 8);
-    O.ProtokollfensterAn = OptProtokoll0.Gewaehlt;
-    O.GrafikfensterAn = OptProtokoll2.Gewaehlt;
+    O.ProtokollfensterAn = OptProtokoll0.Gewählt;
+    O.GrafikfensterAn = OptProtokoll2.Gewählt;
     O.CondorfensterAn = false;
-    if (OptProtokoll1.Gewaehlt) {
+    if (OptProtokoll1.Gewählt) {
       O.FormularZoomX = O.FormularZoomY = 1.0;
     } else {
       FormularZoomRechnen(false);
     }
     OptionenSchreiben();
-    Port().HauptfensterGeaendert();
+    Port().HauptfensterGeändert();
   }
 
   const std::string Ausgabe = "Formular und Protokoll", Rechnen = "Berechnung";
@@ -148,7 +148,7 @@ void TVOptionenformZeigen() {
 
 void FormularZoomRechnen(bool Begrenzt) {
   int Breite = 0, Hoehe = 0;
-  Port().HauptfensterGroesse(Breite, Hoehe);
+  Port().HauptfensterGröße(Breite, Hoehe);
   Optionen.FormularZoomX = Breite * TwipsJePixel / EntwurfBreite;
   Optionen.FormularZoomY = Hoehe * TwipsJePixel / EntwurfHoehe;
   // A large window always has the same vertical zoom on purpose; the horizontal one has no cap.

@@ -33,11 +33,11 @@ class TVPSelectForm final : public Formular {
     Knopf("OK", "&OK");
     Knopf("Alle", "&Alle", {0, 1});
     Steuerelement& Nein = Knopf("Abbrechen", "A&bbrechen", {0, 2});
-    Nein.Abbruch = Nein.OhnePruefung = true;
+    Nein.Abbruch = Nein.OhnePrüfung = true;
   }
 
-  std::vector<std::string> Gewaehlt;
-  bool Bestaetigt = false;
+  std::vector<std::string> Gewählt;
+  bool Bestätigt = false;
 
  protected:
   bool TasteUnten(Steuerelement& S, Taste T) override {
@@ -49,7 +49,7 @@ class TVPSelectForm final : public Formular {
   }
 
   // Whatever is typed into the mark column is a mark, a blank takes it away.
-  void TextGeaendert(Steuerelement& S) override {
+  void TextGeändert(Steuerelement& S) override {
     if (&S == Liste)
       Markieren(Liste->Zeile, Liste->Inhalt(Liste->Zeile, 0).find_first_not_of(' ') != std::string::npos);
   }
@@ -59,11 +59,11 @@ class TVPSelectForm final : public Formular {
       for (int z = 0; z < Liste->Zeilen(); ++z) Markieren(z, true);
       return;
     }
-    Bestaetigt = S.Name == "OK";
-    for (int z = 0; Bestaetigt && z < Liste->Zeilen(); ++z) {
-      if (!Liste->Inhalt(z, 0).empty()) Gewaehlt.push_back(Listen.Pnr[static_cast<std::size_t>(z)]);
+    Bestätigt = S.Name == "OK";
+    for (int z = 0; Bestätigt && z < Liste->Zeilen(); ++z) {
+      if (!Liste->Inhalt(z, 0).empty()) Gewählt.push_back(Listen.Pnr[static_cast<std::size_t>(z)]);
     }
-    Schliessen();
+    Schließen();
   }
 
  private:
@@ -76,11 +76,11 @@ class TVPSelectForm final : public Formular {
 
 }  // namespace
 
-int PunkteAuswaehlen(const Punktlisten& Listen, std::vector<std::string>& Gewaehlt) {
+int PunkteAuswählen(const Punktlisten& Listen, std::vector<std::string>& Gewählt) {
   TVPSelectForm Form(Listen);
   Port().FormularZeigen(Form, true);
-  Gewaehlt = std::move(Form.Gewaehlt);
-  return Dialogergebnis = Form.Bestaetigt ? 0 : -1;
+  Gewählt = std::move(Form.Gewählt);
+  return Dialogergebnis = Form.Bestätigt ? 0 : -1;
 }
 
 }  // namespace tavorena

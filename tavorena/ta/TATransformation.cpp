@@ -2,10 +2,10 @@
 #include <optional>
 #include <utility>
 
-#include <tavorena/ta/TAHilfe.h>
 #include <tavorena/calc/TVBerechnungsmodulHelmertAffin.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
+#include <tavorena/ta/TAHilfe.h>
 
 namespace tavorena {
 
@@ -29,7 +29,7 @@ enmResult PasspunkteBilden(Spalte AltRW, Spalte AltHW, Spalte NeuRW, Spalte NeuH
 }
 
 /// Refuses a fit whose squares overflowed: numbers of that size are no coordinates.
-enmResult Pruefen(int Ergebnis, const Restklaffen& Klaffen, double Massstab, double MaximalerAbstand) {
+enmResult Prüfen(int Ergebnis, const Restklaffen& Klaffen, double Massstab, double MaximalerAbstand) {
   const bool Gut =
       Ergebnis >= 0 && Endlich(HelmertQusum(Klaffen.LinieareAbweichungWL), Massstab, MaximalerAbstand);
   return Gut ? enmResult::ok : enmResult::Fehler_Allgemein;
@@ -42,7 +42,7 @@ enmResult HelmertRechnen(Spalte AltRW, Spalte AltHW, Spalte NeuRW, Spalte NeuHW,
   if (Gebildet != enmResult::ok) return Gebildet;
   if (Anzahl > HelmertGrenze) return enmResult::Fehler_ZuvielePunkte;
   const int Ergebnis = HelmertHelmert(P, MasstabaenderungZulaessig, std::nullopt, E);
-  return Pruefen(Ergebnis, E.Klaffen, E.Massstab, E.Parameter.MaximalerAbstand);
+  return Prüfen(Ergebnis, E.Klaffen, E.Massstab, E.Parameter.MaximalerAbstand);
 }
 
 enmResult AffinRechnen(Spalte AltRW, Spalte AltHW, Spalte NeuRW, Spalte NeuHW, std::int32_t Anzahl,
@@ -51,7 +51,7 @@ enmResult AffinRechnen(Spalte AltRW, Spalte AltHW, Spalte NeuRW, Spalte NeuHW, s
   const enmResult Gebildet = PasspunkteBilden(AltRW, AltHW, NeuRW, NeuHW, Anzahl, P);
   if (Gebildet != enmResult::ok) return Gebildet;
   const int Ergebnis = HelmertAffin(P, E);  // its flag is not looked at: zero parameters are ok, on purpose
-  return Pruefen(Ergebnis, E.Klaffen, E.Massstab1 + E.Massstab2, E.Parameter.MaximalerAbstand);
+  return Prüfen(Ergebnis, E.Klaffen, E.Massstab1 + E.Massstab2, E.Parameter.MaximalerAbstand);
 }
 
 /// The points of a passpoint file with their places in the table.

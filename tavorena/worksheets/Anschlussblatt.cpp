@@ -18,10 +18,10 @@ const char* const RahmenErgebnis = "Ergebnis";
 
 Anschlussblatt::Anschlussblatt(const Blattart& BlattArt)
     : Rechenblatt(BlattArt), Anf(Punktfelder("Anf", "Anf.pkt.", 1)), End(Punktfelder("End", "Endpkt.", 2)) {
-  const char* const Ueberschriften[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
+  const char* const Überschriften[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
   for (int i = 0; i < 5; ++i)
-    Beschriftung(Ueberschriften[i], {0, i + 1}, RahmenAnschluss).Rechtsbuendig = i < 4;
-  Anf.Sym.Rechtsbuendig = End.Sym.Rechtsbuendig = false;
+    Beschriftung(Überschriften[i], {0, i + 1}, RahmenAnschluss).Rechtsbündig = i < 4;
+  Anf.Sym.Rechtsbündig = End.Sym.Rechtsbündig = false;
 }
 
 Anschlussblatt::Anschlusspunkt Anschlussblatt::Punktfelder(const char* Welcher, const char* Label,
@@ -29,7 +29,7 @@ Anschlussblatt::Anschlusspunkt Anschlussblatt::Punktfelder(const char* Welcher, 
   const auto Name = [&](const char* Rest) { return Mit(Welcher) + Rest; };
   Beschriftung(Label, {Zeile, 0}, RahmenAnschluss);
   Steuerelement& Pnr = Feld(Name("Pnr"), {Zeile, 1}, RahmenAnschluss, 10);
-  Pnr.IstPnr = Pnr.Rechtsbuendig = true;
+  Pnr.IstPnr = Pnr.Rechtsbündig = true;
   Pnr.Hilfe = "Punktnummer; + und - zählen weiter";
   const auto Ergebnis = [&](const char* Rest, int Spalte, int Zeichen) -> Steuerelement& {
     return Ergebnisfeld(Name(Rest), {Zeile, Spalte}, RahmenAnschluss, Zeichen);
@@ -94,9 +94,9 @@ int Anschlussblatt::SetzePunkt(Anschlusspunkt& P) {
     const auto z = static_cast<std::size_t>(Zeile);
     P.Gesucht = P.Pnr.Text = LetztePunktnummer = Trimmen(Nummer);
     P.Ort = {KorRechts[z], KorHoch[z]};
-    P.Rechts.Text = Laengentext(KorRechts[z]);
-    P.Hoch.Text = Laengentext(KorHoch[z]);
-    P.H_he.Text = KorHoehe[z] == 0 ? "" : Laengentext(KorHoehe[z]);
+    P.Rechts.Text = Längentext(KorRechts[z]);
+    P.Hoch.Text = Längentext(KorHoch[z]);
+    P.H_he.Text = KorHoehe[z] == 0 ? "" : Längentext(KorHoehe[z]);
     P.Sym.Text = KorSymbol[z];
   }
   AnschlussRechnen();
@@ -109,7 +109,7 @@ bool Anschlussblatt::AnschlussGesetzt() const {
   return !Anf.Gesucht.empty() && !End.Gesucht.empty() && Laenge() > 0;
 }
 
-bool Anschlussblatt::AnschlussPruefen() {
+bool Anschlussblatt::AnschlussPrüfen() {
   for (Anschlusspunkt* P : {&Anf, &End}) {
     P->Gesucht.clear();  // the table may have changed since
     if (FokusVerloren(P->Pnr) && !P->Gesucht.empty()) continue;

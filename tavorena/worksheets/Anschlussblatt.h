@@ -44,7 +44,7 @@ class Anschlussblatt : public Rechenblatt {
   /// Both points are there and apart.
   [[nodiscard]] bool AnschlussGesetzt() const;
   /// The fields of the connection that are wrong or missing get the focus. @return true: all are good
-  bool AnschlussPruefen();
+  bool AnschlussPrüfen();
   void PunktLeeren(Anschlusspunkt& P);
 
   /// A field for a measured value of the connection; Zahl takes it.

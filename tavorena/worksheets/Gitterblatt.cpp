@@ -16,11 +16,11 @@ void Gitterblatt::GitterAufbauen(std::vector<Gitterspalte> Spalten) {
   KnopfAn = &Knopf(Mit("An"), "Anschluß re&chnen", {0, 0});
   KnopfEnd10 = &Knopf(Mit("End10"), "A&nschluß beenden", {0, 1});
   KnopfDelete = &Knopf(Mit("Delete"), "Zeile &löschen", {0, 2});
-  KnopfEnd10->OhnePruefung = KnopfDelete->OhnePruefung = true;
+  KnopfEnd10->OhnePrüfung = KnopfDelete->OhnePrüfung = true;
   KnopfAn->Hilfe = "Anschluß rechnen und Zeilen öffnen";
   KnopfEnd10->Hilfe = "Zurück zum Anschluß";
   KnopfDelete->Hilfe = "Zeile aus Gitter und Stapeldatei nehmen, im Protokoll streichen";
-  KnoepfeAnlegen();
+  KnöpfeAnlegen();
   AnschlussAnAus(true);
 }
 
@@ -41,11 +41,11 @@ int Gitterblatt::AnschlussEinzel() {
   return 0;
 }
 
-void Gitterblatt::AnschlussOeffnen() {
-  if (AnschlussPruefen() && AnschlussEinzel() == 0) FokusSetzen(*Rechengitter);
+void Gitterblatt::AnschlussÖffnen() {
+  if (AnschlussPrüfen() && AnschlussEinzel() == 0) FokusSetzen(*Rechengitter);
 }
 
-void Gitterblatt::AnschlussSchliessen() {
+void Gitterblatt::AnschlussSchließen() {
   if (!OffenesKlaeren()) return FokusSetzen(*Rechengitter);
   BlockBeenden();
   Reihen.clear();
@@ -57,7 +57,7 @@ void Gitterblatt::AnschlussSchliessen() {
 void Gitterblatt::BlockBeenden() {
   if (!ImStapel() && Kopfgeschrieben) StapelEnde(true);
   Kopfgeschrieben = false;
-  Saetze = 0;
+  Sätze = 0;
 }
 
 bool Gitterblatt::FokusVerloren(Steuerelement& S) {
@@ -81,7 +81,7 @@ bool Gitterblatt::TasteUnten(Steuerelement& S, Taste T) {
   if (Anschlussblatt::TasteUnten(S, T)) return true;
   if (&S != Rechengitter) {
     if (T != Taste::Return || !IstLetztesFeld(S)) return false;
-    AnschlussOeffnen();
+    AnschlussÖffnen();
     return true;
   }
   if (T == Taste::Return) {
@@ -96,7 +96,7 @@ bool Gitterblatt::TasteUnten(Steuerelement& S, Taste T) {
   return true;
 }
 
-void Gitterblatt::TextGeaendert(Steuerelement& S) {
+void Gitterblatt::TextGeändert(Steuerelement& S) {
   if (&S != Rechengitter) return;
   // Results that do not belong to the number above them would mislead.
   for (int s = 1; s < std::ssize(Rechengitter->Spalten); ++s)
@@ -106,8 +106,8 @@ void Gitterblatt::TextGeaendert(Steuerelement& S) {
 }
 
 void Gitterblatt::Geklickt(Steuerelement& S) {
-  if (&S == KnopfAn) return AnschlussOeffnen();
-  if (&S == KnopfEnd10) return AnschlussSchliessen();
+  if (&S == KnopfAn) return AnschlussÖffnen();
+  if (&S == KnopfEnd10) return AnschlussSchließen();
   if (&S == KnopfDelete) return Delete();
   Anschlussblatt::Geklickt(S);
 }
@@ -167,12 +167,12 @@ void Gitterblatt::GitterEnde(int z) {
   if (!Kopfgeschrieben) KopfSchreiben();
   Zeile& Z = Reihe(z);
   Protokollieren([&] { ZeileProtokollieren(Z, ""); });
-  if (!ImStapel() && StapelBlockOffen() && StapelPunktzeile("NR  ", Z.Pnr) == 0) Z.Satz = Saetze++;
+  if (!ImStapel() && StapelBlockOffen() && StapelPunktzeile("NR  ", Z.Pnr) == 0) Z.Satz = Sätze++;
   Z.Geschrieben = true;
 }
 
 void Gitterblatt::GitterInkrement() {
-  Rechengitter->ZeileAnhaengen();
+  Rechengitter->ZeileAnhängen();
   Reihen.emplace_back();
   Rechengitter->Zeile = Rechengitter->Zeilen() - 1;
   Rechengitter->Spalte = 0;
@@ -193,7 +193,7 @@ int Gitterblatt::ZeileEintragen(const std::string& Gesucht) {
 void Gitterblatt::Streichen(Zeile& Z) {
   Protokollieren([&] { ZeileProtokollieren(Z, " ***gelöscht"); });
   if (Z.Satz < 0 || StapelSatzEntfernen(Z.Satz) < 0) return;
-  --Saetze;
+  --Sätze;
   for (Zeile& Andere : Reihen) {
     if (Andere.Satz > Z.Satz) --Andere.Satz;
   }
@@ -206,7 +206,7 @@ void Gitterblatt::Delete() {
   Reihe(z) = {};
   if (z + 1 < Rechengitter->Zeilen()) {
     Reihen.erase(Reihen.begin() + z);
-    Rechengitter->ZeileLoeschen(z);
+    Rechengitter->ZeileLöschen(z);
   } else {
     ZeileZeigen(z);
   }

@@ -28,7 +28,7 @@ class Gitterblatt : public Anschlussblatt {
   bool FokusVerloren(Steuerelement& S) override;
   bool TasteUnten(Steuerelement& S, Taste T) override;
   bool ZelleVerlassen(Gitter& G) override;
-  void TextGeaendert(Steuerelement& S) override;
+  void TextGeändert(Steuerelement& S) override;
   void Geklickt(Steuerelement& S) override;
   void AnschlussAnAus(bool An) override;
   int AnschlussEinzel() override;
@@ -49,9 +49,9 @@ class Gitterblatt : public Anschlussblatt {
   /// Makes the grid and the buttons; called when the fields of the connection are there.
   void GitterAufbauen(std::vector<Gitterspalte> Spalten);
   /// Opens the connection that was typed; wrong fields get the focus.
-  void AnschlussOeffnen();
+  void AnschlussÖffnen();
   /// Ends the connection: back to the head fields.
-  void AnschlussSchliessen();
+  void AnschlussSchließen();
   [[nodiscard]] bool AnschlussOffen() const { return Anschlussan; }
   /// Takes a point number into the last row, computes and commits it.
   /// @return 0; -1: no such point, or the row failed; it is then empty again
@@ -74,7 +74,7 @@ class Gitterblatt : public Anschlussblatt {
   std::vector<Zeile> Reihen;
   bool Anschlussan = false;      // the connection is on
   bool Kopfgeschrieben = false;  // its lines are in the protocol
-  int Saetze = 0;                // records in the open batch block
+  int Sätze = 0;                 // records in the open batch block
   Steuerelement* KnopfAn = nullptr;
   Steuerelement* KnopfEnd10 = nullptr;
   Steuerelement* KnopfDelete = nullptr;

@@ -33,18 +33,18 @@ Rechenblatt::Rechenblatt(const Blattart& BlattArt)
 }
 
 // The keys of the buttons are those that the menu bar leaves free.
-void Rechenblatt::KnoepfeAnlegen() {
+void Rechenblatt::KnöpfeAnlegen() {
   KnopfEnd = &Knopf(Mit("End"), "&Schließen", {0, 3});
   KnopfStop = &Knopf(Mit("Stop"), "- Sto&p - ", {0, 4});
   KnopfWeiter = &Knopf(Mit("Weiter"), "&Weiter", {0, 5});
-  KnopfEnd->OhnePruefung = KnopfStop->OhnePruefung = true;
+  KnopfEnd->OhnePrüfung = KnopfStop->OhnePrüfung = true;
   KnopfEnd->Hilfe = "Rechenblatt schließen";
   KnopfStop->Hilfe = "Stapel nach der laufenden Zeile beenden";
   KnopfWeiter->Hilfe = "Zeilen des Stapels rechnen";
   KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = false;
 }
 
-void Rechenblatt::BeiOeffnen() {
+void Rechenblatt::BeiÖffnen() {
   EigenesZiel = {DateinameProtokollTemp};
   OrdnerAnlegen(DateinameZerlegen(DateinameProtokollTemp).Ordner);
   if (DateiErsetzen(DateinameProtokollTemp, "") < 0) EigenesZiel.Datei.clear();
@@ -75,13 +75,13 @@ void Rechenblatt::StapelBeginnen() {
     if (StapelAktiv) StapelFehlerMeldung("Anschluß fehlt");
     return StapelBlattEnde();
   }
-  Haelt = Port().StapelHaelt();
-  if (Haelt) return FokusSetzen(*KnopfWeiter);
+  Hält = Port().StapelHält();
+  if (Hält) return FokusSetzen(*KnopfWeiter);
   StapelZeilenRechnen();
 }
 
 void Rechenblatt::StapelZeilenRechnen() {
-  Haelt = KnopfWeiter->Aktiv = false;
+  Hält = KnopfWeiter->Aktiv = false;
   double Zuletzt = Port().Zeitgeber();
   while (StapelAktiv && Offen() && StapelZeile() == 0) {
     const double Jetzt = Port().Zeitgeber();
@@ -93,8 +93,8 @@ void Rechenblatt::StapelZeilenRechnen() {
 }
 
 void Rechenblatt::StapelBlattEnde() {
-  StapelAblauf = Haelt = false;
-  Schliessen();
+  StapelAblauf = Hält = false;
+  Schließen();
   if (StapelAktiv) StapelWeiter();
 }
 
@@ -108,14 +108,14 @@ bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
 }
 
 void Rechenblatt::Geklickt(Steuerelement& S) {
-  if (&S == KnopfEnd && DarfSchliessen()) return Schliessen();
-  if (&S == KnopfWeiter && Haelt) return StapelZeilenRechnen();
+  if (&S == KnopfEnd && DarfSchließen()) return Schließen();
+  if (&S == KnopfWeiter && Hält) return StapelZeilenRechnen();
   if (&S != KnopfStop) return;
   StapelAnhalten();
-  if (Haelt) StapelBlattEnde();
+  if (Hält) StapelBlattEnde();
 }
 
-bool Rechenblatt::DarfSchliessen() {
+bool Rechenblatt::DarfSchließen() {
   if (VomStapel) {
     StapelAnhalten();
     return true;
@@ -129,7 +129,7 @@ bool Rechenblatt::OffenesKlaeren() {
   return FrageJaNein("ohne Protokollausdruck und Stapel beenden ? ", Art.Fragetitel) == KnopfJa;
 }
 
-void Rechenblatt::BeiSchliessen() { BlockBeenden(); }
+void Rechenblatt::BeiSchließen() { BlockBeenden(); }
 
 void Rechenblatt::Protokollieren(const std::function<void()>& Block) {
   Block();

@@ -11,7 +11,7 @@ namespace tavorena {
 /// The fixed texts of a kind of worksheet.
 struct Blattart {
   const char* Formname;     ///< "TVLinelForm"
-  const char* Praefix;      ///< of its control names, "Linel"
+  const char* Präfix;       ///< of its control names, "Linel"
   const char* VR;           ///< title and ProtArt, "VR 24.40 Linienelemente"
   const char* Stapeltitel;  ///< caption in a replay
   const char* Fragetitel;   ///< of the box at leaving, "Berechnung Linienelemente"
@@ -29,11 +29,11 @@ class Rechenblatt : public Formular {
   explicit Rechenblatt(const Blattart& BlattArt);
 
  protected:
-  void BeiOeffnen() override;
+  void BeiÖffnen() override;
   bool TasteUnten(Steuerelement& S, Taste T) override;
   void Geklickt(Steuerelement& S) override;
-  bool DarfSchliessen() override;
-  void BeiSchliessen() override;
+  bool DarfSchließen() override;
+  void BeiSchließen() override;
 
   /// Takes the head records of the block and opens the connection.
   /// @return 0; negative: the block can not be calculated
@@ -52,9 +52,9 @@ class Rechenblatt : public Formular {
   /// Asks what is to become of something not yet written. @return false: the worksheet stays as it is
   bool OffenesKlaeren();
   /// The closing, stop and go-on buttons; called when all other controls are there.
-  void KnoepfeAnlegen();
+  void KnöpfeAnlegen();
   /// Control name: prefix and Rest.
-  [[nodiscard]] std::string Mit(const char* Rest) const { return Art.Praefix + std::string(Rest); }
+  [[nodiscard]] std::string Mit(const char* Rest) const { return Art.Präfix + std::string(Rest); }
   /// Writes a block to the protocol and again to the worksheet's own target.
   void Protokollieren(const std::function<void()>& Block);
   /// A message of the worksheet in the status bar.
@@ -72,7 +72,7 @@ class Rechenblatt : public Formular {
 
   ProtZielsatz EigenesZiel;
   bool VomStapel = false;  // a replay opened this worksheet
-  bool Haelt = false;      // it waits for "Weiter"
+  bool Hält = false;       // it waits for "Weiter"
   Steuerelement& Ri_bez;
   Steuerelement& Bernr;
   Steuerelement* KnopfEnd = nullptr;

@@ -26,21 +26,21 @@ TVDisForm::TVDisForm()
       D(Anschlussergebnis("D", "D:", 2)),
       Ws(Anschlussergebnis("Ws", "WS:", 4)) {
   Strecke.Hilfe = "Gemessene Strecke; Return schreibt die Kontrolle";
-  KnoepfeAnlegen();
+  KnöpfeAnlegen();
 }
 
 void TVDisForm::AnschlussRechnen() {
   if (!AnschlussGesetzt()) return;
   const bool MitMessung = Entfernungskontrolle(Anf.Ort, End.Ort, Gemessen, Werte) == 0;
-  L.Text = Laengentext(Werte.EntfGerechnet);
-  D.Text = MitMessung ? Laengentext(Werte.AbweichungZulaessig) : "";
-  Ws.Text = MitMessung ? Laengentext(Werte.Abweichung) : "";
+  L.Text = Längentext(Werte.EntfGerechnet);
+  D.Text = MitMessung ? Längentext(Werte.AbweichungZulaessig) : "";
+  Ws.Text = MitMessung ? Längentext(Werte.Abweichung) : "";
   Ws.Fehlerhaft = MitMessung && std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
 }
 
 bool TVDisForm::TasteUnten(Steuerelement& S, Taste T) {
   if (&S != &Strecke || T != Taste::Return) return Anschlussblatt::TasteUnten(S, T);
-  if (AnschlussPruefen()) AnschlussEinzel();
+  if (AnschlussPrüfen()) AnschlussEinzel();
   return true;
 }
 
@@ -51,7 +51,7 @@ int TVDisForm::AnschlussEinzel() {
   if (ImStapel()) {
     ++Stapellauf.Zeilen;
   } else {
-    NaechsteKontrolle();
+    NächsteKontrolle();
   }
   return 0;
 }
@@ -79,7 +79,7 @@ void TVDisForm::KontrolleSchreiben() {
   });
 }
 
-void TVDisForm::NaechsteKontrolle() {
+void TVDisForm::NächsteKontrolle() {
   Anf.Pnr.Text = End.Pnr.Text;
   End.Pnr.Text.clear();
   PunktLeeren(End);
@@ -104,7 +104,7 @@ int TVDisForm::StapelZeile() {
 
 bool TVDisForm::HatOffenes() const { return AnschlussGesetzt() && ZahlAusText(Strecke.Text) != 0; }
 
-bool TVDisForm::OffenesSchreiben() { return AnschlussPruefen() && AnschlussEinzel() == 0; }
+bool TVDisForm::OffenesSchreiben() { return AnschlussPrüfen() && AnschlussEinzel() == 0; }
 
 void TVDisForm::BlockBeenden() {
   if (!ImStapel() && Geschrieben) StapelEnde(false);

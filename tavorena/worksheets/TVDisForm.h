@@ -23,7 +23,7 @@ class TVDisForm final : public Anschlussblatt {
  private:
   /// Writes the check that is shown.
   void KontrolleSchreiben();
-  void NaechsteKontrolle();
+  void NächsteKontrolle();
 
   double Gemessen = 0;       // [m]; 0 means not measured
   bool Geschrieben = false;  // the batch block is open

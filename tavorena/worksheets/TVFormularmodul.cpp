@@ -31,10 +31,10 @@ class TVEinzelKoreinForm final : public Formular {
     Symbol.Zeichen = 6;
     Knopf("OK", "&OK").Vorgabe = true;
     Steuerelement& Nein = Knopf("Abbrechen", "&Abbrechen", {0, 1});
-    Nein.Abbruch = Nein.OhnePruefung = true;
+    Nein.Abbruch = Nein.OhnePrüfung = true;
   }
 
-  bool Bestaetigt = false;
+  bool Bestätigt = false;
   bool Vorhanden = false;  // the number typed is a known point, no coordinates go with it
   Steuerelement& Pnr = Feld("EinzelPnr", {0, 1});
   Steuerelement& Rechts = Zahlenfeld("EinzelRechts", {1, 1});
@@ -43,7 +43,7 @@ class TVEinzelKoreinForm final : public Formular {
   Steuerelement& Symbol = Feld("EinzelSymbol", {4, 1});
 
  protected:
-  void BeiOeffnen() override { FokusSetzen(Rechts); }  // the number is there already
+  void BeiÖffnen() override { FokusSetzen(Rechts); }  // the number is there already
 
   bool FokusVerloren(Steuerelement& S) override {
     S.Text = Trimmen(S.Text);
@@ -57,7 +57,7 @@ class TVEinzelKoreinForm final : public Formular {
   }
 
   void Geklickt(Steuerelement& S) override {
-    if (S.Name == "Abbrechen") return Schliessen();
+    if (S.Name == "Abbrechen") return Schließen();
     for (Steuerelement* F : {&Pnr, &Rechts, &Hoch, &Hoehe, &Symbol}) {
       if (!FokusVerloren(*F)) return FokusSetzen(*F);
     }
@@ -68,8 +68,8 @@ class TVEinzelKoreinForm final : public Formular {
       if (!Vorhanden && F->Text.empty()) return FokusSetzen(*F);
     }
     if (Bekannt && PunktVorhandenFrage(Pnr.Text) != 0) return FokusSetzen(Pnr);
-    Bestaetigt = true;
-    Schliessen();
+    Bestätigt = true;
+    Schließen();
   }
 };
 
@@ -80,7 +80,7 @@ std::string PunktnummerSchritt(int Schritt) {
   return Letzte == 0 ? std::string() : ZahlNachText(Letzte + Schritt).Text();
 }
 
-std::string Laengentext(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommastellen); }
+std::string Längentext(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommastellen); }
 
 std::string Messwerttext(double Zahl) {
   std::string Text = ZahlFormat(Zahl, -1, Messdezimalen);
@@ -98,8 +98,8 @@ bool MesswertLesen(std::string& Text, double& Zahl) {
 int FormEinzelKorein(Wert& Pnr) {
   TVEinzelKoreinForm Form(Trimmen(Pnr));
   Port().FormularZeigen(Form, true);
-  Dialogergebnis = Form.Bestaetigt ? 0 : -1;
-  if (!Form.Bestaetigt) return -1;
+  Dialogergebnis = Form.Bestätigt ? 0 : -1;
+  if (!Form.Bestätigt) return -1;
   Pnr = Wert(Form.Pnr.Text);
   if (Form.Vorhanden) return 1;
   NeupunktErgebnis Ergebnis;

@@ -38,7 +38,7 @@ TVLinelForm::TVLinelForm()
   Beschriftung("Breite (0 = alle):", {0, 4}, Rahmen);
   Breite = &Zahlenfeld(Mit("Streifen"), {0, 5}, Rahmen, 8);
   Breite->Text = "0";
-  for (Steuerelement* S : {Pnrvon, Pnrbis}) S->IstPnr = S->Rechtsbuendig = true;
+  for (Steuerelement* S : {Pnrvon, Pnrbis}) S->IstPnr = S->Rechtsbündig = true;
   Breite->Hilfe = "Return nimmt alle Punkte des Bereichs im Streifen als Zeilen auf";
   GitterAufbauen({{"Punktnr.", 10, true},
                   {"Rechts", 12},
@@ -61,12 +61,12 @@ void TVLinelForm::AnschlussRechnen() {
 }
 
 void TVLinelForm::ZeigeAnschluss() {
-  L.Text = Laengentext(Werte.EntfGerechnet);
-  E.Text = Laengentext(a + Werte.EntfGerechnet);
+  L.Text = Längentext(Werte.EntfGerechnet);
+  E.Text = Längentext(a + Werte.EntfGerechnet);
   // The worksheet shows computed over measured, as the measured line does.
   M.Text = Gemessen() != 0 ? ZahlFormat(Laenge() / Gemessen(), -1, 6) : "";
-  D.Text = Laengentext(Werte.AbweichungZulaessig);
-  Ws.Text = e != 0 ? Laengentext(Werte.Abweichung) : "";
+  D.Text = Längentext(Werte.AbweichungZulaessig);
+  Ws.Text = e != 0 ? Längentext(Werte.Abweichung) : "";
   Ws.Fehlerhaft = std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
 }
 
@@ -97,8 +97,8 @@ int TVLinelForm::ZeileRechnen(Zeile& Z) const {
 }
 
 std::vector<std::string> TVLinelForm::Zellen(const Zeile& Z) const {
-  return {Laengentext(Z.Ort.RW), Laengentext(Z.Ort.HW),         Laengentext(Z.Wert1),
-          Laengentext(Z.Wert2),  Laengentext(a + Red(Z.Wert1)), Laengentext(Red(Z.Wert2))};
+  return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW),         Längentext(Z.Wert1),
+          Längentext(Z.Wert2),  Längentext(a + Red(Z.Wert1)), Längentext(Red(Z.Wert2))};
 }
 
 void TVLinelForm::AnschlussProtokollieren() const {
@@ -131,7 +131,7 @@ void TVLinelForm::Streifen() {
   Breite->Fehlerhaft = !MesswertLesen(Breite->Text, Grenze);
   if (Breite->Fehlerhaft || Pnrvon->Text.empty()) return FokusSetzen(Breite->Fehlerhaft ? *Breite : *Pnrvon);
   if (Pnrbis->Text.empty()) Pnrbis->Text = Pnrvon->Text;
-  Port().Beschaeftigt(true);
+  Port().Beschäftigt(true);
   double Zuletzt = Port().Zeitgeber();
   int Anzahl = 0;
   for (int z = KorBereichSuche(Pnrvon->Text, Pnrbis->Text, -1); z >= 0 && KorStop != "Stop";
@@ -147,7 +147,7 @@ void TVLinelForm::Streifen() {
     Port().EreignisseAbarbeiten();
   }
   KorStop.clear();
-  Port().Beschaeftigt(false);
+  Port().Beschäftigt(false);
   Melde(std::to_string(Anzahl) + " Punkte im Streifen");
   FokusSetzen(*Rechengitter);
 }

@@ -33,10 +33,10 @@ void TVPolelForm::AnschlussRechnen() {
   double Zwischen = 0;
   if (!AnschlussGesetzt() || PolarelementeAnschluss(Anf.Ort, End.Ort, Gemessen, Zwischen, Nord, Werte) < 0)
     return;
-  L.Text = Laengentext(Werte.EntfGerechnet);
+  L.Text = Längentext(Werte.EntfGerechnet);
   M.Text = ZahlFormat(Gemessen != 0 ? Werte.EntfGerechnet / Gemessen : 1.0, -1, 6);
-  D.Text = Laengentext(Werte.AbweichungZulaessig);
-  Ws.Text = Gemessen != 0 ? Laengentext(Werte.Abweichung) : "";
+  D.Text = Längentext(Werte.AbweichungZulaessig);
+  Ws.Text = Gemessen != 0 ? Längentext(Werte.Abweichung) : "";
   Ws.Fehlerhaft = std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
 }
 
@@ -56,7 +56,7 @@ int TVPolelForm::ZeileRechnen(Zeile& Z) const {
 }
 
 std::vector<std::string> TVPolelForm::Zellen(const Zeile& Z) const {
-  return {Laengentext(Z.Ort.RW), Laengentext(Z.Ort.HW), Gontext(Z.Wert1), Laengentext(Z.Wert2)};
+  return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Gontext(Z.Wert1), Längentext(Z.Wert2)};
 }
 
 void TVPolelForm::AnschlussProtokollieren() const {

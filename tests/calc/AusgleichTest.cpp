@@ -32,11 +32,11 @@ TEST(Ausgleich, ListenUndMatrix) {
   EXPECT_EQ(ListenMittel(L, 4), 2.25);
   EXPECT_EQ(ListenMittel(L, 0) + ListenMittel({}, 9) + ListenSumme(L, -1), 0);
   EXPECT_EQ(QuadratSumme(L, 3) + ProduktSumme(L, Zahlen{1, 10}, 7), 26 + 13);
-  int Kleinster = -7, Groesster = -7;
-  EXPECT_EQ(ListenMinimumIndex(L, 0, Kleinster) + ListenMaximumIndex(L, 8, Groesster), -2);
-  EXPECT_EQ(Kleinster + Groesster, -14);
-  EXPECT_EQ(ListenMinimumIndex(L, 6, Kleinster) + ListenMaximumIndex(L, 7, Groesster), 0);
-  EXPECT_EQ(10 * Kleinster + Groesster, 14);  // the first of two
+  int Kleinster = -7, Größter = -7;
+  EXPECT_EQ(ListenMinimumIndex(L, 0, Kleinster) + ListenMaximumIndex(L, 8, Größter), -2);
+  EXPECT_EQ(Kleinster + Größter, -14);
+  EXPECT_EQ(ListenMinimumIndex(L, 6, Kleinster) + ListenMaximumIndex(L, 7, Größter), 0);
+  EXPECT_EQ(10 * Kleinster + Größter, 14);  // the first of two
 
   Zahlen I{Nichts};
   EXPECT_EQ(MatrixInvertieren(Zahlen{1, 2, 2, 4}, 2, I) + MatrixInvertieren(Zahlen(8), 3, I), -2);
@@ -53,7 +53,7 @@ TEST(Ausgleich, Gerade) {
     Lage Anf, End;
   };
   const Zahlen SR{0, 0, 8, 8, 4, 4}, SH{-1, 1, 7, 5, 6.9, -0.9};
-  const Fall Faelle[] = {
+  const Fall Fälle[] = {
       {"slope 3/4, feet of the ends by 3-4-5", SR, SH, {-.48, -.36}, {8.48, 6.36}},
       {"the same with R on H", SH, SR, {-.36, -.48}, {6.36, 8.48}},
       {"east, R on H fails", {.3, .1, .2}, {.1, .1, .1}, {.1, .1}, {.3, .1}},
@@ -64,7 +64,7 @@ TEST(Ausgleich, Gerade) {
       {"one point", {7.7}, {8.8}, {7.7, 8.8}, {7.7, 8.8}},
       {"one spot", {7.7, 7.7, 7.7}, {8.8, 8.8, 8.8}, {7.7, 8.8}, {7.7, 8.8}},
   };
-  Ueberall(Faelle, [](const Fall& f, Lage Ort) {
+  Überall(Fälle, [](const Fall& f, Lage Ort) {
     Lage A, E;
     ASSERT_EQ(Geradenausgleich(Verschoben(f.R, Ort.RW), Verschoben(f.H, Ort.HW), Anzahl(f.R), A, E), 0);
     EXPECT_TRUE(Nahe(A, f.Anf + Ort, 5e-9));
@@ -75,7 +75,7 @@ TEST(Ausgleich, Gerade) {
 // SciPy Cookbook, Least squares circle: the centre is that of the published algebraic fit, the radius that of
 // one step from the start circle (there 23.33), from the formula in the header, computed apart from this
 // program.
-TEST(Ausgleich, KreisVeroeffentlicht) {
+TEST(Ausgleich, KreisVeröffentlicht) {
   const Zahlen R{9, 35, -13, 10, 23, 0}, H{34, 10, 6, -14, 27, -10};
   for (const Lage Ort : Orte) {
     Lage M;
@@ -88,7 +88,7 @@ TEST(Ausgleich, KreisVeroeffentlicht) {
 
 // Points of a known circle, from an arc of 50 gon to all around, from 3 points to the bound.
 TEST(Ausgleich, KreisErhalten) {
-  Gelaende G;
+  Gelände G;
   for (int Lauf = 0; Lauf < 2000; ++Lauf) {
     const Lage Soll = G();
     const double r = G.Zahl(5, 500), w = G.Zahl(0, 7), Bogen = G.Zahl(0.8, 6);
@@ -135,7 +135,7 @@ TEST_F(AusgleichTA, ZwillingeUndAblehnungen) {
     EXPECT_EQ(Ta.AusgleichenderKreis(R, H, Anzahl(R), a, b, c), Fehler_Allgemein);
     EXPECT_EQ(Ta.AusgleichendeGerade(R, H, Anzahl(R), a, b, c, d), Fehler_Allgemein);
   }
-  EXPECT_TRUE(Unberuehrt());
+  EXPECT_TRUE(Unberührt());
 }
 
 }  // namespace

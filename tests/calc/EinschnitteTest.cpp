@@ -18,7 +18,7 @@ TEST(Einschnitte, Vorwaertsschnitt) {
   constexpr double Az1 = Gms(76, 4, 24), Az2 = Gms(141, 30, 16);
   // Published: Ghilani, Wolf: Elementary Surveying, two lines with known azimuths (feet).
   constexpr Lage A{1425.07, 1971.28}, B{7484.80, 5209.64}, P{8637.85, 3759.83};
-  constexpr Fall Faelle[] = {
+  constexpr Fall Fälle[] = {
       {"published", {A, {1425.07, 9999}, 0, Az1}, {B, {7484.80, 9999}, 0, Az2}, P, 200 + Az1 - Az2, 0.005},
       {"A due east", {{0, 0}, {0, 9}, 0, 100}, {{600, -300}, {600, 900}, 10, 10}, {600, 0}, 100},
       {"A west, behind B", {{0, 0}, {0, 9}, 400, 300}, {{9, 409}, {99, 409}, 350, 300}, {-400, 0}, 50},
@@ -27,7 +27,7 @@ TEST(Einschnitte, Vorwaertsschnitt) {
       {"equal stations", {{7, 8}, {7, 9}, 0, 0}, {{7, 8}, {8, 8}, 0, 0}, {7, 8}, 100},
       {"far point on A is east", {{0, 0}, {0, 0}, 0, 0}, {{30, -5}, {30, 0}, 0, 0}, {30, 0}, 100},
   };
-  Ueberall(Faelle, [](const Fall& f, Lage Ort) {
+  Überall(Fälle, [](const Fall& f, Lage Ort) {
     Vorwaertsschnittwerte w;
     ASSERT_EQ(VorwaertsschnittEbene(Ab(Ort, f.A), Ab(Ort, f.B), w), 0);
     EXPECT_TRUE(Nahe({w.NeuRechts, w.NeuHoch}, f.Neu + Ort, f.Genau));
@@ -52,7 +52,7 @@ TEST(Einschnitte, Rueckwaertsschnitt) {
   };
   // Published: Bannister, Raymond, Baker: Surveying, resection (there by Tienstra's formula).
   constexpr double r2 = Gms(109, 30, 45), r3 = Gms(224, 36, 5);
-  constexpr Fall Faelle[] = {
+  constexpr Fall Fälle[] = {
       {"published", {{1000, 5300}, 0}, {{2200, 6300}, r2}, {{3100, 5000}, r3}, {2128.39, 5578.14}, 0.005},
       {"alpha 100", {{0, 400}, 0}, {{300, 0}, 100}, {{200, -200}, 150}, {0, 0}},
       {"beta 100, over 400", {{50, 50}, 390}, {{70, 0}, 440}, {{0, -90}, 140}, {0, 0}},
@@ -62,7 +62,7 @@ TEST(Einschnitte, Rueckwaertsschnitt) {
       {"between P2 and P3: Q is P3", {{0, 300}, 0}, {{30, -30}, 150}, {{-600, 600}, 350}, {0, 0}},
       {"cuts due east and west", {{0, 100}, 0}, {{300, 300}, 50}, {{100, 0}, 100}, {0, 0}},
   };
-  Ueberall(Faelle, [](const Fall& f, Lage Ort) {
+  Überall(Fälle, [](const Fall& f, Lage Ort) {
     Rueckwaertsschnittwerte a, b;
     ASSERT_EQ(RueckwaertsschnittCollins(Ab(Ort, f.P1), Ab(Ort, f.P2), Ab(Ort, f.P3), a), 0);
     ASSERT_EQ(RueckwaertsschnittCassini(Ab(Ort, f.P1), Ab(Ort, f.P2), Ab(Ort, f.P3), b), 0);
@@ -72,8 +72,8 @@ TEST(Einschnitte, Rueckwaertsschnitt) {
 
 // Observations made from known points give the point back, and Collins agrees with Cassini.
 TEST(Einschnitte, KonstruierteBeobachtungen) {
-  Gelaende G;
-  int Geprueft = 0;
+  Gelände G;
+  int Geprüft = 0;
   for (int i = 0; i < 5000; ++i) {
     const Lage A = G(), B = G(), C = G(), N = G();
     const double o = G.Zahl(-400, 400), q = G.Zahl(-400, 400);
@@ -90,15 +90,15 @@ TEST(Einschnitte, KonstruierteBeobachtungen) {
     ASSERT_TRUE(Nahe({a.NeuRechts, a.NeuHoch, b.NeuRechts, b.NeuHoch}, {N.RW, N.HW, N.RW, N.HW}, 1e-6)) << i;
     ASSERT_NEAR(std::fabs(Blatt.TauGon1 - a.TauGon1), 200, 1e-9);
     ASSERT_NEAR(SinGon(a.TauGon2 - b.TauGon2), 0, 1e-9);  // the same angle, but for half circles
-    ++Geprueft;
+    ++Geprüft;
   }
-  EXPECT_GT(Geprueft, 4900);
+  EXPECT_GT(Geprüft, 4900);
 }
 
 // On the circle Cassini refuses, also where the last digit of a coordinate hides it; Collins tells by τ2 and
 // delivers a point.
 TEST(Einschnitte, AufDemKreis) {
-  Gelaende G;
+  Gelände G;
   for (int i = 0; i < 500; ++i) {
     RueckPunkt P[4];  // round the circle in this order
     const double s = G.Zahl(50, 5000);
@@ -137,7 +137,7 @@ TEST_F(EinschnitteTA, Ergebniszuordnung) {
   for (const bool Cassini : {false, true}) {
     for (const double r2 : {0.0, 400.0, 12.3456, 412.3456}) {
       EXPECT_EQ(Resektion(Cassini, 0, r2, 12.3456), Fehler_ZweiRichtungenGleich);
-      EXPECT_TRUE(Unberuehrt());
+      EXPECT_TRUE(Unberührt());
     }
     EXPECT_EQ(Resektion(Cassini, 0, 20, std::nan("")), Fehler_Allgemein);
   }
@@ -145,7 +145,7 @@ TEST_F(EinschnitteTA, Ergebniszuordnung) {
   EXPECT_EQ(Resektion(true, 300, 0, 100), Fehler_GefaehrlicherKreis);     // both diameters end at Hoch 0
   for (const double rB : {50.0, 250.0, std::nan("")})
     EXPECT_EQ(Ta.VorwaertsschnittEbene(0, 0, 0, 9, 0, 50, 7, 8, 7, 9, 0, rB, a, b, &c), Fehler_Allgemein);
-  EXPECT_TRUE(Unberuehrt());
+  EXPECT_TRUE(Unberührt());
 }
 
 TEST_F(EinschnitteTA, Zwillinge) {
@@ -155,7 +155,7 @@ TEST_F(EinschnitteTA, Zwillinge) {
   Punkt("4A", 30, 40);
   EXPECT_EQ(Ta.VorwaertsschnittEbenePnr(1, 2, 0, 100, 3, "4a", 20, 20, a, b), Fehler_PunktNichtVorhanden);
   EXPECT_EQ(Ta.RueckwaertsschnittPnr(1, 0, 7, 1, 3, 2, true, a, b), Fehler_PunktNichtVorhanden);
-  EXPECT_TRUE(Unberuehrt());
+  EXPECT_TRUE(Unberührt());
   EXPECT_EQ(Ta.VorwaertsschnittEbenePnr(1, 2, 0, 100, 3, "4A", 20, 70, a, b), ok);
   const double r = Richtung({10, 0}, {30, 40});
   EXPECT_EQ(Ta.RueckwaertsschnittPnr(1, 300, "4A", r, 3, 200 - r, true, c, d), ok);

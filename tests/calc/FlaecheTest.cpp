@@ -22,7 +22,7 @@ TEST(Flaeche, Tabelle) {
   const Zahlen WR{1, 3, 7, 4, 8}, WH{6, 1, 2, 4, 5};
   const double WU = std::sqrt(29) + std::sqrt(17) + std::sqrt(13) + std::sqrt(17) + std::sqrt(50);
   const double F = 12.5 * pi, U = 30 + 5 * pi;  // semicircle on a side of the square
-  const Fall Faelle[] = {
+  const Fall Fälle[] = {
       {"Wikipedia, Shoelace formula", WR, WH, Zahlen(5), Arten(5), 16.5, WU, 0},
       {"lune of Hippocrates", {0, 2}, {0, 0}, {1, -w2}, {1, -1}, 1, pi + pi / w2, 1},
       {"vesica piscis", {0, 0}, {0, w3}, {1, 1}, {1, 1}, Vesica, 4 * pi / 3, Vesica},
@@ -37,7 +37,7 @@ TEST(Flaeche, Tabelle) {
       {"kind or radius alone", QR, QH, {0, 9, 0, 0}, {1, 0, 0, 0}, 100, 40, 0},
       {"nothing", {}, {}, {}, {}, 0, 0, 0},
   };
-  Ueberall(Faelle, [](const Fall& f, Lage Ort) {
+  Überall(Fälle, [](const Fall& f, Lage Ort) {
     const Zahlen R = Verschoben(f.R, Ort.RW), H = Verschoben(f.H, Ort.HW);
     Flaechenwerte w;
     ASSERT_EQ(FlaecheBerechnen(R, H, f.Radius, f.Art, static_cast<int>(R.size()), w), 0);
@@ -63,15 +63,15 @@ TEST(Flaeche, HalbkreisTrotzRundung) {
 TEST(Flaeche, FeinesPolygon) {
   using Komplex = std::complex<double>;
   const Zahlen R{3400000, 3400060, 3400080, 3400050}, H{5700000, 5699990, 5700050, 5700090};
-  const double Oeffnung[] = {1.2, -1.5, 4, -5};  // counter-clockwise, which is outward here [rad]
+  const double Öffnung[] = {1.2, -1.5, 4, -5};  // counter-clockwise, which is outward here [rad]
   constexpr int Teile = 100000;
   Zahlen Radius, fR, fH;
   for (std::size_t i = 0; i < 4; ++i) {
-    const Komplex P(R[i], H[i]), Q(R[(i + 1) % 4], H[(i + 1) % 4]), Ganz = std::polar(1., Oeffnung[i]);
+    const Komplex P(R[i], H[i]), Q(R[(i + 1) % 4], H[(i + 1) % 4]), Ganz = std::polar(1., Öffnung[i]);
     const Komplex M = P + (Q - P) / (1. - Ganz);
     Radius.push_back(std::abs(P - M));
     for (int k = 0; k < Teile; ++k) {
-      const Komplex Z = M + (P - M) * std::polar(1., Oeffnung[i] * k / Teile);
+      const Komplex Z = M + (P - M) * std::polar(1., Öffnung[i] * k / Teile);
       fR.push_back(Z.real());
       fH.push_back(Z.imag());
     }
@@ -111,7 +111,7 @@ TEST_F(FlaecheTA, ZwillingUndAblehnungen) {
   for (const double x : {std::nan(""), 1e200})
     EXPECT_EQ(Ta.Flaechenberechnung(Zahlen{0, x, 1}, Zahlen{0, x, 2 * x}, R4, 3, a, &b, &c),
               Fehler_Allgemein);
-  EXPECT_TRUE(Unberuehrt());
+  EXPECT_TRUE(Unberührt());
   Flaechenwerte w;
   EXPECT_EQ(FlaecheBerechnen(QR, QH, R4, Arten{0, 0, 0, 4}, 4, w), -1);  // no such kind
 }

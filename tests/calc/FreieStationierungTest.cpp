@@ -61,7 +61,7 @@ TEST(FreieStationierung, FindetDieStationWieder) {
 
 // The local coordinates of C. D. Ghilani, Adjustment Computations, example 18.1, as polar observations: the
 // station is the published translation.
-TEST(FreieStationierung, VeroeffentlichtesBeispielUndHelmert) {
+TEST(FreieStationierung, VeröffentlichtesBeispielUndHelmert) {
   constexpr Lage Bekannt[] = {{1049422.40, 51089.20}, {1049413.95, 49659.30}, {1049244.95, 49884.95}};
   const Zahlen y{121.622, 141.228, 175.802}, x{-128.066, 187.718, 135.728};
   Sicht W;
@@ -163,7 +163,7 @@ TEST_F(Stationierung, ZwillingGrenzenUndSchlechteEingaben) {
   EXPECT_NEAR(std::hypot(v[0][7], v[1][7]), v[2][7], 1e-9);
 
   EXPECT_EQ(Ta.FreieStationierungKleinpunkt(0, 0, 0, 1, HUGE_VAL, 100, 100, a, b), Fehler_Allgemein);
-  EXPECT_TRUE(Unberuehrt());
+  EXPECT_TRUE(Unberührt());
   EXPECT_EQ(Ta.FreieStationierungKleinpunkt(10, 20, 350, 1.01, 50, 100, 100, a, b), ok);
   EXPECT_EQ(a, 10);  // exactly 400 gon becomes 0
   EXPECT_NEAR(b, 121, 1e-10);

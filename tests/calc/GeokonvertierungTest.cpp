@@ -35,7 +35,7 @@ TEST(Geokonvertierung, EllipsoideUndMeridianquadranten) {
 }
 
 // EPSG Guidance Note 7-2, British National Grid: the same series with another ellipsoid, scale and origin.
-TEST(Geokonvertierung, VeroeffentlichtesBeispiel) {
+TEST(Geokonvertierung, VeröffentlichtesBeispiel) {
   constexpr Ellipsoid Airy(6377563.396, 6356256.909);
   constexpr double M = 0.9996012717, Ost = 577274.99 - 400000 + 500000;
   const double Nord = 69740.49 + 100000 + M * Meridianbogen(Airy, 49 * RadJeGrad);
@@ -51,7 +51,7 @@ TEST(Geokonvertierung, VeroeffentlichtesBeispiel) {
 // found maximum over Germany is neither above nor far below it.
 struct Vergleich {
   const char* Name;
-  const char* Koerper;
+  const char* Körper;
   bool Utm;
   int Neben;                     // how far beside the central meridian points lie [tenths of a degree]
   double Vor, Rueck, HinUndHer;  // [mm]; 0: not compared
@@ -65,11 +65,11 @@ void Vergleichen(const Vergleich& f, PJ* Zeuge, int Nr, int Mitte, double L, dou
   const double KonvergenzSoll = proj_factors(Zeuge, Ort).meridian_convergence * GradJeRad;
   double R = Soll.x, H = Soll.y, Hin = KonvergenzSoll, Her = KonvergenzSoll;
   std::int32_t Zone = Nr;
-  const auto Rueck = [&](double& Groesste) {
+  const auto Rueck = [&](double& Größte) {
     double B2 = 0, L2 = 0;
     ASSERT_EQ(f.Utm ? UTMRueckwaerts(R, H, Nr, L2, B2) : GKRueckwaerts(1, Ellipsoide[0], R, H, B2, L2, Her),
               0);
-    Groesste = std::max(Groesste, 1000 * AufDerErde(L, B, L2, B2));
+    Größte = std::max(Größte, 1000 * AufDerErde(L, B, L2, B2));
   };
   Rueck(G.Rueck);
   if (f.Vor == 0) return;
@@ -83,21 +83,21 @@ void Vergleichen(const Vergleich& f, PJ* Zeuge, int Nr, int Mitte, double L, dou
 }
 
 TEST(Geokonvertierung, DeutschlandGegenProj) {
-  constexpr Vergleich Faelle[] = {
+  constexpr Vergleich Fälle[] = {
       {"GK, own strip", "+a=6377397.155 +b=6356078.963", false, 15, 0.0165, 0.003, 0.019},
       {"GK, half a degree beyond", "+a=6377397.155 +b=6356078.963", false, 20, 0.07, 0.022, 0.09},
       {"GK, the defined Bessel, b 0.2 mm lower", "+ellps=bessel", false, 15, 0.23, 0.22, 0.019},
       {"UTM, own zone", "+ellps=GRS80", true, 30, 0.11, 0.415, 0.5},
       {"UTM, half a degree beyond", "+ellps=GRS80", true, 35, 0, 0.97, 0},
   };
-  for (const Vergleich& f : Faelle) {
+  for (const Vergleich& f : Fälle) {
     Vergleich G{};
     double Konvergenz = 0;
     for (int Nr = f.Utm ? 31 : 2; Nr <= (f.Utm ? 33 : 5); ++Nr) {
       const int Mitte = f.Utm ? 6 * (Nr - 30) - 3 : 3 * Nr;
       const std::string Text = "+proj=tmerc +lat_0=0 +y_0=0 +lon_0=" + std::to_string(Mitte) +
                                (f.Utm ? " +k_0=0.9996 +x_0=" : " +k_0=1 +x_0=" + std::to_string(Nr)) +
-                               "500000 " + f.Koerper;
+                               "500000 " + f.Körper;
       const std::unique_ptr<PJ, PJ* (*)(PJ*)> Zeuge(proj_create(PJ_DEFAULT_CTX, Text.c_str()), proj_destroy);
       ASSERT_TRUE(Zeuge);
       // 47 to 55.2 N, 5.8 to 15.1 E in steps of 0.1 degrees; an eastern edge belongs to the next strip.
@@ -116,17 +116,17 @@ TEST(Geokonvertierung, GKStreifen) {
   std::int32_t Kennziffer = 9;
   for (const double Absurd : {1e11, std::nan("")}) EXPECT_EQ(GKStreifen(Absurd, Delta, Kennziffer), -1);
   EXPECT_EQ(Delta + Kennziffer, 18);
-  constexpr double Faelle[][3] = {// longitude, strip, rest
-                                  {7.5, 3, -1.5},    {7.25, 2, 1.25}, {0, 0, 0},   {-1.5, 0, -1.5},
-                                  {-1.75, -1, 1.25}, {-9, -3, 0},     {180, 60, 0}};
-  for (const auto& [Laenge, Nummer, Rest] : Faelle) {
+  constexpr double Fälle[][3] = {// longitude, strip, rest
+                                 {7.5, 3, -1.5},    {7.25, 2, 1.25}, {0, 0, 0},   {-1.5, 0, -1.5},
+                                 {-1.75, -1, 1.25}, {-9, -3, 0},     {180, 60, 0}};
+  for (const auto& [Laenge, Nummer, Rest] : Fälle) {
     EXPECT_EQ(GKStreifen(Laenge, Delta, Kennziffer), 0);
     EXPECT_TRUE(Delta == Rest && Kennziffer == Nummer) << Laenge;
   }
 }
 
 TEST(Geokonvertierung, GradInGMS) {
-  constexpr double Faelle[][5] = {
+  constexpr double Fälle[][5] = {
       // value, result, degrees, minutes, seconds
       {9.2, 0, 9, 12, 0},                    // stored a trace too small
       {8.9999999999999, 0, 9, 0, 0},         // the carry runs up to the degrees
@@ -137,7 +137,7 @@ TEST(Geokonvertierung, GradInGMS) {
       {-0.0, 0, 0, 0, 0},                    // no sign to lose
       {3e9, -1, 77, 77, 77},                 // beyond 32 bits
   };
-  for (const auto& [Wert, Ergebnis, Grad, Minuten, Sekunden] : Faelle) {
+  for (const auto& [Wert, Ergebnis, Grad, Minuten, Sekunden] : Fälle) {
     std::int32_t g = 77, m = 77;
     double s = 77;
     EXPECT_EQ(GradInGMS(Wert, g, m, s), Ergebnis) << Wert;
@@ -172,8 +172,8 @@ TEST_F(Geoschnittstelle, MittelmeridianUndStreifenrand) {
 }
 
 // All four quarters of the globe, so also negative strips, zones below 30 and negative Hochwerte.
-TEST_F(Geoschnittstelle, HinUndHerUeberall) {
-  Gelaende G;
+TEST_F(Geoschnittstelle, HinUndHerÜberall) {
+  Gelände G;
   for (int n = 0; n < 10000; ++n) {
     const double L = G.Zahl(-180, 180), B = G.Zahl(-80, 80);
     ASSERT_EQ(Ta.KonvertierungGeographischNachGK(L, B, a, b), ok);
@@ -193,7 +193,7 @@ TEST_F(Geoschnittstelle, SchlechteEingaben) {
     EXPECT_EQ(Ta.KonvertierungGKNachGeographischGMS(3.5e6, x, i, j, a, k, l, b), Fehler_Allgemein);
     EXPECT_EQ(Ta.KonvertierungUTMNachGeographischGMS(5e5, x, 32, i, j, a, k, l, b), Fehler_Allgemein);
     EXPECT_EQ(Ta.KonvertierungGeographischGMSNachUTM(9, 0, x, 51, 0, 0, i, a, b), Fehler_Allgemein);
-    EXPECT_TRUE(Unberuehrt() && i + j + k + l == 36);
+    EXPECT_TRUE(Unberührt() && i + j + k + l == 36);
   }
   // Beyond the pole the series run on: 91 degrees are 89 on the other side, which Rechts shows mirrored.
   EXPECT_EQ(Ta.KonvertierungGeographischNachGK(10, 91, a, b), ok);

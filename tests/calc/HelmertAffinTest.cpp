@@ -25,7 +25,7 @@ struct Punkte {
 };
 
 // C. D. Ghilani, Adjustment Computations, examples 18.1 (similarity) and 18.2 (fiducial marks, weighted).
-TEST(HelmertAffin, VeroeffentlichteBeispiele) {
+TEST(HelmertAffin, VeröffentlichteBeispiele) {
   HelmertErgebnis E;
   const Punkte B{{121.622, 141.228, 175.802},
                  {-128.066, 187.718, 135.728},
@@ -59,15 +59,15 @@ TEST(HelmertAffin, VeroeffentlichteBeispiele) {
 }
 
 TEST(HelmertAffin, Drehwinkel) {
-  constexpr double Faelle[][3] = {// numerator, denominator, degrees
-                                  {0, 1, 0},     {1, 1, 45},   {2, 0, 90},   {1, -1, 135}, {0, -1, 180},
-                                  {-1, -1, 225}, {-1, 0, 270}, {-1, 1, 315}, {0, 0, 90},   {-1e-300, 1, 0}};
-  for (const auto& [Zaehler, Nenner, Grad] : Faelle)
-    EXPECT_NEAR(HelmertDrehwinkel(Zaehler, Nenner), Grad, 1e-12) << Grad;
+  constexpr double Fälle[][3] = {// numerator, denominator, degrees
+                                 {0, 1, 0},     {1, 1, 45},   {2, 0, 90},   {1, -1, 135}, {0, -1, 180},
+                                 {-1, -1, 225}, {-1, 0, 270}, {-1, 1, 315}, {0, 0, 90},   {-1e-300, 1, 0}};
+  for (const auto& [Zähler, Nenner, Grad] : Fälle)
+    EXPECT_NEAR(HelmertDrehwinkel(Zähler, Nenner), Grad, 1e-12) << Grad;
 }
 
 // A known similarity is found again, by both models.
-void Aehnlichkeit(Lage Alt, Lage Neu, double M, double Gon) {
+void Ähnlichkeit(Lage Alt, Lage Neu, double M, double Gon) {
   SCOPED_TRACE(::testing::Message() << Alt.RW << ' ' << Neu.RW << ' ' << M << ' ' << Gon);
   const double a = M * CosGon(Gon), b = M * SinGon(Gon);
   const auto Bild = [&](Lage d) { return Lage{Neu.RW + a * d.RW + b * d.HW, Neu.HW + a * d.HW - b * d.RW}; };
@@ -87,11 +87,11 @@ void Aehnlichkeit(Lage Alt, Lage Neu, double M, double Gon) {
   EXPECT_TRUE(Nahe(N, Bild(d), 1e-7) && Nahe(NA, Bild(d), 1e-7));
 }
 
-TEST(HelmertAffin, FindenEineAehnlichkeitWieder) {
+TEST(HelmertAffin, FindenEineÄhnlichkeitWieder) {
   for (const Lage Alt : {Orte[0], Orte[1], Orte[2], Lage{32456789.01, 12.5}}) {
     for (const Lage Neu : Orte) {
       for (const double Gon : {0., 0.0001, 50., 100., 150., 200., 250., 300., 350., 399.9999, 400.}) {
-        for (const double M : {1., 0.9996, 2.5}) Aehnlichkeit(Alt, Neu, M, Gon);
+        for (const double M : {1., 0.9996, 2.5}) Ähnlichkeit(Alt, Neu, M, Gon);
       }
     }
   }
@@ -234,7 +234,7 @@ TEST_F(Transformation, ParameterUndGrenzen) {
   Punkt("1", 5, 6);
   EXPECT_EQ(Ta.HelmertTransformationNeupunkt(1, 2, 3, 4, 5, 6, 1, std::nan(""), a, b), Fehler);
   EXPECT_EQ(Ta.AffinTransformationAlleKoordinaten(1, 2, 3, 4, 5, std::nan("")), Fehler);
-  EXPECT_TRUE(Unberuehrt() && KorRechts[0] == 5);
+  EXPECT_TRUE(Unberührt() && KorRechts[0] == 5);
 }
 
 // A centroid of (10, 20), a border of 5 m: (13, 24) lies exactly on it. The border 0 parts the two models.
@@ -244,11 +244,11 @@ TEST_F(Transformation, NeupunktUndTabelle) {
     double x, y, Rand;
     enmResult Helmert, Affin;
   };
-  constexpr Fall Faelle[] = {{"on the border", 13, 24, 5, ok, ok},
-                             {"just outside", 13, 24.0000000001, 5, Aussen, Aussen},
-                             {"at the centroid, border 0", 10, 20, 0, Aussen, ok},
-                             {"negative border", 10, 20, -1, Aussen, Aussen}};
-  for (const auto& [Name, x, y, Rand, Helmert, Affin] : Faelle) {
+  constexpr Fall Fälle[] = {{"on the border", 13, 24, 5, ok, ok},
+                            {"just outside", 13, 24.0000000001, 5, Aussen, Aussen},
+                            {"at the centroid, border 0", 10, 20, 0, Aussen, ok},
+                            {"negative border", 10, 20, -1, Aussen, Aussen}};
+  for (const auto& [Name, x, y, Rand, Helmert, Affin] : Fälle) {
     SCOPED_TRACE(Name);
     EXPECT_EQ(Ta.HelmertTransformationNeupunktSigmamax(x, y, 10, 20, 110, 220, 0, 1, Rand, a, b), Helmert);
     EXPECT_EQ(Ta.HelmertTransformationNeupunkt(x, y, 10, 20, 110, 220, 0, 1, c, d), ok);
@@ -268,8 +268,8 @@ TEST_F(Transformation, NeupunktUndTabelle) {
 }
 
 // The table as a whole and point by point: the same bits and the same verdicts, wherever the border lies.
-TEST_F(Transformation, TabelleStimmtMitEinzelpunktenUeberein) {
-  Gelaende G;
+TEST_F(Transformation, TabelleStimmtMitEinzelpunktenÜberein) {
+  Gelände G;
   KorAnzahl = 1500;
   for (std::size_t i = 0; i < 1500; ++i) KorRechts[i] = G().RW, KorHoch[i] = G().HW;
   const Zahlen R = KorRechts, H = KorHoch;
@@ -337,19 +337,18 @@ TEST_F(Transformation, DateienBleibenGanz) {
     std::string Passdatei;
     enmResult Helmert, Affin;
   };
-  const Fall Faelle[] = {
-      {"one passpoint, the other line is too short", "1 50 5\r\n2 5 5\r\n", Wenige, Wenige},
-      {"not in the table", Drei + "1a 5 5\r\n", Fehlt, Fehlt},
-      {"101 rows", Zeilen(101, 100), Aussen, Aussen},
-      {"102 rows", Zeilen(102, 100), Zuviele, Aussen},
-      {"1001 rows", Zeilen(1001, 100), Zuviele, Aussen},
-      {"1002 rows", Gut, Zuviele, Zuviele},
-      {"one spot of the new system", "1 50 5\r\n3 50 5\r\n12 50 5\r\n", Fehler, Fehler},
-      {"too low", "1 -999998 1\r\n3 -1000000 3\r\n12 -1000009 3\r\n", Fehler, Fehler},
-      {"one line", "1 10 1\r\n10 50 5\r\n19 80 7\r\n", Aussen, Fehler},
-      {"beyond the fields when rounded up", "1 9998998.9999 1\r\n3 9999000.9999 3\r\n12 9999009.9999 3\r\n",
-       Fehler, Fehler}};
-  for (const Fall& f : Faelle) {
+  const Fall Fälle[] = {{"one passpoint, the other line is too short", "1 50 5\r\n2 5 5\r\n", Wenige, Wenige},
+                        {"not in the table", Drei + "1a 5 5\r\n", Fehlt, Fehlt},
+                        {"101 rows", Zeilen(101, 100), Aussen, Aussen},
+                        {"102 rows", Zeilen(102, 100), Zuviele, Aussen},
+                        {"1001 rows", Zeilen(1001, 100), Zuviele, Aussen},
+                        {"1002 rows", Gut, Zuviele, Zuviele},
+                        {"one spot of the new system", "1 50 5\r\n3 50 5\r\n12 50 5\r\n", Fehler, Fehler},
+                        {"too low", "1 -999998 1\r\n3 -1000000 3\r\n12 -1000009 3\r\n", Fehler, Fehler},
+                        {"one line", "1 10 1\r\n10 50 5\r\n19 80 7\r\n", Aussen, Fehler},
+                        {"beyond the fields when rounded up",
+                         "1 9998998.9999 1\r\n3 9999000.9999 3\r\n12 9999009.9999 3\r\n", Fehler, Fehler}};
+  for (const Fall& f : Fälle) {
     SCOPED_TRACE(f.Name);
     Schreibe(Pass, f.Passdatei);
     Versuch(Kor, Pass, 3, f.Helmert, f.Affin);

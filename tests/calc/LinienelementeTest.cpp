@@ -4,8 +4,8 @@
 #include <limits>
 #include <random>
 
-#include <tavorena/ta/TA.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
+#include <tavorena/ta/TA.h>
 
 namespace tavorena::test {
 namespace {
@@ -17,7 +17,7 @@ TEST(Linienelemente, Tabelle) {
     Lage Anf, End, Punkt;
     double Linie, Seitwaerts;
   };
-  constexpr Fall Faelle[] = {
+  constexpr Fall Fälle[] = {
       {"north, point to the east", {0, 0}, {0, 100}, {30, 40}, 40, 30},
       {"east, point to the south", {0, 0}, {100, 0}, {40, -30}, 40, 30},
       {"south, point to the east", {0, 0}, {0, -100}, {30, -40}, 40, -30},
@@ -28,7 +28,7 @@ TEST(Linienelemente, Tabelle) {
       // S. L. Loney, The Elements of Coordinate Geometry, 1895, examples on perpendiculars.
       {"Loney, 4 2/5 off 3x + 4y = 10", {2, 1}, {-2, 4}, {4, 5}, 0.8, 4.4},
   };
-  for (const Fall& f : Faelle) {
+  for (const Fall& f : Fälle) {
     SCOPED_TRACE(f.Name);
     double Linie = 0, Seitwaerts = 0;
     EXPECT_EQ(Linienelemente(f.Anf, f.End, f.Punkt, Linie, Seitwaerts), 0);

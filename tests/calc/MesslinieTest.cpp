@@ -13,7 +13,7 @@ TEST(Messlinie, Tabelle) {
     int Ergebnis;
     Lage Neu;
   };
-  constexpr Fall Faelle[] = {
+  constexpr Fall Fälle[] = {
       {"on the start reading", {7, 8}, {7, 108}, 5, 0, 5, 0, 1, {7, 8}},
       {"north, to the right", {0, 0}, {0, 100}, 0, 0, 40, 30, 1, {30, 40}},
       {"east, to the right", {0, 0}, {100, 0}, 0, 0, 40, 30, 1, {40, -30}},
@@ -27,7 +27,7 @@ TEST(Messlinie, Tabelle) {
       // 4 2/5 off 3x + 4y = 10; the foot is 4/5 along the line from (2, 1).
       {"Loney, perpendicular on a line", {2, 1}, {-2, 4}, 0, 0, 0.8, 4.4, 1, {4, 5}},
   };
-  Ueberall(Faelle, [](const Fall& f, Lage Ort) {
+  Überall(Fälle, [](const Fall& f, Lage Ort) {
     MesslinieAnschlusswerte Werte;
     EXPECT_EQ(MesslinieBerechnungAnschluss(f.Anf + Ort, f.End + Ort, f.Anlegemass, f.Endmass, Werte),
               f.Ergebnis);
@@ -45,7 +45,7 @@ TEST(Polarpunkt, Tabelle) {
     Lage Neu;
     double Grenze = 2e-9;
   };
-  constexpr Fall Faelle[] = {
+  constexpr Fall Fälle[] = {
       {"0 gon", {0, 0}, {0, 9}, 0, 50, 0, 1, {0, 50}},
       {"100 gon", {0, 0}, {0, 9}, 100, 50, 0, 1, {50, 0}},
       {"200 gon", {0, 0}, {0, 9}, 200, 50, 0, 1, {0, -50}},
@@ -63,7 +63,7 @@ TEST(Polarpunkt, Tabelle) {
   Lage Neu{9, 9};
   EXPECT_EQ(PolarBerechnungPunkt({1, 1}, {1, 1}, 0, 5, 0, 0, 1, Neu), -1);
   EXPECT_EQ(Neu, (Lage{9, 9}));
-  Ueberall(Faelle, [&Neu](const Fall& f, Lage Ort) {
+  Überall(Fälle, [&Neu](const Fall& f, Lage Ort) {
     EXPECT_EQ(PolarBerechnungPunkt(f.Anf + Ort, f.End + Ort, GonNachGrad(f.Winkel), f.Strecke, 0,
                                    GonNachGrad(f.Orientierung), f.Massstab, Neu),
               0);
@@ -80,7 +80,7 @@ TEST(Polarpunkt, Tabelle) {
 
 // Line and polar elements are the inverse, times measured over computed where the line was measured.
 TEST(Messlinie, UmkehrungDurchElemente) {
-  Gelaende G;
+  Gelände G;
   for (int i = 0; i < 5000; ++i) {
     const Lage A = G(), E = G(), Punkt = G();
     const double o = G.Zahl(0, 400), a = G.Zahl(-500, 500), Soll = G.Zahl(-500, 500);
@@ -129,7 +129,7 @@ TEST_F(MesslinieTA, ZwillingeUndAblehnungen) {
   EXPECT_EQ(Ta.PolarpunktPnr(3, 2, 0, 5, a, b), Fehler_PunktNichtVorhanden);
   EXPECT_EQ(Ta.Messlinie(0, 0, 60, 80, 1, std::nan(""), a, b), Fehler_Allgemein);
   EXPECT_EQ(Ta.PolarpunktAnschluss(0, HUGE_VAL, 60, 80, a, 0, &b), Fehler_Allgemein);
-  EXPECT_TRUE(Unberuehrt());
+  EXPECT_TRUE(Unberührt());
 }
 
 }  // namespace

@@ -20,16 +20,16 @@ PolygonZug Messen(const std::vector<Lage>& P, double dWinkel = 0, double Faktor 
 
 /// Largest distance of the computed points from the ground.
 double Abweichung(const PolygonErgebnis& E, const std::vector<Lage>& P) {
-  double Groesste = 0;
+  double Größte = 0;
   for (std::size_t i = 0; i < E.Seiten.size(); ++i)
-    Groesste = std::max(Groesste, Abstand(E.Seiten[i].Ende, P[i + 2]));
-  return Groesste;
+    Größte = std::max(Größte, Abstand(E.Seiten[i].Ende, P[i + 2]));
+  return Größte;
 }
 
 // A wrong zero of the circle is an equal error of all angles, a wrong scale an equal factor of all sides:
 // what is distributed takes them out whole, and the misclosures tell their size.
-TEST(Polygon, GestoerteBeobachtungenWerdenVerteilt) {
-  Gelaende G;
+TEST(Polygon, GestörteBeobachtungenWerdenVerteilt) {
+  Gelände G;
   for (int Lauf = 0; Lauf < 300; ++Lauf) {
     const double Kurs = G.Zahl(0, 400), s = SinGon(Kurs), c = CosGon(Kurs);
     std::vector<Lage> P;  // along the course, targets 4 km behind and ahead
@@ -114,15 +114,15 @@ TEST(Polygon, Ablehnungen) {
   const Zug Gut{{-600, 0}, {0, 0}, {500, 0}, {500, 600}, 200, 250, 100, {{200, 250}}};
   PolygonErgebnis E;
   E.n = 9;
-  const auto Rechne = [&](void (*Aendern)(Zug&), bool Anschluss = true, bool Abschluss = true) {
+  const auto Rechne = [&](void (*Ändern)(Zug&), bool Anschluss = true, bool Abschluss = true) {
     Zug z = Gut;
-    Aendern(z);
+    Ändern(z);
     return PolygonCalc(z, Anschluss, Abschluss, true, true, E);
   };
-  for (const auto Aendern : {+[](Zug& z) { z.Zeilen.clear(); }, +[](Zug& z) { z.PFE.RW = HUGE_VAL; },
-                             +[](Zug& z) { z.Zeilen[0].Strecke = std::nan(""); },
-                             +[](Zug& z) { z.PFA = z.PA; }, +[](Zug& z) { z.PFE = z.PE; }})
-    EXPECT_EQ(Rechne(Aendern), -1);
+  for (const auto Ändern : {+[](Zug& z) { z.Zeilen.clear(); }, +[](Zug& z) { z.PFE.RW = HUGE_VAL; },
+                            +[](Zug& z) { z.Zeilen[0].Strecke = std::nan(""); },
+                            +[](Zug& z) { z.PFA = z.PA; }, +[](Zug& z) { z.PFE = z.PE; }})
+    EXPECT_EQ(Rechne(Ändern), -1);
   EXPECT_EQ(Rechne([](Zug&) {}, false, true), -1);
   EXPECT_EQ(Rechne([](Zug& z) { z.PE = z.PA; }, false, false), -1);
   EXPECT_EQ(Rechne([](Zug& z) { z.Zeilen[0].Winkel = 0; }, false, false), -1);

@@ -20,8 +20,8 @@ struct Fall {
 
 /// Computes every row near zero, in the grid and in the negative.
 template <std::size_t N, typename Funktion>
-void Pruefe(const Fall (&Faelle)[N], Funktion Rechne) {
-  for (const Fall& f : Faelle) {
+void Prüfe(const Fall (&Fälle)[N], Funktion Rechne) {
+  for (const Fall& f : Fälle) {
     for (const Lage V : {Lage{0, 0}, Lage{3400000, 5700000}, Lage{-200000, -99999}}) {
       SCOPED_TRACE(f.Name);
       std::array<Lage, 4> P;
@@ -50,7 +50,7 @@ Lage Strahl(Lage A, double Grad, double Minuten, double Sekunden) {
 TEST(Geradenschnitt, Tabelle) {
   constexpr Lage A{1425.07, 1971.28}, B{7484.80, 5209.64};
   const Lage A2 = Strahl(A, 76, 4, 24), B2 = Strahl(B, 141, 30, 16);
-  const Fall Faelle[] = {
+  const Fall Fälle[] = {
       {"Ghilani", {{A, A2, B, B2}}, 11, 0, 0, {8637.85, 3759.83}, Leer, 65.4311, Gedruckt},
       {"turned by 45", {{{0, 0}, {0, 9}, {3, 4}, {4, 5}}}, 11, 0, 0, {0, 1}, Leer, 45},
       {"turned by 135", {{{0, 0}, {0, 9}, {3, 4}, {4, 3}}}, 11, 0, 0, {0, 7}, Leer, 45},
@@ -65,7 +65,7 @@ TEST(Geradenschnitt, Tabelle) {
       {"equal points for a parallel", {{{5, 5}, {5, 5}, {1, 0}, {0, 0}}}, 32, 0, -2},
       {"equal points for a perpendicular", {{{0, 0}, {0, 1}, {1, 0}, {1, 0}}}, 24, 0, -2},
   };
-  Pruefe(Faelle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& S, Lage&, double& Winkel) {
+  Prüfe(Fälle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& S, Lage&, double& Winkel) {
     return SchnittGeradeGeradeBerechnung(static_cast<int>(f.p), {P[0], P[1]}, {P[2], P[3]}, S, Winkel);
   });
   // A line and its own parallel stay parallel, although the shifted points are rounded.
@@ -81,7 +81,7 @@ TEST(Geradenschnitt, Tabelle) {
 TEST(KreisGerade, Tabelle) {
   constexpr Lage A{100, 130}, M{500, 600};
   const Lage A2 = Strahl(A, 70, 42, 36);
-  const Fall Faelle[] = {
+  const Fall Fälle[] = {
       {"Ghilani", {{M, A, A2}}, 350, 0, 2, {753.57, 358.75}, {452.22, 253.28}, 27.1362, Gedruckt},
       {"eastward", {{{0, 0}, {-9, 3}, {-8, 3}}}, 5, 0, 2, {4, 3}, {-4, 3}, 53.1301},
       {"westward", {{{0, 0}, {-8, 3}, {-9, 3}}}, 5, 0, 2, {-4, 3}, {4, 3}, 53.1301},
@@ -98,7 +98,7 @@ TEST(KreisGerade, Tabelle) {
       {"radius 0", {{{0, 0}, {6, 0}, {6, 9}}}, 0, 0, -1},
       {"equal points", {{{0, 0}, {6, 0}, {6, 0}}}, 5, 0, -2},
   };
-  Pruefe(Faelle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& S1, Lage& S2, double& Winkel) {
+  Prüfe(Fälle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& S1, Lage& S2, double& Winkel) {
     KreisGeradeSchnitt Werte{S1, S2, {}, 0, Winkel};
     const int Anzahl = SchnittKreisGeradeBerechnung(41, P[0], f.p, {P[1], P[2]}, Werte);
     S1 = Werte.S1, S2 = Werte.S2, Winkel = Werte.Winkel;
@@ -124,7 +124,7 @@ TEST(KreisGerade, Tabelle) {
 
 TEST(Kreisschnitt, Tabelle) {
   constexpr Lage G1{2851.28, 299.40}, G2{3898.72, 2870.15};
-  const Fall Faelle[] = {
+  const Fall Fälle[] = {
       {"Ghilani", {{G1, G2}}, 2000, 1500, 2, {4464.85, 1481.09}, {2523.02, 2272.28}, 104.0429, Gedruckt},
       {"eastward, negative radii", {{{0, 0}, {6, 0}}}, -5, -5, 2, {3, -4}, {3, 4}, 73.7398},
       {"northward", {{{0, 0}, {0, 6}}}, 5, 5, 2, {4, 3}, {-4, 3}, 73.7398},
@@ -137,7 +137,7 @@ TEST(Kreisschnitt, Tabelle) {
       {"equal centres", {{{1, 1}, {1, 1}}}, 5, 5, -2},
       {"radius 0", {{{0, 0}, {1, 1}}}, 5, 0, -2},
   };
-  Pruefe(Faelle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& S1, Lage& S2, double& Winkel) {
+  Prüfe(Fälle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& S1, Lage& S2, double& Winkel) {
     return SchnittKreisKreisBerechnung(P[0], f.p, P[1], f.q, S1, S2, Winkel);
   });
   Lage S1, S2;
@@ -155,7 +155,7 @@ TEST(Kreisschnitt, Tabelle) {
 
 // Two circles meet in the point that they were made from, and three points of a circle give it back.
 TEST(Kreisschnitt, KonstruiertePunkte) {
-  Gelaende G(1e3);
+  Gelände G(1e3);
   for (int i = 0; i < 5000; ++i) {
     const Lage M1 = G(), M2 = G(), P = G();
     const double r1 = Abstand(M1, P), r2 = Abstand(M2, P), w = G.Zahl(0, 400);
@@ -175,7 +175,7 @@ TEST(Kreisschnitt, KonstruiertePunkte) {
 
 TEST(Kreismittelpunkt, Tabelle) {
   const double r = std::sqrt(315.078125);
-  const Fall Faelle[] = {
+  const Fall Fälle[] = {
       // S. L. Loney, The Elements of Coordinate Geometry, 1895, on the circle: 4x2 + 4y2 - 142x + 47y + 138 =
       // 0.
       {"Loney", {{{1, 0}, {0, -6}, {3, 4}}}, 0, r, 0, {17.75, -5.875}, Leer, -191.9590},
@@ -187,7 +187,7 @@ TEST(Kreismittelpunkt, Tabelle) {
       {"first two equal", {{{1, 3}, {1, 3}, {0, 0}}}, 0, 9, -1},
       {"last two equal", {{{0, 0}, {1, 3}, {1, 3}}}, 0, 9, -1},
   };
-  Pruefe(Faelle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& M, Lage&, double& Winkel) {
+  Prüfe(Fälle, [](const Fall& f, const std::array<Lage, 4>& P, Lage& M, Lage&, double& Winkel) {
     Kreismittelpunkt K{M, Winkel, {9, 9, 9}};
     const int Ergebnis = KreisMittelpunktBerechnung(P[0], P[1], P[2], K);
     for (const double Radius : K.Radien) EXPECT_NEAR(Radius, f.q, 2e-9);
@@ -276,7 +276,7 @@ TEST_F(SchnitteTA, Ablehnungen) {
   EXPECT_EQ(Ta.KreisMittelpunktPnr(0, "E", "E", a, b), Fehler_Allgemein);
   EXPECT_EQ(Ta.SchnittGeradeGerade(0, 0, 1, std::nan(""), 5, 0, 7, 3, a, b), Fehler_Allgemein);
   EXPECT_EQ(Ta.SchnittKreisKreis(0, HUGE_VAL, 5, 1, 0, 5, a, b, c, d, &w, &n), Fehler_Allgemein);
-  EXPECT_TRUE(Unberuehrt() && w == Nichts);
+  EXPECT_TRUE(Unberührt() && w == Nichts);
 }
 
 }  // namespace

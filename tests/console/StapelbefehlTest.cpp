@@ -23,7 +23,7 @@ class Stapelbefehl : public TabellenTest {
     Schreibe(Auftrag.Stapel, Sta);
     Aus.str("");
     Meldungen.str("");
-    return StapelAusfuehren(Auftrag, Aus, Meldungen, "");
+    return StapelAusführen(Auftrag, Aus, Meldungen, "");
   }
   Stapelauftrag Auftrag;
   std::ostringstream Aus, Meldungen;
@@ -49,7 +49,7 @@ TEST_F(Stapelbefehl, FehlerUndFragenBeendenMitEins) {
   EXPECT_EQ(Laufen("M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n" + Gut), 1);
   EXPECT_EQ(Meldungen.str(),
             "Frage ohne Antwort (" + Auftrag.Stapel + ", Zeile 4): Punkt 77 nicht vorhanden\n");
-  EXPECT_EQ(Stapellauf.Bloecke, 1);  // nothing runs after it
+  EXPECT_EQ(Stapellauf.Blöcke, 1);  // nothing runs after it
   Auftrag.Koordinaten = Ordner.Pfad("fehlt.kor");
   EXPECT_EQ(Laufen(Gut), 1);
   EXPECT_NE(Meldungen.str().find("nicht vorhanden !"), std::string::npos);
@@ -78,7 +78,7 @@ TEST_F(Stapelbefehl, BeispielGibtSeinProtokoll) {
   const std::string Beispiel = std::string(TAVORENA_TESTS) + "/../examples/";
   Auftrag = {Beispiel + "musterdorf.kor", Ordner.Pfad("m.dru"), "", "", Beispiel + "musterdorf.sta"};
   std::ostringstream Still;
-  EXPECT_EQ(StapelAusfuehren(Auftrag, Still, Meldungen, ""), 0) << Meldungen.str();
+  EXPECT_EQ(StapelAusführen(Auftrag, Still, Meldungen, ""), 0) << Meldungen.str();
   EXPECT_TRUE(OhneStempel(Inhalt(Auftrag.Protokoll)) == OhneStempel(Inhalt(Beispiel + "musterdorf.dru")));
 }
 

@@ -21,7 +21,7 @@ class Datei : public ::testing::Test {
   const std::string Name = Ordner.Pfad("a.kor");
 };
 
-TEST_F(Datei, NamenMitLaufwerkUndRueckstrich) {
+TEST_F(Datei, NamenMitLaufwerkUndRückstrich) {
   EXPECT_EQ(Systempfad("c:\\auftrag\\a.kor"), "/auftrag/a.kor");
   EXPECT_EQ(Systempfad("auftrag\\a.kor"), "auftrag/a.kor");
   const Dateiname D = DateinameZerlegen("c:\\auf.trag/flur.7.kor");
@@ -41,24 +41,24 @@ TEST_F(Datei, Kodierungen) {
   EXPECT_EQ(NachWindows1252("Ω"), "?");
 }
 
-TEST_F(Datei, AnhaengenBehaeltDieKodierung) {
+TEST_F(Datei, AnhängenBehältDieKodierung) {
   const std::string Alt = Ordner.Pfad("alt.dru"), Neu = Ordner.Pfad("neu.dru");
   Schreibe(Alt, "M\xFCller\r\n");
-  for (const std::string& An : {Alt, Neu, Alt, Neu}) EXPECT_EQ(TextAnhaengen(An, "Höhe\r\n"), 0);
+  for (const std::string& An : {Alt, Neu, Alt, Neu}) EXPECT_EQ(TextAnhängen(An, "Höhe\r\n"), 0);
   EXPECT_EQ(Inhalt(Alt), "M\xFCller\r\nH\xF6he\r\nH\xF6he\r\n");
   EXPECT_EQ(Inhalt(Neu), "Höhe\r\nHöhe\r\n");
-  EXPECT_EQ(TextAnhaengen(Ordner.Pfad("kein/ordner.dru"), "x"), -1);
+  EXPECT_EQ(TextAnhängen(Ordner.Pfad("kein/ordner.dru"), "x"), -1);
 }
 
 TEST_F(Datei, ZeilenendenOhneVerlust) {
   // Mixed: nothing is lost. The code 0 ends a unix line and stays in the usual file.
-  const std::pair<std::string, std::string> Faelle[] = {
+  const std::pair<std::string, std::string> Fälle[] = {
       {"a\n\nb\r\nc\rd\n", "a||b|c|d|"}, {{"a\0b\nc", 5}, "a|b|c|"}, {{"a\0b\r\nc", 6}, {"a\0b|c|", 6}}};
-  for (const auto& [Text, Soll] : Faelle) {
+  for (const auto& [Text, Soll] : Fälle) {
     std::string Ist;
     std::string_view Zeile;
     Zeilenleser Leser(Text);
-    while (Leser.Naechste(Zeile)) Ist.append(Zeile) += '|';
+    while (Leser.Nächste(Zeile)) Ist.append(Zeile) += '|';
     EXPECT_EQ(Ist, Soll);
   }
 }
@@ -78,7 +78,7 @@ TEST_F(Datei, VolleScheibeUndNurLesbarerOrdnerLassenDieAlteDateiGanz) {
     const rlimit Grenze{1000, 1000};
     setrlimit(RLIMIT_FSIZE, &Grenze);
     const std::string Gross(5000, 'x');
-    return DateiErsetzen(Name, Gross) == -1 && TextAnhaengen(Name, Gross) == -1;
+    return DateiErsetzen(Name, Gross) == -1 && TextAnhängen(Name, Gross) == -1;
   }));
   EXPECT_EQ(Inhalt(Name), "alt");
   EXPECT_EQ(std::distance(fs::directory_iterator(Ordner.Pfad("")), {}), 1);  // no remains
@@ -90,7 +90,7 @@ TEST_F(Datei, VolleScheibeUndNurLesbarerOrdnerLassenDieAlteDateiGanz) {
   EXPECT_EQ(DateiErsetzen(Ordner.Pfad(""), "x"), -1);  // a folder is no file
 }
 
-TEST_F(Datei, AbbruchZuJederZeitLaesstEineGanzeDatei) {
+TEST_F(Datei, AbbruchZuJederZeitLäßtEineGanzeDatei) {
   const std::string A(300'000, 'a'), B(300'000, 'b');
   Schreibe(Name, A);
   for (int i = 0; i < 20; ++i) {

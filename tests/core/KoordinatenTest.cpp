@@ -56,7 +56,7 @@ TEST(Sortierung, WieDieAbschrift) {
 class Punkttabelle : public TabellenTest {};
 
 // One table against a plain list through a long row of new points: order, columns and search stay together.
-TEST_F(Punkttabelle, NeupunktHaeltOrdnungUndSpalten) {
+TEST_F(Punkttabelle, NeupunktHältOrdnungUndSpalten) {
   std::mt19937 Zufall(7);
   for (int Art = 0; Art < 4; ++Art) {
     KorLeeren();
@@ -96,12 +96,12 @@ TEST_F(Punkttabelle, SiebenAntworten) {
     const char* Soll;   // points, number handed back, Rechts of the result, number of the old point
     const char* Zeile;  // Rechts, height and symbol of point 5 in the table
   };
-  constexpr Fall Faelle[] = {
+  constexpr Fall Fälle[] = {
       {"ABB", -1, "1|5|104|", "100|10|015"},   {"ALÖ", 1, "1|5|104|", "104|12.5|020"},
       {"MIT", 2, "1|5|102|", "102|11.25|015"}, {"ANN", 3, "2|5|100|77", "104|12.5|020"},
       {"NLÖ", 11, "1|5|100|", "100|10|015"},   {"NNN", 13, "2|77|104|5", "100|10|015"},
   };
-  for (const Fall& f : Faelle) {
+  for (const Fall& f : Fälle) {
     SCOPED_TRACE(f.Wort);
     KorLeeren();
     Punkt("5", 100, 200, 10, "015");
@@ -155,7 +155,7 @@ TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
   EXPECT_EQ(KorAnzahl, KorZeilen);
 }
 
-TEST_F(Punkttabelle, LoeschenUndEinfuegen) {
+TEST_F(Punkttabelle, LöschenUndEinfuegen) {
   KorEinfuegen(0, "1", 1, 1, 1, "", {});
   EXPECT_EQ(KorAnzahl, 0);  // the first point comes through Neupunkt
   for (int i = 1; i <= 6; ++i) Punkt(std::to_string(i).c_str(), i, i, i, std::to_string(i).c_str());
@@ -178,9 +178,8 @@ TEST_F(Punkttabelle, BereichSucheVerschieben) {
   EXPECT_EQ(Reihe(a, b, c, d), "999999999.999|999999999.999|-99999999.999|-99999999.999");
   EXPECT_EQ(KorBereichSuche(1, 9, -1), -3);
   for (const char* Pnr : {"10", "12A", "14", "20"}) Punkt(Pnr, std::stod(Pnr), 100, 7);
-  constexpr int Naechste[] = {1, 1, 2, -1, -3};
-  for (int Start = -1; Start <= 3; ++Start)
-    EXPECT_EQ(KorBereichSuche("11", "15", Start), Naechste[Start + 1]);
+  constexpr int Nächste[] = {1, 1, 2, -1, -3};
+  for (int Start = -1; Start <= 3; ++Start) EXPECT_EQ(KorBereichSuche("11", "15", Start), Nächste[Start + 1]);
   const char* const Soll[] = {"-9|102|10", "102|-9|10", "-9|10|102", "10|102|-9"};
   for (int Tausch = 0; Tausch < 4; ++Tausch) {
     KorRechts[0] = 10, KorHoch[0] = 100, KorHoehe[0] = 7;

@@ -87,22 +87,22 @@ TEST_F(KorDatei, SchreibenLesenSchreibenGibtDieselbenBytes) {
 }
 
 TEST_F(KorDatei, Lt4HatFesteSpalten) {
-  KorInfoSatz Info, Zurueck;
+  KorInfoSatz Info, Zurück;
   Info.Lagestatus = "7";
   Info.Vermarkungsart = 12;
   Info.Punktstatus = 3;
   std::string Zeile, Pnr, Symbol;
   double R = 0, H = 0;
-  for (const auto& [Nummer, Schluessel] :
+  for (const auto& [Nummer, Schlüssel] :
        {std::pair{"12", "45590000000012"}, std::pair{"1234567", "45590001234567"}}) {
     Lt4ZeileSchreiben(Nummer, 1, 2, Info, Zeile);
-    EXPECT_EQ(Zeile.substr(4, 14), Schluessel);
+    EXPECT_EQ(Zeile.substr(4, 14), Schlüssel);
   }
   Lt4ZeileSchreiben("1234567890", 3500100.625, 5600200.25, Info, Zeile);
   EXPECT_EQ(Zeile, "007 45591234567890 012 3500100.625 5600200.250               3  ");
-  ASSERT_EQ(Lt4ZeileLesen(Zeile, Pnr, R, H, Symbol, Zurueck), 0);
-  EXPECT_EQ(Reihe(Pnr, R, H, Symbol, Zurueck.Lagestatus, Zurueck.Vermarkungsart, Zurueck.Punktstatus,
-                  Zurueck.Lagegenauigkeit),
+  ASSERT_EQ(Lt4ZeileLesen(Zeile, Pnr, R, H, Symbol, Zurück), 0);
+  EXPECT_EQ(Reihe(Pnr, R, H, Symbol, Zurück.Lagestatus, Zurück.Vermarkungsart, Zurück.Punktstatus,
+                  Zurück.Lagegenauigkeit),
             "1234567890|3500100.625|5600200.25|2|007|12|3| ");
   EXPECT_EQ(Lt4ZeileLesen("#" + Zeile, Pnr, R, H, Symbol, Info), -1);
   EXPECT_EQ(Lt4ZeileLesen(Zeile.substr(0, 63), Pnr, R, H, Symbol, Info), -1);
@@ -124,14 +124,14 @@ TEST_F(KorDatei, GrenzeVon20000Punkten) {
   EXPECT_EQ(KorAnzahl, 20001);
 }
 
-TEST_F(KorDatei, StopNimmtZurueck) {
+TEST_F(KorDatei, StopNimmtZurück) {
   ASSERT_EQ(Lies(Zeilen(5)), 0);
   KoordinatendateiName = "alt.kor";
   Skript.BeiEreignissen = [&] {
     if (KorAnzahl >= 300) KorStop = "Stop";
     EXPECT_NE(Skript.Status[1].find(" Punkte"), std::string::npos);
   };
-  ASSERT_EQ(Lies(Zeilen(1000, 10), ModusAnhaengen), 0);
+  ASSERT_EQ(Lies(Zeilen(1000, 10), ModusAnhängen), 0);
   EXPECT_EQ(Reihe(KorAnzahl, KorStop), "5|");
   EXPECT_EQ(Lies(Zeilen(1000)), -1);
   EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName), "0|");

@@ -27,7 +27,7 @@ TEST(ZahlFormat, Tabelle) {
   EXPECT_EQ(Reihe(ZahlFormat(std::nan(""), 3, 1), ZahlFormat(-Unendlich, 3, 1)), "***.*|***.*");
 }
 
-TEST(ZahlFormat, KaufmaennischAufDemDezimaltext) {
+TEST(ZahlFormat, KaufmännischAufDemDezimaltext) {
   const auto Gerundet = [](int N, std::initializer_list<double> Zahlen) {
     std::string Text;
     for (const double Zahl : Zahlen) Text += ZahlFormat(Zahl, -1, N) + " ";
@@ -84,16 +84,16 @@ TEST(ZahlVonText, NumerischerAnfang) {
 }
 
 TEST(ZahlNachText, ZustandBleibt) {
-  const std::pair<Wert, Wert> Faelle[] = {{"012", "012"},         {Null, ""},
-                                          {Leer, Leer},           {true, true},
-                                          {-4711.25, "-4711.25"}, {1e15, "1000000000000000"},
-                                          {0.1 + 0.2, "0.3"},     {1e-7, "0.0000001"}};
-  for (const auto& [Zahl, Soll] : Faelle) EXPECT_EQ(ZahlNachText(Zahl), Soll) << Soll.Text();
+  const std::pair<Wert, Wert> Fälle[] = {{"012", "012"},         {Null, ""},
+                                         {Leer, Leer},           {true, true},
+                                         {-4711.25, "-4711.25"}, {1e15, "1000000000000000"},
+                                         {0.1 + 0.2, "0.3"},     {1e-7, "0.0000001"}};
+  for (const auto& [Zahl, Soll] : Fälle) EXPECT_EQ(ZahlNachText(Zahl), Soll) << Soll.Text();
 }
 
-TEST(Text, ZeichenStattBytesLeereUndRaender) {
+TEST(Text, ZeichenStattBytesLeereUndRänder) {
   EXPECT_EQ(Reihe(FeldLinks("Meßlinie", 4), FeldLinks("ß", 3), Leerzeichen(-3)), "Meßl|ß  |");
-  EXPECT_EQ(Reihe(FeldRechts("Höhe", 3), FeldRechts("ö", 3), Grosstext("kanalmeßstäb")),
+  EXPECT_EQ(Reihe(FeldRechts("Höhe", 3), FeldRechts("ö", 3), Großtext("kanalmeßstäb")),
             "öhe|  ö|KANALMEßSTÄB");
   EXPECT_EQ(Reihe(TeilVonRechts("abcdef", 3, 2), TeilVonRechts("abcdef", 3, 9), TeilVonRechts("abcdef", 7, 1),
                   TeilVonRechts("abcdef", 0, 1)),
@@ -112,10 +112,10 @@ TEST(Text, ZeichenStattBytesLeereUndRaender) {
 
 TEST(Winkel, Quadranten) {
   // East and north of the target, direction in gon, mathematical angle in degrees.
-  constexpr double Faelle[][4] = {{0, 10, 0, 90},      {10, 10, 50, 45},    {10, 0, 100, 0},
-                                  {10, -10, 150, 315}, {0, -10, 200, 270},  {-10, -10, 250, 225},
-                                  {-10, 0, 300, 180},  {-10, 10, 350, 135}, {0, 0, 0, 90}};
-  for (const auto& [dR, dH, Gon, Mathe] : Faelle) {
+  constexpr double Fälle[][4] = {{0, 10, 0, 90},      {10, 10, 50, 45},    {10, 0, 100, 0},
+                                 {10, -10, 150, 315}, {0, -10, 200, 270},  {-10, -10, 250, 225},
+                                 {-10, 0, 300, 180},  {-10, 10, 350, 135}, {0, 0, 0, 90}};
+  for (const auto& [dR, dH, Gon, Mathe] : Fälle) {
     EXPECT_NEAR(Richtungswinkel(3500000, 5600000, 3500000 + dR, 5600000 + dH), Gon, 1e-10);
     EXPECT_NEAR(WinkelGrad(dH, dR), Mathe, 1e-10);
   }
@@ -127,9 +127,9 @@ TEST(Winkel, Quadranten) {
 }
 
 TEST(Winkel, Reduzieren) {
-  constexpr double Faelle[][2] = {{400, 0},  {-0.0001, 399.9999}, {799.5, 399.5},
-                                  {-400, 0}, {-1e-20, 0},         {0, 0}};
-  for (const auto& [Ein, Aus] : Faelle) {
+  constexpr double Fälle[][2] = {{400, 0},  {-0.0001, 399.9999}, {799.5, 399.5},
+                                 {-400, 0}, {-1e-20, 0},         {0, 0}};
+  for (const auto& [Ein, Aus] : Fälle) {
     double g = Ein;
     GonReduzieren(g);
     EXPECT_DOUBLE_EQ(g, Aus) << Ein;

@@ -39,10 +39,10 @@ class Testplattform final : public PlattformQt {
   Zeitpunkt Jetzt() override { return {2003, 2, 1, 10, 15}; }
   double Zeitgeber() override { return Sekunden += 1; }
   void EreignisseAbarbeiten() override {
-    if (StopDruecken) Fenster.findChild<QAction*>("ImageStop")->trigger();
+    if (StopDrücken) Fenster.findChild<QAction*>("ImageStop")->trigger();
     PlattformQt::EreignisseAbarbeiten();
   }
-  bool StopDruecken = false;
+  bool StopDrücken = false;
 
  private:
   Hauptfenster& Fenster;
@@ -59,7 +59,7 @@ void Tippe(const QString& Text) {
   }
 }
 
-void Druecke(Qt::Key Taste, Qt::KeyboardModifiers Mit = Qt::NoModifier) {
+void Drücke(Qt::Key Taste, Qt::KeyboardModifiers Mit = Qt::NoModifier) {
   QTest::keyClick(QApplication::focusWidget(), Taste, Mit);
   QCoreApplication::processEvents();
 }
@@ -90,10 +90,10 @@ class FensterTest : public QObject {
   QPointer<QWidget> Bedient;
 
   QString Pfad(const char* Name) const { return Ordner.filePath(Name); }
-  void Menue(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
+  void Menü(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
 
   // Chooses a file in the file dialog by typing its name.
-  void Waehle(const QString& Name) {
+  void Wähle(const QString& Name) {
     Dialoge.push_back([Name] {
       auto* Dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       QVERIFY(Dialog != nullptr);
@@ -109,22 +109,22 @@ class FensterTest : public QObject {
     Dialoge.push_back([=] { Tippe(Text); });
   }
 
-  void Oeffne() {
+  void Öffne() {
     Schreibe(Pfad("a.kor"),
              "1001 3500100 5600200 12.5 015\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n"
              "2004 3500100 5600275\r\n2005 3500220 5600360\r\n");
     QFile::remove(Pfad("a.dru"));
     QFile::remove(Pfad("a.sta"));
-    Waehle(Pfad("a.kor"));
+    Wähle(Pfad("a.kor"));
     QTest::keyClick(Fenster.get(), Qt::Key_O, Qt::ControlModifier);
     QCOMPARE(KorAnzahl, 5);
     QTRY_VERIFY(Fenster->isActiveWindow());
   }
   // Opens the file and a worksheet without a plan.
-  void Oeffne(const char* Blatt) {
-    Oeffne();
+  void Öffne(const char* Blatt) {
+    Öffne();
     Optionen.AbfrageRiss = false;
-    Menue(Blatt);
+    Menü(Blatt);
   }
   static QString FokusName() {
     return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : "";
@@ -159,7 +159,7 @@ class FensterTest : public QObject {
     QFile::remove(Pfad("app/Tavorena.ini"));
     LetztePunktnummer.clear();
     ProtokollLeeren();
-    HauptAnschliessen();
+    HauptAnschließen();
     Fenster->show();
     HauptInitialisierung();
     QVERIFY(QTest::qWaitForWindowActive(Fenster.get()));
@@ -169,7 +169,7 @@ class FensterTest : public QObject {
     QVERIFY2(Dialoge.empty(), "a dialog did not come");
     StapelAnhalten();
     KoordinatendateiName.clear();
-    BlaetterSchliessen();
+    BlätterSchließen();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     PlattformSetzen(nullptr);
     Plattform.reset();
@@ -178,28 +178,28 @@ class FensterTest : public QObject {
 
   // Open a file, three worksheets, leave, save; look at the three files; replay the job on them.
   void einAuftragMitDerTastatur() {
-    Oeffne();
+    Öffne();
     Antworte("Riss 12\n3\n");
     QTest::keyClick(Fenster.get(), Qt::Key_R, Qt::AltModifier);
     QVERIFY(QApplication::activePopupWidget() != nullptr);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_L);  // not the disabled one of this letter
     Tippe("1001\n1002\n0\n99,93\n2003\n2004\n");
-    Druecke(Qt::Key_Plus, Qt::KeypadModifier);
+    Drücke(Qt::Key_Plus, Qt::KeypadModifier);
     Tippe("\n\n\n");  // 2005, then out of the grid, then the end of the connection
     QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
-    Druecke(Qt::Key_S, Qt::AltModifier);
-    QTRY_VERIFY(!BlaetterOffen());
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
     Antworte("\n\n");  // the plan stays
-    Menue("MenüKatasterPolel");
+    Menü("MenüKatasterPolel");
     QTRY_COMPARE(FokusName(), QString("PolelAnfPnr"));
     Tippe("1001\n1002\n12.5\n99.98\n2003\n2004\n\n\n");
-    Druecke(Qt::Key_S, Qt::AltModifier);
+    Drücke(Qt::Key_S, Qt::AltModifier);
     Antworte("\n\n");
-    Menue("MenüKatasterDis");
+    Menü("MenüKatasterDis");
     QTRY_COMPARE(FokusName(), QString("DisAnfPnr"));
     Tippe("1001\n1002\n99.8\n2005\n0\n");
-    Druecke(Qt::Key_S, Qt::AltModifier);
-    QTRY_VERIFY(!BlaetterOffen());
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
     QTest::keyClick(Fenster.get(), Qt::Key_S, Qt::ControlModifier);
     QVERIFY(
         Inhalt(Pfad("a.kor")).startsWith("          1001   3500100.000   5600200.000      12.500  015\r\n"));
@@ -211,22 +211,22 @@ class FensterTest : public QObject {
     QCOMPARE(Stapel.count("\nNR  ") + Stapel.count("\nNND "), 6);
 
     ProtokollNehmen(Pfad("b.dru").toStdString());
-    Waehle(Pfad("a.sta"));
-    Menue("MenüDateiStapel");
+    Wähle(Pfad("a.sta"));
+    Menü("MenüDateiStapel");
     for (const char* Name : {"Linienelemente", "Polarelemente", "Entfernungskontrolle"}) {
       QVERIFY(StapelAktiv);  // each block shows its connection and waits
       const QString Erwartet = QString("Tavorena ") + Name + " [Stapel]";
       QTRY_VERIFY(FokusName().endsWith("Weiter") &&
                   QApplication::focusWidget()->parentWidget()->windowTitle() == Erwartet);
-      Druecke(Qt::Key_W, Qt::AltModifier);
+      Drücke(Qt::Key_W, Qt::AltModifier);
     }
-    QTRY_VERIFY(!StapelAktiv && !BlaetterOffen());
+    QTRY_VERIFY(!StapelAktiv && !BlätterOffen());
     QCOMPARE(Inhalt(Pfad("a.sta")), Stapel);
     QCOMPARE(Inhalt(Pfad("b.dru")), Protokoll);
   }
 
   void fehlenderPunktUndFokus() {
-    Oeffne("MenüKatasterLinel");
+    Öffne("MenüKatasterLinel");
     QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
     Antworte(Qt::Key_Escape, Qt::NoModifier);
     Tippe("77\n");
@@ -236,12 +236,12 @@ class FensterTest : public QObject {
     QCOMPARE(KorAnzahl, 6);
     QTRY_COMPARE(FokusName(), QString("LinelEndPnr"));
     Tippe("1002");
-    Druecke(Qt::Key_Tab);
+    Drücke(Qt::Key_Tab);
     QTRY_COMPARE(FokusName(), QString("LinelAnlegemass"));
     QCOMPARE(qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectedText(), QString("0.000"));
-    Druecke(Qt::Key_Backtab, Qt::ShiftModifier);
+    Drücke(Qt::Key_Backtab, Qt::ShiftModifier);
     QTRY_COMPARE(FokusName(), QString("LinelEndPnr"));
-    Druecke(Qt::Key_Minus);  // wholly selected: it counts
+    Drücke(Qt::Key_Minus);  // wholly selected: it counts
     QCOMPARE(Feldtext(), QString("1001"));
     QTest::keyClicks(QApplication::focusWidget(), "-5");  // now it belongs to the number
     QCOMPARE(Feldtext(), QString("1001-5"));
@@ -249,50 +249,50 @@ class FensterTest : public QObject {
     QTest::mouseClick(Fenster->findChild<QWidget*>("LinelEndmass"), Qt::LeftButton);
     QTRY_VERIFY(Dialoge.empty());
     QTRY_COMPARE(FokusName(), QString("LinelEndPnr"));  // the number does not exist: the focus goes back
-    Druecke(Qt::Key_S, Qt::AltModifier);                // closing works all the same
-    QTRY_VERIFY(!BlaetterOffen());
+    Drücke(Qt::Key_S, Qt::AltModifier);                 // closing works all the same
+    QTRY_VERIFY(!BlätterOffen());
   }
 
   void zeilenImGitter() {
-    Oeffne("MenüKatasterLinel");
+    Öffne("MenüKatasterLinel");
     Tippe("1001\n1002\n0\n0\n2003\n2004\n");
-    Druecke(Qt::Key_Tab);  // out of the grid, and back
+    Drücke(Qt::Key_Tab);  // out of the grid, and back
     QTRY_COMPARE(FokusName(), QString("LinelEnd10"));
-    Druecke(Qt::Key_Backtab, Qt::ShiftModifier);
+    Drücke(Qt::Key_Backtab, Qt::ShiftModifier);
     QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
-    Druecke(Qt::Key_Up);
+    Drücke(Qt::Key_Up);
     QCOMPARE(Feldtext(), QString("2004"));
     Tippe("2005\n");  // corrected
-    Druecke(Qt::Key_Up);
-    Druecke(Qt::Key_Up);
-    Druecke(Qt::Key_L, Qt::AltModifier);  // the first row goes
+    Drücke(Qt::Key_Up);
+    Drücke(Qt::Key_Up);
+    Drücke(Qt::Key_L, Qt::AltModifier);  // the first row goes
     QTRY_COMPARE(Inhalt(Pfad("a.dru")).count("***gelöscht"), 2);
     QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
-    Druecke(Qt::Key_N, Qt::AltModifier);
+    Drücke(Qt::Key_N, Qt::AltModifier);
     QTRY_VERIFY(Inhalt(Pfad("a.sta")).contains("PEN     1002        0.0000\r\nNR      2005\r\nE Ende"));
     Tippe("1001\n1002\n0\n0\n2003");
     Antworte(Qt::Key_N);
     Antworte(Qt::Key_J);
-    Druecke(Qt::Key_S, Qt::AltModifier);
-    QTRY_VERIFY(!BlaetterOffen());
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
   }
 
   void langesLesenLaesstSichAnhalten() {
-    Oeffne();
+    Öffne();
     QByteArray Gross;
     for (int i = 0; i < 5000; ++i) Gross += QString("%1 1.0 2.0\r\n").arg(10000 + i).toUtf8();
     Schreibe(Pfad("gross.kor"), Gross);
-    Plattform->StopDruecken = true;
-    Waehle(Pfad("gross.kor"));
-    Menue("MenüDateiHinzuLesenKomplett");
+    Plattform->StopDrücken = true;
+    Wähle(Pfad("gross.kor"));
+    Menü("MenüDateiHinzuLesenKomplett");
     QCOMPARE(KorAnzahl, 5);
     QVERIFY(QApplication::overrideCursor() == nullptr);
     QVERIFY(Fenster->findChild<QAction*>("MenüKatasterLinel")->isEnabled());
   }
 
   void hilfeOptionenUndEnde() {
-    Oeffne("MenüKatasterPolel");
-    Druecke(Qt::Key_F1);
+    Öffne("MenüKatasterPolel");
+    Drücke(Qt::Key_F1);
     QTextBrowser* Handbuch = nullptr;
     for (QWidget* W : QApplication::topLevelWidgets()) {
       if (W->objectName() == "Handbuch") Handbuch = qobject_cast<QTextBrowser*>(W);
@@ -310,10 +310,10 @@ class FensterTest : public QObject {
       }
     }
     Antworte(Qt::Key_Escape, Qt::NoModifier);
-    Menue("MenüOptionenOptionen");
+    Menü("MenüOptionenOptionen");
     Antworte(Qt::Key_N);
     QVERIFY(!Fenster->close());  // "Tavorena beenden ?" No
-    QVERIFY(BlaetterOffen());
+    QVERIFY(BlätterOffen());
     Antworte(Qt::Key_J);
     Antworte(Qt::Key_A);
     QVERIFY(!Fenster->close());  // the save question was cancelled
@@ -324,8 +324,7 @@ class FensterTest : public QObject {
   }
 
   void jederEintragIstImMenue() {
-    for (const Menueeintrag& E : Menuebaum())
-      QVERIFY2(Fenster->findChild<QAction*>(E.Name) != nullptr, E.Name);
+    for (const Menüeintrag& E : Menübaum()) QVERIFY2(Fenster->findChild<QAction*>(E.Name) != nullptr, E.Name);
     for (const Werkzeug& W : Symbolleiste()) {
       auto* A = Fenster->findChild<QAction*>(W.Name);
       QVERIFY2(A != nullptr && !A->icon().isNull(), W.Name);

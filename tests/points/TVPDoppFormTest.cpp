@@ -22,12 +22,12 @@ class TVPDoppFormTest : public TabellenTest {
 
 TEST_F(TVPDoppFormTest, ZeigtBeidePunkteUndIhreAbweichung) {
   const int Code = Rechne([](Formular& Form) {
-    Form.Oeffnen();
+    Form.Öffnen();
     EXPECT_EQ(Text(Form, "AlterPunktRechts") + "|" + Text(Form, "NeuerPunktRechts"), "100.000|104.000");
     EXPECT_EQ(Text(Form, "DeltaRechts") + "|" + Text(Form, "DeltaHoch"), "-4.000|3.000");  // old minus new
     EXPECT_EQ(Text(Form, "DeltaHöhe") + "|" + Text(Form, "DeltaS"), "-2.500|5.000");
     EXPECT_EQ(Form.Fokus()->Name, "PDoppAbbruch");
-    Form.TasteDruecken(Taste::Escape);
+    Form.TasteDrücken(Taste::Escape);
   });
   EXPECT_EQ(Code, -1);
   EXPECT_EQ(KorRechts[0], 100);
@@ -36,18 +36,18 @@ TEST_F(TVPDoppFormTest, ZeigtBeidePunkteUndIhreAbweichung) {
 TEST_F(TVPDoppFormTest, NeueNummerMussFreiSein) {
   Skript.Erwarte("Punkt 6schon vorhanden !");
   const int Code = Rechne([](Formular& Form) {
-    Form.Oeffnen();
-    Druecke(Form, "PDoppNeuenNeunum");
+    Form.Öffnen();
+    Drücke(Form, "PDoppNeuenNeunum");
     EXPECT_TRUE(Form.Offen());  // not before a number was typed
     Tippe(Form, "NeuerPunktPnr", "6");
     Form.FokusWechseln(*Form.Finde("PDoppMitteln"));
     EXPECT_EQ(Form.Fokus()->Name, "NeuerPunktPnr");
-    Form.TasteDruecken(Taste::Escape);
+    Form.TasteDrücken(Taste::Escape);
   });
   EXPECT_EQ(Code, -1);
 }
 
-TEST_F(TVPDoppFormTest, RueckgaengigZeigtNeuUndAntwortenWirken) {
+TEST_F(TVPDoppFormTest, RückgängigZeigtNeuUndAntwortenWirken) {
   Skript.Formulare.push_back(Bediene({{"NeuerPunktPnr", "77"}, {"PDoppRückgängig", ""}}));
   EXPECT_EQ(Rechne(Bediene({{"NeuerPunktPnr", " 77"}, {"PDoppNeuenNeunum", ""}})), 13);
   EXPECT_EQ(Pnr, Wert("77"));

@@ -24,7 +24,7 @@ class Protokoll : public TabellenTest {
   const Protpunkt A{3500100, 5600200, "1001"}, E{3500160, 5600280, "1002"}, P{3500130, 5600230, "2003"};
 };
 
-TEST_F(Protokoll, BloeckeUnterIhrenKoepfen) {
+TEST_F(Protokoll, BlöckeUnterIhrenKöpfen) {
   ProtKopfBeiWechsel("VR 24.40 Linienelemente");
   Protanschluss L = Anschluss();
   L.AnfWert1 = 0.0;
@@ -70,7 +70,7 @@ TEST_F(Protokoll, SpaltenWandernNichtMitDenDezimalen) {
   EXPECT_TRUE(Ist().ends_with("<\r\n      #Fehler: Zu viele Nachkommastellen#\r\n"));
 }
 
-TEST_F(Protokoll, SeitenZaehlenUndBrechenNach50Zeilen) {
+TEST_F(Protokoll, SeitenZählenUndBrechenNach50Zeilen) {
   ProtKopfBeiWechsel("VR 22.10 Entfernungskontrolle");
   EXPECT_EQ(Reihe(ProtZeilen, ProtSeite), "9|2");  // starts at 1, the head has 8 lines
   ProtBlock(std::vector<std::string>(41, "x"));
@@ -85,8 +85,8 @@ TEST_F(Protokoll, SeitenZaehlenUndBrechenNach50Zeilen) {
   ProtKopfBeiWechsel("VR 24.40 Linienelemente");
   const std::string Text = Ist();
   EXPECT_EQ(std::count(Text.begin(), Text.end(), '\f'), 2);
-  for (const char* Stueck : {"x\r\n\f\r\n---", "Seite  2|", "Seite  3|"})
-    EXPECT_NE(Text.find(Stueck), std::string::npos);
+  for (const char* Stück : {"x\r\n\f\r\n---", "Seite  2|", "Seite  3|"})
+    EXPECT_NE(Text.find(Stück), std::string::npos);
   ProtOhneUmbruch = true;
   ProtBlock(std::vector<std::string>(99, "y"));
   EXPECT_GT(ProtZeilen, 99);

@@ -77,17 +77,17 @@ TEST_F(Stapel, OhneDateiUndMitSchreibfehler) {
   EXPECT_FALSE(StapelBlockOffen());
 }
 
-TEST_F(Stapel, KoepfeUndKommentare) {
-  int Bloecke = 0;
+TEST_F(Stapel, KöpfeUndKommentare) {
+  int Blöcke = 0;
   Laufen(
       "lose Zeile\r\n\r\nM VR 09.00 ohne Ende\r\nM VR 65.00 Flächen\r\nPN 1\r\nE Ende\r\nEM x\r\n"
       "m vr le\r\nC Kommentar\r\nRISS  Riss 7 b\r\npan 1 1,5\r\nCassini\r\nPEN 2\r\nNR 3 9 9\r\ne\r\n"
       "EM\r\nM 3D WINKEL\r\nE\r\nM VR 24.40 Linienelemente\r\n",
       [&] {
-        ++Bloecke;
+        ++Blöcke;
         std::string A, E, P;
         double a = 9, e = 9;
-        if (Bloecke == 2) {  // the file ends inside the block
+        if (Blöcke == 2) {  // the file ends inside the block
           Skript.Erwarte("Fehler aufgetreten im Stapel\n" + StapeldateiName +
                          "\nZeile: 19\nUnerwartetes Dateiende");
           EXPECT_EQ(StapelLesenPnrMitWerte(A, a, E, e), -1);
@@ -98,8 +98,8 @@ TEST_F(Stapel, KoepfeUndKommentare) {
         EXPECT_EQ(Reihe(ProtArt, Riss, A, a, E, e, P), "vr le|Riss 7 b|1|1.5|2|0|3");
         EXPECT_EQ(StapelLesePnr("NR", P), -2);
       });
-  EXPECT_EQ(Reihe(Bloecke, Stapellauf.Fehler, StapelAktiv), "2|1|0");
-  EXPECT_EQ(Stapellauf.Uebergangen, (std::vector<std::string>{"09.00", "65.00", "3D WINKEL"}));
+  EXPECT_EQ(Reihe(Blöcke, Stapellauf.Fehler, StapelAktiv), "2|1|0");
+  EXPECT_EQ(Stapellauf.Übergangen, (std::vector<std::string>{"09.00", "65.00", "3D WINKEL"}));
 }
 
 TEST_F(Stapel, FalscherKopfUndFalscherSatzBeendenDenLauf) {
@@ -131,17 +131,17 @@ TEST_F(Stapel, GrenzenDesLaufs) {
   StapelStarten("");
   Skript.Erwarte("Fehler 53");
   StapelStarten(Ordner.Pfad("fehlt.sta"));
-  int Bloecke = 0;
+  int Blöcke = 0;
   std::string Text, P;
   for (int i = 0; i < 5000; ++i) Text += "M VR LE\r\nE\r\n";
   const auto Lesen = [&] {
-    ++Bloecke;
+    ++Blöcke;
     EXPECT_EQ(StapelLesePnr("NR", P), -2);
   };
   Laufen(Text + "C\r\n", Lesen);  // 10001 lines, block after block without recursion
   Skript.Erwarte("Fehler 9 in Stapelmodul.StapelStarten");
   Laufen(Text + "C\r\nC\r\n", Lesen);
-  EXPECT_EQ(Bloecke, 5000);
+  EXPECT_EQ(Blöcke, 5000);
 }
 
 }  // namespace

@@ -9,12 +9,12 @@ namespace {
 using Haupt = Shelltest;
 
 TEST_F(Haupt, DateiLesenNimmtDieDateienDaneben) {
-  Oeffne();
+  Öffne();
   EXPECT_EQ(Reihe(KorAnzahl, ProtokolldateiName, StapeldateiName), Reihe(3, A_dru, Ordner.Pfad("a.sta")));
   EXPECT_EQ(Reihe(Skript.Fenstertitel, Skript.Status[0], Skript.Status[1], Skript.Status[2]),
             Reihe("Tavorena    " + A_kor, "   " + A_kor + "   ", "3 Punkte", "Version: 2.2"));
   EXPECT_EQ(Reihe(Historie[0].Dateiname, Optionen.VerzeichnisLetztes), Reihe(A_kor, Ordner.Pfad("")));
-  EXPECT_EQ(Skript.Auftraege[0].Titel, "Koordinatendatei zum Lesen auswählen");
+  EXPECT_EQ(Skript.Aufträge[0].Titel, "Koordinatendatei zum Lesen auswählen");
   // Every change of file asks, even when nothing changed; cancel leaves everything.
   Skript.Erwarte("Koordinaten in Koordinatendatei\n\n" + A_kor + "\n\nspeichern ? ", KnopfAbbruch);
   Befehl("MenüDateiSchließen");
@@ -24,13 +24,13 @@ TEST_F(Haupt, DateiLesenNimmtDieDateienDaneben) {
   EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName, ProtokolldateiName, StapeldateiName), "0|||");
 }
 
-TEST_F(Haupt, Menuezustaende) {
+TEST_F(Haupt, Menüzustände) {
   EXPECT_FALSE(Aktiv("MenüMain(4)") || Aktiv("MenüDateiSpeichern(0)") || Aktiv("MenüKatasterLinel") ||
                Sichtbar("MenüMain(6)"));
   EXPECT_TRUE(Aktiv("MenüDateiNeu") && Aktiv("MenüOptionenOptionen") && Aktiv("MenüOptionenDateinam") &&
               Sichtbar("MenüMain(18)"));
   EXPECT_FALSE(Sichtbar("MenüMain(9)") || Sichtbar("MenüDateiImportierenMain"));
-  Oeffne();
+  Öffne();
   EXPECT_TRUE(Aktiv("MenüMain(4)") && Aktiv("MenüKatasterLinel") && BildAktiv("ImageVR2440") &&
               Sichtbar("MenüMain(5)"));
   // There is no calculation behind these yet.
@@ -38,22 +38,22 @@ TEST_F(Haupt, Menuezustaende) {
   EXPECT_TRUE(BildAktiv("ImageDateiLesen") && BildAktiv("ImageProgrammende") && BildAktiv("ImageOptionen"));
   Optionen.AbfrageRiss = false;
   Befehl("MenüKatasterPolel");
-  EXPECT_TRUE(BlaetterOffen());
-  TVKernMDIForm::Fenster().Beschaeftigt(true);
+  EXPECT_TRUE(BlätterOffen());
+  TVKernMDIForm::Fenster().Beschäftigt(true);
   EXPECT_TRUE(BildAktiv("ImageStop") && !Aktiv("MenüDateiBeenden"));
-  TVKernMDIForm::Fenster().Beschaeftigt(false);
+  TVKernMDIForm::Fenster().Beschäftigt(false);
   EXPECT_FALSE(BildAktiv("ImageDateiLesen") || BildAktiv("ImageProgrammende") || BildAktiv("ImageOptionen") ||
                BildAktiv("ImageStop"));
   Skript.Erwarte("speichern ? ", KnopfNein);
   Befehl("MenüDateiSchließen");  // the worksheet goes with its file
-  EXPECT_FALSE(BlaetterOffen());
+  EXPECT_FALSE(BlätterOffen());
   EXPECT_TRUE(Aktiv("MenüDateiHist(1)"));
-  Oeffne();
+  Öffne();
   EXPECT_FALSE(Aktiv("MenüDateiHist(1)"));
 }
 
 TEST_F(Haupt, VorhandenesProtokollFragt) {
-  Oeffne();
+  Öffne();
   // The button, what is chosen in its dialog; the protocol, what stands in the old one and the points then.
   using Fall = std::tuple<int, std::deque<std::string>, std::string, const char*, int>;
   for (const auto& [Antwort, Anderes, Protokoll, Altes, Punkte] :
@@ -71,7 +71,7 @@ TEST_F(Haupt, VorhandenesProtokollFragt) {
   }
 }
 
-TEST_F(Haupt, MisslungenesLesenLaesstDenTitelStehen) {
+TEST_F(Haupt, MisslungenesLesenLäßtDenTitelStehen) {
   Skript.Erwarte("nicht vorhanden !");
   Befehl("MenüDateiLesen(0)", Ordner.Pfad("fehlt.kor"));
   EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("fehlt.kor"));
@@ -108,7 +108,7 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
 }
 
 TEST_F(Haupt, Hinzulesen) {
-  Oeffne();
+  Öffne();
   EXPECT_FALSE(KoordinatenGeaendert);
   const std::string Datei = Ordner.Pfad("h.kor");
   Schreibe(Datei, "1001 9.0 9\r\n3001 1.0 1\r\n3002 1.0 1\r\n3003 1.0 1\r\n3003 2.0 2\r\n");
@@ -125,12 +125,12 @@ TEST_F(Haupt, Hinzulesen) {
   EXPECT_EQ(KorAnzahl, 12);
 }
 
-TEST_F(Haupt, StapelUeberDasMenueUndOffenerBlock) {
-  Oeffne();
+TEST_F(Haupt, StapelÜberDasMenüUndOffenerBlock) {
+  Öffne();
   const std::string Sta = Ordner.Pfad("lauf.sta");
   Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 65.00 x\r\nE\r\n");
   Befehl("MenüDateiStapel", Sta);
-  EXPECT_FALSE(StapelAktiv || BlaetterOffen());
+  EXPECT_FALSE(StapelAktiv || BlätterOffen());
   EXPECT_EQ(Skript.Status[4], "   Stapel beendet: 1 Blöcke, 1 Zeilen, übergangen: 65.00   ");
   EXPECT_FALSE(DateiVorhanden(StapeldateiName));
   StapelKopfLinie("VR 24.40 Linienelemente", "1001", 0, "1002", 0);
@@ -139,11 +139,11 @@ TEST_F(Haupt, StapelUeberDasMenueUndOffenerBlock) {
     Befehl(Name);
     EXPECT_EQ(Skript.Status[4], "   Stapel noch nicht abgeschlossen   ");
   }
-  EXPECT_FALSE(BlaetterOffen());
+  EXPECT_FALSE(BlätterOffen());
 }
 
 TEST_F(Haupt, BeendenFragtUndSichert) {
-  Oeffne();
+  Öffne();
   Punkt("7", 1, 2);
   Skript.Erwarte("Tavorena beenden ?", KnopfNein);
   EXPECT_EQ(HauptBeenden(), -1);
@@ -157,11 +157,11 @@ TEST_F(Haupt, BeendenFragtUndSichert) {
 }
 
 TEST_F(Haupt, ProtokollwechselAnsichtUndTextErsetzen) {
-  Oeffne();
+  Öffne();
   Befehl("MenüDateiProtokoll", "");
   EXPECT_EQ(ProtokolldateiName, A_dru);  // cancel changes nothing
   Befehl("MenüDateiProtokoll", Ordner.Pfad("p.dru"));
-  EXPECT_EQ(Reihe(ProtokolldateiName, Skript.Auftraege.back().Zusatz),
+  EXPECT_EQ(Reihe(ProtokolldateiName, Skript.Aufträge.back().Zusatz),
             Ordner.Pfad("p.dru") + "|kein Protokoll");
   Optionen.DateinameEditorNT = "ed";
   Befehl("MenüAnsichtKoordinatendatei");
@@ -182,10 +182,10 @@ TEST_F(Haupt, ProtokollwechselAnsichtUndTextErsetzen) {
 TEST_F(Haupt, AllgemeineDialoge) {
   const std::string Lang = "/" + std::string(60, 'x');
   Skript.Formulare.push_back([](Formular& Form) {
-    Form.Oeffnen();
+    Form.Öffnen();
     EXPECT_EQ(Form.Steuerelemente()[1]->Text, "..." + std::string(50, 'x'));
     EXPECT_EQ(Form.Fokus()->Name, "Knopf(2)");  // the third button is the default
-    Form.TasteDruecken(Taste::Return);
+    Form.TasteDrücken(Taste::Return);
   });
   EXPECT_EQ(DateiVorhandenFrage(Lang), -1);
   Knopf(1);
@@ -209,36 +209,36 @@ TEST_F(Haupt, AllgemeineDialoge) {
   EXPECT_EQ(Reihe(Verzeichnis, Skript.Titel.back()), "/|Tavorena Fehlermeldung");
 }
 
-TEST_F(Haupt, DateinamenDialogSchuetztEinUndAusgabe) {
+TEST_F(Haupt, DateinamenDialogSchütztEinUndAusgabe) {
   const std::string Ein = Ordner.Pfad("ein.kor"), Aus = Ordner.Pfad("aus.kor");
   Schreibe(Aus, "alt");
   Dateifeld Felder[] = {{"Eingabe", Ein, "", false}, {"Ausgabe", Ein, "", true}};
   Skript.Erwarte("Dateiname für Ein- und Ausgabe ist gleich:\n" + Ein);
   Skript.Dateien = {Aus};
   Skript.Formulare.push_back([this](Formular& Form) {
-    Form.Oeffnen();
-    Druecke(Form, "OK");
-    Druecke(Form, "Waehlen(1)");
+    Form.Öffnen();
+    Drücke(Form, "OK");
+    Drücke(Form, "Waehlen(1)");
     Knopf(2);
-    Druecke(Form, "OK");
+    Drücke(Form, "OK");
     EXPECT_TRUE(Form.Offen());  // it exists and was not given up
     Knopf(1);
-    Druecke(Form, "OK");
+    Drücke(Form, "OK");
   });
   EXPECT_EQ(ZweiDateinamen("T", Felder), 0);
   EXPECT_EQ(Felder[1].Name, Aus);
   EXPECT_FALSE(DateiVorhanden(Aus));
 }
 
-TEST(Menuebaum, IstGeschlossen) {
-  for (const Menueeintrag& E : Menuebaum()) {
-    EXPECT_TRUE(*E.Eltern == '\0' || MenueFinden(E.Eltern) != nullptr) << E.Name;
-    EXPECT_EQ(MenueFinden(E.Name), &E) << "twice: " << E.Name;
+TEST(Menübaum, IstGeschlossen) {
+  for (const Menüeintrag& E : Menübaum()) {
+    EXPECT_TRUE(*E.Eltern == '\0' || MenüFinden(E.Eltern) != nullptr) << E.Name;
+    EXPECT_EQ(MenüFinden(E.Name), &E) << "twice: " << E.Name;
   }
   EXPECT_EQ(Symbolleiste().size(), 26U);
   for (const Werkzeug& W : Symbolleiste())
-    EXPECT_TRUE(*W.Eintrag == '\0' || MenueFinden(W.Eintrag) != nullptr) << W.Name;
-  EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenueFinden("MenüKatasterOrtho")), 4000);
+    EXPECT_TRUE(*W.Eintrag == '\0' || MenüFinden(W.Eintrag) != nullptr) << W.Name;
+  EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüKatasterOrtho")), 4000);
 }
 
 }  // namespace

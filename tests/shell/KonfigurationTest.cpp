@@ -15,7 +15,7 @@ class Konfiguration : public Shelltest {
   std::string Ini() const { return Inhalt(Ordner.Pfad("app/Tavorena.ini")); }
 };
 
-TEST_F(Konfiguration, DateiByteFuerByteUndZurueckMitAllenEigenheiten) {
+TEST_F(Konfiguration, DateiByteFürByteUndZurückMitAllenEigenheiten) {
   EXPECT_FALSE(DateiVorhanden(DateinameOptionen));  // nothing is written at the start
   OptionenSchreiben();
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Vorgabe.ini"));
@@ -59,7 +59,7 @@ TEST_F(Konfiguration, FensterwahlUndWahrheitswerte) {
   }
 }
 
-TEST_F(Konfiguration, AeltereDateiLaeuftInDenNaechstenAbschnitt) {
+TEST_F(Konfiguration, ÄltereDateiLäuftInDenNächstenAbschnitt) {
   Ini("[Optionen]\n3\n2\nTrue\nFalse\n1,5 x\n2.5\n[Historie]\na.kor * 0\nwahr\nwahr\nwahr\nwahr\n");
   EXPECT_EQ(OptionenLesen(), 0);
   EXPECT_EQ(Reihe(Optionen.VorgabeRechts, Optionen.VorgabeHoch), "1.5|2.5");
@@ -100,7 +100,7 @@ TEST_F(Konfiguration, Historie) {
   EXPECT_EQ(tavorena::Historie[1], (HistorieEintrag{"/a/alt.lt4", 2}));  // LT4 under its old number
   EXPECT_EQ(tavorena::Historie[3].Dateiname, "ohne Stern");
   // Empty entries are left out.
-  EXPECT_EQ(TVKernMDIForm::Fenster().Titel(*MenueFinden("MenüDateiHist(2)")), "/a b/c.kor");
+  EXPECT_EQ(TVKernMDIForm::Fenster().Titel(*MenüFinden("MenüDateiHist(2)")), "/a b/c.kor");
   EXPECT_TRUE(Sichtbar("MenüDateiHist(3)") && !Sichtbar("MenüDateiHist(4)"));
 }
 
@@ -129,18 +129,18 @@ TEST_F(Konfiguration, ZoomAusDemHauptfenster) {
 TEST_F(Konfiguration, Optionsdialog) {
   for (const char* Ende : {"OptAbbruch", "OptEnd"}) {
     Skript.Formulare.push_back([Ende](Formular& Form) {
-      Form.Oeffnen();
-      Form.Waehlen(*Form.Finde("OptNachkommastellen"), "4", true);
-      Form.Waehlen(*Form.Finde("OptWarnstufe"), "Keine", true);
-      Form.Waehlen(*Form.Finde("OptAbfrRiß"), "", false);
-      Form.Waehlen(*Form.Finde("OptProtokoll(1)"), "", true);
-      EXPECT_FALSE(Form.Finde("OptProtokoll(2)")->Gewaehlt);
+      Form.Öffnen();
+      Form.Wählen(*Form.Finde("OptNachkommastellen"), "4", true);
+      Form.Wählen(*Form.Finde("OptWarnstufe"), "Keine", true);
+      Form.Wählen(*Form.Finde("OptAbfrRiß"), "", false);
+      Form.Wählen(*Form.Finde("OptProtokoll(1)"), "", true);
+      EXPECT_FALSE(Form.Finde("OptProtokoll(2)")->Gewählt);
       Tippe(Form, "OptVorgabeRechts", "abc");
-      Druecke(Form, "OptEnd");
+      Drücke(Form, "OptEnd");
       EXPECT_TRUE(Form.Offen());  // no number
       Tippe(Form, "OptVorgabeRechts", "350,5");
       Tippe(Form, "OptEDBSInfo", "ZUVIELEZEICHEN");
-      Druecke(Form, Ende);
+      Drücke(Form, Ende);
     });
     TVOptionenformZeigen();
     const auto& O = Optionen;

@@ -24,20 +24,20 @@ class Shelltest : public TabellenTest {
     ProtokollLeeren();
     StapelleserLeeren();
     Historie = {};
-    Skript.BeiBlatt = [](Formular& Form) { Form.Oeffnen(); };
-    HauptAnschliessen();
+    Skript.BeiBlatt = [](Formular& Form) { Form.Öffnen(); };
+    HauptAnschließen();
     HauptInitialisierung();
   }
   ~Shelltest() override {
     KoordinatendateiName.clear();
     StapelschreiberLeeren();
-    BlaetterSchliessen();
+    BlätterSchließen();
     unsetenv("TAVORENA_ORDNER");
   }
 
   const std::string A_kor = Ordner.Pfad("a.kor"), A_dru = Ordner.Pfad("a.dru");
 
-  static void Befehl(const char* Name) { TVKernMDIForm::Fenster().Ausfuehren(Name); }
+  static void Befehl(const char* Name) { TVKernMDIForm::Fenster().Ausführen(Name); }
   /// With the file that is chosen in its dialog.
   void Befehl(const char* Name, const std::string& Datei) {
     Skript.Dateien.push_back(Datei);
@@ -47,8 +47,8 @@ class Shelltest : public TabellenTest {
   void Knopf(int Nummer) {
     Skript.Formulare.push_back(Bediene({{"Knopf(" + std::to_string(Nummer) + ")", ""}}));
   }
-  static bool Aktiv(const char* Name) { return TVKernMDIForm::Fenster().Aktiv(*MenueFinden(Name)); }
-  static bool Sichtbar(const char* Name) { return TVKernMDIForm::Fenster().Sichtbar(*MenueFinden(Name)); }
+  static bool Aktiv(const char* Name) { return TVKernMDIForm::Fenster().Aktiv(*MenüFinden(Name)); }
+  static bool Sichtbar(const char* Name) { return TVKernMDIForm::Fenster().Sichtbar(*MenüFinden(Name)); }
   static bool BildAktiv(const std::string& Name) {
     for (const Werkzeug& W : Symbolleiste()) {
       if (Name == W.Name) return TVKernMDIForm::Fenster().WerkzeugAktiv(W);
@@ -57,7 +57,7 @@ class Shelltest : public TabellenTest {
   }
 
   /// A coordinate file of three points, opened by the command.
-  void Oeffne() {
+  void Öffne() {
     Schreibe(A_kor, "1001 3500100 5600200 12.5 015\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
     Befehl("MenüDateiLesen(0)", A_kor);
   }

@@ -13,11 +13,11 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
   std::string Wort;
   for (const char z : Text) {
     if (z == '+' || (z == '-' && Text.size() == 1)) {
-      Form.TasteDruecken(z == '+' ? Taste::Plus : Taste::Minus);
+      Form.TasteDrücken(z == '+' ? Taste::Plus : Taste::Minus);
     } else if (z == '\n') {
       if (!Wort.empty()) Form.Tippen(*Form.Fokus(), Wort);
       Wort.clear();
-      Form.TasteDruecken(Taste::Return);
+      Form.TasteDrücken(Taste::Return);
     } else {
       Wort += z;
     }
@@ -25,7 +25,7 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
   if (!Wort.empty()) Form.Tippen(*Form.Fokus(), Wort);
 }
 
-void Druecke(Formular& Form, const std::string& Name) { Form.Klicken(Feld(Form, Name)); }
+void Drücke(Formular& Form, const std::string& Name) { Form.Klicken(Feld(Form, Name)); }
 
 Gitter& Gitterfeld(const Formular& Form) {
   return dynamic_cast<Gitter&>(Feld(Form, Form.FormName.substr(2, 5) + "Gitter"));
@@ -33,10 +33,10 @@ Gitter& Gitterfeld(const Formular& Form) {
 
 std::function<void(Formular&)> Bediene(std::vector<Handgriff> Griffe) {
   return [Griffe = std::move(Griffe)](Formular& Form) {
-    Form.Oeffnen();
+    Form.Öffnen();
     for (const Handgriff& G : Griffe) {
       if (G.Text.empty()) {
-        Druecke(Form, G.Name);
+        Drücke(Form, G.Name);
       } else {
         Tippe(Form, G.Name, G.Text);
       }

@@ -13,7 +13,7 @@ namespace tavorena::test {
 void Tippe(Formular& Form, const std::string& Name, const std::string& Text);
 
 /// Presses a button.
-void Druecke(Formular& Form, const std::string& Name);
+void Drücke(Formular& Form, const std::string& Name);
 
 /// A control, which must be there.
 Steuerelement& Feld(const Formular& Form, const std::string& Name);

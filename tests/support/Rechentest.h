@@ -8,8 +8,8 @@
 #include <initializer_list>
 #include <random>
 
-#include <tavorena/ta/TA.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
+#include <tavorena/ta/TA.h>
 
 // What the tests of the calculations share.
 
@@ -50,19 +50,19 @@ inline ::testing::AssertionResult Nahe(Lage Ist, Lage Soll, double Grenze = 2e-9
 
 /// Checks every row of a table at each of these places.
 template <typename Fall, std::size_t N>
-void Ueberall(const Fall (&Faelle)[N], const auto& Pruefe) {
-  for (const Fall& f : Faelle) {
+void Überall(const Fall (&Fälle)[N], const auto& Prüfe) {
+  for (const Fall& f : Fälle) {
     for (const Lage Ort : Orte) {
       SCOPED_TRACE(f.Name + (" at " + std::to_string(Ort.RW)));
-      Pruefe(f, Ort);
+      Prüfe(f, Ort);
     }
   }
 }
 
 /// Random places of a piece of the grid.
-class Gelaende {
+class Gelände {
  public:
-  explicit Gelaende(double Seite = 1e4) : W(0, Seite) {}
+  explicit Gelände(double Seite = 1e4) : W(0, Seite) {}
   Lage operator()() { return {3.4e6 + W(Zufall), 5.7e6 + W(Zufall)}; }
   double Zahl(double Von, double Bis) { return std::uniform_real_distribution<double>(Von, Bis)(Zufall); }
 
@@ -75,7 +75,7 @@ class Gelaende {
 class RechenTest : public TabellenTest {
  protected:
   void Vorbesetzen() { a = b = c = d = Nichts; }
-  [[nodiscard]] bool Unberuehrt() const { return a == Nichts && b == a && c == a && d == a; }
+  [[nodiscard]] bool Unberührt() const { return a == Nichts && b == a && c == a && d == a; }
   TA Ta;
   double a = Nichts, b = Nichts, c = Nichts, d = Nichts;
 };

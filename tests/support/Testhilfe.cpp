@@ -14,9 +14,8 @@ namespace fs = std::filesystem;
 namespace tavorena::test {
 
 Testordner::Testordner() {
-  static std::atomic<int> Zaehler = 0;
-  Ort =
-      fs::temp_directory_path() / ("tavorena-" + std::to_string(getpid()) + "-" + std::to_string(++Zaehler));
+  static std::atomic<int> Zähler = 0;
+  Ort = fs::temp_directory_path() / ("tavorena-" + std::to_string(getpid()) + "-" + std::to_string(++Zähler));
   fs::create_directories(Ort);
 }
 
@@ -54,9 +53,9 @@ void Schreibe(const std::string& Datei, std::string_view Bytes) {
 
 // The next of the answers in store.
 template <typename T>
-T Nehmen(std::deque<T>& Vorrat, const std::string& Wofuer) {
+T Nehmen(std::deque<T>& Vorrat, const std::string& Wofür) {
   if (Vorrat.empty()) {
-    ADD_FAILURE() << "unforeseen " << Wofuer;
+    ADD_FAILURE() << "unforeseen " << Wofür;
     return {};
   }
   T Erstes = std::move(Vorrat.front());
@@ -71,10 +70,10 @@ PlattformSkript::~PlattformSkript() {
   EXPECT_TRUE(Formulare.empty()) << "a modal form was not shown";
 }
 
-int PlattformSkript::Meldung(const std::string& Text, Knoepfe /*Art*/, const std::string& Ueberschrift) {
-  Titel.push_back(Ueberschrift);
-  const auto [Stueck, Antwort] = Nehmen(Offen, "message: " + Text);
-  EXPECT_NE(Text.find(Stueck), std::string::npos) << Text;
+int PlattformSkript::Meldung(const std::string& Text, Knöpfe /*Art*/, const std::string& Überschrift) {
+  Titel.push_back(Überschrift);
+  const auto [Stück, Antwort] = Nehmen(Offen, "message: " + Text);
+  EXPECT_NE(Text.find(Stück), std::string::npos) << Text;
   return Antwort;
 }
 
@@ -83,8 +82,8 @@ void PlattformSkript::FormularZeigen(Formular& Form, bool Modal) {
   if (Tun) Tun(Form);
 }
 
-std::string PlattformSkript::DateiWaehlen(Dateiauftrag& Auftrag) {
-  Auftraege.push_back(Auftrag);
+std::string PlattformSkript::DateiWählen(Dateiauftrag& Auftrag) {
+  Aufträge.push_back(Auftrag);
   return Nehmen(Dateien, "file dialog: " + Auftrag.Titel);
 }
 

@@ -56,9 +56,9 @@ class PlattformSkript final : public Plattform {
   PlattformSkript(const PlattformSkript&) = delete;
   PlattformSkript& operator=(const PlattformSkript&) = delete;
 
-  int Meldung(const std::string& Text, Knoepfe Art, const std::string& Ueberschrift) override;
+  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Überschrift) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
-  std::string DateiWaehlen(Dateiauftrag& Auftrag) override;
+  std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override { BeiEreignissen(); }
   Zeitpunkt Jetzt() override { return Uhr; }
   double Zeitgeber() override { return Sekunden += 1; }
@@ -67,15 +67,15 @@ class PlattformSkript final : public Plattform {
   }
   void FenstertitelSetzen(const std::string& Neuer) override { Fenstertitel = Neuer; }
   std::string ProgrammOrdner() override { return Programmordner; }
-  bool StapelHaelt() override { return Haelt; }
-  void HauptfensterGroesse(int& B, int& H) override { B = Breite, H = Hoehe; }
+  bool StapelHält() override { return Hält; }
+  void HauptfensterGröße(int& B, int& H) override { B = Breite, H = Hoehe; }
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override {
     Gestartet = Programm + "|" + Datei;
     return 0;
   }
 
   /// A question to come: piece of its text and the button that answers it.
-  void Erwarte(const std::string& Stueck, int Antwort = 1) { Offen.emplace_back(Stueck, Antwort); }
+  void Erwarte(const std::string& Stück, int Antwort = 1) { Offen.emplace_back(Stück, Antwort); }
 
   std::deque<std::string> Dateien;                       ///< names that the file dialogs give, in order
   std::deque<std::function<void(Formular&)>> Formulare;  ///< what is done in each modal form, in order
@@ -83,10 +83,10 @@ class PlattformSkript final : public Plattform {
   std::function<void()> BeiEreignissen = [] {};          ///< runs when the event queue is served
   std::array<std::string, 8> Status;
   std::vector<std::string> Titel;
-  std::vector<Dateiauftrag> Auftraege;
+  std::vector<Dateiauftrag> Aufträge;
   std::string Fenstertitel, Programmordner, Gestartet;
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
-  bool Haelt = false;
+  bool Hält = false;
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
 
  private:

@@ -36,15 +36,15 @@ class Blatttest : public TabellenTest {
   }
 
   template <typename Form>
-  std::unique_ptr<Form> Oeffne() {
+  std::unique_ptr<Form> Öffne() {
     auto Blatt = std::make_unique<Form>();
-    Blatt->Oeffnen();
+    Blatt->Öffnen();
     return Blatt;
   }
 
   /// The files of a worksheet that is done are the approved ones, and replaying the batch file on the same
   /// points gives the same protocol.
-  void PruefeDateien(const std::string& Name, int Zeilen) {
+  void PrüfeDateien(const std::string& Name, int Zeilen) {
     const std::string Protokoll = Inhalt(ProtokolldateiName), Stapel = Inhalt(StapeldateiName);
     EXPECT_TRUE(GleichSoll(Protokoll, "worksheets/soll/" + Name + ".dru"));
     EXPECT_TRUE(GleichSoll(Stapel, "worksheets/soll/" + Name + ".sta"));
@@ -71,14 +71,14 @@ class Blatttest : public TabellenTest {
     StapelStarten(StapeldateiName);
   }
 
-  std::vector<std::unique_ptr<Formular>> Blaetter;
+  std::vector<std::unique_ptr<Formular>> Blätter;
 
  private:
   template <typename Form>
   void Anmelden(const char* Kennung) {
     StapelBlattAnmelden({Kennung}, [this] {
-      Blaetter.push_back(std::make_unique<Form>());
-      Blaetter.back()->Oeffnen();
+      Blätter.push_back(std::make_unique<Form>());
+      Blätter.back()->Öffnen();
     });
   }
 };

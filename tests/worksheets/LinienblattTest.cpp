@@ -5,8 +5,8 @@ namespace {
 
 using Linienblatt = Blatttest;
 
-TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
-  auto B = Oeffne<TVLinelForm>();
+TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurück) {
+  auto B = Öffne<TVLinelForm>();
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n");
   EXPECT_EQ(Text(*B, "LinelAnfH_he", "LinelAnfSym"), "12.500|015");
@@ -20,29 +20,29 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurueck) {
   EXPECT_EQ(G.Inhalt(2, 0), "2005");
   Tippe(*B, "LinelGitter", "\n");  // Return in an empty row leads out of the grid
   EXPECT_EQ(B->Fokus()->Name, "LinelEnd10");
-  Druecke(*B, "LinelEnd10");
+  Drücke(*B, "LinelEnd10");
   EXPECT_EQ(B->Fokus()->Name, "LinelAnfPnr");
   Tippe(*B, "LinelAnfPnr", "1002\n");
   Tippe(*B, "LinelEndPnr", "2005\n0\n0\n2003\n");
   EXPECT_FALSE(G.Spalten[5].Sichtbar);  // nothing measured, nothing to reduce
-  Druecke(*B, "LinelEnd");
+  Drücke(*B, "LinelEnd");
   EXPECT_FALSE(B->Offen());
-  PruefeDateien("linel", 4);
-  EXPECT_EQ(Blaetter.back()->Titel, "Tavorena Linienelemente [Stapel]");
+  PrüfeDateien("linel", 4);
+  EXPECT_EQ(Blätter.back()->Titel, "Tavorena Linienelemente [Stapel]");
 }
 
-TEST_F(Linienblatt, PolarelementeVomAnschlussZumProtokollUndZurueck) {
-  auto B = Oeffne<TVPolelForm>();
+TEST_F(Linienblatt, PolarelementeVomAnschlussZumProtokollUndZurück) {
+  auto B = Öffne<TVPolelForm>();
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n");
   EXPECT_EQ(Reihe(G.Inhalt(0, 3), G.Inhalt(0, 4)), "21.5334|42.426");
   EXPECT_EQ(Text(*B, "PolelM", "PolelWs"), "1.000200|0.020");
-  Druecke(*B, "PolelEnd");
-  PruefeDateien("polel", 2);
+  Drücke(*B, "PolelEnd");
+  PrüfeDateien("polel", 2);
 }
 
-TEST_F(Linienblatt, EntfernungskontrollenVomAnschlussZumProtokollUndZurueck) {
-  auto B = Oeffne<TVDisForm>();
+TEST_F(Linienblatt, EntfernungskontrollenVomAnschlussZumProtokollUndZurück) {
+  auto B = Öffne<TVDisForm>();
   Tippe(*B, "DisAnfPnr", "1001\n1002\n99,8\n");
   EXPECT_EQ(Text(*B, "DisL", "DisD", "DisWs"), "100.000|0.160|0.200");
   EXPECT_TRUE(Feld(*B, "DisWs").Fehlerhaft);
@@ -51,12 +51,12 @@ TEST_F(Linienblatt, EntfernungskontrollenVomAnschlussZumProtokollUndZurueck) {
   Tippe(*B, "DisEndPnr", "2005\n0\n");  // not measured
   Tippe(*B, "DisEndPnr", "1001\n200.1");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);  // the last check was not committed
-  Druecke(*B, "DisEnd");
-  PruefeDateien("dis", 3);
+  Drücke(*B, "DisEnd");
+  PrüfeDateien("dis", 3);
 }
 
 TEST_F(Linienblatt, FehlenderPunktWirdGefragt) {
-  auto B = Oeffne<TVLinelForm>();
+  auto B = Öffne<TVLinelForm>();
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Tippe(*B, "LinelAnfPnr", "7\n");
   EXPECT_EQ(Reihe(B->Fokus()->Name, Text(*B, "LinelAnfPnr")), "LinelAnfPnr|7");  // both stay
@@ -72,8 +72,8 @@ TEST_F(Linienblatt, FehlenderPunktWirdGefragt) {
   EXPECT_EQ(Reihe(Text(*B, "LinelEndPnr"), KorAnzahl), "1002|6");
 }
 
-TEST_F(Linienblatt, UngueltigeEingabenHaltenDenFokus) {
-  auto B = Oeffne<TVLinelForm>();
+TEST_F(Linienblatt, UngültigeEingabenHaltenDenFokus) {
+  auto B = Öffne<TVLinelForm>();
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
   EXPECT_TRUE(Feld(*B, "LinelEndmass").Fehlerhaft);
@@ -94,12 +94,12 @@ TEST_F(Linienblatt, UngueltigeEingabenHaltenDenFokus) {
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Tippe(*B, "LinelGitter", "\n");
   EXPECT_EQ(G.Inhalt(0, 3), "");
-  Druecke(*B, "LinelEnd");  // a number without a point is nothing to write
+  Drücke(*B, "LinelEnd");  // a number without a point is nothing to write
   EXPECT_FALSE(DateiVorhanden(StapeldateiName));
 }
 
-TEST_F(Linienblatt, ZeilenBerichtigenLoeschenUndOffenVerlassen) {
-  auto B = Oeffne<TVLinelForm>();
+TEST_F(Linienblatt, ZeilenBerichtigenLöschenUndOffenVerlassen) {
+  auto B = Öffne<TVLinelForm>();
   Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1002\n0\n0\n2003\n2004\n2005\n");
   B->ZelleWechseln(G, 1, 0);
@@ -109,16 +109,16 @@ TEST_F(Linienblatt, ZeilenBerichtigenLoeschenUndOffenVerlassen) {
   B->ZelleWechseln(G, 1, 0);
   Tippe(*B, "LinelGitter", "1002\n");
   B->ZelleWechseln(G, 2, 0);
-  Druecke(*B, "LinelDelete");
+  Drücke(*B, "LinelDelete");
   EXPECT_EQ(Reihe(G.Inhalt(0, 0), G.Inhalt(1, 0)), "2003|1002");
   Tippe(*B, "LinelGitter", "2004");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
   Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfNein);
-  B->SchliessenVerlangen();
+  B->SchließenVerlangen();
   EXPECT_TRUE(B->Offen());
   EXPECT_EQ(Skript.Titel.back(), "Berechnung Linienelemente");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
-  Druecke(*B, "LinelEnd");
+  Drücke(*B, "LinelEnd");
   const std::string Prot = Inhalt(ProtokolldateiName), Stapel = Inhalt(StapeldateiName);
   for (const char* Pnr : {"2004", "2005"})
     EXPECT_NE(Prot.find(Pnr + std::string(" ***gelöscht")), std::string::npos);
@@ -128,7 +128,7 @@ TEST_F(Linienblatt, ZeilenBerichtigenLoeschenUndOffenVerlassen) {
 }
 
 TEST_F(Linienblatt, StreifenNimmtDiePunkteDesBereichs) {
-  auto B = Oeffne<TVLinelForm>();
+  auto B = Öffne<TVLinelForm>();
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1002\n0\n0\n");
   Tippe(*B, "LinelPnrvon", "2000\n2999\n10\n");
@@ -140,36 +140,36 @@ TEST_F(Linienblatt, StreifenNimmtDiePunkteDesBereichs) {
 TEST_F(Linienblatt, RissfrageUndPlusTaste) {
   Optionen.AbfrageRiss = true;
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "Riss 12\n"}, {"Wert(1)", "3\n"}}));
-  auto B = Oeffne<TVLinelForm>();
+  auto B = Öffne<TVLinelForm>();
   EXPECT_EQ(Text(*B, "LinelRi_bez", "LinelBernr"), "Riss 12|3");
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
-  auto C = Oeffne<TVPolelForm>();
+  auto C = Öffne<TVPolelForm>();
   EXPECT_EQ(Reihe(Riss, BerNr), "Riss 12|3");  // cancel keeps the old values
   B->FokusWechseln(Feld(*B, "LinelAnfPnr"));
-  EXPECT_FALSE(B->TasteDruecken(Taste::Plus));  // no number yet: the key is left to the text
+  EXPECT_FALSE(B->TasteDrücken(Taste::Plus));  // no number yet: the key is left to the text
   LetztePunktnummer = "12A";
-  EXPECT_TRUE(B->TasteDruecken(Taste::Minus));
+  EXPECT_TRUE(B->TasteDrücken(Taste::Minus));
   EXPECT_EQ(Text(*B, "LinelAnfPnr"), "11");
 }
 
-TEST_F(Linienblatt, NachlaufHaeltUndLaesstSichStoppen) {
+TEST_F(Linienblatt, NachlaufHältUndLäßtSichStoppen) {
   const std::string Anschluss = "PAN 1001\r\nPEN 1002\r\n",
                     Linie = "M VR 24.40 x\r\n" + Anschluss + "NR 2003\r\nE\r\n";
   Schreibe(StapeldateiName, Linie + "M VR 08.40 x\r\n" + Anschluss + "NR 77\r\nNR 2004\r\nE\r\n" + Linie);
-  Skript.Haelt = true;
+  Skript.Hält = true;
   Starten();
-  ASSERT_TRUE(StapelAktiv && Blaetter.back()->Offen());
-  EXPECT_EQ(Blaetter.back()->Fokus()->Name, "LinelWeiter");
+  ASSERT_TRUE(StapelAktiv && Blätter.back()->Offen());
+  EXPECT_EQ(Blätter.back()->Fokus()->Name, "LinelWeiter");
   EXPECT_EQ(Inhalt(ProtokolldateiName), "");
-  Formular& Erstes = *Blaetter.back();
-  Druecke(Erstes, "LinelWeiter");  // the next block is shown when this one is done
+  Formular& Erstes = *Blätter.back();
+  Drücke(Erstes, "LinelWeiter");  // the next block is shown when this one is done
   EXPECT_FALSE(Erstes.Offen());
-  ASSERT_EQ(Blaetter.size(), 2U);
+  ASSERT_EQ(Blätter.size(), 2U);
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
-  Skript.BeiEreignissen = [&] { Druecke(*Blaetter.back(), "PolelStop"); };
-  Druecke(*Blaetter.back(), "PolelWeiter");  // stopped after the running row
-  EXPECT_FALSE(StapelAktiv || Blaetter.back()->Offen());
-  EXPECT_EQ(Reihe(Blaetter.size(), Stapellauf.Zeilen, Stapellauf.Fehler), "2|1|0");
+  Skript.BeiEreignissen = [&] { Drücke(*Blätter.back(), "PolelStop"); };
+  Drücke(*Blätter.back(), "PolelWeiter");  // stopped after the running row
+  EXPECT_FALSE(StapelAktiv || Blätter.back()->Offen());
+  EXPECT_EQ(Reihe(Blätter.size(), Stapellauf.Zeilen, Stapellauf.Fehler), "2|1|0");
 }
 
 TEST_F(Linienblatt, NachlaufMitFehlendenPunkten) {
