@@ -11,7 +11,7 @@
 #include <random>
 #include <unistd.h>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace fs = std::filesystem;
@@ -33,9 +33,9 @@ class Messordner {
 };
 
 // A message means that something other than the job was measured.
-class Meldezähler final : public Plattform {
+class Meldezähler final : public Rückfragen {
  public:
-  Meldezähler() { PlattformSetzen(this); }
+  Meldezähler() { PortsSetzen({this, nullptr, nullptr, nullptr}); }
   int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/) override {
     ++Anzahl;
     return KnopfAbbruch;

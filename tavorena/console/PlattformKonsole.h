@@ -3,13 +3,13 @@
 #include <iosfwd>
 #include <string>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 
 namespace tavorena {
 
 /// The program without a screen: messages go to a stream, and a question that the command line did not
 /// answer ends the run. Nothing waits for a key.
-class PlattformKonsole final : public Plattform {
+class PlattformKonsole final : public Rückfragen, public Anzeige, public Umgebung {
  public:
   PlattformKonsole(std::ostream& Meldungsziel, std::string Ordner)
       : Ziel(Meldungsziel), Programm(std::move(Ordner)) {}

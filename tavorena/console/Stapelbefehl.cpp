@@ -52,7 +52,7 @@ bool Speichern(const std::string& Name) {
 int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
                     const std::string& Programmordner) {
   PlattformKonsole Konsole(Meldungen, Programmordner);
-  Plattform* const Vorher = PlattformSetzen(&Konsole);
+  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole});
   HauptAnschließen();
   HauptInitialisierung();
   DateinameProtokollTemp.clear();  // nothing is printed afterwards
@@ -79,7 +79,7 @@ int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
     if (Gut) Gut = Speichern(Auftrag.Speichern);
   }
   StapelSchritt = {};
-  PlattformSetzen(Vorher);
+  PortsSetzen(Vorher);
   return Gut ? 0 : 1;
 }
 

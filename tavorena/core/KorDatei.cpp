@@ -4,7 +4,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/Sortierung.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
@@ -108,7 +108,7 @@ class Lesung {
   }
 
   bool Angehalten() {
-    const double Jetzt = Port().Zeitgeber();
+    const double Jetzt = AblaufPort().Zeitgeber();
     if (Jetzt - Zuletzt < 0.5) return false;
     Zuletzt = Jetzt;
     // The lines are counted when there is somebody to show them to.
@@ -116,7 +116,7 @@ class Lesung {
       Zusatz = " von " + std::to_string(ZeilenZählen(Inhalt)) + " Punkten   ";
     }
     KorAnzahlAnzeigen(Zusatz);
-    Port().EreignisseAbarbeiten();
+    AblaufPort().EreignisseAbarbeiten();
     if (KorStop != "Stop") return false;
     KorStop.clear();
     return true;
@@ -127,7 +127,7 @@ class Lesung {
   Reihenleser InReihe;
   const std::function<bool(std::string_view)>& Test;
   std::string Zusatz;
-  double Zuletzt = Port().Zeitgeber();
+  double Zuletzt = AblaufPort().Zeitgeber();
 };
 
 int Zurücknehmen(int Modus, int AlteAnzahl) {
@@ -237,7 +237,7 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
   const int AlteAnzahl = KorAnzahl;
   KoordinatenGeaendert = Modus != ModusErsetzen;
   if (Modus == ModusErsetzen) KorAnzahl = 0;
-  Port().Beschäftigt(true);
+  AblaufPort().Beschäftigt(true);
   const Lesung::Ende Ende = Lesung(Inhalt, Modus, InReihe, Nimmt).Laufen();
   int Ergebnis = 0;
   if (Ende == Lesung::Ende::Gestoppt) Ergebnis = Zurücknehmen(Modus, AlteAnzahl);
@@ -245,7 +245,7 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
     Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
   }
   if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
-  Port().Beschäftigt(false);
+  AblaufPort().Beschäftigt(false);
   KorAnzahlAnzeigen();
   if (Ende != Lesung::Ende::Gestoppt && AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
   return Ergebnis;

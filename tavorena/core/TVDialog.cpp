@@ -1,4 +1,4 @@
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 
 namespace tavorena {
@@ -31,14 +31,16 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
 int Dialogergebnis = 0;
 
 int FrageJaNeinAbbruch(const std::string& Text) {
-  return Port().Meldung(Text, Knöpfe::JaNeinAbbruch, "Tavorena");
+  return FragenPort().Meldung(Text, Knöpfe::JaNeinAbbruch, "Tavorena");
 }
 
 int FrageJaNein(const std::string& Text, const std::string& Titel) {
-  return Port().Meldung(Text, Knöpfe::JaNein, Titel);
+  return FragenPort().Meldung(Text, Knöpfe::JaNein, Titel);
 }
 
-void Hinweis(const std::string& Text, const std::string& Titel) { Port().Meldung(Text, Knöpfe::OK, Titel); }
+void Hinweis(const std::string& Text, const std::string& Titel) {
+  FragenPort().Meldung(Text, Knöpfe::OK, Titel);
+}
 
 void FehlerMeldung(const std::string& Text) { Hinweis("Fehler aufgetreten:\n" + Text); }
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/Sortierung.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
@@ -187,7 +187,7 @@ void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, 
 }
 
 void KorAnzahlAnzeigen(const std::string& Zusatz) {
-  Port().StatusSetzen(Statusfeld::StatusKordanz, Zusatz + std::to_string(KorAnzahl) + " Punkte");
+  AnzeigePort().StatusSetzen(Statusfeld::StatusKordanz, Zusatz + std::to_string(KorAnzahl) + " Punkte");
 }
 
 int ListeFind(std::string_view Pnr, const std::vector<std::string>& Liste, int Anzahl) {

@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
@@ -296,10 +296,10 @@ bool FormularAnsicht::eventFilter(QObject* Objekt, QEvent* Ereignis) {
   if (S == nullptr || Modell == nullptr) return QWidget::eventFilter(Objekt, Ereignis);
   switch (Ereignis->type()) {
     case QEvent::Enter:
-      Port().StatusSetzen(Statusfeld::StatusHilfe, S->Hilfe.empty() ? "" : "   " + S->Hilfe + "   ");
+      AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, S->Hilfe.empty() ? "" : "   " + S->Hilfe + "   ");
       break;
     case QEvent::Leave:
-      Port().StatusSetzen(Statusfeld::StatusHilfe, "");
+      AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, "");
       break;
     case QEvent::FocusIn:
       if (S->Art != Steuerart::Feld) QTimer::singleShot(0, this, [this, S] { FokusMelden(*S); });

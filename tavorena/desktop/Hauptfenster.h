@@ -6,7 +6,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/shell/Menuebaum.h>
 
 class QAction;

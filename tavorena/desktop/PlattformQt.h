@@ -1,13 +1,13 @@
 #pragma once
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 
 namespace tavorena {
 
 class Hauptfenster;
 
 /// What the program asks of the window system.
-class PlattformQt : public Plattform {
+class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Umgebung {
  public:
   explicit PlattformQt(Hauptfenster& Haupt) : Fenster(Haupt) {}
 

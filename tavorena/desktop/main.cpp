@@ -33,13 +33,13 @@ int main(int argc, char** argv) {
                                           : Helligkeit::System);
   Hauptfenster Fenster;
   PlattformQt Qt(Fenster);
-  PlattformSetzen(&Qt);
+  PortsSetzen(PortsVon(Qt));
   HauptAnschließen();
   Fenster.show();
   HauptInitialisierung();
   const QStringList Dateien = Zeile.positionalArguments();
   if (!Dateien.isEmpty()) HauptDateiÖffnen(Dateien.first().toStdString(), 0);
   const int Ergebnis = QApplication::exec();
-  PlattformSetzen(nullptr);
+  PortsSetzen({});
   return Ergebnis;
 }

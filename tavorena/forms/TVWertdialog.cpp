@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include <tavorena/core/Datei.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -20,7 +20,7 @@ class Dialogform : public Formular {
 
   int Zeigen() {
     Dialogergebnis = -1;
-    Port().FormularZeigen(*this, true);
+    AnzeigePort().FormularZeigen(*this, true);
     return Dialogergebnis;
   }
 
@@ -123,7 +123,7 @@ class Dateiform final : public Dialogform {
     const Dateiname Teile = DateinameZerlegen(Felder[i]->Text);
     Dateiauftrag Auftrag{
         Dateien[i].Label, Dateien[i].Filter, Teile.Ordner, Teile.Grundname, !Dateien[i].Ausgabe, "", false};
-    const std::string Name = Port().DateiWählen(Auftrag);
+    const std::string Name = FragenPort().DateiWählen(Auftrag);
     if (!Name.empty()) Felder[i]->Text = Name;
   }
 

@@ -1,5 +1,5 @@
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
@@ -107,7 +107,7 @@ class TVPDoppForm final : public Formular {
 
 Konfliktantwort PunktVorhandenBehandeln(const Konflikt& Frage) {
   TVPDoppForm Form(Frage);
-  Port().FormularZeigen(Form, true);
+  AnzeigePort().FormularZeigen(Form, true);
   return Form.Antwort;
 }
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include <tavorena/core/Datei.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -103,7 +103,7 @@ void BlockZeigen(const Anmeldung& Blatt) {
   StapelAblauf = false;
   ++Stapellauf.Blöcke;
   if (StapelSchritt) StapelSchritt(ProtArt);
-  Port().EreignisseAbarbeiten();
+  AblaufPort().EreignisseAbarbeiten();
   Blatt.Zeigen();
 }
 

@@ -2,7 +2,7 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
@@ -36,7 +36,7 @@ void InsFenster(const std::string& Text, bool Zeilenende) {
   const bool OhneRand = !ProtNeueZeile && Text.starts_with("      ") && ZeichenAnzahl(Text) >= 7;
   ProtokollfensterText += OhneRand ? Text.substr(6) : Text;
   if (Zeilenende) ProtokollfensterText += '\n';
-  Port().ProtokollGeändert();
+  AnzeigePort().ProtokollGeändert();
 }
 
 std::string Artzeile(const std::string& Titel, int Seite) {
@@ -82,7 +82,7 @@ void ProtokollNehmen(const std::string& Dateiname) {
 }
 
 std::string Zeitstempel() {
-  const Zeitpunkt t = Port().Jetzt();
+  const Zeitpunkt t = AblaufPort().Jetzt();
   return Zweistellig(t.Tag) + "." + Zweistellig(t.Monat) + "." + ZahlFeldNull(t.Jahr, 4) + "   " +
          Zweistellig(t.Stunde) + ":" + Zweistellig(t.Minute);
 }

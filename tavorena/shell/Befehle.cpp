@@ -4,7 +4,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
@@ -83,7 +83,7 @@ void DateiSchließen() {
 }
 
 void Beenden() {
-  if (HauptBeenden() == 0) Port().ProgrammBeenden();
+  if (HauptBeenden() == 0) AblaufPort().ProgrammBeenden();
 }
 
 // Reads points of a file into the table that is open.
@@ -123,7 +123,7 @@ void HinzuPunktselektion() {
 }
 
 void Ansehen(const std::string& Datei) {
-  if (Datei.empty() || Port().ProgrammStarten(Optionen.DateinameEditorNT, Datei) == 0) return;
+  if (Datei.empty() || UmgebungPort().ProgrammStarten(Optionen.DateinameEditorNT, Datei) == 0) return;
   LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
 }
 
@@ -132,7 +132,7 @@ void AnsichtStapel() { Ansehen(StapeldateiName); }
 void AnsichtKoordinaten() { Ansehen(KoordinatendateiName); }
 
 void AnsichtAllgemein() {
-  if (Port().ProgrammStarten(Optionen.DateinameEditorNT, "") < 0) {
+  if (UmgebungPort().ProgrammStarten(Optionen.DateinameEditorNT, "") < 0) {
     LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
   }
 }
@@ -171,7 +171,7 @@ void TexteditorWählen() {
                        true,
                        "",
                        false};
-  const std::string Name = Port().DateiWählen(Auftrag);
+  const std::string Name = FragenPort().DateiWählen(Auftrag);
   if (Name.empty()) return;
   Optionen.DateinameEditorNT = Name;
   VerzeichnisMerken(Name);

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <vector>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/records/Stapelschreiber.h>
 #include <tavorena/shell/Blaetter.h>
@@ -25,9 +25,9 @@ void BlattZeigen(std::unique_ptr<Formular> Blatt) {
   // A closed worksheet goes here, when none of its events is running any more.
   std::erase_if(Blätter, [](const auto& B) { return !B->Offen() && !B->InArbeit(); });
   Formular& Form = *Blätter.emplace_back(std::move(Blatt));
-  Form.NachSchließen = [] { Port().HauptfensterGeändert(); };
-  Port().FormularZeigen(Form, false);
-  Port().HauptfensterGeändert();
+  Form.NachSchließen = [] { AnzeigePort().HauptfensterGeändert(); };
+  AnzeigePort().FormularZeigen(Form, false);
+  AnzeigePort().HauptfensterGeändert();
 }
 
 bool BlätterOffen() {

@@ -1,6 +1,6 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/shell/Dateiwahl.h>
@@ -42,8 +42,9 @@ int Abbruch() { return Dialogergebnis = -1; }
 }  // namespace
 
 std::string Startordner() {
-  if (Optionen.VerzeichnisLetztes == "c:\\") return Port().Heimordner();
-  return OrdnerVorhanden(Optionen.VerzeichnisLetztes) ? Optionen.VerzeichnisLetztes : Port().Dokumentordner();
+  if (Optionen.VerzeichnisLetztes == "c:\\") return UmgebungPort().Heimordner();
+  return OrdnerVorhanden(Optionen.VerzeichnisLetztes) ? Optionen.VerzeichnisLetztes
+                                                      : UmgebungPort().Dokumentordner();
 }
 
 void VerzeichnisMerken(const std::string& Name) {
@@ -57,7 +58,7 @@ int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, cons
               std::string& Name, bool* Anhängen) {
   Dateiauftrag Auftrag{TitelFür(Sorte, Modus),    Filter, Startordner(), Vorgabe,
                        Modus == Wahlmodus::Lesen, "",     false};
-  std::string Gewählt = Port().DateiWählen(Auftrag);
+  std::string Gewählt = FragenPort().DateiWählen(Auftrag);
   if (Gewählt.empty()) return Abbruch();
   if (Modus != Wahlmodus::Lesen) EndungErgänzen(Gewählt, Vorgabe);
   if ((Modus == Wahlmodus::Schreiben || Modus == Wahlmodus::Neu) && DateiVorhanden(Gewählt)) {
@@ -78,7 +79,7 @@ int ProtokollWahl(std::string& Name) {
                        false,
                        "kein Protokoll",
                        false};
-  std::string Gewählt = Port().DateiWählen(Auftrag);
+  std::string Gewählt = FragenPort().DateiWählen(Auftrag);
   if (Auftrag.ZusatzGewählt) {
     Name.clear();
     return Dialogergebnis = 0;

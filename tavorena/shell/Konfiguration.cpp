@@ -5,7 +5,7 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/TVProtokollmodul.h>
@@ -25,7 +25,7 @@ std::string Umgebung(const char* Name) {
 
 std::string OrdnerSuchen() {
   if (std::string Gesetzt = Umgebung("TAVORENA_ORDNER"); !Gesetzt.empty()) return Gesetzt;
-  std::string Programm = Port().ProgrammOrdner();
+  std::string Programm = UmgebungPort().ProgrammOrdner();
   if (!Programm.empty() && DateiVorhanden(PfadVerbinden(Programm, "\\Tavorena.ini"))) return Programm;
   const std::string Xdg = Umgebung("XDG_CONFIG_HOME");
   return !Xdg.empty() ? Xdg + "/tavorena" : Umgebung("HOME") + "/.config/tavorena";

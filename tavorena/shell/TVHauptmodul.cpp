@@ -3,7 +3,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
@@ -80,9 +80,9 @@ void HauptInitialisierung() {
   EDBSLesen();
   HauptOptionsmenüSetzen();
   TVKernMDIForm::Fenster().OhneKoordinaten();
-  Port().FenstertitelSetzen("Tavorena    ");
-  Port().StatusSetzen(Statusfeld::Datei, "");
-  Port().StatusSetzen(Statusfeld::StatusVersion, "Version: 2.2");
+  AnzeigePort().FenstertitelSetzen("Tavorena    ");
+  AnzeigePort().StatusSetzen(Statusfeld::Datei, "");
+  AnzeigePort().StatusSetzen(Statusfeld::StatusVersion, "Version: 2.2");
   KorAnzahlAnzeigen();
 }
 
@@ -169,19 +169,19 @@ int HauptBeenden() {
 }
 
 void HauptfensterAktiviert() {
-  Port().BildschirmGröße(BildschirmBreite, BildschirmHoehe);
+  AnzeigePort().BildschirmGröße(BildschirmBreite, BildschirmHoehe);
   FormularZoomRechnen(true);
 }
 
 void HauptOptionsmenüSetzen() {}
 
 void TitelSetzen(const std::string& Dateiname) {
-  Port().StatusSetzen(Statusfeld::Datei, "   " + Dateiname + "   ");
-  Port().FenstertitelSetzen("Tavorena    " + Dateiname);
+  AnzeigePort().StatusSetzen(Statusfeld::Datei, "   " + Dateiname + "   ");
+  AnzeigePort().FenstertitelSetzen("Tavorena    " + Dateiname);
 }
 
 void StatusHilfeSetzen(const std::string& Text) {
-  Port().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");
+  AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");
 }
 
 }  // namespace tavorena

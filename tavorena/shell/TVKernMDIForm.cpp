@@ -2,7 +2,7 @@
 #include <exception>
 
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Zahlen.h>
@@ -46,12 +46,12 @@ void TVKernMDIForm::OhneKoordinaten() {
   for (int i = 0; i < HistorieAnzahl; ++i) {
     if (!Historie[static_cast<std::size_t>(i)].Dateiname.empty()) Hist[Eintrag++] = i;
   }
-  Port().HauptfensterGeändert();
+  AnzeigePort().HauptfensterGeändert();
 }
 
 void TVKernMDIForm::DateiOffen() {
   Offen = true;
-  Port().HauptfensterGeändert();
+  AnzeigePort().HauptfensterGeändert();
 }
 
 bool TVKernMDIForm::Sichtbar(const Menüeintrag& E) const {

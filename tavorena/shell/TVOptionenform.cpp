@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Formular.h>
@@ -104,7 +104,7 @@ class TVOptionenform final : public Formular {
       FormularZoomRechnen(false);
     }
     OptionenSchreiben();
-    Port().HauptfensterGeändert();
+    AnzeigePort().HauptfensterGeändert();
   }
 
   const std::string Ausgabe = "Formular und Protokoll", Rechnen = "Berechnung";
@@ -143,12 +143,12 @@ class TVOptionenform final : public Formular {
 
 void TVOptionenformZeigen() {
   TVOptionenform Form;
-  Port().FormularZeigen(Form, true);
+  AnzeigePort().FormularZeigen(Form, true);
 }
 
 void FormularZoomRechnen(bool Begrenzt) {
   int Breite = 0, Hoehe = 0;
-  Port().HauptfensterGröße(Breite, Hoehe);
+  AnzeigePort().HauptfensterGröße(Breite, Hoehe);
   Optionen.FormularZoomX = Breite * TwipsJePixel / EntwurfBreite;
   Optionen.FormularZoomY = Hoehe * TwipsJePixel / EntwurfHoehe;
   // A large window always has the same vertical zoom on purpose; the horizontal one has no cap.

@@ -1,5 +1,5 @@
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Formular.h>
@@ -78,7 +78,7 @@ class TVPSelectForm final : public Formular {
 
 int PunkteAuswählen(const Punktlisten& Listen, std::vector<std::string>& Gewählt) {
   TVPSelectForm Form(Listen);
-  Port().FormularZeigen(Form, true);
+  AnzeigePort().FormularZeigen(Form, true);
   Gewählt = std::move(Form.Gewählt);
   return Dialogergebnis = Form.Bestätigt ? 0 : -1;
 }

@@ -1,11 +1,11 @@
-#include <tavorena/ta/TA.h>
-#include <tavorena/ta/TAHilfe.h>
 #include <tavorena/calc/TVBerechnungsmodul.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/ta/TA.h>
+#include <tavorena/ta/TAHilfe.h>
 
 namespace tavorena {
 
@@ -37,7 +37,7 @@ enmResult Abbilden(int Ergebnis) {
 
 }  // namespace
 
-TA::TA() : Vorher(PlattformSetzen(nullptr)) {
+TA::TA() : Vorher(std::make_unique<Ports>(PortsSetzen({}))) {
   Haken = {};
   Optionen = {};
   KorLeeren();
@@ -45,7 +45,7 @@ TA::TA() : Vorher(PlattformSetzen(nullptr)) {
 
 TA::~TA() {
   KorLeeren();
-  PlattformSetzen(Vorher);
+  PortsSetzen(*Vorher);
 }
 
 enmResult TA::Entfernungskontrolle(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,

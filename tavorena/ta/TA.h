@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -56,7 +57,7 @@ enum class enmArtGeradenschnitt : std::int32_t {
   Kreis2Punkt_Kreis2Punkt = 18,
 };
 
-class Plattform;
+struct Ports;
 
 /// The calculations of the package for other programs.
 ///
@@ -784,7 +785,7 @@ class TA {
                                          std::int32_t lNachkomma = 3);
 
  private:
-  Plattform* Vorher;
+  std::unique_ptr<Ports> Vorher;
 };
 
 }  // namespace tavorena

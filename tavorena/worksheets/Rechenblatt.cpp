@@ -1,6 +1,6 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/TVWertdialog.h>
@@ -75,19 +75,19 @@ void Rechenblatt::StapelBeginnen() {
     if (StapelAktiv) StapelFehlerMeldung("Anschluß fehlt");
     return StapelBlattEnde();
   }
-  Hält = Port().StapelHält();
+  Hält = AblaufPort().StapelHält();
   if (Hält) return FokusSetzen(*KnopfWeiter);
   StapelZeilenRechnen();
 }
 
 void Rechenblatt::StapelZeilenRechnen() {
   Hält = KnopfWeiter->Aktiv = false;
-  double Zuletzt = Port().Zeitgeber();
+  double Zuletzt = AblaufPort().Zeitgeber();
   while (StapelAktiv && Offen() && StapelZeile() == 0) {
-    const double Jetzt = Port().Zeitgeber();
+    const double Jetzt = AblaufPort().Zeitgeber();
     if (Jetzt - Zuletzt < Atempause) continue;
     Zuletzt = Jetzt;
-    Port().EreignisseAbarbeiten();
+    AblaufPort().EreignisseAbarbeiten();
   }
   StapelBlattEnde();
 }
@@ -140,7 +140,7 @@ void Rechenblatt::Protokollieren(const std::function<void()>& Block) {
 }
 
 void Rechenblatt::Melde(const std::string& Text) {
-  Port().StatusSetzen(Statusfeld::StatusHilfe, "   " + Text + "   ");
+  AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, "   " + Text + "   ");
 }
 
 }  // namespace tavorena

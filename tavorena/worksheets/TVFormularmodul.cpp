@@ -1,5 +1,5 @@
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
@@ -97,7 +97,7 @@ bool MesswertLesen(std::string& Text, double& Zahl) {
 
 int FormEinzelKorein(Wert& Pnr) {
   TVEinzelKoreinForm Form(Trimmen(Pnr));
-  Port().FormularZeigen(Form, true);
+  AnzeigePort().FormularZeigen(Form, true);
   Dialogergebnis = Form.Bestätigt ? 0 : -1;
   if (!Form.Bestätigt) return -1;
   Pnr = Wert(Form.Pnr.Text);

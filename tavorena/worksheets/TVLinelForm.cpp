@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -131,8 +131,8 @@ void TVLinelForm::Streifen() {
   Breite->Fehlerhaft = !MesswertLesen(Breite->Text, Grenze);
   if (Breite->Fehlerhaft || Pnrvon->Text.empty()) return FokusSetzen(Breite->Fehlerhaft ? *Breite : *Pnrvon);
   if (Pnrbis->Text.empty()) Pnrbis->Text = Pnrvon->Text;
-  Port().Beschäftigt(true);
-  double Zuletzt = Port().Zeitgeber();
+  AblaufPort().Beschäftigt(true);
+  double Zuletzt = AblaufPort().Zeitgeber();
   int Anzahl = 0;
   for (int z = KorBereichSuche(Pnrvon->Text, Pnrbis->Text, -1); z >= 0 && KorStop != "Stop";
        z = KorBereichSuche(Pnrvon->Text, Pnrbis->Text, z)) {
@@ -140,14 +140,14 @@ void TVLinelForm::Streifen() {
     Z.Ort = {KorRechts[static_cast<std::size_t>(z)], KorHoch[static_cast<std::size_t>(z)]};
     if (ZeileRechnen(Z) < 0 || (Grenze != 0 && std::fabs(Z.Wert2) > std::fabs(Grenze))) continue;
     if (ZeileEintragen(KorPnr(z)) == 0) ++Anzahl;
-    const double Jetzt = Port().Zeitgeber();
+    const double Jetzt = AblaufPort().Zeitgeber();
     if (Jetzt - Zuletzt < Atempause) continue;
     Zuletzt = Jetzt;
     Melde(std::to_string(Anzahl) + " Zeilen");
-    Port().EreignisseAbarbeiten();
+    AblaufPort().EreignisseAbarbeiten();
   }
   KorStop.clear();
-  Port().Beschäftigt(false);
+  AblaufPort().Beschäftigt(false);
   Melde(std::to_string(Anzahl) + " Punkte im Streifen");
   FokusSetzen(*Rechengitter);
 }

@@ -155,7 +155,7 @@ class FensterTest : public QObject {
   void init() {
     Fenster = std::make_unique<Hauptfenster>();
     Plattform = std::make_unique<Testplattform>(*Fenster);
-    PlattformSetzen(Plattform.get());
+    PortsSetzen(PortsVon(*Plattform));
     QFile::remove(Pfad("app/Tavorena.ini"));
     LetztePunktnummer.clear();
     ProtokollLeeren();
@@ -171,7 +171,7 @@ class FensterTest : public QObject {
     KoordinatendateiName.clear();
     BlätterSchließen();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    PlattformSetzen(nullptr);
+    PortsSetzen({});
     Plattform.reset();
     Fenster.reset();
   }

@@ -64,7 +64,7 @@ T Nehmen(std::deque<T>& Vorrat, const std::string& Wofür) {
 }
 
 PlattformSkript::~PlattformSkript() {
-  PlattformSetzen(Vorher);
+  PortsSetzen(Vorher);
   EXPECT_TRUE(Offen.empty()) << "not asked: " << Offen.front().first;
   EXPECT_TRUE(Dateien.empty()) << "no file dialog took " << Dateien.front();
   EXPECT_TRUE(Formulare.empty()) << "a modal form was not shown";

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tavorena/core/Plattform.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace tavorena::test {
@@ -49,9 +49,9 @@ std::string Reihe(const T&... Werte) {
 
 /// Answers questions by a script and fails the test on one that nobody foresaw. The clock stands still at
 /// 01.02.2003 10:15; Zeitgeber advances by a second with each look.
-class PlattformSkript final : public Plattform {
+class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf, public Umgebung {
  public:
-  PlattformSkript() : Vorher(PlattformSetzen(this)) {}
+  PlattformSkript() : Vorher(PortsSetzen(PortsVon(*this))) {}
   ~PlattformSkript() override;
   PlattformSkript(const PlattformSkript&) = delete;
   PlattformSkript& operator=(const PlattformSkript&) = delete;
@@ -91,7 +91,7 @@ class PlattformSkript final : public Plattform {
 
  private:
   std::deque<std::pair<std::string, int>> Offen;
-  Plattform* Vorher;
+  Ports Vorher;
   double Sekunden = 0;
 };
 

@@ -1,0 +1,42 @@
+#include <chrono>
+#include <ctime>
+#include <utility>
+
+#include <tavorena/core/Ports.h>
+
+namespace tavorena {
+namespace {
+
+Ports Gesetzt;
+
+template <typename Port>
+Port& Offen(Port* Gesetzter) {
+  static Port Still;
+  return Gesetzter != nullptr ? *Gesetzter : Still;
+}
+
+}  // namespace
+
+Zeitpunkt Ablauf::Jetzt() {
+  const std::time_t Sekunden = std::time(nullptr);
+  std::tm t{};
+#ifdef _WIN32
+  localtime_s(&t, &Sekunden);
+#else
+  localtime_r(&Sekunden, &t);
+#endif
+  return {t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min};
+}
+
+double Ablauf::Zeitgeber() {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+Rückfragen& FragenPort() { return Offen(Gesetzt.Fragen); }
+Anzeige& AnzeigePort() { return Offen(Gesetzt.Schirm); }
+Ablauf& AblaufPort() { return Offen(Gesetzt.Takt); }
+Umgebung& UmgebungPort() { return Offen(Gesetzt.Rechner); }
+
+Ports PortsSetzen(const Ports& Neue) { return std::exchange(Gesetzt, Neue); }
+
+}  // namespace tavorena

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <string>
+
+// What the lower layers ask of the program around them: four small doors, each silent by itself. The window,
+// the console and the tests open the ones that they have an answer for.
+
+namespace tavorena {
+
+class Formular;  // tavorena/forms; passed through here and never looked into
+
+enum class Knöpfe { OK, JaNein, JaNeinAbbruch };
+
+/// Button codes of a message box.
+inline constexpr int KnopfAbbruch = 2, KnopfJa = 6, KnopfNein = 7;
+
+/// What a file dialog is asked for.
+struct Dateiauftrag {
+  std::string Titel;
+  std::string Filter;          ///< "text|pattern|text|pattern", patterns of one entry separated by ";"
+  std::string Ordner;          ///< folder to start in
+  std::string Vorgabe;         ///< name or pattern to start with, such as "*.kor"
+  bool NurVorhandene = true;   ///< the file must exist
+  std::string Zusatz;          ///< caption of a check box below the list; none if empty
+  bool ZusatzGewählt = false;  ///< out: the check box was set
+};
+
+/// Questions to the user. Silent: every one is broken off.
+class Rückfragen {
+ public:
+  virtual ~Rückfragen() = default;
+  /// Message box. @return the code of the button; 1 for OK
+  virtual int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/) {
+    return KnopfAbbruch;
+  }
+  /// File dialog. @return the chosen name; "" if cancelled
+  virtual std::string DateiWählen(Dateiauftrag& /*Auftrag*/) { return {}; }
+};
+
+/// The panels of the status bar. Datei is the first one, which has no key of its own.
+enum class Statusfeld { Datei, StatusKordanz, StatusVersion, StatusUhr, StatusHilfe };
+
+/// What is shown. Silent: nothing.
+class Anzeige {
+ public:
+  virtual ~Anzeige() = default;
+  /// Shows a form; with Modal the call returns when the form is closed.
+  virtual void FormularZeigen(Formular& /*Form*/, bool /*Modal*/) {}
+  virtual void StatusSetzen(Statusfeld /*Feld*/, const std::string& /*Text*/) {}
+  /// Title of the main window.
+  virtual void FenstertitelSetzen(const std::string& /*Titel*/) {}
+  /// Menus, tool bar or windows changed.
+  virtual void HauptfensterGeändert() {}
+  /// Lines of the protocol window changed; called for each line.
+  virtual void ProtokollGeändert() {}
+  /// Size of the main window [pixels].
+  virtual void HauptfensterGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
+  virtual void BildschirmGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
+};
+
+struct Zeitpunkt {
+  int Jahr = 1970, Monat = 1, Tag = 1, Stunde = 0, Minute = 0;
+};
+
+/// The course of the program: events, clock, busy, end. Silent: the clock goes, nothing else happens.
+class Ablauf {
+ public:
+  virtual ~Ablauf() = default;
+  /// Lets waiting events run (stop button, redraw).
+  virtual void EreignisseAbarbeiten() {}
+  /// Local date and time.
+  virtual Zeitpunkt Jetzt();
+  /// Seconds from any start; never runs back.
+  virtual double Zeitgeber();
+  /// Busy pointer, menus of the main window locked; the stop button stays alive.
+  virtual void Beschäftigt(bool /*An*/) {}
+  /// A replay holds after each connection until "Weiter" is pressed.
+  virtual bool StapelHält() { return false; }
+  /// Ends the program, after the event that runs.
+  virtual void ProgrammBeenden() {}
+};
+
+/// The machine around the program: its folders, other programs. Silent: there are none.
+class Umgebung {
+ public:
+  virtual ~Umgebung() = default;
+  /// Starts a program with a file; an empty program means the desktop's own. @return 0 or -1
+  [[nodiscard]] virtual int ProgrammStarten(const std::string& /*Programm*/, const std::string& /*Datei*/) {
+    return -1;
+  }
+  /// Folder of the executable.
+  virtual std::string ProgrammOrdner() { return {}; }
+  /// Folders of the user.
+  virtual std::string Heimordner() { return {}; }
+  virtual std::string Dokumentordner() { return Heimordner(); }
+};
+
+/// The four doors in use; nullptr: the silent one.
+struct Ports {
+  Rückfragen* Fragen = nullptr;
+  Anzeige* Schirm = nullptr;
+  Ablauf* Takt = nullptr;
+  Umgebung* Rechner = nullptr;
+};
+
+/// @{
+/// The door in use.
+Rückfragen& FragenPort();
+Anzeige& AnzeigePort();
+Ablauf& AblaufPort();
+Umgebung& UmgebungPort();
+/// @}
+
+/// Sets all four doors and gives the ones before.
+Ports PortsSetzen(const Ports& Neue);
+
+/// The doors of an object that answers all of them.
+template <typename Plattform>
+Ports PortsVon(Plattform& P) {
+  return {&P, &P, &P, &P};
+}
+
+}  // namespace tavorena
