@@ -48,6 +48,10 @@ void DateiendeMeldung(const std::string& Datei) { Hinweis("Unerwartetes Dateiend
 
 void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Pnr + "schon vorhanden !"); }
 
+void StatusHilfeSetzen(const std::string& Text) {
+  AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");
+}
+
 void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort) {
   Hinweis("Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
               " wurde ausgelöst durch Tavorena\n" + Beschreibung(Fehler),

@@ -19,6 +19,10 @@ void FehlerMeldung(const std::string& Text);
 void DateiendeMeldung(const std::string& Datei);
 void PunktVorhandenMeldung(const std::string& Pnr);
 
+/// Shows a text in the help panel of the status bar, three blanks before and behind it; an empty one clears
+/// the panel.
+void StatusHilfeSetzen(const std::string& Text);
+
 /// Numbers of run-time faults.
 enum class Laufzeitfehler : int {
   Überlauf = 6,

@@ -13,6 +13,7 @@
 #include <QToolBar>
 
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>

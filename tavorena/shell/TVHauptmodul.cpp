@@ -180,8 +180,4 @@ void TitelSetzen(const std::string& Dateiname) {
   AnzeigePort().FenstertitelSetzen("Tavorena    " + Dateiname);
 }
 
-void StatusHilfeSetzen(const std::string& Text) {
-  AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");
-}
-
 }  // namespace tavorena

@@ -52,6 +52,5 @@ void HauptfensterAktiviert();
 void HauptOptionsmenüSetzen();
 
 void TitelSetzen(const std::string& Dateiname);
-void StatusHilfeSetzen(const std::string& Text);
 
 }  // namespace tavorena
