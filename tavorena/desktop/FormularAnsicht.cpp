@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 
 #include <QAbstractButton>
@@ -14,7 +15,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
@@ -56,36 +57,43 @@ FormularAnsicht::FormularAnsicht(Formular& Gezeigt, QWidget* Eltern)
   Kästen->setContentsMargins(10, 10, 10, 10);
   Kästen->setSpacing(8);
   Aufbauen();
-  Modell->Beobachter = this;
-  FormularGeändert();
+  TitelGeändert();
+  Modell->Beobachten(this);
 }
 
 FormularAnsicht::~FormularAnsicht() {
-  if (Modell != nullptr) Modell->Beobachter = nullptr;
+  if (Modell != nullptr) Modell->Beobachten(nullptr);
 }
 
 void FormularAnsicht::Aufbauen() {
-  Knopfleiste = new QGridLayout;
+  Knöpfe = new QGridLayout;
   for (const auto& S : Modell->Steuerelemente()) {
-    QWidget* W = Erzeugen(*S);
-    Widgets[S.get()] = W;
-    if (S->Rahmen == "#") {
-      Knopfleiste->addWidget(W, S->Ort.Zeile, S->Ort.Spalte);
-    } else if (S->Art == Steuerart::Gitter) {
-      QGridLayout* Platz = Rahmenplatz(S->Rahmen);
-      Platz->addWidget(W, S->Ort.Zeile, 0, 1, -1);
-      Kästen->setStretchFactor(Platz->parentWidget(), 1);
-    } else {
-      const bool Rechts = S->Rechtsbündig && S->Art == Steuerart::Beschriftung;
-      Rahmenplatz(S->Rahmen)->addWidget(W, S->Ort.Zeile, S->Ort.Spalte, 1, S->Ort.Breite,
-                                        (Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    }
+    const Bild& B = Bilder[S.get()] = Erzeugen(*S);
+    Elemente[B.Widget] = S.get();
+    B.Widget->setObjectName(Q(S->Name));
+    B.Widget->installEventFilter(this);
+    Einsetzen(*S, B.Widget);
   }
   for (const auto& [Titel, Platz] : Rahmen) Platz->setColumnStretch(Platz->columnCount(), 1);
   auto* Unten = new QHBoxLayout;
   Unten->addStretch(1);
-  Unten->addLayout(Knopfleiste);
+  Unten->addLayout(Knöpfe);
   Kästen->addLayout(Unten);
+  for (const auto& S : Modell->Steuerelemente()) SteuerelementGeändert(*S);
+}
+
+void FormularAnsicht::Einsetzen(const Steuerelement& S, QWidget* W) {
+  if (S.Rahmen == Knopfleiste) return Knöpfe->addWidget(W, S.Ort.Zeile, S.Ort.Spalte);
+  QGridLayout* Platz = Rahmenplatz(S.Rahmen);
+  if (dynamic_cast<const Gitter*>(&S) != nullptr) {
+    Platz->addWidget(W, S.Ort.Zeile, 0, 1, -1);
+    Kästen->setStretchFactor(Platz->parentWidget(), 1);
+    return;
+  }
+  const auto* Text = dynamic_cast<const Beschriftung*>(&S);
+  const bool Rechts = Text != nullptr && Text->Rechtsbündig;
+  Platz->addWidget(W, S.Ort.Zeile, S.Ort.Spalte, 1, S.Ort.Breite,
+                   (Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
 QGridLayout* FormularAnsicht::Rahmenplatz(const std::string& Titel) {
@@ -101,214 +109,202 @@ QGridLayout* FormularAnsicht::Rahmenplatz(const std::string& Titel) {
   return Platz;
 }
 
-QWidget* FormularAnsicht::Erzeugen(Steuerelement& S) {
-  QWidget* W = nullptr;
-  switch (S.Art) {
-    case Steuerart::Beschriftung:
-      W = new QLabel(this);
-      break;
-    case Steuerart::Feld:
-      W = FeldErzeugen(S);
-      break;
-    case Steuerart::Gitter:
-      W = GitterErzeugen(dynamic_cast<Gitter&>(S));
-      break;
-    case Steuerart::Knopf:
-    case Steuerart::Kontrollkaestchen:
-    case Steuerart::Option:
-    case Steuerart::Liste:
-      W = AuswahlErzeugen(S);
-      break;
-  }
-  W->setObjectName(Q(S.Name));
-  W->installEventFilter(this);
-  return W;
+FormularAnsicht::Bild FormularAnsicht::Erzeugen(Steuerelement& S) {
+  if (auto* F = dynamic_cast<Feld*>(&S)) return FeldErzeugen(*F);
+  if (auto* G = dynamic_cast<Gitter*>(&S)) return GitterErzeugen(*G);
+  if (auto* K = dynamic_cast<Knopf*>(&S)) return KnopfErzeugen(*K);
+  if (auto* A = dynamic_cast<Auswahl*>(&S))
+    return A->Art == Auswahlart::Liste ? ListeErzeugen(*A) : AuswahlErzeugen(*A);
+  return BeschriftungErzeugen(dynamic_cast<Beschriftung&>(S));
 }
 
-QWidget* FormularAnsicht::FeldErzeugen(Steuerelement& S) {
-  auto* Feld = new Eingabefeld(this);
-  Feld->setFont(Zahlenschrift());
-  Feld->setFixedWidth(Zeichenbreite(Feld->font(), S.Zeichen) + 16);
-  Feld->setAlignment(S.Rechtsbündig ? Qt::AlignRight : Qt::AlignLeft);
-  FeldAnschließen(*Feld, S);
-  return Feld;
+FormularAnsicht::Bild FormularAnsicht::BeschriftungErzeugen(Beschriftung& B) {
+  auto* Text = new QLabel(this);
+  return {Text, [&B, Text] {
+            Text->setEnabled(B.Aktiv);
+            Text->setText(Q(B.Text));
+          }};
 }
 
-QWidget* FormularAnsicht::GitterErzeugen(Gitter& G) {
-  auto* Feld = new Eingabefeld(this);
-  Feld->setObjectName(Q(G.Name + "Feld"));
-  Feld->installEventFilter(this);
-  FeldAnschließen(*Feld, G);
-  auto* Tabelle = new Gitteransicht(G, Feld, this);
+FormularAnsicht::Bild FormularAnsicht::FeldErzeugen(Feld& F) {
+  auto* Zeile = new Eingabefeld(this);
+  Zeile->setFont(Zahlenschrift());
+  Zeile->setFixedWidth(Zeichenbreite(Zeile->font(), F.Zeichen) + 16);
+  Zeile->setAlignment(F.Rechtsbündig ? Qt::AlignRight : Qt::AlignLeft);
+  FeldAnschließen(*Zeile, F);
+  return {Zeile, [&F, Zeile] {
+            if (Zeile->text() != Q(F.Text)) Zeile->setText(Q(F.Text));
+            Zeile->ErgebnisZeigen(!Formular::NimmtFokus(F));  // one that is closed for now stays readable
+            Zeile->FehlerhaftZeigen(F.Fehlerhaft);
+          }};
+}
+
+FormularAnsicht::Bild FormularAnsicht::GitterErzeugen(Gitter& G) {
+  auto* Zelle = new Eingabefeld(this);
+  Zelle->setObjectName(Q(G.Name + "Feld"));
+  FeldAnschließen(*Zelle, G);
+  auto* Tabelle = new Gitteransicht(G, Zelle, this);
   Tabelle->BeiZelle = [this, &G](int Zeile, int Spalte) {
     if (Modell == nullptr) return;
     FokusMelden(G);
     const bool Eingabe = G.Spalten[static_cast<std::size_t>(Spalte)].Eingabe;
-    Modell->ZelleWechseln(G, Zeile, Eingabe ? Spalte : G.Spalte);
+    Modell->ZelleWechseln(G, Zeile, Eingabe ? Spalte : *G.Spalte);
     FokusZeigen();
   };
-  return Tabelle;
+  return {Tabelle, [Tabelle] { Tabelle->ZustandZeigen(); }};
 }
 
-QWidget* FormularAnsicht::AuswahlErzeugen(Steuerelement& S) {
-  if (S.Art == Steuerart::Liste) {
-    auto* Liste = new QComboBox(this);
-    for (const std::string& Eintrag : S.Einträge) Liste->addItem(Q(Eintrag));
-    Liste->setMinimumWidth(Zeichenbreite(font(), S.Zeichen) + 40);
-    connect(Liste, &QComboBox::textActivated, this, [this, &S](const QString& Text) {
-      if (Modell != nullptr) Modell->Wählen(S, Text.toStdString(), true);
-    });
-    return Liste;
-  }
-  QAbstractButton* Knopf = nullptr;
-  if (S.Art == Steuerart::Kontrollkaestchen) Knopf = new QCheckBox(this);
-  if (S.Art == Steuerart::Option) Knopf = new QRadioButton(this);
-  if (S.Art == Steuerart::Knopf) {
-    auto* Druck = new QPushButton(this);
-    Druck->setAutoDefault(false);
-    Druck->setDefault(S.Vorgabe);
-    if (S.Text == "...") Druck->setFixedWidth(32);
-    Knopf = Druck;
-  }
-  connect(Knopf, &QAbstractButton::clicked, this, [this, &S](bool An) {
+FormularAnsicht::Bild FormularAnsicht::KnopfErzeugen(Knopf& K) {
+  auto* Druck = new QPushButton(this);
+  Druck->setAutoDefault(false);
+  Druck->setDefault(K.Vorgabe);
+  if (K.Text == "...") Druck->setFixedWidth(32);
+  connect(Druck, &QPushButton::clicked, this, [this, &K] {
     if (Modell == nullptr) return;
-    if (S.Art == Steuerart::Knopf) {
-      Modell->Klicken(S);
-    } else {
-      Modell->Wählen(S, "", An);
-    }
+    Modell->Klicken(K);
     FokusZeigen();
   });
-  return Knopf;
+  return {Druck, [&K, Druck] {
+            Druck->setEnabled(K.Aktiv);
+            Druck->setText(Q(K.Text));
+          }};
 }
 
-void FormularAnsicht::FeldAnschließen(Eingabefeld& Feld, Steuerelement& S) {
-  Feld.BeiFokus = [this, &S] {
+FormularAnsicht::Bild FormularAnsicht::AuswahlErzeugen(Auswahl& A) {
+  QAbstractButton* Haken = nullptr;
+  if (A.Art == Auswahlart::Option) {
+    Haken = new QRadioButton(this);
+  } else {
+    Haken = new QCheckBox(this);
+  }
+  connect(Haken, &QAbstractButton::clicked, this, [this, &A](bool An) {
+    if (Modell == nullptr) return;
+    Modell->Wählen(A, "", An);
+    FokusZeigen();
+  });
+  return {Haken, [&A, Haken] {
+            Haken->setEnabled(A.Aktiv);
+            Haken->setText(Q(A.Text));
+            Haken->setChecked(A.Gewählt);
+          }};
+}
+
+FormularAnsicht::Bild FormularAnsicht::ListeErzeugen(Auswahl& A) {
+  auto* Liste = new QComboBox(this);
+  for (const std::string& Eintrag : A.Einträge) Liste->addItem(Q(Eintrag));
+  Liste->setMinimumWidth(Zeichenbreite(font(), A.Zeichen) + 40);
+  connect(Liste, &QComboBox::textActivated, this, [this, &A](const QString& Text) {
+    if (Modell != nullptr) Modell->Wählen(A, Text.toStdString(), true);
+  });
+  return {Liste, [&A, Liste] {
+            Liste->setEnabled(A.Aktiv);
+            Liste->setCurrentText(Q(A.Text));
+          }};
+}
+
+void FormularAnsicht::FeldAnschließen(Eingabefeld& Zeile, Eingabeelement& E) {
+  Zeile.BeiFokus = [this, &E] {
     // The form may ask a question about the field that is left: never inside the focus event itself.
-    QTimer::singleShot(0, this, [this, &S] { FokusMelden(S); });
+    QTimer::singleShot(0, this, [this, &E] { FokusMelden(E); });
   };
-  Feld.BeiTaste = [this, &S](QKeyEvent& Ereignis) { return TasteGeben(S, Ereignis); };
-  Feld.BeiTab = [this, &S](bool Vor) { return TabWeiter(S, Vor); };
-  connect(&Feld, &QLineEdit::textEdited, this, [this, &S](const QString& Text) {
-    if (Modell != nullptr) Modell->Tippen(S, Text.toStdString());
+  Zeile.BeiTaste = [this, &E](QKeyEvent& Ereignis) { return TasteGeben(E, Ereignis); };
+  Zeile.BeiTab = [this, &E](bool Vor) { return TabWeiter(E, Vor); };
+  connect(&Zeile, &QLineEdit::textEdited, this, [this, &E](const QString& Text) {
+    if (Modell != nullptr) Modell->Tippen(E, Text.toStdString());
   });
 }
 
 // The user is in a control: the form reads the one before, and may send the focus back.
 void FormularAnsicht::FokusMelden(Steuerelement& S) {
   if (Modell == nullptr || Auffrischend || Modell->Fokus() == &S) return;
-  QWidget* W = FokusWidget(S);
-  if (W == nullptr || !W->hasFocus()) return;
+  if (!FokusWidget(S)->hasFocus()) return;
   Modell->FokusWechseln(S);
   FokusZeigen();
 }
 
 bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
-  auto* Feld = qobject_cast<QLineEdit*>(FokusWidget(S));
-  const bool Anfang = Feld != nullptr && (Feld->text().isEmpty() || Feld->selectedText() == Feld->text());
+  auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(S));
+  const bool Anfang = Zeile != nullptr && (Zeile->text().isEmpty() || Zeile->selectedText() == Zeile->text());
   const std::optional<Taste> T = TasteVon(Ereignis, Anfang);
   FokusMelden(S);
   if (Modell == nullptr || Modell->Fokus() != &S) return true;  // the focus went back: the key is void
   if (!T || !Modell->TasteDrücken(*T)) return false;
   FokusZeigen();
-  if ((T == Taste::Plus || T == Taste::Minus) && Feld != nullptr) Feld->end(false);
+  if ((T == Taste::Plus || T == Taste::Minus) && Zeile != nullptr) Zeile->end(false);
   return true;
 }
 
 bool FormularAnsicht::TabWeiter(const Steuerelement& S, bool Vor) {
-  if (Modell == nullptr) return false;
-  const auto& Liste = Modell->Steuerelemente();
-  const auto Anzahl = static_cast<int>(Liste.size());
-  int i = 0;
-  while (i < Anzahl && Liste[static_cast<std::size_t>(i)].get() != &S) ++i;
-  for (int Schritte = 0; Schritte < Anzahl; ++Schritte) {
-    i = (i + (Vor ? 1 : Anzahl - 1)) % Anzahl;
-    const Steuerelement& N = *Liste[static_cast<std::size_t>(i)];
-    QWidget* W = FokusWidget(N);
-    if (N.Art == Steuerart::Beschriftung || N.NurLesen || !N.Aktiv || !N.Sichtbar || W == nullptr) continue;
-    W->setFocus(Vor ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return true;
-  }
-  return false;
+  const Steuerelement* N = Modell != nullptr ? Modell->Nachbar(S, Vor) : nullptr;
+  if (N == nullptr) return false;
+  FokusWidget(*N)->setFocus(Vor ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
 }
 
 QWidget* FormularAnsicht::FokusWidget(const Steuerelement& S) const {
-  const auto W = Widgets.find(&S);
-  if (W == Widgets.end()) return nullptr;
-  if (S.Art != Steuerart::Gitter) return W->second;
-  auto* Feld = W->second->findChild<Eingabefeld*>();
-  return Feld != nullptr && Feld->isVisibleTo(this) ? Feld : W->second;
+  QWidget* W = Bilder.at(&S).Widget;
+  auto* Tabelle = dynamic_cast<Gitteransicht*>(W);
+  return Tabelle != nullptr ? Tabelle->Fokusziel() : W;
 }
 
 void FormularAnsicht::FokusZeigen() {
   if (Modell == nullptr || Modell->Fokus() == nullptr) return;
   QWidget* W = FokusWidget(*Modell->Fokus());
-  if (W != nullptr && !W->hasFocus()) W->setFocus(Qt::OtherFocusReason);
+  if (!W->hasFocus()) W->setFocus(Qt::OtherFocusReason);
 }
 
-void FormularAnsicht::FormularGeändert() {
-  if (Modell == nullptr || Auffrischend) return;
+void FormularAnsicht::SteuerelementGeändert(Steuerelement& S) {
   const QScopedValueRollback<bool> Sperre(Auffrischend, true);
-  for (const auto& S : Modell->Steuerelemente()) Zeigen(*S, *Widgets.at(S.get()));
-  // A frame whose controls are all hidden is hidden as well.
-  for (const auto& [Titel, Platz] : Rahmen) {
-    bool Etwas = false;
-    for (const auto& S : Modell->Steuerelemente()) Etwas = Etwas || (S->Rahmen == Titel && S->Sichtbar);
-    Platz->parentWidget()->setVisible(Etwas);
-  }
-  setWindowTitle(Q(Modell->Titel));
+  const Bild& B = Bilder.at(&S);
+  B.Widget->setVisible(S.Sichtbar);
+  B.Zeigen();
+  RahmenZeigen(S.Rahmen);
 }
 
-void FormularAnsicht::Zeigen(Steuerelement& S, QWidget& W) {
-  W.setVisible(S.Sichtbar);
-  if (auto* Tabelle = dynamic_cast<Gitteransicht*>(&W)) return Tabelle->Auffrischen();
-  if (auto* Feld = dynamic_cast<Eingabefeld*>(&W)) return FeldZeigen(S, *Feld);
-  W.setEnabled(S.Aktiv);
-  if (auto* Text = qobject_cast<QLabel*>(&W)) {
-    Text->setText(Q(S.Text));
-  } else if (auto* Liste = qobject_cast<QComboBox*>(&W)) {
-    Liste->setCurrentText(Q(S.Text));
-  } else if (auto* Knopf = qobject_cast<QAbstractButton*>(&W)) {
-    Knopf->setText(Q(S.Text));
-    if (Knopf->isCheckable()) Knopf->setChecked(S.Gewählt);
-  }
+void FormularAnsicht::GitterGeändert(Gitter& G, const Gitteränderung& Was) {
+  const QScopedValueRollback<bool> Sperre(Auffrischend, true);
+  dynamic_cast<Gitteransicht&>(*Bilder.at(&G).Widget).Übernehmen(Was);
 }
 
-void FormularAnsicht::FeldZeigen(const Steuerelement& S, Eingabefeld& Feld) {
-  if (Feld.text() != Q(S.Text)) Feld.setText(Q(S.Text));
-  Feld.ErgebnisZeigen(S.NurLesen || !S.Aktiv);  // a field that is closed for now stays readable
-  Feld.FehlerhaftZeigen(S.Fehlerhaft);
+void FormularAnsicht::TitelGeändert() { setWindowTitle(Q(Modell->Titel)); }
+
+// A frame whose controls are all hidden is hidden as well.
+void FormularAnsicht::RahmenZeigen(const std::string& Titel) {
+  const auto Gefunden = Rahmen.find(Titel);
+  if (Gefunden == Rahmen.end()) return;
+  const auto& Alle = Modell->Steuerelemente();
+  Gefunden->second->parentWidget()->setVisible(std::any_of(
+      Alle.begin(), Alle.end(), [&](const auto& S) { return S->Rahmen == Titel && S->Sichtbar; }));
 }
 
 void FormularAnsicht::FormularGeschlossen() {
-  for (const auto& [S, W] : Widgets) {
-    if (auto* Tabelle = dynamic_cast<Gitteransicht*>(W)) Tabelle->Lösen();
+  for (const auto& [S, B] : Bilder) {
+    if (auto* Tabelle = dynamic_cast<Gitteransicht*>(B.Widget)) Tabelle->Lösen();
   }
   Modell = nullptr;
   if (BeiGeschlossen) BeiGeschlossen();
 }
 
 bool FormularAnsicht::eventFilter(QObject* Objekt, QEvent* Ereignis) {
-  Steuerelement* S = nullptr;
-  for (const auto& [Element, W] : Widgets) {
-    if (W == Objekt) S = const_cast<Steuerelement*>(Element);
-  }
-  if (S == nullptr || Modell == nullptr) return QWidget::eventFilter(Objekt, Ereignis);
+  const auto Gefunden = Elemente.find(Objekt);
+  if (Gefunden == Elemente.end() || Modell == nullptr) return QWidget::eventFilter(Objekt, Ereignis);
+  Steuerelement& S = *Gefunden->second;
+  const bool IstFeld = dynamic_cast<Eingabefeld*>(Objekt) != nullptr;  // it tells of focus and keys itself
   switch (Ereignis->type()) {
     case QEvent::Enter:
-      AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, S->Hilfe.empty() ? "" : "   " + S->Hilfe + "   ");
+      StatusHilfeSetzen(S.Hilfe);
       break;
     case QEvent::Leave:
-      AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, "");
+      StatusHilfeSetzen("");
       break;
     case QEvent::FocusIn:
-      if (S->Art != Steuerart::Feld) QTimer::singleShot(0, this, [this, S] { FokusMelden(*S); });
+      if (!IstFeld) QTimer::singleShot(0, this, [this, &S] { FokusMelden(S); });
       break;
     case QEvent::KeyPress: {
       const auto& Taste = static_cast<const QKeyEvent&>(*Ereignis);
       const bool Pfeil = Taste.key() == Qt::Key_Up || Taste.key() == Qt::Key_Down;
-      if (S->Art != Steuerart::Feld && !(Pfeil && S->Art != Steuerart::Gitter) && TasteGeben(*S, Taste))
-        return true;
+      const bool IstGitter = dynamic_cast<Gitteransicht*>(Objekt) != nullptr;
+      if (!IstFeld && (IstGitter || !Pfeil) && TasteGeben(S, Taste)) return true;
       break;
     }
     default:

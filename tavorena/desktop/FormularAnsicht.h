@@ -16,13 +16,15 @@ class Eingabefeld;
 class Gitteransicht;
 
 /// Shows any form, once for all worksheets, dialogs and editors. It knows the form's model only: what the
-/// user does goes to the form as an event, and after each event the controls are taken over from it.
+/// user does goes to the form as an event, and after each event what it changed is taken over.
 class FormularAnsicht final : public QWidget, public FormularBeobachter {
  public:
   explicit FormularAnsicht(Formular& Gezeigt, QWidget* Eltern = nullptr);
   ~FormularAnsicht() override;
 
-  void FormularGeändert() override;
+  void SteuerelementGeändert(Steuerelement& S) override;
+  void GitterGeändert(Gitter& G, const Gitteränderung& Was) override;
+  void TitelGeändert() override;
   void FormularGeschlossen() override;
 
   /// The form that is shown; nullptr after it was closed.
@@ -36,25 +38,35 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   bool eventFilter(QObject* Objekt, QEvent* Ereignis) override;
 
  private:
+  /// What shows a control.
+  struct Bild {
+    QWidget* Widget;
+    std::function<void()> Zeigen;  ///< takes the state of the control over
+  };
+
   void Aufbauen();
+  void Einsetzen(const Steuerelement& S, QWidget* W);
   QGridLayout* Rahmenplatz(const std::string& Titel);
-  QWidget* Erzeugen(Steuerelement& S);
-  QWidget* FeldErzeugen(Steuerelement& S);
-  QWidget* GitterErzeugen(Gitter& G);
-  QWidget* AuswahlErzeugen(Steuerelement& S);
-  void FeldAnschließen(Eingabefeld& Feld, Steuerelement& S);
-  void Zeigen(Steuerelement& S, QWidget& W);
-  void FeldZeigen(const Steuerelement& S, Eingabefeld& Feld);
-  bool TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis);
-  bool TabWeiter(const Steuerelement& S, bool Vor);
+  Bild Erzeugen(Steuerelement& S);
+  Bild BeschriftungErzeugen(Beschriftung& B);
+  Bild FeldErzeugen(Feld& F);
+  Bild GitterErzeugen(Gitter& G);
+  Bild KnopfErzeugen(Knopf& K);
+  Bild AuswahlErzeugen(Auswahl& A);
+  Bild ListeErzeugen(Auswahl& A);
+  void FeldAnschließen(Eingabefeld& Zeile, Eingabeelement& E);
+  void RahmenZeigen(const std::string& Titel);
+  [[nodiscard]] bool TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis);
+  [[nodiscard]] bool TabWeiter(const Steuerelement& S, bool Vor);
   void FokusMelden(Steuerelement& S);
   [[nodiscard]] QWidget* FokusWidget(const Steuerelement& S) const;
 
   Formular* Modell;
-  std::unordered_map<const Steuerelement*, QWidget*> Widgets;
+  std::unordered_map<const Steuerelement*, Bild> Bilder;
+  std::unordered_map<const QObject*, Steuerelement*> Elemente;
   std::unordered_map<std::string, QGridLayout*> Rahmen;
   QVBoxLayout* Kästen;
-  QGridLayout* Knopfleiste = nullptr;
+  QGridLayout* Knöpfe = nullptr;
   bool Auffrischend = false;
 };
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QAbstractTableModel>
 #include <QFontDatabase>
 #include <QHeaderView>
@@ -35,8 +37,9 @@ class Gittermodell final : public QAbstractTableModel {
 
   void Lösen() { Daten = nullptr; }
 
-  void Auffrischen() {
-    const int Neu = Daten->Zeilen();
+  // Rows come and go at the end; of those that stay the changed ones are told.
+  void Übernehmen(const Gitteränderung& Was) {
+    const int Neu = Daten->Zeilen(), Bleiben = std::min(Zeilen, Neu);
     if (Neu > Zeilen) {
       beginInsertRows({}, Zeilen, Neu - 1);
       Zeilen = Neu;
@@ -46,7 +49,8 @@ class Gittermodell final : public QAbstractTableModel {
       Zeilen = Neu;
       endRemoveRows();
     }
-    if (Zeilen > 0) emit dataChanged(index(0, 0), index(Zeilen - 1, columnCount() - 1));
+    const int Bis = std::min(Was.Bis, Bleiben);
+    if (Was.Von < Bis) emit dataChanged(index(Was.Von, 0), index(Bis - 1, SpaltenAnzahl - 1));
   }
 
  private:
@@ -81,6 +85,7 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   Zellfeld->setFont(font());
   Zellfeld->setAlignment(Qt::AlignRight);
   Zellfeld->hide();
+  Übernehmen({0, Daten.Zeilen(), true, true, true});
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Gitteransicht::FeldRücken);
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& Zelle) {
     if (BeiZelle) BeiZelle(Zelle.row(), Zelle.column());
@@ -92,20 +97,30 @@ void Gitteransicht::Lösen() {
   Feldzelle = QModelIndex();
 }
 
-void Gitteransicht::Auffrischen() {
-  Modell->Auffrischen();
-  for (int s = 0; s < Modell->columnCount(); ++s) {
-    setColumnHidden(s, !Daten.Spalten[static_cast<std::size_t>(s)].Sichtbar);
-  }
+void Gitteransicht::Übernehmen(const Gitteränderung& Was) {
+  Modell->Übernehmen(Was);
+  if (Was.Spalten) SpaltenZeigen();
+  FeldSetzen();
+}
+
+void Gitteransicht::ZustandZeigen() {
   setEnabled(Daten.Aktiv);
   FeldSetzen();
 }
 
+void Gitteransicht::SpaltenZeigen() {
+  for (int s = 0; s < Modell->columnCount(); ++s) {
+    setColumnHidden(s, !Daten.Spalten[static_cast<std::size_t>(s)].Sichtbar);
+  }
+}
+
+QWidget* Gitteransicht::Fokusziel() {
+  return Zellfeld->isVisibleTo(this) ? static_cast<QWidget*>(Zellfeld) : this;
+}
+
 // Puts the field of the current cell into its place.
 void Gitteransicht::FeldSetzen() {
-  const bool Tippbar = Daten.Aktiv && Daten.Zeile < Modell->rowCount() &&
-                       Daten.Spalten[static_cast<std::size_t>(Daten.Spalte)].Eingabe;
-  if (!Tippbar) {
+  if (!Daten.Aktiv || !Daten.ZelleOffen()) {
     Feldzelle = QModelIndex();
     Zellfeld->hide();
     return;
@@ -118,6 +133,7 @@ void Gitteransicht::FeldSetzen() {
     Feldzelle = Zelle;
     if (Zellfeld->hasFocus()) Zellfeld->selectAll();
   }
+  Zellfeld->FehlerhaftZeigen(Daten.Fehlerhaft);
   FeldRücken();
   Zellfeld->show();
 }

@@ -17,8 +17,12 @@ class Gitteransicht final : public QTableView {
  public:
   Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern = nullptr);
 
-  /// Takes over what changed in the grid.
-  void Auffrischen();
+  /// Takes over what changed in cells, rows and columns.
+  void Übernehmen(const Gitteränderung& Was);
+  /// Takes over the state of the grid as a whole.
+  void ZustandZeigen();
+  /// What takes the keys: the field of the current cell, if it is there.
+  [[nodiscard]] QWidget* Fokusziel();
   /// The form is closed: its grid must not be looked at any more.
   void Lösen();
 
@@ -31,6 +35,7 @@ class Gitteransicht final : public QTableView {
   [[nodiscard]] QSize sizeHint() const override;
 
  private:
+  void SpaltenZeigen();
   void FeldSetzen();
   void FeldRücken();
 

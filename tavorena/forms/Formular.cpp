@@ -4,97 +4,161 @@
 #include <tavorena/forms/Formular.h>
 
 namespace tavorena {
-namespace {
-
-std::size_t Stelle(int i) { return static_cast<std::size_t>(i); }
-
-}  // namespace
-
-const std::string& Gitter::Inhalt(int z, int s) const { return Zellen.at(Stelle(z)).at(Stelle(s)); }
-
-void Gitter::InhaltSetzen(int z, int s, std::string Neu) {
-  Zellen.at(Stelle(z)).at(Stelle(s)) = std::move(Neu);
-}
-
-void Gitter::ZeileAnhängen() { Zellen.emplace_back(Spalten.size()); }
-
-void Gitter::ZeileLöschen(int z) {
-  if (z < 0 || z >= Zeilen()) return;
-  Zellen.erase(Zellen.begin() + z);
-  Zeile = std::clamp(Zeile, 0, std::max(Zeilen() - 1, 0));
-}
-
-void Gitter::Leeren(int ZeilenDanach) {
-  Zellen.assign(Stelle(ZeilenDanach), std::vector<std::string>(Spalten.size()));
-  Zeile = Spalte = 0;
-}
 
 Steuerelement* Formular::Finde(std::string_view Gesucht) const {
   const auto i = std::find_if(Liste.begin(), Liste.end(), [&](const auto& S) { return S->Name == Gesucht; });
   return i != Liste.end() ? i->get() : nullptr;
 }
 
-Steuerelement& Formular::Steuer(Steuerart Art, std::string SteuerName, std::string Text, Platz Ort,
-                                std::string Rahmen) {
-  auto& S = *Liste.emplace_back(std::make_unique<Steuerelement>());
-  S.Art = Art;
-  S.Name = std::move(SteuerName);
+// ---- the controls -------------------------------------------------------------------------------------
+
+template <typename Art>
+Art& Formular::Anlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen) {
+  auto Neu = std::make_unique<Art>();
+  Art& S = *Neu;
+  S.Name = std::move(Name);
   S.Text = std::move(Text);
   S.Ort = Ort;
   S.Rahmen = std::move(Rahmen);
-  return S;
-}
-
-Steuerelement& Formular::Beschriftung(std::string Text, Platz Ort, std::string Rahmen) {
-  return Steuer(Steuerart::Beschriftung, "", std::move(Text), Ort, std::move(Rahmen));
-}
-
-Steuerelement& Formular::Feld(std::string FeldName, Platz Ort, std::string Rahmen, int Zeichen) {
-  Steuerelement& S = Steuer(Steuerart::Feld, std::move(FeldName), "", Ort, std::move(Rahmen));
-  S.Zeichen = Zeichen;
-  return S;
-}
-
-Steuerelement& Formular::Zahlenfeld(std::string FeldName, Platz Ort, std::string Rahmen, int Zeichen) {
-  Steuerelement& S = Feld(std::move(FeldName), Ort, std::move(Rahmen), Zeichen);
-  S.Rechtsbündig = true;
-  return S;
-}
-
-Steuerelement& Formular::Ergebnisfeld(std::string FeldName, Platz Ort, std::string Rahmen, int Zeichen) {
-  Steuerelement& S = Zahlenfeld(std::move(FeldName), Ort, std::move(Rahmen), Zeichen);
-  S.NurLesen = true;
-  return S;
-}
-
-Steuerelement& Formular::Knopf(std::string KnopfName, std::string Text, Platz Ort, std::string Rahmen) {
-  return Steuer(Steuerart::Knopf, std::move(KnopfName), std::move(Text), Ort, std::move(Rahmen));
-}
-
-Gitter& Formular::NeuesGitter(std::string GitterName, std::vector<Gitterspalte> Spalten, Platz Ort,
-                              std::string Rahmen) {
-  auto Neu = std::make_unique<Gitter>();
-  Gitter& G = *Neu;
-  G.Art = Steuerart::Gitter;
-  G.Name = std::move(GitterName);
-  G.Spalten = std::move(Spalten);
-  G.Ort = Ort;
-  G.Rahmen = std::move(Rahmen);
   Liste.push_back(std::move(Neu));
+  return S;
+}
+
+Beschriftung& Formular::BeschriftungAnlegen(std::string Text, Platz Ort, std::string Rahmen) {
+  return Anlegen<Beschriftung>("", std::move(Text), Ort, std::move(Rahmen));
+}
+
+Feld& Formular::FeldAnlegen(std::string Name, Platz Ort, std::string Rahmen, int Zeichen) {
+  Feld& F = Anlegen<Feld>(std::move(Name), "", Ort, std::move(Rahmen));
+  F.Zeichen = Zeichen;
+  return F;
+}
+
+Feld& Formular::ZahlenfeldAnlegen(std::string Name, Platz Ort, std::string Rahmen, int Zeichen) {
+  Feld& F = FeldAnlegen(std::move(Name), Ort, std::move(Rahmen), Zeichen);
+  F.Rechtsbündig = true;
+  return F;
+}
+
+Feld& Formular::ErgebnisfeldAnlegen(std::string Name, Platz Ort, std::string Rahmen, int Zeichen) {
+  Feld& F = ZahlenfeldAnlegen(std::move(Name), Ort, std::move(Rahmen), Zeichen);
+  F.NurLesen = true;
+  return F;
+}
+
+Knopf& Formular::KnopfAnlegen(std::string Name, std::string Text, std::function<void()> Aktion, Platz Ort,
+                              std::string Rahmen) {
+  Knopf& K = Anlegen<Knopf>(std::move(Name), std::move(Text), Ort, std::move(Rahmen));
+  K.BeiDruck = std::move(Aktion);
+  return K;
+}
+
+Knopf& Formular::AbbruchAnlegen(std::string Name, std::string Text, Platz Ort) {
+  Knopf& K = KnopfAnlegen(
+      std::move(Name), std::move(Text), [this] { Schließen(); }, Ort);
+  K.Abbruch = K.OhnePrüfung = true;
+  return K;
+}
+
+void Formular::OkUndAbbruch(std::function<void()> BeiOk, std::string OkName, std::string AbbruchName) {
+  KnopfAnlegen(std::move(OkName), "&OK", std::move(BeiOk)).Vorgabe = true;
+  AbbruchAnlegen(std::move(AbbruchName), "&Abbrechen", {0, 1});
+}
+
+Auswahl& Formular::KästchenAnlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen) {
+  return Anlegen<Auswahl>(std::move(Name), std::move(Text), Ort, std::move(Rahmen));
+}
+
+Auswahl& Formular::OptionAnlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen) {
+  Auswahl& A = Anlegen<Auswahl>(std::move(Name), std::move(Text), Ort, std::move(Rahmen));
+  A.Art = Auswahlart::Option;
+  return A;
+}
+
+Auswahl& Formular::ListeAnlegen(std::string Name, std::vector<std::string> Einträge, std::string Gewählter,
+                                Platz Ort, std::string Rahmen) {
+  Auswahl& A = Anlegen<Auswahl>(std::move(Name), std::move(Gewählter), Ort, std::move(Rahmen));
+  A.Art = Auswahlart::Liste;
+  A.Einträge = std::move(Einträge);
+  return A;
+}
+
+Gitter& Formular::GitterAnlegen(std::string Name, std::vector<Gitterspalte> Spalten, Platz Ort,
+                                std::string Rahmen) {
+  Gitter& G = Anlegen<Gitter>(std::move(Name), "", Ort, std::move(Rahmen));
+  G.Spalten = std::move(Spalten);
   return G;
 }
 
-bool Formular::NimmtFokus(const Steuerelement& S) {
-  return S.Aktiv && S.Sichtbar && !S.NurLesen && S.Art != Steuerart::Beschriftung;
-}
+// ---- what the view is told ----------------------------------------------------------------------------
 
 void Formular::FehlerZeigen(const char* Was) {
   LaufzeitFehlerMeldung(Laufzeitfehler::Index, FormName + " (" + Was + ")");
 }
 
-void Formular::Melden() {
-  if (Beobachter != nullptr && IstOffen) Beobachter->FormularGeändert();
+void Formular::Beobachten(FormularBeobachter* Neuer) {
+  Beobachter = nullptr;
+  Melden();  // whoever comes takes over what there is: the notes so far are void
+  Beobachter = Neuer;
 }
+
+void Formular::Melden() {
+  for (const auto& S : Liste) {
+    if (auto* G = dynamic_cast<Gitter*>(S.get())) {
+      const Gitteränderung Was = G->ÄnderungAbholen();
+      if (Was.Etwas() && Beobachter != nullptr) Beobachter->GitterGeändert(*G, Was);
+    }
+    if (S->Abholen() && Beobachter != nullptr) Beobachter->SteuerelementGeändert(*S);
+  }
+  if (Titel.Abholen() && Beobachter != nullptr) Beobachter->TitelGeändert();
+}
+
+// ---- the focus ----------------------------------------------------------------------------------------
+
+bool Formular::NimmtFokus(const Steuerelement& S) {
+  const auto* F = dynamic_cast<const Feld*>(&S);
+  return S.Aktiv && S.Sichtbar && !(F != nullptr && F->NurLesen) &&
+         dynamic_cast<const Beschriftung*>(&S) == nullptr;
+}
+
+void Formular::FokusSetzen(Steuerelement& S) {
+  if (NimmtFokus(S)) Aktuell = &S;
+}
+
+void Formular::FokusWeiter() {
+  const auto Dieses =
+      std::find_if(Liste.begin(), Liste.end(), [&](const auto& S) { return S.get() == Aktuell; });
+  if (Dieses == Liste.end()) return;
+  const auto Nächstes = std::find_if(Dieses + 1, Liste.end(), [](const auto& S) { return NimmtFokus(*S); });
+  if (Nächstes != Liste.end()) FokusSetzen(**Nächstes);
+}
+
+Steuerelement* Formular::Nachbar(const Steuerelement& S, bool Vor) const {
+  std::vector<Steuerelement*> Reihe;
+  for (const auto& N : Liste) {
+    if (N.get() == &S || NimmtFokus(*N)) Reihe.push_back(N.get());
+  }
+  if (!Vor) std::reverse(Reihe.begin(), Reihe.end());
+  const auto Hier = std::find(Reihe.begin(), Reihe.end(), &S);
+  if (Hier == Reihe.end()) return nullptr;
+  Steuerelement* N = Hier + 1 != Reihe.end() ? Hier[1] : Reihe.front();
+  return NimmtFokus(*N) ? N : nullptr;
+}
+
+bool Formular::Lesen(Eingabeelement& E) {
+  if (!E.BeiVerlassen || !NimmtFokus(E)) return true;
+  const bool Gut = E.BeiVerlassen();
+  E.Fehlerhaft = !Gut;
+  return Gut;
+}
+
+// Reads the control with the focus.
+bool Formular::Verlassen() {
+  auto* E = dynamic_cast<Eingabeelement*>(Aktuell);
+  return E == nullptr || Lesen(*E);
+}
+
+// ---- what the user does -------------------------------------------------------------------------------
 
 void Formular::Öffnen() {
   IstOffen = true;
@@ -106,37 +170,26 @@ void Formular::Öffnen() {
   });
 }
 
-void Formular::FokusSetzen(Steuerelement& S) {
-  if (!NimmtFokus(S)) return;
-  Aktuell = &S;
-  FokusErhalten(S);
-}
-
-void Formular::FokusWeiter() {
-  const auto Dieses =
-      std::find_if(Liste.begin(), Liste.end(), [&](const auto& S) { return S.get() == Aktuell; });
-  if (Dieses == Liste.end()) return;
-  const auto Nächstes = std::find_if(Dieses + 1, Liste.end(), [](const auto& S) { return NimmtFokus(*S); });
-  if (Nächstes != Liste.end()) FokusSetzen(**Nächstes);
-}
-
 void Formular::FokusWechseln(Steuerelement& Neu) {
   if (&Neu == Aktuell || !NimmtFokus(Neu)) return;
   Ausführen([&] {
-    if (Aktuell == nullptr || Neu.OhnePrüfung || FokusVerloren(*Aktuell)) FokusSetzen(Neu);
+    const auto* K = dynamic_cast<const Knopf*>(&Neu);
+    if ((K != nullptr && K->OhnePrüfung) || Verlassen()) FokusSetzen(Neu);
   });
 }
 
-void Formular::Tippen(Steuerelement& S, const std::string& Text) {
-  if (!NimmtFokus(S)) return;
+void Formular::Tippen(Eingabeelement& E, const std::string& Text) {
+  if (!NimmtFokus(E)) return;
+  auto* G = dynamic_cast<Gitter*>(&E);
+  if (G != nullptr && !G->ZelleOffen()) return;
   Ausführen([&] {
-    S.Fehlerhaft = false;
-    if (auto* G = dynamic_cast<Gitter*>(&S)) {
-      if (G->Zeilen() > 0) G->InhaltSetzen(G->Zeile, G->Spalte, Text);
+    E.Fehlerhaft = false;
+    if (G != nullptr) {
+      G->InhaltSetzen(G->Zeile, G->Spalte, Text);
     } else {
-      S.Text = Text;
+      E.Text = Text;
     }
-    TextGeändert(S);
+    if (E.BeiText) E.BeiText();
   });
 }
 
@@ -144,52 +197,67 @@ bool Formular::TasteDrücken(Taste T) {
   if (Aktuell == nullptr || !IstOffen) return false;
   bool Genommen = true;
   Ausführen([&] {
-    Steuerelement& S = *Aktuell;
-    if (TasteUnten(S, T)) return;
-    if (T == Taste::Return) return ReturnDrücken(S);
-    if (T == Taste::Escape) {
-      const auto Knopf =
-          std::find_if(Liste.begin(), Liste.end(), [](const auto& K) { return K->Abbruch && K->Aktiv; });
-      if (Knopf != Liste.end()) return Geklickt(**Knopf);
+    if (NimmtFokus(*Aktuell)) {  // it may have been closed since
+      if (TasteUnten(*Aktuell, T)) return;
+      const auto* G = dynamic_cast<Gitter*>(Aktuell);
+      if (G != nullptr && G->BeiTaste && G->BeiTaste(T)) return;
+      if (T == Taste::Return) return ReturnDrücken();
     }
-    Genommen = false;
+    Genommen = T == Taste::Escape && EscapeDrücken();
   });
   return Genommen;
 }
 
-void Formular::ReturnDrücken(Steuerelement& S) {
-  if (S.Art == Steuerart::Knopf) return Geklickt(S);
-  if (!FokusVerloren(S)) return;
+void Formular::ReturnDrücken() {
+  if (auto* K = dynamic_cast<Knopf*>(Aktuell)) return Drücken(*K);
+  const auto* F = dynamic_cast<const Feld*>(Aktuell);
+  if (!Verlassen()) return;
+  if (F != nullptr && F->BeiReturn) return F->BeiReturn();
   FokusWeiter();
-  if (Aktuell != nullptr && Aktuell->Vorgabe) Geklickt(*Aktuell);
+  if (auto* K = dynamic_cast<Knopf*>(Aktuell); K != nullptr && K->Vorgabe) Drücken(*K);
 }
 
-void Formular::Klicken(Steuerelement& S) {
-  if (!NimmtFokus(S)) return;
+bool Formular::EscapeDrücken() {
+  for (const auto& S : Liste) {
+    auto* K = dynamic_cast<Knopf*>(S.get());
+    if (K == nullptr || !K->Abbruch || !NimmtFokus(*K)) continue;
+    Drücken(*K);
+    return true;
+  }
+  return false;
+}
+
+void Formular::Drücken(Knopf& K) {
+  if (K.BeiDruck && NimmtFokus(K)) K.BeiDruck();
+}
+
+void Formular::Klicken(Knopf& K) {
+  if (!NimmtFokus(K)) return;
   Ausführen([&] {
-    if (Aktuell != nullptr && Aktuell != &S && !S.OhnePrüfung && !FokusVerloren(*Aktuell)) return;
-    Geklickt(S);
+    if (Aktuell == &K || K.OhnePrüfung || Verlassen()) Drücken(K);
   });
 }
 
-void Formular::Wählen(Steuerelement& S, const std::string& Eintrag, bool An) {
-  if (!NimmtFokus(S)) return;
+void Formular::Wählen(Auswahl& A, const std::string& Eintrag, bool An) {
+  if (!NimmtFokus(A)) return;
   Ausführen([&] {
-    if (S.Art == Steuerart::Liste) S.Text = Eintrag;
-    if (S.Art == Steuerart::Option && An) {
-      for (const auto& Andere : Liste) {
-        if (Andere->Art == Steuerart::Option && Andere->Rahmen == S.Rahmen) Andere->Gewählt = false;
+    if (A.Art == Auswahlart::Liste) A.Text = Eintrag;
+    if (A.Art == Auswahlart::Option && An) {
+      for (const auto& S : Liste) {
+        auto* Andere = dynamic_cast<Auswahl*>(S.get());
+        if (Andere != nullptr && Andere->Art == Auswahlart::Option && Andere->Rahmen == A.Rahmen)
+          Andere->Gewählt = false;
       }
     }
-    S.Gewählt = An;
-    Gewählt(S);
+    A.Gewählt = An;
+    if (A.BeiWahl) A.BeiWahl();
   });
 }
 
 void Formular::ZelleWechseln(Gitter& G, int Zeile, int Spalte) {
-  if (Zeile < 0 || Zeile >= G.Zeilen() || (Zeile == G.Zeile && Spalte == G.Spalte)) return;
+  if (!NimmtFokus(G) || Zeile < 0 || Zeile >= G.Zeilen() || (Zeile == G.Zeile && Spalte == G.Spalte)) return;
   Ausführen([&] {
-    if (!ZelleVerlassen(G)) return;
+    if (!Lesen(G)) return;
     G.Zeile = std::min(Zeile, G.Zeilen() - 1);
     G.Spalte = Spalte;
   });

@@ -10,19 +10,22 @@
 
 namespace tavorena {
 
-/// The keys a form looks at; all others belong to the text of the field.
-enum class Taste { Return, Escape, Plus, Minus, Auf, Ab };
-
-/// Whoever shows a form. Called after each event, when the controls have their new state.
+/// Whoever shows a form. It is told after each event, when all controls have their new state, and only of
+/// what the event changed.
 class FormularBeobachter {
  public:
   virtual ~FormularBeobachter() = default;
-  virtual void FormularGeändert() = 0;
+  /// Text or state of a control, also of a grid as a whole.
+  virtual void SteuerelementGeändert(Steuerelement& S) = 0;
+  /// Cells, rows or columns of a grid.
+  virtual void GitterGeändert(Gitter& G, const Gitteränderung& Was) = 0;
+  virtual void TitelGeändert() = 0;
   virtual void FormularGeschlossen() = 0;
 };
 
 /// A form as a model: named controls, one of them with the focus, and the events of the user. The window,
-/// a test and a replay enter through the same functions; none of them needs a screen.
+/// a test and a replay enter through the same functions; none of them needs a screen. What a control does
+/// stands in the control itself.
 class Formular {
  public:
   explicit Formular(std::string Objekt) : FormName(std::move(Objekt)) {}
@@ -31,7 +34,7 @@ class Formular {
   Formular& operator=(const Formular&) = delete;
 
   const std::string FormName;  ///< name of the class, and of the one running window
-  std::string Titel;
+  Gezeigt<std::string> Titel;
   int Hilfenummer = 0;  ///< page of the handbook
 
   [[nodiscard]] const std::vector<std::unique_ptr<Steuerelement>>& Steuerelemente() const { return Liste; }
@@ -41,13 +44,50 @@ class Formular {
   [[nodiscard]] Steuerelement* Fokus() const { return Aktuell; }
   [[nodiscard]] bool Offen() const { return IstOffen; }
 
-  FormularBeobachter* Beobachter = nullptr;
+  /// From now on Neuer is told what changes; nullptr: nobody.
+  void Beobachten(FormularBeobachter* Neuer);
   std::function<void()> NachSchließen;  ///< for whoever opened the form
 
   /// An event of the form is still running: it must not be destroyed.
   [[nodiscard]] bool InArbeit() const { return Tiefe > 0; }
 
-  // ---- what the user does ---------------------------------------------------------------------------
+  // ---- the controls, in the order of the keyboard ----------------------------------------------------
+
+  Beschriftung& BeschriftungAnlegen(std::string Text, Platz Ort, std::string Rahmen = "");
+  Feld& FeldAnlegen(std::string Name, Platz Ort, std::string Rahmen = "", int Zeichen = 12);
+  Feld& ZahlenfeldAnlegen(std::string Name, Platz Ort, std::string Rahmen = "", int Zeichen = 12);
+  Feld& ErgebnisfeldAnlegen(std::string Name, Platz Ort, std::string Rahmen = "", int Zeichen = 12);
+  Knopf& KnopfAnlegen(std::string Name, std::string Text, std::function<void()> Aktion, Platz Ort = {},
+                      std::string Rahmen = Knopfleiste);
+  /// The button that Escape presses, whatever stands in the fields; it closes the form.
+  Knopf& AbbruchAnlegen(std::string Name, std::string Text, Platz Ort);
+  /// The two buttons of a dialog. Return in its last field presses OK.
+  void OkUndAbbruch(std::function<void()> BeiOk, std::string OkName = "OK",
+                    std::string AbbruchName = "Abbrechen");
+  Auswahl& KästchenAnlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen = "");
+  /// Of the options in a frame one is chosen.
+  Auswahl& OptionAnlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen = "");
+  Auswahl& ListeAnlegen(std::string Name, std::vector<std::string> Einträge, std::string Gewählter, Platz Ort,
+                        std::string Rahmen = "");
+  Gitter& GitterAnlegen(std::string Name, std::vector<Gitterspalte> Spalten, Platz Ort,
+                        std::string Rahmen = "");
+
+  // ---- the focus -------------------------------------------------------------------------------------
+
+  /// The user can type into it or press it: only such a control takes the focus, text or a click.
+  [[nodiscard]] static bool NimmtFokus(const Steuerelement& S);
+  /// Moves the focus, without reading the control that had it; one that can not take it never gets it.
+  void FokusSetzen(Steuerelement& S);
+  /// Moves the focus to the next control that takes it; behind the last one it stays.
+  void FokusWeiter();
+  /// The control that Tab leads to, backwards with Vor false; behind the last one comes the first.
+  /// @return nullptr if none takes the focus
+  [[nodiscard]] Steuerelement* Nachbar(const Steuerelement& S, bool Vor) const;
+  /// Reads a control as if it were left, and marks it if its value fails. One that is closed holds nothing to
+  /// read. @return false: the value failed
+  [[nodiscard]] static bool Lesen(Eingabeelement& E);
+
+  // ---- what the user does ----------------------------------------------------------------------------
 
   /// The form appears: its activation runs and the first control takes the focus.
   void Öffnen();
@@ -55,12 +95,12 @@ class Formular {
   /// stays there.
   void FokusWechseln(Steuerelement& Neu);
   /// The text of a field or of the current cell of a grid as it now stands.
-  void Tippen(Steuerelement& S, const std::string& Text);
+  void Tippen(Eingabeelement& E, const std::string& Text);
   /// A key in the control with the focus. @return false: the key belongs to the text
   bool TasteDrücken(Taste T);
-  void Klicken(Steuerelement& S);
-  /// The user chose an entry of a list, a check box or an option.
-  void Wählen(Steuerelement& S, const std::string& Eintrag, bool An);
+  void Klicken(Knopf& K);
+  /// The user chose an entry of a list (Eintrag), a check box or an option (An).
+  void Wählen(Auswahl& A, const std::string& Eintrag, bool An);
   /// The user moved to another cell of a grid.
   void ZelleWechseln(Gitter& G, int Zeile, int Spalte);
   /// The user closes the window.
@@ -76,32 +116,9 @@ class Formular {
   }
 
  protected:
-  Steuerelement& Beschriftung(std::string Text, Platz Ort, std::string Rahmen = "");
-  Steuerelement& Feld(std::string FeldName, Platz Ort, std::string Rahmen = "", int Zeichen = 12);
-  Steuerelement& Zahlenfeld(std::string FeldName, Platz Ort, std::string Rahmen = "", int Zeichen = 12);
-  Steuerelement& Ergebnisfeld(std::string FeldName, Platz Ort, std::string Rahmen = "", int Zeichen = 12);
-  Steuerelement& Knopf(std::string KnopfName, std::string Text, Platz Ort = {}, std::string Rahmen = "#");
-  Steuerelement& Steuer(Steuerart Art, std::string SteuerName, std::string Text, Platz Ort,
-                        std::string Rahmen);
-  Gitter& NeuesGitter(std::string GitterName, std::vector<Gitterspalte> Spalten, Platz Ort,
-                      std::string Rahmen = "");
-
-  /// Moves the focus; inactive and hidden controls never get it.
-  void FokusSetzen(Steuerelement& S);
-  /// Moves the focus to the next control that the user can type into or press.
-  void FokusWeiter();
-
   virtual void BeiÖffnen() {}
-  virtual void FokusErhalten(Steuerelement& /*S*/) {}
-  /// Reads a field that is left. @return false: its value failed, the focus stays
-  virtual bool FokusVerloren(Steuerelement& /*S*/) { return true; }
-  virtual void TextGeändert(Steuerelement& /*S*/) {}
-  /// Return moves on by itself unless this takes the key.
+  /// Keys that hold in all controls of the form. @return true: the key is done with
   virtual bool TasteUnten(Steuerelement& /*S*/, Taste /*T*/) { return false; }
-  virtual void Geklickt(Steuerelement& /*S*/) {}
-  virtual void Gewählt(Steuerelement& /*S*/) {}
-  /// Reads the current cell before another one is taken. @return false: the cell stays
-  virtual bool ZelleVerlassen(Gitter& /*G*/) { return true; }
   /// @return false: the form stays open
   virtual bool DarfSchließen() { return true; }
   virtual void BeiSchließen() {}
@@ -109,13 +126,18 @@ class Formular {
  private:
   template <typename Arbeit>
   void Ausführen(Arbeit Tun);
+  template <typename Art>
+  Art& Anlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen);
   void FehlerZeigen(const char* Was);
   void Melden();
-  void ReturnDrücken(Steuerelement& S);
-  [[nodiscard]] static bool NimmtFokus(const Steuerelement& S);
+  [[nodiscard]] bool Verlassen();
+  void ReturnDrücken();
+  bool EscapeDrücken();
+  static void Drücken(Knopf& K);
 
   std::vector<std::unique_ptr<Steuerelement>> Liste;
   Steuerelement* Aktuell = nullptr;
+  FormularBeobachter* Beobachter = nullptr;
   bool IstOffen = false;
   int Tiefe = 0;  // events running inside each other
 };
@@ -128,7 +150,7 @@ void Formular::Ausführen(Arbeit Tun) {
   } catch (const std::exception& Fehler) {
     FehlerZeigen(Fehler.what());
   }
-  Melden();
+  if (Tiefe == 1 && IstOffen) Melden();
   --Tiefe;
 }
 

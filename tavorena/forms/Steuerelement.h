@@ -1,11 +1,18 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
+#include <tavorena/forms/Gezeigt.h>
+
+// The parts of a form. A view shows them and tells the form what the user does with them; nothing here
+// knows how they look on a screen.
+
 namespace tavorena {
 
-enum class Steuerart { Beschriftung, Feld, Knopf, Kontrollkaestchen, Option, Liste, Gitter };
+/// The keys a form looks at; all others belong to the text of the field.
+enum class Taste { Return, Escape, Plus, Minus, Auf, Ab };
 
 /// Place of a control inside its frame, counted in rows and columns of that frame.
 struct Platz {
@@ -13,29 +20,66 @@ struct Platz {
   int Breite = 1;  ///< columns that it spans
 };
 
-/// One control of a form. The view shows it and tells the form what the user does with it; nothing here
-/// knows how it looks on a screen.
-struct Steuerelement {
-  virtual ~Steuerelement() = default;
+/// The frame of the buttons at the foot of a form.
+inline constexpr const char* Knopfleiste = "#";
 
-  std::string Name;  ///< name in the code; a control of an array bears its index, "OptProtokoll(0)"
-  Steuerart Art = Steuerart::Beschriftung;
-  std::string Text;    ///< caption ("&" marks the key) or contents; of a list the chosen entry
+/// What all controls have.
+struct Steuerelement {
+  Steuerelement() = default;
+  virtual ~Steuerelement() = default;
+  Steuerelement(const Steuerelement&) = delete;
+  Steuerelement& operator=(const Steuerelement&) = delete;
+
+  std::string Name;    ///< name in the code; a control of an array bears its index, "OptProtokoll(0)"
   std::string Rahmen;  ///< caption of the frame around it
   Platz Ort;
-  int Zeichen = 12;                   ///< width in characters
-  std::string Hilfe;                  ///< text for the status bar
+  int Zeichen = 12;           ///< width in characters
+  std::string Hilfe;          ///< text for the status bar
+  Gezeigt<std::string> Text;  ///< caption ("&" marks the key) or contents; of a list the chosen entry
+  Gezeigt<bool> Aktiv{true}, Sichtbar{true};
+
+  /// @return whether something that is shown was changed since the last call
+  [[nodiscard]] virtual bool Abholen();
+};
+
+struct Beschriftung final : Steuerelement {
+  bool Rechtsbündig = false;
+};
+
+/// A control that is typed into.
+struct Eingabeelement : Steuerelement {
+  bool IstPnr = false;            ///< a point number: "+" and "-" step it
+  Gezeigt<bool> Fehlerhaft;       ///< the value failed; shown in the warning colour
+  std::function<void()> BeiText;  ///< the user changed the text
+  /// Reads the value when the control, or the current cell, is left. @return false: it failed and stays
+  std::function<bool()> BeiVerlassen;
+
+  [[nodiscard]] bool Abholen() override;
+};
+
+struct Feld final : Eingabeelement {
+  bool NurLesen = false;            ///< a result: shown, never typed into
+  bool Rechtsbündig = false;        ///< numbers
+  std::function<void()> BeiReturn;  ///< what Return does when the field was read; empty: on to the next
+};
+
+struct Knopf final : Steuerelement {
+  std::function<void()> BeiDruck;
+  bool OhnePrüfung = false;  ///< works although the control with the focus has failed
+  bool Vorgabe = false;      ///< Return presses it from the last field
+  bool Abbruch = false;      ///< Escape presses it
+};
+
+enum class Auswahlart { Kästchen, Option, Liste };
+
+/// A check box, one of the options of a frame, or a list with one chosen entry.
+struct Auswahl final : Steuerelement {
+  Auswahlart Art = Auswahlart::Kästchen;
   std::vector<std::string> Einträge;  ///< of a list
-  bool Gewählt = false;               ///< of a check box or an option
-  bool Aktiv = true;
-  bool Sichtbar = true;
-  bool NurLesen = false;      ///< a result: shown, never typed into
-  bool Rechtsbündig = false;  ///< numbers
-  bool IstPnr = false;        ///< a point number: "+" and "-" step it
-  bool Fehlerhaft = false;    ///< the value failed; the view shows it in its warning colour
-  bool OhnePrüfung = false;   ///< a button that works although the field with the focus has failed
-  bool Vorgabe = false;       ///< the button that Return presses from the last field
-  bool Abbruch = false;       ///< the button that Escape presses
+  Gezeigt<bool> Gewählt;              ///< of a check box or an option
+  std::function<void()> BeiWahl;
+
+  [[nodiscard]] bool Abholen() override;
 };
 
 /// A column of a grid.
@@ -44,13 +88,24 @@ struct Gitterspalte {
   int Zeichen = 12;
   bool Eingabe = false;  ///< the user types here
   bool Rechtsbündig = true;
-  bool Sichtbar = true;
+  Gezeigt<bool> Sichtbar{true};
+};
+
+/// What changed in a grid.
+struct Gitteränderung {
+  int Von = 0, Bis = 0;     ///< the rows from Von to before Bis have new texts
+  bool Zeilenzahl = false;  ///< rows came or went at the end
+  bool Zelle = false;       ///< another cell is the current one
+  bool Spalten = false;     ///< columns were shown or hidden
+
+  [[nodiscard]] bool Etwas() const { return Von < Bis || Zeilenzahl || Zelle || Spalten; }
 };
 
 /// A grid of texts with one current cell. Rows and columns count from 0.
-struct Gitter : Steuerelement {
+struct Gitter final : Eingabeelement {
   std::vector<Gitterspalte> Spalten;
-  int Zeile = 0, Spalte = 0;  ///< the current cell
+  Gezeigt<int> Zeile, Spalte;           ///< the current cell
+  std::function<bool(Taste)> BeiTaste;  ///< true: the key is done with
 
   [[nodiscard]] int Zeilen() const { return static_cast<int>(Zellen.size()); }
   [[nodiscard]] const std::string& Inhalt(int z, int s) const;
@@ -59,9 +114,18 @@ struct Gitter : Steuerelement {
   void ZeileLöschen(int z);
   /// Empties the grid cell by cell and leaves that many rows.
   void Leeren(int ZeilenDanach);
+  /// The user can type into the current cell.
+  [[nodiscard]] bool ZelleOffen() const;
+
+  /// What changed in cells, rows and columns since the last call. A row that went from the middle is told as
+  /// new texts behind it and one row less.
+  [[nodiscard]] Gitteränderung ÄnderungAbholen();
 
  private:
+  void Merken(int Von, int Bis);
+
   std::vector<std::vector<std::string>> Zellen;
+  Gitteränderung Neues;
 };
 
 }  // namespace tavorena

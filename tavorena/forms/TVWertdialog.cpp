@@ -5,37 +5,11 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
-#include <tavorena/forms/Formular.h>
+#include <tavorena/forms/Dialogform.h>
 #include <tavorena/forms/TVWertdialog.h>
 
 namespace tavorena {
 namespace {
-
-// A modal form that ends with a result; -1 until a button says otherwise.
-class Dialogform : public Formular {
- public:
-  Dialogform(const std::string& Objekt, const std::string& FormTitel) : Formular(Objekt) {
-    Titel = FormTitel;
-  }
-
-  int Zeigen() {
-    Dialogergebnis = -1;
-    AnzeigePort().FormularZeigen(*this, true);
-    return Dialogergebnis;
-  }
-
- protected:
-  void Fertig(int Ergebnis) {
-    Dialogergebnis = Ergebnis;
-    Schließen();
-  }
-
-  void OkUndAbbruch() {
-    Knopf("OK", "&OK").Vorgabe = true;
-    Steuerelement& Nein = Knopf("Abbrechen", "&Abbrechen", {0, 1});
-    Nein.Abbruch = Nein.OhnePrüfung = true;
-  }
-};
 
 class Wertform final : public Dialogform {
  public:
@@ -43,36 +17,31 @@ class Wertform final : public Dialogform {
       : Dialogform("TVWertform", FormTitel), Werte(Gefragt) {
     int Zeile = 0;
     for (const Wertfeld& W : Werte) {
-      Beschriftung(W.Label, {Zeile, 0});
-      Steuerelement& F = Feld("Wert(" + std::to_string(Zeile) + ")", {Zeile, 1}, "", 20);
+      BeschriftungAnlegen(W.Label, {Zeile, 0});
+      Feld& F = FeldAnlegen("Wert(" + std::to_string(Zeile) + ")", {Zeile, 1}, "", 20);
       F.Rechtsbündig = W.Nachkomma >= 0;
       F.Text = W.Wert;
+      if (W.Nachkomma >= 0) F.BeiVerlassen = [&F, &W] { return ZahlLesen(F, W); };
       Felder.push_back(&F);
       ++Zeile;
     }
-    OkUndAbbruch();
-  }
-
- protected:
-  bool FokusVerloren(Steuerelement& S) override {
-    const auto i = std::find(Felder.begin(), Felder.end(), &S) - Felder.begin();
-    if (i == std::ssize(Felder)) return true;
-    const Wertfeld& W = Werte[static_cast<std::size_t>(i)];
-    S.Fehlerhaft = W.Nachkomma >= 0 && !IstZahlText(S.Text);
-    if (S.Fehlerhaft) return false;
-    if (W.Nachkomma >= 0) S.Text = Trimmen(ZahlFormat(S.Text, W.Vorkomma, W.Nachkomma));
-    return true;
-  }
-
-  void Geklickt(Steuerelement& S) override {
-    if (S.Name != "OK") return Fertig(-1);
-    for (std::size_t i = 0; i < Werte.size(); ++i) Werte[i].Wert = Trimmen(Felder[i]->Text);
-    Fertig(0);
+    OkUndAbbruch([this] { Übernehmen(); });
   }
 
  private:
+  static bool ZahlLesen(Feld& F, const Wertfeld& W) {
+    if (!IstZahlText(*F.Text)) return false;
+    F.Text = Trimmen(ZahlFormat(*F.Text, W.Vorkomma, W.Nachkomma));
+    return true;
+  }
+
+  void Übernehmen() {
+    for (std::size_t i = 0; i < Werte.size(); ++i) Werte[i].Wert = Trimmen(*Felder[i]->Text);
+    Fertig(0);
+  }
+
   std::span<Wertfeld> Werte;
-  std::vector<Steuerelement*> Felder;
+  std::vector<Feld*> Felder;
 };
 
 class Knopfform final : public Dialogform {
@@ -80,23 +49,22 @@ class Knopfform final : public Dialogform {
   Knopfform(const std::string& FormTitel, const std::string& Text, const std::vector<std::string>& Knöpfe,
             int Vorgabe)
       : Dialogform("TVKnopfform", FormTitel) {
-    Beschriftung(FormTitel, {0, 0});
-    Beschriftung(Text, {1, 0});
+    BeschriftungAnlegen(FormTitel, {0, 0});
+    BeschriftungAnlegen(Text, {1, 0});
     for (int i = 0; i < static_cast<int>(Knöpfe.size()); ++i) {
-      Steuerelement& K =
-          Knopf("Knopf(" + std::to_string(i) + ")", Knöpfe[static_cast<std::size_t>(i)], {0, i});
+      Knopf& K = KnopfAnlegen("Knopf(" + std::to_string(i) + ")", Knöpfe[static_cast<std::size_t>(i)],
+                              [this, i] { Fertig(i); }, {0, i});
       K.Vorgabe = i == Vorgabe;
       K.Abbruch = i + 1 == static_cast<int>(Knöpfe.size());
+      if (K.Vorgabe) Erster = &K;
     }
   }
 
  protected:
-  void BeiÖffnen() override {
-    for (const auto& S : Steuerelemente()) {
-      if (S->Vorgabe) FokusSetzen(*S);
-    }
-  }
-  void Geklickt(Steuerelement& S) override { Fertig(S.Name[6] - '0'); }
+  void BeiÖffnen() override { FokusSetzen(*Erster); }
+
+ private:
+  Knopf* Erster = nullptr;
 };
 
 class Dateiform final : public Dialogform {
@@ -104,37 +72,35 @@ class Dateiform final : public Dialogform {
   Dateiform(const std::string& FormTitel, std::span<Dateifeld> Gefragt)
       : Dialogform("TVDateinamenform", FormTitel), Dateien(Gefragt) {
     int Zeile = 0;
-    for (const Dateifeld& D : Dateien) {
+    for (Dateifeld& D : Dateien) {
       const std::string Index = "(" + std::to_string(Zeile) + ")";
-      Beschriftung(D.Label, {Zeile, 0});
-      Felder.push_back(&Feld("Datei" + Index, {Zeile, 1}, "", 50));
-      Felder.back()->Text = D.Name;
-      Knopf("Waehlen" + Index, "...", {Zeile, 2}, "").OhnePrüfung = true;
+      BeschriftungAnlegen(D.Label, {Zeile, 0});
+      Feld& F = FeldAnlegen("Datei" + Index, {Zeile, 1}, "", 50);
+      F.Text = D.Name;
+      Felder.push_back(&F);
+      KnopfAnlegen(
+          "Waehlen" + Index, "...", [&F, &D] { NameWählen(F, D); }, {Zeile, 2}, "")
+          .OhnePrüfung = true;
       ++Zeile;
     }
-    OkUndAbbruch();
-  }
-
- protected:
-  void Geklickt(Steuerelement& S) override {
-    if (S.Name == "Abbrechen") return Fertig(-1);
-    if (S.Name == "OK") return Übernehmen();
-    const auto i = static_cast<std::size_t>(S.Name[8] - '0');
-    const Dateiname Teile = DateinameZerlegen(Felder[i]->Text);
-    Dateiauftrag Auftrag{
-        Dateien[i].Label, Dateien[i].Filter, Teile.Ordner, Teile.Grundname, !Dateien[i].Ausgabe, "", false};
-    const std::string Name = FragenPort().DateiWählen(Auftrag);
-    if (!Name.empty()) Felder[i]->Text = Name;
+    OkUndAbbruch([this] { Übernehmen(); });
   }
 
  private:
+  static void NameWählen(Feld& F, const Dateifeld& D) {
+    const Dateiname Teile = DateinameZerlegen(*F.Text);
+    Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Teile.Grundname, !D.Ausgabe, "", false};
+    const std::string Name = FragenPort().DateiWählen(Auftrag);
+    if (!Name.empty()) F.Text = Name;
+  }
+
   // An output must not be one of the inputs, and is not written over without a question.
   void Übernehmen() {
     for (std::size_t i = 0; i < Dateien.size(); ++i) {
-      const std::string Name = Trimmen(Felder[i]->Text);
+      const std::string Name = Trimmen(*Felder[i]->Text);
       if (Name.empty()) return FokusSetzen(*Felder[i]);
       for (std::size_t k = 0; k < i; ++k) {
-        if (Dateien[i].Ausgabe == Dateien[k].Ausgabe || Name != Trimmen(Felder[k]->Text)) continue;
+        if (Dateien[i].Ausgabe == Dateien[k].Ausgabe || Name != Trimmen(*Felder[k]->Text)) continue;
         Hinweis("Dateiname für Ein- und Ausgabe ist gleich:\n" + Name);
         return FokusSetzen(*Felder[i]);
       }
@@ -144,32 +110,25 @@ class Dateiform final : public Dialogform {
       if (Antwort == 1 && DateiLöschen(Name) < 0)
         return LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Dialog.Dateinamen");
     }
-    for (std::size_t i = 0; i < Dateien.size(); ++i) Dateien[i].Name = Trimmen(Felder[i]->Text);
+    for (std::size_t i = 0; i < Dateien.size(); ++i) Dateien[i].Name = Trimmen(*Felder[i]->Text);
     Fertig(0);
   }
 
   std::span<Dateifeld> Dateien;
-  std::vector<Steuerelement*> Felder;
+  std::vector<Feld*> Felder;
 };
 
 class Listenform final : public Dialogform {
  public:
   Listenform(const std::string& FormTitel, const std::vector<std::string>& Einträge)
       : Dialogform("TVAuswahlform", FormTitel) {
-    Liste = &Steuer(Steuerart::Liste, "Liste", Einträge.empty() ? "" : Einträge.front(), {0, 0}, "");
-    Liste->Einträge = Einträge;
-    Liste->Zeichen = 40;
-    OkUndAbbruch();
+    Auswahl& A = ListeAnlegen("Liste", Einträge, Einträge.empty() ? "" : Einträge.front(), {0, 0});
+    A.Zeichen = 40;
+    OkUndAbbruch([this, &A] {
+      const auto i = std::find(A.Einträge.begin(), A.Einträge.end(), *A.Text);
+      Fertig(i != A.Einträge.end() ? static_cast<int>(i - A.Einträge.begin()) : -1);
+    });
   }
-
- protected:
-  void Geklickt(Steuerelement& S) override {
-    const auto i = std::find(Liste->Einträge.begin(), Liste->Einträge.end(), Liste->Text);
-    Fertig(S.Name == "OK" && i != Liste->Einträge.end() ? static_cast<int>(i - Liste->Einträge.begin()) : -1);
-  }
-
- private:
-  Steuerelement* Liste;
 };
 
 int Knopffrage(const std::string& Titel, const std::string& Text, const std::vector<std::string>& Knöpfe,

@@ -7,6 +7,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/points/TVPDoppForm.h>
 #include <tavorena/records/Protbloecke.h>

@@ -19,82 +19,70 @@ class TVOptionenform final : public Formular {
   TVOptionenform() : Formular("TVOptionenform") {
     Titel = "Tavorena Optionen";
     Hilfenummer = 8020;
-    Knopf("OptEnd", "&OK");
-    Steuerelement& Nein = Knopf("OptAbbruch", "&Abbrechen", {0, 1});
-    Nein.Abbruch = Nein.OhnePrüfung = true;
-  }
-
- protected:
-  bool FokusVerloren(Steuerelement& S) override {
-    S.Fehlerhaft = (&S == &OptVorgabeRechts || &S == &OptVorgabeHoch) && !IstZahlText(S.Text);
-    return !S.Fehlerhaft;
-  }
-
-  void Geklickt(Steuerelement& S) override {
-    if (S.Name == "OptEnd") Übernehmen();
-    Schließen();
+    OkUndAbbruch([this] { Übernehmen(); }, "OptEnd", "OptAbbruch");
   }
 
  private:
-  Steuerelement& Zahlenliste(const char* Name, const char* Label, int Zeile, int Zahl,
-                             const std::string& Rahmen) {
-    Beschriftung(Label, {Zeile, 0}, Rahmen);
-    Steuerelement& S = Steuer(Steuerart::Liste, Name, std::to_string(Zahl), {Zeile, 1}, Rahmen);
-    for (int i = 0; i <= 5; ++i) S.Einträge.push_back(std::to_string(i));
-    if (Zahl < 0 || Zahl > 5) S.Einträge.push_back(S.Text);  // a value from an edited file stays choosable
-    S.Zeichen = 6;
-    return S;
+  Auswahl& Zahlenliste(const char* Name, const char* Label, int Zeile, int Zahl) {
+    std::vector<std::string> Einträge = {"0", "1", "2", "3", "4", "5"};
+    if (Zahl < 0 || Zahl > 5)
+      Einträge.push_back(std::to_string(Zahl));  // from an edited file: stays choosable
+    BeschriftungAnlegen(Label, {Zeile, 0}, Ausgabe);
+    Auswahl& A = ListeAnlegen(Name, Einträge, std::to_string(Zahl), {Zeile, 1}, Ausgabe);
+    A.Zeichen = 6;
+    return A;
   }
 
-  Steuerelement& Haken(const char* Name, const char* Label, int Zeile, bool An, const std::string& Rahmen) {
-    Steuerelement& S = Steuer(Steuerart::Kontrollkaestchen, Name, Label, {Zeile, 0, 4}, Rahmen);
-    S.Gewählt = An;
-    return S;
+  Auswahl& Haken(const char* Name, const char* Label, int Zeile, bool An, const std::string& Rahmen) {
+    Auswahl& A = KästchenAnlegen(Name, Label, {Zeile, 0, 4}, Rahmen);
+    A.Gewählt = An;
+    return A;
   }
 
-  Steuerelement& Wahl(const char* Name, const char* Label, int Spalte, bool An) {
-    Steuerelement& S = Steuer(Steuerart::Option, Name, Label, {0, Spalte}, "Grafikfenster");
-    S.Gewählt = An;
-    return S;
+  Auswahl& Wahl(const char* Name, const char* Label, int Spalte, bool An) {
+    Auswahl& A = OptionAnlegen(Name, Label, {0, Spalte}, "Grafikfenster");
+    A.Gewählt = An;
+    return A;
   }
 
-  Steuerelement& Warnliste() {
-    Beschriftung("Ausgabe von Warnungen ins Protokoll ?", {2, 0}, Ausgabe);
-    Steuerelement& S = Steuer(Steuerart::Liste, "OptWarnstufe", Optionen.OptWarnstufe == 0 ? "Keine" : "Alle",
-                              {2, 1}, Ausgabe);
-    S.Einträge = {"Keine", "Alle"};
-    S.Zeichen = 8;
-    return S;
+  Auswahl& Warnliste() {
+    BeschriftungAnlegen("Ausgabe von Warnungen ins Protokoll ?", {2, 0}, Ausgabe);
+    Auswahl& A = ListeAnlegen("OptWarnstufe", {"Keine", "Alle"},
+                              Optionen.OptWarnstufe == 0 ? "Keine" : "Alle", {2, 1}, Ausgabe);
+    A.Zeichen = 8;
+    return A;
   }
 
-  Steuerelement& Vorgabe(const char* Name, const char* Label, int Spalte, double Wert) {
-    Beschriftung(Label, {0, Spalte}, "Vorgabewerte Koordinateneingabe:");
-    Steuerelement& S = Zahlenfeld(Name, {0, Spalte + 1}, "Vorgabewerte Koordinateneingabe:");
-    S.Text = ZahlNachText(Wert).Text();
-    return S;
+  Feld& Vorgabe(const char* Name, const char* Label, int Spalte, double Wert) {
+    const char* const Rahmen = "Vorgabewerte Koordinateneingabe:";
+    BeschriftungAnlegen(Label, {0, Spalte}, Rahmen);
+    Feld& F = ZahlenfeldAnlegen(Name, {0, Spalte + 1}, Rahmen);
+    F.Text = ZahlNachText(Wert).Text();
+    F.BeiVerlassen = [&F] { return IstZahlText(*F.Text); };
+    return F;
   }
 
-  Steuerelement& Edbs() {
-    Beschriftung("EDBS: Name der Information:", {0, 0}, "EDBS");
-    Steuerelement& S = Feld("OptEDBSInfo", {0, 1}, "EDBS", 8);
-    Beschriftung("(8 Stellen)", {0, 2}, "EDBS");
-    S.Text = Optionen.EDBSInfo;
-    return S;
+  Feld& Edbs() {
+    BeschriftungAnlegen("EDBS: Name der Information:", {0, 0}, "EDBS");
+    Feld& F = FeldAnlegen("OptEDBSInfo", {0, 1}, "EDBS", 8);
+    BeschriftungAnlegen("(8 Stellen)", {0, 2}, "EDBS");
+    F.Text = Optionen.EDBSInfo;
+    return F;
   }
 
   void Übernehmen() {
     auto& O = Optionen;
-    O.OptNachkommastellen = static_cast<std::int16_t>(ZahlAusText(OptNachkommastellen.Text));
-    O.OptNachkommaSpeichern = static_cast<std::int16_t>(ZahlAusText(OptNachkommaSpeichern.Text));
+    O.OptNachkommastellen = static_cast<std::int16_t>(ZahlAusText(*OptNachkommastellen.Text));
+    O.OptNachkommaSpeichern = static_cast<std::int16_t>(ZahlAusText(*OptNachkommaSpeichern.Text));
     O.OptWarnstufe = OptWarnstufe.Text == "Keine" ? 0 : 3;
     O.AbfrageRiss = OptAbfrRiß.Gewählt;
     O.AbfrageDruck = OptAbfrDruck.Gewählt;
     O.FStatMitHoehe = OptFStatHöhen.Gewählt;
     O.GKreduzierteFlaechen = OptGKRed.Gewählt;
     O.FStatPAAnschluss = OptFStatAnschluss.Gewählt;
-    O.VorgabeRechts = ZahlAusText(OptVorgabeRechts.Text);
-    O.VorgabeHoch = ZahlAusText(OptVorgabeHoch.Text);
-    O.EDBSInfo = TextTeil(OptEDBSInfo.Text, 0, 8);
+    O.VorgabeRechts = ZahlAusText(*OptVorgabeRechts.Text);
+    O.VorgabeHoch = ZahlAusText(*OptVorgabeHoch.Text);
+    O.EDBSInfo = TextTeil(*OptEDBSInfo.Text, 0, 8);
     O.ProtokollfensterAn = OptProtokoll0.Gewählt;
     O.GrafikfensterAn = OptProtokoll2.Gewählt;
     O.CondorfensterAn = false;
@@ -105,38 +93,38 @@ class TVOptionenform final : public Formular {
     }
     OptionenSchreiben();
     AnzeigePort().HauptfensterGeändert();
+    Schließen();
   }
 
   const std::string Ausgabe = "Formular und Protokoll", Rechnen = "Berechnung";
 
-  Steuerelement& OptNachkommastellen =
-      Zahlenliste("OptNachkommastellen", "Nachkommastellen für Formular und Protokoll", 0,
-                  Optionen.OptNachkommastellen, Ausgabe);
-  Steuerelement& OptNachkommaSpeichern = Zahlenliste(
-      "OptNachkommaSpeichern", "Nachkommastellen beim Speichern", 1, Optionen.OptNachkommaSpeichern, Ausgabe);
-  Steuerelement& OptWarnstufe = Warnliste();
-  Steuerelement& OptAbfrRiß =
+  Auswahl& OptNachkommastellen = Zahlenliste(
+      "OptNachkommastellen", "Nachkommastellen für Formular und Protokoll", 0, Optionen.OptNachkommastellen);
+  Auswahl& OptNachkommaSpeichern = Zahlenliste("OptNachkommaSpeichern", "Nachkommastellen beim Speichern", 1,
+                                               Optionen.OptNachkommaSpeichern);
+  Auswahl& OptWarnstufe = Warnliste();
+  Auswahl& OptAbfrRiß =
       Haken("OptAbfrRiß", "Abfrage Rißbezeichnung und Berechnungsnummer / Ausgabe ins Protokoll", 3,
             Optionen.AbfrageRiss, Ausgabe);
-  Steuerelement& OptAbfrDruck =
+  Auswahl& OptAbfrDruck =
       Haken("OptAbfrDruck", "Ausdruck nach jeder Berechnung", 4, Optionen.AbfrageDruck, Ausgabe);
-  Steuerelement& OptProtokoll0 = Wahl("OptProtokoll(0)", "Protokollfenster", 0, Optionen.ProtokollfensterAn);
-  Steuerelement& OptProtokoll1 = Wahl("OptProtokoll(1)", "nur auf Kommando", 1,
-                                      !Optionen.ProtokollfensterAn && !Optionen.GrafikfensterAn);
-  Steuerelement& OptProtokoll2 =
+  Auswahl& OptProtokoll0 = Wahl("OptProtokoll(0)", "Protokollfenster", 0, Optionen.ProtokollfensterAn);
+  Auswahl& OptProtokoll1 = Wahl("OptProtokoll(1)", "nur auf Kommando", 1,
+                                !Optionen.ProtokollfensterAn && !Optionen.GrafikfensterAn);
+  Auswahl& OptProtokoll2 =
       Wahl("OptProtokoll(2)", "immer", 2, Optionen.GrafikfensterAn && !Optionen.ProtokollfensterAn);
-  Steuerelement& OptFStatHöhen =
+  Auswahl& OptFStatHöhen =
       Haken("OptFStatHöhen", "Freie Stationierung / polarer Anschluß / Vorw.schnitt mit Höhen", 0,
             Optionen.FStatMitHoehe, Rechnen);
-  Steuerelement& OptGKRed =
+  Auswahl& OptGKRed =
       Haken("OptGKRed", "Flächenberechnung: zusätzlich Anzeige/Protokoll GK-reduzierte Flächen", 1,
             Optionen.GKreduzierteFlaechen, Rechnen);
-  Steuerelement& OptFStatAnschluss = Haken(
+  Auswahl& OptFStatAnschluss = Haken(
       "OptFStatAnschluss", "Freie Stationierung: Anschlußpunkte aus Rohdaten (GSI)  interaktiv auswählen", 2,
       Optionen.FStatPAAnschluss, Rechnen);
-  Steuerelement& OptVorgabeRechts = Vorgabe("OptVorgabeRechts", "Rechts:", 0, Optionen.VorgabeRechts);
-  Steuerelement& OptVorgabeHoch = Vorgabe("OptVorgabeHoch", "Hoch:", 2, Optionen.VorgabeHoch);
-  Steuerelement& OptEDBSInfo = Edbs();
+  Feld& OptVorgabeRechts = Vorgabe("OptVorgabeRechts", "Rechts:", 0, Optionen.VorgabeRechts);
+  Feld& OptVorgabeHoch = Vorgabe("OptVorgabeHoch", "Hoch:", 2, Optionen.VorgabeHoch);
+  Feld& OptEDBSInfo = Edbs();
 };
 
 }  // namespace

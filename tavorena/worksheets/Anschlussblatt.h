@@ -18,12 +18,12 @@ class Anschlussblatt : public Rechenblatt {
  protected:
   /// A connection point: its fields, and the point that they show.
   struct Anschlusspunkt {
-    Steuerelement &Pnr, &Rechts, &Hoch, &H_he, &Sym;
+    Feld &Pnr, &Rechts, &Hoch, &H_he, &Sym;
     std::string Gesucht;  ///< the number that was looked up; "" none
     Lage Ort;             ///< [m]
   };
 
-  bool FokusVerloren(Steuerelement& S) override;
+  bool FokusVerloren(Eingabeelement& E) override;
   int StapelAnschluss() override;
   /// Computes the connection and opens it. @return 0; -1: it can not be computed
   virtual int AnschlussEinzel() = 0;
@@ -39,7 +39,7 @@ class Anschlussblatt : public Rechenblatt {
   int SetzeEndpunkt() { return SetzePunkt(End); }
   /// Return in this field ends the typing of the connection.
   [[nodiscard]] bool IstLetztesFeld(const Steuerelement& S) const {
-    return !Messwerte.empty() && Messwerte.back().Feld == &S;
+    return !Messwerte.empty() && Messwerte.back().Messfeld == &S;
   }
   /// Both points are there and apart.
   [[nodiscard]] bool AnschlussGesetzt() const;
@@ -48,11 +48,11 @@ class Anschlussblatt : public Rechenblatt {
   void PunktLeeren(Anschlusspunkt& P);
 
   /// A field for a measured value of the connection; Zahl takes it.
-  Steuerelement& Messfeld(const char* Rest, const char* Label, Platz Ort, double& Zahl);
+  Feld& Messfeld(const char* Rest, const char* Label, Platz Ort, double& Zahl);
   /// A result of the connection with its label.
-  Steuerelement& Anschlussergebnis(const char* Rest, const char* Label, int Spalte);
+  Feld& Anschlussergebnis(const char* Rest, const char* Label, int Spalte);
   /// Sets the value of a measured field from outside, such as from a record.
-  void MesswertSetzen(Steuerelement& S, double Zahl);
+  void MesswertSetzen(Feld& F, double Zahl);
 
   [[nodiscard]] static Protpunkt Zeilenpunkt(const Anschlusspunkt& P);
   [[nodiscard]] double Laenge() const;  ///< S from the coordinates [m]
@@ -61,7 +61,7 @@ class Anschlussblatt : public Rechenblatt {
 
  private:
   struct Messwert {
-    Steuerelement* Feld;
+    Feld* Messfeld;
     double* Zahl;
   };
 

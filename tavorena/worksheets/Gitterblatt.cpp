@@ -10,12 +10,12 @@
 namespace tavorena {
 
 void Gitterblatt::GitterAufbauen(std::vector<Gitterspalte> Spalten) {
-  Rechengitter = &NeuesGitter(Mit("Gitter"), std::move(Spalten), {0, 0}, "Zeilen");
+  Rechengitter = &GitterAnlegen(Mit("Gitter"), std::move(Spalten), {0, 0}, "Zeilen");
   Rechengitter->IstPnr = true;
   Rechengitter->Hilfe = "Punktnummer, Return rechnet und schreibt die Zeile";
-  KnopfAn = &Knopf(Mit("An"), "Anschluß re&chnen", {0, 0});
-  KnopfEnd10 = &Knopf(Mit("End10"), "A&nschluß beenden", {0, 1});
-  KnopfDelete = &Knopf(Mit("Delete"), "Zeile &löschen", {0, 2});
+  KnopfAn = &KnopfAnlegen(Mit("An"), "Anschluß re&chnen", [this] { AnschlussÖffnen(); }, {0, 0});
+  KnopfEnd10 = &KnopfAnlegen(Mit("End10"), "A&nschluß beenden", [this] { AnschlussSchließen(); }, {0, 1});
+  KnopfDelete = &KnopfAnlegen(Mit("Delete"), "Zeile &löschen", [this] { Delete(); }, {0, 2});
   KnopfEnd10->OhnePrüfung = KnopfDelete->OhnePrüfung = true;
   KnopfAn->Hilfe = "Anschluß rechnen und Zeilen öffnen";
   KnopfEnd10->Hilfe = "Zurück zum Anschluß";
@@ -60,13 +60,13 @@ void Gitterblatt::BlockBeenden() {
   Sätze = 0;
 }
 
-bool Gitterblatt::FokusVerloren(Steuerelement& S) {
+bool Gitterblatt::FokusVerloren(Eingabeelement& S) {
   return &S == Rechengitter ? ZelleVerlassen(*Rechengitter) : Anschlussblatt::FokusVerloren(S);
 }
 
 // What stands in the grid is what was written: a committed row that was not confirmed shows its number
 // again, a new row is computed and waits for Return.
-bool Gitterblatt::ZelleVerlassen(Gitter& G) {
+bool Gitterblatt::ZelleVerlassen(const Gitter& G) {
   const int z = G.Zeile;
   if (z >= std::ssize(Reihen) || Nummer(z) == Reihe(z).Pnr) return true;
   if (Reihe(z).Geschrieben) {
@@ -96,20 +96,13 @@ bool Gitterblatt::TasteUnten(Steuerelement& S, Taste T) {
   return true;
 }
 
-void Gitterblatt::TextGeändert(Steuerelement& S) {
+void Gitterblatt::TextGeändert(Eingabeelement& S) {
   if (&S != Rechengitter) return;
   // Results that do not belong to the number above them would mislead.
   for (int s = 1; s < std::ssize(Rechengitter->Spalten); ++s)
     Rechengitter->InhaltSetzen(Rechengitter->Zeile, s, "");
   Zeile& Z = Reihe(Rechengitter->Zeile);
   if (!Z.Geschrieben) Z.Pnr.clear();
-}
-
-void Gitterblatt::Geklickt(Steuerelement& S) {
-  if (&S == KnopfAn) return AnschlussÖffnen();
-  if (&S == KnopfEnd10) return AnschlussSchließen();
-  if (&S == KnopfDelete) return Delete();
-  Anschlussblatt::Geklickt(S);
 }
 
 std::string Gitterblatt::Nummer(int z) const { return Trimmen(Rechengitter->Inhalt(z, 0)); }

@@ -25,11 +25,9 @@ class Gitterblatt : public Anschlussblatt {
     int Satz = -1;  ///< its record in the open batch block; -1 none
   };
 
-  bool FokusVerloren(Steuerelement& S) override;
+  bool FokusVerloren(Eingabeelement& S) override;
   bool TasteUnten(Steuerelement& S, Taste T) override;
-  bool ZelleVerlassen(Gitter& G) override;
-  void TextGeändert(Steuerelement& S) override;
-  void Geklickt(Steuerelement& S) override;
+  void TextGeändert(Eingabeelement& S) override;
   void AnschlussAnAus(bool An) override;
   int AnschlussEinzel() override;
   int StapelZeile() override;
@@ -65,6 +63,7 @@ class Gitterblatt : public Anschlussblatt {
   void GitterInkrement();
   void GitterPunktnummer();
   void ZeileZeigen(int z);
+  bool ZelleVerlassen(const Gitter& G);
   void Delete();
   void Streichen(Zeile& Z);
   void KopfSchreiben();
@@ -75,9 +74,9 @@ class Gitterblatt : public Anschlussblatt {
   bool Anschlussan = false;      // the connection is on
   bool Kopfgeschrieben = false;  // its lines are in the protocol
   int Sätze = 0;                 // records in the open batch block
-  Steuerelement* KnopfAn = nullptr;
-  Steuerelement* KnopfEnd10 = nullptr;
-  Steuerelement* KnopfDelete = nullptr;
+  Knopf* KnopfAn = nullptr;
+  Knopf* KnopfEnd10 = nullptr;
+  Knopf* KnopfDelete = nullptr;
 };
 
 }  // namespace tavorena

@@ -20,28 +20,42 @@ Rechenblatt::Rechenblatt(const Blattart& BlattArt)
     : Formular(BlattArt.Formname),
       Art(BlattArt),
       ProtTitel(BlattArt.VR),
-      Ri_bez(
-          (Beschriftung("Rißbezeichnung:", {0, 0}, RahmenPlan), Feld(Mit("Ri_bez"), {0, 1}, RahmenPlan, 20))),
-      Bernr((Beschriftung("Berechnungsnummer:", {0, 2}, RahmenPlan),
-             Feld(Mit("Bernr"), {0, 3}, RahmenPlan, 8))) {
+      Ri_bez((BeschriftungAnlegen("Rißbezeichnung:", {0, 0}, RahmenPlan),
+              FeldAnlegen(Mit("Ri_bez"), {0, 1}, RahmenPlan, 20))),
+      Bernr((BeschriftungAnlegen("Berechnungsnummer:", {0, 2}, RahmenPlan),
+             FeldAnlegen(Mit("Bernr"), {0, 3}, RahmenPlan, 8))) {
   Titel = Art.VR;
   Hilfenummer = Art.Hilfenummer;
-  for (const auto& S : Steuerelemente()) {
-    S->NurLesen = true;
-    S->Sichtbar = Optionen.AbfrageRiss;
-  }
+  Ri_bez.NurLesen = Bernr.NurLesen = true;
+  for (const auto& S : Steuerelemente()) S->Sichtbar = Optionen.AbfrageRiss;
 }
 
 // The keys of the buttons are those that the menu bar leaves free.
 void Rechenblatt::KnöpfeAnlegen() {
-  KnopfEnd = &Knopf(Mit("End"), "&Schließen", {0, 3});
-  KnopfStop = &Knopf(Mit("Stop"), "- Sto&p - ", {0, 4});
-  KnopfWeiter = &Knopf(Mit("Weiter"), "&Weiter", {0, 5});
+  const auto Ende = [this] {
+    if (DarfSchließen()) Schließen();
+  };
+  const auto Stop = [this] {
+    StapelAnhalten();
+    if (Hält) StapelBlattEnde();
+  };
+  const auto Weiter = [this] {
+    if (Hält) StapelZeilenRechnen();
+  };
+  KnopfEnd = &KnopfAnlegen(Mit("End"), "&Schließen", Ende, {0, 3});
+  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", Stop, {0, 4});
+  KnopfWeiter = &KnopfAnlegen(Mit("Weiter"), "&Weiter", Weiter, {0, 5});
   KnopfEnd->OhnePrüfung = KnopfStop->OhnePrüfung = true;
   KnopfEnd->Hilfe = "Rechenblatt schließen";
   KnopfStop->Hilfe = "Stapel nach der laufenden Zeile beenden";
   KnopfWeiter->Hilfe = "Zeilen des Stapels rechnen";
   KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = false;
+  for (const auto& S : Steuerelemente()) {
+    if (auto* E = dynamic_cast<Eingabeelement*>(S.get())) {
+      E->BeiVerlassen = [this, E] { return FokusVerloren(*E); };
+      E->BeiText = [this, E] { TextGeändert(*E); };
+    }
+  }
 }
 
 void Rechenblatt::BeiÖffnen() {
@@ -99,20 +113,13 @@ void Rechenblatt::StapelBlattEnde() {
 }
 
 bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
-  if (!S.IstPnr || (T != Taste::Plus && T != Taste::Minus)) return false;
+  auto* E = dynamic_cast<Eingabeelement*>(&S);
+  if (E == nullptr || !E->IstPnr || (T != Taste::Plus && T != Taste::Minus)) return false;
   const std::string Neu = PunktnummerSchritt(T == Taste::Plus ? 1 : -1);
   if (Neu.empty()) return false;
   LetztePunktnummer = Neu;
-  Tippen(S, Neu);
+  Tippen(*E, Neu);
   return true;
-}
-
-void Rechenblatt::Geklickt(Steuerelement& S) {
-  if (&S == KnopfEnd && DarfSchließen()) return Schließen();
-  if (&S == KnopfWeiter && Hält) return StapelZeilenRechnen();
-  if (&S != KnopfStop) return;
-  StapelAnhalten();
-  if (Hält) StapelBlattEnde();
 }
 
 bool Rechenblatt::DarfSchließen() {
@@ -139,8 +146,6 @@ void Rechenblatt::Protokollieren(const std::function<void()>& Block) {
   ProtZiel(true, EigenesZiel);
 }
 
-void Rechenblatt::Melde(const std::string& Text) {
-  AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, "   " + Text + "   ");
-}
+void Rechenblatt::Melde(const std::string& Text) { StatusHilfeSetzen(Text); }
 
 }  // namespace tavorena

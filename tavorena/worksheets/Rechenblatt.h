@@ -31,9 +31,11 @@ class Rechenblatt : public Formular {
  protected:
   void BeiÖffnen() override;
   bool TasteUnten(Steuerelement& S, Taste T) override;
-  void Geklickt(Steuerelement& S) override;
   bool DarfSchließen() override;
   void BeiSchließen() override;
+  /// A field or the current cell of the grid is left. @return false: its value failed
+  virtual bool FokusVerloren(Eingabeelement& /*E*/) { return true; }
+  virtual void TextGeändert(Eingabeelement& /*E*/) {}
 
   /// Takes the head records of the block and opens the connection.
   /// @return 0; negative: the block can not be calculated
@@ -73,11 +75,11 @@ class Rechenblatt : public Formular {
   ProtZielsatz EigenesZiel;
   bool VomStapel = false;  // a replay opened this worksheet
   bool Hält = false;       // it waits for "Weiter"
-  Steuerelement& Ri_bez;
-  Steuerelement& Bernr;
-  Steuerelement* KnopfEnd = nullptr;
-  Steuerelement* KnopfStop = nullptr;
-  Steuerelement* KnopfWeiter = nullptr;
+  Feld& Ri_bez;
+  Feld& Bernr;
+  Knopf* KnopfEnd = nullptr;
+  Knopf* KnopfStop = nullptr;
+  Knopf* KnopfWeiter = nullptr;
 };
 
 }  // namespace tavorena

@@ -81,7 +81,7 @@ void TVDisForm::KontrolleSchreiben() {
 
 void TVDisForm::NächsteKontrolle() {
   Anf.Pnr.Text = End.Pnr.Text;
-  End.Pnr.Text.clear();
+  End.Pnr.Text = "";
   PunktLeeren(End);
   SetzeAnfpunkt();
   Gemessen = 0;
@@ -93,8 +93,11 @@ void TVDisForm::KopfwerteSetzen(double /*AnfWert*/, double EndWert) { MesswertSe
 
 int TVDisForm::StapelZeile() {
   double Entfernung = 0;
-  const int Ergebnis = StapelLeseZweiPnr("NND", Anf.Pnr.Text, End.Pnr.Text, Entfernung);
+  std::string AnfNr = Anf.Pnr.Text, EndNr = End.Pnr.Text;
+  const int Ergebnis = StapelLeseZweiPnr("NND", AnfNr, EndNr, Entfernung);
   if (Ergebnis < 0) return Ergebnis;
+  Anf.Pnr.Text = AnfNr;
+  End.Pnr.Text = EndNr;
   // A point that the user does not supply drops its check, the replay goes on.
   if (SetzeAnfpunkt() < 0 || SetzeEndpunkt() < 0) return 0;
   MesswertSetzen(Strecke, Entfernung);
@@ -102,7 +105,7 @@ int TVDisForm::StapelZeile() {
   return 0;
 }
 
-bool TVDisForm::HatOffenes() const { return AnschlussGesetzt() && ZahlAusText(Strecke.Text) != 0; }
+bool TVDisForm::HatOffenes() const { return AnschlussGesetzt() && ZahlAusText(*Strecke.Text) != 0; }
 
 bool TVDisForm::OffenesSchreiben() { return AnschlussPrüfen() && AnschlussEinzel() == 0; }
 

@@ -28,8 +28,8 @@ class TVDisForm final : public Anschlussblatt {
   double Gemessen = 0;       // [m]; 0 means not measured
   bool Geschrieben = false;  // the batch block is open
   Anschlusswerte Werte;
-  Steuerelement& Strecke;
-  Steuerelement &L, &D, &Ws;
+  Feld& Strecke;
+  Feld &L, &D, &Ws;
 };
 
 }  // namespace tavorena

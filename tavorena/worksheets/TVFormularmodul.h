@@ -5,8 +5,8 @@
 #include <tavorena/core/Punkt.h>
 #include <tavorena/core/Wert.h>
 
-// What the worksheets share besides their frame: the last point number, the texts of their fields, the
-// point input and the way of a computed point into the table.
+// What the worksheets share besides their frame: the last point number, the texts of their fields and the way
+// of a computed point into the table.
 
 namespace tavorena {
 
@@ -27,11 +27,6 @@ std::string Messwerttext(double Zahl);
 /// Reads a measured value that was typed and brings the text into its normal form.
 /// @return false: the text is no number; Text and Zahl are then untouched
 bool MesswertLesen(std::string& Text, double& Zahl);
-
-/// Asks for one point, the number filled in, and stores it by Neupunkt.
-/// @param[in,out] Pnr  the number that the user ended with
-/// @return 1; -1 if cancelled
-int FormEinzelKorein(Wert& Pnr);
 
 /// What NeupunktEintragen has to tell the protocol.
 struct Punktnotiz {

@@ -31,14 +31,14 @@ TVLinelForm::TVLinelForm()
       D(Anschlussergebnis("D", "D:", 6)),
       Ws(Anschlussergebnis("Ws", "WS:", 8)) {
   const char* const Rahmen = "Streifen";
-  Beschriftung("Von Punktnr.:", {0, 0}, Rahmen);
-  Pnrvon = &Feld(Mit("Pnrvon"), {0, 1}, Rahmen, 10);
-  Beschriftung("Bis Punktnr.:", {0, 2}, Rahmen);
-  Pnrbis = &Feld(Mit("Pnrbis"), {0, 3}, Rahmen, 10);
-  Beschriftung("Breite (0 = alle):", {0, 4}, Rahmen);
-  Breite = &Zahlenfeld(Mit("Streifen"), {0, 5}, Rahmen, 8);
+  BeschriftungAnlegen("Von Punktnr.:", {0, 0}, Rahmen);
+  Pnrvon = &FeldAnlegen(Mit("Pnrvon"), {0, 1}, Rahmen, 10);
+  BeschriftungAnlegen("Bis Punktnr.:", {0, 2}, Rahmen);
+  Pnrbis = &FeldAnlegen(Mit("Pnrbis"), {0, 3}, Rahmen, 10);
+  BeschriftungAnlegen("Breite (0 = alle):", {0, 4}, Rahmen);
+  Breite = &ZahlenfeldAnlegen(Mit("Streifen"), {0, 5}, Rahmen, 8);
   Breite->Text = "0";
-  for (Steuerelement* S : {Pnrvon, Pnrbis}) S->IstPnr = S->Rechtsbündig = true;
+  for (Feld* S : {Pnrvon, Pnrbis}) S->IstPnr = S->Rechtsbündig = true;
   Breite->Hilfe = "Return nimmt alle Punkte des Bereichs im Streifen als Zeilen auf";
   GitterAufbauen({{"Punktnr.", 10, true},
                   {"Rechts", 12},
@@ -51,7 +51,7 @@ TVLinelForm::TVLinelForm()
 
 void TVLinelForm::AnschlussAnAus(bool An) {
   Gitterblatt::AnschlussAnAus(An);
-  for (Steuerelement* S : {Pnrvon, Pnrbis, Breite}) S->Aktiv = !An;
+  for (Feld* S : {Pnrvon, Pnrbis, Breite}) S->Aktiv = !An;
 }
 
 void TVLinelForm::AnschlussRechnen() {
@@ -128,14 +128,16 @@ bool TVLinelForm::TasteUnten(Steuerelement& S, Taste T) {
 
 void TVLinelForm::Streifen() {
   double Grenze = 0;
-  Breite->Fehlerhaft = !MesswertLesen(Breite->Text, Grenze);
-  if (Breite->Fehlerhaft || Pnrvon->Text.empty()) return FokusSetzen(Breite->Fehlerhaft ? *Breite : *Pnrvon);
-  if (Pnrbis->Text.empty()) Pnrbis->Text = Pnrvon->Text;
+  std::string Text = Breite->Text;
+  Breite->Fehlerhaft = !MesswertLesen(Text, Grenze);
+  Breite->Text = Text;
+  if (Breite->Fehlerhaft || Pnrvon->Text->empty()) return FokusSetzen(Breite->Fehlerhaft ? *Breite : *Pnrvon);
+  if (Pnrbis->Text->empty()) Pnrbis->Text = Pnrvon->Text;
   AblaufPort().Beschäftigt(true);
   double Zuletzt = AblaufPort().Zeitgeber();
   int Anzahl = 0;
-  for (int z = KorBereichSuche(Pnrvon->Text, Pnrbis->Text, -1); z >= 0 && KorStop != "Stop";
-       z = KorBereichSuche(Pnrvon->Text, Pnrbis->Text, z)) {
+  for (int z = KorBereichSuche(*Pnrvon->Text, *Pnrbis->Text, -1); z >= 0 && KorStop != "Stop";
+       z = KorBereichSuche(*Pnrvon->Text, *Pnrbis->Text, z)) {
     Zeile Z;
     Z.Ort = {KorRechts[static_cast<std::size_t>(z)], KorHoch[static_cast<std::size_t>(z)]};
     if (ZeileRechnen(Z) < 0 || (Grenze != 0 && std::fabs(Z.Wert2) > std::fabs(Grenze))) continue;

@@ -35,9 +35,9 @@ class TVLinelForm final : public Gitterblatt {
 
   double a = 0, e = 0;  // tape readings on start and end [m]; an e of 0 means not measured
   Anschlusswerte Werte;
-  Steuerelement &Anlegemass, &Endmass;
-  Steuerelement &L, &E, &M, &D, &Ws;
-  Steuerelement *Pnrvon, *Pnrbis, *Breite;
+  Feld &Anlegemass, &Endmass;
+  Feld &L, &E, &M, &D, &Ws;
+  Feld *Pnrvon, *Pnrbis, *Breite;
 };
 
 }  // namespace tavorena

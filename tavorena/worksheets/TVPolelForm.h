@@ -26,8 +26,8 @@ class TVPolelForm final : public Gitterblatt {
   double Gemessen = 0;  // measured distance [m]; 0 means not measured
   double Nord = 0;      // bearing of the connection [gon]
   Anschlusswerte Werte;
-  Steuerelement &Orientierung, &Strecke;
-  Steuerelement &L, &M, &D, &Ws;
+  Feld &Orientierung, &Strecke;
+  Feld &L, &M, &D, &Ws;
 };
 
 }  // namespace tavorena

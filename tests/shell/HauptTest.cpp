@@ -183,7 +183,7 @@ TEST_F(Haupt, AllgemeineDialoge) {
   const std::string Lang = "/" + std::string(60, 'x');
   Skript.Formulare.push_back([](Formular& Form) {
     Form.Öffnen();
-    EXPECT_EQ(Form.Steuerelemente()[1]->Text, "..." + std::string(50, 'x'));
+    EXPECT_EQ(*Form.Steuerelemente()[1]->Text, "..." + std::string(50, 'x'));
     EXPECT_EQ(Form.Fokus()->Name, "Knopf(2)");  // the third button is the default
     Form.TasteDrücken(Taste::Return);
   });

@@ -130,11 +130,11 @@ TEST_F(Konfiguration, Optionsdialog) {
   for (const char* Ende : {"OptAbbruch", "OptEnd"}) {
     Skript.Formulare.push_back([Ende](Formular& Form) {
       Form.Öffnen();
-      Form.Wählen(*Form.Finde("OptNachkommastellen"), "4", true);
-      Form.Wählen(*Form.Finde("OptWarnstufe"), "Keine", true);
-      Form.Wählen(*Form.Finde("OptAbfrRiß"), "", false);
-      Form.Wählen(*Form.Finde("OptProtokoll(1)"), "", true);
-      EXPECT_FALSE(Form.Finde("OptProtokoll(2)")->Gewählt);
+      Form.Wählen(Element<Auswahl>(Form, "OptNachkommastellen"), "4", true);
+      Form.Wählen(Element<Auswahl>(Form, "OptWarnstufe"), "Keine", true);
+      Form.Wählen(Element<Auswahl>(Form, "OptAbfrRiß"), "", false);
+      Form.Wählen(Element<Auswahl>(Form, "OptProtokoll(1)"), "", true);
+      EXPECT_FALSE(Element<Auswahl>(Form, "OptProtokoll(2)").Gewählt);
       Tippe(Form, "OptVorgabeRechts", "abc");
       Drücke(Form, "OptEnd");
       EXPECT_TRUE(Form.Offen());  // no number

@@ -2,6 +2,7 @@
 
 #include "Testhilfe.h"
 
+#include <stdexcept>
 #include <string>
 
 #include <tavorena/forms/Formular.h>
@@ -15,13 +16,21 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text);
 /// Presses a button.
 void Drücke(Formular& Form, const std::string& Name);
 
-/// A control, which must be there.
-Steuerelement& Feld(const Formular& Form, const std::string& Name);
+/// A control, which must be there and of that kind.
+template <typename Art = Steuerelement>
+Art& Element(const Formular& Form, const std::string& Name) {
+  auto* S = dynamic_cast<Art*>(Form.Finde(Name));
+  if (S == nullptr) throw std::runtime_error("no such control " + Name + " in " + Form.FormName);
+  return *S;
+}
+inline tavorena::Feld& Feld(const Formular& Form, const std::string& Name) {
+  return Element<tavorena::Feld>(Form, Name);
+}
 
 /// Texts of controls, "|" between them.
 template <typename... T>
 std::string Text(const Formular& Form, const T&... Namen) {
-  return Reihe(Feld(Form, Namen).Text...);
+  return Reihe(*Element(Form, Namen).Text...);
 }
 
 /// The grid of a worksheet.

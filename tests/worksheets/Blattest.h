@@ -4,6 +4,7 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
+#include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/records/Stapelschreiber.h>
 #include <tavorena/records/TVProtokollmodul.h>

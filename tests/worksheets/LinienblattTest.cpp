@@ -28,7 +28,7 @@ TEST_F(Linienblatt, VomAnschlussZumProtokollUndZurück) {
   Drücke(*B, "LinelEnd");
   EXPECT_FALSE(B->Offen());
   PrüfeDateien("linel", 4);
-  EXPECT_EQ(Blätter.back()->Titel, "Tavorena Linienelemente [Stapel]");
+  EXPECT_EQ(*Blätter.back()->Titel, "Tavorena Linienelemente [Stapel]");
 }
 
 TEST_F(Linienblatt, PolarelementeVomAnschlussZumProtokollUndZurück) {
@@ -77,9 +77,9 @@ TEST_F(Linienblatt, UngültigeEingabenHaltenDenFokus) {
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
   EXPECT_TRUE(Feld(*B, "LinelEndmass").Fehlerhaft);
-  B->FokusWechseln(Feld(*B, "LinelAnlegemass"));
+  B->FokusWechseln(Element(*B, "LinelAnlegemass"));
   EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
-  B->FokusWechseln(Feld(*B, "LinelEnd"));  // a way out is always open
+  B->FokusWechseln(Element(*B, "LinelEnd"));  // a way out is always open
   EXPECT_EQ(B->Fokus()->Name, "LinelEnd");
   using Schritt = std::array<const char*, 3>;  // where, what is typed, where the focus then is
   // Both points the same, Endmass equal to Anlegemass, all well.
@@ -145,7 +145,7 @@ TEST_F(Linienblatt, RissfrageUndPlusTaste) {
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   auto C = Öffne<TVPolelForm>();
   EXPECT_EQ(Reihe(Riss, BerNr), "Riss 12|3");  // cancel keeps the old values
-  B->FokusWechseln(Feld(*B, "LinelAnfPnr"));
+  B->FokusWechseln(Element(*B, "LinelAnfPnr"));
   EXPECT_FALSE(B->TasteDrücken(Taste::Plus));  // no number yet: the key is left to the text
   LetztePunktnummer = "12A";
   EXPECT_TRUE(B->TasteDrücken(Taste::Minus));
