@@ -1,7 +1,7 @@
 #include "Fuzzhilfe.h"
 
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Protokoll.h>
 
 namespace tavorena::fuzz {
 namespace {
@@ -12,27 +12,27 @@ double Wert1 = 0, Wert2 = 0;
 // Worksheets that take their records until a reader refuses; together they call every reader.
 void Anschlussblatt() {
   if (StapelLesenPnrMitWerte(Pnr1, Wert1, Pnr2, Wert2) != 0) return;
-  while (StapelLesePnr("NR", Pnr1) == 0) ++Stapellauf.Zeilen;
+  while (StapelLesePnr("NR", Pnr1) == 0) ++Stapel.Bilanz.Zeilen;
 }
 void Entfernungsblatt() {
   if (StapelLeseRisszeilen() != 0) return;
-  while (StapelLeseZweiPnr("NND", Pnr1, Pnr2, Wert1) == 0) ++Stapellauf.Zeilen;
+  while (StapelLeseZweiPnr("NND", Pnr1, Pnr2, Wert1) == 0) ++Stapel.Bilanz.Zeilen;
 }
 void Neupunktblatt() {
-  while (StapelLeseNeupunkt(Pnr1, Pnr2) == 0) ++Stapellauf.Zeilen;
+  while (StapelLeseNeupunkt(Pnr1, Pnr2) == 0) ++Stapel.Bilanz.Zeilen;
   if (Pnr1 == "Stop") StapelAnhalten();
 }
 
-void Anmelden() {
-  const auto Blatt = [](const char* Kennung, const char* Kurz, void (*Lesen)()) {
-    StapelBlattAnmelden({Kennung, Kurz}, [Lesen] {
-      Lesen();
-      if (StapelAktiv) StapelWeiter();
-    });
+std::function<void()> BlattFür(const std::string& Kennung) {
+  void (*Lesen)() = Kennung == "24.40" || Kennung == "LE"   ? Anschlussblatt
+                    : Kennung == "22.10" || Kennung == "EK" ? Entfernungsblatt
+                    : Kennung == "25.50" || Kennung == "NP" ? Neupunktblatt
+                                                            : nullptr;
+  if (Lesen == nullptr) return {};
+  return [Lesen] {
+    Lesen();
+    if (Stapel.Aktiv) StapelWeiter();
   };
-  Blatt("24.40", "LE", Anschlussblatt);
-  Blatt("22.10", "EK", Entfernungsblatt);
-  Blatt("25.50", "NP", Neupunktblatt);
 }
 
 int Schlussrufe = 0;
@@ -40,11 +40,11 @@ int Schlussrufe = 0;
 void Lauf(Eingabe E) {
   Schlussrufe = 0;
   Pnr1.clear();
-  ProtokollLeeren();
+  Prot = {};
   StapelStarten(Datei("a.sta", E.Rest()));
-  Prüfen(!StapelAktiv, "der Lauf ist zu Ende");
-  Prüfen(StapelZeiger <= StapelAnzahl && StapelZeilennummer == StapelZeiger, "die Zeilen werden gezählt");
-  Prüfen(Stapellauf.Blöcke + static_cast<int>(Stapellauf.Übergangen.size()) <= StapelAnzahl,
+  Prüfen(!Stapel.Aktiv, "der Lauf ist zu Ende");
+  Prüfen(Stapel.Zeiger <= Stapel.Anzahl() && Stapel.Zeilennummer == Stapel.Zeiger, "die Zeilen werden gezählt");
+  Prüfen(Stapel.Bilanz.Blöcke + static_cast<int>(Stapel.Bilanz.Übergangen.size()) <= Stapel.Anzahl(),
          "jeder Block hat einen Kopf");
   Prüfen(Schlussrufe == 1, "das Ende des Laufs wird einmal gemeldet");
 }
@@ -53,8 +53,8 @@ void Lauf(Eingabe E) {
 }  // namespace tavorena::fuzz
 
 extern "C" int LLVMFuzzerInitialize(int* /*Anzahl*/, char*** /*Worte*/) {
-  tavorena::fuzz::Anmelden();
-  tavorena::StapelSchritt = [](const std::string& Titel) {
+  tavorena::StapelHaken.BlattFür = tavorena::fuzz::BlattFür;
+  tavorena::StapelHaken.Schritt = [](const std::string& Titel) {
     if (Titel.empty()) ++tavorena::fuzz::Schlussrufe;
   };
   return 0;

@@ -20,7 +20,7 @@ void PlattformKonsole::FormularZeigen(Formular& Form, bool Modal) {
 void PlattformKonsole::Ohne(const std::string& Frage) {
   if (!FrageOffen) {
     Ziel << "Frage ohne Antwort";
-    if (StapelAktiv) Ziel << " (" << Stapellauf.Datei << ", Zeile " << StapelZeilennummer << ")";
+    if (Stapel.Aktiv) Ziel << " (" << Stapel.Bilanz.Datei << ", Zeile " << Stapel.Zeilennummer << ")";
     Ziel << ": " << Frage << '\n';
   }
   FrageOffen = true;

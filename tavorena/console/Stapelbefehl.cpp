@@ -5,8 +5,8 @@
 #include <tavorena/console/Stapelbefehl.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/TVProtokollmodul.h>
 #include <tavorena/shell/TVHauptmodul.h>
 
 namespace tavorena {
@@ -22,12 +22,12 @@ class Blockzeilen {
 
   void Schritt(const std::string& Nächster) {
     if (!Titel.empty()) {
-      Ziel << Titel << ": " << Stapellauf.Zeilen - Zeilen << " Zeilen, " << ProtMarken - Marken
+      Ziel << Titel << ": " << Stapel.Bilanz.Zeilen - Zeilen << " Zeilen, " << Prot.Marken - Marken
            << " Marken\n";
     }
     Titel = Nächster;
-    Zeilen = Stapellauf.Zeilen;
-    Marken = ProtMarken;
+    Zeilen = Stapel.Bilanz.Zeilen;
+    Marken = Prot.Marken;
   }
 
  private:
@@ -38,7 +38,7 @@ class Blockzeilen {
 
 void Übergangene(std::ostream& Ausgabe) {
   std::map<std::string, int> Anzahl;
-  for (const std::string& Kennung : Stapellauf.Übergangen) ++Anzahl[Kennung];
+  for (const std::string& Kennung : Stapel.Bilanz.Übergangen) ++Anzahl[Kennung];
   for (const auto& [Kennung, n] : Anzahl) Ausgabe << "übergangen: " << Kennung << " (" << n << " mal)\n";
 }
 
@@ -56,7 +56,6 @@ int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
   HauptAnschließen();
   HauptInitialisierung();
   DateinameProtokollTemp.clear();  // nothing is printed afterwards
-  ProtMarken = 0;
   if (const auto Antwort = Antworten.find(Auftrag.Vorhanden); Antwort != Antworten.end()) {
     Haken.PunktVorhandenBehandeln = [Wort = Antwort->second](const Konflikt&) {
       return Konfliktantwort{Wort, ""};
@@ -69,16 +68,16 @@ int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
   if (Gelesen) {
     ProtokollNehmen(Auftrag.Protokoll);
     Blockzeilen Zeilen(Ausgabe);
-    StapelSchritt = [&](const std::string& Titel) { Zeilen.Schritt(Titel); };
+    StapelHaken.Schritt = [&](const std::string& Titel) { Zeilen.Schritt(Titel); };
     StapelStarten(Auftrag.Stapel);
     Übergangene(Ausgabe);
-    Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << Stapellauf.Zeilen << "  Marken: " << ProtMarken
+    Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << Stapel.Bilanz.Zeilen << "  Marken: " << Prot.Marken
             << '\n';
-    Gut = !Stapellauf.Fehler && !Konsole.Unbeantwortet();
+    Gut = !Stapel.Bilanz.Fehler && !Konsole.Unbeantwortet();
     // After an error the table may be half done: the file stays as it is.
     if (Gut) Gut = Speichern(Auftrag.Speichern);
   }
-  StapelSchritt = {};
+  StapelHaken.Schritt = {};
   PortsSetzen(Vorher);
   return Gut ? 0 : 1;
 }

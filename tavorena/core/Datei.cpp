@@ -232,6 +232,15 @@ int TextAnhängen(std::string_view Name, std::string_view Text) {
   return 0;
 }
 
+Dateistand DateistandVon(std::string_view Name) {
+  std::error_code Fehler;
+  const fs::path Pfad = Systempfad(Name);
+  Dateistand Stand{fs::file_size(Pfad, Fehler), {}};
+  if (Fehler) return {};
+  Stand.Zeit = Schreibzeit(Pfad);
+  return Stand;
+}
+
 int DateiLöschen(std::string_view Name) {
   std::error_code Fehler;
   const fs::path Pfad = Systempfad(Name);

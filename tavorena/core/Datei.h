@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -39,6 +40,14 @@ int DateiErsetzen(std::string_view Name, std::string_view Inhalt);
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length. @return 0 or -1
 int TextAnhängen(std::string_view Name, std::string_view Text);
+
+/// By what a file shows that somebody wrote in it. A missing file has the state {}.
+struct Dateistand {
+  std::uintmax_t Länge = 0;  ///< [bytes]
+  std::filesystem::file_time_type Zeit;
+  bool operator==(const Dateistand&) const = default;
+};
+Dateistand DateistandVon(std::string_view Name);
 
 /// Removes a file. @return 0 (also if there was none); -1 if it stays
 int DateiLöschen(std::string_view Name);

@@ -51,6 +51,11 @@ void ZeileKopieren(int Nach, int Von, bool MitSymbol, bool MitInfo) {
 
 }  // namespace
 
+KorSatz KorPunkt(int Zeile) {
+  const std::size_t z = Reihe(Zeile);
+  return {Nummern[z], KorRechts[z], KorHoch[z], KorHoehe[z], KorSymbol[z], &KorInfo[z]};
+}
+
 const std::string& KorPnr(int Zeile) { return Nummern[Reihe(Zeile)]; }
 
 void KorPnrSetzen(int Zeile, std::string_view Pnr) {

@@ -28,6 +28,17 @@ extern std::vector<KorInfoSatz> KorInfo;
 const std::string& KorPnr(int Zeile);
 void KorPnrSetzen(int Zeile, std::string_view Pnr);
 
+/// A row as a view.
+struct KorSatz {
+  std::string_view Pnr;
+  double Rechts = 0, Hoch = 0, Hoehe = 0;
+  std::string_view Symbol = {};
+  const KorInfoSatz* Info = nullptr;  ///< nullptr: all empty
+};
+
+/// A row, 0 to KorZeilen - 1.
+KorSatz KorPunkt(int Zeile);
+
 extern std::string KoordinatendateiName;     ///< path of the current file, empty if none
 extern std::int16_t Koordinatendateiformat;  ///< 0 KOR, 1 EDBS, 2 LT4/ALK
 extern bool KoordinatenGeaendert;            ///< the table differs from the file

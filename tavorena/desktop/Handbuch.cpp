@@ -5,6 +5,7 @@
 
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Handbuch.h>
+#include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
 namespace {
@@ -15,22 +16,9 @@ struct Seite {
   const char* Datei;
 };
 constexpr Seite Seiten[] = {
-    {0, "index.md"},
-    {1000, "datei.md"},
-    {1080, "stapel.md"},
-    {1090, "protokoll.md"},
-    {1100, "datei.md"},
-    {2000, "bearbeiten.md"},
-    {3000, "ansicht.md"},
-    {4000, "rechenblatt.md"},
-    {4110, "linienelemente.md"},
-    {4120, "polarelemente.md"},
-    {4130, "entfernungskontrolle.md"},
-    {4140, "rechenblatt.md"},
-    {5000, "index.md"},
-    {8000, "index.md"},
-    {8020, "optionen.md"},
-    {8040, "index.md"},
+    {0, "index.md"},    {1000, "datei.md"},      {1080, "stapel.md"},   {1090, "protokoll.md"},
+    {1100, "datei.md"}, {2000, "bearbeiten.md"}, {3000, "ansicht.md"},  {4000, "rechenblatt.md"},
+    {5000, "index.md"}, {8000, "index.md"},      {8020, "optionen.md"}, {8040, "index.md"},
 };
 
 }  // namespace
@@ -39,6 +27,10 @@ QString Handbuchseite(int Hilfenummer) {
   const char* Datei = Seiten[0].Datei;
   for (const Seite& S : Seiten) {
     if (Hilfenummer >= S.Ab) Datei = S.Datei;
+  }
+  // A worksheet has a page of its own, for the ten numbers from its own one on.
+  for (const Blattart& Art : Blattarten()) {
+    if (Hilfenummer >= Art.Hilfenummer && Hilfenummer < Art.Hilfenummer + 10) Datei = Art.Seite;
   }
   return Datei;
 }

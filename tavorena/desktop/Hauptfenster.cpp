@@ -19,7 +19,7 @@
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Protokollfenster.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 

@@ -1,31 +1,20 @@
-#include <algorithm>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/TVProtokollmodul.h>
 
 namespace tavorena {
 
-std::vector<std::string> StapelZeilen;
-int StapelAnzahl = 0, StapelZeiger = 0, StapelZeilennummer = 0;
-bool StapelAktiv = false, StapelAblauf = false;
-StapelBilanz Stapellauf;
-std::function<void(const std::string&)> StapelSchritt;
+Nachlauf Stapel;
+Nachlaufhaken StapelHaken;
 
 namespace {
 
 constexpr int StapelGrenze = 10001;
-
-struct Anmeldung {
-  std::vector<std::string> Kennungen;
-  std::function<void()> Zeigen;
-};
-std::vector<Anmeldung> Blätter;
-bool ImVerteiler = false, Nochmal = false;
 
 // A record: keyword in upper case and the rest of its line.
 struct Satz {
@@ -35,9 +24,9 @@ struct Satz {
 };
 
 bool NächsteZeile(Satz& S) {
-  if (StapelZeiger >= StapelAnzahl) return false;
-  S.Zeile = S.Rest = StapelZeilen[static_cast<std::size_t>(StapelZeiger++)];
-  ++StapelZeilennummer;
+  if (Stapel.Zeiger >= Stapel.Anzahl()) return false;
+  S.Zeile = S.Rest = Stapel.Zeilen[static_cast<std::size_t>(Stapel.Zeiger++)];
+  ++Stapel.Zeilennummer;
   S.Schlüssel = Großtext(Wortnehmen(S.Rest));
   return true;
 }
@@ -49,7 +38,7 @@ bool IstEnde(const Satz& S) { return S.Schlüssel == "E" || S.Schlüssel == "EM"
 
 bool RissNehmen(const Satz& S) {
   if (S.Schlüssel != "RISS" && S.Schlüssel != "BERNR") return false;
-  (S.Schlüssel == "RISS" ? Riss : BerNr) = TrimmenSicht(S.Rest);
+  (S.Schlüssel == "RISS" ? LetzterPlan.Riss : LetzterPlan.BerNr) = TrimmenSicht(S.Rest);
   return true;
 }
 
@@ -65,14 +54,14 @@ int NächsterSatz(Satz& S) {
 }
 
 void Beenden() {
-  StapelAktiv = StapelAblauf = false;
-  if (StapelSchritt) StapelSchritt("");
+  Stapel.Aktiv = Stapel.Ablauf = false;
+  if (StapelHaken.Schritt) StapelHaken.Schritt("");
 }
 
 int Ablehnen(const Satz& S) {
-  Hinweis("Fehler " + std::to_string(StapelZeilennummer) + " beim Lesen der Stapeldatei:\n" +
+  Hinweis("Fehler " + std::to_string(Stapel.Zeilennummer) + " beim Lesen der Stapeldatei:\n" +
           std::string(S.Zeile));
-  Stapellauf.Fehler = true;
+  Stapel.Bilanz.Fehler = true;
   Beenden();
   return -1;
 }
@@ -92,98 +81,84 @@ void BlockÜbergehen() {
   while (NächsteZeile(S)) {
     if (!IstKommentar(S) && IstEnde(S)) return;
     if (S.Schlüssel != "M") continue;
-    --StapelZeiger;
-    --StapelZeilennummer;
+    --Stapel.Zeiger;
+    --Stapel.Zeilennummer;
     return;
   }
 }
 
-void BlockZeigen(const Anmeldung& Blatt) {
-  StapelAktiv = true;
-  StapelAblauf = false;
-  ++Stapellauf.Blöcke;
-  if (StapelSchritt) StapelSchritt(ProtArt);
+void BlockZeigen(const std::function<void()>& BlattZeigen) {
+  Stapel.Aktiv = true;
+  Stapel.Ablauf = false;
+  ++Stapel.Bilanz.Blöcke;
+  if (StapelHaken.Schritt) StapelHaken.Schritt(Stapel.Art);
   AblaufPort().EreignisseAbarbeiten();
-  Blatt.Zeigen();
+  BlattZeigen();
 }
 
 void NächsterBlock() {
-  StapelAktiv = false;  // for the time of the search
+  Stapel.Aktiv = false;  // for the time of the search
   std::string Kennung;
   for (;;) {
     const int Art = StapelLeseKopf(Kennung);
     if (Art == -1 && !Kennung.empty()) return StapelFehlerMeldung("Modulkopf fehlerhaft");
     if (Art < 0) return Beenden();
-    const auto Blatt = std::find_if(Blätter.begin(), Blätter.end(), [&](const Anmeldung& B) {
-      return std::find(B.Kennungen.begin(), B.Kennungen.end(), Kennung) != B.Kennungen.end();
-    });
-    if (Art == 0 && Blatt != Blätter.end()) return BlockZeigen(*Blatt);
-    Stapellauf.Übergangen.push_back(Art == 1 ? "3D " + Kennung : Kennung);
+    if (Art == 0 && StapelHaken.BlattFür) {
+      if (const auto BlattZeigen = StapelHaken.BlattFür(Kennung)) return BlockZeigen(BlattZeigen);
+    }
+    Stapel.Bilanz.Übergangen.push_back(Art == 1 ? "3D " + Kennung : Kennung);
     BlockÜbergehen();
   }
 }
 
 }  // namespace
 
-void StapelBlattAnmelden(const std::vector<std::string>& Kennungen, std::function<void()> Zeigen) {
-  std::erase_if(Blätter, [&](const Anmeldung& B) { return B.Kennungen == Kennungen; });
-  Blätter.push_back({Kennungen, std::move(Zeigen)});
-}
-
-void StapelleserLeeren() {
-  StapelZeilen.clear();
-  StapelAnzahl = StapelZeiger = StapelZeilennummer = 0;
-  StapelAktiv = StapelAblauf = false;
-  Stapellauf = {};
-}
-
 void StapelStarten(const std::string& Dateiname) {
   if (Dateiname.empty()) return;
-  StapelleserLeeren();
-  Stapellauf.Datei = Dateiname;
+  Stapel = {};
+  Stapel.Bilanz.Datei = Dateiname;
   std::string Text;
   if (TextdateiLesen(Dateiname, Text) < 0) {
-    Stapellauf.Fehler = true;
+    Stapel.Bilanz.Fehler = true;
     return LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Stapelmodul.StapelStarten");
   }
   Zeilenleser Leser(Text);
   std::string_view Zeile;
   while (Leser.Nächste(Zeile)) {
-    if (StapelZeilen.size() == StapelGrenze) {
-      StapelZeilen.clear();
-      Stapellauf.Fehler = true;
+    if (Stapel.Zeilen.size() == StapelGrenze) {
+      Stapel.Zeilen.clear();
+      Stapel.Bilanz.Fehler = true;
       return LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Stapelmodul.StapelStarten");
     }
-    StapelZeilen.emplace_back(Zeile);
+    Stapel.Zeilen.emplace_back(Zeile);
   }
-  StapelAnzahl = static_cast<int>(StapelZeilen.size());
-  StapelAktiv = true;
+  Stapel.Aktiv = true;
   StapelWeiter();
 }
 
 void StapelWeiter() {
-  if (ImVerteiler) {
-    Nochmal = true;  // the worksheet was done at once: no recursion over the blocks of a long file
+  if (Stapel.ImVerteiler) {
+    Stapel.Nochmal = true;  // the worksheet was done at once: no recursion over the blocks of a long file
     return;
   }
   struct Verteiler {
-    Verteiler() { ImVerteiler = true; }
-    ~Verteiler() { ImVerteiler = false; }
+    Verteiler() { Stapel.ImVerteiler = true; }
+    ~Verteiler() { Stapel.ImVerteiler = false; }
   } const Läuft;
   do {
-    Nochmal = false;
+    Stapel.Nochmal = false;
     NächsterBlock();
-  } while (Nochmal);
+  } while (Stapel.Nochmal);
 }
 
 void StapelAnhalten() {
-  if (StapelAktiv) Beenden();
+  if (Stapel.Aktiv) Beenden();
 }
 
 void StapelFehlerMeldung(const std::string& Text) {
-  Hinweis("Fehler aufgetreten im Stapel\n" + Stapellauf.Datei +
-          "\nZeile: " + std::to_string(StapelZeilennummer) + "\n" + Text);
-  Stapellauf.Fehler = true;
+  Hinweis("Fehler aufgetreten im Stapel\n" + Stapel.Bilanz.Datei +
+          "\nZeile: " + std::to_string(Stapel.Zeilennummer) + "\n" + Text);
+  Stapel.Bilanz.Fehler = true;
   Beenden();
 }
 
@@ -194,7 +169,7 @@ int StapelLeseKopf(std::string& Kennung) {
     if (IstKommentar(S)) continue;
     if (S.Schlüssel == "E") return -2;
     if (S.Schlüssel != "M") continue;  // lines between blocks
-    ProtArt = TrimmenSicht(S.Rest);
+    Stapel.Art = TrimmenSicht(S.Rest);
     const std::string Art = Großtext(Wortnehmen(S.Rest));
     Kennung = Großtext(Wortnehmen(S.Rest));
     if (Art == "VR") return 0;
@@ -225,8 +200,8 @@ int StapelLeseRisszeilen() {
   Satz S;
   while (NächsteZeile(S)) {
     if (IstKommentar(S) || RissNehmen(S)) continue;
-    --StapelZeiger;
-    --StapelZeilennummer;
+    --Stapel.Zeiger;
+    --Stapel.Zeilennummer;
     return 0;
   }
   return -1;

@@ -9,13 +9,6 @@
 
 namespace tavorena {
 
-extern std::vector<std::string> StapelZeilen;  ///< the whole file, at most 10001 lines
-extern int StapelAnzahl;                       ///< number of lines read
-extern int StapelZeiger;                       ///< next line to read
-extern int StapelZeilennummer;                 ///< lines used in this replay, for messages
-extern bool StapelAktiv;                       ///< a replay runs
-extern bool StapelAblauf;                      ///< the worksheet has taken its block head
-
 /// What came of a replay.
 struct StapelBilanz {
   std::string Datei;
@@ -24,16 +17,30 @@ struct StapelBilanz {
   std::vector<std::string> Übergangen;  ///< Kennungen that no worksheet takes
   bool Fehler = false;                  ///< the replay ended with an error
 };
-extern StapelBilanz Stapellauf;
 
-/// Tells the dispatcher which worksheet takes a block; Kennungen in upper case.
-void StapelBlattAnmelden(const std::vector<std::string>& Kennungen, std::function<void()> Zeigen);
+/// The running replay. Start values: {}.
+struct Nachlauf {
+  std::vector<std::string> Zeilen;  ///< the whole file, at most 10001 lines
+  int Zeiger = 0;                   ///< next line to read
+  int Zeilennummer = 0;             ///< lines used in this replay, for messages
+  bool Aktiv = false;               ///< a replay runs
+  bool Ablauf = false;              ///< the worksheet has taken its block head
+  std::string Art;                  ///< title of the block that runs
+  StapelBilanz Bilanz;
+  bool ImVerteiler = false, Nochmal = false;  ///< StapelWeiter runs; it was called again meanwhile
 
-/// Called when a replay begins a block (its title) and when it has ended (empty title).
-extern std::function<void(const std::string& Titel)> StapelSchritt;
+  [[nodiscard]] int Anzahl() const { return static_cast<int>(Zeilen.size()); }  ///< number of lines
+};
+extern Nachlauf Stapel;
 
-/// Start values; the worksheets stay known.
-void StapelleserLeeren();
+/// What a replay needs from above.
+struct Nachlaufhaken {
+  /// What shows the worksheet that takes blocks of a Kennung (upper case); empty if there is none.
+  std::function<std::function<void()>(const std::string& Kennung)> BlattFür;
+  /// A replay begins a block (its title), or has ended (empty title).
+  std::function<void(const std::string& Titel)> Schritt;
+};
+extern Nachlaufhaken StapelHaken;
 
 /// Reads the file and runs the first block. An empty name does nothing.
 void StapelStarten(const std::string& Dateiname);
@@ -50,23 +57,25 @@ void StapelFehlerMeldung(const std::string& Text);
 
 // ---- readers; all give 0 a record was read, -1 error or end of the file (already told), -2 end of block
 
-/// The next module head. ProtArt becomes the title behind the "M".
+/// The next module head. Stapel.Art becomes the title behind the "M".
 /// @param[out] Kennung  upper case
 /// @return 0 "VR", 1 "3D", -1 end of the file or faulty head, -2 a lone "E"
-int StapelLeseKopf(std::string& Kennung);
+[[nodiscard]] int StapelLeseKopf(std::string& Kennung);
 
 /// The "PAN" and "PEN" records of a connection; takes plan name and calculation number on the way.
-int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& EndPnr, double& EndWert);
+[[nodiscard]] int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& EndPnr,
+                                         double& EndWert);
 
 /// Takes the "RISS" and "BERNR" lines that come next, if any. @return 0; -1 at the end of the file
-int StapelLeseRisszeilen();
+[[nodiscard]] int StapelLeseRisszeilen();
 
-/// One point record with that keyword; Werte takes the numbers behind the point number.
-int StapelLesePnr(const std::string& Schlüssel, std::string& Pnr);
+/// One point record with that keyword.
+[[nodiscard]] int StapelLesePnr(const std::string& Schlüssel, std::string& Pnr);
 /// One record of two point numbers and a value, such as "NND".
-int StapelLeseZweiPnr(const std::string& Schlüssel, std::string& Pnr1, std::string& Pnr2, double& Wert);
+[[nodiscard]] int StapelLeseZweiPnr(const std::string& Schlüssel, std::string& Pnr1, std::string& Pnr2,
+                                    double& Wert);
 
 /// One "NEUPUNKT" record; "0  -   -" gives an empty number, "-" an empty symbol.
-int StapelLeseNeupunkt(std::string& Pnr, std::string& Symbol);
+[[nodiscard]] int StapelLeseNeupunkt(std::string& Pnr, std::string& Symbol);
 
 }  // namespace tavorena

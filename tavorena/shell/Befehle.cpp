@@ -10,9 +10,9 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
-#include <tavorena/records/TVProtokollmodul.h>
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
@@ -20,9 +20,7 @@
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
 #include <tavorena/shell/TVPSelectForm.h>
-#include <tavorena/worksheets/TVDisForm.h>
-#include <tavorena/worksheets/TVLinelForm.h>
-#include <tavorena/worksheets/TVPolelForm.h>
+#include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
 namespace {
@@ -30,8 +28,7 @@ namespace {
 void DateiNeu() {
   if (HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Neu, FilterKor, "*.kor", KoordinatendateiName) < 0)
-    return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Neu, FilterKor, "*.kor", KoordinatendateiName) < 0) return;
   Koordinatendateiformat = FormatNachEndung(KoordinatendateiName, 0);
   if (HauptLesenUndDateinamenSetzen(false) < 0) return HauptInitialisierung();
   HauptDateiOffenSetzen();
@@ -41,7 +38,7 @@ void DateiLesenMit(std::int16_t Format, const char* Filter, const char* Vorgabe)
   if (HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
   std::string Name;
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, Filter, Vorgabe, Name) < 0) return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, Filter, Vorgabe, Name) < 0) return;
   HauptDateiÖffnen(Name, Format);
 }
 
@@ -52,8 +49,7 @@ void DateiSpeichernUnter() {
   const char* Vorgabe = Vorgaben[std::clamp<int>(Koordinatendateiformat, 0, 2)];
   std::string Name;
   bool Anhängen = false;
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhängen) < 0)
-    return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhängen) < 0) return;
   const std::int16_t Format = FormatNachEndung(Name, 0);
   if (KoordinatenExportieren(Name, Zeilenformat(Format), Anhängen) < 0) return;
   KoordinatendateiName = Name;
@@ -68,8 +64,7 @@ void DateiSpeichernUnter() {
 void Stapelbearbeitung() {
   if (StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
   std::string Name;
-  if (DateiWahl(Dateisorte::Stapel, Wahlmodus::Lesen, "Stapeldateien (*.sta)|*.sta", "*.sta", Name) < 0)
-    return;
+  if (DateiWahl(Dateisorte::Sta, Wahlmodus::Lesen, "Stapeldateien (*.sta)|*.sta", "*.sta", Name) < 0) return;
   StapelStarten(Name);
 }
 
@@ -89,7 +84,7 @@ void Beenden() {
 // Reads points of a file into the table that is open.
 void Hinzulesen(int Modus, const std::function<bool(std::string_view)>& Nimmt = {}) {
   std::string Name;
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   KorLesen(Name, Modus, Zeilenformat(FormatNachEndung(Name, 0)), Nimmt);
 }
 
@@ -98,7 +93,7 @@ void HinzuNurNeue() { Hinzulesen(ModusNurNeue); }
 
 void HinzuPunktbereich() {
   std::string Name, Von, Bis;
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   if (PunktbereichFrage("Tavorena Auswahl Punktbereich", Von, Bis) < 0) return;
   const double Unten = ZahlAusText(Von), Oben = ZahlAusText(Bis);
   KorLesen(Name, ModusAnhängen, Zeilenformat(FormatNachEndung(Name, 0)), [=](std::string_view Pnr) {
@@ -109,7 +104,7 @@ void HinzuPunktbereich() {
 
 void HinzuPunktselektion() {
   std::string Name;
-  if (DateiWahl(Dateisorte::Koordinaten, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   Punktlisten Listen;
   int Anzahl = 0;
   if (FormatNachEndung(Name, 0) != 0)
@@ -127,8 +122,8 @@ void Ansehen(const std::string& Datei) {
   LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
 }
 
-void AnsichtProtokoll() { Ansehen(ProtokolldateiName); }
-void AnsichtStapel() { Ansehen(StapeldateiName); }
+void AnsichtProtokoll() { Ansehen(Prot.Datei); }
+void AnsichtStapel() { Ansehen(StapelDatei.Name); }
 void AnsichtKoordinaten() { Ansehen(KoordinatendateiName); }
 
 void AnsichtAllgemein() {
@@ -137,10 +132,9 @@ void AnsichtAllgemein() {
   }
 }
 
-template <typename Form>
-void Rechenblatt() {
+void BlattÖffnen(const Blattart& Art) {
   if (StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
-  BlattZeigen(std::make_unique<Form>());
+  BlattZeigen(Art.Neu(Art));
 }
 
 // Replaces a text in a whole file and tells how often.
@@ -186,7 +180,7 @@ void Projektstand() {
       "- Hilfefunktion in der \"Statusleiste\" am unteren Bildrand\n  ist neu");
 }
 
-constexpr Befehl Befehle[] = {
+const Befehl Befehle[] = {
     {"MenüDateiNeu", false, DateiNeu},
     {"MenüDateiLesen(0)", false, [] { DateiLesenMit(0, FilterKor, "*.kor"); }},
     {"MenüDateiLesen(2)", false, [] { DateiLesenMit(2, FilterKor, "*.alk"); }},
@@ -207,9 +201,6 @@ constexpr Befehl Befehle[] = {
     {"MenüAnsichtKoordinatendatei", true, AnsichtKoordinaten},
     {"MenüAnsichtProtokolldatei", true, AnsichtProtokoll},
     {"MenüAnsichtStapeldatei", true, AnsichtStapel},
-    {"MenüKatasterLinel", true, Rechenblatt<TVLinelForm>},
-    {"MenüKatasterPolel", true, Rechenblatt<TVPolelForm>},
-    {"MenüKatasterDis", true, Rechenblatt<TVDisForm>},
     {"MenüFunktErsetzen", true, TextErsetzen},
     {"MenüOptionenOptionen", false, TVOptionenformZeigen},
     {"MenüOptionenDateinamen(0)", false, TexteditorWählen},
@@ -221,9 +212,15 @@ constexpr Befehl Befehle[] = {
 }  // namespace
 
 const Befehl* BefehlFinden(std::string_view Eintrag) {
-  const auto* i = std::find_if(std::begin(Befehle), std::end(Befehle),
-                               [&](const Befehl& B) { return B.Eintrag == Eintrag; });
-  return i != std::end(Befehle) ? i : nullptr;
+  // Besides the commands of the table each kind of worksheet has one.
+  static const std::vector<Befehl> Alle = [] {
+    std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
+    for (const Blattart& Art : Blattarten()) B.push_back({Art.Menü, true, [&Art] { BlattÖffnen(Art); }});
+    return B;
+  }();
+  const auto i =
+      std::find_if(Alle.begin(), Alle.end(), [&](const Befehl& B) { return B.Eintrag == Eintrag; });
+  return i != Alle.end() ? &*i : nullptr;
 }
 
 void HistorieÖffnen(int Index) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 namespace tavorena {
@@ -8,7 +9,7 @@ namespace tavorena {
 struct Befehl {
   const char* Eintrag;
   bool MitDatei;  ///< needs an open file
-  void (*Tun)();
+  std::function<void()> Tun;
 };
 
 /// The command of an entry, nullptr if its function does not exist (yet).

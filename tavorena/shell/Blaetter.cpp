@@ -2,22 +2,15 @@
 #include <vector>
 
 #include <tavorena/core/Ports.h>
+#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
 #include <tavorena/shell/Blaetter.h>
-#include <tavorena/worksheets/TVDisForm.h>
-#include <tavorena/worksheets/TVLinelForm.h>
-#include <tavorena/worksheets/TVPolelForm.h>
+#include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
 namespace {
 
 std::vector<std::unique_ptr<Formular>> Blätter;
-
-template <typename Form>
-void Anmelden(const std::vector<std::string>& Kennungen) {
-  StapelBlattAnmelden(Kennungen, [] { BlattZeigen(std::make_unique<Form>()); });
-}
 
 }  // namespace
 
@@ -42,12 +35,12 @@ bool BlätterSchließen() {
   return true;
 }
 
-bool StapelSchreibenOffen() { return StapelBlockOffen() || StapelAktiv; }
+bool StapelSchreibenOffen() { return StapelDatei.Offen != nullptr || Stapel.Aktiv; }
 
-void BlätterAnmelden() {
-  Anmelden<TVLinelForm>({"24.40", "LE"});
-  Anmelden<TVPolelForm>({"08.40", "8.40", "PE"});
-  Anmelden<TVDisForm>({"22.10", "EK"});
+std::function<void()> BlattFür(const std::string& Kennung) {
+  const Blattart* Art = BlattartVonKennung(Kennung);
+  if (Art == nullptr) return {};
+  return [Art] { BlattZeigen(Art->Neu(*Art)); };
 }
 
 }  // namespace tavorena

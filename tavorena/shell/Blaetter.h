@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 
 #include <tavorena/forms/Formular.h>
 
@@ -20,7 +22,7 @@ bool BlätterSchließen();
 /// A batch write is not finished, or a replay runs: no other worksheet may be opened.
 bool StapelSchreibenOffen();
 
-/// Tells the batch reader which worksheet takes which block.
-void BlätterAnmelden();
+/// What shows the worksheet that takes a block of the batch file; empty if there is none.
+std::function<void()> BlattFür(const std::string& Kennung);
 
 }  // namespace tavorena

@@ -10,10 +10,10 @@ namespace tavorena {
 namespace {
 
 std::string TitelFür(Dateisorte Sorte, Wahlmodus Modus) {
-  if (Sorte == Dateisorte::Protokoll) {
+  if (Sorte == Dateisorte::Dru) {
     return Modus == Wahlmodus::Lesen ? "Protokolldatei auswählen" : "Protokolldatei zum Schreiben auswählen";
   }
-  if (Sorte == Dateisorte::Stapel) {
+  if (Sorte == Dateisorte::Sta) {
     return Modus == Wahlmodus::Lesen      ? "Stapeldatei zum Bearbeiten auswählen"
            : Modus == Wahlmodus::Anhängen ? "Stapeldatei zum Anhängen auswählen"
                                           : "Stapeldatei zum Schreiben auswählen";
@@ -72,7 +72,7 @@ int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, cons
 }
 
 int ProtokollWahl(std::string& Name) {
-  Dateiauftrag Auftrag{TitelFür(Dateisorte::Protokoll, Wahlmodus::Anhängen),
+  Dateiauftrag Auftrag{TitelFür(Dateisorte::Dru, Wahlmodus::Anhängen),
                        "Protokolldateien (*.dru)|*.dru",
                        Startordner(),
                        "*.dru",

@@ -4,7 +4,7 @@
 
 namespace tavorena {
 
-enum class Dateisorte { Koordinaten, Protokoll, Stapel };
+enum class Dateisorte { Kor, Dru, Sta };
 
 /// "r" read an existing file, "w" write, "a" append, "n" a new one.
 enum class Wahlmodus : char { Lesen = 'r', Schreiben = 'w', Anhängen = 'a', Neu = 'n' };

@@ -8,7 +8,7 @@
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Konfiguration.h>
 
 namespace tavorena {

@@ -10,10 +10,11 @@
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/points/TVPDoppForm.h>
-#include <tavorena/records/Protbloecke.h>
+#include <tavorena/records/Neupunktblock.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Protokollfenster.h>
+#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
-#include <tavorena/records/TVProtokollmodul.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
 #include <tavorena/shell/Konfiguration.h>
@@ -30,10 +31,10 @@ namespace {
 
 void Stapelstand(const std::string& Titel) {
   if (!Titel.empty()) return StatusHilfeSetzen("Stapel: " + Titel);
-  std::string Text = "Stapel beendet: " + std::to_string(Stapellauf.Blöcke) + " Blöcke, " +
-                     std::to_string(Stapellauf.Zeilen) + " Zeilen";
-  if (!Stapellauf.Übergangen.empty()) Text += ", übergangen:";
-  for (const std::string& Kennung : Stapellauf.Übergangen) Text += " " + Kennung;
+  std::string Text = "Stapel beendet: " + std::to_string(Stapel.Bilanz.Blöcke) + " Blöcke, " +
+                     std::to_string(Stapel.Bilanz.Zeilen) + " Zeilen";
+  if (!Stapel.Bilanz.Übergangen.empty()) Text += ", übergangen:";
+  for (const std::string& Kennung : Stapel.Bilanz.Übergangen) Text += " " + Kennung;
   StatusHilfeSetzen(Text);
 }
 
@@ -63,9 +64,11 @@ int LesenNachFormat() {
 void HauptAnschließen() {
   Haken.FormEinzelKorein = FormEinzelKorein;
   Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
-  Haken.MittelEintragen = [](const Mittelpunkt& M) { ProtMittel(M); };
-  StapelSchritt = Stapelstand;
-  BlätterAnmelden();
+  Haken.MittelEintragen = [](const Mittelpunkt& M) {
+    // The mean stands in the table; a protocol that can not be written was told.
+    static_cast<void>(ProtBlock(Prot, MittelBlock(Optionen.OptNachkommastellen, M)));
+  };
+  StapelHaken = {BlattFür, Stapelstand};
 }
 
 void HauptInitialisierung() {
@@ -73,7 +76,7 @@ void HauptInitialisierung() {
   KorLeeren();
   ProtokollNehmen("");
   ProtokollfensterText.clear();
-  StapelschreiberLeeren();
+  StapelDatei = {};
   OptionenLesen();
   HistorieLesen();
   FormularLesen();
@@ -111,7 +114,7 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
   }
   const Dateiname Teile = DateinameZerlegen(KoordinatendateiName);
   const std::string Stamm = Teile.Ordner + Teile.Grundname;
-  StapeldateiName = Stamm + ".sta";
+  StapelDatei.Name = Stamm + ".sta";
   KorAnzahlAnzeigen();
   return ProtokollNehmenFragen(Stamm + ".dru");
 }
@@ -130,7 +133,7 @@ int HauptDateiÖffnen(const std::string& Name, std::int16_t Format) {
     KorAnzahl = 0;
     KoordinatendateiName.clear();
     ProtokollNehmen("");
-    StapeldateiName.clear();
+    StapelDatei.Name.clear();
     return -1;
   }
   HauptDateiOffenSetzen();

@@ -1,4 +1,4 @@
-#include <tavorena/core/Datei.h>
+#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
@@ -12,7 +12,15 @@ namespace tavorena {
 namespace {
 
 const char* const RahmenPlan = "Plan";
-constexpr double Atempause = 0.1;  // s between two looks at the event queue during a replay
+
+// A label and, behind it, the result field that it names.
+Feld& Planfeld(Formular& Form, const char* Label, const std::string& Name, int Spalte, int Zeichen) {
+  Beschriftung& B = Form.BeschriftungAnlegen(Label, {0, Spalte}, RahmenPlan);
+  Feld& F = Form.FeldAnlegen(Name, {0, Spalte + 1}, RahmenPlan, Zeichen);
+  F.NurLesen = true;
+  B.Sichtbar = F.Sichtbar = Optionen.AbfrageRiss;
+  return F;
+}
 
 }  // namespace
 
@@ -20,73 +28,64 @@ Rechenblatt::Rechenblatt(const Blattart& BlattArt)
     : Formular(BlattArt.Formname),
       Art(BlattArt),
       ProtTitel(BlattArt.VR),
-      Ri_bez((BeschriftungAnlegen("Rißbezeichnung:", {0, 0}, RahmenPlan),
-              FeldAnlegen(Mit("Ri_bez"), {0, 1}, RahmenPlan, 20))),
-      Bernr((BeschriftungAnlegen("Berechnungsnummer:", {0, 2}, RahmenPlan),
-             FeldAnlegen(Mit("Bernr"), {0, 3}, RahmenPlan, 8))) {
+      Ri_bez(Planfeld(*this, "Rißbezeichnung:", Mit("Ri_bez"), 0, 20)),
+      Bernr(Planfeld(*this, "Berechnungsnummer:", Mit("Bernr"), 2, 8)) {
   Titel = Art.VR;
   Hilfenummer = Art.Hilfenummer;
-  Ri_bez.NurLesen = Bernr.NurLesen = true;
-  for (const auto& S : Steuerelemente()) S->Sichtbar = Optionen.AbfrageRiss;
 }
 
 // The keys of the buttons are those that the menu bar leaves free.
 void Rechenblatt::KnöpfeAnlegen() {
-  const auto Ende = [this] {
-    if (DarfSchließen()) Schließen();
-  };
-  const auto Stop = [this] {
-    StapelAnhalten();
-    if (Hält) StapelBlattEnde();
-  };
-  const auto Weiter = [this] {
-    if (Hält) StapelZeilenRechnen();
-  };
-  KnopfEnd = &KnopfAnlegen(Mit("End"), "&Schließen", Ende, {0, 3});
-  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", Stop, {0, 4});
-  KnopfWeiter = &KnopfAnlegen(Mit("Weiter"), "&Weiter", Weiter, {0, 5});
+  KnopfEnd = &KnopfAnlegen(Mit("End"), "&Schließen", [this] { SchließenVerlangen(); }, {0, 3});
+  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", [this] { Stop(); }, {0, 4});
+  KnopfWeiter = &KnopfAnlegen(Mit("Weiter"), "&Weiter", [this] { StapelZeilenRechnen(); }, {0, 5});
   KnopfEnd->OhnePrüfung = KnopfStop->OhnePrüfung = true;
   KnopfEnd->Hilfe = "Rechenblatt schließen";
   KnopfStop->Hilfe = "Stapel nach der laufenden Zeile beenden";
   KnopfWeiter->Hilfe = "Zeilen des Stapels rechnen";
   KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = false;
-  for (const auto& S : Steuerelemente()) {
-    if (auto* E = dynamic_cast<Eingabeelement*>(S.get())) {
-      E->BeiVerlassen = [this, E] { return FokusVerloren(*E); };
-      E->BeiText = [this, E] { TextGeändert(*E); };
-    }
-  }
 }
 
 void Rechenblatt::BeiÖffnen() {
-  EigenesZiel = {DateinameProtokollTemp};
-  OrdnerAnlegen(DateinameZerlegen(DateinameProtokollTemp).Ordner);
-  if (DateiErsetzen(DateinameProtokollTemp, "") < 0) EigenesZiel.Datei.clear();
-  if (StapelAktiv && !StapelAblauf) return StapelBeginnen();
+  VomStapel = Stapel.Aktiv && !Stapel.Ablauf;
+  Akten.Öffnen(VomStapel);
+  if (VomStapel) return StapelBeginnen();
   RissFragen();
 }
 
 void Rechenblatt::RissFragen() {
-  if (Optionen.AbfrageRiss) ZweiWerte(Art.VR, "Rißbezeichnung:", Riss, "Berechnungsnummer:", BerNr);
+  // After a cancel the plan typed last stays.
+  if (Optionen.AbfrageRiss) {
+    static_cast<void>(
+        ZweiWerte(Art.VR, "Rißbezeichnung:", LetzterPlan.Riss, "Berechnungsnummer:", LetzterPlan.BerNr));
+  }
   RissZeigen();
 }
 
 void Rechenblatt::RissZeigen() {
-  Ri_bez.Text = Riss;
-  Bernr.Text = BerNr;
+  Riß = LetzterPlan;
+  Ri_bez.Text = Riß.Riss;
+  Bernr.Text = Riß.BerNr;
+}
+
+Verbindung Rechenblatt::NeueVerbindung() {
+  if (VomStapel) RissZeigen();  // its block told the plan
+  Verbindung V;
+  V.Titel = ProtTitel;
+  V.Riß = Riß;
+  return V;
 }
 
 void Rechenblatt::StapelBeginnen() {
-  VomStapel = StapelAblauf = true;
+  Stapel.Ablauf = true;
   Titel = Art.Stapeltitel;
-  if (FeldLinks(ProtArt, 8) == FeldLinks(ProtTitel, 8)) ProtTitel = ProtArt;
+  if (FeldLinks(Stapel.Art, 8) == FeldLinks(ProtTitel, 8)) ProtTitel = Stapel.Art;
   KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = true;
   KnopfEnd->Sichtbar = false;
   const int Ergebnis = StapelAnschluss();
-  RissZeigen();
   if (Ergebnis < 0) {
     KnopfStop->Text = "- Abbruch -";
-    if (StapelAktiv) StapelFehlerMeldung("Anschluß fehlt");
+    if (Stapel.Aktiv) StapelFehlerMeldung("Anschluß fehlt");
     return StapelBlattEnde();
   }
   Hält = AblaufPort().StapelHält();
@@ -95,25 +94,23 @@ void Rechenblatt::StapelBeginnen() {
 }
 
 void Rechenblatt::StapelZeilenRechnen() {
-  Hält = KnopfWeiter->Aktiv = false;
-  double Zuletzt = AblaufPort().Zeitgeber();
-  while (StapelAktiv && Offen() && StapelZeile() == 0) {
-    const double Jetzt = AblaufPort().Zeitgeber();
-    if (Jetzt - Zuletzt < Atempause) continue;
-    Zuletzt = Jetzt;
-    AblaufPort().EreignisseAbarbeiten();
+  Hält = false;
+  KnopfWeiter->Aktiv = false;
+  Atempause Pause(0.1);
+  while (Stapel.Aktiv && Offen() && StapelZeile() == 0) {
+    if (Pause.Fällig()) AblaufPort().EreignisseAbarbeiten();
   }
   StapelBlattEnde();
 }
 
 void Rechenblatt::StapelBlattEnde() {
-  StapelAblauf = Hält = false;
+  Stapel.Ablauf = Hält = false;
   Schließen();
-  if (StapelAktiv) StapelWeiter();
+  if (Stapel.Aktiv) StapelWeiter();
 }
 
 bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
-  auto* E = dynamic_cast<Eingabeelement*>(&S);
+  auto* const E = dynamic_cast<Eingabeelement*>(&S);
   if (E == nullptr || !E->IstPnr || (T != Taste::Plus && T != Taste::Minus)) return false;
   const std::string Neu = PunktnummerSchritt(T == Taste::Plus ? 1 : -1);
   if (Neu.empty()) return false;
@@ -122,30 +119,26 @@ bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
   return true;
 }
 
-bool Rechenblatt::DarfSchließen() {
-  if (VomStapel) {
-    StapelAnhalten();
-    return true;
-  }
-  return OffenesKlaeren();
+void Rechenblatt::Stop() {
+  StapelAnhalten();
+  if (Hält) StapelBlattEnde();
 }
 
-bool Rechenblatt::OffenesKlaeren() {
+bool Rechenblatt::DarfSchließen() {
+  if (!VomStapel) return OffenesKlären();
+  StapelAnhalten();
+  return true;
+}
+
+bool Rechenblatt::OffenesKlären() {
   if (!HatOffenes()) return true;
   if (FrageJaNein("Protokoll und Stapel schreiben ? ", Art.Fragetitel) == KnopfJa) return OffenesSchreiben();
   return FrageJaNein("ohne Protokollausdruck und Stapel beenden ? ", Art.Fragetitel) == KnopfJa;
 }
 
-void Rechenblatt::BeiSchließen() { BlockBeenden(); }
-
-void Rechenblatt::Protokollieren(const std::function<void()>& Block) {
-  Block();
-  if (ProtokolldateiName.empty() || EigenesZiel.Datei.empty()) return;
-  ProtZiel(false, EigenesZiel);
-  Block();
-  ProtZiel(true, EigenesZiel);
+void Rechenblatt::BeiSchließen() {
+  // A block that can not be ended was told; the worksheet closes all the same.
+  static_cast<void>(Akten.Beenden());
 }
-
-void Rechenblatt::Melde(const std::string& Text) { StatusHilfeSetzen(Text); }
 
 }  // namespace tavorena

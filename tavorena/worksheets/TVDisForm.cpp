@@ -1,117 +1,105 @@
 #include <cmath>
+#include <utility>
 
+#include <tavorena/core/Optionen.h>
 #include <tavorena/core/Zahlen.h>
-#include <tavorena/records/Protbloecke.h>
+#include <tavorena/records/Dis.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
 #include <tavorena/worksheets/TVDisForm.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
-namespace {
 
-constexpr Blattart Dis = {"TVDisForm",
-                          "Dis",
-                          "VR 22.10 Entfernungskontrolle",
-                          "Tavorena Entfernungskontrolle [Stapel]",
-                          "Berechnung Entfernungskontrolle",
-                          4130};
-
-}  // namespace
-
-TVDisForm::TVDisForm()
-    : Anschlussblatt(Dis),
-      Strecke(Messfeld("Strecke", "Strecke", {2, 6}, Gemessen)),
-      L(Anschlussergebnis("L", "L:", 0)),
-      D(Anschlussergebnis("D", "D:", 2)),
-      Ws(Anschlussergebnis("Ws", "WS:", 4)) {
+TVDisForm::TVDisForm(const Blattart& BlattArt)
+    : Rechenblatt(BlattArt),
+      Kopf(*this, [this] { ZeigeAnschluss(); }),
+      Strecke(Kopf.Messfeld("Strecke", "Strecke", {2, 6}, Gemessen)),
+      L(Kopf.Ergebnis("L", "L:", 0)),
+      D(Kopf.Ergebnis("D", "D:", 2)),
+      Ws(Kopf.Ergebnis("Ws", "WS:", 4)) {
   Strecke.Hilfe = "Gemessene Strecke; Return schreibt die Kontrolle";
+  Strecke.BeiReturn = [this] {
+    if (Kopf.Prüfen() && AnschlussEinzel() == 0) NächsteKontrolle();
+  };
   KnöpfeAnlegen();
 }
 
-void TVDisForm::AnschlussRechnen() {
-  if (!AnschlussGesetzt()) return;
-  const bool MitMessung = Entfernungskontrolle(Anf.Ort, End.Ort, Gemessen, Werte) == 0;
+void TVDisForm::ZeigeAnschluss() {
+  if (!Kopf.Gesetzt()) return;
+  const bool MitMessung = Entfernungskontrolle(Kopf.Anf.Ort(), Kopf.End.Ort(), Gemessen, Werte) == 0;
   L.Text = Längentext(Werte.EntfGerechnet);
   D.Text = MitMessung ? Längentext(Werte.AbweichungZulaessig) : "";
   Ws.Text = MitMessung ? Längentext(Werte.Abweichung) : "";
   Ws.Fehlerhaft = MitMessung && std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
 }
 
-bool TVDisForm::TasteUnten(Steuerelement& S, Taste T) {
-  if (&S != &Strecke || T != Taste::Return) return Anschlussblatt::TasteUnten(S, T);
-  if (AnschlussPrüfen()) AnschlussEinzel();
-  return true;
-}
-
 int TVDisForm::AnschlussEinzel() {
-  if (!AnschlussGesetzt()) return -1;
-  AnschlussRechnen();
-  KontrolleSchreiben();
-  if (ImStapel()) {
-    ++Stapellauf.Zeilen;
-  } else {
-    NächsteKontrolle();
-  }
+  if (!Kopf.Gesetzt()) return -1;
+  ZeigeAnschluss();
+  if (KontrolleSchreiben() < 0) return -1;
+  if (ImStapel()) ++Stapel.Bilanz.Zeilen;
   return 0;
 }
 
-void TVDisForm::KontrolleSchreiben() {
-  if (!ImStapel()) {
-    if (Geschrieben) {
-      StapelPunktzeile("NND ", Anf.Gesucht, {End.Gesucht, Gemessen});
-    } else {
-      StapelKopfLinie(ProtTitel, Anf.Gesucht, 0, End.Gesucht, Gemessen);
-    }
+int TVDisForm::KontrolleSchreiben() {
+  std::string Satz = DisSatz(Kopf.Anf.Nummer(), Kopf.End.Nummer(), Gemessen);
+  if (!Akten.BlockOffen()) {  // the head of the block holds the check
+    Verbindung V = NeueVerbindung();
+    V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), 0, Kopf.End.Nummer(), Gemessen);
+    V.EndeMitZeilen = false;
+    if (Akten.Beginnen(std::move(V)) < 0) return -1;
+    Satz.clear();
   }
-  Geschrieben = true;
-  ProtKopfBeiWechsel(ProtTitel);
-  Protokollieren([&] {
-    ProtEntfernungskontrolle({Zeilenpunkt(Anf),
-                              Zeilenpunkt(End),
-                              {},
-                              {},
-                              Gemessen != 0 ? Wert(Gemessen) : Wert(),
-                              Werte.EntfGerechnet,
-                              Werte.Abweichung,
-                              Werte.AbweichungZulaessig},
-                             Gemessen != 0);
-  });
+  const Block Zeilen = DisZeile(Optionen.OptNachkommastellen,
+                                {Kopf.Anf.AlsProtpunkt(),
+                                 Kopf.End.AlsProtpunkt(),
+                                 {},
+                                 {},
+                                 Gemessen != 0 ? Wert(Gemessen) : Wert(),
+                                 Werte.EntfGerechnet,
+                                 Werte.Abweichung,
+                                 Werte.AbweichungZulaessig},
+                                Gemessen != 0);
+  Aufzeichnung::Spur Wo;
+  return Akten.Zeile(Zeilen, Satz, Wo);
 }
 
 void TVDisForm::NächsteKontrolle() {
-  Anf.Pnr.Text = End.Pnr.Text;
-  End.Pnr.Text = "";
-  PunktLeeren(End);
-  SetzeAnfpunkt();
+  Kopf.Anf.Pnr.Text = *Kopf.End.Pnr.Text;
+  Kopf.End.Pnr.Text = "";
+  Kopf.End.Leeren();
+  static_cast<void>(Kopf.Anf.Setzen());  // it was there as the end point
   Gemessen = 0;
   Strecke.Text = Messwerttext(0);
-  FokusSetzen(End.Pnr);
+  FokusSetzen(Kopf.End.Pnr);
 }
 
-void TVDisForm::KopfwerteSetzen(double /*AnfWert*/, double EndWert) { MesswertSetzen(Strecke, EndWert); }
+int TVDisForm::StapelAnschluss() {
+  std::string AnfPnr, EndPnr;
+  double AnfWert = 0, EndWert = 0;
+  const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
+  if (Ergebnis < 0) return Ergebnis;
+  Anschluss::MesswertSetzen(Strecke, EndWert);
+  return Kopf.AusStapel(AnfPnr, EndPnr) < 0 ? -1 : AnschlussEinzel();
+}
 
 int TVDisForm::StapelZeile() {
+  std::string AnfPnr, EndPnr;
   double Entfernung = 0;
-  std::string AnfNr = Anf.Pnr.Text, EndNr = End.Pnr.Text;
-  const int Ergebnis = StapelLeseZweiPnr("NND", AnfNr, EndNr, Entfernung);
+  const int Ergebnis = StapelLeseDis(AnfPnr, EndPnr, Entfernung);
   if (Ergebnis < 0) return Ergebnis;
-  Anf.Pnr.Text = AnfNr;
-  End.Pnr.Text = EndNr;
+  Kopf.Anf.Pnr.Text = AnfPnr;
+  Kopf.End.Pnr.Text = EndPnr;
   // A point that the user does not supply drops its check, the replay goes on.
-  if (SetzeAnfpunkt() < 0 || SetzeEndpunkt() < 0) return 0;
-  MesswertSetzen(Strecke, Entfernung);
-  AnschlussEinzel();
-  return 0;
+  if (Kopf.Anf.Setzen() < 0 || Kopf.End.Setzen() < 0 || !Kopf.Gesetzt()) return 0;
+  Anschluss::MesswertSetzen(Strecke, Entfernung);
+  if (AnschlussEinzel() == 0) return 0;
+  StapelFehlerMeldung("Zeile nicht geschrieben");
+  return -1;
 }
 
-bool TVDisForm::HatOffenes() const { return AnschlussGesetzt() && ZahlAusText(*Strecke.Text) != 0; }
+bool TVDisForm::HatOffenes() const { return Kopf.Gesetzt() && ZahlAusText(*Strecke.Text) != 0; }
 
-bool TVDisForm::OffenesSchreiben() { return AnschlussPrüfen() && AnschlussEinzel() == 0; }
-
-void TVDisForm::BlockBeenden() {
-  if (!ImStapel() && Geschrieben) StapelEnde(false);
-  Geschrieben = false;
-}
+bool TVDisForm::OffenesSchreiben() { return Kopf.Prüfen() && AnschlussEinzel() == 0; }
 
 }  // namespace tavorena

@@ -1,33 +1,32 @@
 #pragma once
 
-#include <tavorena/worksheets/Anschlussblatt.h>
+#include <tavorena/calc/TVBerechnungsmodul.h>
+#include <tavorena/worksheets/Anschluss.h>
 
 namespace tavorena {
 
 /// VR 22.10 Entfernungskontrolle: one check after the other, without a grid. Return in the distance
-/// commits; the end point stays as the new start point. All checks of a worksheet stand in one batch block.
-class TVDisForm final : public Anschlussblatt {
+/// commits; the end point stays as the new start point. The checks of a worksheet stand in one batch block.
+class TVDisForm final : public Rechenblatt {
  public:
-  TVDisForm();
+  explicit TVDisForm(const Blattart& BlattArt);
 
  protected:
-  bool TasteUnten(Steuerelement& S, Taste T) override;
-  void AnschlussRechnen() override;
-  int AnschlussEinzel() override;
-  void KopfwerteSetzen(double AnfWert, double EndWert) override;
-  int StapelZeile() override;
+  [[nodiscard]] int StapelAnschluss() override;
+  [[nodiscard]] int StapelZeile() override;
   [[nodiscard]] bool HatOffenes() const override;
-  bool OffenesSchreiben() override;
-  void BlockBeenden() override;
+  [[nodiscard]] bool OffenesSchreiben() override;
 
  private:
-  /// Writes the check that is shown.
-  void KontrolleSchreiben();
+  /// Computes and writes the check that is typed. @return 0 or -1
+  [[nodiscard]] int AnschlussEinzel();
+  [[nodiscard]] int KontrolleSchreiben();
   void NächsteKontrolle();
+  void ZeigeAnschluss();
 
-  double Gemessen = 0;       // [m]; 0 means not measured
-  bool Geschrieben = false;  // the batch block is open
+  double Gemessen = 0;  // [m]; 0 means not measured
   Anschlusswerte Werte;
+  Anschluss Kopf;
   Feld& Strecke;
   Feld &L, &D, &Ws;
 };

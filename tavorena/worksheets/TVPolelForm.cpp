@@ -1,37 +1,62 @@
 #include <cmath>
 
+#include <tavorena/core/Optionen.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Polel.h>
+#include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 #include <tavorena/worksheets/TVPolelForm.h>
 
 namespace tavorena {
 namespace {
 
-constexpr Blattart Polel = {"TVPolelForm",
-                            "Polel",
-                            "VR 08.40 Polarelemente",
-                            "Tavorena Polarelemente [Stapel]",
-                            "Berechnung Polarelemente",
-                            4120};
-
 std::string Gontext(double Gon) { return ZahlFormat(Gon, -1, 4); }
 
 }  // namespace
 
-TVPolelForm::TVPolelForm()
-    : Gitterblatt(Polel),
-      Orientierung(Messfeld("Orientierung", "Richtung (gon)", {2, 6}, Ablesung)),
-      Strecke(Messfeld("Strecke", "Strecke", {2, 8}, Gemessen)),
-      L(Anschlussergebnis("L", "L:", 0)),
-      M(Anschlussergebnis("M", "M:", 2)),
-      D(Anschlussergebnis("D", "D:", 4)),
-      Ws(Anschlussergebnis("Ws", "WS:", 6)) {
-  GitterAufbauen({{"Punktnr.", 10, true}, {"Rechts", 12}, {"Hoch", 12}, {"Richtung", 12}, {"Strecke", 12}});
+TVPolelForm::TVPolelForm(const Blattart& BlattArt)
+    : Rechenblatt(BlattArt),
+      Kopf(*this, [this] { ZeigeAnschluss(); }),
+      Orientierung(Kopf.Messfeld("Orientierung", "Richtung (gon)", {2, 6}, Ablesung)),
+      Strecke(Kopf.Messfeld("Strecke", "Strecke", {2, 8}, Gemessen)),
+      L(Kopf.Ergebnis("L", "L:", 0)),
+      M(Kopf.Ergebnis("M", "M:", 2)),
+      D(Kopf.Ergebnis("D", "D:", 4)),
+      Ws(Kopf.Ergebnis("Ws", "WS:", 6)),
+      Zeilen(*this, Kopf,
+             {{"Punktnr.", 10, true}, {"Rechts", 12}, {"Hoch", 12}, {"Richtung", 12}, {"Strecke", 12}},
+             Kunde()) {
+  Strecke.BeiReturn = [this] { AnschlussÖffnen(); };
+  Zeilen.KnöpfeAnlegen([this] { AnschlussÖffnen(); });
+  KnöpfeAnlegen();
 }
 
-void TVPolelForm::AnschlussRechnen() {
+Zeilenkunde TVPolelForm::Kunde() {
+  return {
+      [this](Punktzeile& Z) {
+        double Nordrichtung = 0;
+        return Polarelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Ablesung, Z.Wert1, Z.Wert2, Nordrichtung);
+      },
+      [](const Punktzeile& Z) -> std::vector<std::string> {
+        return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Gontext(Z.Wert1), Längentext(Z.Wert2)};
+      },
+      [](const Punktzeile& Z, const std::string& Marke) {
+        return PolelZeile(Optionen.OptNachkommastellen, {Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Wert1, Z.Wert2, Marke);
+      },
+      [this](Verbindung& V) {
+        V.Zeilen = PolelAnschluss(
+            Optionen.OptNachkommastellen,
+            {Kopf.Anf.AlsProtpunkt(), Kopf.End.AlsProtpunkt(), Nord, Werte.EntfGerechnet, Ablesung,
+             Gemessen != 0 ? Wert(Gemessen) : Wert(), Werte.Abweichung, Werte.AbweichungZulaessig});
+        V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), Ablesung, Kopf.End.Nummer(), Gemessen);
+      },
+  };
+}
+
+void TVPolelForm::ZeigeAnschluss() {
   double Zwischen = 0;
-  if (!AnschlussGesetzt() || PolarelementeAnschluss(Anf.Ort, End.Ort, Gemessen, Zwischen, Nord, Werte) < 0)
+  if (!Kopf.Gesetzt() ||
+      PolarelementeAnschluss(Kopf.Anf.Ort(), Kopf.End.Ort(), Gemessen, Zwischen, Nord, Werte) < 0)
     return;
   L.Text = Längentext(Werte.EntfGerechnet);
   M.Text = ZahlFormat(Gemessen != 0 ? Werte.EntfGerechnet / Gemessen : 1.0, -1, 6);
@@ -40,32 +65,18 @@ void TVPolelForm::AnschlussRechnen() {
   Ws.Fehlerhaft = std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
 }
 
-void TVPolelForm::KopfwerteSetzen(double AnfWert, double EndWert) {
-  MesswertSetzen(Orientierung, AnfWert);
-  MesswertSetzen(Strecke, EndWert);
+void TVPolelForm::AnschlussÖffnen() {
+  if (Kopf.Prüfen() && Zeilen.AnschlussEinzel() == 0) FokusSetzen(Zeilen.Zellen);
 }
 
-void TVPolelForm::Kopfwerte(double& AnfWert, double& EndWert) const {
-  AnfWert = Ablesung;
-  EndWert = Gemessen;
-}
-
-int TVPolelForm::ZeileRechnen(Zeile& Z) const {
-  double Nordrichtung = 0;
-  return Polarelemente(Anf.Ort, End.Ort, Z.Ort, Ablesung, Z.Wert1, Z.Wert2, Nordrichtung);
-}
-
-std::vector<std::string> TVPolelForm::Zellen(const Zeile& Z) const {
-  return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Gontext(Z.Wert1), Längentext(Z.Wert2)};
-}
-
-void TVPolelForm::AnschlussProtokollieren() const {
-  ProtPolelAnschluss({Zeilenpunkt(Anf), Zeilenpunkt(End), Nord, Werte.EntfGerechnet, Ablesung,
-                      Gemessen != 0 ? Wert(Gemessen) : Wert(), Werte.Abweichung, Werte.AbweichungZulaessig});
-}
-
-void TVPolelForm::ZeileProtokollieren(const Zeile& Z, const std::string& Marke) const {
-  ProtPolelZeile({Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Wert1, Z.Wert2, Marke);
+int TVPolelForm::StapelAnschluss() {
+  std::string AnfPnr, EndPnr;
+  double AnfWert = 0, EndWert = 0;
+  const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
+  if (Ergebnis < 0) return Ergebnis;
+  Anschluss::MesswertSetzen(Orientierung, AnfWert);
+  Anschluss::MesswertSetzen(Strecke, EndWert);
+  return Kopf.AusStapel(AnfPnr, EndPnr) < 0 ? -1 : Zeilen.AnschlussEinzel();
 }
 
 }  // namespace tavorena

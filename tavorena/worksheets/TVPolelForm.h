@@ -1,33 +1,34 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include <tavorena/worksheets/Gitterblatt.h>
+#include <tavorena/calc/TVBerechnungsmodul.h>
+#include <tavorena/worksheets/Punktgitter.h>
 
 namespace tavorena {
 
 /// VR 08.40 Polarelemente: direction and distance of known points from the start of a connection.
-class TVPolelForm final : public Gitterblatt {
+class TVPolelForm final : public Rechenblatt {
  public:
-  TVPolelForm();
+  explicit TVPolelForm(const Blattart& BlattArt);
 
  protected:
-  void AnschlussRechnen() override;
-  void KopfwerteSetzen(double AnfWert, double EndWert) override;
-  void Kopfwerte(double& AnfWert, double& EndWert) const override;
-  int ZeileRechnen(Zeile& Z) const override;
-  [[nodiscard]] std::vector<std::string> Zellen(const Zeile& Z) const override;
-  void AnschlussProtokollieren() const override;
-  void ZeileProtokollieren(const Zeile& Z, const std::string& Marke) const override;
+  [[nodiscard]] int StapelAnschluss() override;
+  [[nodiscard]] int StapelZeile() override { return Zeilen.StapelZeile(); }
+  [[nodiscard]] bool HatOffenes() const override { return Zeilen.HatOffenes(); }
+  [[nodiscard]] bool OffenesSchreiben() override { return Zeilen.OffenesSchreiben(); }
 
  private:
+  void AnschlussÖffnen();
+  void ZeigeAnschluss();
+  [[nodiscard]] Zeilenkunde Kunde();
+
   double Ablesung = 0;  // circle reading on the end point [gon]
   double Gemessen = 0;  // measured distance [m]; 0 means not measured
   double Nord = 0;      // bearing of the connection [gon]
   Anschlusswerte Werte;
+  Anschluss Kopf;
   Feld &Orientierung, &Strecke;
   Feld &L, &M, &D, &Ws;
+  Punktgitter Zeilen;
 };
 
 }  // namespace tavorena

@@ -5,7 +5,7 @@
 
 #include <tavorena/console/Stapelbefehl.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
+#include <tavorena/records/Stapelblock.h>
 
 namespace tavorena::test {
 namespace {
@@ -49,7 +49,7 @@ TEST_F(Stapelbefehl, FehlerUndFragenBeendenMitEins) {
   EXPECT_EQ(Laufen("M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n" + Gut), 1);
   EXPECT_EQ(Meldungen.str(),
             "Frage ohne Antwort (" + Auftrag.Stapel + ", Zeile 4): Punkt 77 nicht vorhanden\n");
-  EXPECT_EQ(Stapellauf.Blöcke, 1);  // nothing runs after it
+  EXPECT_EQ(Stapel.Bilanz.Blöcke, 1);  // nothing runs after it
   Auftrag.Koordinaten = Ordner.Pfad("fehlt.kor");
   EXPECT_EQ(Laufen(Gut), 1);
   EXPECT_NE(Meldungen.str().find("nicht vorhanden !"), std::string::npos);

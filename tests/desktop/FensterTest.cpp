@@ -23,7 +23,7 @@
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -158,7 +158,7 @@ class FensterTest : public QObject {
     PortsSetzen(PortsVon(*Plattform));
     QFile::remove(Pfad("app/Tavorena.ini"));
     LetztePunktnummer.clear();
-    ProtokollLeeren();
+    Prot = {};
     HauptAnschließen();
     Fenster->show();
     HauptInitialisierung();
@@ -203,25 +203,25 @@ class FensterTest : public QObject {
     QTest::keyClick(Fenster.get(), Qt::Key_S, Qt::ControlModifier);
     QVERIFY(
         Inhalt(Pfad("a.kor")).startsWith("          1001   3500100.000   5600200.000      12.500  015\r\n"));
-    const QByteArray Protokoll = Inhalt(Pfad("a.dru")), Stapel = Inhalt(Pfad("a.sta"));
+    const QByteArray Protokoll = Inhalt(Pfad("a.dru")), Sta = Inhalt(Pfad("a.sta"));
     QVERIFY(Protokoll.contains("(Riss 12) 3"));
     QVERIFY(Protokoll.contains("      3500130.000  5600230.000       42.000        6.000      2003\r\n"));
     QVERIFY(Protokoll.contains("      3500130.000  5600230.000      21.5334       42.426      2003\r\n"));
     QVERIFY(Protokoll.contains("WS=      0.200  D=    0.160 ******(>D)\r\n"));
-    QCOMPARE(Stapel.count("\nNR  ") + Stapel.count("\nNND "), 6);
+    QCOMPARE(Sta.count("\nNR  ") + Sta.count("\nNND "), 6);
 
     ProtokollNehmen(Pfad("b.dru").toStdString());
     Wähle(Pfad("a.sta"));
     Menü("MenüDateiStapel");
     for (const char* Name : {"Linienelemente", "Polarelemente", "Entfernungskontrolle"}) {
-      QVERIFY(StapelAktiv);  // each block shows its connection and waits
+      QVERIFY(Stapel.Aktiv);  // each block shows its connection and waits
       const QString Erwartet = QString("Tavorena ") + Name + " [Stapel]";
       QTRY_VERIFY(FokusName().endsWith("Weiter") &&
                   QApplication::focusWidget()->parentWidget()->windowTitle() == Erwartet);
       Drücke(Qt::Key_W, Qt::AltModifier);
     }
-    QTRY_VERIFY(!StapelAktiv && !BlätterOffen());
-    QCOMPARE(Inhalt(Pfad("a.sta")), Stapel);
+    QTRY_VERIFY(!Stapel.Aktiv && !BlätterOffen());
+    QCOMPARE(Inhalt(Pfad("a.sta")), Sta);
     QCOMPARE(Inhalt(Pfad("b.dru")), Protokoll);
   }
 

@@ -1,143 +1,187 @@
-#include "Testhilfe.h"
+#include "Aktentest.h"
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/records/Protbloecke.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Dis.h>
+#include <tavorena/records/Linel.h>
+#include <tavorena/records/Neupunktblock.h>
+#include <tavorena/records/Polel.h>
 #include <tavorena/records/Tabellenkopf.h>
 
 namespace tavorena::test {
 namespace {
 
-class Protokoll : public TabellenTest {
+class ProtokollTest : public Aktentest {
  protected:
-  Protokoll() {
-    ProtokollLeeren();
+  ProtokollTest() {
+    Optionen.AbfrageRiss = true;
     ProtokollNehmen(Ordner.Pfad("flur7.dru"));
     KoordinatendateiName = "/daten/auftrag/musterdorf.kor";
-    Riss = "Riss 12";
-    BerNr = "3";
   }
-  static std::string Ist() { return Inhalt(ProtokolldateiName); }
+  static std::string Ist() { return Inhalt(Prot.Datei); }
+  static std::shared_ptr<const Verbindung> Über(const char* Titel, Block Zeilen = {},
+                                                Plan Riß = {"Riss 12", "3"}) {
+    Verbindung V;
+    V.Titel = Titel;
+    V.Riß = std::move(Riß);
+    V.Zeilen = std::move(Zeilen);
+    return std::make_shared<const Verbindung>(std::move(V));
+  }
+  static int Anzahl(const std::string& Stück) { return Aktentest::Anzahl(Ist(), Stück); }
 
   Protanschluss Anschluss() const { return {A, E, {}, {}, {}, {}, 0.07, 0.16}; }
   const Protpunkt A{3500100, 5600200, "1001"}, E{3500160, 5600280, "1002"}, P{3500130, 5600230, "2003"};
+  const char *const Linien = "VR 24.40 Linienelemente", *const Polar = "VR 08.40 Polarelemente",
+                    *const Kontrolle = "VR 22.10 Entfernungskontrolle";
 };
 
-TEST_F(Protokoll, BlöckeUnterIhrenKöpfen) {
-  ProtKopfBeiWechsel("VR 24.40 Linienelemente");
+TEST_F(ProtokollTest, BlöckeStehenUnterIhrenKöpfen) {
   Protanschluss L = Anschluss();
   L.AnfWert1 = 0.0;
   L.EndWert1 = 99.93;
-  ProtLinelAnschluss(L);
-  ProtLinelZeile(P, 42, 6, 41.9706, 5.9958);
-  ProtLinelZeile(P, 42, -6, {}, {}, " ***gelöscht");
-  ProtKopfBeiWechsel("VR 08.40 Polarelemente");
+  const auto LinienV = Über(Linien, LinelAnschluss(3, L));
+  EXPECT_EQ(Schreiben(Prot, LinienV, LinelZeile(3, P, 42, 6, 41.9706, 5.9958)), 0);
+  EXPECT_EQ(Schreiben(Prot, LinienV, LinelZeile(3, P, 42, -6, {}, {}, " ***gelöscht")), 0);
   Protanschluss W = Anschluss();
   W.AnfWert1 = 40.96655;
   W.AnfWert2 = 100.0;
   W.EndWert1 = 12.5;
   W.EndWert2 = 99.98;
   W.Abweichung = 0.02;
-  ProtPolelAnschluss(W);
-  ProtPolelZeile(P, 21.53345, 42.4264);
-  ProtKopfBeiWechsel("VR 22.10 Entfernungskontrolle");
+  EXPECT_EQ(PolelAnschluss(3, W).Marken, 0);
+  EXPECT_EQ(Schreiben(Prot, Über(Polar, PolelAnschluss(3, W)), PolelZeile(3, P, 21.53345, 42.4264)), 0);
   Protanschluss D = Anschluss();
   D.EndWert2 = 100.0;
-  ProtEntfernungskontrolle(D, false);
+  const auto KontrolleV = Über(Kontrolle);
+  EXPECT_EQ(Schreiben(Prot, KontrolleV, DisZeile(3, D, false)), 0);
   D.EndWert1 = 99.8;
   D.Abweichung = 0.2;
-  ProtEntfernungskontrolle(D, true);
-  ProtMittel({"1001", 3500100.01, 5600200.02, 3500100.03, 5600200, 3500100.02, 5600200.01});
+  EXPECT_EQ(DisZeile(3, D, true).Marken, 1);
+  EXPECT_EQ(Schreiben(Prot, KontrolleV, DisZeile(3, D, true)), 0);
+  EXPECT_EQ(ProtBlock(Prot, MittelBlock(3, {"1001", 3500100.01, 5600200.02, 3500100.03, 5600200, 3500100.02,
+                                            5600200.01})),
+            0);
   for (const int Code : {0, 1, 2, 3, 11, 13})
-    Bearbeitungsnotiz(Code, Code == 3 ? "9001" : "9002", 0.02, -0.02);
+    EXPECT_EQ(ProtBlock(Prot, Bearbeitungsnotiz(3, Code, Code == 3 ? "9001" : "9002", 0.02, -0.02)), 0);
   EXPECT_TRUE(GleichSoll(Ist(), "records/soll/bloecke.dru"));
-  EXPECT_EQ(ProtMarken, 2);
 }
 
-TEST_F(Protokoll, SpaltenWandernNichtMitDenDezimalen) {
-  for (std::int16_t n = 0; n <= 5; ++n) {
-    Optionen.OptNachkommastellen = n;
-    ProtLinelZeile({1, 2, "12"}, 3, 4, {}, {}, "<");
+TEST_F(ProtokollTest, SpaltenWandernNichtMitDenDezimalen) {
+  for (int n = 0; n <= 5; ++n) {
+    const std::string Zeile = LinelZeile(n, {1, 2, "12"}, 3, 4, {}, {}, "<").Zeilen.front();
+    const std::size_t Einer = n == 0 ? 13 : 12;  // without decimals the digit takes the place of the point
+    EXPECT_EQ(Zeile.find('<'), 66U) << Zeile;
+    EXPECT_EQ(Zeile[Einer], '1') << Zeile;
+    EXPECT_EQ(Zeile[Einer + 39], '4') << Zeile;
   }
-  std::string Zeilen = Ist();
-  for (int i = 0; i < 6; ++i, Zeilen.erase(0, Zeilen.find('\n') + 1)) {
-    const std::size_t Einer = i == 0 ? 13 : 12;  // without decimals the digit takes the place of the point
-    EXPECT_EQ(Reihe(Zeilen.find('<'), Zeilen[Einer], Zeilen[Einer + 39]), "66|1|4") << Zeilen;
-  }
-  Optionen.OptNachkommastellen = 6;
-  ProtLinelAnschluss(Anschluss());
-  EXPECT_TRUE(Ist().ends_with("<\r\n      #Fehler: Zu viele Nachkommastellen#\r\n"));
+  EXPECT_EQ(LinelAnschluss(6, Anschluss()).Zeilen,
+            std::vector<std::string>{"      #Fehler: Zu viele Nachkommastellen#"});
 }
 
-TEST_F(Protokoll, SeitenZählenUndBrechenNach50Zeilen) {
-  ProtKopfBeiWechsel("VR 22.10 Entfernungskontrolle");
-  EXPECT_EQ(Reihe(ProtZeilen, ProtSeite), "9|2");  // starts at 1, the head has 8 lines
-  ProtBlock(std::vector<std::string>(41, "x"));
-  EXPECT_EQ(Reihe(ProtZeilen, ProtSeite), "50|2");
-  ProtBlock({"x"});
-  EXPECT_EQ(Reihe(ProtZeilen, ProtSeite), "1|3");
-  EXPECT_TRUE(Ist().ends_with("x\r\n\f"));       // no head on the new page
-  ProtKopfBeiWechsel("VR 08.40 Polarelemente");  // the page is fresh: no further form feed
-  EXPECT_EQ(ProtSeite, 3);
-  ProtBlock({"x"});
-  ProtKopfBeiWechsel("VR 08.40 Polarelemente");  // same kind: no head
-  ProtKopfBeiWechsel("VR 24.40 Linienelemente");
-  const std::string Text = Ist();
-  EXPECT_EQ(std::count(Text.begin(), Text.end(), '\f'), 2);
-  for (const char* Stück : {"x\r\n\f\r\n---", "Seite  2|", "Seite  3|"})
-    EXPECT_NE(Text.find(Stück), std::string::npos);
-  ProtOhneUmbruch = true;
-  ProtBlock(std::vector<std::string>(99, "y"));
-  EXPECT_GT(ProtZeilen, 99);
-  EXPECT_TRUE(Ist().ends_with("y\r\n"));
+TEST_F(ProtokollTest, SeiteBrichtNach50Zeilen) {
+  const auto V = Über(Kontrolle);
+  ASSERT_EQ(Schreiben(Prot, V, {}), 0);
+  EXPECT_EQ(Prot.Zeilen, 9);  // starts at 1, the head has 8 lines
+  EXPECT_EQ(Prot.Seite, 2);
+  ASSERT_EQ(Schreiben(Prot, V, {std::vector<std::string>(41, "x")}), 0);
+  EXPECT_EQ(Prot.Zeilen, 50);
+  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  EXPECT_EQ(Prot.Zeilen, 1);
+  EXPECT_EQ(Prot.Seite, 3);
+  EXPECT_TRUE(Ist().ends_with("x\r\n\f"));  // no head on the new page
+  Prot.OhneUmbruch = true;
+  ASSERT_EQ(Schreiben(Prot, V, {std::vector<std::string>(99, "y")}), 0);
+  EXPECT_EQ(Prot.Zeilen, 100);
 }
 
-TEST_F(Protokoll, ZweitesZielHatEigeneSeiten) {
-  ProtZielsatz Eigenes{Ordner.Pfad("eigen.tmp")};
-  ProtZeilen = 7;
-  ProtSeite = 3;
-  ProtZiel(false, Eigenes);
+TEST_F(ProtokollTest, NeueArtBeginntEineSeite) {
+  ASSERT_EQ(Schreiben(Prot, Über(Kontrolle), {{"x"}}), 0);
+  ASSERT_EQ(ProtNeueSeite(Prot), 0);
+  const auto V = Über(Polar);
+  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);  // the page is fresh: no further form feed
+  EXPECT_EQ(Prot.Seite, 3);
+  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);  // the same kind: no head
+  ASSERT_EQ(Schreiben(Prot, Über(Linien), {{"x"}}), 0);
+  EXPECT_EQ(Anzahl("\f"), 2);
+  EXPECT_EQ(Anzahl("x\r\n\f\r\n---"), 2);
+  EXPECT_EQ(Anzahl("Seite  2|"), 1);
+  EXPECT_EQ(Anzahl("Seite  3|"), 1);
+}
+
+// What stands above the next line is known: it is repeated only where something else came in between.
+TEST_F(ProtokollTest, AnschlussUndPlanStehenÜberIhrenZeilen) {
+  const auto A1 = Über(Linien, {{"Anschluss A"}}), B1 = Über(Linien, {{"Anschluss B"}});
+  for (const auto& V : {A1, A1, B1, A1}) ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  EXPECT_EQ(Anzahl("Seite"), 1);
+  EXPECT_EQ(Anzahl("Anschluss A\r\nx\r\nx\r\nAnschluss B\r\nx\r\nAnschluss A\r\nx\r\n"), 1);
+  const auto C1 = Über(Linien, {{"Anschluss C"}}, {"Riss 13", "3"});
+  ASSERT_EQ(Schreiben(Prot, C1, {{"x"}}), 0);
+  EXPECT_EQ(Anzahl("(Riss 13) 3"), 1);
+  Optionen.AbfrageRiss = false;  // heads without a plan do not differ by it
+  ASSERT_EQ(Schreiben(Prot, A1, {{"x"}}), 0);
+  EXPECT_EQ(Anzahl("Seite"), 2);
+}
+
+TEST_F(ProtokollTest, FremdGeänderteDateiBekommtKopfUndAnschluss) {
+  const auto V = Über(Linien, {{"Anschluss"}});
+  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  Schreibe(Prot.Datei, Ist() + "von Hand\r\n");
+  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  EXPECT_EQ(Anzahl("von Hand\r\n\f\r\n---"), 1);
+  EXPECT_EQ(Anzahl("Anschluss\r\nx\r\n"), 2);
+  ASSERT_EQ(DateiLöschen(Prot.Datei), 0);
+  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  EXPECT_TRUE(Ist().starts_with("\r\n---"));  // the file begins anew, without a form feed
+  EXPECT_EQ(Anzahl("Anschluss\r\nx\r\n"), 1);
+}
+
+TEST_F(ProtokollTest, EigenesZielHatNurDieBlöcke) {
+  Protokoll Eigenes;
+  Eigenes.Datei = Ordner.Pfad("eigen.tmp");
+  Eigenes.OhneKopf = true;
   Optionen.ProtokollfensterAn = true;
-  ProtBlock(std::vector<std::string>(50, "z"), 1);
-  ProtZiel(true, Eigenes);
-  EXPECT_EQ(Reihe(ProtZeilen, ProtSeite, Eigenes.Zeilen, Eigenes.Seite), "7|3|1|2");
-  EXPECT_EQ(Inhalt(Eigenes.Datei).size(), 151U);
-  EXPECT_EQ(Reihe(ProtokollfensterText, ProtMarken), "|0");  // they belong to the protocol only
-  EXPECT_FALSE(DateiVorhanden(ProtokolldateiName));
+  const auto V = Über(Linien, {{"Anschluss"}});
+  for (int i = 0; i < 2; ++i) ASSERT_EQ(Schreiben(Eigenes, V, {{"z"}}), 0);
+  EXPECT_EQ(Inhalt(Eigenes.Datei), "Anschluss\r\nz\r\nz\r\n");
+  EXPECT_EQ(ProtokollfensterText, "");
+  EXPECT_EQ(Prot.Zeilen, 1);
+  EXPECT_FALSE(DateiVorhanden(Prot.Datei));
 }
 
-TEST_F(Protokoll, KopfMitLangemPfadOhneRiss) {
+TEST_F(ProtokollTest, LangerPfadImKopfWirdVornGekürzt) {
   Optionen.AbfrageRiss = false;
   KoordinatendateiName = std::string(71, 'p');
-  ProtArt = "Ausgleichende Gerade";
-  ProtKopf();
+  ASSERT_EQ(Schreiben(Prot, Über("Ausgleichende Gerade"), {}), 0);
   EXPECT_NE(Ist().find("|..." + std::string(67, 'p') + "|\r\n|Ausgleichende Gerade "), std::string::npos);
   EXPECT_TRUE(Ist().ends_with("-\r\n      \r\n"));  // no table head for this title
   const std::string Druck = Ordner.Pfad("druck.tmp");
-  ProtKopfAusgabe(Druck, "VR 24.40 Linienelemente", "/a.kor");
+  ASSERT_EQ(ProtKopfAusgabe(Druck, *Über(Linien), "/a.kor"), 0);
   EXPECT_NE(Inhalt(Druck).find("|VR 24.40  Linienelemente "), std::string::npos);
 }
 
-TEST_F(Protokoll, FensterOhneDruckrand) {
+TEST_F(ProtokollTest, FensterZeigtOhneDruckrand) {
   Optionen.ProtokollfensterAn = true;
-  ProtBlock({"      Rand", "      Rand", "kurz"});
+  ASSERT_EQ(ProtBlock(Prot, {{"      Rand", "      Rand", "kurz"}}), 0);
   EXPECT_EQ(ProtokollfensterText, "      Rand\nRand\nkurz\n");  // the first line of a page keeps it
-  for (int i = 0; i < 4000; ++i) ProtBlock({"1234567890"});
+  for (int i = 0; i < 80; ++i) ASSERT_EQ(ProtBlock(Prot, {std::vector<std::string>(50, "1234567890")}), 0);
   EXPECT_LT(ProtokollfensterText.size(), 32100U);
   EXPECT_TRUE(ProtokollfensterText.starts_with("1234567890\n"));
 }
 
-TEST_F(Protokoll, OhneDateiUndMitSchreibfehler) {
+TEST_F(ProtokollTest, OhneDateiGeschiehtNichts) {
   ProtokollNehmen("");
-  ProtKopfBeiWechsel("VR 24.40 Linienelemente");
-  EXPECT_EQ(ProtLinelAnschluss(Anschluss()), 0);
-  ProtNeueSeite();
-  ProtLeerzeile();
-  EXPECT_EQ(ProtSeite, 1);
+  EXPECT_EQ(Schreiben(Prot, Über(Linien), {{"x"}}), 0);
+  EXPECT_EQ(ProtNeueSeite(Prot), 0);
+  EXPECT_EQ(ProtLeerzeile(Prot), 0);
+  EXPECT_EQ(Prot.Seite, 1);
+}
+
+TEST_F(ProtokollTest, SchreibfehlerLäßtDenStand) {
   ProtokollNehmen(Ordner.Pfad("fehlt/x.dru"));
-  Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + ProtokolldateiName);
-  EXPECT_EQ(ProtLinelAnschluss(Anschluss()), -1);
+  Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Prot.Datei);
+  EXPECT_EQ(Schreiben(Prot, Über(Linien), {{"x"}}), -1);
+  EXPECT_EQ(Prot.Seite, 1);
+  EXPECT_FALSE(Prot.HatInhalt);
 }
 
 TEST(Tabellenkopf, JedeArtHatIhrenKopf) {

@@ -1,83 +1,154 @@
-#include "Testhilfe.h"
+#include "Aktentest.h"
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Dis.h>
+#include <tavorena/records/Linel.h>
 
 namespace tavorena::test {
 namespace {
 
-class Stapel : public TabellenTest {
+class StapelTest : public Aktentest {
  protected:
-  Stapel() {
-    ProtokollLeeren();
-    StapelschreiberLeeren();
-    StapelleserLeeren();
-    StapeldateiName = Ordner.Pfad("a.sta");
+  StapelTest() {
+    Optionen.AbfrageRiss = true;
+    StapelDatei.Name = Ordner.Pfad("a.sta");
     KoordinatendateiName = "/daten/auftrag/musterdorf.kor";
-    Riss = "Riss 12";
-    BerNr = "3";
+    LetzterPlan = {"Riss 12", "3"};
+  }
+  static Verbindung Über(const char* Titel, std::vector<std::string> Sätze, bool EndeMitZeilen = true) {
+    Verbindung V;
+    V.Titel = Titel;
+    V.Riß = LetzterPlan;
+    V.Sätze = std::move(Sätze);
+    V.EndeMitZeilen = EndeMitZeilen;
+    return V;
+  }
+  static std::string Ist() { return Inhalt(StapelDatei.Name); }
+  // Begins a connection of line elements.
+  static void Beginne(Stapelblock& B, const char* Anf = "1", const char* End = "2") {
+    ASSERT_EQ(B.Beginnen(std::make_shared<const Verbindung>(
+                  Über("VR 24.40 Linienelemente", StapelKopfLinie(Anf, 0, End, 0)))),
+              0);
+  }
+  static int Füge(Stapelblock& B, const std::string& Satz) {
+    int Griff = -1;
+    EXPECT_EQ(B.Anfügen(Satz, Griff), 0);
+    return Griff;
   }
   // A replay whose worksheet hands its block to Lesen.
   void Laufen(const std::string& Text, const std::function<void()>& Lesen) {
-    StapelBlattAnmelden({"24.40", "LE"}, [=] {
-      Lesen();
-      if (StapelAktiv) StapelWeiter();
-    });
-    Schreibe(StapeldateiName, Text);
-    StapelStarten(StapeldateiName);
+    StapelHaken.BlattFür = [=](const std::string& Kennung) -> std::function<void()> {
+      if (Kennung != "24.40" && Kennung != "LE") return {};
+      return [=] {
+        Lesen();
+        if (Stapel.Aktiv) StapelWeiter();
+      };
+    };
+    Schreibe(StapelDatei.Name, Text);
+    StapelStarten(StapelDatei.Name);
   }
 };
 
-TEST_F(Stapel, BlockMitZeilen) {
-  StapelKopfLinie("VR 24.40 Linienelemente", "1001", 0, "1002", 99.93);
-  EXPECT_TRUE(StapelBlockOffen());
-  for (const char* Pnr : {"2003", "2004", "2005"}) StapelPunktzeile("NR  ", Pnr);
-  EXPECT_EQ(StapelSatzEntfernen(1), 0);
-  StapelPunktzeile("NR  ", "2006");
-  StapelEnde(true);
+TEST_F(StapelTest, BlöckeMitIhrenSätzen) {
+  Stapelblock L, D;
+  ASSERT_EQ(L.Beginnen(std::make_shared<const Verbindung>(
+                Über("VR 24.40 Linienelemente", StapelKopfLinie("1001", 0, "1002", 99.93)))),
+            0);
+  EXPECT_FALSE(DateiVorhanden(StapelDatei.Name));  // nothing before the first record
+  Füge(L, LinelSatz("2003"));
+  const int Griff = Füge(L, LinelSatz("2004"));
+  Füge(L, LinelSatz("2005"));
+  EXPECT_EQ(Stapelblock::Entfernen(Griff), 0);
+  EXPECT_EQ(Stapelblock::Entfernen(Griff), -1);  // it is gone
+  Füge(L, LinelSatz("2006"));
+  ASSERT_EQ(L.Beenden(), 0);
   Optionen.AbfrageRiss = false;
-  StapelKopfLinie("VR 22.10 Entfernungskontrolle", "1", 0, "2", 0);
-  StapelPunktzeile("NND ", "2", {"3", 55.5});
-  StapelNeupunkt("12", "");
-  StapelNeupunkt("", "");
-  StapelEnde(false);
-  StapelEnde(false);
-  EXPECT_TRUE(GleichSoll(Inhalt(StapeldateiName), "records/soll/bloecke.sta"));
+  ASSERT_EQ(D.Beginnen(std::make_shared<const Verbindung>(
+                Über("VR 22.10 Entfernungskontrolle", StapelKopfLinie("1", 0, "2", 0), false))),
+            0);
+  for (const std::string& Satz :
+       {std::string(), DisSatz("2", "3", 55.5), StapelNeupunkt("12", ""), StapelNeupunkt("", "")})
+    Füge(D, Satz);
+  ASSERT_EQ(D.Beenden(), 0);
+  ASSERT_EQ(D.Beenden(), 0);
+  EXPECT_TRUE(GleichSoll(Ist(), "records/soll/bloecke.sta"));
 }
 
-TEST_F(Stapel, StreichenInFremderKodierung) {
-  Schreibe(StapeldateiName, "C M\xFCller\r\n");
+// Two worksheets in turn: whole blocks in the order of work, and each row can still be taken out.
+TEST_F(StapelTest, ZweiBlätterSchreibenGanzeBlöcke) {
+  Optionen.AbfrageRiss = false;
+  Stapelblock A, B;
+  Beginne(A, "1", "2");
+  Beginne(B, "3", "4");
+  const int Erster = Füge(A, LinelSatz("11"));
+  Füge(B, LinelSatz("21"));
+  EXPECT_FALSE(A.Offen());
+  Füge(A, LinelSatz("12"));
+  EXPECT_EQ(Stapelblock::Entfernen(Erster), 0);
+  ASSERT_EQ(A.Beenden(), 0);
+  ASSERT_EQ(B.Beenden(), 0);  // over already
+  const std::string
+      Kopf =
+          "M  VR 24.40 Linienelemente\r\nC  Tavorena             01.02.2003   10:15\r\n"
+          "C  Datei: /daten/auftrag/musterdorf.kor\r\n",
+      Ende = "E Ende\r\nEM  (Ende Modul  VR 24.40 Linienelemente)\r\nC ________________________\r\n",
+      A12 = "PAN        1        0.0000\r\nPEN        2        0.0000\r\n",
+      B34 = "PAN        3        0.0000\r\nPEN        4        0.0000\r\n";
+  EXPECT_EQ(Ist(), Kopf + A12 + Ende + Kopf + B34 + "NR        21\r\n" + Ende + Kopf + A12 +
+                       "NR        12\r\n" + Ende);
+}
+
+TEST_F(StapelTest, EntfernenInFremderKodierung) {
+  Schreibe(StapelDatei.Name, "C M\xFCller\r\n");
   KoordinatendateiName = "/Süd.kor";
-  StapelKopfLinie("VR 24.40 Linienelemente", "1", 0, "2", 0);
-  StapelPunktzeile("NR  ", "ä1");
-  StapelPunktzeile("NR  ", "ä2");
-  EXPECT_EQ(StapelSatzEntfernen(0), 0);
-  const std::string Ist = Inhalt(StapeldateiName);
-  EXPECT_TRUE(Ist.starts_with("C M\xFCller\r\n"));
+  Stapelblock B;
+  Beginne(B);
+  const int Griff = Füge(B, LinelSatz("ä1"));
+  const int Zweiter = Füge(B, LinelSatz("ä2"));
+  EXPECT_EQ(Stapelblock::Entfernen(Griff), 0);
+  EXPECT_TRUE(Ist().starts_with("C M\xFCller\r\n"));
   EXPECT_TRUE(
-      Ist.ends_with("PEN        2        0.0000\r\nNR        \xE4"
-                    "2\r\n"))
-      << Ist;
-  Schreibe(StapeldateiName, Ist + "von Hand");  // somebody else's now: it is left alone
-  Skript.Erwarte("Fehler 57 in Stapelmodul.StapelSatzEntfernen");
-  EXPECT_EQ(StapelSatzEntfernen(0), -1);
-  EXPECT_EQ(Inhalt(StapeldateiName), Ist + "von Hand");
+      Ist().ends_with("PEN        2        0.0000\r\nNR        \xE4"
+                      "2\r\n"))
+      << Ist();
+  const std::string Fremd = Ist() + "von Hand";
+  Schreibe(StapelDatei.Name, Fremd);  // somebody else's now: it is left alone
+  EXPECT_EQ(Stapelblock::Entfernen(Zweiter), -1);
+  Füge(B, LinelSatz("3"));
+  EXPECT_EQ(Stapelblock::Entfernen(Zweiter), -1);
+  EXPECT_EQ(Ist(), Fremd + "NR         3\r\n");
 }
 
-TEST_F(Stapel, OhneDateiUndMitSchreibfehler) {
-  StapeldateiName.clear();
-  EXPECT_EQ(StapelKopfLinie("VR 24.40 Linienelemente", "1", 0, "2", 0), 0);
-  EXPECT_FALSE(StapelBlockOffen());
-  StapeldateiName = Ordner.Pfad("fehlt/a.sta");
+TEST_F(StapelTest, EntfernteDateiBeginntMitDemKopf) {
+  Stapelblock B;
+  Beginne(B);
+  Füge(B, LinelSatz("1"));
+  ASSERT_EQ(DateiLöschen(StapelDatei.Name), 0);
+  Füge(B, LinelSatz("2"));
+  EXPECT_TRUE(Ist().starts_with("M  VR 24.40")) << Ist();
+}
+
+TEST_F(StapelTest, OhneDateiGeschiehtNichts) {
+  StapelDatei.Name.clear();
+  Stapelblock B;
+  Beginne(B);
+  EXPECT_EQ(Füge(B, LinelSatz("1")), -1);
+  EXPECT_FALSE(B.Offen());
+}
+
+TEST_F(StapelTest, SchreibfehlerÖffnetKeinenBlock) {
+  StapelDatei.Name = Ordner.Pfad("fehlt/a.sta");
+  Stapelblock B;
+  Beginne(B);
   Skript.Erwarte("Fehler 57 in Stapelmodul.StapelKopf");
-  EXPECT_EQ(StapelKopfLinie("VR 24.40 Linienelemente", "1", 0, "2", 0), -1);
-  EXPECT_FALSE(StapelBlockOffen());
+  int Griff = 7;
+  EXPECT_EQ(B.Anfügen(LinelSatz("1"), Griff), -1);
+  EXPECT_EQ(Griff, -1);
+  EXPECT_FALSE(B.Offen());
 }
 
-TEST_F(Stapel, KöpfeUndKommentare) {
+TEST_F(StapelTest, FremdeZeilenWerdenÜbergangen) {
   int Blöcke = 0;
   Laufen(
       "lose Zeile\r\n\r\nM VR 09.00 ohne Ende\r\nM VR 65.00 Flächen\r\nPN 1\r\nE Ende\r\nEM x\r\n"
@@ -88,46 +159,58 @@ TEST_F(Stapel, KöpfeUndKommentare) {
         std::string A, E, P;
         double a = 9, e = 9;
         if (Blöcke == 2) {  // the file ends inside the block
-          Skript.Erwarte("Fehler aufgetreten im Stapel\n" + StapeldateiName +
+          Skript.Erwarte("Fehler aufgetreten im Stapel\n" + StapelDatei.Name +
                          "\nZeile: 19\nUnerwartetes Dateiende");
           EXPECT_EQ(StapelLesenPnrMitWerte(A, a, E, e), -1);
           return;
         }
         EXPECT_EQ(StapelLesenPnrMitWerte(A, a, E, e), 0);
         EXPECT_EQ(StapelLesePnr("NR", P), 0);
-        EXPECT_EQ(Reihe(ProtArt, Riss, A, a, E, e, P), "vr le|Riss 7 b|1|1.5|2|0|3");
+        EXPECT_EQ(Stapel.Art, "vr le");
+        EXPECT_EQ(LetzterPlan.Riss, "Riss 7 b");
+        EXPECT_EQ(A, "1");
+        EXPECT_EQ(a, 1.5);
+        EXPECT_EQ(E, "2");
+        EXPECT_EQ(e, 0);
+        EXPECT_EQ(P, "3");
         EXPECT_EQ(StapelLesePnr("NR", P), -2);
       });
-  EXPECT_EQ(Reihe(Blöcke, Stapellauf.Fehler, StapelAktiv), "2|1|0");
-  EXPECT_EQ(Stapellauf.Übergangen, (std::vector<std::string>{"09.00", "65.00", "3D WINKEL"}));
+  EXPECT_EQ(Blöcke, 2);
+  EXPECT_TRUE(Stapel.Bilanz.Fehler);
+  EXPECT_FALSE(Stapel.Aktiv);
+  EXPECT_EQ(Stapel.Bilanz.Übergangen, (std::vector<std::string>{"09.00", "65.00", "3D WINKEL"}));
 }
 
-TEST_F(Stapel, FalscherKopfUndFalscherSatzBeendenDenLauf) {
+TEST_F(StapelTest, FehlerBeendetDenLauf) {
   std::string P, S;
   double w = 0;
   int Enden = 0;
-  StapelSchritt = [&](const std::string& Titel) { Enden += Titel.empty() ? 1 : 0; };
+  StapelHaken.Schritt = [&](const std::string& Titel) { Enden += Titel.empty() ? 1 : 0; };
   Skript.Erwarte("Zeile: 1\nModulkopf fehlerhaft");
   Laufen("M XY 24.40\r\nM VR LE\r\n", [] { FAIL(); });
   EXPECT_EQ(Enden, 1);  // a run is told to have ended once
-  StapelSchritt = {};
+  StapelHaken.Schritt = {};
   Laufen("E\r\nM VR LE\r\n", [] { FAIL(); });  // a lone "E" ends the run without a word
-  EXPECT_FALSE(Stapellauf.Fehler);
+  EXPECT_FALSE(Stapel.Bilanz.Fehler);
   Laufen("M VR LE\r\nRISS x\r\nBERNR  7\r\nNEUPUNKT  12  -\r\nNEUPUNKT  0 - -\r\nNND 1 2 3,5\r\nPXN 2\r\n",
          [&] {
            EXPECT_EQ(StapelLeseRisszeilen() + StapelLeseNeupunkt(P, S), 0);
-           EXPECT_EQ(Reihe(BerNr, P, S), "7|12|");
+           EXPECT_EQ(LetzterPlan.BerNr, "7");
+           EXPECT_EQ(P, "12");
+           EXPECT_EQ(S, "");
            EXPECT_EQ(StapelLeseNeupunkt(P, S), 0);
            EXPECT_EQ(P, "");
            EXPECT_EQ(StapelLeseZweiPnr("NND", P, S, w), 0);
-           EXPECT_EQ(Reihe(P, S, w), "1|2|3.5");
+           EXPECT_EQ(P, "1");
+           EXPECT_EQ(S, "2");
+           EXPECT_EQ(w, 3.5);
            Skript.Erwarte("Fehler 7 beim Lesen der Stapeldatei:\nPXN 2");
            EXPECT_EQ(StapelLeseNeupunkt(P, S), -1);
          });
-  EXPECT_TRUE(Stapellauf.Fehler);
+  EXPECT_TRUE(Stapel.Bilanz.Fehler);
 }
 
-TEST_F(Stapel, GrenzenDesLaufs) {
+TEST_F(StapelTest, GrenzenDesLaufs) {
   StapelStarten("");
   Skript.Erwarte("Fehler 53");
   StapelStarten(Ordner.Pfad("fehlt.sta"));

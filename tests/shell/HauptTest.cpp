@@ -10,7 +10,7 @@ using Haupt = Shelltest;
 
 TEST_F(Haupt, DateiLesenNimmtDieDateienDaneben) {
   Öffne();
-  EXPECT_EQ(Reihe(KorAnzahl, ProtokolldateiName, StapeldateiName), Reihe(3, A_dru, Ordner.Pfad("a.sta")));
+  EXPECT_EQ(Reihe(KorAnzahl, Prot.Datei, StapelDatei.Name), Reihe(3, A_dru, Ordner.Pfad("a.sta")));
   EXPECT_EQ(Reihe(Skript.Fenstertitel, Skript.Status[0], Skript.Status[1], Skript.Status[2]),
             Reihe("Tavorena    " + A_kor, "   " + A_kor + "   ", "3 Punkte", "Version: 2.2"));
   EXPECT_EQ(Reihe(Historie[0].Dateiname, Optionen.VerzeichnisLetztes), Reihe(A_kor, Ordner.Pfad("")));
@@ -21,7 +21,7 @@ TEST_F(Haupt, DateiLesenNimmtDieDateienDaneben) {
   EXPECT_EQ(KorAnzahl, 3);
   Skript.Erwarte("speichern ? ", KnopfNein);
   Befehl("MenüDateiSchließen");
-  EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName, ProtokolldateiName, StapeldateiName), "0|||");
+  EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName, Prot.Datei, StapelDatei.Name), "0|||");
 }
 
 TEST_F(Haupt, Menüzustände) {
@@ -66,7 +66,7 @@ TEST_F(Haupt, VorhandenesProtokollFragt) {
     Skript.Dateien = Anderes;
     Skript.Dateien.push_front(A_kor);
     Befehl("MenüDateiLesen(0)");
-    EXPECT_EQ(Reihe(ProtokolldateiName, Inhalt(A_dru), KorAnzahl), Reihe(Protokoll, Altes, Punkte));
+    EXPECT_EQ(Reihe(Prot.Datei, Inhalt(A_dru), KorAnzahl), Reihe(Protokoll, Altes, Punkte));
     EXPECT_EQ(Aktiv("MenüKatasterLinel"), Punkte > 0);
   }
 }
@@ -130,10 +130,12 @@ TEST_F(Haupt, StapelÜberDasMenüUndOffenerBlock) {
   const std::string Sta = Ordner.Pfad("lauf.sta");
   Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 65.00 x\r\nE\r\n");
   Befehl("MenüDateiStapel", Sta);
-  EXPECT_FALSE(StapelAktiv || BlätterOffen());
+  EXPECT_FALSE(Stapel.Aktiv || BlätterOffen());
   EXPECT_EQ(Skript.Status[4], "   Stapel beendet: 1 Blöcke, 1 Zeilen, übergangen: 65.00   ");
-  EXPECT_FALSE(DateiVorhanden(StapeldateiName));
-  StapelKopfLinie("VR 24.40 Linienelemente", "1001", 0, "1002", 0);
+  EXPECT_FALSE(DateiVorhanden(StapelDatei.Name));
+  Stapelblock Block;
+  int Griff = 0;
+  ASSERT_EQ(Block.Beginnen(std::make_shared<const Verbindung>()) + Block.Anfügen("NR 1", Griff), 0);
   for (const char* Name : {"MenüKatasterDis", "MenüDateiStapel"}) {  // an open block holds them back
     Skript.Status[4].clear();
     Befehl(Name);
@@ -159,9 +161,9 @@ TEST_F(Haupt, BeendenFragtUndSichert) {
 TEST_F(Haupt, ProtokollwechselAnsichtUndTextErsetzen) {
   Öffne();
   Befehl("MenüDateiProtokoll", "");
-  EXPECT_EQ(ProtokolldateiName, A_dru);  // cancel changes nothing
+  EXPECT_EQ(Prot.Datei, A_dru);  // cancel changes nothing
   Befehl("MenüDateiProtokoll", Ordner.Pfad("p.dru"));
-  EXPECT_EQ(Reihe(ProtokolldateiName, Skript.Aufträge.back().Zusatz),
+  EXPECT_EQ(Reihe(Prot.Datei, Skript.Aufträge.back().Zusatz),
             Ordner.Pfad("p.dru") + "|kein Protokoll");
   Optionen.DateinameEditorNT = "ed";
   Befehl("MenüAnsichtKoordinatendatei");

@@ -6,8 +6,8 @@
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
-#include <tavorena/records/TVProtokollmodul.h>
+#include <tavorena/records/Stapelblock.h>
+#include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
@@ -21,8 +21,8 @@ class Shelltest : public TabellenTest {
   Shelltest() {
     setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1);
     unsetenv("windir");
-    ProtokollLeeren();
-    StapelleserLeeren();
+    Prot = {};
+    Stapel = {};
     Historie = {};
     Skript.BeiBlatt = [](Formular& Form) { Form.Öffnen(); };
     HauptAnschließen();
@@ -30,7 +30,7 @@ class Shelltest : public TabellenTest {
   }
   ~Shelltest() override {
     KoordinatendateiName.clear();
-    StapelschreiberLeeren();
+    StapelDatei = {};
     BlätterSchließen();
     unsetenv("TAVORENA_ORDNER");
   }

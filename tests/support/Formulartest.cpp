@@ -23,7 +23,16 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
 void Drücke(Formular& Form, const std::string& Name) { Form.Klicken(Element<Knopf>(Form, Name)); }
 
 Gitter& Gitterfeld(const Formular& Form) {
-  return Element<Gitter>(Form, Form.FormName.substr(2, 5) + "Gitter");
+  for (const auto& S : Form.Steuerelemente()) {
+    if (auto* G = dynamic_cast<Gitter*>(S.get())) return *G;
+  }
+  throw std::runtime_error("no grid in " + Form.FormName);
+}
+
+std::vector<std::string> Gitterzeile(const Gitter& G, int Zeile) {
+  std::vector<std::string> Texte;
+  for (int s = 0; s < std::ssize(G.Spalten); ++s) Texte.push_back(G.Inhalt(Zeile, s));
+  return Texte;
 }
 
 std::function<void(Formular&)> Bediene(std::vector<Handgriff> Griffe) {

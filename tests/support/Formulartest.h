@@ -35,6 +35,8 @@ std::string Text(const Formular& Form, const T&... Namen) {
 
 /// The grid of a worksheet.
 Gitter& Gitterfeld(const Formular& Form);
+/// The texts of a row.
+std::vector<std::string> Gitterzeile(const Gitter& G, int Zeile);
 
 /// What a scripted platform does in a modal form: opens it, types and presses.
 struct Handgriff {

@@ -1,32 +1,24 @@
 #pragma once
 
+#include "Aktentest.h"
 #include "Formulartest.h"
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
-#include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelschreiber.h>
-#include <tavorena/records/TVProtokollmodul.h>
-#include <tavorena/worksheets/TVDisForm.h>
+#include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
-#include <tavorena/worksheets/TVLinelForm.h>
-#include <tavorena/worksheets/TVPolelForm.h>
 
 namespace tavorena::test {
 
 /// A small job: a base line of 100 m, a few points beside it, all records of the program in a folder.
-class Blatttest : public TabellenTest {
+class Blatttest : public Aktentest {
  protected:
   Blatttest() {
-    ProtokollLeeren();
-    StapelschreiberLeeren();
-    StapelleserLeeren();
     LetztePunktnummer.clear();
-    Optionen.AbfrageRiss = false;
     KoordinatendateiName = "/daten/auftrag/musterdorf.kor";
     ProtokollNehmen(Ordner.Pfad("a.dru"));
-    StapeldateiName = Ordner.Pfad("a.sta");
+    StapelDatei.Name = Ordner.Pfad("a.sta");
     DateinameProtokollTemp = Ordner.Pfad("prot.tmp");
     Haken.FormEinzelKorein = FormEinzelKorein;
     Punkt("1001", 3500100, 5600200, 12.5, "015");
@@ -34,54 +26,61 @@ class Blatttest : public TabellenTest {
     Punkt("2003", 3500130, 5600230);
     Punkt("2004", 3500100, 5600275);
     Punkt("2005", 3500220, 5600360, 0, "020");
+    StapelHaken.BlattFür = [this](const std::string& Kennung) -> std::function<void()> {
+      const Blattart* Art = BlattartVonKennung(Kennung);
+      if (Art == nullptr) return {};
+      return [this, Art] {
+        Blätter.push_back(Art->Neu(*Art));
+        Blätter.back()->Öffnen();
+      };
+    };
   }
 
-  template <typename Form>
-  std::unique_ptr<Form> Öffne() {
-    auto Blatt = std::make_unique<Form>();
+  /// Opens a worksheet by one of its Kennungen.
+  static std::unique_ptr<Formular> Öffne(const char* Kennung) {
+    const Blattart* Art = BlattartVonKennung(Kennung);
+    auto Blatt = Art->Neu(*Art);
     Blatt->Öffnen();
     return Blatt;
   }
+  /// The same, the connection from 1001 to 1002 typed, nothing measured.
+  static std::unique_ptr<Formular> Verbinde(const char* Kennung) {
+    auto Blatt = Öffne(Kennung);
+    Tippe(*Blatt, BlattartVonKennung(Kennung)->Präfix + std::string("AnfPnr"), "1001\n1002\n0\n0\n");
+    return Blatt;
+  }
+
+  static std::string Protokoll() { return Inhalt(Prot.Datei); }
+  static std::string Stapeltext() { return Inhalt(StapelDatei.Name); }
 
   /// The files of a worksheet that is done are the approved ones, and replaying the batch file on the same
   /// points gives the same protocol.
   void PrüfeDateien(const std::string& Name, int Zeilen) {
-    const std::string Protokoll = Inhalt(ProtokolldateiName), Stapel = Inhalt(StapeldateiName);
-    EXPECT_TRUE(GleichSoll(Protokoll, "worksheets/soll/" + Name + ".dru"));
-    EXPECT_TRUE(GleichSoll(Stapel, "worksheets/soll/" + Name + ".sta"));
+    const std::string Prots = Protokoll(), Sta = Stapeltext();
+    EXPECT_TRUE(GleichSoll(Prots, "worksheets/soll/" + Name + ".dru"));
+    EXPECT_TRUE(GleichSoll(Sta, "worksheets/soll/" + Name + ".sta"));
     // The second target holds the blocks without the head.
     const std::string Zweites = Inhalt(DateinameProtokollTemp);
-    EXPECT_TRUE(!Zweites.empty() && Protokoll.ends_with(Zweites));
-    EXPECT_EQ(Nachlauf(), Protokoll);
-    EXPECT_EQ(Inhalt(StapeldateiName), Stapel);  // a replay never grows its own file
-    EXPECT_EQ(Stapellauf.Zeilen, Zeilen);
+    EXPECT_FALSE(Zweites.empty());
+    EXPECT_TRUE(Prots.ends_with(Zweites));
+    EXPECT_EQ(Nachlauf(), Prots);
+    EXPECT_EQ(Stapeltext(), Sta);  // a replay never grows its own file
+    EXPECT_EQ(Stapel.Bilanz.Zeilen, Zeilen);
   }
 
   /// Replays the batch file into a new protocol.
   std::string Nachlauf() {
     Starten();
-    EXPECT_FALSE(StapelAktiv);
-    return Inhalt(ProtokolldateiName);
+    EXPECT_FALSE(Stapel.Aktiv);
+    return Protokoll();
   }
 
   void Starten() {
     ProtokollNehmen(Ordner.Pfad("nachlauf.dru"));
-    Anmelden<TVLinelForm>("24.40");
-    Anmelden<TVPolelForm>("08.40");
-    Anmelden<TVDisForm>("22.10");
-    StapelStarten(StapeldateiName);
+    StapelStarten(StapelDatei.Name);
   }
 
-  std::vector<std::unique_ptr<Formular>> Blätter;
-
- private:
-  template <typename Form>
-  void Anmelden(const char* Kennung) {
-    StapelBlattAnmelden({Kennung}, [this] {
-      Blätter.push_back(std::make_unique<Form>());
-      Blätter.back()->Öffnen();
-    });
-  }
+  std::vector<std::unique_ptr<Formular>> Blätter;  ///< opened by a replay
 };
 
 }  // namespace tavorena::test

@@ -1,0 +1,54 @@
+#include <utility>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/records/Aufzeichnung.h>
+
+namespace tavorena {
+
+void Aufzeichnung::Öffnen(bool Nachlauf) {
+  ImNachlauf = Nachlauf;
+  Eigenes = {};
+  Eigenes.OhneKopf = true;
+  // Without a second target the worksheet works as well.
+  const std::string Ordner = DateinameZerlegen(DateinameProtokollTemp).Ordner;
+  if (OrdnerAnlegen(Ordner) == 0 && DateiErsetzen(DateinameProtokollTemp, "") == 0)
+    Eigenes.Datei = DateinameProtokollTemp;
+}
+
+int Aufzeichnung::Beginnen(Verbindung Neue) {
+  Über = std::make_shared<const Verbindung>(std::move(Neue));
+  Gezählt = false;
+  return ImNachlauf ? 0 : Stapel.Beginnen(Über);
+}
+
+int Aufzeichnung::Protokollieren(const Block& Zeile) {
+  if (Prot.Datei.empty()) return 0;
+  const int Ergebnis = Schreiben(Prot, Über, Zeile);
+  if (Schreiben(Eigenes, Über, Zeile) < 0) Eigenes.Datei.clear();  // told once, and then done without
+  return Ergebnis;
+}
+
+int Aufzeichnung::Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo) {
+  Wo = {};
+  const bool MitProtokoll = !Prot.Datei.empty(), MitStapel = !ImNachlauf && !StapelDatei.Name.empty();
+  const bool ImStapel = MitStapel && Stapel.Anfügen(Satz, Wo.Griff) == 0;
+  const bool ImProtokoll = MitProtokoll && Protokollieren(Zeile) == 0;
+  Wo.Geschrieben = ImStapel || ImProtokoll || (!MitProtokoll && !MitStapel);
+  if (!Wo.Geschrieben) return -1;
+  Prot.Marken += Zeile.Marken + (std::exchange(Gezählt, true) ? 0 : Über->Zeilen.Marken);
+  return 0;
+}
+
+int Aufzeichnung::Streichen(const Block& Gestrichen, const Spur& Wo) {
+  if (Wo.Griff >= 0 && Stapelblock::Entfernen(Wo.Griff) < 0) return -1;
+  // A protocol that can not be written was told; what is not calculated again is struck all the same.
+  static_cast<void>(Protokollieren(Gestrichen));
+  return 0;
+}
+
+int Aufzeichnung::Beenden() {
+  Über.reset();
+  return ImNachlauf ? 0 : Stapel.Beenden();
+}
+
+}  // namespace tavorena

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <tavorena/records/Block.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Stapelblock.h>
+
+namespace tavorena {
+
+/// A worksheet's hand on all records: the protocol of the job, a second target of its own, and its block of
+/// the batch file. A replay records nothing in the batch file.
+class Aufzeichnung {
+ public:
+  /// Where a row was written.
+  struct Spur {
+    bool Geschrieben = false;  ///< it reached a file, or there was none to reach
+    int Griff = -1;            ///< its record in the batch file; -1 none
+  };
+
+  Aufzeichnung() = default;
+  Aufzeichnung(const Aufzeichnung&) = delete;
+  Aufzeichnung& operator=(const Aufzeichnung&) = delete;
+
+  /// The worksheet opens: the second target is made new.
+  void Öffnen(bool Nachlauf);
+
+  /// What is to stand above the rows from now on; nothing is written before the first one.
+  /// @return 0; -1 with a message if the batch block of the connection before could not be ended
+  [[nodiscard]] int Beginnen(Verbindung Neue);
+
+  /// The batch block stands open: the next row needs no new head.
+  [[nodiscard]] bool BlockOffen() const { return Stapel.Offen(); }
+
+  /// Writes a row below its connection into every file that is wanted. It counts as written when it reached
+  /// one of them, or when none is wanted.
+  /// @param[in] Zeile  its lines in the protocol
+  /// @param[in] Satz   its record in the batch file; "": the head of its block says it all
+  /// @return 0; -1: not written, with a message
+  [[nodiscard]] int Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo);
+
+  /// Takes a written row back: its record goes out of the batch file, and Gestrichen, the same row with its
+  /// mark, stands behind it in the protocol.
+  /// @return 0; -1: the record can not be taken out, the row stays as it was
+  [[nodiscard]] int Streichen(const Block& Gestrichen, const Spur& Wo);
+
+  /// The connection is done: its batch block is ended. @return 0; -1 with a message
+  [[nodiscard]] int Beenden();
+
+ private:
+  [[nodiscard]] int Protokollieren(const Block& Zeile);
+
+  std::shared_ptr<const Verbindung> Über;
+  Protokoll Eigenes;
+  Stapelblock Stapel;
+  bool ImNachlauf = false;
+  bool Gezählt = false;  // the marks of the connection
+};
+
+}  // namespace tavorena

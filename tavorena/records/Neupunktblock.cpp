@@ -1,0 +1,35 @@
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Neupunktblock.h>
+#include <tavorena/records/Spalten.h>
+#include <tavorena/records/Tabellenkopf.h>
+
+namespace tavorena {
+
+Block MittelBlock(int Nachkomma, const Mittelpunkt& M) {
+  const Spalten S(Nachkomma);
+  const auto Punkt = [&](double R, double H, const char* Marke) {
+    return S.Punkt({R, H, M.Pnr}, Leerzeichen(26), Marke);
+  };
+  return Zahlenblock(Nachkomma, {KopfPunkte, Punkt(M.AltRechts, M.AltHoch, ""),
+                                 Punkt(M.NeuRechts, M.NeuHoch, ""), Punkt(M.Rechts, M.Hoch, " ***Mittel")});
+}
+
+Block Bearbeitungsnotiz(int Nachkomma, int Code, const std::string& Nummer, double DeltaRechts,
+                        double DeltaHoch) {
+  const char* Text = Code == 1    ? "*** letzte Berechnung eingeführt"
+                     : Code == 2  ? "*** Mittel eingeführt"
+                     : Code == 3  ? "***  erste Berechnung umnumeriert"
+                     : Code == 11 ? "***  erste Berechnung eingeführt"
+                     : Code == 13 ? "*** letzte Berechnung umnumeriert"
+                                  : nullptr;
+  if (Text == nullptr) return {};
+  const Spalten S(Nachkomma);
+  std::string Notiz = Leerzeichen(6) + FeldLinks(Text, 34) + "dRw=" + S.Zahl(DeltaRechts, 5) +
+                      "  dHw=" + S.Zahl(DeltaHoch, 5);
+  if (Code == 3) Notiz += "  alt:" + PnrFormat(Nummer);
+  if (Code == 13) Notiz += "  neu:" + PnrFormat(Nummer);
+  return Zahlenblock(Nachkomma, {Notiz});
+}
+
+}  // namespace tavorena

@@ -1,0 +1,124 @@
+#include <utility>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Stapelblock.h>
+
+namespace tavorena {
+
+Stapeldatei StapelDatei;
+
+namespace {
+
+std::string StapelZahl(const Wert& Zahl) { return ZahlFormat(Zahl, 7, 4); }
+
+std::string Zusammen(const std::vector<std::string>& Zeilen) {
+  std::string Text;
+  for (const std::string& Zeile : Zeilen) Text += Zeile + "\r\n";
+  return Text;
+}
+
+// Appends a piece. Pieces from before somebody else changed the file can not be taken out any more.
+int Schreiben(const std::string& Text, const char* Routine) {
+  Stapeldatei& D = StapelDatei;
+  const Dateistand Jetzt = DateistandVon(D.Name);
+  if (D.Stücke.empty() || Jetzt != D.Stand) {
+    for (std::string& Stück : D.Stücke) Stück.clear();
+    D.Ab = Jetzt.Länge;
+  }
+  if (TextAnhängen(D.Name, Text) < 0) {
+    LaufzeitFehlerMeldung(Laufzeitfehler::EinAusgabe, std::string("Stapelmodul.") + Routine);
+    return -1;
+  }
+  D.Stücke.push_back(Text);
+  D.Stand = DateistandVon(D.Name);
+  return 0;
+}
+
+int StapelEnde() {
+  const std::shared_ptr<const Verbindung> Alt = std::exchange(StapelDatei.Offen, nullptr);
+  if (!Alt) return 0;
+  return Schreiben(Zusammen({Alt->EndeMitZeilen ? "E Ende" : "E  (Ende)",
+                             "EM  (Ende Modul  " + Alt->Titel + ")", "C ________________________"}),
+                   "StapelEnde");
+}
+
+int StapelKopf(const std::shared_ptr<const Verbindung>& V) {
+  if (StapelEnde() < 0) return -1;
+  std::vector<std::string> Zeilen = {"M  " + V->Titel, "C  Tavorena             " + Zeitstempel(),
+                                     "C  Datei: " + KoordinatendateiName};
+  if (Optionen.AbfrageRiss) {
+    Zeilen.push_back("RISS       " + V->Riß.Riss);
+    Zeilen.push_back("BERNR      " + V->Riß.BerNr);
+  }
+  Zeilen.insert(Zeilen.end(), V->Sätze.begin(), V->Sätze.end());
+  if (Schreiben(Zusammen(Zeilen), "StapelKopf") < 0) return -1;
+  StapelDatei.Offen = V;
+  return 0;
+}
+
+}  // namespace
+
+int Stapelblock::Beginnen(std::shared_ptr<const Verbindung> Neue) {
+  const int Ergebnis = Beenden();
+  Über = std::move(Neue);
+  return Ergebnis;
+}
+
+int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
+  Griff = -1;
+  if (StapelDatei.Name.empty()) return 0;
+  // Of a file that was emptied or taken away meanwhile the head has gone as well.
+  if (Offen() && DateistandVon(StapelDatei.Name).Länge < StapelDatei.Stand.Länge) StapelDatei.Offen.reset();
+  if (!Offen() && StapelKopf(Über) < 0) return -1;
+  if (Satz.empty()) return 0;
+  if (Schreiben(Satz + "\r\n", "StapelPunktzeile") < 0) return -1;
+  Griff = static_cast<int>(StapelDatei.Stücke.size()) - 1;
+  return 0;
+}
+
+int Stapelblock::Entfernen(int Griff) {
+  Stapeldatei& D = StapelDatei;
+  if (Griff < 0 || Griff >= std::ssize(D.Stücke)) return -1;
+  std::string Inhalt, Alles, Übrig;
+  if (D.Stücke[static_cast<std::size_t>(Griff)].empty() || DateiLesen(D.Name, Inhalt) < 0) return -1;
+  for (std::size_t i = 0; i < D.Stücke.size(); ++i) {
+    Alles += D.Stücke[i];
+    if (static_cast<int>(i) != Griff) Übrig += D.Stücke[i];
+  }
+  // The file keeps the coding that it has.
+  if (!IstUtf8(Inhalt)) {
+    Alles = NachWindows1252(Alles);
+    Übrig = NachWindows1252(Übrig);
+  }
+  // Only what was written here is ours; somebody may have edited the file meanwhile.
+  if (Inhalt.size() != D.Ab + Alles.size() || !Inhalt.ends_with(Alles)) return -1;
+  if (DateiErsetzen(D.Name, Inhalt.substr(0, D.Ab) + Übrig) < 0) return -1;
+  D.Stücke[static_cast<std::size_t>(Griff)].clear();
+  D.Stand = DateistandVon(D.Name);
+  return 0;
+}
+
+int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
+
+std::vector<std::string> StapelKopfLinie(const std::string& AnfPnr, double AnfWert, const std::string& EndPnr,
+                                         double EndWert) {
+  return {StapelPunktzeile("PAN ", AnfPnr, {AnfWert}), StapelPunktzeile("PEN ", EndPnr, {EndWert})};
+}
+
+std::string StapelPunktzeile(const std::string& Schlüssel, const std::string& Pnr,
+                             const std::vector<Wert>& Werte) {
+  std::string Zeile = Schlüssel + PnrFormat(Pnr);
+  for (const Wert& Zahl : Werte) Zeile += "  " + (Zahl.IstText() ? PnrFormat(Zahl) : StapelZahl(Zahl));
+  return Zeile;
+}
+
+std::string StapelNeupunkt(const std::string& Pnr, const std::string& Symbol) {
+  if (Pnr.empty()) return "NEUPUNKT          0  -   -";
+  return "NEUPUNKT   " + PnrFormat(Pnr) + "  " + (Symbol.empty() ? "-" : Symbol);
+}
+
+}  // namespace tavorena

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Wert.h>
+#include <tavorena/records/Block.h>
+
+// The batch file (.sta): what to type in again. A sequence of blocks in the order of work, each holding the
+// input of one calculation; every record is appended as it is made.
+
+namespace tavorena {
+
+/// The batch file of the job, and what this program has written to it. Start values: {}.
+struct Stapeldatei {
+  std::string Name;                         ///< path; empty: no batch output
+  std::shared_ptr<const Verbindung> Offen;  ///< whose block stands open at its end; null: none
+  std::uintmax_t Ab = 0;                    ///< size of the file before the first of Stücke [bytes]
+  std::vector<std::string> Stücke;  ///< what was appended since, piece by piece; "" was taken out again
+  Dateistand Stand;                 ///< of the file after the last piece
+};
+
+extern Stapeldatei StapelDatei;
+
+/// The batch block of one worksheet. While it is the last in the file, records are appended to it; after a
+/// worksheet beside it has written, it is over and a new one begins with head and connection.
+class Stapelblock {
+ public:
+  /// The connection that the next records belong to. @return 0; -1 if the block before could not be ended
+  [[nodiscard]] int Beginnen(std::shared_ptr<const Verbindung> Neue);
+
+  /// Records go below their connection without a new head.
+  [[nodiscard]] bool Offen() const { return Über && StapelDatei.Offen == Über; }
+
+  /// Appends a record, below its connection; the block of another worksheet is ended first. An empty record
+  /// opens the block alone. Nothing happens without a file.
+  /// @param[out] Griff  what Entfernen takes; -1 if nothing was appended
+  /// @return 0; -1 with a message if the file could not be written
+  [[nodiscard]] int Anfügen(const std::string& Satz, int& Griff);
+
+  /// Takes a record out of the file, wherever it stands: a row that the surveyor corrected or deleted must
+  /// not be calculated again.
+  /// @return 0; -1 if the file can not be written, or somebody else changed it: it is then left alone
+  [[nodiscard]] static int Entfernen(int Griff);
+
+  /// Ends the block if it is still open. @return 0; -1 with a message
+  [[nodiscard]] int Beenden();
+
+ private:
+  std::shared_ptr<const Verbindung> Über;
+};
+
+// ---- records as lines; numbers with 7 integer places and 4 decimals
+
+/// "PAN" and "PEN" of a connection: numbers of start and end, and the values on them.
+[[nodiscard]] std::vector<std::string> StapelKopfLinie(const std::string& AnfPnr, double AnfWert,
+                                                       const std::string& EndPnr, double EndWert);
+
+/// Keyword with its blanks, point number and values; a text among the values is a point number.
+[[nodiscard]] std::string StapelPunktzeile(const std::string& Schlüssel, const std::string& Pnr,
+                                           const std::vector<Wert>& Werte = {});
+
+/// "NEUPUNKT": a missing symbol is written "-", no number at all as "0  -   -".
+[[nodiscard]] std::string StapelNeupunkt(const std::string& Pnr, const std::string& Symbol);
+
+}  // namespace tavorena

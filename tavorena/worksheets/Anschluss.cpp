@@ -1,0 +1,93 @@
+#include <utility>
+
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Winkel.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/worksheets/Anschluss.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+namespace {
+
+const char* const RahmenAnschluss = "Anschluß";
+const char* const RahmenErgebnis = "Ergebnis";
+
+}  // namespace
+
+Anschluss::Anschluss(Rechenblatt& Für, std::function<void()> BeiWechsel)
+    : Anf(Für, "Anf", "Anf.pkt.", RahmenAnschluss, 1),
+      End(Für, "End", "Endpkt.", RahmenAnschluss, 2),
+      Blatt(Für),
+      Rechnen(std::move(BeiWechsel)) {
+  Anf.BeiWechsel = End.BeiWechsel = Rechnen;
+  PunktfeldKopf(Blatt, RahmenAnschluss);
+}
+
+Feld& Anschluss::Messfeld(const char* Rest, const char* Label, Platz Ort, double& Zahl) {
+  Blatt.BeschriftungAnlegen(Label, {Ort.Zeile, Ort.Spalte}, RahmenAnschluss);
+  Feld& F = Blatt.ZahlenfeldAnlegen(Blatt.Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, RahmenAnschluss, 10);
+  F.Text = Messwerttext(Zahl);
+  F.BeiVerlassen = [this, &F, &Zahl] { return MesswertNehmen(F, Zahl); };
+  Messfelder.push_back(&F);
+  return F;
+}
+
+Feld& Anschluss::Ergebnis(const char* Rest, const char* Label, int Spalte) {
+  Blatt.BeschriftungAnlegen(Label, {0, Spalte}, RahmenErgebnis);
+  return Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Rest), {0, Spalte + 1}, RahmenErgebnis, 10);
+}
+
+bool Anschluss::MesswertNehmen(Feld& F, double& Zahl) const {
+  std::string Text = F.Text;
+  if (!MesswertLesen(Text, Zahl)) {
+    StatusHilfeSetzen("Zahl erwartet");
+    return false;
+  }
+  F.Text = Text;
+  Rechnen();
+  return true;
+}
+
+void Anschluss::MesswertSetzen(Feld& F, double Zahl) {
+  F.Text = Messwerttext(Zahl);
+  static_cast<void>(F.BeiVerlassen());  // a text of its own making is always read
+}
+
+double Anschluss::Länge() const { return Strecke(Anf.Ort().RW, Anf.Ort().HW, End.Ort().RW, End.Ort().HW); }
+
+bool Anschluss::Gesetzt() const { return Anf.Gesetzt() && End.Gesetzt() && Länge() > 0; }
+
+bool Anschluss::Prüfen() {
+  for (Punktfeld* P : {&Anf, &End}) {
+    if (P->Auffrischen()) continue;
+    Blatt.FokusSetzen(P->Pnr);
+    return false;
+  }
+  for (Feld* F : Messfelder) {
+    if (Formular::Lesen(*F)) continue;
+    Blatt.FokusSetzen(*F);
+    return false;
+  }
+  if (Gesetzt()) return true;
+  StatusHilfeSetzen("Anfangs- und Endpunkt sind gleich");
+  Blatt.FokusSetzen(End.Pnr);
+  return false;
+}
+
+int Anschluss::AusStapel(const std::string& AnfPnr, const std::string& EndPnr) {
+  Anf.Pnr.Text = AnfPnr;
+  End.Pnr.Text = EndPnr;
+  for (Punktfeld* P : {&Anf, &End}) {
+    if (P->Setzen() == 0 && P->Gesetzt()) continue;
+    StapelFehlerMeldung("Anschlußpunkt " + *P->Pnr.Text + " fehlt");
+    return -1;
+  }
+  return 0;
+}
+
+void Anschluss::AnschlussAnAus(bool An) {
+  Anf.Pnr.Aktiv = End.Pnr.Aktiv = An;
+  for (Feld* F : Messfelder) F->Aktiv = An;
+}
+
+}  // namespace tavorena

@@ -1,0 +1,71 @@
+#include <algorithm>
+
+#include <tavorena/worksheets/Blattart.h>
+#include <tavorena/worksheets/TVDisForm.h>
+#include <tavorena/worksheets/TVLinelForm.h>
+#include <tavorena/worksheets/TVPolelForm.h>
+
+namespace tavorena {
+namespace {
+
+template <typename Form>
+std::unique_ptr<Formular> Neu(const Blattart& Art) {
+  return std::make_unique<Form>(Art);
+}
+
+// One line a kind.
+constexpr Blattart Arten[] = {
+    {"TVLinelForm",
+     "Linel",
+     "VR 24.40 Linienelemente",
+     "Tavorena Linienelemente [Stapel]",
+     "Berechnung Linienelemente",
+     {"24.40", "LE"},
+     "MenüKatasterLinel",
+     4110,
+     "linienelemente.md",
+     Neu<TVLinelForm>},
+    {"TVPolelForm",
+     "Polel",
+     "VR 08.40 Polarelemente",
+     "Tavorena Polarelemente [Stapel]",
+     "Berechnung Polarelemente",
+     {"08.40", "8.40", "PE"},
+     "MenüKatasterPolel",
+     4120,
+     "polarelemente.md",
+     Neu<TVPolelForm>},
+    {"TVDisForm",
+     "Dis",
+     "VR 22.10 Entfernungskontrolle",
+     "Tavorena Entfernungskontrolle [Stapel]",
+     "Berechnung Entfernungskontrolle",
+     {"22.10", "EK"},
+     "MenüKatasterDis",
+     4130,
+     "entfernungskontrolle.md",
+     Neu<TVDisForm>},
+};
+
+template <typename Test>
+const Blattart* Finde(Test Passt) {
+  const auto* i = std::find_if(std::begin(Arten), std::end(Arten), Passt);
+  return i != std::end(Arten) ? i : nullptr;
+}
+
+}  // namespace
+
+std::span<const Blattart> Blattarten() { return Arten; }
+
+const Blattart* BlattartVonKennung(std::string_view Kennung) {
+  return Finde([&](const Blattart& B) {
+    return std::any_of(B.Kennungen.begin(), B.Kennungen.end(),
+                       [&](const char* K) { return K != nullptr && K == Kennung; });
+  });
+}
+
+const Blattart* BlattartVonMenü(std::string_view Eintrag) {
+  return Finde([&](const Blattart& B) { return B.Menü == Eintrag; });
+}
+
+}  // namespace tavorena

@@ -1,0 +1,59 @@
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/worksheets/Punktfeld.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+
+Punktfeld::Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char* Label, const char* Rahmen,
+                     int Zeile)
+    : Pnr((Blatt.BeschriftungAnlegen(Label, {Zeile, 0}, Rahmen),
+           Blatt.ZahlenfeldAnlegen(Blatt.Mit(Welcher + "Pnr"), {Zeile, 1}, Rahmen, 10))),
+      Rechts(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Rechts"), {Zeile, 2}, Rahmen, 12)),
+      Hoch(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Hoch"), {Zeile, 3}, Rahmen, 12)),
+      H_he(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "H_he"), {Zeile, 4}, Rahmen, 9)),
+      Sym(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Sym"), {Zeile, 5}, Rahmen, 5)) {
+  Pnr.IstPnr = true;
+  Pnr.Hilfe = "Punktnummer; + und - zählen weiter";
+  Pnr.BeiVerlassen = [this] { return Setzen() == 0; };
+  Sym.Rechtsbündig = false;
+}
+
+void Punktfeld::Leeren() {
+  for (Feld* F : {&Rechts, &Hoch, &H_he, &Sym}) F->Text = "";
+  Gesucht.clear();
+}
+
+int Punktfeld::Setzen() {
+  Pnr.Text = Trimmen(*Pnr.Text);
+  if (*Pnr.Text == Gesucht) return 0;
+  Leeren();
+  if (!Pnr.Text->empty()) {
+    Wert Nummer(*Pnr.Text);
+    const int Zeile = KorFind(Nummer);
+    if (Zeile < 0) return -1;
+    const auto P = KorPunkt(Zeile);
+    Gesucht = LetztePunktnummer = Trimmen(Nummer);
+    Pnr.Text = Gesucht;
+    Punkt = {P.Rechts, P.Hoch};
+    Rechts.Text = Längentext(P.Rechts);
+    Hoch.Text = Längentext(P.Hoch);
+    H_he.Text = P.Hoehe == 0 ? "" : Längentext(P.Hoehe);
+    Sym.Text = std::string(P.Symbol);
+  }
+  if (BeiWechsel) BeiWechsel();
+  return 0;
+}
+
+bool Punktfeld::Auffrischen() {
+  Gesucht.clear();
+  return Formular::Lesen(Pnr) && Gesetzt();
+}
+
+void PunktfeldKopf(Rechenblatt& Blatt, const char* Rahmen) {
+  const char* const Überschriften[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
+  for (int i = 0; i < 5; ++i)
+    Blatt.BeschriftungAnlegen(Überschriften[i], {0, i + 1}, Rahmen).Rechtsbündig = i < 4;
+}
+
+}  // namespace tavorena

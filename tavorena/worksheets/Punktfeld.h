@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <tavorena/calc/Lage.h>
+#include <tavorena/records/Spalten.h>
+#include <tavorena/worksheets/Rechenblatt.h>
+
+namespace tavorena {
+
+/// A known point in the head of a worksheet: its number is typed, the rest is looked up in the table, and
+/// asked for when it is missing.
+class Punktfeld {
+ public:
+  /// @param[in] Welcher  middle of its control names, "Anf" for "LinelAnfPnr"
+  Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char* Label, const char* Rahmen, int Zeile);
+  Punktfeld(const Punktfeld&) = delete;
+  Punktfeld& operator=(const Punktfeld&) = delete;
+
+  Feld& Pnr;
+  std::function<void()> BeiWechsel;  ///< another point, or none, was set
+
+  /// Looks the number in the field up, unless it is the one that is set; an empty field sets no point.
+  /// @return 0; -1: not found and not given, the text stays
+  [[nodiscard]] int Setzen();
+  /// The same, also when the number stayed: the table may have changed. @return false: there is no point
+  [[nodiscard]] bool Auffrischen();
+  /// Takes the point out of the results; the number typed stays.
+  void Leeren();
+
+  [[nodiscard]] bool Gesetzt() const { return !Gesucht.empty(); }
+  [[nodiscard]] const std::string& Nummer() const { return Gesucht; }
+  [[nodiscard]] Lage Ort() const { return Punkt; }
+  [[nodiscard]] Protpunkt AlsProtpunkt() const { return {Punkt.RW, Punkt.HW, Gesucht}; }
+
+ private:
+  Feld &Rechts, &Hoch, &H_he, &Sym;
+  std::string Gesucht;  // the number that was looked up; "" none
+  Lage Punkt;           // [m]
+};
+
+/// Headings of the columns in which the points stand.
+void PunktfeldKopf(Rechenblatt& Blatt, const char* Rahmen);
+
+}  // namespace tavorena

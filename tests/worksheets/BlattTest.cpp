@@ -1,0 +1,360 @@
+#include "Blattest.h"
+
+namespace tavorena::test {
+namespace {
+
+using BlattTest = Blatttest;
+
+TEST_F(BlattTest, LinienelementeSchreibenIhreDateien) {
+  auto B = Öffne("24.40");
+  const Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelAnfPnr", "1001\n");
+  EXPECT_EQ(*Feld(*B, "LinelAnfH_he").Text, "12.500");
+  EXPECT_EQ(*Feld(*B, "LinelAnfSym").Text, "015");
+  Tippe(*B, "LinelEndPnr", "1002\n0\n99,93\n");  // Return leads through the connection into the grid
+  for (const auto& [Name, Soll] :
+       {std::pair{"LinelL", "100.000"}, std::pair{"LinelE", "100.000"}, std::pair{"LinelM", "1.000700"},
+        std::pair{"LinelD", "0.160"}, std::pair{"LinelWs", "0.070"}})
+    EXPECT_EQ(*Feld(*B, Name).Text, Soll) << Name;
+  EXPECT_FALSE(DateiVorhanden(Prot.Datei));     // nothing is written before the first row
+  Tippe(*B, "LinelGitter", "2003\n2004\n+\n");  // + steps to 2005
+  EXPECT_EQ(Gitterzeile(G, 0), (std::vector<std::string>{"2003", "3500130.000", "5600230.000", "42.000",
+                                                         "6.000", "41.971", "5.996"}));
+  EXPECT_EQ(G.Inhalt(2, 0), "2005");
+  Tippe(*B, "LinelGitter", "\n");  // Return in an empty row leads out of the grid
+  EXPECT_EQ(B->Fokus()->Name, "LinelEnd10");
+  Drücke(*B, "LinelEnd10");
+  EXPECT_EQ(B->Fokus()->Name, "LinelAnfPnr");
+  Tippe(*B, "LinelAnfPnr", "1002\n");
+  Tippe(*B, "LinelEndPnr", "2005\n0\n0\n2003\n");
+  EXPECT_FALSE(G.Spalten[5].Sichtbar);  // nothing measured, nothing to reduce
+  Drücke(*B, "LinelEnd");
+  EXPECT_FALSE(B->Offen());
+  PrüfeDateien("linel", 4);
+  EXPECT_EQ(*Blätter.back()->Titel, "Tavorena Linienelemente [Stapel]");
+}
+
+TEST_F(BlattTest, PolarelementeSchreibenIhreDateien) {
+  auto B = Öffne("08.40");
+  Tippe(*B, "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n");
+  EXPECT_EQ(Gitterzeile(Gitterfeld(*B), 0),
+            (std::vector<std::string>{"2003", "3500130.000", "5600230.000", "21.5334", "42.426"}));
+  EXPECT_EQ(*Feld(*B, "PolelM").Text, "1.000200");
+  EXPECT_EQ(*Feld(*B, "PolelWs").Text, "0.020");
+  Drücke(*B, "PolelEnd");
+  PrüfeDateien("polel", 2);
+}
+
+TEST_F(BlattTest, EntfernungskontrollenSchreibenIhreDateien) {
+  auto B = Öffne("22.10");
+  Tippe(*B, "DisAnfPnr", "1001\n1002\n99,8\n");
+  EXPECT_EQ(*Feld(*B, "DisL").Text, "100.000");
+  EXPECT_EQ(*Feld(*B, "DisD").Text, "0.160");
+  EXPECT_EQ(*Feld(*B, "DisWs").Text, "0.200");
+  EXPECT_TRUE(Feld(*B, "DisWs").Fehlerhaft);
+  EXPECT_EQ(*Feld(*B, "DisAnfPnr").Text, "1002");  // the end point is the new start point
+  EXPECT_EQ(B->Fokus()->Name, "DisEndPnr");
+  Tippe(*B, "DisEndPnr", "2005\n0\n");  // not measured
+  Tippe(*B, "DisEndPnr", "1001\n200.1");
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);  // the last check was not committed
+  Drücke(*B, "DisEnd");
+  PrüfeDateien("dis", 3);
+}
+
+// Two worksheets typed in turn give whole blocks in the order of work, and their replay the same protocol.
+TEST_F(BlattTest, ZweiBlätterImWechsel) {
+  auto L = Verbinde("24.40"), P = Verbinde("08.40"), D = Öffne("22.10");
+  Tippe(*L, "LinelGitter", "2003\n");
+  Tippe(*P, "PolelGitter", "2003\n");
+  Tippe(*L, "LinelGitter", "2004\n");
+  Tippe(*D, "DisAnfPnr", "1001\n1002\n0\n");
+  Tippe(*L, "LinelGitter", "2005\n");
+  Tippe(*D, "DisEndPnr", "2005\n0\n");
+  for (const auto& [Blatt, Name] :
+       {std::pair{L.get(), "LinelEnd"}, std::pair{P.get(), "PolelEnd"}, std::pair{D.get(), "DisEnd"}})
+    Drücke(*Blatt, Name);
+  const std::string Sta = Stapeltext(), Dru = Protokoll();
+  EXPECT_EQ(Anzahl(Sta, "M  VR"), 6);
+  EXPECT_EQ(Anzahl(Sta, "EM  (Ende Modul"), 6);
+  EXPECT_EQ(Anzahl(Sta, "PAN     1001        0.0000\r\nPEN     1002        0.0000\r\nNR      2004\r\nE Ende"),
+            1);
+  EXPECT_EQ(Anzahl(Sta, "PAN     1002        0.0000\r\nPEN     2005        0.0000\r\nE  (Ende)"), 1);
+  EXPECT_EQ(Anzahl(Dru, "|VR 24.40"), 3);  // each turn stands below its head
+  EXPECT_EQ(Anzahl(Dru, "|VR 08.40"), 1);
+  EXPECT_EQ(Anzahl(Dru, "|VR 22.10"), 2);
+  EXPECT_EQ(Nachlauf(), Dru);
+}
+
+// A row that was written before another worksheet came in between can still be taken back.
+TEST_F(BlattTest, ZeileImEigenenAltenBlockWirdGestrichen) {
+  auto L = Verbinde("24.40"), P = Verbinde("08.40");
+  Tippe(*L, "LinelGitter", "2003\n2004\n");
+  Tippe(*P, "PolelGitter", "2003\n");
+  Gitter& G = Gitterfeld(*L);
+  L->ZelleWechseln(G, 0, 0);
+  Drücke(*L, "LinelDelete");
+  EXPECT_EQ(Anzahl(Stapeltext(), "NR      2003\r\nE Ende"), 0);
+  EXPECT_EQ(Anzahl(Stapeltext(), "PEN     1002        0.0000\r\nNR      2004\r\nE Ende"), 1);
+  EXPECT_EQ(Anzahl(Protokoll(), "2003 ***gelöscht"), 1);
+  EXPECT_EQ(G.Inhalt(0, 0), "2004");
+}
+
+TEST_F(BlattTest, ZeileBleibtInFremdGeänderterStapeldatei) {
+  auto B = Verbinde("24.40");
+  Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelGitter", "2003\n2004\n");
+  Schreibe(StapelDatei.Name, Stapeltext() + "C von Hand\r\n");
+  B->ZelleWechseln(G, 0, 0);
+  Drücke(*B, "LinelDelete");
+  EXPECT_EQ(G.Inhalt(0, 0), "2003");
+  EXPECT_NE(Skript.Status[4].find("von anderer Seite geändert"), std::string::npos);
+  Tippe(*B, "LinelGitter", "2005\n");  // nor is it replaced
+  EXPECT_EQ(G.Inhalt(0, 0), "2003");
+  EXPECT_EQ(Anzahl(Protokoll(), "gelöscht"), 0);
+  EXPECT_EQ(Anzahl(Protokoll(), "2005"), 0);
+}
+
+// A row that reached no file is not written: it stays, and closing asks.
+TEST_F(BlattTest, UngeschriebeneZeileBleibtOffen) {
+  StapelDatei.Name.clear();
+  Prot.Datei = Ordner.Pfad("fehlt/a.dru");
+  auto B = Verbinde("24.40");
+  const Gitter& G = Gitterfeld(*B);
+  Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Prot.Datei);
+  Tippe(*B, "LinelGitter", "2003\n");
+  EXPECT_EQ(G.Zeilen(), 1);
+  EXPECT_EQ(G.Inhalt(0, 3), "42.000");
+  EXPECT_EQ(Prot.Marken, 0);
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
+  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfNein);
+  B->SchließenVerlangen();
+  EXPECT_TRUE(B->Offen());
+  Prot.Datei = Ordner.Pfad("a.dru");
+  Tippe(*B, "LinelGitter", "\n");
+  EXPECT_EQ(Anzahl(Protokoll(), "   2003\r\n"), 1);
+  EXPECT_EQ(G.Zeilen(), 2);
+  Drücke(*B, "LinelEnd");  // and now nothing is open
+  EXPECT_FALSE(B->Offen());
+}
+
+// With one of the two files out of reach the row is written in the other.
+TEST_F(BlattTest, EineDateiGenügt) {
+  StapelDatei.Name = Ordner.Pfad("fehlt/a.sta");
+  auto B = Verbinde("24.40");
+  Skript.Erwarte("Fehler 57 in Stapelmodul.StapelKopf");
+  Tippe(*B, "LinelGitter", "2003\n");
+  EXPECT_EQ(Gitterfeld(*B).Zeilen(), 2);
+  Drücke(*B, "LinelEnd");
+  EXPECT_FALSE(B->Offen());
+}
+
+TEST_F(BlattTest, FehlenderPunktWirdGefragt) {
+  auto B = Öffne("24.40");
+  Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  Tippe(*B, "LinelAnfPnr", "7\n");
+  EXPECT_EQ(B->Fokus()->Name, "LinelAnfPnr");
+  EXPECT_EQ(*Feld(*B, "LinelAnfPnr").Text, "7");
+  // OK is not enough without coordinates.
+  Skript.Formulare.push_back(
+      Bediene({{"OK", ""}, {"EinzelRechts", "3500000,5\n"}, {"EinzelHoch", "5600000\n10\n\n"}}));
+  Tippe(*B, "LinelAnfPnr", "\n");
+  EXPECT_EQ(B->Fokus()->Name, "LinelEndPnr");
+  EXPECT_EQ(*Feld(*B, "LinelAnfRechts").Text, "3500000.500");
+  EXPECT_EQ(KorAnzahl, 6);
+}
+
+TEST_F(BlattTest, AndereBekannteNummerImPunktdialog) {
+  auto B = Öffne("24.40");
+  Skript.Formulare.push_back(Bediene({{"EinzelPnr", "1002"}, {"OK", ""}}));
+  Skript.Formulare.push_back(Bediene({{"Knopf(0)", ""}}));
+  Tippe(*B, "LinelEndPnr", "8\n");  // it is taken as it stands
+  EXPECT_EQ(*Feld(*B, "LinelEndPnr").Text, "1002");
+  EXPECT_EQ(KorAnzahl, 5);
+}
+
+TEST_F(BlattTest, UngültigeEingabenHaltenDenFokus) {
+  auto B = Öffne("24.40");
+  Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
+  EXPECT_TRUE(Feld(*B, "LinelEndmass").Fehlerhaft);
+  B->FokusWechseln(Element(*B, "LinelAnlegemass"));
+  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
+  B->FokusWechseln(Element(*B, "LinelEnd"));  // a way out is always open
+  EXPECT_EQ(B->Fokus()->Name, "LinelEnd");
+  using Schritt = std::array<const char*, 3>;  // where, what is typed, where the focus then is
+  // Both points the same, Endmass equal to Anlegemass, all well.
+  for (const auto& [Name, Text, Fokus] :
+       {Schritt{"LinelEndmass", "0\n", "LinelEndPnr"}, Schritt{"LinelEndPnr", "1002\n5\n5\n", "LinelEndmass"},
+        Schritt{"LinelEndmass", "105\n", "LinelGitter"}}) {
+    Tippe(*B, Name, Text);
+    EXPECT_EQ(B->Fokus()->Name, Fokus) << Text;
+  }
+}
+
+TEST_F(BlattTest, NummerOhnePunktIstNichtsZuSchreiben) {
+  auto B = Verbinde("24.40");
+  const Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelGitter", "+");  // the number entered last was 1002
+  EXPECT_EQ(G.Inhalt(0, 0), "1003");
+  Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  Tippe(*B, "LinelGitter", "\n");
+  EXPECT_EQ(G.Inhalt(0, 3), "");
+  Drücke(*B, "LinelEnd");
+  EXPECT_FALSE(DateiVorhanden(StapelDatei.Name));
+}
+
+TEST_F(BlattTest, BerichtigteZeilenWerdenGestrichen) {
+  auto B = Verbinde("24.40");
+  Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelGitter", "2003\n2004\n2005\n");
+  B->ZelleWechseln(G, 1, 0);
+  B->Tippen(G, "1002");
+  B->ZelleWechseln(G, 0, 0);  // not confirmed: what was written stands
+  EXPECT_EQ(G.Inhalt(1, 0), "2004");
+  EXPECT_EQ(G.Inhalt(1, 4), "-45.000");
+  B->ZelleWechseln(G, 1, 0);
+  Tippe(*B, "LinelGitter", "1002\n");
+  B->ZelleWechseln(G, 2, 0);
+  Drücke(*B, "LinelDelete");
+  EXPECT_EQ(G.Inhalt(0, 0), "2003");
+  EXPECT_EQ(G.Inhalt(1, 0), "1002");
+  Tippe(*B, "LinelGitter", "2004");
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
+  Drücke(*B, "LinelEnd");
+  for (const char* Pnr : {"2004", "2005"})
+    EXPECT_EQ(Anzahl(Protokoll(), Pnr + std::string(" ***gelöscht")), 1);
+  EXPECT_EQ(Anzahl(Stapeltext(), "0.0000\r\nNR      2003\r\nNR      1002\r\nNR      2004\r\nE Ende"), 1)
+      << Stapeltext();
+}
+
+TEST_F(BlattTest, VerlassenFragtNachOffenem) {
+  auto B = Verbinde("24.40");
+  Tippe(*B, "LinelGitter", "2004");
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
+  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfNein);
+  B->SchließenVerlangen();
+  EXPECT_TRUE(B->Offen());
+  EXPECT_EQ(Skript.Titel.back(), "Berechnung Linienelemente");
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
+  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfJa);
+  B->SchließenVerlangen();
+  EXPECT_FALSE(B->Offen());
+  EXPECT_FALSE(DateiVorhanden(Prot.Datei));
+}
+
+TEST_F(BlattTest, StreifenNimmtDiePunkteDesBereichs) {
+  auto B = Verbinde("24.40");
+  const Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelPnrvon", "2000\n2999\n10\n");
+  EXPECT_EQ(G.Inhalt(0, 0), "2003");
+  EXPECT_EQ(G.Inhalt(1, 0), "2005");  // 2004 is 45 m off
+  Tippe(*B, "LinelPnrvon", "2000\n2999\n0\n");
+  EXPECT_EQ(G.Zeilen(), 6);
+}
+
+TEST_F(BlattTest, JedesBlattHatSeinenPlan) {
+  Optionen.AbfrageRiss = true;
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "Riss 12\n"}, {"Wert(1)", "3\n"}}));
+  auto L = Verbinde("24.40");
+  EXPECT_EQ(*Feld(*L, "LinelRi_bez").Text, "Riss 12");
+  EXPECT_EQ(*Feld(*L, "LinelBernr").Text, "3");
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "Riss 13\n"}, {"Wert(1)", "4\n"}}));
+  auto P = Verbinde("08.40");
+  Tippe(*P, "PolelGitter", "2003\n");
+  Tippe(*L, "LinelGitter", "2003\n");  // under its own plan, whatever was typed since
+  EXPECT_EQ(Anzahl(Stapeltext(), "RISS       Riss 12\r\nBERNR      3\r\n"), 1);
+  EXPECT_EQ(Anzahl(Protokoll(), "|VR 24.40  Linienelemente  (Riss 12) 3 "), 1);
+  Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  auto D = Öffne("22.10");
+  EXPECT_EQ(*Feld(*D, "DisRi_bez").Text, "Riss 13");  // cancel keeps the old values
+}
+
+TEST_F(BlattTest, PlusUndMinusZählenDieLetzteNummer) {
+  auto B = Öffne("24.40");
+  EXPECT_FALSE(B->TasteDrücken(Taste::Plus));  // no number yet: the key is left to the text
+  LetztePunktnummer = "12A";
+  EXPECT_TRUE(B->TasteDrücken(Taste::Minus));
+  EXPECT_EQ(*Feld(*B, "LinelAnfPnr").Text, "11");
+}
+
+TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
+  const std::string Anschluss = "PAN 1001\r\nPEN 1002\r\n",
+                    Linie = "M VR 24.40 x\r\n" + Anschluss + "NR 2003\r\nE\r\n";
+  Schreibe(StapelDatei.Name, Linie + "M VR 08.40 x\r\n" + Anschluss + "NR 77\r\nNR 2004\r\nE\r\n" + Linie);
+  Skript.Hält = true;
+  Starten();
+  ASSERT_TRUE(Stapel.Aktiv);
+  ASSERT_TRUE(Blätter.back()->Offen());
+  EXPECT_EQ(Blätter.back()->Fokus()->Name, "LinelWeiter");
+  EXPECT_EQ(Protokoll(), "");
+  Formular& Erstes = *Blätter.back();
+  Drücke(Erstes, "LinelWeiter");  // the next block is shown when this one is done
+  EXPECT_FALSE(Erstes.Offen());
+  ASSERT_EQ(Blätter.size(), 2U);
+  Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  Skript.BeiEreignissen = [&] { Drücke(*Blätter.back(), "PolelStop"); };
+  Drücke(*Blätter.back(), "PolelWeiter");  // stopped after the running row
+  EXPECT_FALSE(Stapel.Aktiv);
+  EXPECT_FALSE(Blätter.back()->Offen());
+  EXPECT_EQ(Blätter.size(), 2U);
+  EXPECT_EQ(Stapel.Bilanz.Zeilen, 1);
+  EXPECT_FALSE(Stapel.Bilanz.Fehler);
+}
+
+TEST_F(BlattTest, NachlaufOhnePunktLäßtDieZeileAus) {
+  Schreibe(StapelDatei.Name,
+           "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n"
+           "M VR 24.40 x\r\nPAN 77\r\nPEN 1002\r\n");
+  for (int i = 0; i < 2; ++i) Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  Skript.Erwarte("Zeile: 9\nAnschlußpunkt 77 fehlt");
+  EXPECT_EQ(Anzahl(Nachlauf(), "   2003\r\n"), 1);
+  EXPECT_EQ(Stapel.Bilanz.Zeilen, 1);
+  EXPECT_TRUE(Stapel.Bilanz.Fehler);
+}
+
+TEST_F(BlattTest, NachlaufOhneProtokolldateiEndetMitFehler) {
+  Schreibe(StapelDatei.Name, "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nNR 2004\r\nE\r\n");
+  ProtokollNehmen(Ordner.Pfad("fehlt/n.dru"));
+  Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Prot.Datei);
+  Skript.Erwarte("Zeile: 4\nZeile nicht geschrieben");
+  StapelStarten(StapelDatei.Name);
+  EXPECT_TRUE(Stapel.Bilanz.Fehler);
+  EXPECT_EQ(Stapel.Bilanz.Zeilen, 0);
+}
+
+TEST_F(BlattTest, NeupunktEintragenFragtNurBeiAndererLage) {
+  Punktnotiz Notiz;
+  Wert Pnr("1001");
+  EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.0004, 5600200, NullWert{}, "", nullptr, Notiz), 0);
+  EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.5, "", nullptr, Notiz), 0);
+  EXPECT_EQ(Notiz.Code, 0);
+  int Gefragt = 0;
+  Haken.PunktVorhandenBehandeln = [&](const Konflikt&) {
+    return ++Gefragt == 1 ? Konfliktantwort{"ABB", ""} : Konfliktantwort{"NNN", "9002"};
+  };
+  EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.6, "", nullptr, Notiz), -1);
+  EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.02, 5600199.98, 0.0, "", nullptr, Notiz), 5);
+  EXPECT_EQ(Pnr.Text(), "9002");
+  EXPECT_EQ(Notiz.Code, 13);
+  EXPECT_EQ(Notiz.Nummer, "9002");
+}
+
+// What holds for every kind of worksheet.
+TEST(Blattarten, SindVollständig) {
+  for (const Blattart& Art : Blattarten()) {
+    SCOPED_TRACE(Art.Formname);
+    for (const char* Kennung : Art.Kennungen) {
+      EXPECT_TRUE(Kennung == nullptr || BlattartVonKennung(Kennung) == &Art) << Kennung;
+    }
+    EXPECT_EQ(std::string(Art.VR).substr(3, 5), Art.Kennungen[0]);
+    EXPECT_EQ(BlattartVonMenü(Art.Menü), &Art);
+    const auto Blatt = Art.Neu(Art);
+    EXPECT_EQ(Blatt->FormName, Art.Formname);
+    EXPECT_EQ(Blatt->Hilfenummer, Art.Hilfenummer);
+    for (const char* Rest : {"End", "Stop", "Weiter"})
+      EXPECT_NE(Blatt->Finde(Art.Präfix + std::string(Rest)), nullptr) << Rest;
+  }
+  EXPECT_EQ(BlattartVonKennung("65.00"), nullptr);
+}
+
+}  // namespace
+}  // namespace tavorena::test
