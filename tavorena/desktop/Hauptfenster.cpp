@@ -19,7 +19,6 @@
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
-#include <tavorena/records/Protokollfenster.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
@@ -155,29 +154,40 @@ void Hauptfenster::StatusleisteBauen() {
 void Hauptfenster::ProtokollfensterBauen() {
   Protokolltext = new QPlainTextEdit(this);
   Protokolltext->setReadOnly(true);
+  Protokolltext->setUndoRedoEnabled(false);
   Protokolltext->setLineWrapMode(QPlainTextEdit::NoWrap);
-  Protokollfenster = new QDockWidget("Protokoll", this);
-  Protokollfenster->setObjectName("Protokollfenster");
-  Protokollfenster->setFeatures(QDockWidget::DockWidgetMovable);
-  Protokollfenster->setWidget(Protokolltext);
-  addDockWidget(Qt::RightDockWidgetArea, Protokollfenster);
-  Protokollfenster->hide();
+  Protokollrahmen = new QDockWidget("Protokoll", this);
+  Protokollrahmen->setObjectName("Protokollfenster");
+  Protokollrahmen->setFeatures(QDockWidget::DockWidgetMovable);
+  Protokollrahmen->setWidget(Protokolltext);
+  addDockWidget(Qt::RightDockWidgetArea, Protokollrahmen);
+  Protokollrahmen->hide();
   Protokolluhr.setSingleShot(true);
   Protokolluhr.setInterval(50);
   connect(&Protokolluhr, &QTimer::timeout, this, &Hauptfenster::ProtokollZeigen);
 }
 
 void Hauptfenster::ProtokollZeigen() {
-  const bool Neu = Optionen.ProtokollfensterAn && Protokollfenster->isHidden();
-  Protokollfenster->setVisible(Optionen.ProtokollfensterAn);
+  const bool Neu = Optionen.ProtokollfensterAn && Protokollrahmen->isHidden();
+  Protokollrahmen->setVisible(Optionen.ProtokollfensterAn);
   QFont Schrift = Zahlenschrift();
   Schrift.setPointSize(Optionen.SchriftgroesseProtokoll);
   Protokolltext->setFont(Schrift);
   // A line of the protocol without its print margin fits in.
-  if (Neu) resizeDocks({Protokollfenster}, {Zeichenbreite(Schrift, 74) + 30}, Qt::Horizontal);
-  const QString Text = QString::fromStdString(ProtokollfensterText);
-  if (Protokolltext->toPlainText() == Text) return;
-  Protokolltext->setPlainText(Text);
+  if (Neu) resizeDocks({Protokollrahmen}, {Zeichenbreite(Schrift, 74) + 30}, Qt::Horizontal);
+  ProtokollNachziehen();
+}
+
+// Takes over what came to the protocol and went out of it since the last time.
+void Hauptfenster::ProtokollNachziehen() {
+  const Fensterwechsel Neu = FensterLesen(Protokollfenster, Protokollstand);
+  if (!Neu.VonVorn && Neu.Neues.empty()) return;
+  if (Neu.VonVorn) Protokolltext->clear();
+  QTextCursor Stelle(Protokolltext->document());
+  Stelle.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, Neu.Entfallen);
+  Stelle.removeSelectedText();
+  Stelle.movePosition(QTextCursor::End);
+  Stelle.insertText(QString::fromUtf8(Neu.Neues.data(), static_cast<qsizetype>(Neu.Neues.size())));
   Protokolltext->verticalScrollBar()->setValue(Protokolltext->verticalScrollBar()->maximum());
 }
 

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <tavorena/core/Ports.h>
+#include <tavorena/records/Protokollfenster.h>
 #include <tavorena/shell/Menuebaum.h>
 
 class QAction;
@@ -48,14 +49,16 @@ class Hauptfenster final : public QMainWindow {
   void StatusleisteBauen();
   void ProtokollfensterBauen();
   void ProtokollZeigen();
+  void ProtokollNachziehen();
   void HilfeZeigen();
 
   std::map<const Menüeintrag*, QAction*> Einträge;
   std::vector<std::pair<const Werkzeug*, QAction*>> Bilder;
   std::map<Statusfeld, QLabel*> Statusfelder;
   QMdiArea* Flaeche;
-  QDockWidget* Protokollfenster = nullptr;
+  QDockWidget* Protokollrahmen = nullptr;
   QPlainTextEdit* Protokolltext = nullptr;
+  Fensterstand Protokollstand;  // of the protocol that Protokolltext shows
   QTimer TerminatorTimer;
   QTimer Uhr;
   QTimer Protokolluhr;

@@ -122,7 +122,10 @@ class Eintrag {
     if (Puffer.empty()) return 0;
     if (TextAnhängen(Neu.Datei, Puffer) < 0) return Melden(Neu.Datei);
     Neu.Stand = DateistandVon(Neu.Datei);
-    for (const std::string& Zeile : Fenster) ProtokollfensterZeile(Zeile);
+    for (const std::string& Zeile : Fenster) {
+      Protokollfenster.Anhängen(Zeile + "\n");
+      AnzeigePort().ProtokollGeändert();
+    }
     Alt = std::move(Neu);
     return 0;
   }

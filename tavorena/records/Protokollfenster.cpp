@@ -1,17 +1,43 @@
-#include <tavorena/core/Ports.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/records/Protokollfenster.h>
 
 namespace tavorena {
+namespace {
 
-std::string ProtokollfensterText;
+constexpr std::size_t Grenze = 32000;  // characters
 
-void ProtokollfensterZeile(const std::string& Text) {
-  constexpr std::size_t Grenze = 32000;
-  if (ProtokollfensterText.size() > Grenze) {
-    ProtokollfensterText.erase(0, ProtokollfensterText.find('\n') + 1);
+}  // namespace
+
+Fenstertext Protokollfenster;
+
+void Fenstertext::Anhängen(std::string_view Stück) {
+  const std::size_t Ende = Zeichen > Grenze ? Text.find('\n') : std::string::npos;
+  if (Ende != std::string::npos) {
+    Zeichen -= ZeichenAnzahl(std::string_view(Text).substr(0, Ende + 1));
+    Text.erase(0, Ende + 1);
+    ++Entfallen;
   }
-  ProtokollfensterText += Text + '\n';
-  AnzeigePort().ProtokollGeändert();
+  Text += Stück;
+  Zeichen += ZeichenAnzahl(Stück);
+  Angehängt += Stück.size();
+}
+
+void Fenstertext::Leeren() {
+  const int Nächster = Beginn + 1;
+  *this = {};
+  Beginn = Nächster;
+}
+
+Fensterwechsel FensterLesen(const Fenstertext& Fenster, Fensterstand& Stand) {
+  const std::size_t Neu = Fenster.Angehängt - Stand.Angehängt;
+  Fensterwechsel W;
+  // Begun anew, or some went out that was never looked at.
+  W.VonVorn = Stand.Beginn != Fenster.Beginn || Neu > Fenster.Text.size();
+  W.Entfallen = W.VonVorn ? 0 : Fenster.Entfallen - Stand.Entfallen;
+  W.Neues = Fenster.Text;
+  if (!W.VonVorn) W.Neues.remove_prefix(Fenster.Text.size() - Neu);
+  Stand = {Fenster.Beginn, Fenster.Angehängt, Fenster.Entfallen};
+  return W;
 }
 
 }  // namespace tavorena

@@ -75,7 +75,7 @@ void HauptInitialisierung() {
   DateinamenAbleiten();
   KorLeeren();
   ProtokollNehmen("");
-  ProtokollfensterText.clear();
+  Protokollfenster.Leeren();
   StapelDatei = {};
   OptionenLesen();
   HistorieLesen();

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -22,6 +23,7 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Blaetter.h>
@@ -157,6 +159,7 @@ class FensterTest : public QObject {
     Plattform = std::make_unique<Testplattform>(*Fenster);
     PortsSetzen(PortsVon(*Plattform));
     QFile::remove(Pfad("app/Tavorena.ini"));
+    Optionen = {};
     LetztePunktnummer.clear();
     Prot = {};
     HauptAnschließen();
@@ -255,7 +258,10 @@ class FensterTest : public QObject {
 
   void zeilenImGitter() {
     Öffne("MenüKatasterLinel");
+    Optionen.ProtokollfensterAn = true;
     Tippe("1001\n1002\n0\n0\n2003\n2004\n");
+    const auto* Protokoll = Fenster->findChild<QPlainTextEdit*>();
+    QTRY_VERIFY(Protokoll->toPlainText().endsWith("2004\n"));
     Drücke(Qt::Key_Tab);  // out of the grid, and back
     QTRY_COMPARE(FokusName(), QString("LinelEnd10"));
     Drücke(Qt::Key_Backtab, Qt::ShiftModifier);
@@ -267,6 +273,7 @@ class FensterTest : public QObject {
     Drücke(Qt::Key_Up);
     Drücke(Qt::Key_L, Qt::AltModifier);  // the first row goes
     QTRY_COMPARE(Inhalt(Pfad("a.dru")).count("***gelöscht"), 2);
+    QTRY_COMPARE(Protokoll->toPlainText(), QString::fromStdString(Protokollfenster.Text));
     QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
     Drücke(Qt::Key_N, Qt::AltModifier);
     QTRY_VERIFY(Inhalt(Pfad("a.sta")).contains("PEN     1002        0.0000\r\nNR      2005\r\nE Ende"));

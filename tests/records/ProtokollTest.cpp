@@ -143,7 +143,7 @@ TEST_F(ProtokollTest, EigenesZielHatNurDieBlöcke) {
   const auto V = Über(Linien, {{"Anschluss"}});
   for (int i = 0; i < 2; ++i) ASSERT_EQ(Schreiben(Eigenes, V, {{"z"}}), 0);
   EXPECT_EQ(Inhalt(Eigenes.Datei), "Anschluss\r\nz\r\nz\r\n");
-  EXPECT_EQ(ProtokollfensterText, "");
+  EXPECT_EQ(Protokollfenster.Text, "");
   EXPECT_EQ(Prot.Zeilen, 1);
   EXPECT_FALSE(DateiVorhanden(Prot.Datei));
 }
@@ -162,10 +162,10 @@ TEST_F(ProtokollTest, LangerPfadImKopfWirdVornGekürzt) {
 TEST_F(ProtokollTest, FensterZeigtOhneDruckrand) {
   Optionen.ProtokollfensterAn = true;
   ASSERT_EQ(ProtBlock(Prot, {{"      Rand", "      Rand", "kurz"}}), 0);
-  EXPECT_EQ(ProtokollfensterText, "      Rand\nRand\nkurz\n");  // the first line of a page keeps it
+  EXPECT_EQ(Protokollfenster.Text, "      Rand\nRand\nkurz\n");  // the first line of a page keeps it
   for (int i = 0; i < 80; ++i) ASSERT_EQ(ProtBlock(Prot, {std::vector<std::string>(50, "1234567890")}), 0);
-  EXPECT_LT(ProtokollfensterText.size(), 32100U);
-  EXPECT_TRUE(ProtokollfensterText.starts_with("1234567890\n"));
+  EXPECT_LT(Protokollfenster.Text.size(), 32100U);
+  EXPECT_TRUE(Protokollfenster.Text.starts_with("1234567890\n"));
 }
 
 TEST_F(ProtokollTest, OhneDateiGeschiehtNichts) {

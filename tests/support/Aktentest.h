@@ -19,7 +19,7 @@ class Aktentest : public TabellenTest {
     Stapel = {};
     StapelHaken = {};
     LetzterPlan = {};
-    ProtokollfensterText.clear();
+    Protokollfenster.Leeren();
     Optionen.AbfrageRiss = false;
   }
 
