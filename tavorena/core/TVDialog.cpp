@@ -8,6 +8,8 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
   switch (Fehler) {
     case Laufzeitfehler::Überlauf:
       return "Überlauf";
+    case Laufzeitfehler::Speicher:
+      return "Nicht genügend Speicher";
     case Laufzeitfehler::Index:
       return "Index außerhalb des gültigen Bereichs";
     case Laufzeitfehler::DivisionDurchNull:
@@ -52,8 +54,8 @@ void StatusHilfeSetzen(const std::string& Text) {
   AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");
 }
 
-void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort) {
-  Hinweis("Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
+void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort, const std::string& Vorspann) {
+  Hinweis(Vorspann + "Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
               " wurde ausgelöst durch Tavorena\n" + Beschreibung(Fehler),
           "Tavorena Fehlermeldung");
 }

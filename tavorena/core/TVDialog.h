@@ -26,6 +26,7 @@ void StatusHilfeSetzen(const std::string& Text);
 /// Numbers of run-time faults.
 enum class Laufzeitfehler : int {
   Überlauf = 6,
+  Speicher = 7,
   Index = 9,
   DivisionDurchNull = 11,
   Typen = 13,
@@ -36,7 +37,8 @@ enum class Laufzeitfehler : int {
 };
 
 /// "Fehler <number> in <Ort> wurde ausgelöst durch Tavorena" and the description, under the title
-/// "Tavorena Fehlermeldung". Ort names module and routine, such as "Koordinatenmodul.KorFind".
-void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort);
+/// "Tavorena Fehlermeldung". Ort names module and routine, such as "Koordinatenmodul.KorFind"; Vorspann
+/// stands in front of all.
+void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort, const std::string& Vorspann = "");
 
 }  // namespace tavorena

@@ -3,7 +3,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Geschuetzt.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
@@ -36,9 +36,12 @@ int main(int argc, char** argv) {
   PortsSetzen(PortsVon(Qt));
   HauptAnschließen();
   Fenster.show();
-  HauptInitialisierung();
   const QStringList Dateien = Zeile.positionalArguments();
-  if (!Dateien.isEmpty()) HauptDateiÖffnen(Dateien.first().toStdString(), 0);
+  const auto Starten = [&Dateien] {
+    HauptInitialisierung();
+    if (!Dateien.isEmpty()) HauptDateiÖffnen(Dateien.first().toStdString(), 0);
+  };
+  static_cast<void>(Geschützt("Tavorena.Start", Starten));  // the window is there all the same
   const int Ergebnis = QApplication::exec();
   PortsSetzen({});
   return Ergebnis;

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/forms/Formular.h>
 
 namespace tavorena {
@@ -91,10 +90,6 @@ Gitter& Formular::GitterAnlegen(std::string Name, std::vector<Gitterspalte> Spal
 }
 
 // ---- what the view is told ----------------------------------------------------------------------------
-
-void Formular::FehlerZeigen(const char* Was) {
-  LaufzeitFehlerMeldung(Laufzeitfehler::Index, FormName + " (" + Was + ")");
-}
 
 void Formular::Beobachten(FormularBeobachter* Neuer) {
   Beobachter = nullptr;

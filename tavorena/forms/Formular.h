@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tavorena/core/Geschuetzt.h>
 #include <tavorena/forms/Steuerelement.h>
 
 namespace tavorena {
@@ -128,7 +129,6 @@ class Formular {
   void Ausführen(Arbeit Tun);
   template <typename Art>
   Art& Anlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen);
-  void FehlerZeigen(const char* Was);
   void Melden();
   [[nodiscard]] bool Verlassen();
   void ReturnDrücken();
@@ -145,11 +145,7 @@ class Formular {
 template <typename Arbeit>
 void Formular::Ausführen(Arbeit Tun) {
   ++Tiefe;
-  try {
-    Tun();
-  } catch (const std::exception& Fehler) {
-    FehlerZeigen(Fehler.what());
-  }
+  static_cast<void>(Geschützt(FormName, Tun));  // after its message the form goes on as it stands
   if (Tiefe == 1 && IstOffen) Melden();
   --Tiefe;
 }

@@ -1,6 +1,5 @@
-#include <exception>
-
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
@@ -164,12 +163,9 @@ int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhän
 
 int HauptBeenden() {
   if (FrageJaNein("Tavorena beenden ?") != KnopfJa) return -1;
-  try {
-    return HauptKoordinatendateiWechseln(true);
-  } catch (const std::exception& Fehler) {
-    Hinweis(std::string("Fehler beim Beenden: ") + Fehler.what());
-    return -1;
-  }
+  int Ergebnis = -1;
+  const auto Tun = [&] { Ergebnis = HauptKoordinatendateiWechseln(true); };
+  return Geschützt("Haupt.Beenden", Tun, "Fehler beim Beenden: ") < 0 ? -1 : Ergebnis;
 }
 
 void HauptfensterAktiviert() {

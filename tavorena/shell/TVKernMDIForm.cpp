@@ -1,9 +1,8 @@
 #include <algorithm>
-#include <exception>
 
+#include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/shell/Befehle.h>
@@ -101,12 +100,11 @@ int TVKernMDIForm::Hilfe(const Menüeintrag& E) const {
 void TVKernMDIForm::Ausführen(std::string_view Name) {
   const Menüeintrag* E = MenüFinden(Name);
   if (E == nullptr || !Aktiv(*E)) return;
-  try {
+  const auto Tun = [&] {
     if (IstHist(*E)) return HistorieÖffnen(HistIndex(IndexVon(Name)));
     if (const Befehl* B = BefehlFinden(Name)) B->Tun();
-  } catch (const std::exception&) {
-    LaufzeitFehlerMeldung(Laufzeitfehler::Index, "TVKernMDIForm." + std::string(Name));
-  }
+  };
+  static_cast<void>(Geschützt("TVKernMDIForm." + std::string(Name), Tun));  // the message is the answer
 }
 
 void TVKernMDIForm::WerkzeugAusführen(const Werkzeug& W) {

@@ -158,6 +158,20 @@ TEST_F(Haupt, BeendenFragtUndSichert) {
   EXPECT_TRUE(Inhalt(A_kor).starts_with("             7 "));
 }
 
+TEST_F(Haupt, WasGeworfenWirdEndetInDerMeldung) {
+  Öffne();
+  Skript.BeiBlatt = [](Formular&) { throw std::bad_alloc(); };
+  Skript.Erwarte("Fehler 7 in TVKernMDIForm.MenüKatasterDis (std::bad_alloc) wurde ausgelöst");
+  Befehl("MenüKatasterDis");
+  Skript.Erwarte("Tavorena beenden ?", KnopfJa);
+  Skript.BeiMeldung = [](const std::string& Text) {
+    if (Text.find("speichern ? ") != std::string::npos) throw std::runtime_error("x");
+  };
+  Skript.Erwarte("Fehler beim Beenden: Fehler 9 in Haupt.Beenden (x) wurde ausgelöst");
+  EXPECT_EQ(HauptBeenden(), -1);
+  EXPECT_EQ(KoordinatendateiName, A_kor);
+}
+
 TEST_F(Haupt, ProtokollwechselAnsichtUndTextErsetzen) {
   Öffne();
   Befehl("MenüDateiProtokoll", "");

@@ -71,6 +71,7 @@ PlattformSkript::~PlattformSkript() {
 }
 
 int PlattformSkript::Meldung(const std::string& Text, Knöpfe /*Art*/, const std::string& Überschrift) {
+  BeiMeldung(Text);
   Titel.push_back(Überschrift);
   const auto [Stück, Antwort] = Nehmen(Offen, "message: " + Text);
   EXPECT_NE(Text.find(Stück), std::string::npos) << Text;

@@ -80,7 +80,8 @@ class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf,
   std::deque<std::string> Dateien;                       ///< names that the file dialogs give, in order
   std::deque<std::function<void(Formular&)>> Formulare;  ///< what is done in each modal form, in order
   std::function<void(Formular&)> BeiBlatt;               ///< what is done with a worksheet that is shown
-  std::function<void()> BeiEreignissen = [] {};          ///< runs when the event queue is served
+  std::function<void(const std::string& Text)> BeiMeldung = [](const std::string&) {};
+  std::function<void()> BeiEreignissen = [] {};  ///< runs when the event queue is served
   std::array<std::string, 8> Status;
   std::vector<std::string> Titel;
   std::vector<Dateiauftrag> Aufträge;
