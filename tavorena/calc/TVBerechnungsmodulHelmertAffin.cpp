@@ -7,7 +7,6 @@
 
 #include <tavorena/calc/TVBerechnungsmodul.h>
 #include <tavorena/calc/TVBerechnungsmodulHelmertAffin.h>
-#include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace tavorena {
 namespace {
@@ -92,8 +91,8 @@ int EinenUmformen(Lage Punkt, const Parameterart& Parameter, Lage& Neu) {
   return Abstand(Parameter.SchwerpunktAltesSystem, Punkt) <= Parameter.MaximalerAbstand ? 0 : 1;
 }
 
-// Transforms a piece of the table. With the test, the sign bit of the result tells a point outside: an OR of
-// signs is what compilers can keep in vectors, comparisons are not.
+// Transforms a piece of the columns. With the test, the sign bit of the result tells a point outside: an OR
+// of signs is what compilers can keep in vectors, comparisons are not.
 template <bool MitTest, typename Parameterart>
 std::uint64_t StückUmformen(double* R, double* H, std::size_t Anzahl, const Parameterart Parameter,
                             double Grenze) {
@@ -108,14 +107,15 @@ std::uint64_t StückUmformen(double* R, double* H, std::size_t Anzahl, const Par
   return Vorzeichen;
 }
 
-// One pass over the table in its order. After the first point outside the test is over.
+// One pass over the columns in their order. After the first point outside the test is over.
 template <typename Parameterart>
-int TabelleUmformen(const Parameterart& Parameter, std::vector<bool>* Ausserhalb) {
+int SpaltenUmformen(const Parameterart& Parameter, std::span<double> Rechts, std::span<double> Hoch,
+                    std::vector<bool>* Ausserhalb) {
   constexpr std::size_t Stück = 512;
   const double Grenze = GrenzeDerQuadrate(Parameter.MaximalerAbstand);
-  double* const R = KorRechts.data();
-  double* const H = KorHoch.data();
-  const auto Anzahl = static_cast<std::size_t>(KorAnzahl);
+  double* const R = Rechts.data();
+  double* const H = Hoch.data();
+  const std::size_t Anzahl = std::min(Rechts.size(), Hoch.size());
   if (Ausserhalb != nullptr) {
     Ausserhalb->resize(Anzahl);
     for (std::size_t i = 0; i < Anzahl; ++i)
@@ -130,7 +130,6 @@ int TabelleUmformen(const Parameterart& Parameter, std::vector<bool>* Ausserhalb
       Draußen = StückUmformen<true>(R + i, H + i, n, Parameter, Grenze) >> 63 != 0;
     }
   }
-  if (Anzahl > 0) KoordinatenGeaendert = true;
   return Draußen ? 1 : 0;
 }
 
@@ -238,8 +237,9 @@ int HelmertNeupunkt(Lage Punkt, const HelmertParameter& Parameter, Lage& Neu) {
   return EinenUmformen(Punkt, Parameter, Neu);
 }
 
-int HelmertHelmertneukor(const HelmertParameter& Parameter, std::vector<bool>* Ausserhalb) {
-  return TabelleUmformen(Parameter, Ausserhalb);
+int HelmertHelmertneukor(const HelmertParameter& Parameter, std::span<double> Rechts, std::span<double> Hoch,
+                         std::vector<bool>* Ausserhalb) {
+  return SpaltenUmformen(Parameter, Rechts, Hoch, Ausserhalb);
 }
 
 Lage HelmertAnpassung(Lage Punkt, const Passpunkte& P, const Restklaffen& Klaffen) {
@@ -255,17 +255,16 @@ Lage HelmertAnpassung(Lage Punkt, const Passpunkte& P, const Restklaffen& Klaffe
   return Sw == 0 ? Lage{} : Lage{Sy / Sw, Sx / Sw};
 }
 
-void HelmertHelmertanpass(const Passpunkte& P, const Restklaffen& Klaffen,
-                          std::vector<Lage>* Verbesserungen) {
-  const auto Anzahl = static_cast<std::size_t>(KorAnzahl);
+void HelmertHelmertanpass(const Passpunkte& P, const Restklaffen& Klaffen, std::span<double> Rechts,
+                          std::span<double> Hoch, std::vector<Lage>* Verbesserungen) {
+  const std::size_t Anzahl = std::min(Rechts.size(), Hoch.size());
   if (Verbesserungen != nullptr) Verbesserungen->resize(Anzahl);
   for (std::size_t i = 0; i < Anzahl; ++i) {
-    const Lage v = HelmertAnpassung({KorRechts[i], KorHoch[i]}, P, Klaffen);
-    KorRechts[i] += v.RW;
-    KorHoch[i] += v.HW;
+    const Lage v = HelmertAnpassung({Rechts[i], Hoch[i]}, P, Klaffen);
+    Rechts[i] += v.RW;
+    Hoch[i] += v.HW;
     if (Verbesserungen != nullptr) (*Verbesserungen)[i] = v;
   }
-  if (Anzahl > 0) KoordinatenGeaendert = true;
 }
 
 int HelmertAffinpara(const ReduziertePasspunkte& P, Lage SchwerpunktNeuesSystem, AffinParameter& Parameter) {
@@ -324,8 +323,9 @@ int HelmertAffinneupunkt(Lage Punkt, const AffinParameter& Parameter, Lage& Neu)
   return EinenUmformen(Punkt, Parameter, Neu);
 }
 
-int HelmertAffinneukor(const AffinParameter& Parameter, std::vector<bool>* Ausserhalb) {
-  return TabelleUmformen(Parameter, Ausserhalb);
+int HelmertAffinneukor(const AffinParameter& Parameter, std::span<double> Rechts, std::span<double> Hoch,
+                       std::vector<bool>* Ausserhalb) {
+  return SpaltenUmformen(Parameter, Rechts, Hoch, Ausserhalb);
 }
 
 int HelmertQuasipass(std::span<const double> ErsteRW, std::span<const double> ErsteHW,

@@ -15,7 +15,7 @@
 /// their names, and are divided by 0.9 by whoever hands them out: deliberate, both steps belong together.
 /// Sums run over coordinates reduced to the centroid. Accuracy within the field: 2e-8 m (Helmert) and 1e-7 m
 /// (affine) for fields of some kilometres and coordinates of up to eight places.
-/// No dialog; only the functions on "the table" touch the point table.
+/// No dialog, no table: whole jobs come in as columns.
 /// Source: C. D. Ghilani, Adjustment Computations, chapter 18; W. Niemeier, Ausgleichungsrechnung.
 
 namespace tavorena {
@@ -151,12 +151,13 @@ void HelmertRestklaff(const ReduziertePasspunkte& P, double a, double b, std::si
 ///         it is transformed in any case
 int HelmertNeupunkt(Lage Punkt, const HelmertParameter& Parameter, Lage& Neupunkt);
 
-/// Transforms Rechts and Hoch of the whole table in place and sets KoordinatenGeaendert; it can not be
-/// undone.
-/// @param[in]  Parameter   of the fit
-/// @param[out] Ausserhalb  for each row: the point was outside; not filled if null
+/// Transforms columns in place.
+/// @param[in]     Parameter     of the fit
+/// @param[in,out] Rechts, Hoch  the points [m], columns of one length
+/// @param[out]    Ausserhalb    for each point: it was outside; not filled if null
 /// @return 0; 1 if a point was outside
-int HelmertHelmertneukor(const HelmertParameter& Parameter, std::vector<bool>* Ausserhalb = nullptr);
+int HelmertHelmertneukor(const HelmertParameter& Parameter, std::span<double> Rechts, std::span<double> Hoch,
+                         std::vector<bool>* Ausserhalb = nullptr);
 
 // ---- distribution of the residuals -----------------------------------------------------------------
 
@@ -167,11 +168,12 @@ int HelmertHelmertneukor(const HelmertParameter& Parameter, std::vector<bool>* A
 /// Source: inverse distance weighting, D. Shepard 1968.
 Lage HelmertAnpassung(Lage Punkt, const Passpunkte& P, const Restklaffen& Klaffen);
 
-/// Adds the corrections to every point of the table, passpoint or not, and sets KoordinatenGeaendert.
-/// @param[in]  P, Klaffen      passpoints (their new coordinates) and residuals of the fit
-/// @param[out] Verbesserungen  of each row; not filled if null
-void HelmertHelmertanpass(const Passpunkte& P, const Restklaffen& Klaffen,
-                          std::vector<Lage>* Verbesserungen = nullptr);
+/// Adds the corrections to every point, passpoint or not.
+/// @param[in]     P, Klaffen      passpoints (their new coordinates) and residuals of the fit
+/// @param[in,out] Rechts, Hoch    the transformed points [m], columns of one length
+/// @param[out]    Verbesserungen  of each point; not filled if null
+void HelmertHelmertanpass(const Passpunkte& P, const Restklaffen& Klaffen, std::span<double> Rechts,
+                          std::span<double> Hoch, std::vector<Lage>* Verbesserungen = nullptr);
 
 // ---- affine ----------------------------------------------------------------------------------------
 
@@ -201,7 +203,8 @@ void HelmertAffinrestklaff(const Passpunkte& P, const AffinParameter& Parameter,
 int HelmertAffinneupunkt(Lage Punkt, const AffinParameter& Parameter, Lage& Neupunkt);
 
 /// As HelmertHelmertneukor.
-int HelmertAffinneukor(const AffinParameter& Parameter, std::vector<bool>* Ausserhalb = nullptr);
+int HelmertAffinneukor(const AffinParameter& Parameter, std::span<double> Rechts, std::span<double> Hoch,
+                       std::vector<bool>* Ausserhalb = nullptr);
 
 // ---- passpoints by position ------------------------------------------------------------------------
 

@@ -177,18 +177,27 @@ int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start) {
 
 void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, int NegHoch, int NegHoehe,
                     int Tausch) {
+  KorAbbilden([&](const KorSpalten& S) {
+    for (std::size_t i = 0; i < S.Rechts.size(); ++i) {
+      double r = (NegRechts == 1 ? -S.Rechts[i] : S.Rechts[i]) + dRechts;
+      double h = (NegHoch == 1 ? -S.Hoch[i] : S.Hoch[i]) + dHoch;
+      double z = (NegHoehe == 1 ? -S.Hoehe[i] : S.Hoehe[i]) + dHoehe;
+      if (Tausch == 1) Tauschen(r, h);
+      if (Tausch == 2) Tauschen(h, z);
+      if (Tausch == 3) Tauschen(r, z);
+      S.Rechts[i] = r;
+      S.Hoch[i] = h;
+      S.Hoehe[i] = z;
+    }
+    return 0;
+  });
+}
+
+int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung) {
   if (KorAnzahl > 0) KoordinatenGeaendert = true;
-  for (std::size_t i = 0; i < Reihe(KorAnzahl); ++i) {
-    double r = (NegRechts == 1 ? -KorRechts[i] : KorRechts[i]) + dRechts;
-    double h = (NegHoch == 1 ? -KorHoch[i] : KorHoch[i]) + dHoch;
-    double z = (NegHoehe == 1 ? -KorHoehe[i] : KorHoehe[i]) + dHoehe;
-    if (Tausch == 1) Tauschen(r, h);
-    if (Tausch == 2) Tauschen(h, z);
-    if (Tausch == 3) Tauschen(r, z);
-    KorRechts[i] = r;
-    KorHoch[i] = h;
-    KorHoehe[i] = z;
-  }
+  const std::size_t n = Reihe(KorAnzahl);
+  return Abbildung(
+      {std::span(KorRechts).first(n), std::span(KorHoch).first(n), std::span(KorHoehe).first(n)});
 }
 
 void KorAnzahlAnzeigen(const std::string& Zusatz) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,6 +88,15 @@ int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start);
 /// 1 Rechts and Hoch, 2 Hoch and Hoehe, 3 Rechts and Hoehe.
 void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, int NegHoch, int NegHoehe,
                     int Tausch);
+
+/// The coordinates of all rows, to be written [m].
+struct KorSpalten {
+  std::span<double> Rechts, Hoch, Hoehe;
+};
+
+/// Hands the coordinates of the whole table to a function that maps them, as one change.
+/// @return what the function answers
+int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung);
 
 /// Writes the number of points to the status bar, Zusatz in front of it.
 void KorAnzahlAnzeigen(const std::string& Zusatz = "");

@@ -220,11 +220,13 @@ enmResult TA::HelmertTransformationAlleKoordinaten(double dSchwerpunktAltesSyste
   if (!Endlich(dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW, dSchwerpunktNeuesSystemRW,
                dSchwerpunktNeuesSystemHW, ParamA, ParamB, dMaximalerAbstand))
     return enmResult::Fehler_Allgemein;
-  return Neupunktergebnis(HelmertHelmertneukor({{dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW},
-                                                {dSchwerpunktNeuesSystemRW, dSchwerpunktNeuesSystemHW},
-                                                ParamA,
-                                                ParamB,
-                                                HelmertRand(dMaximalerAbstand)}));
+  const HelmertParameter Parameter{{dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW},
+                                   {dSchwerpunktNeuesSystemRW, dSchwerpunktNeuesSystemHW},
+                                   ParamA,
+                                   ParamB,
+                                   HelmertRand(dMaximalerAbstand)};
+  return Neupunktergebnis(
+      KorAbbilden([&](const KorSpalten& S) { return HelmertHelmertneukor(Parameter, S.Rechts, S.Hoch); }));
 }
 
 enmResult TA::HelmertTransformationKoordinatendateiPasspunktdatei(const std::string& strKoordinatendateiName,
@@ -343,14 +345,16 @@ enmResult TA::AffinTransformationAlleKoordinatenSigmamax(double dSchwerpunktAlte
   if (!Endlich(dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW, dParamA10, dParamA11, dParamA12,
                dParamA20, dParamA21, dParamA22, dMaximalerAbstand))
     return enmResult::Fehler_Allgemein;
-  return Neupunktergebnis(HelmertAffinneukor({dParamA11,
-                                              dParamA12,
-                                              dParamA10,
-                                              dParamA21,
-                                              dParamA22,
-                                              dParamA20,
-                                              {dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW},
-                                              dMaximalerAbstand}));
+  const AffinParameter Parameter{dParamA11,
+                                 dParamA12,
+                                 dParamA10,
+                                 dParamA21,
+                                 dParamA22,
+                                 dParamA20,
+                                 {dSchwerpunktAltesSystemRW, dSchwerpunktAltesSystemHW},
+                                 dMaximalerAbstand};
+  return Neupunktergebnis(
+      KorAbbilden([&](const KorSpalten& S) { return HelmertAffinneukor(Parameter, S.Rechts, S.Hoch); }));
 }
 
 enmResult TA::AffinTransformationAlleKoordinaten(double dParamA10, double dParamA11, double dParamA12,

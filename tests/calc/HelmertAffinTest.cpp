@@ -163,6 +163,35 @@ TEST(HelmertAffin, AnpassungUndPasspunkteNachOrt) {
   EXPECT_EQ(Gefunden.size(), 10000U);
 }
 
+// Columns as a whole and point by point: the same bits and the same verdicts, wherever the border lies.
+TEST(HelmertAffin, SpaltenStimmenMitEinzelpunktenÜberein) {
+  Gelände G;
+  Zahlen R(1500), H(1500);
+  for (std::size_t i = 0; i < R.size(); ++i) R[i] = G().RW, H[i] = G().HW;
+  for (std::size_t g = 0; g < 1500; g += 31) {
+    const Lage Mitte{3.405e6, 5.705e6};
+    const double Rand = Abstand(Mitte, {R[g], H[g]});
+    const HelmertParameter h{Mitte, {12, 34}, .8, -.6, Rand};
+    const AffinParameter p{.5, .25, 1, 2, 3, 4, Mitte, Rand};
+    std::vector<bool> AussenH, AussenA;
+    Lage N;
+    Zahlen NeuR = R, NeuH = H;
+    EXPECT_EQ(HelmertHelmertneukor(h, NeuR, NeuH, &AussenH), 1);
+    for (std::size_t i = 0; i < 1500; ++i) {
+      ASSERT_EQ(HelmertNeupunkt({R[i], H[i]}, h, N), AussenH[i] ? 1 : 0) << i;
+      ASSERT_EQ(N, (Lage{NeuR[i], NeuH[i]})) << i;
+    }
+    NeuR = R, NeuH = H;
+    EXPECT_EQ(HelmertAffinneukor(p, NeuR, NeuH, &AussenA), 1);
+    EXPECT_TRUE(AussenH == AussenA && !AussenH[g]);
+    HelmertAffinneupunkt({R[1499], H[1499]}, p, N);
+    EXPECT_EQ(N, (Lage{NeuR[1499], NeuH[1499]}));
+  }
+  const double Vorher = H[0];
+  HelmertHelmertanpass({Zahlen{1}, Zahlen{1}, Zahlen{1}, Zahlen{1}}, {{.5}, {-.25}, {0}, 0, 0}, R, H);
+  EXPECT_NEAR(H[0], Vorher - .25, 1e-8);  // a single passpoint: its residual everywhere
+}
+
 class Transformation : public FeldTest {
  protected:
   // Vor is the number of numbers before the residuals; two come after them.
@@ -265,36 +294,6 @@ TEST_F(Transformation, NeupunktUndTabelle) {
     EXPECT_EQ(Ta.AffinTransformationAlleKoordinaten(1, 2, 3, 4, 5, 6), ok);
     EXPECT_TRUE(Nahe({KorRechts[0], KorHoch[0], KorHoehe[0]}, {a, b, 12.5}));
   }
-}
-
-// The table as a whole and point by point: the same bits and the same verdicts, wherever the border lies.
-TEST_F(Transformation, TabelleStimmtMitEinzelpunktenÜberein) {
-  Gelände G;
-  KorAnzahl = 1500;
-  for (std::size_t i = 0; i < 1500; ++i) KorRechts[i] = G().RW, KorHoch[i] = G().HW;
-  const Zahlen R = KorRechts, H = KorHoch;
-  for (std::size_t g = 0; g < 1500; g += 31) {
-    const Lage Mitte{3.405e6, 5.705e6};
-    const double Rand = Abstand(Mitte, {R[g], H[g]});
-    const HelmertParameter h{Mitte, {12, 34}, .8, -.6, Rand};
-    const AffinParameter p{.5, .25, 1, 2, 3, 4, Mitte, Rand};
-    std::vector<bool> AussenH, AussenA;
-    Lage N;
-    KorRechts = R, KorHoch = H;
-    EXPECT_EQ(HelmertHelmertneukor(h, &AussenH), 1);
-    for (std::size_t i = 0; i < 1500; ++i) {
-      ASSERT_EQ(HelmertNeupunkt({R[i], H[i]}, h, N), AussenH[i] ? 1 : 0) << i;
-      ASSERT_EQ(N, (Lage{KorRechts[i], KorHoch[i]})) << i;
-    }
-    KorRechts = R, KorHoch = H;
-    EXPECT_EQ(HelmertAffinneukor(p, &AussenA), 1);
-    EXPECT_TRUE(AussenH == AussenA && !AussenH[g]);
-    HelmertAffinneupunkt({R[1499], H[1499]}, p, N);
-    EXPECT_EQ(N, (Lage{KorRechts[1499], KorHoch[1499]}));
-  }
-  const double Vorher = KorHoch[0];
-  HelmertHelmertanpass({Zahlen{1}, Zahlen{1}, Zahlen{1}, Zahlen{1}}, {{.5}, {-.25}, {0}, 0, 0});
-  EXPECT_NEAR(KorHoch[0], Vorher - .25, 1e-8);  // a single passpoint: its residual everywhere
 }
 
 TEST_F(Transformation, DateiZuDatei) {
