@@ -1,6 +1,5 @@
 #include "Fuzzhilfe.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -61,19 +60,6 @@ std::string Inhalt(const std::string& Name) {
   std::string Bytes;
   Prüfen(DateiLesen(Name, Bytes) == 0, "die Datei ist lesbar");
   return Bytes;
-}
-
-void TabelleLeeren() {
-  KorPnrSetzen(0, ",");  // the table remembers that there was a comma, until KorLeeren
-  const int Reihen = std::min(KorAnzahl + 1, KorZeilen);  // a read tries one row more than it keeps
-  for (int i = 0; i < Reihen; ++i) {
-    const auto z = static_cast<std::size_t>(i);
-    KorPnrSetzen(i, "");
-    KorRechts[z] = KorHoch[z] = KorHoehe[z] = 0;
-    KorSymbol[z].clear();
-    KorInfo[z] = {};
-  }
-  KorAnzahl = 0;
 }
 
 void TabellePrüfen() {

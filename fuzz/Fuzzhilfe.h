@@ -32,10 +32,6 @@ std::string Datei(const char* Name, std::string_view Bytes);
 /// The bytes of a file, which must be there.
 std::string Inhalt(const std::string& Name);
 
-/// The same state of the table for each run. KorLeeren walks over all its rows, but a short input has touched
-/// only the first ones.
-void TabelleLeeren();
-
 /// The promises of a table in any state: the search finds each number, at the first row that holds it.
 void TabellePrüfen();
 

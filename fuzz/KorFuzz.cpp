@@ -45,7 +45,7 @@ void SchreibenUndLesen() {
 }
 
 void Lauf(Eingabe E) {
-  TabelleLeeren();
+  KorLeeren();
   const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
   const bool Komma = E.Rest().find(',') != std::string_view::npos;
   for (const char* Pnr : {"1", "12", "A7"}) {

@@ -36,7 +36,7 @@ void ZeilePrüfen(int Zeile) {
 }
 
 void Lauf(Eingabe E) {
-  TabelleLeeren();
+  KorLeeren();
   const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
   std::string Name = Datei("a.lt4", E.Rest()), Text;
   Prüfen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");

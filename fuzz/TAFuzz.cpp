@@ -211,13 +211,9 @@ void Rufen(TA& Ta, Eingabe& E, enmResult (TA::*Methode)(P...)) {
 
 // The table holds the points 1 to 6 somewhere.
 void Tabelle(Eingabe& E) {
-  TabelleLeeren();
-  for (int i = 0; i < Tabellenpunkte; ++i) {
-    KorPnrSetzen(i, std::to_string(i + 1));
-    KorRechts[static_cast<std::size_t>(i)] = Gleitzahl(E);
-    KorHoch[static_cast<std::size_t>(i)] = Gleitzahl(E);
-  }
-  KorAnzahl = Tabellenpunkte;
+  KorLeeren();
+  for (int i = 1; i <= Tabellenpunkte; ++i)
+    Prüfen(KorAnhängen({std::to_string(i), Gleitzahl(E), Gleitzahl(E)}) == 0, "die Tabelle faßt die Punkte");
 }
 
 template <typename... Methode>

@@ -14,8 +14,6 @@
 namespace tavorena {
 namespace {
 
-std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
-
 bool KürzerAls(std::string_view Zeile, std::size_t Zeichen) {
   return Zeile.size() < Zeichen || (Zeile.size() < 4 * Zeichen && ZeichenAnzahl(Zeile) < Zeichen);
 }
@@ -27,48 +25,31 @@ std::string_view Spalten(std::string_view Zeile, std::size_t Von, std::size_t Bi
   return TextTeil(Zeile, Von - 1, Bis - Von + 1);
 }
 
-struct KorFelder {
-  std::string_view Pnr, Symbol;
-  double Rechts = 0, Hoch = 0, Hoehe = 0;
-};
+// The line readers fill what the format has; the rest of the row stays as it was. The views lie in the line.
 
-bool KorZerlegen(std::string_view Zeile, KorFelder& F) {
+bool KorZerlegen(std::string_view Zeile, KorSatz& S) {
   if (KürzerAls(Zeile, 6)) return false;
-  F.Pnr = Wortnehmen(Zeile);
-  F.Rechts = ZahlAusText(Wortnehmen(Zeile));
-  F.Hoch = ZahlAusText(Wortnehmen(Zeile));
-  F.Hoehe = ZahlAusText(Wortnehmen(Zeile));
-  F.Symbol = Wortnehmen(Zeile);
+  S.Pnr = Wortnehmen(Zeile);
+  S.Rechts = ZahlAusText(Wortnehmen(Zeile));
+  S.Hoch = ZahlAusText(Wortnehmen(Zeile));
+  S.Hoehe = ZahlAusText(Wortnehmen(Zeile));
+  S.Symbol = Wortnehmen(Zeile);
   return true;
 }
 
-// Fills a row of the table from a line. -1: no point in this line.
-int KorInReihe(std::string_view Zeile, int z) {
-  KorFelder F;
-  if (!KorZerlegen(Zeile, F)) return -1;
-  KorPnrSetzen(z, F.Pnr);
-  KorRechts[Reihe(z)] = F.Rechts;
-  KorHoch[Reihe(z)] = F.Hoch;
-  KorHoehe[Reihe(z)] = F.Hoehe;
-  KorSymbol[Reihe(z)].assign(F.Symbol);
-  return 0;
-}
-
-int Lt4InReihe(std::string_view Zeile, int z) {
-  std::string Pnr;
-  // The height of the row is left as it is: the format has none.
-  const int Ergebnis = Lt4ZeileLesen(Zeile, Pnr, KorRechts[Reihe(z)], KorHoch[Reihe(z)], KorSymbol[Reihe(z)],
-                                     KorInfo[Reihe(z)]);
-  if (Ergebnis >= 0) KorPnrSetzen(z, Pnr);
-  return Ergebnis;
-}
-
-using Reihenleser = int (*)(std::string_view, int);
-
-Reihenleser LeserFür(int Format) {
-  if (Format == FormatKor) return KorInReihe;
-  if (Format == FormatLt4) return Lt4InReihe;
-  return nullptr;
+bool Lt4Zerlegen(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
+  if (Zeile.starts_with('#') || KürzerAls(Zeile, 64)) return false;
+  S.Pnr = Spalten(Zeile, 9, 18);
+  S.Rechts = ZahlAusText(Spalten(Zeile, 24, 34));
+  S.Hoch = ZahlAusText(Spalten(Zeile, 36, 46));
+  S.Symbol = "2";
+  Info = {};
+  Info.Lagestatus = Spalten(Zeile, 1, 3);
+  Info.Vermarkungsart = Ganzzahl(Spalten(Zeile, 20, 22));
+  Info.Punktstatus = Ganzzahl(Spalten(Zeile, 62, 62));
+  Info.Lagegenauigkeit = Spalten(Zeile, 64, 64);
+  S.Info = &Info;
+  return true;
 }
 
 int ZeilenZählen(std::string_view Text) {
@@ -82,29 +63,30 @@ int ZeilenZählen(std::string_view Text) {
 // One run of KorLesen over the text of a file.
 class Lesung {
  public:
-  Lesung(std::string_view Text, int Modus, Reihenleser Leser,
-         const std::function<bool(std::string_view)>& Nimmt)
-      : Inhalt(Text), LeseModus(Modus), InReihe(Leser), Test(Nimmt) {}
+  Lesung(std::string_view Text, int Modus, int Format, const std::function<bool(std::string_view)>& Nimmt)
+      : Inhalt(Text), LeseModus(Modus), Zeilenart(Format), Test(Nimmt) {}
 
   enum class Ende { Gut, Gestoppt, Voll };
 
   Ende Laufen() {
     Zeilenleser Leser(Inhalt);
     std::string_view Zeile;
+    KorInfoSatz Info;
     while (Leser.Nächste(Zeile)) {
       if (KorAnzahl >= KorGrenze) return Ende::Voll;
-      if (InReihe(Zeile, KorAnzahl) < 0 || Verworfen()) continue;
-      ++KorAnzahl;
+      KorSatz Satz = KorPunkt(KorAnzahl);
+      const bool IstPunkt =
+          Zeilenart == FormatLt4 ? Lt4Zerlegen(Zeile, Satz, Info) : KorZerlegen(Zeile, Satz);
+      if (!IstPunkt || Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) continue;
       if (KorAnzahl % 100 == 0 && Angehalten()) return Ende::Gestoppt;
     }
     return Ende::Gut;
   }
 
  private:
-  [[nodiscard]] bool Verworfen() const {
-    const std::string& Pnr = KorPnr(KorAnzahl);
+  [[nodiscard]] bool Verworfen(std::string_view Pnr) const {
     return TrimmenSicht(Pnr).empty() || (Test && !Test(Pnr)) ||
-           (LeseModus == ModusNurNeue && KorSuche(std::string_view(Pnr)) >= 0);
+           (LeseModus == ModusNurNeue && KorSuche(Pnr) >= 0);
   }
 
   bool Angehalten() {
@@ -123,8 +105,7 @@ class Lesung {
   }
 
   std::string_view Inhalt;
-  int LeseModus;
-  Reihenleser InReihe;
+  int LeseModus, Zeilenart;
   const std::function<bool(std::string_view)>& Test;
   std::string Zusatz;
   double Zuletzt = AblaufPort().Zeitgeber();
@@ -132,11 +113,11 @@ class Lesung {
 
 int Zurücknehmen(int Modus, int AlteAnzahl) {
   if (Modus != ModusErsetzen) {
-    KorAnzahl = AlteAnzahl;
+    KorAbschneiden(AlteAnzahl);
     return 0;
   }
   KoordinatendateiName.clear();
-  KorAnzahl = 0;
+  KorAbschneiden(0);
   return -1;
 }
 
@@ -181,13 +162,13 @@ int Zeilenformat(int Dateiformat) {
 
 int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, double& Hoehe,
                   std::string& Symbol) {
-  KorFelder F;
-  if (!KorZerlegen(Zeile, F)) return -1;
-  Pnr = F.Pnr;
-  Rechts = F.Rechts;
-  Hoch = F.Hoch;
-  Hoehe = F.Hoehe;
-  Symbol = F.Symbol;
+  KorSatz S;
+  if (!KorZerlegen(Zeile, S)) return -1;
+  Pnr = S.Pnr;
+  Rechts = S.Rechts;
+  Hoch = S.Hoch;
+  Hoehe = S.Hoehe;
+  Symbol = S.Symbol;
   return 0;
 }
 
@@ -199,16 +180,12 @@ void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe
 
 int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, std::string& Symbol,
                   KorInfoSatz& Info) {
-  if (Zeile.starts_with('#') || KürzerAls(Zeile, 64)) return -1;
-  Pnr = Spalten(Zeile, 9, 18);
-  Rechts = ZahlAusText(Spalten(Zeile, 24, 34));
-  Hoch = ZahlAusText(Spalten(Zeile, 36, 46));
-  Symbol = "2";
-  Info = {};
-  Info.Lagestatus = Spalten(Zeile, 1, 3);
-  Info.Vermarkungsart = Ganzzahl(Spalten(Zeile, 20, 22));
-  Info.Punktstatus = Ganzzahl(Spalten(Zeile, 62, 62));
-  Info.Lagegenauigkeit = Spalten(Zeile, 64, 64);
+  KorSatz S;
+  if (!Lt4Zerlegen(Zeile, S, Info)) return -1;
+  Pnr = S.Pnr;
+  Rechts = S.Rechts;
+  Hoch = S.Hoch;
+  Symbol = S.Symbol;
   return 0;
 }
 
@@ -223,8 +200,7 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
 int KorLesen(std::string& Dateiname, int Modus, int Format,
              const std::function<bool(std::string_view)>& Nimmt) {
   if (Dateiname.empty()) return -1;
-  const Reihenleser InReihe = LeserFür(Format);
-  if (InReihe == nullptr) {
+  if (Format != FormatKor && Format != FormatLt4) {
     FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
     return -1;
   }
@@ -235,16 +211,16 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
     return -1;
   }
   const int AlteAnzahl = KorAnzahl;
-  KoordinatenGeaendert = Modus != ModusErsetzen;
-  if (Modus == ModusErsetzen) KorAnzahl = 0;
+  if (Modus == ModusErsetzen) KorAbschneiden(0);
   AblaufPort().Beschäftigt(true);
-  const Lesung::Ende Ende = Lesung(Inhalt, Modus, InReihe, Nimmt).Laufen();
+  const Lesung::Ende Ende = Lesung(Inhalt, Modus, Format, Nimmt).Laufen();
   int Ergebnis = 0;
   if (Ende == Lesung::Ende::Gestoppt) Ergebnis = Zurücknehmen(Modus, AlteAnzahl);
   if (Ende == Lesung::Ende::Voll) {
     Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
   }
   if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
+  KorGeaendertSetzen(Modus != ModusErsetzen);
   AblaufPort().Beschäftigt(false);
   KorAnzahlAnzeigen();
   if (Ende != Lesung::Ende::Gestoppt && AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
@@ -255,14 +231,13 @@ int KorText(int Format, std::string& Text) {
   if (Format != FormatKor && Format != FormatLt4) return -1;
   std::string Zeile;
   Text.clear();
-  Text.reserve(Reihe(KorAnzahl) * 64);
+  Text.reserve(static_cast<std::size_t>(KorAnzahl) * 64);
   for (int i = 0; i < KorAnzahl; ++i) {
-    const std::size_t z = Reihe(i);
+    const KorSatz S = KorPunkt(i);
     if (Format == FormatKor) {
-      KorZeileAnhängen(Text, std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorHoehe[z],
-                       KorSymbol[z]);
+      KorZeileAnhängen(Text, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol);
     } else {
-      Lt4ZeileSchreiben(std::string_view(KorPnr(i)), KorRechts[z], KorHoch[z], KorInfo[z], Zeile);
+      Lt4ZeileSchreiben(S.Pnr, S.Rechts, S.Hoch, *S.Info, Zeile);
       Text += Zeile;
     }
     Text += "\r\n";
@@ -287,7 +262,7 @@ int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maxi
   }
   Zeilenleser Leser(Inhalt);
   std::string_view Zeile;
-  KorFelder F;
+  KorSatz F;
   while (Leser.Nächste(Zeile)) {
     if (!KorZerlegen(Zeile, F) || F.Pnr.empty()) continue;
     if (Anzahl == Maximum) {

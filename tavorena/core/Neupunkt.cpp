@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
@@ -8,8 +6,6 @@
 namespace tavorena {
 namespace {
 
-std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
-
 struct NeuerPunkt {
   double Rechts, Hoch;
   const Wert& Hoehe;
@@ -17,44 +13,42 @@ struct NeuerPunkt {
   const KorInfoSatz* Info;
 };
 
-int Anhängen(const std::string& Pnr, const NeuerPunkt& P) {
-  if (KorAnzahl >= KorZeilen) {
+int Anfügen(const std::string& Pnr, const NeuerPunkt& P) {
+  KorInfoSatz Ohne;
+  Ohne.Punktart = PunktartVon(P.Symbol);
+  if (KorAnhängen({Pnr, P.Rechts, P.Hoch, P.Hoehe.Zahl(), P.Symbol, P.Info != nullptr ? P.Info : &Ohne}) <
+      0) {
     LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.Neupunkt");
     return -1;
   }
-  const std::size_t z = Reihe(KorAnzahl);
-  KorPnrSetzen(KorAnzahl, Pnr);
-  KorRechts[z] = P.Rechts;
-  KorHoch[z] = P.Hoch;
-  KorHoehe[z] = P.Hoehe.Zahl();
-  KorSymbol[z] = P.Symbol;
-  KorInfo[z] = P.Info != nullptr ? *P.Info : KorInfoSatz{};
-  if (P.Info == nullptr) KorInfo[z].Punktart = PunktartVon(P.Symbol);
-  ++KorAnzahl;
   KorAnzahlAnzeigen();
   KorSortieren();
   return 0;
 }
 
-void AltenErsetzen(int Zeile, const NeuerPunkt& P) {
-  KorRechts[Reihe(Zeile)] = P.Rechts;
-  KorHoch[Reihe(Zeile)] = P.Hoch;
-  KorHoehe[Reihe(Zeile)] = P.Hoehe.Zahl();
-  KorSymbol[Reihe(Zeile)] = P.Symbol;
+int AltenErsetzen(int Zeile, const NeuerPunkt& P) {
+  KorSatz Satz = KorPunkt(Zeile);
+  Satz.Rechts = P.Rechts;
+  Satz.Hoch = P.Hoch;
+  Satz.Hoehe = P.Hoehe.Zahl();
+  Satz.Symbol = P.Symbol;
+  return KorZeileSetzen(Zeile, Satz);
 }
 
-void Mitteln(int Zeile, const NeuerPunkt& P) {
-  const std::size_t z = Reihe(Zeile);
-  Mittelpunkt Mittel{KorPnr(Zeile), KorRechts[z], KorHoch[z], P.Rechts, P.Hoch};
-  Mittel.Rechts = KorRechts[z] = (KorRechts[z] + P.Rechts) / 2;
-  Mittel.Hoch = KorHoch[z] = (KorHoch[z] + P.Hoch) / 2;
-  if (KorHoehe[z] == 0) {
-    if (P.Hoehe.IstGegeben()) KorHoehe[z] = P.Hoehe.Zahl();
+int Mitteln(int Zeile, const NeuerPunkt& P) {
+  KorSatz Satz = KorPunkt(Zeile);
+  Mittelpunkt Mittel{std::string(Satz.Pnr), Satz.Rechts, Satz.Hoch, P.Rechts, P.Hoch};
+  Mittel.Rechts = Satz.Rechts = (Satz.Rechts + P.Rechts) / 2;
+  Mittel.Hoch = Satz.Hoch = (Satz.Hoch + P.Hoch) / 2;
+  if (Satz.Hoehe == 0) {
+    if (P.Hoehe.IstGegeben()) Satz.Hoehe = P.Hoehe.Zahl();
   } else if (P.Hoehe.Zahl() != 0) {
-    KorHoehe[z] = (KorHoehe[z] + P.Hoehe.Zahl()) / 2;
+    Satz.Hoehe = (Satz.Hoehe + P.Hoehe.Zahl()) / 2;
   }
-  if (KorSymbol[z].empty()) KorSymbol[z] = P.Symbol;
+  if (Satz.Symbol.empty()) Satz.Symbol = P.Symbol;
+  if (KorZeileSetzen(Zeile, Satz) < 0) return -1;
   if (Haken.MittelEintragen) Haken.MittelEintragen(Mittel);
+  return 0;
 }
 
 Konfliktantwort Fragen(const Konflikt& Frage) {
@@ -68,26 +62,23 @@ Konfliktantwort Fragen(const Konflikt& Frage) {
 
 int AlterNeueNummer(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
                     NeupunktErgebnis& Ergebnis) {
-  if (KorAnzahl >= KorZeilen) return Anhängen(Ergebnis.Pnr, P);  // reports the full table, changes nothing
-  Ergebnis.Rechts = KorRechts[Reihe(Zeile)];
-  Ergebnis.Hoch = KorHoch[Reihe(Zeile)];
-  Ergebnis.AlterPnr = Antwort.NeuePnr;
-  KorPnrSetzen(Zeile, Antwort.NeuePnr);
+  if (KorAnzahl >= KorZeilen) return Anfügen(Ergebnis.Pnr, P);  // reports the full table, changes nothing
+  KorSatz Satz = KorPunkt(Zeile);
+  Ergebnis.Rechts = Satz.Rechts;
+  Ergebnis.Hoch = Satz.Hoch;
+  Ergebnis.AlterPnr = Satz.Pnr = Antwort.NeuePnr;
+  if (KorZeileSetzen(Zeile, Satz) < 0) return -1;
   KorSortieren();
-  Anhängen(Ergebnis.Pnr, P);
-  return 3;
+  return Anfügen(Ergebnis.Pnr, P) < 0 ? -1 : 3;
 }
 
 int AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
                      NeupunktErgebnis& Ergebnis) {
-  if (Antwort.Wort == "ALÖ") {
-    AltenErsetzen(Zeile, P);
-    return 1;
-  }
+  if (Antwort.Wort == "ALÖ") return AltenErsetzen(Zeile, P) < 0 ? -1 : 1;
   if (Antwort.Wort == "MIT" || Antwort.Wort == "NLÖ") {
-    if (Antwort.Wort == "MIT") Mitteln(Zeile, P);
-    Ergebnis.Rechts = KorRechts[Reihe(Zeile)];
-    Ergebnis.Hoch = KorHoch[Reihe(Zeile)];
+    if (Antwort.Wort == "MIT" && Mitteln(Zeile, P) < 0) return -1;
+    Ergebnis.Rechts = KorPunkt(Zeile).Rechts;
+    Ergebnis.Hoch = KorPunkt(Zeile).Hoch;
     if (Antwort.Wort == "MIT") return 2;
     Ergebnis.Pnr = KorPnr(Zeile);
     return 11;
@@ -96,7 +87,7 @@ int AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Ant
   if (Antwort.Wort == "ANN") return AlterNeueNummer(Zeile, P, Antwort, Ergebnis);
   if (Antwort.Wort == "NNN") {
     Ergebnis.AlterPnr = std::exchange(Ergebnis.Pnr, Antwort.NeuePnr);
-    return Anhängen(Ergebnis.Pnr, P) < 0 ? -1 : 13;
+    return Anfügen(Ergebnis.Pnr, P) < 0 ? -1 : 13;
   }
   return -1;
 }
@@ -114,14 +105,14 @@ int KorFind(Wert& Pnr) {
 
 int Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
              const KorInfoSatz* Info, NeupunktErgebnis& Ergebnis) {
-  KoordinatenGeaendert = true;
+  KorGeaendertSetzen(true);  // also if nothing is stored: settled behaviour
   Ergebnis = {0, 0, Pnr.IstText() ? Pnr.Text() : ZahlNachText(Pnr).Text(), Rechts, Hoch, {}};
   if (TrimmenSicht(Ergebnis.Pnr).empty()) return -1;
   const NeuerPunkt P{Rechts, Hoch, Hoehe, Symbol, Info};
   const int Zeile = KorSuche(Pnr);
-  if (Zeile < 0) return Anhängen(Ergebnis.Pnr, P);
-  Ergebnis.DeltaRechts = Rechts - KorRechts[Reihe(Zeile)];
-  Ergebnis.DeltaHoch = Hoch - KorHoch[Reihe(Zeile)];
+  if (Zeile < 0) return Anfügen(Ergebnis.Pnr, P);
+  Ergebnis.DeltaRechts = Rechts - KorPunkt(Zeile).Rechts;
+  Ergebnis.DeltaHoch = Hoch - KorPunkt(Zeile).Hoch;
   const Konfliktantwort Antwort = Fragen({Ergebnis.Pnr, Zeile, Rechts, Hoch, Hoehe, Symbol});
   const int Code = AntwortAusführen(Zeile, P, Antwort, Ergebnis);
   if (Code == 11 || Code == 13) Pnr = Wert(Ergebnis.Pnr);

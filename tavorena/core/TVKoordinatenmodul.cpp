@@ -10,22 +10,7 @@
 
 namespace tavorena {
 
-int KorAnzahl = 0;
-std::vector<double> KorRechts(KorZeilen), KorHoch(KorZeilen), KorHoehe(KorZeilen);
-std::vector<std::string> KorSymbol(KorZeilen);
-std::vector<KorInfoSatz> KorInfo(KorZeilen);
-std::string KoordinatendateiName;
-std::int16_t Koordinatendateiformat = 0;
-bool KoordinatenGeaendert = false;
-std::string KorStop;
-KoordinatenHaken Haken;
-
 namespace {
-
-std::vector<std::string> Nummern(KorZeilen);
-std::vector<double> Zahlwerte(KorZeilen);             // ZahlAusText of each number, for the sort
-std::vector<std::uint64_t> Suchschlüssel(KorZeilen);  // of each trimmed number, for the search
-bool MitKomma = false;                                // a number may hold a ","
 
 std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 
@@ -37,53 +22,126 @@ std::uint64_t SchlüsselVon(std::string_view Getrimmt) {
   return Schlüssel;
 }
 
-void ZeileKopieren(int Nach, int Von, bool MitSymbol, bool MitInfo) {
-  const std::size_t n = Reihe(Nach), v = Reihe(Von);
-  Nummern[n] = Nummern[v];
-  Zahlwerte[n] = Zahlwerte[v];
-  Suchschlüssel[n] = Suchschlüssel[v];
-  KorRechts[n] = KorRechts[v];
-  KorHoch[n] = KorHoch[v];
-  KorHoehe[n] = KorHoehe[v];
-  if (MitSymbol) KorSymbol[n] = KorSymbol[v];
-  if (MitInfo) KorInfo[n] = KorInfo[v];
+struct Punkttabelle {
+  int Anzahl = 0;
+  int Benutzt = 0;  // rows behind this one are as the table was made
+  bool Geändert = false;
+  bool MitKomma = false;  // a number may hold a ","
+  std::uint64_t Stand = 0;
+  std::vector<std::string> Nummern = std::vector<std::string>(KorZeilen);
+  std::vector<double> Zahlwerte = std::vector<double>(KorZeilen);  // ZahlAusText of each number, for the sort
+  std::vector<std::uint64_t> Suchschlüssel = std::vector<std::uint64_t>(KorZeilen);  // of each trimmed number
+  std::vector<double> Rechts = Zahlwerte, Hoch = Zahlwerte, Hoehe = Zahlwerte;
+  std::vector<std::string> Symbol = Nummern;
+  std::vector<KorInfoSatz> Info = std::vector<KorInfoSatz>(KorZeilen);
+
+  void Schreiben(int Zeile, const KorSatz& S) {
+    const std::size_t z = Reihe(Zeile);
+    Nummern[z].assign(S.Pnr);
+    Zahlwerte[z] = ZahlAusText(S.Pnr);
+    Suchschlüssel[z] = SchlüsselVon(TrimmenSicht(S.Pnr));
+    if (S.Pnr.find(',') != std::string_view::npos) MitKomma = true;
+    Rechts[z] = S.Rechts;
+    Hoch[z] = S.Hoch;
+    Hoehe[z] = S.Hoehe;
+    Symbol[z].assign(S.Symbol);
+    if (S.Info == nullptr) {
+      Info[z] = {};
+    } else if (S.Info != &Info[z]) {
+      Info[z] = *S.Info;
+    }
+    Benutzt = std::max(Benutzt, Zeile + 1);
+  }
+
+  void Kopieren(int Nach, int Von, bool MitSymbol, bool MitInfo) {
+    const std::size_t n = Reihe(Nach), v = Reihe(Von);
+    Nummern[n] = Nummern[v];
+    Zahlwerte[n] = Zahlwerte[v];
+    Suchschlüssel[n] = Suchschlüssel[v];
+    Rechts[n] = Rechts[v];
+    Hoch[n] = Hoch[v];
+    Hoehe[n] = Hoehe[v];
+    if (MitSymbol) Symbol[n] = Symbol[v];
+    if (MitInfo) Info[n] = Info[v];
+    Benutzt = std::max(Benutzt, Nach + 1);
+  }
+};
+
+Punkttabelle Tabelle;
+
+// Every change comes by here before it happens. A sort alone asks for no saving.
+void Vor(KorTat Tat, int Von, int Bis, std::span<const int> Folge = {}) {
+  if (Haken.VorÄnderung) Haken.VorÄnderung({Tat, Von, Bis, Folge});
+  ++Tabelle.Stand;
+  if (Tat != KorTat::Ordnen) Tabelle.Geändert = true;
 }
 
 }  // namespace
 
+const int& KorAnzahl = Tabelle.Anzahl;
+const std::vector<double>&KorRechts = Tabelle.Rechts, &KorHoch = Tabelle.Hoch, &KorHoehe = Tabelle.Hoehe;
+const std::vector<std::string>& KorSymbol = Tabelle.Symbol;
+const std::vector<KorInfoSatz>& KorInfo = Tabelle.Info;
+const bool& KoordinatenGeaendert = Tabelle.Geändert;
+const std::uint64_t& KorStand = Tabelle.Stand;
+std::string KoordinatendateiName;
+std::int16_t Koordinatendateiformat = 0;
+std::string KorStop;
+KoordinatenHaken Haken;
+
+const std::string& KorPnr(int Zeile) { return Tabelle.Nummern[Reihe(Zeile)]; }
+
 KorSatz KorPunkt(int Zeile) {
+  const Punkttabelle& T = Tabelle;
   const std::size_t z = Reihe(Zeile);
-  return {Nummern[z], KorRechts[z], KorHoch[z], KorHoehe[z], KorSymbol[z], &KorInfo[z]};
+  return {T.Nummern[z], T.Rechts[z], T.Hoch[z], T.Hoehe[z], T.Symbol[z], &T.Info[z]};
 }
 
-const std::string& KorPnr(int Zeile) { return Nummern[Reihe(Zeile)]; }
-
-void KorPnrSetzen(int Zeile, std::string_view Pnr) {
-  Nummern[Reihe(Zeile)].assign(Pnr);
-  Zahlwerte[Reihe(Zeile)] = ZahlAusText(Pnr);
-  Suchschlüssel[Reihe(Zeile)] = SchlüsselVon(TrimmenSicht(Pnr));
-  if (Pnr.find(',') != std::string_view::npos) MitKomma = true;
+int KorZeileSetzen(int Zeile, const KorSatz& Satz) {
+  if (Zeile < 0 || Zeile >= KorAnzahl) return -1;
+  Vor(KorTat::Setzen, Zeile, Zeile + 1);
+  Tabelle.Schreiben(Zeile, Satz);
+  return 0;
 }
+
+int KorAnhängen(const KorSatz& Satz) {
+  if (KorAnzahl >= KorZeilen) return -1;
+  Vor(KorTat::Erweitern, KorAnzahl, KorAnzahl + 1);
+  Tabelle.Schreiben(Tabelle.Anzahl++, Satz);
+  return 0;
+}
+
+void KorAbschneiden(int Anzahl) {
+  if (Anzahl < 0 || Anzahl >= KorAnzahl) return;
+  Vor(KorTat::Streichen, Anzahl, KorAnzahl);
+  Tabelle.Anzahl = Anzahl;
+}
+
+int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung) {
+  Punkttabelle& T = Tabelle;
+  const std::size_t n = Reihe(T.Anzahl);
+  if (n > 0) Vor(KorTat::Abbilden, 0, T.Anzahl);
+  return Abbildung({std::span(T.Rechts).first(n), std::span(T.Hoch).first(n), std::span(T.Hoehe).first(n)});
+}
+
+void KorGeaendertSetzen(bool Geaendert) { Tabelle.Geändert = Geaendert; }
 
 void KorLeeren() {
-  for (int i = 0; i < KorZeilen; ++i) KorPnrSetzen(i, "");
-  for (auto* Spalte : {&KorRechts, &KorHoch, &KorHoehe}) std::fill(Spalte->begin(), Spalte->end(), 0.0);
-  std::fill(KorSymbol.begin(), KorSymbol.end(), std::string());
-  std::fill(KorInfo.begin(), KorInfo.end(), KorInfoSatz());
-  KorAnzahl = 0;
-  MitKomma = false;
+  KorAbschneiden(0);
+  for (int i = 0; i < Tabelle.Benutzt; ++i) Tabelle.Schreiben(i, {});
+  Tabelle.Benutzt = 0;
+  Tabelle.MitKomma = Tabelle.Geändert = false;
   KoordinatendateiName.clear();
   Koordinatendateiformat = 0;
-  KoordinatenGeaendert = false;
   KorStop.clear();
 }
 
 int KorSuche(std::string_view Pnr) {
   const std::string_view Gesucht = TrimmenSicht(Pnr);
   const std::uint64_t Schlüssel = SchlüsselVon(Gesucht);
-  const auto Ende = Suchschlüssel.begin() + KorAnzahl;
-  for (auto i = Suchschlüssel.begin(); (i = std::find(i, Ende, Schlüssel)) != Ende; ++i) {
-    const auto Zeile = static_cast<int>(i - Suchschlüssel.begin());
+  const auto Anfang = Tabelle.Suchschlüssel.cbegin(), Ende = Anfang + KorAnzahl;
+  for (auto i = Anfang; (i = std::find(i, Ende, Schlüssel)) != Ende; ++i) {
+    const auto Zeile = static_cast<int>(i - Anfang);
     if (TrimmenSicht(KorPnr(Zeile)) == Gesucht) return Zeile;
   }
   return -1;
@@ -96,20 +154,20 @@ int KorSuche(const Wert& Pnr) {
 
 int KorLoeschen(int Zeile) {
   if (KorAnzahl == 0 || Zeile < 0 || Zeile > KorAnzahl - 1) return -1;
-  KoordinatenGeaendert = true;
-  for (int i = Zeile; i < KorAnzahl - 1; ++i) ZeileKopieren(i, i + 1, true, true);
-  --KorAnzahl;
+  Vor(KorTat::Streichen, Zeile, KorAnzahl);
+  for (int i = Zeile; i < KorAnzahl - 1; ++i) Tabelle.Kopieren(i, i + 1, true, true);
+  --Tabelle.Anzahl;
   KorAnzahlAnzeigen();
   return 0;
 }
 
 void KorBereichLoeschen(int Von, int Bis) {
   if (KorAnzahl == 0 || Von < 0 || Von > KorAnzahl - 1 || Bis > KorAnzahl - 1 || Von > Bis) return;
-  KoordinatenGeaendert = true;
+  Vor(KorTat::Streichen, Von, KorAnzahl);
   int Ziel = Von;
   // The symbols stay where they are on purpose: other jobs expect this table.
-  for (int i = Bis + 1; i < KorAnzahl; ++i) ZeileKopieren(Ziel++, i, false, true);
-  KorAnzahl = Ziel;
+  for (int i = Bis + 1; i < KorAnzahl; ++i) Tabelle.Kopieren(Ziel++, i, false, true);
+  Tabelle.Anzahl = Ziel;
   KorAnzahlAnzeigen();
 }
 
@@ -119,30 +177,28 @@ void KorEinfuegen(int Zeile, const Wert& Pnr, double Rechts, double Hoch, double
   if (KorAnzahl >= KorZeilen)
     return LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.KorEinfuegen");
   const bool MitInfo = Koordinatendateiformat != 0;
-  KoordinatenGeaendert = true;
-  for (int i = KorAnzahl; i > Zeile; --i) ZeileKopieren(i, i - 1, true, MitInfo);
-  KorPnrSetzen(Zeile, ZahlNachText(Pnr).Text());
-  KorRechts[Reihe(Zeile)] = Rechts;
-  KorHoch[Reihe(Zeile)] = Hoch;
-  KorHoehe[Reihe(Zeile)] = Hoehe;
-  KorSymbol[Reihe(Zeile)] = Symbol;
-  if (MitInfo) KorInfo[Reihe(Zeile)] = Info;
-  ++KorAnzahl;
+  Vor(KorTat::Einschieben, Zeile, KorAnzahl + 1);
+  for (int i = KorAnzahl; i > Zeile; --i) Tabelle.Kopieren(i, i - 1, true, MitInfo);
+  Tabelle.Schreiben(Zeile, {ZahlNachText(Pnr).Text(), Rechts, Hoch, Hoehe, Symbol,
+                            MitInfo ? &Info : &Tabelle.Info[Reihe(Zeile)]});
+  ++Tabelle.Anzahl;
   KorAnzahlAnzeigen();
 }
 
 void KorSortieren() {
-  if (KorAnzahl == 0) return;
   static std::vector<int> Folge;  // kept between calls: a sort runs after every new point
-  const int Ergebnis = SortierfolgeErmitteln(std::span(Nummern).first(Reihe(KorAnzahl)),
-                                             std::span(Zahlwerte).first(Reihe(KorAnzahl)), MitKomma, Folge);
+  Punkttabelle& T = Tabelle;
+  if (T.Anzahl == 0) return;
+  const std::size_t n = Reihe(T.Anzahl);
+  if (T.MitKomma) Vor(KorTat::Ordnen, 0, T.Anzahl);  // on the way a comma becomes a point
+  const int Ergebnis = SortierfolgeErmitteln(std::span(T.Nummern).first(n), std::span(T.Zahlwerte).first(n),
+                                             T.MitKomma, Folge);
   if (Ergebnis < 0) LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.KorSortieren");
-  // A comma that became a point changes the key of the search.
-  for (int i = 0; MitKomma && i < KorAnzahl; ++i)
-    Suchschlüssel[Reihe(i)] = SchlüsselVon(TrimmenSicht(KorPnr(i)));
-  if (Ergebnis == 0) {
-    SpaltenOrdnen(Folge, Nummern, Zahlwerte, Suchschlüssel, KorRechts, KorHoch, KorHoehe, KorSymbol, KorInfo);
-  }
+  for (std::size_t i = 0; T.MitKomma && i < n; ++i)
+    T.Suchschlüssel[i] = SchlüsselVon(TrimmenSicht(T.Nummern[i]));
+  if (Ergebnis != 0) return;
+  if (!T.MitKomma) Vor(KorTat::Ordnen, 0, T.Anzahl, Folge);
+  SpaltenOrdnen(Folge, T.Nummern, T.Zahlwerte, T.Suchschlüssel, T.Rechts, T.Hoch, T.Hoehe, T.Symbol, T.Info);
 }
 
 int AnzahlDoppelte() {
@@ -168,7 +224,7 @@ int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start) {
   if (KorAnzahl == 0 || Start >= KorAnzahl - 1) return -3;
   const double Unten = Von.Zahl(), Oben = Bis.Zahl();
   for (int i = std::max(Start + 1, 0); i < KorAnzahl; ++i) {
-    const double Nummer = Zahlwerte[Reihe(i)];
+    const double Nummer = Tabelle.Zahlwerte[Reihe(i)];
     if (Nummer > Oben) return -1;  // the table is sorted
     if (Nummer >= Unten) return i;
   }
@@ -191,13 +247,6 @@ void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, 
     }
     return 0;
   });
-}
-
-int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung) {
-  if (KorAnzahl > 0) KoordinatenGeaendert = true;
-  const std::size_t n = Reihe(KorAnzahl);
-  return Abbildung(
-      {std::span(KorRechts).first(n), std::span(KorHoch).first(n), std::span(KorHoehe).first(n)});
 }
 
 void KorAnzahlAnzeigen(const std::string& Zusatz) {

@@ -13,23 +13,27 @@
 // The point table: the one store of coordinates in the running program. Parallel columns, rows 0 to
 // KorAnzahl - 1 in use, kept in the order of KorSortieren. Coordinates in metres, Rechts = east,
 // Hoch = north; a height of 0 stands for a missing one.
+//
+// Everybody reads the columns; only the operations of this header write them. Each of them keeps the keys of
+// search and sort fresh, tells Haken.VorÄnderung before it touches a row, and raises KorStand.
 
 namespace tavorena {
 
 inline constexpr int KorGrenze = 20000;          ///< a read fills the rows below this one
 inline constexpr int KorZeilen = KorGrenze + 1;  ///< rows there are; the last is room for one Neupunkt
 
-extern int KorAnzahl;
-extern std::vector<double> KorRechts, KorHoch, KorHoehe;
-extern std::vector<std::string> KorSymbol;
-extern std::vector<KorInfoSatz> KorInfo;
+extern const int& KorAnzahl;
+extern const std::vector<double>&KorRechts, &KorHoch, &KorHoehe;
+extern const std::vector<std::string>& KorSymbol;
+extern const std::vector<KorInfoSatz>& KorInfo;
+extern const bool& KoordinatenGeaendert;  ///< the table differs from the file
+extern const std::uint64_t&
+    KorStand;  ///< raised by every change: who keeps a picture of the table compares it
 
-/// The point number of a row. Written only by KorPnrSetzen, so that the keys of search and sort that stand
-/// beside it are never stale.
+/// The point number of a row.
 const std::string& KorPnr(int Zeile);
-void KorPnrSetzen(int Zeile, std::string_view Pnr);
 
-/// A row as a view.
+/// A row as a view: what KorPunkt gives, until the next change, and what the operations take.
 struct KorSatz {
   std::string_view Pnr;
   double Rechts = 0, Hoch = 0, Hoehe = 0;
@@ -37,13 +41,36 @@ struct KorSatz {
   const KorInfoSatz* Info = nullptr;  ///< nullptr: all empty
 };
 
-/// A row, 0 to KorZeilen - 1.
+/// A row, 0 to KorZeilen - 1. Behind the last point it holds what a longer table left there.
 KorSatz KorPunkt(int Zeile);
 
 extern std::string KoordinatendateiName;     ///< path of the current file, empty if none
 extern std::int16_t Koordinatendateiformat;  ///< 0 KOR, 1 EDBS, 2 LT4/ALK
-extern bool KoordinatenGeaendert;            ///< the table differs from the file
 extern std::string KorStop;                  ///< "Stop" from the stop button; long loops look at it
+
+// ---- the door --------------------------------------------------------------------------------------
+
+/// Writes a row. @return 0; -1 if Zeile is outside the table
+int KorZeileSetzen(int Zeile, const KorSatz& Satz);
+
+/// Writes the row behind the last one; sorting is left to the caller. @return 0; -1 if the table is full
+int KorAnhängen(const KorSatz& Satz);
+
+/// Keeps the first Anzahl rows; nothing happens if there are no more. The others keep their contents, but are
+/// outside the table.
+void KorAbschneiden(int Anzahl);
+
+/// The coordinates of all rows, to be written [m].
+struct KorSpalten {
+  std::span<double> Rechts, Hoch, Hoehe;
+};
+
+/// Hands the coordinates of the whole table to a function that maps them, as one change.
+/// @return what the function answers
+int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung);
+
+/// Says whether the table differs from its file: false after one was read or written.
+void KorGeaendertSetzen(bool Geaendert);
 
 /// Empties table, columns and file name. Called at start and when a file is closed.
 void KorLeeren();
@@ -88,15 +115,6 @@ int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start);
 /// 1 Rechts and Hoch, 2 Hoch and Hoehe, 3 Rechts and Hoehe.
 void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, int NegHoch, int NegHoehe,
                     int Tausch);
-
-/// The coordinates of all rows, to be written [m].
-struct KorSpalten {
-  std::span<double> Rechts, Hoch, Hoehe;
-};
-
-/// Hands the coordinates of the whole table to a function that maps them, as one change.
-/// @return what the function answers
-int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung);
 
 /// Writes the number of points to the status bar, Zusatz in front of it.
 void KorAnzahlAnzeigen(const std::string& Zusatz = "");
@@ -149,11 +167,24 @@ struct Mittelpunkt {
   double AltRechts = 0, AltHoch = 0, NeuRechts = 0, NeuHoch = 0, Rechts = 0, Hoch = 0;
 };
 
+/// What is about to happen to the table.
+enum class KorTat { Setzen, Erweitern, Einschieben, Streichen, Ordnen, Abbilden };
+
+/// A change before it happens. Rows Von to Bis - 1 are the only ones that can differ afterwards; those that
+/// the table does not have yet are new.
+struct KorÄnderung {
+  KorTat Tat;
+  int Von, Bis;
+  std::span<const int>
+      Folge;  ///< Ordnen: the present row of what comes to each row; empty if a number changes too
+};
+
 /// What the table needs from above. Unplugged hooks answer as a break-off and do nothing.
 struct KoordinatenHaken {
   std::function<int(Wert& Pnr)> FormEinzelKorein;  ///< asks for one point and stores it: 1, or -1
   std::function<Konfliktantwort(const Konflikt&)> PunktVorhandenBehandeln;
   std::function<void(const Mittelpunkt&)> MittelEintragen;  ///< protocol entry of a mean
+  std::function<void(const KorÄnderung&)> VorÄnderung;      ///< may look at the table, not change it
 };
 extern KoordinatenHaken Haken;
 

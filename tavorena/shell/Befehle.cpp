@@ -54,7 +54,7 @@ void DateiSpeichernUnter() {
   if (KoordinatenExportieren(Name, Zeilenformat(Format), Anhängen) < 0) return;
   KoordinatendateiName = Name;
   Koordinatendateiformat = Format;
-  KoordinatenGeaendert = false;
+  KorGeaendertSetzen(false);
   // An extended file holds more than the table: the table takes all of it.
   if (Anhängen) KorLesen(KoordinatendateiName, ModusErsetzen, Zeilenformat(Format));
   TitelSetzen(KoordinatendateiName);

@@ -50,6 +50,11 @@ int ProtokollNehmenFragen(std::string Name) {
   return 0;
 }
 
+void OhnePunkte() {
+  KorAbschneiden(0);
+  KorGeaendertSetzen(false);
+}
+
 int LesenNachFormat() {
   const int Format = Zeilenformat(Koordinatendateiformat);
   if (Format >= 0) return KorLesen(KoordinatendateiName, ModusErsetzen, Format);
@@ -97,8 +102,7 @@ int HauptKoordinatendateiWechseln(bool Nachfragen) {
     if (Antwort == KnopfJa && HauptDateiSpeichern() < 0) return -1;
   }
   if (!BlätterSchließen()) return -1;
-  KoordinatenGeaendert = false;
-  KorAnzahl = 0;
+  OhnePunkte();
   KoordinatendateiName.clear();
   return 0;
 }
@@ -108,8 +112,7 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
   if (Nachfragen) {
     if (LesenNachFormat() < 0) return -1;
   } else {
-    KoordinatenGeaendert = false;
-    KorAnzahl = 0;
+    OhnePunkte();
   }
   const Dateiname Teile = DateinameZerlegen(KoordinatendateiName);
   const std::string Stamm = Teile.Ordner + Teile.Grundname;
@@ -129,7 +132,7 @@ int HauptDateiÖffnen(const std::string& Name, std::int16_t Format) {
   KoordinatendateiName = Name;
   Koordinatendateiformat = FormatNachEndung(Name, Format);
   if (HauptLesenUndDateinamenSetzen(true) < 0) {
-    KorAnzahl = 0;
+    OhnePunkte();
     KoordinatendateiName.clear();
     ProtokollNehmen("");
     StapelDatei.Name.clear();
@@ -147,7 +150,7 @@ void HauptDateiOffenSetzen() {
 
 int HauptDateiSpeichern() {
   if (KoordinatenExportieren(KoordinatendateiName, Zeilenformat(Koordinatendateiformat)) < 0) return -1;
-  KoordinatenGeaendert = false;
+  KorGeaendertSetzen(false);
   return 0;
 }
 

@@ -23,8 +23,8 @@ enmResult ta::PunktListe(std::span<const Wert> Nummern, std::int32_t Anzahl, std
   for (const Wert& Nummer : Nummern.first(static_cast<std::size_t>(Anzahl))) {
     const int Zeile = KorSuche(Nummer);
     if (Zeile < 0) return enmResult::Fehler_PunktNichtVorhanden;
-    RW.push_back(KorRechts[static_cast<std::size_t>(Zeile)]);
-    HW.push_back(KorHoch[static_cast<std::size_t>(Zeile)]);
+    RW.push_back(KorPunkt(Zeile).Rechts);
+    HW.push_back(KorPunkt(Zeile).Hoch);
   }
   return enmResult::ok;
 }

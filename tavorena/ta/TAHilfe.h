@@ -7,8 +7,8 @@
 #include <vector>
 
 #include <tavorena/calc/Lage.h>
-#include <tavorena/ta/TA.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/ta/TA.h>
 
 // What the methods of TA share. Not for other programs.
 
@@ -44,7 +44,7 @@ bool Punkte(const std::array<const Wert*, N>& Nummern, std::array<Lage, N>& Orte
   for (std::size_t i = 0; i < N; ++i) {
     const int Zeile = KorSuche(*Nummern[i]);
     if (Zeile < 0) return false;
-    Orte[i] = {KorRechts[static_cast<std::size_t>(Zeile)], KorHoch[static_cast<std::size_t>(Zeile)]};
+    Orte[i] = {KorPunkt(Zeile).Rechts, KorPunkt(Zeile).Hoch};
   }
   return true;
 }

@@ -80,8 +80,8 @@ enmResult PasspunktdateiLesen(const std::string& Name, Passpunktdatei& D) {
   for (const std::string& Pnr : D.Neu.Pnr) {
     const int Zeile = ZeileSuchen(Pnr);
     if (Zeile < 0) return enmResult::Fehler_PunktNichtVorhanden;
-    D.AltRW.push_back(KorRechts[static_cast<std::size_t>(Zeile)]);
-    D.AltHW.push_back(KorHoch[static_cast<std::size_t>(Zeile)]);
+    D.AltRW.push_back(KorPunkt(Zeile).Rechts);
+    D.AltHW.push_back(KorPunkt(Zeile).Hoch);
   }
   return enmResult::ok;
 }

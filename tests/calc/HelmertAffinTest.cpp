@@ -287,7 +287,7 @@ TEST_F(Transformation, NeupunktUndTabelle) {
     EXPECT_TRUE(Nahe({a, b, c, d}, {4 + 5 * y + 6 * x, 1 + 2 * y + 3 * x, a, b}));
     KorLeeren();
     Punkt("1", x, y, 12.5, "x");
-    KoordinatenGeaendert = false;
+    KorGeaendertSetzen(false);
     EXPECT_EQ(Ta.HelmertTransformationAlleKoordinaten(10, 20, 10, 20, 1, 0, Rand), Helmert);
     EXPECT_TRUE(KoordinatenGeaendert);
     EXPECT_EQ(Ta.AffinTransformationAlleKoordinatenSigmamax(10, 20, 0, 1, 0, 0, 0, 1, Rand), Affin);

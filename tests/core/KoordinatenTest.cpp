@@ -5,6 +5,7 @@
 #include <numeric>
 #include <random>
 
+#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Sortierung.h>
 #include <tavorena/core/Zahlen.h>
 
@@ -144,8 +145,7 @@ TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
   for (Wert Keine : {Wert(), Wert(NullWert{}), Wert("  ")})
     EXPECT_EQ(Neupunkt(Keine, 1, 1, 0, "", nullptr, E), -1);
   EXPECT_EQ(KorAnzahl, 0);
-  for (int i = 0; i < KorZeilen; ++i) KorPnrSetzen(i, std::to_string(i + 1));
-  KorAnzahl = KorZeilen;
+  for (int i = 1; i <= KorZeilen; ++i) ASSERT_EQ(KorAnhängen({std::to_string(i)}), 0);
   for (const char* Wort : {"Neupunkt", "Neupunkt", "KorEinfuegen"})
     Skript.Erwarte(std::string("Fehler 9 in Koordinatenmodul.") + Wort);
   Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"ANN", "99999"}; };
@@ -166,10 +166,112 @@ TEST_F(Punkttabelle, LöschenUndEinfuegen) {
   EXPECT_EQ(Reihe(KorPnr(1), KorSymbol[1]), "4|2");  // symbols do not follow here
   EXPECT_EQ(KorLoeschen(0), 0);
   EXPECT_EQ(Reihe(KorPnr(0), KorSymbol[0]), "4|2");  // here they do
-  KorInfo[1].Entstehung = "alt";
+  KorInfoSatz Info;
+  Info.Entstehung = "alt";
+  EXPECT_EQ(KorZeileSetzen(1, {"5", 5, 5, 5, "5", &Info}), 0);
   KorEinfuegen(1, 45, 9, 9, 9, "neu", {});
   EXPECT_EQ(Reihe(KorPnr(1), KorInfo[1].Entstehung), "45|alt");  // attributes only for EDBS and LT4
   EXPECT_EQ(Reihe(KorSuche(Wert("6")), Skript.Status[1]), "3|4 Punkte");
+}
+
+struct Tabellenzeile {
+  std::string Pnr, Symbol;
+  double Rechts, Hoch, Hoehe;
+  KorInfoSatz Info;
+  bool operator==(const Tabellenzeile&) const = default;
+};
+using Tabellenbild = std::vector<Tabellenzeile>;
+
+Tabellenbild Zeilen(int Von, int Bis) {
+  Tabellenbild Bild;
+  for (int z = Von; z < std::min(Bis, KorAnzahl); ++z) {
+    const KorSatz S = KorPunkt(z);
+    Bild.push_back({std::string(S.Pnr), std::string(S.Symbol), S.Rechts, S.Hoch, S.Hoehe, *S.Info});
+  }
+  return Bild;
+}
+
+// A listener that knows no operation. It keeps the rows that a change may touch, and takes changes back.
+class Mitschrift {
+ public:
+  Mitschrift() {
+    Haken.VorÄnderung = [this](const KorÄnderung& Neu) {
+      OrdnungPrüfen();
+      Schritte.push_back({KorAnzahl, Neu.Von, Zeilen(Neu.Von, Neu.Bis)});
+      for (const int Zeile : Neu.Folge) Geordnet.push_back(Zeilen(Zeile, Zeile + 1).front());
+    };
+  }
+  // A sort that told its order has led to it.
+  void OrdnungPrüfen() {
+    const Tabellenbild Soll = std::exchange(Geordnet, {});
+    EXPECT_TRUE(Soll.empty() || Soll == Zeilen(0, KorAnzahl));
+  }
+  void ZurückAuf(std::size_t Stand) {
+    Haken.VorÄnderung = {};
+    for (; Schritte.size() > Stand; Schritte.pop_back()) {
+      KorAbschneiden(Schritte.back().Anzahl);
+      int z = Schritte.back().Von;
+      for (const Tabellenzeile& Z : Schritte.back().Alte) {
+        const KorSatz Satz{Z.Pnr, Z.Rechts, Z.Hoch, Z.Hoehe, Z.Symbol, &Z.Info};
+        ASSERT_EQ(z < KorAnzahl ? KorZeileSetzen(z, Satz) : KorAnhängen(Satz), 0);
+        ++z;
+      }
+    }
+  }
+  struct Schritt {
+    int Anzahl, Von;
+    Tabellenbild Alte;
+  };
+  std::vector<Schritt> Schritte;
+
+ private:
+  Tabellenbild Geordnet;
+};
+
+TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
+  std::mt19937 Zufall(11);
+  const auto Eine = [&](int Bis) { return static_cast<int>(Zufall() % static_cast<unsigned>(Bis)); };
+  const std::string Datei = Ordner.Pfad("dazu.kor");
+  PortsSetzen({});  // what is asked and told on the way does not matter here
+  const char* const Antworten[] = {"ABB", "ALÖ", "MIT", "ANN", "NLÖ", "NNN"};
+  Haken.PunktVorhandenBehandeln = [&](const Konflikt&) {
+    return Konfliktantwort{Antworten[Eine(6)], std::to_string(Eine(90))};
+  };
+  int Art = 0;
+  const std::function<void()> Taten[] = {
+      [&] {
+        Wert Pnr(Zufallsnummer(Zufall, 1 + Art % 4));
+        NeupunktErgebnis E;
+        Neupunkt(Pnr, Eine(99), Eine(99), Eine(99), "neu", nullptr, E);
+      },
+      [&] { KorLoeschen(Eine(40)); },
+      [&] { KorBereichLoeschen(Eine(40), Eine(40)); },
+      [&] { KorEinfuegen(Eine(40), Zufallsnummer(Zufall, Art % 5), 1, 2, 3, "ein", {}); },
+      [&] { KorVerschieben(Eine(9), 2, 3, 1, 0, 1, Eine(4)); },
+      [&] { KorSortieren(); },
+      [&] { KorAbschneiden(Eine(80)); },
+      [&] {
+        std::string Name = Datei;
+        Schreibe(Datei,
+                 Zufallsnummer(Zufall, Art % 5) + " 1.0 2 3 x\r\n" + std::to_string(Eine(99)) + " 4.0 5\r\n");
+        KorLesen(Name, Eine(3) - 1, FormatKor);
+      }};
+  for (; Art < 20; ++Art) {
+    KorLeeren();
+    Mitschrift M;
+    std::vector<std::pair<std::size_t, Tabellenbild>> Bilder;
+    for (int i = 0; i < 60; ++i) {
+      Bilder.emplace_back(M.Schritte.size(), Zeilen(0, KorAnzahl));
+      const std::uint64_t Stand = KorStand;
+      Taten[i < 20 ? 0 : Eine(8)]();
+      M.OrdnungPrüfen();
+      ASSERT_EQ(KorStand - Stand, M.Schritte.size() - Bilder.back().first);
+    }
+    for (; !Bilder.empty(); Bilder.pop_back()) {
+      M.ZurückAuf(Bilder.back().first);
+      ASSERT_EQ(Zeilen(0, KorAnzahl), Bilder.back().second) << Art << ' ' << Bilder.size();
+    }
+  }
 }
 
 TEST_F(Punkttabelle, BereichSucheVerschieben) {
@@ -182,7 +284,7 @@ TEST_F(Punkttabelle, BereichSucheVerschieben) {
   for (int Start = -1; Start <= 3; ++Start) EXPECT_EQ(KorBereichSuche("11", "15", Start), Nächste[Start + 1]);
   const char* const Soll[] = {"-9|102|10", "102|-9|10", "-9|10|102", "10|102|-9"};
   for (int Tausch = 0; Tausch < 4; ++Tausch) {
-    KorRechts[0] = 10, KorHoch[0] = 100, KorHoehe[0] = 7;
+    EXPECT_EQ(KorZeileSetzen(0, {"10", 10, 100, 7}), 0);
     KorVerschieben(1, 2, 3, 1, 0, 0, Tausch);
     EXPECT_EQ(Reihe(KorRechts[0], KorHoch[0], KorHoehe[0]), Soll[Tausch]);
   }
