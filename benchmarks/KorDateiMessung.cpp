@@ -80,7 +80,7 @@ void KorTextMessen(benchmark::State& Stand) {
   TabelleFüllen();
   std::string Text;
   for (auto _ : Stand) {
-    KorText(FormatKor, Text);
+    KorText(FormatKor, 3, Text);
     benchmark::DoNotOptimize(Text.data());
   }
   fmt::memory_buffer Soll;
@@ -96,7 +96,7 @@ void FmtTextMessen(benchmark::State& Stand) {
     benchmark::DoNotOptimize(Text.data());
   }
   std::string Soll;
-  KorText(FormatKor, Soll);
+  KorText(FormatKor, 3, Soll);
   if (Soll != std::string_view(Text.data(), Text.size())) Stand.SkipWithError("Der Text stimmt nicht.");
 }
 
@@ -104,7 +104,7 @@ void KorSchreibenMessen(benchmark::State& Stand) {
   TabelleFüllen();
   std::string Name = Messpfad("neu.kor");
   int Zeilen = 0;
-  for (auto _ : Stand) Zeilen = KorSchreiben(Name, FormatKor);
+  for (auto _ : Stand) Zeilen = KorSchreiben(Name, FormatKor, 3);
   KorLeeren();
   if (Zeilen != static_cast<int>(Punktzahl) || KorLesen(Name, ModusErsetzen, FormatKor) != 0 ||
       !TabelleIstGanz()) {

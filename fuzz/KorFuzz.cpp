@@ -30,7 +30,7 @@ void ListenVergleichen(const std::string& Name) {
 
 void SchreibenUndLesen() {
   std::string Text;
-  Prüfen(KorText(FormatKor, Text) == 0, "KOR wird geschrieben");
+  Prüfen(KorText(FormatKor, 3, Text) == 0, "KOR wird geschrieben");
   Punktlisten L;
   int Anzahl = 0;
   KorDateiInListen(Datei("b.kor", Text), L, KorGrenze, Anzahl, false);

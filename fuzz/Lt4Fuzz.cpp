@@ -42,7 +42,7 @@ void Lauf(Eingabe E) {
   Prüfen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");
   TabellePrüfen();
   for (int i = 0; i < KorAnzahl; ++i) ZeilePrüfen(i);
-  Prüfen(KorText(FormatLt4, Text) == 0 && KorText(FormatKor, Text) == 0, "beide Formate werden geschrieben");
+  Prüfen(KorText(FormatLt4, 3, Text) == 0 && KorText(FormatKor, 3, Text) == 0, "beide Formate werden geschrieben");
 }
 
 }  // namespace

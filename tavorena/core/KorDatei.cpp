@@ -122,14 +122,13 @@ int Zurücknehmen(int Modus, int AlteAnzahl) {
 }
 
 void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
-                      std::string_view Symbol) {
-  const int N = Optionen.OptNachkommaSpeichern;
+                      std::string_view Symbol, int Nachkomma) {
   Ziel.append(6, ' ').append(PnrFormat(Pnr)).append(3, ' ');
-  ZahlFormatAnhängen(Ziel, Rechts, 7, N);
+  ZahlFormatAnhängen(Ziel, Rechts, 7, Nachkomma);
   Ziel.append(3, ' ');
-  ZahlFormatAnhängen(Ziel, Hoch, 7, N);
+  ZahlFormatAnhängen(Ziel, Hoch, 7, Nachkomma);
   Ziel += ' ';
-  ZahlFormatAnhängen(Ziel, Hoehe, 7, N);
+  ZahlFormatAnhängen(Ziel, Hoehe, 7, Nachkomma);
   Ziel.append(2, ' ').append(Symbol);
 }
 
@@ -175,7 +174,7 @@ int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, doub
 void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,
                        std::string& Zeile) {
   Zeile.clear();
-  KorZeileAnhängen(Zeile, Pnr, Rechts, Hoch, Hoehe, Symbol);
+  KorZeileAnhängen(Zeile, Pnr, Rechts, Hoch, Hoehe, Symbol, Optionen.OptNachkommaSpeichern);
 }
 
 int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, std::string& Symbol,
@@ -227,7 +226,7 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
   return Ergebnis;
 }
 
-int KorText(int Format, std::string& Text) {
+int KorText(int Format, int Nachkomma, std::string& Text) {
   if (Format != FormatKor && Format != FormatLt4) return -1;
   std::string Zeile;
   Text.clear();
@@ -235,7 +234,7 @@ int KorText(int Format, std::string& Text) {
   for (int i = 0; i < KorAnzahl; ++i) {
     const KorSatz S = KorPunkt(i);
     if (Format == FormatKor) {
-      KorZeileAnhängen(Text, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol);
+      KorZeileAnhängen(Text, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol, Nachkomma);
     } else {
       Lt4ZeileSchreiben(S.Pnr, S.Rechts, S.Hoch, *S.Info, Zeile);
       Text += Zeile;
@@ -245,9 +244,9 @@ int KorText(int Format, std::string& Text) {
   return 0;
 }
 
-int KorSchreiben(const std::string& Dateiname, int Format) {
+int KorSchreiben(const std::string& Dateiname, int Format, int Nachkomma) {
   std::string Text;
-  return KorText(Format, Text) < 0 || DateiErsetzen(Dateiname, Text) < 0 ? -1 : KorAnzahl;
+  return KorText(Format, Nachkomma, Text) < 0 || DateiErsetzen(Dateiname, Text) < 0 ? -1 : KorAnzahl;
 }
 
 int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,

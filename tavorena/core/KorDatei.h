@@ -49,13 +49,15 @@ inline constexpr int ModusErsetzen = 1, ModusAnhängen = 0, ModusNurNeue = -1;
 int KorLesen(std::string& Dateiname, int Modus, int Format,
              const std::function<bool(std::string_view)>& Nimmt = {});
 
-/// The whole table, in its order, as the text of a coordinate file. @return 0; -1 for an unknown format
-int KorText(int Format, std::string& Text);
+/// The whole table, in its order, as the text of a coordinate file.
+/// @param[in] Nachkomma  decimals of the KOR format, 0 to 15; LT4 always has 3
+/// @return 0; -1 for an unknown format
+int KorText(int Format, int Nachkomma, std::string& Text);
 
 /// Writes the whole table to a file that is replaced safely.
 /// @return the number of rows; -1 if the format is unknown or the file can not be written, an old file is
 ///         then as it was
-int KorSchreiben(const std::string& Dateiname, int Format);
+int KorSchreiben(const std::string& Dateiname, int Format, int Nachkomma);
 
 /// Caller-owned columns of a KOR file.
 struct Punktlisten {

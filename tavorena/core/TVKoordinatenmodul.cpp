@@ -126,6 +126,24 @@ int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung) {
 
 void KorGeaendertSetzen(bool Geaendert) { Tabelle.Geändert = Geaendert; }
 
+struct KorBeiseite::Inhalt {
+  Punkttabelle Punkte;
+  std::string Name;
+  std::int16_t Format = 0;
+  std::string Stop;
+
+  void Tauschen() {
+    std::swap(Punkte, Tabelle);
+    std::swap(Name, KoordinatendateiName);
+    std::swap(Format, Koordinatendateiformat);
+    std::swap(Stop, KorStop);
+  }
+};
+
+KorBeiseite::KorBeiseite() : Beiseite(std::make_unique<Inhalt>()) { Beiseite->Tauschen(); }
+
+KorBeiseite::~KorBeiseite() { Beiseite->Tauschen(); }
+
 void KorLeeren() {
   KorAbschneiden(0);
   for (int i = 0; i < Tabelle.Benutzt; ++i) Tabelle.Schreiben(i, {});

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -71,6 +72,20 @@ int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung);
 
 /// Says whether the table differs from its file: false after one was read or written.
 void KorGeaendertSetzen(bool Geaendert);
+
+/// Puts the table aside with its counter, its file and the stop, and an empty one in its place, until it goes
+/// out of scope: for a guest who works on a table of its own. Nothing is told to VorÄnderung.
+class KorBeiseite {
+ public:
+  KorBeiseite();
+  ~KorBeiseite();
+  KorBeiseite(const KorBeiseite&) = delete;
+  KorBeiseite& operator=(const KorBeiseite&) = delete;
+
+ private:
+  struct Inhalt;
+  std::unique_ptr<Inhalt> Beiseite;
+};
 
 /// Empties table, columns and file name. Called at start and when a file is closed.
 void KorLeeren();

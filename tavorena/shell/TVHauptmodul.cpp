@@ -156,7 +156,8 @@ int HauptDateiSpeichern() {
 
 int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhängen) {
   std::string Alt, Neu;
-  bool Gut = KorText(Format, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt) == 0);
+  bool Gut = KorText(Format, Optionen.OptNachkommaSpeichern, Neu) == 0 &&
+             (!Anhängen || DateiLesen(Dateiname, Alt) == 0);
   if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
   // A file that is extended keeps the coding that it has.
   Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu))) == 0;

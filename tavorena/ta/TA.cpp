@@ -37,16 +37,39 @@ enmResult Abbilden(int Ergebnis) {
 
 }  // namespace
 
-TA::TA() : Vorher(std::make_unique<Ports>(PortsSetzen({}))) {
+/// What the program around the objects had, and has again after them.
+struct TA::Wirt {
+  Wirt() = default;
+  Wirt(const Wirt&) = delete;
+  Wirt& operator=(const Wirt&) = delete;
+  ~Wirt() {
+    PortsSetzen(Türen);
+    Optionen = Einstellungen;
+    Haken = Anschlüsse;
+  }
+
+  const Ports Türen = PortsSetzen({});
+  const OptionenSatz Einstellungen = Optionen;
+  const KoordinatenHaken Anschlüsse = Haken;
+  const KorBeiseite Tabelle;
+
+  /// The one of all objects: a second object may outlive the first.
+  static std::shared_ptr<Wirt> Beiseite() {
+    static std::weak_ptr<Wirt> Eben;
+    std::shared_ptr<Wirt> Dieser = Eben.lock();
+    if (!Dieser) Eben = Dieser = std::make_shared<Wirt>();
+    return Dieser;
+  }
+};
+
+TA::TA() : Gastgeber(Wirt::Beiseite()) {
+  PortsSetzen({});
   Haken = {};
   Optionen = {};
   KorLeeren();
 }
 
-TA::~TA() {
-  KorLeeren();
-  PortsSetzen(*Vorher);
-}
+TA::~TA() = default;
 
 enmResult TA::Entfernungskontrolle(double dAnfRW, double dAnfHW, double dEndRW, double dEndHW,
                                    double& dEntfGerechnet, double dEntfGemessen, double* dAbweichungZulaessig,
@@ -161,8 +184,7 @@ std::int32_t TA::KoordinatendateiLesen(const std::string& strKoordinatendateiNam
 std::int32_t TA::KoordinatendateiSchreiben(const std::string& strKoordinatendateiName,
                                            std::int32_t lNachkomma) {
   if (lNachkomma < 0 || lNachkomma > 15) return -1;
-  Optionen.OptNachkommaSpeichern = static_cast<std::int16_t>(lNachkomma);
-  return KorSchreiben(strKoordinatendateiName, FormatKor);
+  return KorSchreiben(strKoordinatendateiName, FormatKor, lNachkomma);
 }
 
 }  // namespace tavorena

@@ -57,8 +57,6 @@ enum class enmArtGeradenschnitt : std::int32_t {
   Kreis2Punkt_Kreis2Punkt = 18,
 };
 
-struct Ports;
-
 /// The calculations of the package for other programs.
 ///
 /// Units and frame: coordinates in metres, RW = Rechts (east), HW = Hoch (north); angles in gon,
@@ -79,10 +77,11 @@ struct Ports;
 /// and J. D. Cassini 1669 (resection); C. F. Gauss (area); I. Kåsa 1976 (circle); C. D. Ghilani, Adjustment
 /// Computations (transformations); L. Krüger 1912 (grids). The headers of the single calculations say more.
 ///
-/// One thread, one object: the table belongs to the process.
+/// One thread, one object at work: the table belongs to the process.
 class TA {
  public:
-  /// Empties the point table, sets the default settings and silences every question.
+  /// Begins with an empty point table and the default settings, and silences every question. What the program
+  /// around it had of these, its hooks too, is put aside and comes back with the end of the last object.
   TA();
   ~TA();
   TA(const TA&) = delete;
@@ -785,7 +784,8 @@ class TA {
                                          std::int32_t lNachkomma = 3);
 
  private:
-  std::unique_ptr<Ports> Vorher;
+  struct Wirt;
+  std::shared_ptr<Wirt> Gastgeber;
 };
 
 }  // namespace tavorena

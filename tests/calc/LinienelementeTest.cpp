@@ -5,6 +5,8 @@
 #include <random>
 
 #include <tavorena/calc/TVBerechnungsmodul.h>
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/ta/TA.h>
 
 namespace tavorena::test {
@@ -51,6 +53,43 @@ TEST(Linienelemente, StimmenMitPolarelementenUndFusspunkt) {
     ASSERT_NEAR(Entf * std::cos(Richtung / 200 * M_PI), Linie, 1e-7);
     ASSERT_NEAR(Entf * std::sin(Richtung / 200 * M_PI), Seitwaerts, 1e-7);
   }
+}
+
+class Gast : public TabellenTest {};
+
+// Whatever is done with it, the program around it has everything back afterwards.
+TEST_F(Gast, LäßtAllesWieEsWar) {
+  const std::string Datei = Ordner.Pfad("gast.kor");
+  Punkt("7", 1, 2, 3, "x");
+  int Gerufen = 0;
+  Haken.FormEinzelKorein = [&](Wert&) { return --Gerufen - 1; };
+  Haken.VorÄnderung = [&](const KorÄnderung&) { ++Gerufen; };
+  Optionen.OptNachkommaSpeichern = 2;
+  KoordinatendateiName = "wirt.lt4";
+  Koordinatendateiformat = 2;
+  KorStop = "Stop";
+  const auto Stand = [] {
+    return Reihe(KorAnzahl, KorPnr(0), KorRechts[0], KorSymbol[0], KorStand, KoordinatenGeaendert, KorStop,
+                 KoordinatendateiName, Koordinatendateiformat, Optionen.OptNachkommaSpeichern);
+  };
+  const std::string Vorher = Stand();
+  Schreibe(Datei, "8 1.0 2 3\r\n9 1.0 2 3\r\n");
+  {
+    auto Erster = std::make_unique<TA>();
+    EXPECT_EQ(Erster->KoordinatendateiLesen(Datei), 2);
+    TA Zweiter;  // begins anew, and goes on without the first
+    EXPECT_EQ(KorAnzahl, 0);
+    Erster.reset();
+    EXPECT_EQ(Zweiter.KoordinatendateiLesen(Datei), 2);
+    EXPECT_EQ(Zweiter.KoordinatendateiSchreiben(Datei, 6), 2);
+    EXPECT_NE(Inhalt(Datei).find(" 1.000000 "), std::string::npos);
+  }
+  EXPECT_EQ(Stand(), Vorher);
+  Wert Fehlt("8");
+  EXPECT_EQ(Gerufen, 0);
+  EXPECT_EQ(KorFind(Fehlt), -2);  // the hooks are back
+  Skript.Erwarte("Punkt 8");      // and the doors
+  PunktVorhandenMeldung("8");
 }
 
 class Schnittstelle : public TabellenTest {

@@ -73,14 +73,14 @@ TEST_F(KorDatei, SchreibenLesenSchreibenGibtDieselbenBytes) {
   }
   for (const int Format : {FormatKor, FormatLt4}) {
     const std::string Eins = Ordner.Pfad("eins"), Zwei = Ordner.Pfad("zwei");
-    EXPECT_EQ(KorSchreiben(Eins, Format), 500);
+    EXPECT_EQ(KorSchreiben(Eins, Format, 3), 500);
     std::string Name = Eins;
     ASSERT_EQ(KorLesen(Name, ModusErsetzen, Format), 0);
     EXPECT_FALSE(KoordinatenGeaendert);
-    EXPECT_EQ(KorSchreiben(Zwei, Format), 500);
+    EXPECT_EQ(KorSchreiben(Zwei, Format, 3), 500);
     if (Format == FormatLt4) {  // a key comes back with its zeros and the missing class as a blank
       EXPECT_EQ(KorLesen(Name = Zwei, ModusErsetzen, Format), 0);
-      EXPECT_EQ(KorSchreiben(Eins, Format), 500);
+      EXPECT_EQ(KorSchreiben(Eins, Format, 3), 500);
     }
     EXPECT_TRUE(Inhalt(Eins) == Inhalt(Zwei));
   }
@@ -170,7 +170,7 @@ TEST_F(KorDatei, SeltsameInhalte) {
   std::generate(Rauschen.begin(), Rauschen.end(), [&] { return static_cast<char>(Zufall() >> 24U); });
   Skript.Erwarte("doppelte Punkte");
   ASSERT_EQ(Lies(Rauschen), 0);
-  EXPECT_GE(KorSchreiben(Ordner.Pfad("b.kor"), FormatKor), 100);
+  EXPECT_GE(KorSchreiben(Ordner.Pfad("b.kor"), FormatKor, 3), 100);
 }
 
 TEST_F(KorDatei, Listen) {
