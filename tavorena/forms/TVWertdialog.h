@@ -16,12 +16,12 @@ struct Wertfeld {
 
 /// Asks for up to as many values as there are fields, modal. Escape and "Abbrechen" cancel.
 /// @return 0; -1 if cancelled, the fields are then as they were (also left in Dialogergebnis)
-int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder);
+[[nodiscard]] int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder);
 
-int EinWert(const std::string& Titel, const std::string& Label, std::string& Wert);
-int ZweiWerte(const std::string& Titel, const std::string& Label1, std::string& Wert1,
-              const std::string& Label2, std::string& Wert2);
-int DreiWerte(const std::string& Titel, std::span<Wertfeld, 3> Felder);
+[[nodiscard]] int EinWert(const std::string& Titel, const std::string& Label, std::string& Wert);
+[[nodiscard]] int ZweiWerte(const std::string& Titel, const std::string& Label1, std::string& Wert1,
+                            const std::string& Label2, std::string& Wert2);
+[[nodiscard]] int DreiWerte(const std::string& Titel, std::span<Wertfeld, 3> Felder);
 
 /// One file name of a file dialog with several.
 struct Dateifeld {
@@ -32,25 +32,25 @@ struct Dateifeld {
 };
 
 /// Asks for the file names, each with a button that chooses one. @return 0; -1 if cancelled
-int ZweiDateinamen(const std::string& Titel, std::span<Dateifeld, 2> Felder);
-int DreiDateinamen(const std::string& Titel, std::span<Dateifeld, 3> Felder);
+[[nodiscard]] int ZweiDateinamen(const std::string& Titel, std::span<Dateifeld, 2> Felder);
+[[nodiscard]] int DreiDateinamen(const std::string& Titel, std::span<Dateifeld, 3> Felder);
 
 /// A list of entries. @return 0-based index of the chosen one; -1 if cancelled
-int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Einträge);
+[[nodiscard]] int AuswahlListe(const std::string& Titel, const std::vector<std::string>& Einträge);
 
 /// Asks "Von Punktnr." and "Bis Punktnr.". @return 0; -1 if cancelled
-int PunktbereichFrage(const std::string& Titel, std::string& Von, std::string& Bis);
+[[nodiscard]] int PunktbereichFrage(const std::string& Titel, std::string& Von, std::string& Bis);
 
 /// Asks for an existing folder. @return 0; -1 if cancelled
-int VerzeichnisWahl(const std::string& Titel, std::string& Verzeichnis);
+[[nodiscard]] int VerzeichnisWahl(const std::string& Titel, std::string& Verzeichnis);
 
 /// "Datei schon vorhanden:" and the name. @return 0 Anhängen, 1 Überschreiben, -1 Abbruch
-int DateiVorhandenFrage(const std::string& Dateiname);
+[[nodiscard]] int DateiVorhandenFrage(const std::string& Dateiname);
 
 /// A connection point typed under a number that exists. @return 0 Weiter, 1 Zurück
-int PunktVorhandenFrage(const std::string& Pnr);
+[[nodiscard]] int PunktVorhandenFrage(const std::string& Pnr);
 
 /// A station whose number exists. @return 0 Orientierung, 1 Zurück, 2 Abbruch
-int PunktVorhandenOrientierungFrage(const std::string& Pnr);
+[[nodiscard]] int PunktVorhandenOrientierungFrage(const std::string& Pnr);
 
 }  // namespace tavorena

@@ -15,16 +15,16 @@ inline const char* const FilterKor = "CADdy (*.kor)|*.kor|KAFKA (*.lt4)|*.lt4";
 /// "w" and "n" an existing file is asked about; it is not deleted, saving replaces it as a whole.
 /// @param[out] Anhängen  the file exists and is to be extended; may be left out
 /// @return 0; -1 if cancelled (also left in Dialogergebnis)
-int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,
-              std::string& Name, bool* Anhängen = nullptr);
+[[nodiscard]] int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter,
+                            const std::string& Vorgabe, std::string& Name, bool* Anhängen = nullptr);
 
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
-int ProtokollWahl(std::string& Name);
+[[nodiscard]] int ProtokollWahl(std::string& Name);
 
 /// VerzeichnisLetztes becomes the folder of Name, and is written.
 void VerzeichnisMerken(const std::string& Name);
 
 /// Folder in which a file dialog starts.
-std::string Startordner();
+[[nodiscard]] std::string Startordner();
 
 }  // namespace tavorena

@@ -277,7 +277,7 @@ void HauptHistSchreiben(const std::string& Dateiname, std::int16_t Format) {
   const auto Vorn = Historie.begin();
   std::move_backward(Vorn, Vorn + Stelle, Vorn + Stelle + 1);
   Historie[0] = {Dateiname, Format};
-  OptionenSchreiben();
+  static_cast<void>(OptionenSchreiben());  // it holds for this run all the same
 }
 
 int TheoOptionenLesen(TheoOptionen& Gelesen) {

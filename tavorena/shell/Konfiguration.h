@@ -43,7 +43,7 @@ int DateinamenLesen();
 int EDBSLesen();
 
 /// Rewrites Tavorena.ini whole. Called after every change. @return 0; -1 if it could not be written
-int OptionenSchreiben();
+[[nodiscard]] int OptionenSchreiben();
 
 /// Puts a file to the front of the history, and writes it.
 void HauptHistSchreiben(const std::string& Dateiname, std::int16_t Format);

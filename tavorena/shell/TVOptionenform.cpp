@@ -2,6 +2,7 @@
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Formular.h>
@@ -91,7 +92,8 @@ class TVOptionenform final : public Formular {
     } else {
       FormularZoomRechnen(false);
     }
-    OptionenSchreiben();
+    if (OptionenSchreiben() < 0)
+      Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen);  // they hold for this run
     AnzeigePort().HauptfensterGeändert();
     Schließen();
   }

@@ -17,7 +17,7 @@ class Konfiguration : public Shelltest {
 
 TEST_F(Konfiguration, DateiByteFürByteUndZurückMitAllenEigenheiten) {
   EXPECT_FALSE(DateiVorhanden(DateinameOptionen));  // nothing is written at the start
-  OptionenSchreiben();
+  EXPECT_EQ(OptionenSchreiben(), 0);
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Vorgabe.ini"));
   Optionen.OptNachkommastellen = 4;
   Optionen.GrafikfensterAn = false;
@@ -35,7 +35,7 @@ TEST_F(Konfiguration, DateiByteFürByteUndZurückMitAllenEigenheiten) {
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Anders.ini"));
   Optionen.SchriftgroesseProtokoll = 12;
   Optionen.OptNachkommaSpeichern = 2;
-  OptionenSchreiben();
+  EXPECT_EQ(OptionenSchreiben(), 0);
   HauptInitialisierung();
   // The saved protocol window comes back as the graphics window, a wide value is stars.
   const auto& O = Optionen;
@@ -150,6 +150,10 @@ TEST_F(Konfiguration, Optionsdialog) {
               Neu ? "4|0|1|350.5|ZUVIELEZ" : "3|3|1|0|ULPUHESS");
     EXPECT_EQ(Reihe(O.AbfrageRiss, O.GrafikfensterAn, O.ProtokollfensterAn), Neu ? "0|0|0" : "1|1|0");
   }
+  DateinameOptionen += "/x.ini";  // below a file: it can not be written
+  Skript.Formulare.push_back(Bediene({{"OptEDBSInfo", "\n"}}));  // Return behind the last field is OK
+  Skript.Erwarte("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen);
+  TVOptionenformZeigen();
 }
 
 }  // namespace
