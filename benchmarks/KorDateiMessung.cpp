@@ -18,7 +18,7 @@ namespace tavorena::messung {
 namespace {
 
 void KorLesenMessen(benchmark::State& Stand, bool Gemischt) {
-  std::string Name = Kordatei(Gemischt);
+  const std::string Name = Kordatei(Gemischt);
   int Ergebnis = 0;
   KorLeeren();
   for (auto _ : Stand) Ergebnis = KorLesen(Name, ModusErsetzen, FormatKor);
@@ -102,7 +102,7 @@ void FmtTextMessen(benchmark::State& Stand) {
 
 void KorSchreibenMessen(benchmark::State& Stand) {
   TabelleFüllen();
-  std::string Name = Messpfad("neu.kor");
+  const std::string Name = Messpfad("neu.kor");
   int Zeilen = 0;
   for (auto _ : Stand) Zeilen = KorSchreiben(Name, FormatKor, 3);
   KorLeeren();
@@ -117,7 +117,7 @@ void KorSchreibenMessen(benchmark::State& Stand) {
 constexpr int Fehlender = static_cast<int>(Punktzahl) - 1;
 
 void MischenMessen(benchmark::State& Stand) {
-  std::string Name = Kordatei(false);
+  const std::string Name = Kordatei(false);
   TabelleFüllen();
   for (auto _ : Stand) {
     KorLoeschen(Fehlender);

@@ -94,8 +94,7 @@ std::string Kordatei(bool Gemischt) {
 
 void TabelleFüllen() {
   KorLeeren();
-  std::string Name = Kordatei(false);
-  if (KorLesen(Name, ModusErsetzen, FormatKor) == 0 && TabelleIstGanz()) return;
+  if (KorLesen(Kordatei(false), ModusErsetzen, FormatKor) == 0 && TabelleIstGanz()) return;
   std::cerr << "Die Messdaten sind nicht lesbar.\n";
   std::exit(2);
 }

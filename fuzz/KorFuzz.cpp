@@ -54,7 +54,7 @@ void Lauf(Eingabe E) {
     if (Modus != ModusErsetzen) Neupunkt(Nr, 3480000, 5550000, 100, "015", nullptr, Ergebnis);
   }
   const int Vorher = KorAnzahl;
-  std::string Name = Datei("a.kor", E.Rest());
+  const std::string Name = Datei("a.kor", E.Rest());
   Prüfen(KorLesen(Name, Modus, FormatKor) == 0, "eine Datei wird immer gelesen");
   Prüfen(KorAnzahl >= Vorher, "es geht kein Punkt verloren");
   TabellePrüfen();

@@ -38,7 +38,8 @@ void ZeilePrüfen(int Zeile) {
 void Lauf(Eingabe E) {
   KorLeeren();
   const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
-  std::string Name = Datei("a.lt4", E.Rest()), Text;
+  const std::string Name = Datei("a.lt4", E.Rest());
+  std::string Text;
   Prüfen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");
   TabellePrüfen();
   for (int i = 0; i < KorAnzahl; ++i) ZeilePrüfen(i);

@@ -90,7 +90,7 @@ PYBIND11_MODULE(tavorena, Modul) {
       "empty.";
   tavorena::python::Taklasse Klasse(Modul, "TA");
   Klasse.def(py::init(&tavorena::python::Anlegen),
-             "Empties the point table and sets the default settings.\n\n"
+             "Begins with an empty point table and the default settings.\n\n"
              "Raises RuntimeError while another object lives: one lives in a process.");
   tavorena::python::Binden(Modul, Klasse);
 }

@@ -62,7 +62,7 @@ int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
     };
   }
   KoordinatendateiName = Auftrag.Koordinaten;
-  const bool Gelesen = KorLesen(KoordinatendateiName, ModusErsetzen,
+  const bool Gelesen = KorLesen(Auftrag.Koordinaten, ModusErsetzen,
                                 Zeilenformat(FormatNachEndung(Auftrag.Koordinaten, 0))) == 0;
   bool Gut = Gelesen;
   if (Gelesen) {

@@ -111,16 +111,6 @@ class Lesung {
   double Zuletzt = AblaufPort().Zeitgeber();
 };
 
-int Zurücknehmen(int Modus, int AlteAnzahl) {
-  if (Modus != ModusErsetzen) {
-    KorAbschneiden(AlteAnzahl);
-    return 0;
-  }
-  KoordinatendateiName.clear();
-  KorAbschneiden(0);
-  return -1;
-}
-
 void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
                       std::string_view Symbol, int Nachkomma) {
   Ziel.append(6, ' ').append(PnrFormat(Pnr)).append(3, ' ');
@@ -196,7 +186,7 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
 }
 
-int KorLesen(std::string& Dateiname, int Modus, int Format,
+int KorLesen(const std::string& Dateiname, int Modus, int Format,
              const std::function<bool(std::string_view)>& Nimmt) {
   if (Dateiname.empty()) return -1;
   if (Format != FormatKor && Format != FormatLt4) {
@@ -206,15 +196,13 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
   std::string Inhalt;
   if (TextdateiLesen(Dateiname, Inhalt) < 0) {
     Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !");
-    Dateiname.clear();
     return -1;
   }
-  const int AlteAnzahl = KorAnzahl;
   if (Modus == ModusErsetzen) KorAbschneiden(0);
+  const int AlteAnzahl = KorAnzahl;
   AblaufPort().Beschäftigt(true);
   const Lesung::Ende Ende = Lesung(Inhalt, Modus, Format, Nimmt).Laufen();
-  int Ergebnis = 0;
-  if (Ende == Lesung::Ende::Gestoppt) Ergebnis = Zurücknehmen(Modus, AlteAnzahl);
+  if (Ende == Lesung::Ende::Gestoppt) KorAbschneiden(AlteAnzahl);
   if (Ende == Lesung::Ende::Voll) {
     Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
   }
@@ -222,8 +210,9 @@ int KorLesen(std::string& Dateiname, int Modus, int Format,
   KorGeaendertSetzen(Modus != ModusErsetzen);
   AblaufPort().Beschäftigt(false);
   KorAnzahlAnzeigen();
-  if (Ende != Lesung::Ende::Gestoppt && AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
-  return Ergebnis;
+  if (Ende == Lesung::Ende::Gestoppt) return Modus == ModusErsetzen ? -1 : 0;
+  if (AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
+  return 0;
 }
 
 int KorText(int Format, int Nachkomma, std::string& Text) {

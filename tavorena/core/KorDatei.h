@@ -40,13 +40,13 @@ int Zeilenformat(int Dateiformat);
 inline constexpr int ModusErsetzen = 1, ModusAnhängen = 0, ModusNurNeue = -1;
 
 /// Reads a coordinate file into the table and sorts it. A missing file, the limit of 20000 points and
-/// double points are told in a message; every point that was read stays. The stop button rolls back.
-/// @param[in,out] Dateiname  emptied if the file can not be opened
+/// double points are told in a message; every point that was read stays. The stop button rolls back; a table
+/// that was to be replaced is then empty.
 /// @param[in] Modus   1 replaces the table, -1 skips numbers that the table holds, all other append
 /// @param[in] Format  0 KOR, 11 LT4
 /// @param[in] Nimmt   reads only the points whose number passes this test; none if empty
 /// @return 0; -1 no name, no file, unknown format, or stopped with Modus 1
-int KorLesen(std::string& Dateiname, int Modus, int Format,
+int KorLesen(const std::string& Dateiname, int Modus, int Format,
              const std::function<bool(std::string_view)>& Nimmt = {});
 
 /// The whole table, in its order, as the text of a coordinate file.

@@ -56,7 +56,11 @@ void DateiSpeichernUnter() {
   Koordinatendateiformat = Format;
   KorGeaendertSetzen(false);
   // An extended file holds more than the table: the table takes all of it.
-  if (Anhängen) KorLesen(KoordinatendateiName, ModusErsetzen, Zeilenformat(Format));
+  if (Anhängen && KorLesen(Name, ModusErsetzen, Zeilenformat(Format)) < 0) {
+    KoordinatendateiName.clear();  // what is left of the table must not be saved over the whole file
+    if (HauptKoordinatendateiWechseln(false) == 0) HauptInitialisierung();
+    return;
+  }
   TitelSetzen(KoordinatendateiName);
   HauptHistSchreiben(KoordinatendateiName, Format);
 }

@@ -57,7 +57,11 @@ void OhnePunkte() {
 
 int LesenNachFormat() {
   const int Format = Zeilenformat(Koordinatendateiformat);
-  if (Format >= 0) return KorLesen(KoordinatendateiName, ModusErsetzen, Format);
+  if (Format >= 0) {
+    const int Gelesen = KorLesen(KoordinatendateiName, ModusErsetzen, Format);
+    if (Gelesen < 0) KoordinatendateiName.clear();
+    return Gelesen;
+  }
   Hinweis("Es wird versucht, die Datei " + KoordinatendateiName + "als Koordinatendatei einzulesen",
           "Interner Fehler");
   return -1;

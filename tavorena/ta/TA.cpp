@@ -177,8 +177,7 @@ enmResult TA::PolarelementePnr(const Wert& vPnr1, const Wert& vPnr2, const Wert&
 
 std::int32_t TA::KoordinatendateiLesen(const std::string& strKoordinatendateiName) {
   if (!DateiVorhanden(strKoordinatendateiName)) return -1;
-  std::string Name = strKoordinatendateiName;
-  return KorLesen(Name, ModusErsetzen, FormatKor) < 0 ? -1 : KorAnzahl;
+  return KorLesen(strKoordinatendateiName, ModusErsetzen, FormatKor) < 0 ? -1 : KorAnzahl;
 }
 
 std::int32_t TA::KoordinatendateiSchreiben(const std::string& strKoordinatendateiName,

@@ -251,10 +251,9 @@ TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
       [&] { KorSortieren(); },
       [&] { KorAbschneiden(Eine(80)); },
       [&] {
-        std::string Name = Datei;
         Schreibe(Datei,
                  Zufallsnummer(Zufall, Art % 5) + " 1.0 2 3 x\r\n" + std::to_string(Eine(99)) + " 4.0 5\r\n");
-        KorLesen(Name, Eine(3) - 1, FormatKor);
+        KorLesen(Datei, Eine(3) - 1, FormatKor);
       }};
   for (; Art < 20; ++Art) {
     KorLeeren();

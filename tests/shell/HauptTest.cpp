@@ -102,6 +102,15 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
   Befehl("MenüDateiSpeichernUnter", Datei);
   EXPECT_EQ(KorAnzahl, 2);
   EXPECT_TRUE(Inhalt(Datei).starts_with(Alt + "\r\n      ") && Inhalt(Datei).ends_with("  \xDF\r\n"));
+  // If that read is stopped, the file that is whole must not be saved over.
+  std::string Viele;
+  for (int i = 0; i < 200; ++i) Viele += std::to_string(i) + " 1.0 2 3\r\n";
+  Schreibe(Datei, Viele);
+  Skript.BeiEreignissen = [] { KorStop = "Stop"; };
+  Knopf(0);
+  Befehl("MenüDateiSpeichernUnter", Datei);
+  EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName, Historie[1].Dateiname), "0||" + Ordner.Pfad("b.lt4"));
+  EXPECT_FALSE(Aktiv("MenüDateiSpeichern(0)"));
   KoordinatendateiName = Ordner.Pfad("fehlt/x.kor");
   Skript.Erwarte("Fehler aufgetreten beim Speichern der Datei " + KoordinatendateiName);
   EXPECT_EQ(HauptDateiSpeichern(), -1);
