@@ -21,7 +21,7 @@ void KorLesenMessen(benchmark::State& Stand, bool Gemischt) {
   const std::string Name = Kordatei(Gemischt);
   int Ergebnis = 0;
   KorLeeren();
-  for (auto _ : Stand) Ergebnis = KorLesen(Name, ModusErsetzen, FormatKor);
+  for (auto _ : Stand) Ergebnis = KorLesen(Name, Lesemodus::Ersetzen, Dateiformat::Kor);
   if (Ergebnis != 0 || !TabelleIstGanz()) Stand.SkipWithError("Die Tabelle stimmt nicht.");
 }
 
@@ -80,7 +80,7 @@ void KorTextMessen(benchmark::State& Stand) {
   TabelleFüllen();
   std::string Text;
   for (auto _ : Stand) {
-    KorText(FormatKor, 3, Text);
+    KorText(Dateiformat::Kor, 3, Text);
     benchmark::DoNotOptimize(Text.data());
   }
   fmt::memory_buffer Soll;
@@ -96,7 +96,7 @@ void FmtTextMessen(benchmark::State& Stand) {
     benchmark::DoNotOptimize(Text.data());
   }
   std::string Soll;
-  KorText(FormatKor, 3, Soll);
+  KorText(Dateiformat::Kor, 3, Soll);
   if (Soll != std::string_view(Text.data(), Text.size())) Stand.SkipWithError("Der Text stimmt nicht.");
 }
 
@@ -104,9 +104,9 @@ void KorSchreibenMessen(benchmark::State& Stand) {
   TabelleFüllen();
   const std::string Name = Messpfad("neu.kor");
   int Zeilen = 0;
-  for (auto _ : Stand) Zeilen = KorSchreiben(Name, FormatKor, 3);
+  for (auto _ : Stand) Zeilen = KorSchreiben(Name, Dateiformat::Kor, 3);
   KorLeeren();
-  if (Zeilen != static_cast<int>(Punktzahl) || KorLesen(Name, ModusErsetzen, FormatKor) != 0 ||
+  if (Zeilen != static_cast<int>(Punktzahl) || KorLesen(Name, Lesemodus::Ersetzen, Dateiformat::Kor) != 0 ||
       !TabelleIstGanz()) {
     Stand.SkipWithError("Die Datei stimmt nicht.");
   }
@@ -122,7 +122,7 @@ void MischenMessen(benchmark::State& Stand) {
   for (auto _ : Stand) {
     KorLoeschen(Fehlender);
     const double Ab = Prozessorzeit();
-    const int Ergebnis = KorLesen(Name, ModusNurNeue, FormatKor);
+    const int Ergebnis = KorLesen(Name, Lesemodus::NurNeue, Dateiformat::Kor);
     Stand.SetIterationTime(Prozessorzeit() - Ab);
     if (Ergebnis != 0 || !TabelleIstGanz()) return Stand.SkipWithError("Die Tabelle stimmt nicht.");
   }

@@ -94,7 +94,7 @@ std::string Kordatei(bool Gemischt) {
 
 void TabelleFüllen() {
   KorLeeren();
-  if (KorLesen(Kordatei(false), ModusErsetzen, FormatKor) == 0 && TabelleIstGanz()) return;
+  if (KorLesen(Kordatei(false), Lesemodus::Ersetzen, Dateiformat::Kor) == 0 && TabelleIstGanz()) return;
   std::cerr << "Die Messdaten sind nicht lesbar.\n";
   std::exit(2);
 }

@@ -30,7 +30,7 @@ void ListenVergleichen(const std::string& Name) {
 
 void SchreibenUndLesen() {
   std::string Text;
-  Prüfen(KorText(FormatKor, 3, Text) == 0, "KOR wird geschrieben");
+  Prüfen(KorText(Dateiformat::Kor, 3, Text) == 0, "KOR wird geschrieben");
   Punktlisten L;
   int Anzahl = 0;
   KorDateiInListen(Datei("b.kor", Text), L, KorGrenze, Anzahl, false);
@@ -46,21 +46,21 @@ void SchreibenUndLesen() {
 
 void Lauf(Eingabe E) {
   KorLeeren();
-  const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
+  const auto Modus = static_cast<Lesemodus>(E.Zahl(-1, 1));
   const bool Komma = E.Rest().find(',') != std::string_view::npos;
   for (const char* Pnr : {"1", "12", "A7"}) {
     Wert Nr(Pnr);
     NeupunktErgebnis Ergebnis;
-    if (Modus != ModusErsetzen) Neupunkt(Nr, 3480000, 5550000, 100, "015", nullptr, Ergebnis);
+    if (Modus != Lesemodus::Ersetzen) Neupunkt(Nr, 3480000, 5550000, 100, "015", nullptr, Ergebnis);
   }
   const int Vorher = KorAnzahl;
   const std::string Name = Datei("a.kor", E.Rest());
-  Prüfen(KorLesen(Name, Modus, FormatKor) == 0, "eine Datei wird immer gelesen");
+  Prüfen(KorLesen(Name, Modus, Dateiformat::Kor) == 0, "eine Datei wird immer gelesen");
   Prüfen(KorAnzahl >= Vorher, "es geht kein Punkt verloren");
   TabellePrüfen();
   // A comma becomes a point after the search for the number: only then there may be doubles.
-  if (Modus == ModusNurNeue && !Komma) Prüfen(AnzahlDoppelte() == 0, "Mischen macht keine Doppelten");
-  if (Modus == ModusErsetzen) ListenVergleichen(Name);
+  if (Modus == Lesemodus::NurNeue && !Komma) Prüfen(AnzahlDoppelte() == 0, "Mischen macht keine Doppelten");
+  if (Modus == Lesemodus::Ersetzen) ListenVergleichen(Name);
   SchreibenUndLesen();
 }
 

@@ -37,13 +37,14 @@ void ZeilePrüfen(int Zeile) {
 
 void Lauf(Eingabe E) {
   KorLeeren();
-  const int Modus = E.Zahl(ModusNurNeue, ModusErsetzen);
+  const auto Modus = static_cast<Lesemodus>(E.Zahl(-1, 1));
   const std::string Name = Datei("a.lt4", E.Rest());
   std::string Text;
-  Prüfen(KorLesen(Name, Modus, FormatLt4) == 0, "eine Datei wird immer gelesen");
+  Prüfen(KorLesen(Name, Modus, Dateiformat::Lt4) == 0, "eine Datei wird immer gelesen");
   TabellePrüfen();
   for (int i = 0; i < KorAnzahl; ++i) ZeilePrüfen(i);
-  Prüfen(KorText(FormatLt4, 3, Text) == 0 && KorText(FormatKor, 3, Text) == 0, "beide Formate werden geschrieben");
+  Prüfen(KorText(Dateiformat::Lt4, 3, Text) == 0 && KorText(Dateiformat::Kor, 3, Text) == 0,
+         "beide Formate werden geschrieben");
 }
 
 }  // namespace

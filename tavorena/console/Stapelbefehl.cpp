@@ -44,7 +44,7 @@ void Übergangene(std::ostream& Ausgabe) {
 
 bool Speichern(const std::string& Name) {
   if (Name.empty()) return true;
-  return KoordinatenExportieren(Name, Zeilenformat(FormatNachEndung(Name, 0))) == 0;
+  return KoordinatenExportieren(Name, FormatNachEndung(Name)) == 0;
 }
 
 }  // namespace
@@ -62,8 +62,8 @@ int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::o
     };
   }
   KoordinatendateiName = Auftrag.Koordinaten;
-  const bool Gelesen = KorLesen(Auftrag.Koordinaten, ModusErsetzen,
-                                Zeilenformat(FormatNachEndung(Auftrag.Koordinaten, 0))) == 0;
+  const bool Gelesen =
+      KorLesen(Auftrag.Koordinaten, Lesemodus::Ersetzen, FormatNachEndung(Auftrag.Koordinaten)) == 0;
   bool Gut = Gelesen;
   if (Gelesen) {
     ProtokollNehmen(Auftrag.Protokoll);

@@ -60,10 +60,13 @@ int ZeilenZählen(std::string_view Text) {
   return Anzahl;
 }
 
+bool WirdGelesen(Dateiformat Format) { return Format == Dateiformat::Kor || Format == Dateiformat::Lt4; }
+
 // One run of KorLesen over the text of a file.
 class Lesung {
  public:
-  Lesung(std::string_view Text, int Modus, int Format, const std::function<bool(std::string_view)>& Nimmt)
+  Lesung(std::string_view Text, Lesemodus Modus, Dateiformat Format,
+         const std::function<bool(std::string_view)>& Nimmt)
       : Inhalt(Text), LeseModus(Modus), Zeilenart(Format), Test(Nimmt) {}
 
   enum class Ende { Gut, Gestoppt, Voll };
@@ -76,7 +79,7 @@ class Lesung {
       if (KorAnzahl >= KorGrenze) return Ende::Voll;
       KorSatz Satz = KorPunkt(KorAnzahl);
       const bool IstPunkt =
-          Zeilenart == FormatLt4 ? Lt4Zerlegen(Zeile, Satz, Info) : KorZerlegen(Zeile, Satz);
+          Zeilenart == Dateiformat::Lt4 ? Lt4Zerlegen(Zeile, Satz, Info) : KorZerlegen(Zeile, Satz);
       if (!IstPunkt || Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) continue;
       if (KorAnzahl % 100 == 0 && Angehalten()) return Ende::Gestoppt;
     }
@@ -86,7 +89,7 @@ class Lesung {
  private:
   [[nodiscard]] bool Verworfen(std::string_view Pnr) const {
     return TrimmenSicht(Pnr).empty() || (Test && !Test(Pnr)) ||
-           (LeseModus == ModusNurNeue && KorSuche(Pnr) >= 0);
+           (LeseModus == Lesemodus::NurNeue && KorSuche(Pnr) >= 0);
   }
 
   bool Angehalten() {
@@ -94,7 +97,7 @@ class Lesung {
     if (Jetzt - Zuletzt < 0.5) return false;
     Zuletzt = Jetzt;
     // The lines are counted when there is somebody to show them to.
-    if (LeseModus == ModusErsetzen && Zusatz.empty()) {
+    if (LeseModus == Lesemodus::Ersetzen && Zusatz.empty()) {
       Zusatz = " von " + std::to_string(ZeilenZählen(Inhalt)) + " Punkten   ";
     }
     KorAnzahlAnzeigen(Zusatz);
@@ -105,7 +108,8 @@ class Lesung {
   }
 
   std::string_view Inhalt;
-  int LeseModus, Zeilenart;
+  Lesemodus LeseModus;
+  Dateiformat Zeilenart;
   const std::function<bool(std::string_view)>& Test;
   std::string Zusatz;
   double Zuletzt = AblaufPort().Zeitgeber();
@@ -144,11 +148,6 @@ int ListenOrdnen(Punktlisten& L) {
 
 }  // namespace
 
-int Zeilenformat(int Dateiformat) {
-  constexpr int Formate[] = {FormatKor, FormatEdbs, FormatLt4};
-  return Dateiformat >= 0 && Dateiformat <= 2 ? Formate[Dateiformat] : -1;
-}
-
 int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, double& Hoehe,
                   std::string& Symbol) {
   KorSatz S;
@@ -186,10 +185,10 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
 }
 
-int KorLesen(const std::string& Dateiname, int Modus, int Format,
+int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
              const std::function<bool(std::string_view)>& Nimmt) {
   if (Dateiname.empty()) return -1;
-  if (Format != FormatKor && Format != FormatLt4) {
+  if (!WirdGelesen(Format)) {
     FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
     return -1;
   }
@@ -198,7 +197,7 @@ int KorLesen(const std::string& Dateiname, int Modus, int Format,
     Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !");
     return -1;
   }
-  if (Modus == ModusErsetzen) KorAbschneiden(0);
+  if (Modus == Lesemodus::Ersetzen) KorAbschneiden(0);
   const int AlteAnzahl = KorAnzahl;
   AblaufPort().Beschäftigt(true);
   const Lesung::Ende Ende = Lesung(Inhalt, Modus, Format, Nimmt).Laufen();
@@ -207,22 +206,22 @@ int KorLesen(const std::string& Dateiname, int Modus, int Format,
     Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
   }
   if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
-  KorGeaendertSetzen(Modus != ModusErsetzen);
+  KorGeaendertSetzen(Modus != Lesemodus::Ersetzen);
   AblaufPort().Beschäftigt(false);
   KorAnzahlAnzeigen();
-  if (Ende == Lesung::Ende::Gestoppt) return Modus == ModusErsetzen ? -1 : 0;
+  if (Ende == Lesung::Ende::Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
   if (AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
   return 0;
 }
 
-int KorText(int Format, int Nachkomma, std::string& Text) {
-  if (Format != FormatKor && Format != FormatLt4) return -1;
+int KorText(Dateiformat Format, int Nachkomma, std::string& Text) {
+  if (!WirdGelesen(Format)) return -1;
   std::string Zeile;
   Text.clear();
   Text.reserve(static_cast<std::size_t>(KorAnzahl) * 64);
   for (int i = 0; i < KorAnzahl; ++i) {
     const KorSatz S = KorPunkt(i);
-    if (Format == FormatKor) {
+    if (Format == Dateiformat::Kor) {
       KorZeileAnhängen(Text, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol, Nachkomma);
     } else {
       Lt4ZeileSchreiben(S.Pnr, S.Rechts, S.Hoch, *S.Info, Zeile);
@@ -233,7 +232,7 @@ int KorText(int Format, int Nachkomma, std::string& Text) {
   return 0;
 }
 
-int KorSchreiben(const std::string& Dateiname, int Format, int Nachkomma) {
+int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma) {
   std::string Text;
   return KorText(Format, Nachkomma, Text) < 0 || DateiErsetzen(Dateiname, Text) < 0 ? -1 : KorAnzahl;
 }

@@ -31,33 +31,31 @@ int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, doub
 void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
                        std::string& Zeile);
 
-/// Numbers of the line formats of a coordinate file.
-inline constexpr int FormatKor = 0, FormatEdbs = 10, FormatLt4 = 11;
-/// Format number of a Koordinatendateiformat (0, 1, 2); -1 for any other.
-int Zeilenformat(int Dateiformat);
-
-/// Modes of KorLesen.
-inline constexpr int ModusErsetzen = 1, ModusAnhängen = 0, ModusNurNeue = -1;
+/// What KorLesen does with the points of a file.
+enum class Lesemodus {
+  NurNeue = -1,  ///< skips the numbers that the table holds
+  Alle = 0,      ///< appends
+  Ersetzen = 1,  ///< replaces the table
+};
 
 /// Reads a coordinate file into the table and sorts it. A missing file, the limit of 20000 points and
 /// double points are told in a message; every point that was read stays. The stop button rolls back; a table
 /// that was to be replaced is then empty.
-/// @param[in] Modus   1 replaces the table, -1 skips numbers that the table holds, all other append
-/// @param[in] Format  0 KOR, 11 LT4
+/// @param[in] Format  KOR or LT4
 /// @param[in] Nimmt   reads only the points whose number passes this test; none if empty
-/// @return 0; -1 no name, no file, unknown format, or stopped with Modus 1
-int KorLesen(const std::string& Dateiname, int Modus, int Format,
+/// @return 0; -1 no name, no file, a format that is not read, or stopped while replacing
+int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
              const std::function<bool(std::string_view)>& Nimmt = {});
 
 /// The whole table, in its order, as the text of a coordinate file.
 /// @param[in] Nachkomma  decimals of the KOR format, 0 to 15; LT4 always has 3
-/// @return 0; -1 for an unknown format
-int KorText(int Format, int Nachkomma, std::string& Text);
+/// @return 0; -1 for a format that is not written
+int KorText(Dateiformat Format, int Nachkomma, std::string& Text);
 
 /// Writes the whole table to a file that is replaced safely.
-/// @return the number of rows; -1 if the format is unknown or the file can not be written, an old file is
+/// @return the number of rows; -1 if the format is not written or the file can not be written, an old file is
 ///         then as it was
-int KorSchreiben(const std::string& Dateiname, int Format, int Nachkomma);
+int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma);
 
 /// Caller-owned columns of a KOR file.
 struct Punktlisten {

@@ -21,6 +21,14 @@ struct KorInfoSatz {
   bool operator==(const KorInfoSatz&) const = default;
 };
 
+/// What a coordinate file is written in. The numbers are those of the recent files; a history that another
+/// program has written may bring others, which nothing reads or writes.
+enum class Dateiformat : std::int16_t {
+  Kor = 0,
+  Edbs = 1,
+  Lt4 = 2,  ///< also ALK
+};
+
 /// The Punktart of a point whose symbol is known: the integer value of the text, 0 beyond 16 bits.
 std::int16_t PunktartVon(std::string_view Symbol);
 

@@ -85,7 +85,7 @@ const std::vector<KorInfoSatz>& KorInfo = Tabelle.Info;
 const bool& KoordinatenGeaendert = Tabelle.Geändert;
 const std::uint64_t& KorStand = Tabelle.Stand;
 std::string KoordinatendateiName;
-std::int16_t Koordinatendateiformat = 0;
+Dateiformat Koordinatendateiformat = Dateiformat::Kor;
 std::string KorStop;
 KoordinatenHaken Haken;
 
@@ -129,7 +129,7 @@ void KorGeaendertSetzen(bool Geaendert) { Tabelle.Geändert = Geaendert; }
 struct KorBeiseite::Inhalt {
   Punkttabelle Punkte;
   std::string Name;
-  std::int16_t Format = 0;
+  Dateiformat Format = Dateiformat::Kor;
   std::string Stop;
 
   void Tauschen() {
@@ -150,7 +150,7 @@ void KorLeeren() {
   Tabelle.Benutzt = 0;
   Tabelle.MitKomma = Tabelle.Geändert = false;
   KoordinatendateiName.clear();
-  Koordinatendateiformat = 0;
+  Koordinatendateiformat = Dateiformat::Kor;
   KorStop.clear();
 }
 
@@ -194,7 +194,7 @@ void KorEinfuegen(int Zeile, const Wert& Pnr, double Rechts, double Hoch, double
   if (KorAnzahl == 0 || Zeile < 0 || Zeile > KorAnzahl) return;
   if (KorAnzahl >= KorZeilen)
     return LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.KorEinfuegen");
-  const bool MitInfo = Koordinatendateiformat != 0;
+  const bool MitInfo = Koordinatendateiformat != Dateiformat::Kor;
   Vor(KorTat::Einschieben, Zeile, KorAnzahl + 1);
   for (int i = KorAnzahl; i > Zeile; --i) Tabelle.Kopieren(i, i - 1, true, MitInfo);
   Tabelle.Schreiben(Zeile, {ZahlNachText(Pnr).Text(), Rechts, Hoch, Hoehe, Symbol,

@@ -45,9 +45,9 @@ struct KorSatz {
 /// A row, 0 to KorZeilen - 1. Behind the last point it holds what a longer table left there.
 KorSatz KorPunkt(int Zeile);
 
-extern std::string KoordinatendateiName;     ///< path of the current file, empty if none
-extern std::int16_t Koordinatendateiformat;  ///< 0 KOR, 1 EDBS, 2 LT4/ALK
-extern std::string KorStop;                  ///< "Stop" from the stop button; long loops look at it
+extern std::string KoordinatendateiName;    ///< path of the current file, empty if none
+extern Dateiformat Koordinatendateiformat;  ///< of the current file
+extern std::string KorStop;                 ///< "Stop" from the stop button; long loops look at it
 
 // ---- the door --------------------------------------------------------------------------------------
 

@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
   const QStringList Dateien = Zeile.positionalArguments();
   const auto Starten = [&Dateien] {
     HauptInitialisierung();
-    if (!Dateien.isEmpty()) HauptDateiÖffnen(Dateien.first().toStdString(), 0);
+    if (!Dateien.isEmpty()) HauptDateiÖffnen(Dateien.first().toStdString(), Dateiformat::Kor);
   };
   static_cast<void>(Geschützt("Tavorena.Start", Starten));  // the window is there all the same
   const int Ergebnis = QApplication::exec();

@@ -29,12 +29,12 @@ void DateiNeu() {
   if (HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Neu, FilterKor, "*.kor", KoordinatendateiName) < 0) return;
-  Koordinatendateiformat = FormatNachEndung(KoordinatendateiName, 0);
+  Koordinatendateiformat = FormatNachEndung(KoordinatendateiName);
   if (HauptLesenUndDateinamenSetzen(false) < 0) return HauptInitialisierung();
   HauptDateiOffenSetzen();
 }
 
-void DateiLesenMit(std::int16_t Format, const char* Filter, const char* Vorgabe) {
+void DateiLesenMit(Dateiformat Format, const char* Filter, const char* Vorgabe) {
   if (HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
   std::string Name;
@@ -45,18 +45,19 @@ void DateiLesenMit(std::int16_t Format, const char* Filter, const char* Vorgabe)
 void DateiSpeichern() { HauptDateiSpeichern(); }
 
 void DateiSpeichernUnter() {
-  const char* const Vorgaben[] = {"*.kor", "*.eds", "*.alk"};
-  const char* Vorgabe = Vorgaben[std::clamp<int>(Koordinatendateiformat, 0, 2)];
+  const char* Vorgabe = Koordinatendateiformat == Dateiformat::Lt4    ? "*.alk"
+                        : Koordinatendateiformat == Dateiformat::Edbs ? "*.eds"
+                                                                      : "*.kor";
   std::string Name;
   bool Anhängen = false;
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhängen) < 0) return;
-  const std::int16_t Format = FormatNachEndung(Name, 0);
-  if (KoordinatenExportieren(Name, Zeilenformat(Format), Anhängen) < 0) return;
+  const Dateiformat Format = FormatNachEndung(Name);
+  if (KoordinatenExportieren(Name, Format, Anhängen) < 0) return;
   KoordinatendateiName = Name;
   Koordinatendateiformat = Format;
   KorGeaendertSetzen(false);
   // An extended file holds more than the table: the table takes all of it.
-  if (Anhängen && KorLesen(Name, ModusErsetzen, Zeilenformat(Format)) < 0) {
+  if (Anhängen && KorLesen(Name, Lesemodus::Ersetzen, Format) < 0) {
     KoordinatendateiName.clear();  // what is left of the table must not be saved over the whole file
     if (HauptKoordinatendateiWechseln(false) == 0) HauptInitialisierung();
     return;
@@ -86,21 +87,21 @@ void Beenden() {
 }
 
 // Reads points of a file into the table that is open.
-void Hinzulesen(int Modus, const std::function<bool(std::string_view)>& Nimmt = {}) {
+void Hinzulesen(Lesemodus Modus, const std::function<bool(std::string_view)>& Nimmt = {}) {
   std::string Name;
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
-  KorLesen(Name, Modus, Zeilenformat(FormatNachEndung(Name, 0)), Nimmt);
+  KorLesen(Name, Modus, FormatNachEndung(Name), Nimmt);
 }
 
-void HinzuKomplett() { Hinzulesen(ModusAnhängen); }
-void HinzuNurNeue() { Hinzulesen(ModusNurNeue); }
+void HinzuKomplett() { Hinzulesen(Lesemodus::Alle); }
+void HinzuNurNeue() { Hinzulesen(Lesemodus::NurNeue); }
 
 void HinzuPunktbereich() {
   std::string Name, Von, Bis;
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   if (PunktbereichFrage("Tavorena Auswahl Punktbereich", Von, Bis) < 0) return;
   const double Unten = ZahlAusText(Von), Oben = ZahlAusText(Bis);
-  KorLesen(Name, ModusAnhängen, Zeilenformat(FormatNachEndung(Name, 0)), [=](std::string_view Pnr) {
+  KorLesen(Name, Lesemodus::Alle, FormatNachEndung(Name), [=](std::string_view Pnr) {
     const double Nummer = ZahlAusText(Pnr);
     return Nummer >= Unten && Nummer <= Oben;
   });
@@ -111,12 +112,12 @@ void HinzuPunktselektion() {
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   Punktlisten Listen;
   int Anzahl = 0;
-  if (FormatNachEndung(Name, 0) != 0)
+  if (FormatNachEndung(Name) != Dateiformat::Kor)
     return FehlerMeldung("Punkte werden nur aus KOR-Dateien ausgewählt:\n" + Name);
   if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
   std::vector<std::string> Gewählt;
   if (PunkteAuswählen(Listen, Gewählt) < 0) return;
-  KorLesen(Name, ModusAnhängen, FormatKor, [&](std::string_view Pnr) {
+  KorLesen(Name, Lesemodus::Alle, Dateiformat::Kor, [&](std::string_view Pnr) {
     return std::find(Gewählt.begin(), Gewählt.end(), Pnr) != Gewählt.end();
   });
 }
@@ -186,8 +187,8 @@ void Projektstand() {
 
 const Befehl Befehle[] = {
     {"MenüDateiNeu", false, DateiNeu},
-    {"MenüDateiLesen(0)", false, [] { DateiLesenMit(0, FilterKor, "*.kor"); }},
-    {"MenüDateiLesen(2)", false, [] { DateiLesenMit(2, FilterKor, "*.alk"); }},
+    {"MenüDateiLesen(0)", false, [] { DateiLesenMit(Dateiformat::Kor, FilterKor, "*.kor"); }},
+    {"MenüDateiLesen(2)", false, [] { DateiLesenMit(Dateiformat::Lt4, FilterKor, "*.alk"); }},
     {"MenüDateiSpeichern(0)", true, DateiSpeichern},
     {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},
     {"MenüDateiStapel", true, Stapelbearbeitung},

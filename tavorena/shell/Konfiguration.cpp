@@ -204,9 +204,10 @@ int HistorieLesen() {
     HistorieEintrag& H = Historie[static_cast<std::size_t>(i)];
     const std::size_t Stern = Zeile.find('*');
     H.Dateiname = Stern == std::string::npos ? Zeile : Trimmen(Zeile.substr(0, Stern));
-    H.Format = Stern == std::string::npos ? std::int16_t{0} : Kurz(Zeile.substr(Stern + 1));
+    H.Format = static_cast<Dateiformat>(Stern == std::string::npos ? 0 : Kurz(Zeile.substr(Stern + 1)));
     // Older files kept LT4 under the number of KOR.
-    if (H.Format == 0 && Großtext(DateinameZerlegen(H.Dateiname).Endung) == "LT4") H.Format = 2;
+    if (H.Format == Dateiformat::Kor && Großtext(DateinameZerlegen(H.Dateiname).Endung) == "LT4")
+      H.Format = Dateiformat::Lt4;
   }
   return 0;
 }
@@ -257,7 +258,7 @@ int OptionenSchreiben() {
   Zeile("[Historie]");
   for (int i = 0; i < HistorieAnzahl; ++i) {
     const HistorieEintrag& H = Historie[static_cast<std::size_t>(i)];
-    Zeile(H.Dateiname + " * " + Zahl(H.Format));
+    Zeile(H.Dateiname + " * " + Zahl(static_cast<std::int16_t>(H.Format)));
   }
   Zeile("[Formular]");
   Zeile(ZahlFormat(O.FormularZoomX, 3, 4) + "  " + ZahlFormat(O.FormularZoomY, 3, 4) + "  Formularzoom");
@@ -269,7 +270,7 @@ int OptionenSchreiben() {
   return Schreiben(DateinameOptionen, Text);
 }
 
-void HauptHistSchreiben(const std::string& Dateiname, std::int16_t Format) {
+void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format) {
   int Stelle = HistorieAnzahl - 1;  // a new file pushes the oldest out
   for (int i = 0; i < HistorieAnzahl; ++i) {
     if (Historie[static_cast<std::size_t>(i)].Dateiname == Dateiname) Stelle = i;

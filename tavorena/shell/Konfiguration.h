@@ -1,9 +1,10 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <string_view>
+
+#include <tavorena/core/Punkt.h>
 
 // The two configuration files of the application folder. Both are line-position files: a line has its
 // meaning by its place, the words behind a value are comments for the reader. Missing or cut-off files are
@@ -27,7 +28,7 @@ void DateinamenAbleiten();
 /// The recent files; 0 to 9 are used.
 struct HistorieEintrag {
   std::string Dateiname;
-  std::int16_t Format = 0;  ///< 0 KOR/LT4, 1 EDBS, 2 ALK
+  Dateiformat Format = Dateiformat::Kor;
   bool operator==(const HistorieEintrag&) const = default;
 };
 extern std::array<HistorieEintrag, 11> Historie;
@@ -46,7 +47,7 @@ int EDBSLesen();
 [[nodiscard]] int OptionenSchreiben();
 
 /// Puts a file to the front of the history, and writes it.
-void HauptHistSchreiben(const std::string& Dateiname, std::int16_t Format);
+void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format);
 
 /// Settings of the instrument link.
 struct TheoOptionen {

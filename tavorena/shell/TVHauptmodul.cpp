@@ -56,9 +56,8 @@ void OhnePunkte() {
 }
 
 int LesenNachFormat() {
-  const int Format = Zeilenformat(Koordinatendateiformat);
-  if (Format >= 0) {
-    const int Gelesen = KorLesen(KoordinatendateiName, ModusErsetzen, Format);
+  if (Koordinatendateiformat >= Dateiformat::Kor && Koordinatendateiformat <= Dateiformat::Lt4) {
+    const int Gelesen = KorLesen(KoordinatendateiName, Lesemodus::Ersetzen, Koordinatendateiformat);
     if (Gelesen < 0) KoordinatendateiName.clear();
     return Gelesen;
   }
@@ -125,14 +124,14 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
   return ProtokollNehmenFragen(Stamm + ".dru");
 }
 
-std::int16_t FormatNachEndung(const std::string& Name, std::int16_t Sonst) {
+Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst) {
   const std::string Endung = Großtext(DateinameZerlegen(Name).Endung);
-  if (Endung == "LT4" || Endung == "ALK") return 2;
-  if (Endung.size() == 3 && Endung.starts_with("ED")) return 1;
+  if (Endung == "LT4" || Endung == "ALK") return Dateiformat::Lt4;
+  if (Endung.size() == 3 && Endung.starts_with("ED")) return Dateiformat::Edbs;
   return Sonst;
 }
 
-int HauptDateiÖffnen(const std::string& Name, std::int16_t Format) {
+int HauptDateiÖffnen(const std::string& Name, Dateiformat Format) {
   KoordinatendateiName = Name;
   Koordinatendateiformat = FormatNachEndung(Name, Format);
   if (HauptLesenUndDateinamenSetzen(true) < 0) {
@@ -153,12 +152,12 @@ void HauptDateiOffenSetzen() {
 }
 
 int HauptDateiSpeichern() {
-  if (KoordinatenExportieren(KoordinatendateiName, Zeilenformat(Koordinatendateiformat)) < 0) return -1;
+  if (KoordinatenExportieren(KoordinatendateiName, Koordinatendateiformat) < 0) return -1;
   KorGeaendertSetzen(false);
   return 0;
 }
 
-int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhängen) {
+int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen) {
   std::string Alt, Neu;
   bool Gut = KorText(Format, Optionen.OptNachkommaSpeichern, Neu) == 0 &&
              (!Anhängen || DateiLesen(Dateiname, Alt) == 0);

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
+
+#include <tavorena/core/Punkt.h>
 
 // Start, end, and the commands on the coordinate file.
 
@@ -24,17 +25,17 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen);
 
 /// Opens a file by its name, as the command "lesen" and the recent files do.
 /// @return 0; -1, the state is then "no coordinates"
-int HauptDateiÖffnen(const std::string& Name, std::int16_t Format);
+int HauptDateiÖffnen(const std::string& Name, Dateiformat Format);
 
 /// Writes the table to KoordinatendateiName in its format. @return 0; -1 with a message
 int HauptDateiSpeichern();
 
-/// The common writer behind saving and exports. @param[in] Format 0 KOR, 11 LT4
+/// The common writer behind saving and exports. @param[in] Format KOR or LT4
 /// @return 0; -1, an old file is then as it was
-int KoordinatenExportieren(const std::string& Dateiname, int Format, bool Anhängen = false);
+int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen = false);
 
 /// The coordinate file format that the ending of a name stands for; Sonst for any other ending.
-std::int16_t FormatNachEndung(const std::string& Name, std::int16_t Sonst);
+Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst = Dateiformat::Kor);
 
 /// Everything is set for work on a file: menus, last folder, history.
 void HauptDateiOffenSetzen();

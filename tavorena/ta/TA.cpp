@@ -177,13 +177,13 @@ enmResult TA::PolarelementePnr(const Wert& vPnr1, const Wert& vPnr2, const Wert&
 
 std::int32_t TA::KoordinatendateiLesen(const std::string& strKoordinatendateiName) {
   if (!DateiVorhanden(strKoordinatendateiName)) return -1;
-  return KorLesen(strKoordinatendateiName, ModusErsetzen, FormatKor) < 0 ? -1 : KorAnzahl;
+  return KorLesen(strKoordinatendateiName, Lesemodus::Ersetzen, Dateiformat::Kor) < 0 ? -1 : KorAnzahl;
 }
 
 std::int32_t TA::KoordinatendateiSchreiben(const std::string& strKoordinatendateiName,
                                            std::int32_t lNachkomma) {
   if (lNachkomma < 0 || lNachkomma > 15) return -1;
-  return KorSchreiben(strKoordinatendateiName, FormatKor, lNachkomma);
+  return KorSchreiben(strKoordinatendateiName, Dateiformat::Kor, lNachkomma);
 }
 
 }  // namespace tavorena

@@ -66,11 +66,12 @@ TEST_F(Gast, LäßtAllesWieEsWar) {
   Haken.VorÄnderung = [&](const KorÄnderung&) { ++Gerufen; };
   Optionen.OptNachkommaSpeichern = 2;
   KoordinatendateiName = "wirt.lt4";
-  Koordinatendateiformat = 2;
+  Koordinatendateiformat = Dateiformat::Lt4;
   KorStop = "Stop";
   const auto Stand = [] {
     return Reihe(KorAnzahl, KorPnr(0), KorRechts[0], KorSymbol[0], KorStand, KoordinatenGeaendert, KorStop,
-                 KoordinatendateiName, Koordinatendateiformat, Optionen.OptNachkommaSpeichern);
+                 KoordinatendateiName, static_cast<int>(Koordinatendateiformat),
+                 Optionen.OptNachkommaSpeichern);
   };
   const std::string Vorher = Stand();
   Schreibe(Datei, "8 1.0 2 3\r\n9 1.0 2 3\r\n");

@@ -253,7 +253,7 @@ TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
       [&] {
         Schreibe(Datei,
                  Zufallsnummer(Zufall, Art % 5) + " 1.0 2 3 x\r\n" + std::to_string(Eine(99)) + " 4.0 5\r\n");
-        KorLesen(Datei, Eine(3) - 1, FormatKor);
+        KorLesen(Datei, static_cast<Lesemodus>(Eine(3) - 1), Dateiformat::Kor);
       }};
   for (; Art < 20; ++Art) {
     KorLeeren();

@@ -13,7 +13,8 @@ namespace {
 
 class KorDatei : public TabellenTest {
  protected:
-  int Lies(const std::string& Bytes, int Modus = ModusErsetzen, int Format = FormatKor) {
+  int Lies(const std::string& Bytes, Lesemodus Modus = Lesemodus::Ersetzen,
+           Dateiformat Format = Dateiformat::Kor) {
     Datei = Ordner.Pfad("a.kor");
     Schreibe(Datei, Bytes);
     return KorLesen(Datei, Modus, Format);
@@ -71,14 +72,14 @@ TEST_F(KorDatei, SchreibenLesenSchreibenGibtDieselbenBytes) {
     const auto Pnr = std::to_string(100 + (i * 7919) % 99991);
     Punkt(Pnr.c_str(), R(Zufall), R(Zufall), Z(Zufall), i % 2 == 0 ? "015" : "");
   }
-  for (const int Format : {FormatKor, FormatLt4}) {
+  for (const Dateiformat Format : {Dateiformat::Kor, Dateiformat::Lt4}) {
     const std::string Eins = Ordner.Pfad("eins"), Zwei = Ordner.Pfad("zwei");
     EXPECT_EQ(KorSchreiben(Eins, Format, 3), 500);
-    ASSERT_EQ(KorLesen(Eins, ModusErsetzen, Format), 0);
+    ASSERT_EQ(KorLesen(Eins, Lesemodus::Ersetzen, Format), 0);
     EXPECT_FALSE(KoordinatenGeaendert);
     EXPECT_EQ(KorSchreiben(Zwei, Format, 3), 500);
-    if (Format == FormatLt4) {  // a key comes back with its zeros and the missing class as a blank
-      EXPECT_EQ(KorLesen(Zwei, ModusErsetzen, Format), 0);
+    if (Format == Dateiformat::Lt4) {  // a key comes back with its zeros and the missing class as a blank
+      EXPECT_EQ(KorLesen(Zwei, Lesemodus::Ersetzen, Format), 0);
       EXPECT_EQ(KorSchreiben(Eins, Format, 3), 500);
     }
     EXPECT_TRUE(Inhalt(Eins) == Inhalt(Zwei));
@@ -107,7 +108,7 @@ TEST_F(KorDatei, Lt4HatFesteSpalten) {
   EXPECT_EQ(Lt4ZeileLesen(Zeile.substr(0, 63), Pnr, R, H, Symbol, Info), -1);
   std::string Ohne = Zeile;
   Ohne.replace(8, 10, 10, ' ');
-  ASSERT_EQ(Lies(Zeile + "\r\n" + Ohne, ModusErsetzen, FormatLt4), 0);
+  ASSERT_EQ(Lies(Zeile + "\r\n" + Ohne, Lesemodus::Ersetzen, Dateiformat::Lt4), 0);
   EXPECT_EQ(KorAnzahl, 1);  // without a number it is no point; as a KOR line its Rechts would become one
 }
 
@@ -129,7 +130,7 @@ TEST_F(KorDatei, StopNimmtZurück) {
     if (KorAnzahl >= 300) KorStop = "Stop";
     EXPECT_NE(Skript.Status[1].find(" Punkte"), std::string::npos);
   };
-  ASSERT_EQ(Lies(Zeilen(1000, 10), ModusAnhängen), 0);
+  ASSERT_EQ(Lies(Zeilen(1000, 10), Lesemodus::Alle), 0);
   EXPECT_EQ(Reihe(KorAnzahl, KorStop), "5|");
   EXPECT_EQ(Lies(Zeilen(1000)), -1);
   EXPECT_EQ(KorAnzahl, 0);
@@ -137,14 +138,15 @@ TEST_F(KorDatei, StopNimmtZurück) {
 
 TEST_F(KorDatei, WasKeineDateiIst) {
   ASSERT_EQ(Lies(Zeilen(3)), 0);
-  EXPECT_EQ(KorLesen("", 1, FormatKor), -1);  // no name, no message
-  const auto Scheitert = [&](const std::string& Fall, const std::string& Meldung, int Format = FormatKor) {
+  EXPECT_EQ(KorLesen("", Lesemodus::Ersetzen, Dateiformat::Kor), -1);  // no name, no message
+  const auto Scheitert = [&](const std::string& Fall, const std::string& Meldung,
+                             Dateiformat Format = Dateiformat::Kor) {
     Skript.Erwarte(Meldung);
-    EXPECT_EQ(KorLesen(Fall, 1, Format), -1);
+    EXPECT_EQ(KorLesen(Fall, Lesemodus::Ersetzen, Format), -1);
   };
   for (const std::string& Fall : {Ordner.Pfad("fehlt.kor"), Ordner.Pfad("")})
     Scheitert(Fall, "Koordinatendatei\n" + Fall + "\nnicht vorhanden !");
-  Scheitert(Datei, "Format der Datei", FormatEdbs);
+  Scheitert(Datei, "Format der Datei", Dateiformat::Edbs);
   if (geteuid() == 0) {  // without read permission; root must put on another hat to be refused
     std::filesystem::permissions(Datei, std::filesystem::perms::none);
     ASSERT_EQ(seteuid(65534), 0);
@@ -166,7 +168,7 @@ TEST_F(KorDatei, SeltsameInhalte) {
   std::generate(Rauschen.begin(), Rauschen.end(), [&] { return static_cast<char>(Zufall() >> 24U); });
   Skript.Erwarte("doppelte Punkte");
   ASSERT_EQ(Lies(Rauschen), 0);
-  EXPECT_GE(KorSchreiben(Ordner.Pfad("b.kor"), FormatKor, 3), 100);
+  EXPECT_GE(KorSchreiben(Ordner.Pfad("b.kor"), Dateiformat::Kor, 3), 100);
 }
 
 TEST_F(KorDatei, Listen) {

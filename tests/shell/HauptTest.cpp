@@ -90,7 +90,7 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
   EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")), "             7         1.000         2.000       3.000  ß\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
   Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
-  EXPECT_EQ(Koordinatendateiformat, 2);
+  EXPECT_EQ(Koordinatendateiformat, Dateiformat::Lt4);
   EXPECT_TRUE(Inhalt(Ordner.Pfad("b.lt4")).starts_with("000 45590000000007"));
   // An existing file can be extended: the table then holds all of it.
   const std::string Alt =

@@ -30,8 +30,8 @@ TEST_F(Konfiguration, DateiByteFürByteUndZurückMitAllenEigenheiten) {
   Optionen.FormularZoomX = 1.0667;
   Optionen.FormularZoomY = 0.77;
   Optionen.VerzeichnisLetztes = "/mein ordner/";
-  HauptHistSchreiben("/daten/a.kor", 0);
-  HauptHistSchreiben("/daten/b.lt4", 2);
+  HauptHistSchreiben("/daten/a.kor", Dateiformat::Kor);
+  HauptHistSchreiben("/daten/b.lt4", Dateiformat::Lt4);
   EXPECT_TRUE(GleichSoll(Ini(), "shell/soll/Anders.ini"));
   Optionen.SchriftgroesseProtokoll = 12;
   Optionen.OptNachkommaSpeichern = 2;
@@ -90,18 +90,21 @@ TEST_F(Konfiguration, FehlendeDateiUndAnwendungsordner) {
 }
 
 TEST_F(Konfiguration, Historie) {
-  for (int i = 0; i < 12; ++i) HauptHistSchreiben("f" + std::to_string(i), 0);
-  HauptHistSchreiben("f8", 1);  // place 3 comes to the front, the others keep their order
+  for (int i = 0; i < 12; ++i) HauptHistSchreiben("f" + std::to_string(i), Dateiformat::Kor);
+  HauptHistSchreiben("f8", Dateiformat::Edbs);  // place 3 comes to the front, the others keep their order
   std::string Namen;
   for (const HistorieEintrag& H : tavorena::Historie) Namen += H.Dateiname + " ";
   EXPECT_EQ(Namen, "f8 f11 f10 f9 f7 f6 f5 f4 f3 f2  ");
-  Ini("[Historie]\r\n * 0\r\n/a/alt.lt4 *   0\r\n/a b/c.kor *   0\r\nohne Stern\r\n");
+  Ini("[Historie]\r\n * 0\r\n/a/alt.lt4 *   0\r\n/a b/c.kor *   7\r\nohne Stern\r\n");
   HauptInitialisierung();
-  EXPECT_EQ(tavorena::Historie[1], (HistorieEintrag{"/a/alt.lt4", 2}));  // LT4 under its old number
+  EXPECT_EQ(tavorena::Historie[1],
+            (HistorieEintrag{"/a/alt.lt4", Dateiformat::Lt4}));  // LT4 under its old number
   EXPECT_EQ(tavorena::Historie[3].Dateiname, "ohne Stern");
   // Empty entries are left out.
   EXPECT_EQ(TVKernMDIForm::Fenster().Titel(*MenüFinden("MenüDateiHist(2)")), "/a b/c.kor");
   EXPECT_TRUE(Sichtbar("MenüDateiHist(3)") && !Sichtbar("MenüDateiHist(4)"));
+  Skript.Erwarte("Es wird versucht, die Datei /a b/c.kor");  // a format that nobody knows
+  Befehl("MenüDateiHist(2)");
 }
 
 TEST_F(Konfiguration, Theodolitdatei) {
