@@ -76,10 +76,11 @@ void NeupunktMessen(benchmark::State& Stand) {
     const std::size_t p = L.Nächster();
     Wert Pnr(P.Pnr[p]);
     const double Ab = Prozessorzeit();
-    const int Code = Neupunkt(Pnr, P.Rechts[p], P.Hoch[p], P.Hoehe[p], P.Symbol[p], nullptr, E);
+    const NeupunktCode Code = Neupunkt(Pnr, P.Rechts[p], P.Hoch[p], P.Hoehe[p], P.Symbol[p], nullptr, E);
     Stand.SetIterationTime(Prozessorzeit() - Ab);
     const int Zeile = KorSuche(Pnr);
-    if (Code != 0 || Zeile != static_cast<int>(L.Reihe(p)) || KorRechts[L.Reihe(p)] != P.Rechts[p])
+    if (Code != NeupunktCode::Neu || Zeile != static_cast<int>(L.Reihe(p)) ||
+        KorRechts[L.Reihe(p)] != P.Rechts[p])
       return Stand.SkipWithError("Der Punkt steht falsch.");
     KorLoeschen(Zeile);
   }

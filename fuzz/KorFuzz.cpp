@@ -51,7 +51,9 @@ void Lauf(Eingabe E) {
   for (const char* Pnr : {"1", "12", "A7"}) {
     Wert Nr(Pnr);
     NeupunktErgebnis Ergebnis;
-    if (Modus != Lesemodus::Ersetzen) Neupunkt(Nr, 3480000, 5550000, 100, "015", nullptr, Ergebnis);
+    if (Modus == Lesemodus::Ersetzen) break;
+    Prüfen(Neupunkt(Nr, 3480000, 5550000, 100, "015", nullptr, Ergebnis) == NeupunktCode::Neu,
+           "die Nummer ist frei");
   }
   const int Vorher = KorAnzahl;
   const std::string Name = Datei("a.kor", E.Rest());

@@ -12,8 +12,10 @@
 namespace tavorena {
 namespace {
 
-const std::map<std::string, std::string> Antworten = {
-    {"abbruch", "ABB"}, {"alt-loeschen", "ALÖ"}, {"mittel", "MIT"}, {"neu-loeschen", "NLÖ"}};
+const std::map<std::string, Konfliktwort> Antworten = {{"abbruch", Konfliktwort::Abbrechen},
+                                                       {"alt-loeschen", Konfliktwort::AltenErsetzen},
+                                                       {"mittel", Konfliktwort::Mitteln},
+                                                       {"neu-loeschen", Konfliktwort::NeuenVerwerfen}};
 
 // A line per block, written when the next one begins.
 class Blockzeilen {

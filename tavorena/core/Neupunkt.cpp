@@ -13,17 +13,18 @@ struct NeuerPunkt {
   const KorInfoSatz* Info;
 };
 
-int Anfügen(const std::string& Pnr, const NeuerPunkt& P) {
+// @return Wie; Nichts if the table is full
+NeupunktCode Anfügen(const std::string& Pnr, const NeuerPunkt& P, NeupunktCode Wie) {
   KorInfoSatz Ohne;
   Ohne.Punktart = PunktartVon(P.Symbol);
   if (KorAnhängen({Pnr, P.Rechts, P.Hoch, P.Hoehe.Zahl(), P.Symbol, P.Info != nullptr ? P.Info : &Ohne}) <
       0) {
     LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.Neupunkt");
-    return -1;
+    return NeupunktCode::Nichts;
   }
   KorAnzahlAnzeigen();
   KorSortieren();
-  return 0;
+  return Wie;
 }
 
 int AltenErsetzen(int Zeile, const NeuerPunkt& P) {
@@ -55,41 +56,52 @@ Konfliktantwort Fragen(const Konflikt& Frage) {
   Konfliktantwort Antwort;
   do {
     Antwort = Haken.PunktVorhandenBehandeln ? Haken.PunktVorhandenBehandeln(Frage) : Konfliktantwort{};
-  } while (Antwort.Wort == "RÜC");
+  } while (Antwort.Wort == Konfliktwort::Nochmal);
   Antwort.NeuePnr = std::string(TrimmenSicht(Antwort.NeuePnr));
   return Antwort;
 }
 
-int AlterNeueNummer(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
-                    NeupunktErgebnis& Ergebnis) {
-  if (KorAnzahl >= KorZeilen) return Anfügen(Ergebnis.Pnr, P);  // reports the full table, changes nothing
+NeupunktCode AlterNeueNummer(int Zeile, const NeuerPunkt& P, const std::string& NeuePnr,
+                             NeupunktErgebnis& Ergebnis) {
+  // A full table is reported, and stays as it is.
+  if (KorAnzahl >= KorZeilen) return Anfügen(Ergebnis.Pnr, P, NeupunktCode::Nichts);
   KorSatz Satz = KorPunkt(Zeile);
   Ergebnis.Rechts = Satz.Rechts;
   Ergebnis.Hoch = Satz.Hoch;
-  Ergebnis.AlterPnr = Satz.Pnr = Antwort.NeuePnr;
-  if (KorZeileSetzen(Zeile, Satz) < 0) return -1;
+  Ergebnis.AlterPnr = NeuePnr;
+  Satz.Pnr = NeuePnr;
+  if (KorZeileSetzen(Zeile, Satz) < 0) return NeupunktCode::Nichts;
   KorSortieren();
-  return Anfügen(Ergebnis.Pnr, P) < 0 ? -1 : 3;
+  return Anfügen(Ergebnis.Pnr, P, NeupunktCode::AlterNeunum);
 }
 
-int AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
-                     NeupunktErgebnis& Ergebnis) {
-  if (Antwort.Wort == "ALÖ") return AltenErsetzen(Zeile, P) < 0 ? -1 : 1;
-  if (Antwort.Wort == "MIT" || Antwort.Wort == "NLÖ") {
-    if (Antwort.Wort == "MIT" && Mitteln(Zeile, P) < 0) return -1;
-    Ergebnis.Rechts = KorPunkt(Zeile).Rechts;
-    Ergebnis.Hoch = KorPunkt(Zeile).Hoch;
-    if (Antwort.Wort == "MIT") return 2;
-    Ergebnis.Pnr = KorPnr(Zeile);
-    return 11;
+NeupunktCode AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
+                              NeupunktErgebnis& Ergebnis) {
+  switch (Antwort.Wort) {
+    case Konfliktwort::AltenErsetzen:
+      return AltenErsetzen(Zeile, P) < 0 ? NeupunktCode::Nichts : NeupunktCode::AlterErsetzt;
+    case Konfliktwort::Mitteln:
+      if (Mitteln(Zeile, P) < 0) return NeupunktCode::Nichts;
+      Ergebnis.Rechts = KorPunkt(Zeile).Rechts;
+      Ergebnis.Hoch = KorPunkt(Zeile).Hoch;
+      return NeupunktCode::Gemittelt;
+    case Konfliktwort::NeuenVerwerfen:
+      Ergebnis.Pnr = KorPnr(Zeile);
+      Ergebnis.Rechts = KorPunkt(Zeile).Rechts;
+      Ergebnis.Hoch = KorPunkt(Zeile).Hoch;
+      return NeupunktCode::NeuerVerworfen;
+    case Konfliktwort::AltenNeunum:
+      if (Antwort.NeuePnr.empty()) break;
+      return AlterNeueNummer(Zeile, P, Antwort.NeuePnr, Ergebnis);
+    case Konfliktwort::NeuenNeunum:
+      if (Antwort.NeuePnr.empty()) break;
+      Ergebnis.AlterPnr = std::exchange(Ergebnis.Pnr, Antwort.NeuePnr);
+      return Anfügen(Ergebnis.Pnr, P, NeupunktCode::NeuerNeunum);
+    case Konfliktwort::Abbrechen:
+    case Konfliktwort::Nochmal:
+      break;
   }
-  if (Antwort.NeuePnr.empty()) return -1;
-  if (Antwort.Wort == "ANN") return AlterNeueNummer(Zeile, P, Antwort, Ergebnis);
-  if (Antwort.Wort == "NNN") {
-    Ergebnis.AlterPnr = std::exchange(Ergebnis.Pnr, Antwort.NeuePnr);
-    return Anfügen(Ergebnis.Pnr, P) < 0 ? -1 : 13;
-  }
-  return -1;
+  return NeupunktCode::Nichts;
 }
 
 }  // namespace
@@ -103,19 +115,19 @@ int KorFind(Wert& Pnr) {
   }
 }
 
-int Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
-             const KorInfoSatz* Info, NeupunktErgebnis& Ergebnis) {
+NeupunktCode Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
+                      const KorInfoSatz* Info, NeupunktErgebnis& Ergebnis) {
   KorGeaendertSetzen(true);  // also if nothing is stored: settled behaviour
   Ergebnis = {0, 0, Pnr.IstText() ? Pnr.Text() : ZahlNachText(Pnr).Text(), Rechts, Hoch, {}};
-  if (TrimmenSicht(Ergebnis.Pnr).empty()) return -1;
+  if (TrimmenSicht(Ergebnis.Pnr).empty()) return NeupunktCode::Nichts;
   const NeuerPunkt P{Rechts, Hoch, Hoehe, Symbol, Info};
   const int Zeile = KorSuche(Pnr);
-  if (Zeile < 0) return Anfügen(Ergebnis.Pnr, P);
+  if (Zeile < 0) return Anfügen(Ergebnis.Pnr, P, NeupunktCode::Neu);
   Ergebnis.DeltaRechts = Rechts - KorPunkt(Zeile).Rechts;
   Ergebnis.DeltaHoch = Hoch - KorPunkt(Zeile).Hoch;
   const Konfliktantwort Antwort = Fragen({Ergebnis.Pnr, Zeile, Rechts, Hoch, Hoehe, Symbol});
-  const int Code = AntwortAusführen(Zeile, P, Antwort, Ergebnis);
-  if (Code == 11 || Code == 13) Pnr = Wert(Ergebnis.Pnr);
+  const NeupunktCode Code = AntwortAusführen(Zeile, P, Antwort, Ergebnis);
+  if (Code == NeupunktCode::NeuerVerworfen || Code == NeupunktCode::NeuerNeunum) Pnr = Wert(Ergebnis.Pnr);
   return Code;
 }
 

@@ -143,22 +143,33 @@ int ListeFindAlle(const std::vector<std::string>& Liste, int Anzahl, std::string
 
 // ---- the way of a result into the table ------------------------------------------------------------
 
+/// What Neupunkt did. Protocol and worksheets know it by these numbers.
+enum class NeupunktCode {
+  Nichts = -1,          ///< nothing stored: no number, broken off, table full
+  Neu = 0,              ///< the number was free
+  AlterErsetzt = 1,     ///< the old point has the new values
+  Gemittelt = 2,        ///< the old point has the mean
+  AlterNeunum = 3,      ///< the old point has another number
+  NeuerVerworfen = 11,  ///< the old point stays
+  NeuerNeunum = 13,     ///< the new point has another number
+};
+
 /// What Neupunkt hands back besides its code.
 struct NeupunktErgebnis {
   double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
   std::string Pnr;                        ///< number under which the result now stands
   double Rechts = 0, Hoch = 0;
-  std::string AlterPnr;  ///< code 3: new number of the old point; code 13: the number asked for first
+  std::string
+      AlterPnr;  ///< AlterNeunum: new number of the old point; NeuerNeunum: the number asked for first
 };
 
 /// Stores a calculated point. A taken number is asked about, see Konfliktantwort.
 /// @param[in,out] Pnr    empty or null stores nothing; the final number on return
 /// @param[in]     Hoehe  null or empty if there is none; stored as 0
 /// @param[in]     Info   attributes; nullptr: all empty, Punktart from the symbol
-/// @return 0 free number, 1 old point replaced, 2 mean, 3 old point renumbered, 11 new point dropped,
-///         13 new point renumbered; -1 nothing stored (no number, broken off, table full)
-int Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
-             const KorInfoSatz* Info, NeupunktErgebnis& Ergebnis);
+[[nodiscard]] NeupunktCode Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe,
+                                    const std::string& Symbol, const KorInfoSatz* Info,
+                                    NeupunktErgebnis& Ergebnis);
 
 /// The two points that want the same number.
 struct Konflikt {
@@ -169,10 +180,19 @@ struct Konflikt {
   std::string Symbol;
 };
 
-/// "ABB" break off, "ALÖ" delete the old point, "MIT" mean, "ANN" the old point takes NeuePnr, "NLÖ" drop
-/// the new point, "NNN" the new point takes NeuePnr, "RÜC" ask again.
+/// The seven answers, each with its short word.
+enum class Konfliktwort {
+  Abbrechen,       ///< ABB: the calculation stops
+  AltenErsetzen,   ///< ALÖ: delete the old point
+  Mitteln,         ///< MIT
+  AltenNeunum,     ///< ANN: the old point takes NeuePnr
+  NeuenVerwerfen,  ///< NLÖ: delete the new point
+  NeuenNeunum,     ///< NNN: the new point takes NeuePnr
+  Nochmal,         ///< RÜC: ask again
+};
+
 struct Konfliktantwort {
-  std::string Wort = "ABB";
+  Konfliktwort Wort = Konfliktwort::Abbrechen;
   std::string NeuePnr;
 };
 

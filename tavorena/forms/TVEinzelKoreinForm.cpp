@@ -75,7 +75,7 @@ int FormEinzelKorein(Wert& Pnr) {
   NeupunktErgebnis Ergebnis;
   const Wert Hoehe = Form.Hoehe.Text->empty() ? Wert(NullWert{}) : Wert(ZahlAusText(*Form.Hoehe.Text));
   return Neupunkt(Pnr, ZahlAusText(*Form.Rechts.Text), ZahlAusText(*Form.Hoch.Text), Hoehe, Form.Symbol.Text,
-                  nullptr, Ergebnis) < 0
+                  nullptr, Ergebnis) == NeupunktCode::Nichts
              ? -1
              : 1;
 }

@@ -34,13 +34,15 @@ class TVPDoppForm final : public Formular {
         MitHoehe ? Zahlentext(KorHoehe[z] - Frage.Hoehe.Zahl()) : "";
     BeschriftungAnlegen("dS:", {4, 2});
     ErgebnisfeldAnlegen("DeltaS", {4, 3}).Text = Zahlentext(Strecke(0, 0, dR, dH));
-    Antwortknopf("PDoppAltenLöschen", "&Alten löschen", "ALÖ", {0, 0});
-    Antwortknopf("PDoppNeuenLöschen", "&Neuen löschen", "NLÖ", {0, 1});
-    Antwortknopf("PDoppMitteln", "&Mitteln", "MIT", {0, 2});
-    AltenNeunum = &Antwortknopf("PDoppAltenNeunum", "A&lten neu numerieren", "ANN", {1, 0}, AlterPnr);
-    NeuenNeunum = &Antwortknopf("PDoppNeuenNeunum", "Ne&uen neu numerieren", "NNN", {1, 1}, NeuerPnr);
+    Antwortknopf("PDoppAltenLöschen", "&Alten löschen", Konfliktwort::AltenErsetzen, {0, 0});
+    Antwortknopf("PDoppNeuenLöschen", "&Neuen löschen", Konfliktwort::NeuenVerwerfen, {0, 1});
+    Antwortknopf("PDoppMitteln", "&Mitteln", Konfliktwort::Mitteln, {0, 2});
+    AltenNeunum = &Antwortknopf("PDoppAltenNeunum", "A&lten neu numerieren", Konfliktwort::AltenNeunum,
+                                {1, 0}, AlterPnr);
+    NeuenNeunum = &Antwortknopf("PDoppNeuenNeunum", "Ne&uen neu numerieren", Konfliktwort::NeuenNeunum,
+                                {1, 1}, NeuerPnr);
     AltenNeunum->Aktiv = NeuenNeunum->Aktiv = false;
-    Antwortknopf("PDoppRückgängig", "&Rückgängig", "RÜC", {1, 2}).OhnePrüfung = true;
+    Antwortknopf("PDoppRückgängig", "&Rückgängig", Konfliktwort::Nochmal, {1, 2}).OhnePrüfung = true;
     Abbrechen = &AbbruchAnlegen("PDoppAbbruch", "- A&bbrechen -", {1, 3});
   }
 
@@ -68,7 +70,7 @@ class TVPDoppForm final : public Formular {
   }
 
   // A button that ends the question with its word, and with the number in a field.
-  Knopf& Antwortknopf(const char* Name, const char* Text, const char* Wort, Platz Ort,
+  Knopf& Antwortknopf(const char* Name, const char* Text, Konfliktwort Wort, Platz Ort,
                       const Feld* NeueNummer = nullptr) {
     return KnopfAnlegen(
         Name, Text,

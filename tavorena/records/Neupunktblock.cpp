@@ -15,20 +15,20 @@ Block MittelBlock(int Nachkomma, const Mittelpunkt& M) {
                                  Punkt(M.NeuRechts, M.NeuHoch, ""), Punkt(M.Rechts, M.Hoch, " ***Mittel")});
 }
 
-Block Bearbeitungsnotiz(int Nachkomma, int Code, const std::string& Nummer, double DeltaRechts,
+Block Bearbeitungsnotiz(int Nachkomma, NeupunktCode Code, const std::string& Nummer, double DeltaRechts,
                         double DeltaHoch) {
-  const char* Text = Code == 1    ? "*** letzte Berechnung eingeführt"
-                     : Code == 2  ? "*** Mittel eingeführt"
-                     : Code == 3  ? "***  erste Berechnung umnumeriert"
-                     : Code == 11 ? "***  erste Berechnung eingeführt"
-                     : Code == 13 ? "*** letzte Berechnung umnumeriert"
-                                  : nullptr;
+  const char* Text = Code == NeupunktCode::AlterErsetzt     ? "*** letzte Berechnung eingeführt"
+                     : Code == NeupunktCode::Gemittelt      ? "*** Mittel eingeführt"
+                     : Code == NeupunktCode::AlterNeunum    ? "***  erste Berechnung umnumeriert"
+                     : Code == NeupunktCode::NeuerVerworfen ? "***  erste Berechnung eingeführt"
+                     : Code == NeupunktCode::NeuerNeunum    ? "*** letzte Berechnung umnumeriert"
+                                                            : nullptr;
   if (Text == nullptr) return {};
   const Spalten S(Nachkomma);
   std::string Notiz = Leerzeichen(6) + FeldLinks(Text, 34) + "dRw=" + S.Zahl(DeltaRechts, 5) +
                       "  dHw=" + S.Zahl(DeltaHoch, 5);
-  if (Code == 3) Notiz += "  alt:" + PnrFormat(Nummer);
-  if (Code == 13) Notiz += "  neu:" + PnrFormat(Nummer);
+  if (Code == NeupunktCode::AlterNeunum) Notiz += "  alt:" + PnrFormat(Nummer);
+  if (Code == NeupunktCode::NeuerNeunum) Notiz += "  neu:" + PnrFormat(Nummer);
   return Zahlenblock(Nachkomma, {Notiz});
 }
 

@@ -48,8 +48,8 @@ int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, 
   }
   NeupunktErgebnis Ergebnis;
   Notiz.Code = Neupunkt(Pnr, Rechts, Hoch, Hoehe, Symbol, Info, Ergebnis);
-  if (Notiz.Code < 0) return -1;
-  Notiz.Nummer = Notiz.Code == 13 ? Ergebnis.Pnr : Ergebnis.AlterPnr;
+  if (Notiz.Code == NeupunktCode::Nichts) return -1;
+  Notiz.Nummer = Notiz.Code == NeupunktCode::NeuerNeunum ? Ergebnis.Pnr : Ergebnis.AlterPnr;
   Notiz.DeltaRechts = Ergebnis.DeltaRechts;
   Notiz.DeltaHoch = Ergebnis.DeltaHoch;
   return KorSuche(Pnr);

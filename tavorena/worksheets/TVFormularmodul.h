@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include <tavorena/core/Punkt.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Wert.h>
 
 // What the worksheets share besides their frame: the last point number, the texts of their fields and the way
@@ -30,8 +30,8 @@ bool MesswertLesen(std::string& Text, double& Zahl);
 
 /// What NeupunktEintragen has to tell the protocol.
 struct Punktnotiz {
-  int Code = 0;        ///< of Neupunkt
-  std::string Nummer;  ///< code 3: new number of the old point; code 13: number of the new point
+  NeupunktCode Code = NeupunktCode::Neu;
+  std::string Nummer;  ///< AlterNeunum: new number of the old point; NeuerNeunum: number of the new point
   double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
 };
 

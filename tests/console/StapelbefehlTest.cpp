@@ -60,7 +60,7 @@ TEST_F(Stapelbefehl, AntwortAufVergebeneNummer) {
   Laufen(Gut);
   Auftrag.Vorhanden = "mittel";
   Laufen(Gut);
-  EXPECT_EQ(Haken.PunktVorhandenBehandeln({}).Wort, "MIT");
+  EXPECT_EQ(Haken.PunktVorhandenBehandeln({}).Wort, Konfliktwort::Mitteln);
 }
 
 // The lines of a protocol but those with the time and the path of the file.

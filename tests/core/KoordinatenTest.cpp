@@ -92,24 +92,27 @@ TEST_F(Punkttabelle, OrdnungVonZahlenUndTexten) {
 
 TEST_F(Punkttabelle, SiebenAntworten) {
   struct Fall {
-    const char* Wort;
+    Konfliktwort Wort;
     int Code;
     const char* Soll;   // points, number handed back, Rechts of the result, number of the old point
     const char* Zeile;  // Rechts, height and symbol of point 5 in the table
   };
   constexpr Fall Fälle[] = {
-      {"ABB", -1, "1|5|104|", "100|10|015"},   {"ALÖ", 1, "1|5|104|", "104|12.5|020"},
-      {"MIT", 2, "1|5|102|", "102|11.25|015"}, {"ANN", 3, "2|5|100|77", "104|12.5|020"},
-      {"NLÖ", 11, "1|5|100|", "100|10|015"},   {"NNN", 13, "2|77|104|5", "100|10|015"},
+      {Konfliktwort::Abbrechen, -1, "1|5|104|", "100|10|015"},
+      {Konfliktwort::AltenErsetzen, 1, "1|5|104|", "104|12.5|020"},
+      {Konfliktwort::Mitteln, 2, "1|5|102|", "102|11.25|015"},
+      {Konfliktwort::AltenNeunum, 3, "2|5|100|77", "104|12.5|020"},
+      {Konfliktwort::NeuenVerwerfen, 11, "1|5|100|", "100|10|015"},
+      {Konfliktwort::NeuenNeunum, 13, "2|77|104|5", "100|10|015"},
   };
   for (const Fall& f : Fälle) {
-    SCOPED_TRACE(f.Wort);
+    SCOPED_TRACE(f.Code);
     KorLeeren();
     Punkt("5", 100, 200, 10, "015");
     int Gefragt = 0, Gemittelt = 0;
     Haken.PunktVorhandenBehandeln = [&](const Konflikt& K) {
       EXPECT_EQ(K.Zeile, 0);
-      return Konfliktantwort{++Gefragt == 1 ? "RÜC" : f.Wort, " 77 "};
+      return Konfliktantwort{++Gefragt == 1 ? Konfliktwort::Nochmal : f.Wort, " 77 "};
     };
     Haken.MittelEintragen = [&](const Mittelpunkt& M) {
       ++Gemittelt;
@@ -117,7 +120,7 @@ TEST_F(Punkttabelle, SiebenAntworten) {
     };
     Wert Pnr("5");
     NeupunktErgebnis E;
-    EXPECT_EQ(Neupunkt(Pnr, 104, 196, 12.5, "020", nullptr, E), f.Code);
+    EXPECT_EQ(static_cast<int>(Neupunkt(Pnr, 104, 196, 12.5, "020", nullptr, E)), f.Code);
     EXPECT_EQ(Reihe(Gefragt, Gemittelt, E.DeltaRechts, E.DeltaHoch), f.Code == 2 ? "2|1|4|-4" : "2|0|4|-4");
     EXPECT_EQ(Reihe(KorAnzahl, Pnr.Text(), E.Rechts, E.AlterPnr), f.Soll);
     const auto z = static_cast<std::size_t>(KorSuche(Wert("5")));
@@ -126,7 +129,7 @@ TEST_F(Punkttabelle, SiebenAntworten) {
 }
 
 TEST_F(Punkttabelle, MittelDerHoehe) {
-  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"MIT", ""}; };
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{Konfliktwort::Mitteln, ""}; };
   using Fall = std::tuple<double, Wert, double>;  // old, new, mean
   for (const auto& [Alt, Neu, Soll] : {Fall{0, 12.5, 12.5}, Fall{10, 12.5, 11.25}, Fall{10, NullWert{}, 10},
                                        Fall{10, 0.0, 10}, Fall{0, NullWert{}, 0}}) {
@@ -134,7 +137,7 @@ TEST_F(Punkttabelle, MittelDerHoehe) {
     Punkt("5", 0, 0, Alt);
     Wert Pnr(5);
     NeupunktErgebnis E;
-    EXPECT_EQ(Neupunkt(Pnr, 0, 0, Neu, "020", nullptr, E), 2);
+    EXPECT_EQ(Neupunkt(Pnr, 0, 0, Neu, "020", nullptr, E), NeupunktCode::Gemittelt);
     EXPECT_EQ(KorHoehe[0], Soll);
     EXPECT_EQ(KorSymbol[0], "020");  // only an empty symbol takes the new one
   }
@@ -143,13 +146,16 @@ TEST_F(Punkttabelle, MittelDerHoehe) {
 TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
   NeupunktErgebnis E;
   for (Wert Keine : {Wert(), Wert(NullWert{}), Wert("  ")})
-    EXPECT_EQ(Neupunkt(Keine, 1, 1, 0, "", nullptr, E), -1);
+    EXPECT_EQ(Neupunkt(Keine, 1, 1, 0, "", nullptr, E), NeupunktCode::Nichts);
   EXPECT_EQ(KorAnzahl, 0);
   for (int i = 1; i <= KorZeilen; ++i) ASSERT_EQ(KorAnhängen({std::to_string(i)}), 0);
   for (const char* Wort : {"Neupunkt", "Neupunkt", "KorEinfuegen"})
     Skript.Erwarte(std::string("Fehler 9 in Koordinatenmodul.") + Wort);
-  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{"ANN", "99999"}; };
-  for (Wert Pnr : {Wert("99999"), Wert("7")}) EXPECT_EQ(Neupunkt(Pnr, 1, 1, 0, "", nullptr, E), -1);
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) {
+    return Konfliktantwort{Konfliktwort::AltenNeunum, "99999"};
+  };
+  for (Wert Pnr : {Wert("99999"), Wert("7")})
+    EXPECT_EQ(Neupunkt(Pnr, 1, 1, 0, "", nullptr, E), NeupunktCode::Nichts);
   EXPECT_EQ(KorPnr(6), "7");  // the table is as before
   KorEinfuegen(3, "x", 1, 1, 1, "", {});
   EXPECT_EQ(KorAnzahl, KorZeilen);
@@ -233,16 +239,15 @@ TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
   const auto Eine = [&](int Bis) { return static_cast<int>(Zufall() % static_cast<unsigned>(Bis)); };
   const std::string Datei = Ordner.Pfad("dazu.kor");
   PortsSetzen({});  // what is asked and told on the way does not matter here
-  const char* const Antworten[] = {"ABB", "ALÖ", "MIT", "ANN", "NLÖ", "NNN"};
   Haken.PunktVorhandenBehandeln = [&](const Konflikt&) {
-    return Konfliktantwort{Antworten[Eine(6)], std::to_string(Eine(90))};
+    return Konfliktantwort{static_cast<Konfliktwort>(Eine(6)), std::to_string(Eine(90))};
   };
   int Art = 0;
   const std::function<void()> Taten[] = {
       [&] {
         Wert Pnr(Zufallsnummer(Zufall, 1 + Art % 4));
         NeupunktErgebnis E;
-        Neupunkt(Pnr, Eine(99), Eine(99), Eine(99), "neu", nullptr, E);
+        static_cast<void>(Neupunkt(Pnr, Eine(99), Eine(99), Eine(99), "neu", nullptr, E));
       },
       [&] { KorLoeschen(Eine(40)); },
       [&] { KorBereichLoeschen(Eine(40), Eine(40)); },

@@ -14,7 +14,7 @@ class TVPDoppFormTest : public TabellenTest {
   }
   int Rechne(const std::function<void(Formular&)>& Tun) {
     Skript.Formulare.push_back(Tun);
-    return Neupunkt(Pnr, 104, 197, 12.5, "020", nullptr, E);
+    return static_cast<int>(Neupunkt(Pnr, 104, 197, 12.5, "020", nullptr, E));
   }
   Wert Pnr{"5"};
   NeupunktErgebnis E;

@@ -61,8 +61,10 @@ TEST_F(ProtokollTest, BlöckeStehenUnterIhrenKöpfen) {
   EXPECT_EQ(ProtBlock(Prot, MittelBlock(3, {"1001", 3500100.01, 5600200.02, 3500100.03, 5600200, 3500100.02,
                                             5600200.01})),
             0);
-  for (const int Code : {0, 1, 2, 3, 11, 13})
-    EXPECT_EQ(ProtBlock(Prot, Bearbeitungsnotiz(3, Code, Code == 3 ? "9001" : "9002", 0.02, -0.02)), 0);
+  using enum NeupunktCode;
+  for (const NeupunktCode Code : {Neu, AlterErsetzt, Gemittelt, AlterNeunum, NeuerVerworfen, NeuerNeunum})
+    EXPECT_EQ(ProtBlock(Prot, Bearbeitungsnotiz(3, Code, Code == AlterNeunum ? "9001" : "9002", 0.02, -0.02)),
+              0);
   EXPECT_TRUE(GleichSoll(Ist(), "records/soll/bloecke.dru"));
 }
 

@@ -99,7 +99,7 @@ TabellenTest::~TabellenTest() { Haken = {}; }
 void TabellenTest::Punkt(const char* Pnr, double R, double H, double Z, const char* Symbol) {
   Wert Nr(Pnr);
   NeupunktErgebnis E;
-  ASSERT_EQ(Neupunkt(Nr, R, H, Z, Symbol, nullptr, E), 0) << Pnr;
+  ASSERT_EQ(Neupunkt(Nr, R, H, Z, Symbol, nullptr, E), NeupunktCode::Neu) << Pnr;
 }
 
 }  // namespace tavorena::test

@@ -326,15 +326,15 @@ TEST_F(BlattTest, NeupunktEintragenFragtNurBeiAndererLage) {
   Wert Pnr("1001");
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.0004, 5600200, NullWert{}, "", nullptr, Notiz), 0);
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.5, "", nullptr, Notiz), 0);
-  EXPECT_EQ(Notiz.Code, 0);
+  EXPECT_EQ(Notiz.Code, NeupunktCode::Neu);
   int Gefragt = 0;
   Haken.PunktVorhandenBehandeln = [&](const Konflikt&) {
-    return ++Gefragt == 1 ? Konfliktantwort{"ABB", ""} : Konfliktantwort{"NNN", "9002"};
+    return ++Gefragt == 1 ? Konfliktantwort{} : Konfliktantwort{Konfliktwort::NeuenNeunum, "9002"};
   };
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.6, "", nullptr, Notiz), -1);
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.02, 5600199.98, 0.0, "", nullptr, Notiz), 5);
   EXPECT_EQ(Pnr.Text(), "9002");
-  EXPECT_EQ(Notiz.Code, 13);
+  EXPECT_EQ(Notiz.Code, NeupunktCode::NeuerNeunum);
   EXPECT_EQ(Notiz.Nummer, "9002");
 }
 
