@@ -14,13 +14,13 @@ Steuerelement* Formular::Finde(std::string_view Gesucht) const {
 template <typename Art>
 Art& Formular::Anlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen) {
   auto Neu = std::make_unique<Art>();
-  Art& S = *Neu;
+  Art& Ganzes = *Neu;
+  Steuerelement& S = *Liste.emplace_back(std::move(Neu));
   S.Name = std::move(Name);
   S.Text = std::move(Text);
   S.Ort = Ort;
   S.Rahmen = std::move(Rahmen);
-  Liste.push_back(std::move(Neu));
-  return S;
+  return Ganzes;
 }
 
 Beschriftung& Formular::BeschriftungAnlegen(std::string Text, Platz Ort, std::string Rahmen) {

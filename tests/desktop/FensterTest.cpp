@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
@@ -187,6 +188,7 @@ class FensterTest : public QObject {
     QVERIFY(QApplication::activePopupWidget() != nullptr);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_L);  // not the disabled one of this letter
     Tippe("1001\n1002\n0\n99,93\n2003\n2004\n");
+    QVERIFY(!Fenster->findChild<QTableView*>("LinelGitter")->isColumnHidden(5));
     Drücke(Qt::Key_Plus, Qt::KeypadModifier);
     Tippe("\n\n\n");  // 2005, then out of the grid, then the end of the connection
     QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
@@ -268,7 +270,13 @@ class FensterTest : public QObject {
     QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
     Drücke(Qt::Key_Up);
     QCOMPARE(Feldtext(), QString("2004"));
+    const auto* Tabelle = Fenster->findChild<QTableView*>("LinelGitter");
+    QSignalSpy Geändert(Tabelle->model(), &QAbstractItemModel::dataChanged);
     Tippe("2005\n");  // corrected
+    QVERIFY(!Geändert.isEmpty());
+    for (const auto& Stelle : Geändert)  // nothing else is shown anew
+      QVERIFY(Stelle[0].toModelIndex().row() == 1 && Stelle[1].toModelIndex().row() == 1);
+    QVERIFY(Tabelle->model()->rowCount() == 3 && Tabelle->isColumnHidden(5));
     Drücke(Qt::Key_Up);
     Drücke(Qt::Key_Up);
     Drücke(Qt::Key_L, Qt::AltModifier);  // the first row goes

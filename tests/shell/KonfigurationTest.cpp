@@ -153,7 +153,7 @@ TEST_F(Konfiguration, Optionsdialog) {
               Neu ? "4|0|1|350.5|ZUVIELEZ" : "3|3|1|0|ULPUHESS");
     EXPECT_EQ(Reihe(O.AbfrageRiss, O.GrafikfensterAn, O.ProtokollfensterAn), Neu ? "0|0|0" : "1|1|0");
   }
-  DateinameOptionen += "/x.ini";  // below a file: it can not be written
+  DateinameOptionen += "/x.ini";                                 // below a file: it can not be written
   Skript.Formulare.push_back(Bediene({{"OptEDBSInfo", "\n"}}));  // Return behind the last field is OK
   Skript.Erwarte("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen);
   TVOptionenformZeigen();
