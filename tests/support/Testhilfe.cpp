@@ -45,10 +45,15 @@ void Schreibe(const std::string& Datei, std::string_view Bytes) {
     fs::create_directories(fs::path(Datei).parent_path());
     Schreibe(Datei, Ist);
   }
-  const auto Stelle = std::mismatch(Ist.begin(), Ist.end(), Soll.begin(), Soll.end()).first - Ist.begin();
-  const auto Zeile = std::count(Ist.begin(), Ist.begin() + Stelle, '\n') + 1;
-  return ::testing::AssertionFailure() << SollDatei << " differs in line " << Zeile << "; the new text is\n"
-                                       << Ist;
+  const std::string Gleich(Ist.begin(),
+                           std::mismatch(Ist.begin(), Ist.end(), Soll.begin(), Soll.end()).first);
+  const auto Zeile = [Ab = Gleich.rfind('\n') + 1](const std::string& Text) {
+    return ::testing::PrintToString(Text.substr(Ab, Text.find('\n', Ab) - Ab));
+  };
+  return ::testing::AssertionFailure()
+         << SollDatei << " differs in line " << std::count(Gleich.begin(), Gleich.end(), '\n') + 1 << ":\n"
+         << Zeile(Ist) << " and not\n"
+         << Zeile(Soll);
 }
 
 // The next of the answers in store.

@@ -43,8 +43,8 @@ std::string Reihe(const T&... Werte) {
   return Text.str();
 }
 
-/// Compares with an approved file beside the tests, byte for byte. With TAVORENA_SOLL_NEU=1 the new text is
-/// taken over and the test still fails, so that the change is looked at.
+/// Compares with an approved file beside the tests, byte for byte, and shows the first line that differs. With
+/// TAVORENA_SOLL_NEU=1 the new text is taken over and the test still fails, so that the change is looked at.
 ::testing::AssertionResult GleichSoll(const std::string& Ist, const std::string& SollDatei);
 
 /// Answers questions by a script and fails the test on one that nobody foresaw. The clock stands still at
