@@ -8,11 +8,10 @@ pakete_von() {
   case "$1" in
     bauen) echo g++ cmake ninja-build libcli11-dev ;;
     desktop) echo qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins qt6-wayland qt6-translations-l10n libgl-dev fonts-dejavu-core ;;
-    test) echo libgtest-dev clang-14 clang-tidy-14 clang-format-14 libproj-dev git ccache python3 ;;
+    test) echo libgtest-dev libproj-dev pkg-config ccache ;;
+    streng) echo clang-14 clang-tidy-14 clang-format-14 doxygen git ;;
     bench) echo libbenchmark-dev libfmt-dev libfast-float-dev libproj-dev python3 ;;
-    pruefpaket) echo pkg-config ;;
     python) echo pybind11-dev python3-dev python3-numpy python3-matplotlib ;;
-    beschreibung) echo doxygen ;;
     paket) echo dpkg-dev file ;;
     fuzz) echo clang-14 libclang-rt-14-dev ;;
     *) echo "pakete.sh: unknown task $1" >&2; return 1 ;;
