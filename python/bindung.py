@@ -176,7 +176,7 @@ def main(header_file, target_file):
         file.write("void Binden(py::module_& Modul, Taklasse& Klasse) {\n")
         for name, body in ENUM.findall(header):
             values = ", ".join(f'{{"{n}", {v}}}' for n, v in re.findall(r"(\w+) = (\d+),", body))
-            file.write(f'  Aufzaehlung(Modul, "{name}", {{{values}}});\n')
+            file.write(f'  Aufzählung(Modul, "{name}", {{{values}}});\n')
         words = CLASS.search(header).group(1).replace("///", "").splitlines()
         file.write(f"  Klasse.doc() = {quoted(chr(10).join(line.strip() for line in words))};\n")
         file.write("".join(bind(method) for method in methods))
