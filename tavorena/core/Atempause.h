@@ -4,13 +4,21 @@
 
 namespace tavorena {
 
-/// Tells long work when it is time to look at the event queue.
+/// The rhythm in which long work looks at the event queue:
+///
+///     Atempause Pause(0.5);
+///     for (...) {
+///       ...
+///       if (!Pause.Fällig()) continue;
+///       KorAnzahlAnzeigen();
+///       AblaufPort().EreignisseAbarbeiten();
+///     }
 class Atempause {
  public:
-  /// @param[in] Frist  between two looks [s]
-  explicit Atempause(double Frist) : Abstand(Frist) {}
+  /// @param[in] Sekunden  at least so long from one look to the next
+  explicit Atempause(double Sekunden) : Abstand(Sekunden) {}
 
-  /// @return true once after each Frist
+  /// It is time for a look; the next one counts from here.
   [[nodiscard]] bool Fällig() {
     const double Jetzt = AblaufPort().Zeitgeber();
     if (Jetzt - Zuletzt < Abstand) return false;
@@ -21,6 +29,15 @@ class Atempause {
  private:
   double Abstand;
   double Zuletzt = AblaufPort().Zeitgeber();
+};
+
+/// Long work runs while this lives: busy pointer, everything but the stop button locked.
+class Beschäftigung {
+ public:
+  Beschäftigung() { AblaufPort().Beschäftigt(true); }
+  ~Beschäftigung() { AblaufPort().Beschäftigt(false); }
+  Beschäftigung(const Beschäftigung&) = delete;
+  Beschäftigung& operator=(const Beschäftigung&) = delete;
 };
 
 }  // namespace tavorena

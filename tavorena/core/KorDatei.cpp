@@ -1,6 +1,7 @@
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
+#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
@@ -93,18 +94,14 @@ class Lesung {
   }
 
   bool Angehalten() {
-    const double Jetzt = AblaufPort().Zeitgeber();
-    if (Jetzt - Zuletzt < 0.5) return false;
-    Zuletzt = Jetzt;
+    if (!Pause.Fällig()) return false;
     // The lines are counted when there is somebody to show them to.
     if (LeseModus == Lesemodus::Ersetzen && Zusatz.empty()) {
       Zusatz = " von " + std::to_string(ZeilenZählen(Inhalt)) + " Punkten   ";
     }
     KorAnzahlAnzeigen(Zusatz);
     AblaufPort().EreignisseAbarbeiten();
-    if (KorStop != "Stop") return false;
-    KorStop.clear();
-    return true;
+    return std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop;
   }
 
   std::string_view Inhalt;
@@ -112,7 +109,7 @@ class Lesung {
   Dateiformat Zeilenart;
   const std::function<bool(std::string_view)>& Test;
   std::string Zusatz;
-  double Zuletzt = AblaufPort().Zeitgeber();
+  Atempause Pause{0.5};
 };
 
 void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,

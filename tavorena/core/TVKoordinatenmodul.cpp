@@ -86,7 +86,7 @@ const bool& KoordinatenGeaendert = Tabelle.Geändert;
 const std::uint64_t& KorStand = Tabelle.Stand;
 std::string KoordinatendateiName;
 Dateiformat Koordinatendateiformat = Dateiformat::Kor;
-std::string KorStop;
+Laufwunsch KorStop = Laufwunsch::Weiter;
 KoordinatenHaken Haken;
 
 const std::string& KorPnr(int Zeile) { return Tabelle.Nummern[Reihe(Zeile)]; }
@@ -130,7 +130,7 @@ struct KorBeiseite::Inhalt {
   Punkttabelle Punkte;
   std::string Name;
   Dateiformat Format = Dateiformat::Kor;
-  std::string Stop;
+  Laufwunsch Stop = Laufwunsch::Weiter;
 
   void Tauschen() {
     std::swap(Punkte, Tabelle);
@@ -151,7 +151,7 @@ void KorLeeren() {
   Tabelle.MitKomma = Tabelle.Geändert = false;
   KoordinatendateiName.clear();
   Koordinatendateiformat = Dateiformat::Kor;
-  KorStop.clear();
+  KorStop = Laufwunsch::Weiter;
 }
 
 int KorSuche(std::string_view Pnr) {

@@ -47,7 +47,10 @@ KorSatz KorPunkt(int Zeile);
 
 extern std::string KoordinatendateiName;    ///< path of the current file, empty if none
 extern Dateiformat Koordinatendateiformat;  ///< of the current file
-extern std::string KorStop;                 ///< "Stop" from the stop button; long loops look at it
+
+/// The wish of the stop button; long loops look at it, and put it back when they end.
+enum class Laufwunsch { Weiter, Stop };
+extern Laufwunsch KorStop;
 
 // ---- the door --------------------------------------------------------------------------------------
 

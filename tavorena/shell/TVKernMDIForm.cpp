@@ -110,7 +110,7 @@ void TVKernMDIForm::Ausführen(std::string_view Name) {
 void TVKernMDIForm::WerkzeugAusführen(const Werkzeug& W) {
   if (!WerkzeugAktiv(W)) return;
   if (std::string_view(W.Name) == "ImageStop") {
-    KorStop = "Stop";
+    KorStop = Laufwunsch::Stop;
   } else {
     Ausführen(W.Eintrag);
   }

@@ -133,7 +133,7 @@ void TVLinelForm::Streifen() {
   AblaufPort().Beschäftigt(true);
   Atempause Pause(0.5);
   int Anzahl = 0;
-  for (int z = KorBereichSuche(*Pnrvon.Text, *Pnrbis.Text, -1); z >= 0 && KorStop != "Stop";
+  for (int z = KorBereichSuche(*Pnrvon.Text, *Pnrbis.Text, -1); z >= 0 && KorStop != Laufwunsch::Stop;
        z = KorBereichSuche(*Pnrvon.Text, *Pnrbis.Text, z)) {
     const auto P = KorPunkt(z);
     double Linie = 0, Seitwaerts = 0;
@@ -147,7 +147,7 @@ void TVLinelForm::Streifen() {
     StatusHilfeSetzen(std::to_string(Anzahl) + " Zeilen");
     AblaufPort().EreignisseAbarbeiten();
   }
-  KorStop.clear();
+  KorStop = Laufwunsch::Weiter;
   AblaufPort().Beschäftigt(false);
   StatusHilfeSetzen(std::to_string(Anzahl) + " Punkte im Streifen");
   FokusSetzen(Zeilen.Zellen);

@@ -67,10 +67,10 @@ TEST_F(Gast, LäßtAllesWieEsWar) {
   Optionen.OptNachkommaSpeichern = 2;
   KoordinatendateiName = "wirt.lt4";
   Koordinatendateiformat = Dateiformat::Lt4;
-  KorStop = "Stop";
+  KorStop = Laufwunsch::Stop;
   const auto Stand = [] {
-    return Reihe(KorAnzahl, KorPnr(0), KorRechts[0], KorSymbol[0], KorStand, KoordinatenGeaendert, KorStop,
-                 KoordinatendateiName, static_cast<int>(Koordinatendateiformat),
+    return Reihe(KorAnzahl, KorPnr(0), KorRechts[0], KorSymbol[0], KorStand, KoordinatenGeaendert,
+                 KorStop == Laufwunsch::Stop, KoordinatendateiName, static_cast<int>(Koordinatendateiformat),
                  Optionen.OptNachkommaSpeichern);
   };
   const std::string Vorher = Stand();

@@ -127,11 +127,11 @@ TEST_F(KorDatei, GrenzeVon20000Punkten) {
 TEST_F(KorDatei, StopNimmtZurück) {
   ASSERT_EQ(Lies(Zeilen(5)), 0);
   Skript.BeiEreignissen = [&] {
-    if (KorAnzahl >= 300) KorStop = "Stop";
+    if (KorAnzahl >= 300) KorStop = Laufwunsch::Stop;
     EXPECT_NE(Skript.Status[1].find(" Punkte"), std::string::npos);
   };
   ASSERT_EQ(Lies(Zeilen(1000, 10), Lesemodus::Alle), 0);
-  EXPECT_EQ(Reihe(KorAnzahl, KorStop), "5|");
+  EXPECT_EQ(Reihe(KorAnzahl, KorStop == Laufwunsch::Stop), "5|0");
   EXPECT_EQ(Lies(Zeilen(1000)), -1);
   EXPECT_EQ(KorAnzahl, 0);
 }

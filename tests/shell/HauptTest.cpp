@@ -106,7 +106,7 @@ TEST_F(Haupt, NeueDateiSpeichernUndUnterAnderemNamen) {
   std::string Viele;
   for (int i = 0; i < 200; ++i) Viele += std::to_string(i) + " 1.0 2 3\r\n";
   Schreibe(Datei, Viele);
-  Skript.BeiEreignissen = [] { KorStop = "Stop"; };
+  Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
   Knopf(0);
   Befehl("MenüDateiSpeichernUnter", Datei);
   EXPECT_EQ(Reihe(KorAnzahl, KoordinatendateiName, Historie[1].Dateiname), "0||" + Ordner.Pfad("b.lt4"));
