@@ -182,6 +182,26 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
 }
 
+namespace {
+
+// The rows of a file, sorted into the table; what was stopped is taken back.
+Lesung::Ende TabelleFüllen(std::string_view Inhalt, Lesemodus Modus, Dateiformat Format,
+                           const std::function<bool(std::string_view)>& Nimmt) {
+  const Beschäftigung Lang;
+  if (Modus == Lesemodus::Ersetzen) KorAbschneiden(0);
+  const int AlteAnzahl = KorAnzahl;
+  const Lesung::Ende Ende = Lesung(Inhalt, Modus, Format, Nimmt).Laufen();
+  if (Ende == Lesung::Ende::Gestoppt) KorAbschneiden(AlteAnzahl);
+  if (Ende == Lesung::Ende::Voll) {
+    Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
+  }
+  if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
+  KorGeaendertSetzen(Modus != Lesemodus::Ersetzen);
+  return Ende;
+}
+
+}  // namespace
+
 int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
              const std::function<bool(std::string_view)>& Nimmt) {
   if (Dateiname.empty()) return -1;
@@ -194,17 +214,7 @@ int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
     Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !");
     return -1;
   }
-  if (Modus == Lesemodus::Ersetzen) KorAbschneiden(0);
-  const int AlteAnzahl = KorAnzahl;
-  AblaufPort().Beschäftigt(true);
-  const Lesung::Ende Ende = Lesung(Inhalt, Modus, Format, Nimmt).Laufen();
-  if (Ende == Lesung::Ende::Gestoppt) KorAbschneiden(AlteAnzahl);
-  if (Ende == Lesung::Ende::Voll) {
-    Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
-  }
-  if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
-  KorGeaendertSetzen(Modus != Lesemodus::Ersetzen);
-  AblaufPort().Beschäftigt(false);
+  const Lesung::Ende Ende = TabelleFüllen(Inhalt, Modus, Format, Nimmt);
   KorAnzahlAnzeigen();
   if (Ende == Lesung::Ende::Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
   if (AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");

@@ -130,27 +130,32 @@ void TVLinelForm::Streifen() {
   Breite.Text = Text;
   if (Pnrvon.Text->empty()) return FokusSetzen(Pnrvon);
   if (Pnrbis.Text->empty()) Pnrbis.Text = *Pnrvon.Text;
-  AblaufPort().Beschäftigt(true);
+  const int Anzahl = StreifenAufnehmen(std::fabs(Grenze));
+  StatusHilfeSetzen(std::to_string(Anzahl) + " Punkte im Streifen");
+  FokusSetzen(Zeilen.Zellen);
+}
+
+int TVLinelForm::StreifenAufnehmen(double Grenze) {
+  const Beschäftigung Lang;
   Atempause Pause(0.5);
+  const Wert Von(*Pnrvon.Text), Bis(*Pnrbis.Text);
   int Anzahl = 0;
-  for (int z = KorBereichSuche(*Pnrvon.Text, *Pnrbis.Text, -1); z >= 0 && KorStop != Laufwunsch::Stop;
-       z = KorBereichSuche(*Pnrvon.Text, *Pnrbis.Text, z)) {
-    const auto P = KorPunkt(z);
+  for (int z = KorBereichSuche(Von, Bis, -1); z >= 0 && KorStop != Laufwunsch::Stop;
+       z = KorBereichSuche(Von, Bis, z)) {
+    const KorSatz P = KorPunkt(z);
     double Linie = 0, Seitwaerts = 0;
     if (Linienelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), {P.Rechts, P.Hoch}, Linie, Seitwaerts) < 0 ||
-        (Grenze != 0 && std::fabs(Seitwaerts) > std::fabs(Grenze)))
+        (Grenze != 0 && std::fabs(Seitwaerts) > Grenze))
       continue;
     const int Ergebnis = Zeilen.Eintragen(KorPnr(z));
-    if (Ergebnis == -2) break;
+    if (Ergebnis == -2) break;  // it reached no file, nor would the next one
     if (Ergebnis == 0) ++Anzahl;
     if (!Pause.Fällig()) continue;
     StatusHilfeSetzen(std::to_string(Anzahl) + " Zeilen");
     AblaufPort().EreignisseAbarbeiten();
   }
   KorStop = Laufwunsch::Weiter;
-  AblaufPort().Beschäftigt(false);
-  StatusHilfeSetzen(std::to_string(Anzahl) + " Punkte im Streifen");
-  FokusSetzen(Zeilen.Zellen);
+  return Anzahl;
 }
 
 }  // namespace tavorena

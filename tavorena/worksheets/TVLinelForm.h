@@ -25,6 +25,8 @@ class TVLinelForm final : public Rechenblatt {
   void ZeigeAnschluss();
   /// Every table point of the range of numbers whose offset is at most the width becomes a row.
   void Streifen();
+  /// @param[in] Grenze  largest offset to either side [m]; 0: none. @return number of rows
+  [[nodiscard]] int StreifenAufnehmen(double Grenze);
   [[nodiscard]] Zeilenkunde Kunde();
   [[nodiscard]] bool MitRed() const { return a != 0 || e != 0; }
   [[nodiscard]] double Gemessen() const { return e != 0 ? e - a : Kopf.Länge(); }
