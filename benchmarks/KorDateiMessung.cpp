@@ -80,7 +80,7 @@ void KorTextMessen(benchmark::State& Stand) {
   TabelleFüllen();
   std::string Text;
   for (auto _ : Stand) {
-    KorText(Dateiformat::Kor, 3, Text);
+    if (KorText(Dateiformat::Kor, 3, Text) < 0) return Stand.SkipWithError("Der Text scheitert.");
     benchmark::DoNotOptimize(Text.data());
   }
   fmt::memory_buffer Soll;
@@ -96,8 +96,8 @@ void FmtTextMessen(benchmark::State& Stand) {
     benchmark::DoNotOptimize(Text.data());
   }
   std::string Soll;
-  KorText(Dateiformat::Kor, 3, Soll);
-  if (Soll != std::string_view(Text.data(), Text.size())) Stand.SkipWithError("Der Text stimmt nicht.");
+  if (KorText(Dateiformat::Kor, 3, Soll) < 0 || Soll != std::string_view(Text.data(), Text.size()))
+    Stand.SkipWithError("Der Text stimmt nicht.");
 }
 
 void KorSchreibenMessen(benchmark::State& Stand) {
@@ -120,7 +120,7 @@ void MischenMessen(benchmark::State& Stand) {
   const std::string Name = Kordatei(false);
   TabelleFüllen();
   for (auto _ : Stand) {
-    KorLoeschen(Fehlender);
+    ZeileLöschen(Fehlender);
     const double Ab = Prozessorzeit();
     const int Ergebnis = KorLesen(Name, Lesemodus::NurNeue, Dateiformat::Kor);
     Stand.SetIterationTime(Prozessorzeit() - Ab);
@@ -130,7 +130,7 @@ void MischenMessen(benchmark::State& Stand) {
 
 void JedeSuchenMessen(benchmark::State& Stand) {
   TabelleFüllen();
-  KorLoeschen(Fehlender);
+  ZeileLöschen(Fehlender);
   int Gefunden = 0;
   for (auto _ : Stand) {
     Gefunden = 0;

@@ -99,6 +99,12 @@ void TabelleFüllen() {
   std::exit(2);
 }
 
+void ZeileLöschen(int Zeile) {
+  if (KorLoeschen(Zeile) == 0) return;
+  std::cerr << "Die Zeile fehlt.\n";
+  std::exit(2);
+}
+
 bool TabelleIstGanz() {
   const Punktlisten& P = Punkte();
   bool Gleich = Meldungen.Anzahl == 0 && KorAnzahl == static_cast<int>(Punktzahl);

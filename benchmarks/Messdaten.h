@@ -24,6 +24,9 @@ std::string Messpfad(const char* Name);
 /// Fills the table with all points.
 void TabelleFüllen();
 
+/// Takes a row out of the table.
+void ZeileLöschen(int Zeile);
+
 /// The table holds all points, and nothing else, in their order, and no message was shown on the way.
 bool TabelleIstGanz();
 

@@ -69,7 +69,7 @@ void NeupunktMessen(benchmark::State& Stand) {
   const Punktlisten& P = Punkte();
   TabelleFüllen();
   for (std::size_t i = Punktzahl; i-- > 0;) {
-    if (!std::binary_search(L.Bekannte.begin(), L.Bekannte.end(), i)) KorLoeschen(static_cast<int>(i));
+    if (!std::binary_search(L.Bekannte.begin(), L.Bekannte.end(), i)) ZeileLöschen(static_cast<int>(i));
   }
   NeupunktErgebnis E;
   for (auto _ : Stand) {
@@ -82,7 +82,7 @@ void NeupunktMessen(benchmark::State& Stand) {
     if (Code != NeupunktCode::Neu || Zeile != static_cast<int>(L.Reihe(p)) ||
         KorRechts[L.Reihe(p)] != P.Rechts[p])
       return Stand.SkipWithError("Der Punkt steht falsch.");
-    KorLoeschen(Zeile);
+    ZeileLöschen(Zeile);
   }
 }
 

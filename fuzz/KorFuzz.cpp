@@ -33,7 +33,7 @@ void SchreibenUndLesen() {
   Prüfen(KorText(Dateiformat::Kor, 3, Text) == 0, "KOR wird geschrieben");
   Punktlisten L;
   int Anzahl = 0;
-  KorDateiInListen(Datei("b.kor", Text), L, KorGrenze, Anzahl, false);
+  Prüfen(KorDateiInListen(Datei("b.kor", Text), L, KorGrenze, Anzahl, false) == 0, "KOR wird wieder gelesen");
   Prüfen(Anzahl == KorAnzahl, "kein Punkt geht beim Schreiben verloren");
   for (int i = 0; i < Anzahl; ++i) {
     const auto z = static_cast<std::size_t>(i);

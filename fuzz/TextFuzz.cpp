@@ -35,15 +35,15 @@ void KodierungPrüfen(std::string_view Bytes) {
 }
 
 void DateiPrüfen(std::string_view Bytes) {
-  TextAnhängen(Datei("b.txt", ""), "x");  // the module remembers the file extended last
+  // The module remembers the file extended last.
+  Prüfen(TextAnhängen(Datei("b.txt", ""), "x") == 0, "der Text wird angehängt");
   const std::string Name = Datei("a.txt", "");
   std::string Vorher, Nachher;
   Prüfen(DateiErsetzen(Name, Bytes) == 0 && Inhalt(Name) == Bytes, "die Datei ist ersetzt");
-  TextdateiLesen(Name, Vorher);
-  Prüfen(IstUtf8(Vorher), "ein Text ist UTF-8");
+  Prüfen(TextdateiLesen(Name, Vorher) == 0 && IstUtf8(Vorher), "ein Text ist UTF-8");
   Prüfen(TextAnhängen(Name, "äß\r\n") == 0, "der Text wird angehängt");
-  TextdateiLesen(Name, Nachher);
-  Prüfen(Nachher == Vorher + "äß\r\n", "die Datei behält ihre Kodierung");
+  Prüfen(TextdateiLesen(Name, Nachher) == 0 && Nachher == Vorher + "äß\r\n",
+         "die Datei behält ihre Kodierung");
 }
 
 void NamenPrüfen(std::string_view Name) {

@@ -52,8 +52,7 @@ int FreieStationierung(const Anschlussbeobachtungen& B, int Transformationsart, 
   std::copy(B.PunktRW.begin(), B.PunktRW.end(), s.R.begin());
   std::copy(B.PunktHW.begin(), B.PunktHW.end(), s.H.begin());
   Lage Lokal, Bekannt;
-  HelmertSchwerpu(s.y, s.x, Lokal);
-  HelmertSchwerpu(s.R, s.H, Bekannt);
+  if (HelmertSchwerpu(s.y, s.x, Lokal) < 0 || HelmertSchwerpu(s.R, s.H, Bekannt) < 0) return -1;
   Reduzieren(s.y, s.x, Lokal);
   Reduzieren(s.R, s.H, Bekannt);
   const ReduziertePasspunkte P{s.y, s.x, s.R, s.H};
@@ -105,7 +104,9 @@ int FStatRechneMittlereHöhe(const Hoehenbeobachtungen& B, Stationshoehe& Ergebn
         ((B.PunktHoehe[i] + B.Zielhoehe[i]) - B.Strecke[i] * CosGon(B.Vkgon[i])) - B.InstrumentenHoehe;
     if (B.Strecke[i] > 0 && B.PunktHoehe[i] != 0 && i < HoehenmittelGrenze) Neu.Gewicht[i] = 1 / B.Strecke[i];
   }
-  MittelGewichtet(Neu.Hoehe, Neu.Gewicht, static_cast<int>(std::min(n, HoehenmittelGrenze)), Neu.StandHoehe);
+  // Without rows the height stays 0, which is none.
+  static_cast<void>(MittelGewichtet(Neu.Hoehe, Neu.Gewicht, static_cast<int>(std::min(n, HoehenmittelGrenze)),
+                                    Neu.StandHoehe));
   for (std::size_t i = 0; i < n; ++i) {
     if (B.PunktHoehe[i] != 0) Neu.dHo[i] = Neu.StandHoehe - Neu.Hoehe[i];
   }

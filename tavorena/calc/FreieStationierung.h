@@ -97,7 +97,7 @@ inline constexpr std::size_t HoehenmittelGrenze = 101;  ///< rows that enter the
 /// Height of the station as weighted mean over the connection points. Rows beyond HoehenmittelGrenze have the
 /// weight 0, but a dHo.
 /// @return 0; -1 for columns of different lengths, Ergebnis is then untouched
-int FStatRechneMittlereHöhe(const Hoehenbeobachtungen& B, Stationshoehe& Ergebnis);
+[[nodiscard]] int FStatRechneMittlereHöhe(const Hoehenbeobachtungen& B, Stationshoehe& Ergebnis);
 
 /// Height of a polar point [m].
 /// @param[in] StandHoehe, InstrumentenHoehe  of the station, and of the instrument above it

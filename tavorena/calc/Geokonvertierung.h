@@ -81,7 +81,7 @@ inline constexpr std::array<Ellipsoid, 4> Ellipsoide = {{
 /// @param[in]  Nummer  0 to 3, see Ellipsoide
 /// @param[out] a, b    semi-axes [m]
 /// @return 0; 1 for another number: a and b then stay as they were, on purpose
-int EllipsoidAchsen(int Nummer, double& a, double& b);
+[[nodiscard]] int EllipsoidAchsen(int Nummer, double& a, double& b);
 
 /// Strip of 3 degrees that a longitude lies in.
 /// @param[in]  Laenge      longitude [degrees]; a longitude between two strips belongs to the eastern one
@@ -157,6 +157,6 @@ double Fusspunktbreite(const Ellipsoid& E, double Bogen);
 /// Minutes and seconds are those of the absolute value, the sign goes with the degrees, on purpose: -10.5 is
 /// -10 30 0. Between -1 and 0 there is no degree to carry it and the sign is lost: -0.5 is 0 30 0.
 /// @return 0; 1 if the sign is lost; -1 for degrees beyond 32 bits
-int GradInGMS(double Wert, std::int32_t& Grad, std::int32_t& Minuten, double& Sekunden);
+[[nodiscard]] int GradInGMS(double Wert, std::int32_t& Grad, std::int32_t& Minuten, double& Sekunden);
 
 }  // namespace tavorena

@@ -48,6 +48,11 @@ class Reduktion {
   std::vector<double> Speicher;
 };
 
+int SchwerpunkteBilden(const Passpunkte& P, Lage& Alt, Lage& Neu) {
+  const int Altes = HelmertSchwerpu(P.AltesSystemRW, P.AltesSystemHW, Alt);
+  return Altes < 0 ? Altes : HelmertSchwerpu(P.NeuesSystemRW, P.NeuesSystemHW, Neu);
+}
+
 void Anlegen(Restklaffen& Klaffen, std::size_t Anzahl) {
   for (auto* Spalte : {&Klaffen.RestklaffeVY, &Klaffen.RestklaffeVX, &Klaffen.LinieareAbweichungWL})
     Spalte->assign(Anzahl, 0);
@@ -202,9 +207,8 @@ int HelmertHelmert(const Passpunkte& P, bool MasstabaenderungZulaessig, const st
   if (Fest) {
     h.SchwerpunktAltesSystem = Fest->AltesSystem;
     h.SchwerpunktNeuesSystem = Fest->NeuesSystem;
-  } else {
-    HelmertSchwerpu(P.AltesSystemRW, P.AltesSystemHW, h.SchwerpunktAltesSystem);
-    HelmertSchwerpu(P.NeuesSystemRW, P.NeuesSystemHW, h.SchwerpunktNeuesSystem);
+  } else if (SchwerpunkteBilden(P, h.SchwerpunktAltesSystem, h.SchwerpunktNeuesSystem) < 0) {
+    return -1;
   }
   const Reduktion Reduziert(P, h.SchwerpunktAltesSystem, h.SchwerpunktNeuesSystem);
   const ReduziertePasspunkte s = Reduziert.Spalten();
@@ -302,8 +306,7 @@ int HelmertAffin(const Passpunkte& P, AffinErgebnis& Ergebnis) {
   if (n < 2) return -1;
   AffinErgebnis Neu;
   AffinParameter& a = Neu.Parameter;
-  HelmertSchwerpu(P.AltesSystemRW, P.AltesSystemHW, a.SchwerpunktAltesSystem);
-  HelmertSchwerpu(P.NeuesSystemRW, P.NeuesSystemHW, Neu.SchwerpunktNeuesSystem);
+  if (SchwerpunkteBilden(P, a.SchwerpunktAltesSystem, Neu.SchwerpunktNeuesSystem) < 0) return -1;
   const Reduktion Reduziert(P, a.SchwerpunktAltesSystem, Neu.SchwerpunktNeuesSystem);
   a.MaximalerAbstand = Reduziert.MaximalerAbstand();
   // On the flag the calculation carries on with parameters of 0 on purpose.

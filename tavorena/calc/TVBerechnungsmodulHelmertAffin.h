@@ -117,7 +117,7 @@ double HelmertQusum2(std::span<const double> x, std::span<const double> y);
 /// Means of two columns. A column of one value has exactly that mean, so that points on one spot, or on a
 /// parallel to an axis, are recognised by a sum of exactly 0.
 /// @return 0; -1 for empty columns, Mittel is then untouched
-int HelmertSchwerpu(std::span<const double> x, std::span<const double> y, Lage& Mittel);
+[[nodiscard]] int HelmertSchwerpu(std::span<const double> x, std::span<const double> y, Lage& Mittel);
 
 // ---- Helmert ---------------------------------------------------------------------------------------
 

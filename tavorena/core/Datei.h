@@ -24,22 +24,22 @@ bool DateiVorhanden(std::string_view Name);
 bool OrdnerVorhanden(std::string_view Name);
 
 /// Makes a folder and those above it. @return 0 (also if it was there); -1
-int OrdnerAnlegen(std::string_view Name);
+[[nodiscard]] int OrdnerAnlegen(std::string_view Name);
 
 /// Reads a whole regular file as it stands. @return 0; -1 if it can not be opened or read
-int DateiLesen(std::string_view Name, std::string& Inhalt);
+[[nodiscard]] int DateiLesen(std::string_view Name, std::string& Inhalt);
 
 /// Reads a text file: valid UTF-8 is taken as such (a byte-order mark is dropped), any other content as
 /// Windows-1252. @return 0; -1 if it can not be opened or read
-int TextdateiLesen(std::string_view Name, std::string& Text);
+[[nodiscard]] int TextdateiLesen(std::string_view Name, std::string& Text);
 
 /// Replaces a file as a whole: written beside it, flushed to the disk, renamed over it. On any failure the
 /// old file is as it was. A link is followed, the permissions of an old file are kept. @return 0 or -1
-int DateiErsetzen(std::string_view Name, std::string_view Inhalt);
+[[nodiscard]] int DateiErsetzen(std::string_view Name, std::string_view Inhalt);
 
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length. @return 0 or -1
-int TextAnhängen(std::string_view Name, std::string_view Text);
+[[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text);
 
 /// By what a file shows that somebody wrote in it. A missing file has the state {}.
 struct Dateistand {
@@ -50,7 +50,7 @@ struct Dateistand {
 Dateistand DateistandVon(std::string_view Name);
 
 /// Removes a file. @return 0 (also if there was none); -1 if it stays
-int DateiLöschen(std::string_view Name);
+[[nodiscard]] int DateiLöschen(std::string_view Name);
 
 bool IstUtf8(std::string_view Text);
 std::string AusWindows1252(std::string_view Bytes);
@@ -64,7 +64,7 @@ class Zeilenleser {
   explicit Zeilenleser(std::string_view Text) : Rest(Text) {}
 
   /// The next line without its end. @return false at the end of the text
-  bool Nächste(std::string_view& Zeile);
+  [[nodiscard]] bool Nächste(std::string_view& Zeile);
   /// Nothing is left to read.
   [[nodiscard]] bool AmEnde() const { return Rest.empty(); }
 

@@ -14,8 +14,8 @@ namespace tavorena {
 
 /// Cuts one KOR line by tokens: number, Rechts, Hoch, Hoehe (0 if missing), symbol; "," counts as ".".
 /// @return 0; -1 if the line is shorter than 6 characters, the outputs are then untouched
-int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, double& Hoehe,
-                  std::string& Symbol);
+[[nodiscard]] int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch,
+                                double& Hoehe, std::string& Symbol);
 
 /// Builds one KOR line with OptNachkommaSpeichern decimals.
 void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,
@@ -24,8 +24,8 @@ void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe
 /// Cuts one LT4 line. The format has no height; the symbol is "2" for every point.
 /// @return 0; -1 for a comment ("#") and for a line shorter than 64 characters, the outputs are then
 /// untouched
-int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch, std::string& Symbol,
-                  KorInfoSatz& Info);
+[[nodiscard]] int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, double& Hoch,
+                                std::string& Symbol, KorInfoSatz& Info);
 
 /// Builds one LT4 line, always with 3 decimals.
 void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
@@ -44,18 +44,18 @@ enum class Lesemodus {
 /// @param[in] Format  KOR or LT4
 /// @param[in] Nimmt   reads only the points whose number passes this test; none if empty
 /// @return 0; -1 no name, no file, a format that is not read, or stopped while replacing
-int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
-             const std::function<bool(std::string_view)>& Nimmt = {});
+[[nodiscard]] int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
+                           const std::function<bool(std::string_view)>& Nimmt = {});
 
 /// The whole table, in its order, as the text of a coordinate file.
 /// @param[in] Nachkomma  decimals of the KOR format, 0 to 15; LT4 always has 3
 /// @return 0; -1 for a format that is not written
-int KorText(Dateiformat Format, int Nachkomma, std::string& Text);
+[[nodiscard]] int KorText(Dateiformat Format, int Nachkomma, std::string& Text);
 
 /// Writes the whole table to a file that is replaced safely.
 /// @return the number of rows; -1 if the format is not written or the file can not be written, an old file is
 ///         then as it was
-int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma);
+[[nodiscard]] int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma);
 
 /// Caller-owned columns of a KOR file.
 struct Punktlisten {
@@ -68,7 +68,7 @@ struct Punktlisten {
 /// @param[in] Maximum    most points that the lists take
 /// @param[in] Sortieren  false keeps the order of the file
 /// @return 0; -1 with a message if the file is missing or holds more points. An empty name does nothing.
-int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,
-                     bool Sortieren = true);
+[[nodiscard]] int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum,
+                                   int& Anzahl, bool Sortieren = true);
 
 }  // namespace tavorena

@@ -22,8 +22,8 @@ namespace tavorena {
 /// @param[in]     MitKomma a number may hold a ","
 /// @param[out]    Folge    Folge[i] is the present row of the number that comes to row i
 /// @return 1 if Folge is the identity, 0 if not; -1 on overflow of the stack, Folge is then the identity
-int SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const double> Werte, bool MitKomma,
-                          std::vector<int>& Folge);
+[[nodiscard]] int SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const double> Werte,
+                                        bool MitKomma, std::vector<int>& Folge);
 
 /// Brings the rows of parallel columns into the order of Folge, which is the identity afterwards.
 template <typename... Spalte>

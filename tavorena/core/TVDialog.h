@@ -11,9 +11,9 @@ namespace tavorena {
 extern int Dialogergebnis;
 
 /// @return the button code: 6 Ja, 7 Nein, 2 Abbruch
-int FrageJaNeinAbbruch(const std::string& Text);
+[[nodiscard]] int FrageJaNeinAbbruch(const std::string& Text);
 /// @return the button code: 6 Ja, 7 Nein
-int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena");
+[[nodiscard]] int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena");
 void Hinweis(const std::string& Text, const std::string& Titel = "Tavorena");
 void FehlerMeldung(const std::string& Text);
 void DateiendeMeldung(const std::string& Datei);

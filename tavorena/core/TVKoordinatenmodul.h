@@ -55,10 +55,10 @@ extern Laufwunsch KorStop;
 // ---- the door --------------------------------------------------------------------------------------
 
 /// Writes a row. @return 0; -1 if Zeile is outside the table
-int KorZeileSetzen(int Zeile, const KorSatz& Satz);
+[[nodiscard]] int KorZeileSetzen(int Zeile, const KorSatz& Satz);
 
 /// Writes the row behind the last one; sorting is left to the caller. @return 0; -1 if the table is full
-int KorAnhängen(const KorSatz& Satz);
+[[nodiscard]] int KorAnhängen(const KorSatz& Satz);
 
 /// Keeps the first Anzahl rows; nothing happens if there are no more. The others keep their contents, but are
 /// outside the table.
@@ -95,16 +95,16 @@ void KorLeeren();
 
 /// Row of the first point with that number, -1 if none. Numbers are equal character by character after
 /// Trimmen of both sides. Linear, so that it finds a point in a table in any state; never asks.
-int KorSuche(const Wert& Pnr);
-int KorSuche(std::string_view Pnr);
+[[nodiscard]] int KorSuche(const Wert& Pnr);
+[[nodiscard]] int KorSuche(std::string_view Pnr);
 
 /// As KorSuche, but asks for a missing point until it is there.
 /// @param[in,out] Pnr  the user may type another number
 /// @return the row; negative if the user cancels
-int KorFind(Wert& Pnr);
+[[nodiscard]] int KorFind(Wert& Pnr);
 
 /// Removes one row. @return 0; -1 if Zeile is outside the table
-int KorLoeschen(int Zeile);
+[[nodiscard]] int KorLoeschen(int Zeile);
 
 /// Removes the rows Von to Bis, both included; nothing happens with bounds outside the table. The column
 /// KorSymbol stays where it is: symbols do not follow their points here, on purpose.
@@ -127,7 +127,7 @@ void KorBereich(double& MinRechts, double& MinHoch, double& MaxRechts, double& M
 
 /// Next row after Start whose numeric value lies between Von and Bis.
 /// @return the row; -1 if there is none; -3 if the table is empty or Start is at or past the last row
-int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start);
+[[nodiscard]] int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start);
 
 /// Negates the axes that are asked for, adds the shifts [m], and exchanges two axes: Tausch 0 none,
 /// 1 Rechts and Hoch, 2 Hoch and Hoehe, 3 Rechts and Hoehe.
@@ -138,11 +138,11 @@ void KorVerschieben(double dRechts, double dHoch, double dHoehe, int NegRechts, 
 void KorAnzahlAnzeigen(const std::string& Zusatz = "");
 
 /// First index of a value in a list, -1 if none; compared as KorSuche does.
-int ListeFind(std::string_view Pnr, const std::vector<std::string>& Liste, int Anzahl);
+[[nodiscard]] int ListeFind(std::string_view Pnr, const std::vector<std::string>& Liste, int Anzahl);
 
 /// All indices of a value. @return -1 if none, -2 if more than Maximum (0: no limit), else the count
-int ListeFindAlle(const std::vector<std::string>& Liste, int Anzahl, std::string_view Wert,
-                  std::vector<int>& Indizes, int Maximum = 0);
+[[nodiscard]] int ListeFindAlle(const std::vector<std::string>& Liste, int Anzahl, std::string_view Wert,
+                                std::vector<int>& Indizes, int Maximum = 0);
 
 // ---- the way of a result into the table ------------------------------------------------------------
 

@@ -47,17 +47,17 @@ double Richtungswinkel(double R1, double H1, double R2, double H2);
 
 /// Arithmetic mean of the first Anzahl points.
 /// @return 0; -1 for an Anzahl of 0 or beyond the lists, the outputs are then untouched
-int Schwerpunkt(std::span<const double> Rechts, std::span<const double> Hoch, int Anzahl, double& R,
-                double& H);
+[[nodiscard]] int Schwerpunkt(std::span<const double> Rechts, std::span<const double> Hoch, int Anzahl,
+                              double& R, double& H);
 
 /// Mean of the non-zero entries among the first Anzahl; Mittel is 0 if there are none.
 /// @return 0; -1 for an Anzahl of 0 or beyond the list, Mittel is then untouched
-int MittelOhneNull(std::span<const double> Liste, int Anzahl, double& Mittel);
+[[nodiscard]] int MittelOhneNull(std::span<const double> Liste, int Anzahl, double& Mittel);
 
 /// Weighted mean of the first Anzahl entries; Mittel is 0 when the weights sum to 0.
 /// @return 0; -1 for an Anzahl of 0 or beyond the lists, Mittel is then untouched
-int MittelGewichtet(std::span<const double> Liste, std::span<const double> Gewichte, int Anzahl,
-                    double& Mittel);
+[[nodiscard]] int MittelGewichtet(std::span<const double> Liste, std::span<const double> Gewichte, int Anzahl,
+                                  double& Mittel);
 
 /// Collects the 0-based indices of all points strictly nearer than Radius [m] to (R, H).
 /// Treffer is their number.

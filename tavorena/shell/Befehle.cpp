@@ -87,21 +87,27 @@ void Beenden() {
 }
 
 // Reads points of a file into the table that is open.
-void Hinzulesen(Lesemodus Modus, const std::function<bool(std::string_view)>& Nimmt = {}) {
-  std::string Name;
-  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
-  KorLesen(Name, Modus, FormatNachEndung(Name), Nimmt);
+void Hinzulesen(const std::string& Name, Lesemodus Modus,
+                const std::function<bool(std::string_view)>& Nimmt = {}) {
+  // What is wrong with the file has been told then, and the table is as it was.
+  static_cast<void>(KorLesen(Name, Modus, FormatNachEndung(Name), Nimmt));
 }
 
-void HinzuKomplett() { Hinzulesen(Lesemodus::Alle); }
-void HinzuNurNeue() { Hinzulesen(Lesemodus::NurNeue); }
+void HinzuGanz(Lesemodus Modus) {
+  std::string Name;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
+  Hinzulesen(Name, Modus);
+}
+
+void HinzuKomplett() { HinzuGanz(Lesemodus::Alle); }
+void HinzuNurNeue() { HinzuGanz(Lesemodus::NurNeue); }
 
 void HinzuPunktbereich() {
   std::string Name, Von, Bis;
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   if (PunktbereichFrage("Tavorena Auswahl Punktbereich", Von, Bis) < 0) return;
   const double Unten = ZahlAusText(Von), Oben = ZahlAusText(Bis);
-  KorLesen(Name, Lesemodus::Alle, FormatNachEndung(Name), [=](std::string_view Pnr) {
+  Hinzulesen(Name, Lesemodus::Alle, [=](std::string_view Pnr) {
     const double Nummer = ZahlAusText(Pnr);
     return Nummer >= Unten && Nummer <= Oben;
   });
@@ -117,7 +123,7 @@ void HinzuPunktselektion() {
   if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
   std::vector<std::string> Gewählt;
   if (PunkteAuswählen(Listen, Gewählt) < 0) return;
-  KorLesen(Name, Lesemodus::Alle, Dateiformat::Kor, [&](std::string_view Pnr) {
+  Hinzulesen(Name, Lesemodus::Alle, [&](std::string_view Pnr) {
     return std::find(Gewählt.begin(), Gewählt.end(), Pnr) != Gewählt.end();
   });
 }

@@ -137,8 +137,7 @@ std::string Vorgabezeile(double Wert, const char* Kommentar) {
 std::string Wahlzeile(bool An, const char* Wahr, const char* Falsch) { return An ? Wahr : Falsch; }
 
 int Schreiben(const std::string& Dateiname, const std::string& Text) {
-  OrdnerAnlegen(Anwendungsordner);
-  return DateiErsetzen(Dateiname, Text);
+  return OrdnerAnlegen(Anwendungsordner) < 0 ? -1 : DateiErsetzen(Dateiname, Text);
 }
 
 // The text of the values that DateinamenLesen takes, in the order of the file.

@@ -40,7 +40,7 @@ void Ausgeben(Zahl* Ziel, Zahl Ergebnis) {
 
 /// Looks numbers up in their order. @return false at the first one that is missing
 template <std::size_t N>
-bool Punkte(const std::array<const Wert*, N>& Nummern, std::array<Lage, N>& Orte) {
+[[nodiscard]] bool Punkte(const std::array<const Wert*, N>& Nummern, std::array<Lage, N>& Orte) {
   for (std::size_t i = 0; i < N; ++i) {
     const int Zeile = KorSuche(*Nummern[i]);
     if (Zeile < 0) return false;
@@ -51,7 +51,7 @@ bool Punkte(const std::array<const Wert*, N>& Nummern, std::array<Lage, N>& Orte
 
 /// The first Anzahl numbers of a list, as parallel columns.
 /// @return ok; Fehler_Allgemein for a count that the list does not hold; Fehler_PunktNichtVorhanden
-enmResult PunktListe(std::span<const Wert> Nummern, std::int32_t Anzahl, std::vector<double>& RW,
-                     std::vector<double>& HW);
+[[nodiscard]] enmResult PunktListe(std::span<const Wert> Nummern, std::int32_t Anzahl,
+                                   std::vector<double>& RW, std::vector<double>& HW);
 
 }  // namespace tavorena::ta

@@ -96,7 +96,9 @@ TEST_F(Datei, AbbruchZuJederZeitLäßtEineGanzeDatei) {
   for (int i = 0; i < 20; ++i) {
     const pid_t Kind = fork();
     if (Kind == 0) {
-      for (int k = 0;; ++k) DateiErsetzen(Name, k % 2 == 0 ? B : A);
+      for (int k = 0;; ++k) {
+        if (DateiErsetzen(Name, k % 2 == 0 ? B : A) < 0) _exit(1);
+      }
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(2 + i));
     kill(Kind, SIGKILL);

@@ -249,7 +249,7 @@ TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
         NeupunktErgebnis E;
         static_cast<void>(Neupunkt(Pnr, Eine(99), Eine(99), Eine(99), "neu", nullptr, E));
       },
-      [&] { KorLoeschen(Eine(40)); },
+      [&] { static_cast<void>(KorLoeschen(Eine(40))); },
       [&] { KorBereichLoeschen(Eine(40), Eine(40)); },
       [&] { KorEinfuegen(Eine(40), Zufallsnummer(Zufall, Art % 5), 1, 2, 3, "ein", {}); },
       [&] { KorVerschieben(Eine(9), 2, 3, 1, 0, 1, Eine(4)); },
@@ -258,7 +258,7 @@ TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
       [&] {
         Schreibe(Datei,
                  Zufallsnummer(Zufall, Art % 5) + " 1.0 2 3 x\r\n" + std::to_string(Eine(99)) + " 4.0 5\r\n");
-        KorLesen(Datei, static_cast<Lesemodus>(Eine(3) - 1), Dateiformat::Kor);
+        static_cast<void>(KorLesen(Datei, static_cast<Lesemodus>(Eine(3) - 1), Dateiformat::Kor));
       }};
   for (; Art < 20; ++Art) {
     KorLeeren();
