@@ -11,8 +11,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include <tavorena/core/Punkt.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Zahlen.h>
 
 namespace tavorena::messung {
 namespace {
@@ -99,7 +99,7 @@ struct Spalten {
     Hoch.push_back(P.Hoch[p]);
     Hoehe.push_back(P.Hoehe[p]);
     Symbol.push_back(P.Symbol[p]);
-    Info.emplace_back().Punktart = PunktartVon(P.Symbol[p]);
+    Info.emplace_back().Punktart = KurzAusText(P.Symbol[p]);
   }
   void Sortieren() {
     Abschrift(Pnr, std::numeric_limits<std::size_t>::max(), [this](std::size_t i, std::size_t j) {

@@ -5,8 +5,8 @@
 namespace tavorena {
 namespace {
 
-/// Bearing A -> B where the zero vector counts as due east (the form of Richtungswinkel with two arguments).
-double Nordwinkel(Lage A, Lage B) { return Richtungswinkel(B.RW - A.RW, B.HW - A.HW); }
+/// Bearing A -> B where the zero vector counts as due east.
+double Nordwinkel(Lage A, Lage B) { return PolarWinkelGon(B.RW - A.RW, B.HW - A.HW); }
 
 /// Cut of the lines P1 + bearing v1 and P2 + bearing v2, as a vector from P1.
 /// By sines and cosines, which equals the form with tangents T1 and T2 but keeps a line due east or west on
@@ -98,7 +98,7 @@ int RueckwaertsschnittCassini(const RueckPunkt& P1, const RueckPunkt& P2, const 
   // so R - R2 = Lot v and H - H2 = -Lot u with Lot = (a3 v - u b3) / (u² + v²), which is the same.
   const double Lot = (a3 * b1 - a1 * b3) / (u * u + v * v);
   double Tau1 = Nordwinkel(P1.Ort, P2.Ort) - Nordwinkel(P3.Ort, P2.Ort);
-  double Tau2 = Richtungswinkel(a1, b1) - Richtungswinkel(a3, b3);
+  double Tau2 = PolarWinkelGon(a1, b1) - PolarWinkelGon(a3, b3);
   GonReduzieren(Tau1);
   GonReduzieren(Tau2);
   Werte = {P2.Ort.RW + Lot * v, P2.Ort.HW - Lot * u, Alpha, Beta, Tau1, Tau2};

@@ -28,7 +28,7 @@ void Reduzieren(std::vector<double>& RW, std::vector<double>& HW, Lage Schwerpun
 }
 
 double Orientierung(double a, double b) {
-  double Gon = Richtungswinkel(b, a);
+  double Gon = PolarWinkelGon(b, a);
   GonReduzieren(Gon);  // an angle just below 0 was rounded up to the full circle
   return Gon;
 }

@@ -19,8 +19,6 @@ bool KürzerAls(std::string_view Zeile, std::size_t Zeichen) {
   return Zeile.size() < Zeichen || (Zeile.size() < 4 * Zeichen && ZeichenAnzahl(Zeile) < Zeichen);
 }
 
-std::int16_t Ganzzahl(std::string_view Text) { return PunktartVon(Text); }
-
 // A field of a fixed-column line, columns counted from 1.
 std::string_view Spalten(std::string_view Zeile, std::size_t Von, std::size_t Bis) {
   return TextTeil(Zeile, Von - 1, Bis - Von + 1);
@@ -46,8 +44,8 @@ bool Lt4Zerlegen(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
   S.Symbol = "2";
   Info = {};
   Info.Lagestatus = Spalten(Zeile, 1, 3);
-  Info.Vermarkungsart = Ganzzahl(Spalten(Zeile, 20, 22));
-  Info.Punktstatus = Ganzzahl(Spalten(Zeile, 62, 62));
+  Info.Vermarkungsart = KurzAusText(Spalten(Zeile, 20, 22));
+  Info.Punktstatus = KurzAusText(Spalten(Zeile, 62, 62));
   Info.Lagegenauigkeit = Spalten(Zeile, 64, 64);
   S.Info = &Info;
   return true;

@@ -16,7 +16,7 @@ struct NeuerPunkt {
 // @return Wie; Nichts if the table is full
 NeupunktCode Anfügen(const std::string& Pnr, const NeuerPunkt& P, NeupunktCode Wie) {
   KorInfoSatz Ohne;
-  Ohne.Punktart = PunktartVon(P.Symbol);
+  Ohne.Punktart = KurzAusText(P.Symbol);
   if (KorAnhängen({Pnr, P.Rechts, P.Hoch, P.Hoehe.Zahl(), P.Symbol, P.Info != nullptr ? P.Info : &Ohne}) <
       0) {
     LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.Neupunkt");

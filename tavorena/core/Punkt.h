@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace tavorena {
 
@@ -28,8 +27,5 @@ enum class Dateiformat : std::int16_t {
   Edbs = 1,
   Lt4 = 2,  ///< also ALK
 };
-
-/// The Punktart of a point whose symbol is known: the integer value of the text, 0 beyond 16 bits.
-std::int16_t PunktartVon(std::string_view Symbol);
 
 }  // namespace tavorena

@@ -169,7 +169,7 @@ struct NeupunktErgebnis {
 /// Stores a calculated point. A taken number is asked about, see Konfliktantwort.
 /// @param[in,out] Pnr    empty or null stores nothing; the final number on return
 /// @param[in]     Hoehe  null or empty if there is none; stored as 0
-/// @param[in]     Info   attributes; nullptr: all empty, Punktart from the symbol
+/// @param[in]     Info   attributes; nullptr: all empty, Punktart the number in the symbol
 [[nodiscard]] NeupunktCode Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe,
                                     const std::string& Symbol, const KorInfoSatz* Info,
                                     NeupunktErgebnis& Ergebnis);

@@ -158,6 +158,11 @@ double ZahlAusText(std::string_view Text) {
   return Negativ ? -Betrag : Betrag;
 }
 
+std::int16_t KurzAusText(std::string_view Text) {
+  const double Zahl = std::floor(ZahlAusText(Text));
+  return std::fabs(Zahl) <= 32767 ? static_cast<std::int16_t>(Zahl) : std::int16_t{0};
+}
+
 double ZahlVonText(std::string& Text) {
   ZeichenErsetzen(Text, ',', '.');
   return ZahlAusText(Text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,9 @@ namespace tavorena {
 /// the first other character ends it. "," is read as ".". No prefix gives 0. A number too large for a
 /// double gives infinity, which every field shows as stars.
 double ZahlAusText(std::string_view Text);
+
+/// The integer below or at ZahlAusText, as old files hold it in 16 bits; 0 where it does not fit.
+std::int16_t KurzAusText(std::string_view Text);
 
 /// As ZahlAusText; besides, every "," in Text is replaced by "." in place.
 double ZahlVonText(std::string& Text);

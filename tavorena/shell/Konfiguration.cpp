@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <initializer_list>
 
@@ -32,9 +31,10 @@ std::string OrdnerSuchen() {
 }
 
 // An open configuration file, read line by line.
-class Kanal {
+class Einstellungsleser {
  public:
-  explicit Kanal(const std::string& Dateiname) : Gut(TextdateiLesen(Dateiname, Text) == 0), Leser(Text) {}
+  explicit Einstellungsleser(const std::string& Dateiname)
+      : Gut(TextdateiLesen(Dateiname, Text) == 0), Leser(Text) {}
 
   // Goes behind the first line whose upper-case text holds Abschnitt.
   bool Suchen(std::string_view Abschnitt) {
@@ -74,13 +74,6 @@ bool IstWahr(const std::string& Wort) {
   return Gross == "TRUE" || Gross == "WAHR" || Wort == "1";
 }
 
-int Ganz(const std::string& Wort) {
-  const double Zahl = std::floor(ZahlAusText(Wort));
-  return std::fabs(Zahl) <= 32767 ? static_cast<int>(Zahl) : 0;
-}
-
-std::int16_t Kurz(const std::string& Wort) { return static_cast<std::int16_t>(Ganz(Wort)); }
-
 void FensterwahlLesen(const std::string& Wort) {
   // "1" is written for the protocol window and read as the graphics window; meant so.
   Optionen.GrafikfensterAn = Wort == "1" || Wort == "2";
@@ -90,7 +83,7 @@ void FensterwahlLesen(const std::string& Wort) {
 
 // The lines that older files do not have. Each line is consumed in any case: an older, shorter section
 // runs over into the next one, and its lines are read as values. Meant so.
-bool SpätereZeile(Kanal& K, std::string& Wort, bool& Gilt) {
+bool SpätereZeile(Einstellungsleser& K, std::string& Wort, bool& Gilt) {
   std::string Zeile;
   if (!K.Zeile(Zeile)) return false;
   std::string_view Rest = Zeile;
@@ -99,7 +92,7 @@ bool SpätereZeile(Kanal& K, std::string& Wort, bool& Gilt) {
   return true;
 }
 
-bool SpätereLesen(Kanal& K) {
+bool SpätereLesen(Einstellungsleser& K) {
   std::string Wort;
   bool Gilt = false;
   const auto Nächste = [&] { return SpätereZeile(K, Wort, Gilt); };
@@ -108,9 +101,9 @@ bool SpätereLesen(Kanal& K) {
   if (!Nächste()) return false;
   Optionen.VorgabeHoch = Gilt ? ZahlAusText(Wort) : 0;
   if (!Nächste()) return false;
-  Optionen.OptWarnstufe = Gilt ? Ganz(Wort) : 3;
+  Optionen.OptWarnstufe = Gilt ? KurzAusText(Wort) : 3;
   if (!Nächste()) return false;
-  Optionen.OptNachkommaSpeichern = Gilt ? Kurz(Wort) : std::int16_t{4};
+  Optionen.OptNachkommaSpeichern = Gilt ? KurzAusText(Wort) : std::int16_t{4};
   if (!Nächste()) return false;
   Optionen.FStatMitHoehe = Gilt ? IstWahr(Wort) : true;
   if (!Nächste()) return false;
@@ -179,11 +172,11 @@ void DateinamenAbleiten() {
 
 int OptionenLesen() {
   Optionen = {};
-  Kanal K(DateinameOptionen);
+  Einstellungsleser K(DateinameOptionen);
   std::string Wort;
   if (!K.Suchen("[OPTIONEN]")) return -1;
   if (!K.ZeileLesen(Wort)) return -1;
-  Optionen.OptNachkommastellen = Kurz(Wort);
+  Optionen.OptNachkommastellen = KurzAusText(Wort);
   if (!K.ZeileLesen(Wort)) return -1;
   FensterwahlLesen(Wort);
   if (!K.ZeileLesen(Wort)) return -1;
@@ -195,7 +188,7 @@ int OptionenLesen() {
 
 int HistorieLesen() {
   Historie = {};
-  Kanal K(DateinameOptionen);
+  Einstellungsleser K(DateinameOptionen);
   if (!K.Suchen("[HISTORIE]")) return -1;
   std::string Zeile;
   for (int i = 0; i < HistorieAnzahl; ++i) {
@@ -203,7 +196,8 @@ int HistorieLesen() {
     HistorieEintrag& H = Historie[static_cast<std::size_t>(i)];
     const std::size_t Stern = Zeile.find('*');
     H.Dateiname = Stern == std::string::npos ? Zeile : Trimmen(Zeile.substr(0, Stern));
-    H.Format = static_cast<Dateiformat>(Stern == std::string::npos ? 0 : Kurz(Zeile.substr(Stern + 1)));
+    H.Format =
+        static_cast<Dateiformat>(Stern == std::string::npos ? 0 : KurzAusText(Zeile.substr(Stern + 1)));
     // Older files kept LT4 under the number of KOR.
     if (H.Format == Dateiformat::Kor && Großtext(DateinameZerlegen(H.Dateiname).Endung) == "LT4")
       H.Format = Dateiformat::Lt4;
@@ -218,7 +212,7 @@ int FormularLesen() {
 
 int DateinamenLesen() {
   NamenVorgeben();
-  Kanal K(DateinameOptionen);
+  Einstellungsleser K(DateinameOptionen);
   if (!K.Suchen("[DATEIN")) return -1;
   for (const Namenszeile& N : Namenszeilen) {
     if (!K.ZeileLesen(Optionen.*N.Wert)) return -1;
@@ -228,7 +222,7 @@ int DateinamenLesen() {
 }
 
 int EDBSLesen() {
-  Kanal K(DateinameOptionen);
+  Einstellungsleser K(DateinameOptionen);
   if (K.Suchen("[EDBS") && K.ZeileLesen(Optionen.EDBSInfo)) return 0;
   DateinamenLesen();
   return -1;
@@ -281,14 +275,14 @@ void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format) {
 }
 
 int TheoOptionenLesen(TheoOptionen& Gelesen) {
-  Kanal K(Theodolitdatei());
+  Einstellungsleser K(Theodolitdatei());
   TheoOptionen Neu;
   std::string Abschnitt, Port, Reduktion;
   for (std::string* Zeile : {&Abschnitt, &Port, &Neu.Settings, &Neu.Rohdatendatei, &Reduktion}) {
     if (!K.Zeile(*Zeile)) return -1;
   }
   Neu.Port = Port.starts_with("COM2") ? 2 : 1;
-  Neu.Reduktion = std::clamp(Ganz(Reduktion), 0, 2);
+  Neu.Reduktion = std::clamp<int>(KurzAusText(Reduktion), 0, 2);
   Gelesen = Neu;
   return 0;
 }
