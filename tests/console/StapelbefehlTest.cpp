@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include <tavorena/console/Stapelbefehl.h>
-#include <tavorena/records/Stapelleser.h>
 #include <tavorena/records/Stapelblock.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace fs = std::filesystem;
 
@@ -33,7 +33,7 @@ class Stapelbefehl : public TabellenTest {
       "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002 99.93\r\nNR 2003\r\nNR 1002\r\nE\r\n";
 };
 
-TEST_F(Stapelbefehl, EineZeileJeBlockUndDieSummen) {
+TEST_F(Stapelbefehl, BerichtetJeBlock) {
   Auftrag.Speichern = Ordner.Pfad("b.kor");
   EXPECT_EQ(Laufen(Gut + "M VR 65.00 x\r\nPN 1\r\nE\r\nM 3D WINKEL\r\nE\r\n" + Gut), 0);
   EXPECT_EQ(Aus.str(),
@@ -44,18 +44,26 @@ TEST_F(Stapelbefehl, EineZeileJeBlockUndDieSummen) {
   EXPECT_EQ(std::count(Gespeichert.begin(), Gespeichert.end(), '\n'), 3);
 }
 
-TEST_F(Stapelbefehl, FehlerUndFragenBeendenMitEins) {
+TEST_F(Stapelbefehl, LesefehlerBeendetOhneSpeichern) {
   Auftrag.Speichern = Ordner.Pfad("b.kor");
   EXPECT_EQ(Laufen(Gut + "M VR 24.40 x\r\nPXN 1\r\n"), 1);
   EXPECT_EQ(Meldungen.str(), "Fehler 8 beim Lesen der Stapeldatei:\nPXN 1\n");
+  EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
+}
+
+TEST_F(Stapelbefehl, FrageOhneAntwortBeendetOhneSpeichern) {
+  Auftrag.Speichern = Ordner.Pfad("b.kor");
   EXPECT_EQ(Laufen("M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n" + Gut), 1);
   EXPECT_EQ(Meldungen.str(),
             "Frage ohne Antwort (" + Auftrag.Stapel + ", Zeile 4): Punkt 77 nicht vorhanden\n");
   EXPECT_EQ(Stapel.Bilanz.Blöcke, 1);  // nothing runs after it
+  EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
+}
+
+TEST_F(Stapelbefehl, FehlendeKoordinatendateiBeendet) {
   Auftrag.Koordinaten = Ordner.Pfad("fehlt.kor");
   EXPECT_EQ(Laufen(Gut), 1);
   EXPECT_NE(Meldungen.str().find("nicht vorhanden !"), std::string::npos);
-  EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
 }
 
 TEST_F(Stapelbefehl, AntwortAufVergebeneNummer) {

@@ -43,8 +43,20 @@ std::string Reihe(const T&... Werte) {
   return Text.str();
 }
 
-/// Compares with an approved file beside the tests, byte for byte, and shows the first line that differs. With
-/// TAVORENA_SOLL_NEU=1 the new text is taken over and the test still fails, so that the change is looked at.
+/// Compares in pairs, a value and the one expected beside it, and tells which pair is off.
+template <int Nummer = 1, typename A, typename B, typename... Rest>
+::testing::AssertionResult Gleich(const A& Ist, const B& Soll, const Rest&... Weitere) {
+  if (Ist != Soll) {
+    return ::testing::AssertionFailure() << "pair " << Nummer << ": " << ::testing::PrintToString(Ist)
+                                         << " and not " << ::testing::PrintToString(Soll);
+  }
+  if constexpr (sizeof...(Rest) > 0) return Gleich<Nummer + 1>(Weitere...);
+  return ::testing::AssertionSuccess();
+}
+
+/// Compares with an approved file beside the tests, byte for byte, and shows the first line that differs.
+/// With TAVORENA_SOLL_NEU=1 the new text is taken over and the test still fails, so that the change is looked
+/// at.
 ::testing::AssertionResult GleichSoll(const std::string& Ist, const std::string& SollDatei);
 
 /// Answers questions by a script and fails the test on one that nobody foresaw. The clock stands still at
