@@ -76,7 +76,7 @@ TEST(Polygon, RingNachLehrbuch) {
   for (PolygonZeile& Zeile : Ring.Zeilen) Zeile.Winkel -= Gms(0, 0, 2.2);
   ASSERT_EQ(PolygonCalc(Ring, true, true, false, true, E), 0);
   EXPECT_TRUE(Nahe({E.WY, E.WX, E.Seiten[2].dR, E.Seiten[2].dH}, {-0.026, -0.077, 192.889, 694.045}, 0.003));
-  EXPECT_TRUE(E.Ring && !E.LinearVerteilt);
+  EXPECT_TRUE(Gleich(E.Ring, true, E.LinearVerteilt, false));
   EXPECT_EQ(E.Seiten[2].vR, 0);
   EXPECT_NEAR(std::hypot(E.FL, E.FQ), std::hypot(E.WX, E.WY), 1e-12);  // split, but not distributed
   EXPECT_EQ(PolygonToleranz(E, PolygonKlasse::NP), &E.TP);
@@ -84,11 +84,11 @@ TEST(Polygon, RingNachLehrbuch) {
 }
 
 // Due east over 250, 250, 500 m; the end is 0.3 m further and 0.1 m to the right.
-TEST(Polygon, HandprobeUndToleranzen) {
+TEST(Polygon, Handprobe) {
   PolygonZug Zug{{-600, 0}, {0, 0}, {1000.3, -0.1}, {500.3, 499.9}, 200, 250, 50, {{200, 250}, {200, 500}}};
   PolygonErgebnis E;
   ASSERT_EQ(PolygonCalc(Zug, true, true, true, true, E), 0);
-  EXPECT_TRUE(E.WinkelVerteilt && E.LinearVerteilt);
+  EXPECT_TRUE(Gleich(E.WinkelVerteilt, true, E.LinearVerteilt, true));
   EXPECT_TRUE(Nahe({E.FW, E.FL, E.FQ, E.Seiten[1].vR, E.Seiten[1].vH}, {0, 0.3, 0.1, 0.075, -0.025}));
   EXPECT_TRUE(Nahe(E.Seiten[1].Ende, {500.15, -0.05}));
   Zug.PE = {1000, 0};
@@ -131,7 +131,7 @@ TEST(Polygon, Ablehnungen) {
   EXPECT_EQ(Rechne([](Zug& z) { z.Zeilen.resize(999, {200, 1}); }), 0);
   EXPECT_EQ(E.Seiten.size(), 1000U);
   EXPECT_EQ(Rechne([](Zug& z) { z.Zeilen[0].Winkel = 0; }, true, false), 0);  // forth and back: L is 0
-  EXPECT_TRUE(E.Ring && E.FL == 0 && E.FQ == 0 && !E.LinearVerteilt);
+  EXPECT_TRUE(Gleich(E.Ring, true, E.FL, 0, E.FQ, 0, E.LinearVerteilt, false));
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ class Stapelbefehl : public TabellenTest {
     Schreibe(Auftrag.Koordinaten = Ordner.Pfad("a.kor"),
              "1001 3500100 5600200\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
     Auftrag.Stapel = Ordner.Pfad("a.sta");
+    Auftrag.Speichern = Ordner.Pfad("b.kor");
   }
   ~Stapelbefehl() override { unsetenv("TAVORENA_ORDNER"); }
   int Laufen(const std::string& Sta) {
@@ -34,7 +35,6 @@ class Stapelbefehl : public TabellenTest {
 };
 
 TEST_F(Stapelbefehl, BerichtetJeBlock) {
-  Auftrag.Speichern = Ordner.Pfad("b.kor");
   EXPECT_EQ(Laufen(Gut + "M VR 65.00 x\r\nPN 1\r\nE\r\nM 3D WINKEL\r\nE\r\n" + Gut), 0);
   EXPECT_EQ(Aus.str(),
             "VR 24.40 Linienelemente: 2 Zeilen, 1 Marken\nVR 24.40 Linienelemente: 2 Zeilen, 1 Marken\n"
@@ -45,14 +45,12 @@ TEST_F(Stapelbefehl, BerichtetJeBlock) {
 }
 
 TEST_F(Stapelbefehl, LesefehlerBeendetOhneSpeichern) {
-  Auftrag.Speichern = Ordner.Pfad("b.kor");
   EXPECT_EQ(Laufen(Gut + "M VR 24.40 x\r\nPXN 1\r\n"), 1);
   EXPECT_EQ(Meldungen.str(), "Fehler 8 beim Lesen der Stapeldatei:\nPXN 1\n");
   EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
 }
 
 TEST_F(Stapelbefehl, FrageOhneAntwortBeendetOhneSpeichern) {
-  Auftrag.Speichern = Ordner.Pfad("b.kor");
   EXPECT_EQ(Laufen("M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n" + Gut), 1);
   EXPECT_EQ(Meldungen.str(),
             "Frage ohne Antwort (" + Auftrag.Stapel + ", Zeile 4): Punkt 77 nicht vorhanden\n");

@@ -22,8 +22,7 @@ class Datei : public ::testing::Test {
 };
 
 TEST_F(Datei, Systempfad) {
-  EXPECT_EQ(Systempfad("c:\\auftrag\\a.kor"), "/auftrag/a.kor");
-  EXPECT_EQ(Systempfad("auftrag\\a.kor"), "auftrag/a.kor");
+  EXPECT_TRUE(Gleich(Systempfad("c:\\d\\a.kor"), "/d/a.kor", Systempfad("d\\a.kor"), "d/a.kor"));
 }
 
 TEST_F(Datei, NameZerlegen) {
@@ -40,8 +39,7 @@ TEST_F(Datei, Kodierungen) {
   for (int i = 1; i < 256; ++i) Alle += static_cast<char>(i);
   EXPECT_TRUE(IstUtf8(AusWindows1252(Alle)));
   EXPECT_EQ(NachWindows1252(AusWindows1252(Alle)), Alle);
-  EXPECT_EQ(AusWindows1252("\x80\xDF"), "€ß");
-  EXPECT_EQ(NachWindows1252("Ω"), "?");
+  EXPECT_TRUE(Gleich(AusWindows1252("\x80\xDF"), "€ß", NachWindows1252("Ω"), "?"));
 }
 
 TEST_F(Datei, AnhängenBehältDieKodierung) {
@@ -121,8 +119,7 @@ TEST_F(Datei, ErsetzenÄndertNurDenInhalt) {
   fs::permissions(Name, fs::perms{0600});
   fs::create_symlink(Name, Verweis);
   EXPECT_EQ(DateiErsetzen(Verweis, "neu"), 0);
-  EXPECT_TRUE(fs::is_symlink(Verweis));
-  EXPECT_EQ(Inhalt(Name), "neu");
+  EXPECT_TRUE(Gleich(fs::is_symlink(Verweis), true, Inhalt(Name), "neu"));
   EXPECT_EQ(fs::status(Name).permissions(), fs::perms{0600});
 }
 

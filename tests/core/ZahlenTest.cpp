@@ -22,8 +22,8 @@ TEST(ZahlFormat, Tabelle) {
   EXPECT_TRUE(Gleich(ZahlFormat(9999999.9999, 7, 3), "10000000.000", ZahlFormat(1000.0, 3, 0), "***."));
   EXPECT_TRUE(Gleich(ZahlFormat(Leer, 3, 1), "     ", ZahlFormat(Null, 3, 1), "     "));
   EXPECT_TRUE(Gleich(ZahlFormat(true, 3, 0), "  -1", ZahlFormat("12,5", 3, 1), " 12.5"));
-  EXPECT_EQ(ZahlFormat(std::int16_t{7}, 3, 0), "   7");
-  EXPECT_EQ(ZahlFormat(12.5, 7, 0), "      13");  // no decimals keep the place of the point
+  // No decimals keep the place of the point.
+  EXPECT_TRUE(Gleich(ZahlFormat(std::int16_t{7}, 3, 0), "   7", ZahlFormat(12.5, 7, 0), "      13"));
   EXPECT_TRUE(Gleich(ZahlFormat(0.5, 0, 2), ".50", ZahlFormat(-0.2, 0, 2), ".**"));  // no room for a sign
   EXPECT_TRUE(Gleich(ZahlFormat(std::nan(""), 3, 1), "***.*", ZahlFormat(-Unendlich, 3, 1), "***.*"));
 }
@@ -45,8 +45,7 @@ TEST(ZahlFormat, KaufmännischAufDemDezimaltext) {
 TEST(ZahlFormat, KenntKeineLandessprache) {
   const std::string Vorher = std::setlocale(LC_ALL, nullptr);
   for (const char* Name : {"de_DE.UTF-8", "de_DE.utf8"}) std::setlocale(LC_ALL, Name);
-  EXPECT_EQ(ZahlFormat(1234.5, 7, 3), "   1234.500");
-  EXPECT_EQ(ZahlAusText("1234.5"), 1234.5);
+  EXPECT_TRUE(Gleich(ZahlFormat(1234.5, 7, 3), "   1234.500", ZahlAusText("1234.5"), 1234.5));
   std::setlocale(LC_ALL, Vorher.c_str());
 }
 
@@ -76,11 +75,9 @@ TEST(ZahlVonText, NumerischerAnfang) {
   EXPECT_EQ(Gelesen({"1e3", "1E+2,5", "12e", "1e-999", "1e999", "-1e999"}),
             (Zahlen{1000, 100, 12, 0, Unendlich, -Unendlich}));
   std::string Text = "1,2,3";
-  EXPECT_EQ(ZahlVonText(Text), 1.2);
-  EXPECT_EQ(Text, "1.2.3");  // replaced in the caller's text
+  EXPECT_TRUE(Gleich(ZahlVonText(Text), 1.2, Text, "1.2.3"));  // replaced in the caller's text
   Wert Nummer("4711,2");
-  EXPECT_EQ(ZahlVonText(Nummer), 4711.2);
-  EXPECT_EQ(Nummer, Wert("4711.2"));
+  EXPECT_TRUE(Gleich(ZahlVonText(Nummer), 4711.2, Nummer, Wert("4711.2")));
 }
 
 TEST(ZahlNachText, ZustandBleibt) {
@@ -125,8 +122,8 @@ TEST(Winkel, Quadranten) {
     EXPECT_NEAR(WinkelGrad(dH, dR), Mathe, 1e-10);
   }
   // A zero stays a zero on purpose, not 400 or 360.
-  EXPECT_TRUE(Gleich(RadNachGonVoll(0), 0, GonNachGradMath(0), 0, GradNachGonMath(0), 0));
-  EXPECT_EQ(GonNachGradMath(100), 270);
+  EXPECT_TRUE(
+      Gleich(RadNachGonVoll(0), 0, GonNachGradMath(0), 0, GradNachGonMath(0), 0, GonNachGradMath(100), 270));
   EXPECT_NEAR(GradNachGonMath(GonNachGradMath(123.4567)), 123.4567, 1e-12);
   EXPECT_TRUE(Gleich(SinGon(100), 1, CosGon(200), -1, SinGrad(90), 1));
   EXPECT_NEAR(TanGon(50), 1, 1e-12);
@@ -155,13 +152,13 @@ TEST(Winkel, Listen) {
   EXPECT_TRUE(Gleich(r, -1, h, -1));
   EXPECT_TRUE(Gleich(Schwerpunkt(R, H, 3, r, h), 0, r, 10, h, 10));
   EXPECT_TRUE(Gleich(MittelOhneNull(R, 3, m[0]), 0, MittelOhneNull(H, 2, m[1]), 0, m[0], 15, m[1], 0));
-  EXPECT_TRUE(Gleich(MittelGewichtet(R, Gewicht, 3, m[2]), 0, MittelGewichtet(R, Aus, 3, m[3]), 0));
-  EXPECT_TRUE(Gleich(m[2], 7.5, m[3], 0));
+  EXPECT_TRUE(Gleich(MittelGewichtet(R, Gewicht, 3, m[2]), 0, m[2], 7.5));
+  EXPECT_TRUE(Gleich(MittelGewichtet(R, Aus, 3, m[3]), 0, m[3], 0));
   std::vector<int> Indizes;
   int Treffer = 0;
   PunkteImKreis(0, 0, R, H, 3, Indizes, Treffer, 10);
-  EXPECT_EQ(Treffer, 1);  // strictly nearer: the point at 10 m stays out
-  EXPECT_EQ(PunktIstNah(0, 0, 10, 0, 10), 1);
+  // Strictly nearer: the point at 10 m stays out.
+  EXPECT_TRUE(Gleich(Treffer, 1, PunktIstNah(0, 0, 10, 0, 10), 1));
 }
 
 }  // namespace

@@ -74,14 +74,12 @@ TEST_F(HauptOffen, OffenesBlattSperrtBilder) {
   }
   for (const bool Lang : {true, false}) {
     TVKernMDIForm::Fenster().Beschäftigt(Lang);
-    EXPECT_EQ(BildAktiv("ImageStop"), Lang);
-    EXPECT_EQ(Aktiv("MenüDateiBeenden"), !Lang);
+    EXPECT_TRUE(Gleich(BildAktiv("ImageStop"), Lang, Aktiv("MenüDateiBeenden"), !Lang));
   }
   EXPECT_FALSE(Aktiv("MenüDateiHist(1)"));
   Skript.Erwarte("speichern ? ", KnopfNein);
   Befehl("MenüDateiSchließen");  // the worksheet goes with its file
-  EXPECT_FALSE(BlätterOffen());
-  EXPECT_TRUE(Aktiv("MenüDateiHist(1)"));
+  EXPECT_TRUE(Gleich(BlätterOffen(), false, Aktiv("MenüDateiHist(1)"), true));
 }
 
 TEST_F(HauptOffen, VorhandenesProtokollFragt) {
@@ -118,8 +116,7 @@ TEST_F(Haupt, AbgebrocheneNeueDatei) {
   Knopf(2);
   for (const char* Ohne : {"a name", "a protocol"}) {
     Befehl("MenüDateiNeu");
-    EXPECT_EQ(KoordinatendateiName, "") << "without " << Ohne;
-    EXPECT_FALSE(Aktiv("MenüKatasterLinel")) << "without " << Ohne;
+    EXPECT_TRUE(Gleich(KoordinatendateiName, "", Aktiv("MenüKatasterLinel"), false)) << "without " << Ohne;
   }
 }
 
@@ -141,8 +138,7 @@ TEST_F(Haupt, SpeichernUnterVergebenemNamen) {
   Schreibe(Datei, Alt);
   Knopf(2);
   Befehl("MenüDateiSpeichernUnter", Datei);
-  EXPECT_EQ(KoordinatendateiName, A_kor) << "cancelled";
-  EXPECT_EQ(Inhalt(Datei), Alt) << "cancelled";
+  EXPECT_TRUE(Gleich(KoordinatendateiName, A_kor, Inhalt(Datei), Alt)) << "cancelled";
   Knopf(0);  // extended: the table then holds all of it
   Befehl("MenüDateiSpeichernUnter", Datei);
   EXPECT_EQ(KorAnzahl, 2);
@@ -170,10 +166,8 @@ TEST_F(HauptOffen, StapelÜberDasMenü) {
   const std::string Sta = Ordner.Pfad("lauf.sta");
   Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 65.00 x\r\nE\r\n");
   Befehl("MenüDateiStapel", Sta);
-  EXPECT_FALSE(Stapel.Aktiv);
-  EXPECT_FALSE(BlätterOffen());
+  EXPECT_TRUE(Gleich(Stapel.Aktiv, false, BlätterOffen(), false, DateiVorhanden(StapelDatei.Name), false));
   EXPECT_EQ(Skript.Status[4], "   Stapel beendet: 1 Blöcke, 1 Zeilen, übergangen: 65.00   ");
-  EXPECT_FALSE(DateiVorhanden(StapelDatei.Name));
 }
 
 TEST_F(HauptOffen, OffenerBlockHältBlattWieStapelZurück) {
@@ -206,8 +200,7 @@ TEST_F(HauptOffen, Protokollwechsel) {
   Befehl("MenüDateiProtokoll", "");
   EXPECT_EQ(Prot.Datei, A_dru) << "cancelled";
   Befehl("MenüDateiProtokoll", Ordner.Pfad("p.dru"));
-  EXPECT_EQ(Prot.Datei, Ordner.Pfad("p.dru"));
-  EXPECT_EQ(Skript.Aufträge.back().Zusatz, "kein Protokoll");
+  EXPECT_TRUE(Gleich(Prot.Datei, Ordner.Pfad("p.dru"), Skript.Aufträge.back().Zusatz, "kein Protokoll"));
 }
 
 TEST_F(HauptOffen, AnsichtÖffnetDenEditor) {
@@ -245,8 +238,7 @@ TEST_F(Haupt, AllgemeineDialoge) {
   EXPECT_EQ(PunktVorhandenOrientierungFrage("12"), 2);
   std::string Wert = "0.01", Verzeichnis = Ordner.Pfad("");
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "9"}, {"Abbrechen", ""}}));
-  EXPECT_EQ(EinWert("T", "fs:", Wert), -1);
-  EXPECT_EQ(Wert, "0.01");
+  EXPECT_TRUE(Gleich(EinWert("T", "fs:", Wert), -1, Wert, "0.01"));
   Skript.Formulare.push_back(Bediene({{"OK", ""}}));
   EXPECT_EQ(AuswahlListe("T", {"Koordinaten in [mm]", "Koordinaten in [mm] / 10"}), 0);
   Wertfeld Felder[] = {{"a", "", 7, 2}, {"b", "", 7, 3}, {"c", ""}};
@@ -276,8 +268,7 @@ TEST_F(Haupt, DateinamenDialogSchütztDateien) {
     Knopf(1);
     Drücke(Form, "OK");
   });
-  EXPECT_EQ(ZweiDateinamen("T", Felder), 0);
-  EXPECT_EQ(Felder[1].Name, Aus);
+  EXPECT_TRUE(Gleich(ZweiDateinamen("T", Felder), 0, Felder[1].Name, Aus));
   EXPECT_FALSE(DateiVorhanden(Aus));
 }
 

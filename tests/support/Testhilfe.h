@@ -43,7 +43,8 @@ std::string Reihe(const T&... Werte) {
   return Text.str();
 }
 
-/// Compares in pairs, a value and the one expected beside it, and tells which pair is off.
+/// Compares in pairs, a value and the one expected beside it, and tells which pair is off. A variable that a
+/// call beside it writes is seen as it is after the call; what another call reads is not.
 template <int Nummer = 1, typename A, typename B, typename... Rest>
 ::testing::AssertionResult Gleich(const A& Ist, const B& Soll, const Rest&... Weitere) {
   if (Ist != Soll) {
