@@ -1,7 +1,7 @@
 #include "Fuzzhilfe.h"
 
-#include <tavorena/records/Stapelleser.h>
 #include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena::fuzz {
 namespace {
@@ -43,7 +43,8 @@ void Lauf(Eingabe E) {
   Prot = {};
   StapelStarten(Datei("a.sta", E.Rest()));
   Prüfen(!Stapel.Aktiv, "der Lauf ist zu Ende");
-  Prüfen(Stapel.Zeiger <= Stapel.Anzahl() && Stapel.Zeilennummer == Stapel.Zeiger, "die Zeilen werden gezählt");
+  Prüfen(Stapel.Zeiger <= Stapel.Anzahl() && Stapel.Zeilennummer == Stapel.Zeiger,
+         "die Zeilen werden gezählt");
   Prüfen(Stapel.Bilanz.Blöcke + static_cast<int>(Stapel.Bilanz.Übergangen.size()) <= Stapel.Anzahl(),
          "jeder Block hat einen Kopf");
   Prüfen(Schlussrufe == 1, "das Ende des Laufs wird einmal gemeldet");

@@ -1,6 +1,6 @@
 #include <tavorena/calc/Schnitte.h>
-#include <tavorena/ta/TAHilfe.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/ta/TAHilfe.h>
 
 namespace tavorena {
 

@@ -24,9 +24,9 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/worksheets/TVFormularmodul.h>

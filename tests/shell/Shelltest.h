@@ -5,9 +5,9 @@
 #include <cstdlib>
 
 #include <tavorena/core/Optionen.h>
-#include <tavorena/records/Stapelleser.h>
-#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Stapelblock.h>
+#include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
