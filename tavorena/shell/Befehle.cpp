@@ -68,6 +68,10 @@ void DateiSpeichernUnter() {
 
 void Stapelbearbeitung() {
   if (StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
+  if (StapelDatei.Offen) {
+    return Hinweis("Stapel noch nicht abgeschlossen\n\nBitte zuerst das Rechenblatt schließen:\n" +
+                   StapelDatei.Offen->Titel);
+  }
   std::string Name;
   if (DateiWahl(Dateisorte::Sta, Wahlmodus::Lesen, "Stapeldateien (*.sta)|*.sta", "*.sta", Name) < 0) return;
   StapelStarten(Name);

@@ -35,7 +35,7 @@ bool BlätterSchließen() {
   return true;
 }
 
-bool StapelSchreibenOffen() { return StapelDatei.Offen != nullptr || Stapel.Aktiv; }
+bool StapelSchreibenOffen() { return Stapel.Aktiv; }
 
 std::function<void()> BlattFür(const std::string& Kennung) {
   const Blattart* Art = BlattartVonKennung(Kennung);

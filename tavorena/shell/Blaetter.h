@@ -19,7 +19,7 @@ bool BlätterOffen();
 /// Closes all open worksheets; one with something unwritten asks first. @return false: one stayed open
 bool BlätterSchließen();
 
-/// A batch write is not finished, or a replay runs: no other worksheet may be opened.
+/// A replay runs: no other worksheet may be opened.
 bool StapelSchreibenOffen();
 
 /// What shows the worksheet that takes a block of the batch file; empty if there is none.

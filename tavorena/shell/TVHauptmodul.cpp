@@ -1,3 +1,5 @@
+#include <memory>
+
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/KorDatei.h>
@@ -55,6 +57,19 @@ void OhnePunkte() {
   KorGeaendertSetzen(false);
 }
 
+// The mean stands within the running page; as the first entry of a protocol it has a head of its own.
+void MittelEintragen(const Mittelpunkt& M) {
+  std::shared_ptr<const Verbindung> Kopf;
+  if (!Prot.HatKopf) {
+    Verbindung V;
+    V.Titel = "VR 25.50 Mittelbildung von Punkten";
+    V.Riß = LetzterPlan;
+    Kopf = std::make_shared<const Verbindung>(std::move(V));
+  }
+  // It is in the table; a protocol that can not be written was told.
+  static_cast<void>(Schreiben(Prot, Kopf, MittelBlock(Optionen.OptNachkommastellen, M)));
+}
+
 int LesenNachFormat() {
   if (Koordinatendateiformat >= Dateiformat::Kor && Koordinatendateiformat <= Dateiformat::Lt4) {
     const int Gelesen = KorLesen(KoordinatendateiName, Lesemodus::Ersetzen, Koordinatendateiformat);
@@ -71,10 +86,7 @@ int LesenNachFormat() {
 void HauptAnschließen() {
   Haken.FormEinzelKorein = FormEinzelKorein;
   Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
-  Haken.MittelEintragen = [](const Mittelpunkt& M) {
-    // The mean stands in the table; a protocol that can not be written was told.
-    static_cast<void>(ProtBlock(Prot, MittelBlock(Optionen.OptNachkommastellen, M)));
-  };
+  Haken.MittelEintragen = MittelEintragen;
   StapelHaken = {BlattFür, Stapelstand};
 }
 

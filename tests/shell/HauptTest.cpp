@@ -170,16 +170,34 @@ TEST_F(HauptOffen, StapelÜberDasMenü) {
   EXPECT_EQ(Skript.Status[4], "   Stapel beendet: 1 Blöcke, 1 Zeilen, übergangen: 65.00   ");
 }
 
-TEST_F(HauptOffen, OffenerBlockHältBlattWieStapelZurück) {
-  Stapelblock Block;
-  int Griff = 0;
-  ASSERT_EQ(Block.Beginnen(std::make_shared<const Verbindung>()) + Block.Anfügen("NR 1", Griff), 0);
+TEST_F(HauptOffen, OffenerBlockHältDenStapelZurück) {
+  Optionen.AbfrageRiss = false;
+  Formular* Erstes = nullptr;
+  Skript.BeiBlatt = [&](Formular& Form) {
+    Form.Öffnen();
+    if (Erstes == nullptr) Erstes = &Form;
+  };
+  Befehl("MenüKatasterLinel");
+  Tippe(*Erstes, "LinelAnfPnr", "1001\n1002\n0\n0\n2003\n");
+  Befehl("MenüKatasterDis");  // another worksheet may come
+  Skript.Erwarte(
+      "Stapel noch nicht abgeschlossen\n\nBitte zuerst das Rechenblatt schließen:\nVR 24.40 Linienelemente");
+  Befehl("MenüDateiStapel");
+  Stapel.Aktiv = true;  // in a replay neither comes
   for (const char* Name : {"MenüKatasterDis", "MenüDateiStapel"}) {
     Skript.Status[4].clear();
     Befehl(Name);
-    EXPECT_EQ(Skript.Status[4], "   Stapel noch nicht abgeschlossen   ");
+    EXPECT_EQ(Skript.Status[4], "   Stapel noch nicht abgeschlossen   ") << Name;
   }
-  EXPECT_FALSE(BlätterOffen());
+  Stapel.Aktiv = false;
+}
+
+TEST_F(HauptOffen, MittelBrauchtSeinenKopfNurAmAnfang) {
+  const Mittelpunkt M{"1001", 1, 1, 3, 3, 2, 2};
+  for (int i = 0; i < 2; ++i) Haken.MittelEintragen(M);
+  const std::string Text = Inhalt(A_dru);
+  EXPECT_NE(Text.find("|VR 25.50  Mittelbildung von Punkten "), std::string::npos);
+  EXPECT_EQ(Text.find("|VR 25.50"), Text.rfind("|VR 25.50"));
 }
 
 TEST_F(HauptOffen, BeendenFragt) {
