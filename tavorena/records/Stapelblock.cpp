@@ -104,6 +104,8 @@ int Stapelblock::Entfernen(int Griff) {
 
 int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
 
+bool StapelZahlPaßt(double Zahl) { return StapelZahl(Zahl).find('*') == std::string::npos; }
+
 std::vector<std::string> StapelKopfLinie(const std::string& AnfPnr, double AnfWert, const std::string& EndPnr,
                                          double EndWert) {
   return {StapelPunktzeile("PAN ", AnfPnr, {AnfWert}), StapelPunktzeile("PEN ", EndPnr, {EndWert})};

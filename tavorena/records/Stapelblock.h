@@ -55,6 +55,9 @@ class Stapelblock {
 
 // ---- records as lines; numbers with 7 integer places and 4 decimals
 
+/// The number can be written in a record without becoming stars.
+[[nodiscard]] bool StapelZahlPaßt(double Zahl);
+
 /// "PAN" and "PEN" of a connection: numbers of start and end, and the values on them.
 [[nodiscard]] std::vector<std::string> StapelKopfLinie(const std::string& AnfPnr, double AnfWert,
                                                        const std::string& EndPnr, double EndWert);

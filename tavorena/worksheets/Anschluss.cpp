@@ -2,6 +2,7 @@
 
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Winkel.h>
+#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Anschluss.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -19,7 +20,7 @@ Anschluss::Anschluss(Rechenblatt& Für, std::function<void()> BeiWechsel)
       End(Für, "End", "Endpkt.", RahmenAnschluss, 2),
       Blatt(Für),
       Rechnen(std::move(BeiWechsel)) {
-  Anf.BeiWechsel = End.BeiWechsel = Rechnen;
+  for (Punktfeld* P : {&Anf, &End}) P->BeiWechsel = [this, P] { PunktGewechselt(*P); };
   PunktfeldKopf(Blatt, RahmenAnschluss);
 }
 
@@ -28,7 +29,7 @@ Feld& Anschluss::Messfeld(const char* Rest, const char* Label, Platz Ort, double
   Feld& F = Blatt.ZahlenfeldAnlegen(Blatt.Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, RahmenAnschluss, 10);
   F.Text = Messwerttext(Zahl);
   F.BeiVerlassen = [this, &F, &Zahl] { return MesswertNehmen(F, Zahl); };
-  Messfelder.push_back(&F);
+  Messfelder.push_back({F, Zahl});
   return F;
 }
 
@@ -37,14 +38,38 @@ Feld& Anschluss::Ergebnis(const char* Rest, const char* Label, int Spalte) {
   return Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Rest), {0, Spalte + 1}, RahmenErgebnis, 10);
 }
 
-bool Anschluss::MesswertNehmen(Feld& F, double& Zahl) const {
+// What was measured to another point does not belong to this one. A dialog on the way may have moved points.
+void Anschluss::PunktGewechselt(const Punktfeld& P) {
+  if (!P.Vorher().empty() && P.Vorher() != P.Nummer()) {
+    for (const Messung& M : Messfelder) {
+      M.Zahl = 0;
+      M.F.Text = Messwerttext(0);
+    }
+  }
+  if (!Nachsehen()) Rechnen();
+}
+
+bool Anschluss::Nachsehen() {
+  const bool AnfBewegt = Anf.Nachsehen(), EndBewegt = End.Nachsehen();
+  if (!AnfBewegt && !EndBewegt) return false;
+  Rechnen();
+  return true;
+}
+
+bool Anschluss::MesswertNehmen(Feld& F, double& Zahl) {
   std::string Text = F.Text;
-  if (!MesswertLesen(Text, Zahl)) {
+  double Neu = 0;
+  if (!MesswertLesen(Text, Neu)) {
     StatusHilfeSetzen("Zahl erwartet");
     return false;
   }
+  if (!StapelZahlPaßt(Neu)) {
+    StatusHilfeSetzen("Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen");
+    return false;
+  }
+  Zahl = Neu;
   F.Text = Text;
-  Rechnen();
+  if (!Nachsehen()) Rechnen();
   return true;
 }
 
@@ -63,9 +88,9 @@ bool Anschluss::Prüfen() {
     Blatt.FokusSetzen(P->Pnr);
     return false;
   }
-  for (Feld* F : Messfelder) {
-    if (Formular::Lesen(*F)) continue;
-    Blatt.FokusSetzen(*F);
+  for (const Messung& M : Messfelder) {
+    if (Formular::Lesen(M.F)) continue;
+    Blatt.FokusSetzen(M.F);
     return false;
   }
   if (Gesetzt()) return true;
@@ -87,7 +112,7 @@ int Anschluss::AusStapel(const std::string& AnfPnr, const std::string& EndPnr) {
 
 void Anschluss::AnschlussAnAus(bool An) {
   Anf.Pnr.Aktiv = End.Pnr.Aktiv = An;
-  for (Feld* F : Messfelder) F->Aktiv = An;
+  for (const Messung& M : Messfelder) M.F.Aktiv = An;
 }
 
 }  // namespace tavorena

@@ -28,20 +28,27 @@ class Anschluss {
   [[nodiscard]] double Länge() const;  ///< S from the coordinates [m]
   /// Reads all fields anew; one that is wrong or missing gets the focus. @return true: all are good
   [[nodiscard]] bool Prüfen();
-  /// Takes both points of a block, then reads the measured values from their fields.
-  /// @return 0; -1 with a message: a point is missing
+  /// Takes both points of a block. @return 0; -1 with a message: a point is missing
   [[nodiscard]] int AusStapel(const std::string& AnfPnr, const std::string& EndPnr);
+  /// Looks both points up again if the table has changed, and computes anew. @return true: one of them moved
+  bool Nachsehen();
   /// Enables or disables its fields together.
   void AnschlussAnAus(bool An);
   /// Sets the value of a measured field from outside, such as from a record.
   static void MesswertSetzen(Feld& F, double Zahl);
 
  private:
-  [[nodiscard]] bool MesswertNehmen(Feld& F, double& Zahl) const;
+  struct Messung {
+    Feld& F;
+    double& Zahl;
+  };
+
+  void PunktGewechselt(const Punktfeld& P);
+  [[nodiscard]] bool MesswertNehmen(Feld& F, double& Zahl);
 
   Rechenblatt& Blatt;
   std::function<void()> Rechnen;
-  std::vector<Feld*> Messfelder;
+  std::vector<Messung> Messfelder;
 };
 
 }  // namespace tavorena

@@ -21,7 +21,18 @@ Punktfeld::Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char*
 
 void Punktfeld::Leeren() {
   for (Feld* F : {&Rechts, &Hoch, &H_he, &Sym}) F->Text = "";
+  if (Gesetzt()) Alter = Gesucht;
   Gesucht.clear();
+}
+
+void Punktfeld::Nehmen(int Zeile) {
+  const KorSatz P = KorPunkt(Zeile);
+  Punkt = {P.Rechts, P.Hoch};
+  Stand = KorStand;
+  Rechts.Text = Längentext(P.Rechts);
+  Hoch.Text = Längentext(P.Hoch);
+  H_he.Text = P.Hoehe == 0 ? "" : Längentext(P.Hoehe);
+  Sym.Text = std::string(P.Symbol);
 }
 
 int Punktfeld::Setzen() {
@@ -32,22 +43,27 @@ int Punktfeld::Setzen() {
     Wert Nummer(*Pnr.Text);
     const int Zeile = KorFind(Nummer);
     if (Zeile < 0) return -1;
-    const auto P = KorPunkt(Zeile);
     Gesucht = LetztePunktnummer = Trimmen(Nummer);
     Pnr.Text = Gesucht;
-    Punkt = {P.Rechts, P.Hoch};
-    Rechts.Text = Längentext(P.Rechts);
-    Hoch.Text = Längentext(P.Hoch);
-    H_he.Text = P.Hoehe == 0 ? "" : Längentext(P.Hoehe);
-    Sym.Text = std::string(P.Symbol);
+    Nehmen(Zeile);
   }
   if (BeiWechsel) BeiWechsel();
   return 0;
 }
 
 bool Punktfeld::Auffrischen() {
-  Gesucht.clear();
+  Leeren();
   return Formular::Lesen(Pnr) && Gesetzt();
+}
+
+bool Punktfeld::Nachsehen() {
+  if (!Gesetzt() || Stand == KorStand) return false;
+  Stand = KorStand;
+  const int Zeile = KorSuche(std::string_view(Gesucht));
+  if (Zeile < 0) return false;
+  const Lage Vorige = Punkt;
+  Nehmen(Zeile);
+  return Punkt.RW != Vorige.RW || Punkt.HW != Vorige.HW;
 }
 
 void PunktfeldKopf(Rechenblatt& Blatt, const char* Rahmen) {

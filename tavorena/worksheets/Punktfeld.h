@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -19,25 +20,33 @@ class Punktfeld {
   Punktfeld& operator=(const Punktfeld&) = delete;
 
   Feld& Pnr;
-  std::function<void()> BeiWechsel;  ///< another point, or none, was set
+  std::function<void()> BeiWechsel;  ///< another point, or none, was set; Vorher() tells the one before
 
   /// Looks the number in the field up, unless it is the one that is set; an empty field sets no point.
   /// @return 0; -1: not found and not given, the text stays
   [[nodiscard]] int Setzen();
   /// The same, also when the number stayed: the table may have changed. @return false: there is no point
   [[nodiscard]] bool Auffrischen();
+  /// Looks the point up again if the table has changed since; a number that is gone keeps its coordinates.
+  /// @return true: it lies elsewhere now
+  bool Nachsehen();
   /// Takes the point out of the results; the number typed stays.
   void Leeren();
 
   [[nodiscard]] bool Gesetzt() const { return !Gesucht.empty(); }
   [[nodiscard]] const std::string& Nummer() const { return Gesucht; }
+  [[nodiscard]] const std::string& Vorher() const { return Alter; }
   [[nodiscard]] Lage Ort() const { return Punkt; }
   [[nodiscard]] Protpunkt AlsProtpunkt() const { return {Punkt.RW, Punkt.HW, Gesucht}; }
 
  private:
+  void Nehmen(int Zeile);
+
   Feld &Rechts, &Hoch, &H_he, &Sym;
-  std::string Gesucht;  // the number that was looked up; "" none
-  Lage Punkt;           // [m]
+  std::string Gesucht;      // the number that was looked up; "" none
+  std::string Alter;        // the one that was set before
+  Lage Punkt;               // [m]
+  std::uint64_t Stand = 0;  // of the table when it was looked up
 };
 
 /// Headings of the columns in which the points stand.

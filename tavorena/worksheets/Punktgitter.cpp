@@ -50,11 +50,14 @@ void Punktgitter::AnschlussAnAus(bool An) {
   for (Steuerelement* S : Offene) S->Aktiv = !An;
 }
 
-int Punktgitter::AnschlussEinzel() {
-  if (!Kopf.Gesetzt()) return -1;
+int Punktgitter::Verbinden() {
   Verbindung V = Blatt.NeueVerbindung();
   Kunde.Verbinden(V);
-  if (Blatt.Akten.Beginnen(std::move(V)) < 0) return -1;
+  return Blatt.Akten.Beginnen(std::move(V));
+}
+
+int Punktgitter::AnschlussEinzel() {
+  if (!Kopf.Gesetzt() || Verbinden() < 0) return -1;
   AnschlussAnAus(false);
   Reihen.assign(1, {});
   Zellen.Leeren(1);
@@ -78,8 +81,11 @@ void Punktgitter::GitterPunktnummer() {
     if (z + 1 == Zellen.Zeilen()) Blatt.FokusSetzen(*KnopfEnd10);
     return;
   }
-  const bool Steht = Reihe(z).Wo.Geschrieben && Nummer(z) == Reihe(z).Pnr;
-  if (!Steht && (GitterEinzel(z) < 0 || GitterEnde(z) < 0)) return;
+  if (Reihe(z).Wo.Geschrieben && Nummer(z) == Reihe(z).Pnr) {
+    ZeileZeigen(z);
+  } else if (GitterEinzel(z) < 0 || GitterEnde(z) < 0) {
+    return;
+  }
   if (z + 1 == Zellen.Zeilen()) return GitterInkrement();
   Zellen.Zeile = z + 1;
 }
@@ -91,6 +97,8 @@ int Punktgitter::GitterEinzel(int z) {
   const int Tabellenzeile = KorFind(Gesucht);
   Zellen.Fehlerhaft = Tabellenzeile < 0;
   if (Tabellenzeile < 0) return -1;
+  // Where a point of the connection was moved meanwhile, the rows from here on have another head.
+  if (Kopf.Nachsehen() && Verbinden() < 0) return -1;
   const auto P = KorPunkt(Tabellenzeile);
   Punktzeile Neu{Trimmen(Gesucht), {P.Rechts, P.Hoch}, 0, 0, {}};
   if (Kunde.Rechnen(Neu) < 0) return -1;
@@ -180,10 +188,10 @@ void Punktgitter::ZeileZeigen(int z) {
 // again, a new row is computed and waits for Return.
 bool Punktgitter::ZelleVerlassen() {
   const int z = Zellen.Zeile;
-  if (z >= std::ssize(Reihen) || Nummer(z) == Reihe(z).Pnr) return true;
+  if (z >= std::ssize(Reihen)) return true;
   if (Reihe(z).Wo.Geschrieben) {
     ZeileZeigen(z);
-  } else if (!Nummer(z).empty()) {
+  } else if (!Nummer(z).empty() && Nummer(z) != Reihe(z).Pnr) {
     return GitterEinzel(z) == 0;
   }
   return true;
@@ -217,11 +225,21 @@ bool Punktgitter::TasteNehmen(Taste T) {
 
 // ---- leaving ---------------------------------------------------------------------------------------
 
+bool Punktgitter::OffeneZeileSchreiben() {
+  const int z = Zellen.Zeilen() - 1;
+  if (Nummer(z).empty() || Reihe(z).Wo.Geschrieben) return true;
+  Zellen.Zeile = z;
+  if (GitterEinzel(z) < 0 || GitterEnde(z) < 0) {
+    Blatt.FokusSetzen(Zellen);
+    return false;
+  }
+  GitterInkrement();
+  return true;
+}
+
 bool Punktgitter::HatOffenes() const {
   for (int z = 0; Offen() && z < std::ssize(Reihen); ++z) {
-    if (!Reihen[static_cast<std::size_t>(z)].Wo.Geschrieben && !Nummer(z).empty() &&
-        KorSuche(Wert(Nummer(z))) >= 0)
-      return true;
+    if (!Reihen[static_cast<std::size_t>(z)].Wo.Geschrieben && !Nummer(z).empty()) return true;
   }
   return false;
 }

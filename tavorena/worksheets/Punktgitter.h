@@ -58,10 +58,13 @@ class Punktgitter {
   /// Takes the next row of a batch block. @return 0; -1 error; -2 end of the block
   [[nodiscard]] int StapelZeile();
 
+  /// Commits a row that was typed and not confirmed. @return false: it stays, and has the focus
+  [[nodiscard]] bool OffeneZeileSchreiben();
   [[nodiscard]] bool HatOffenes() const;
   [[nodiscard]] bool OffenesSchreiben();
 
  private:
+  [[nodiscard]] int Verbinden();
   [[nodiscard]] int GitterEinzel(int z);
   [[nodiscard]] int GitterEnde(int z);
   void GitterInkrement();

@@ -79,8 +79,9 @@ int TVDisForm::StapelAnschluss() {
   double AnfWert = 0, EndWert = 0;
   const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
   if (Ergebnis < 0) return Ergebnis;
+  if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
   Anschluss::MesswertSetzen(Strecke, EndWert);
-  return Kopf.AusStapel(AnfPnr, EndPnr) < 0 ? -1 : AnschlussEinzel();
+  return AnschlussEinzel();
 }
 
 int TVDisForm::StapelZeile() {

@@ -117,9 +117,10 @@ int TVLinelForm::StapelAnschluss() {
   double AnfWert = 0, EndWert = 0;
   const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
   if (Ergebnis < 0) return Ergebnis;
+  if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
   Anschluss::MesswertSetzen(Anlegemass, AnfWert);
   Anschluss::MesswertSetzen(Endmass, EndWert);
-  return Kopf.AusStapel(AnfPnr, EndPnr) < 0 ? -1 : AnschlussEinzel();
+  return AnschlussEinzel();
 }
 
 void TVLinelForm::Streifen() {
@@ -130,6 +131,7 @@ void TVLinelForm::Streifen() {
   Breite.Text = Text;
   if (Pnrvon.Text->empty()) return FokusSetzen(Pnrvon);
   if (Pnrbis.Text->empty()) Pnrbis.Text = *Pnrvon.Text;
+  if (!Zeilen.OffeneZeileSchreiben()) return;
   const int Anzahl = StreifenAufnehmen(std::fabs(Grenze));
   StatusHilfeSetzen(std::to_string(Anzahl) + " Punkte im Streifen");
   FokusSetzen(Zeilen.Zellen);

@@ -74,9 +74,10 @@ int TVPolelForm::StapelAnschluss() {
   double AnfWert = 0, EndWert = 0;
   const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
   if (Ergebnis < 0) return Ergebnis;
+  if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
   Anschluss::MesswertSetzen(Orientierung, AnfWert);
   Anschluss::MesswertSetzen(Strecke, EndWert);
-  return Kopf.AusStapel(AnfPnr, EndPnr) < 0 ? -1 : Zeilen.AnschlussEinzel();
+  return Zeilen.AnschlussEinzel();
 }
 
 }  // namespace tavorena

@@ -190,7 +190,7 @@ TEST_F(BlattTest, UngültigeEingabenHaltenDenFokus) {
   }
 }
 
-TEST_F(BlattTest, NummerOhnePunktIstNichtsZuSchreiben) {
+TEST_F(BlattTest, NummerOhnePunktBleibtOffen) {
   auto B = Verbinde("24.40");
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelGitter", "+");  // the number entered last was 1002
@@ -198,8 +198,79 @@ TEST_F(BlattTest, NummerOhnePunktIstNichtsZuSchreiben) {
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Tippe(*B, "LinelGitter", "\n");
   EXPECT_EQ(G.Inhalt(0, 3), "");
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
+  Skript.Formulare.push_back(Bediene({{"EinzelRechts", "3500000\n5600000\n\n\n"}}));
   Drücke(*B, "LinelEnd");
-  EXPECT_FALSE(DateiVorhanden(StapelDatei.Name));
+  EXPECT_EQ(Anzahl(Stapeltext(), "NR      1003\r\n"), 1);
+}
+
+// What was measured between other points does not belong to the new ones.
+TEST_F(BlattTest, AndererAnschlusspunktLöschtDieMessung) {
+  auto B = Öffne("24.40");
+  Tippe(*B, "LinelAnfPnr", "1001\n1002\n5\n104.9");
+  Tippe(*B, "LinelEndPnr", "1002\n");  // the same again
+  EXPECT_EQ(*Feld(*B, "LinelEndmass").Text, "104.900");
+  Tippe(*B, "LinelEndPnr", "2005\n");
+  EXPECT_EQ(*Feld(*B, "LinelAnlegemass").Text, "0.000");
+  EXPECT_EQ(*Feld(*B, "LinelEndmass").Text, "0.000");
+}
+
+TEST_F(BlattTest, ZuGroßerMesswertWirdAbgelehnt) {
+  auto B = Öffne("24.40");
+  Tippe(*B, "LinelAnfPnr", "1001\n1002\n12345678.9\n");
+  EXPECT_EQ(B->Fokus()->Name, "LinelAnlegemass");
+  EXPECT_TRUE(Feld(*B, "LinelAnlegemass").Fehlerhaft);
+  EXPECT_NE(Skript.Status[4].find("9999999.9999"), std::string::npos);
+  Tippe(*B, "LinelAnlegemass", "-999999.9999\n");
+  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
+}
+
+// The answer to a taken number moves the end point of the open connection: the rows behind it stand below
+// the connection as it is now.
+TEST_F(BlattTest, BewegterAnschlussBeginntEinenBlock) {
+  auto B = Verbinde("24.40");
+  Tippe(*B, "LinelGitter", "2003\n");
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) {
+    return Konfliktantwort{Konfliktwort::AltenErsetzen, ""};
+  };
+  Wert Pnr("1002");
+  NeupunktErgebnis E;
+  ASSERT_EQ(Neupunkt(Pnr, 3500220, 5600360, 0.0, "", nullptr, E), NeupunktCode::AlterErsetzt);
+  Tippe(*B, "LinelGitter", "2004\n");
+  EXPECT_EQ(*Feld(*B, "LinelEndRechts").Text, "3500220.000");
+  EXPECT_EQ(*Feld(*B, "LinelL").Text, "200.000");
+  EXPECT_EQ(Anzahl(Stapeltext(), "M  VR 24.40"), 2);
+  EXPECT_EQ(Anzahl(Protokoll(), "      3500220.000  5600360.000      200.000                   1002      PE"),
+            1);
+  Tippe(*B, "LinelGitter", "2005\n");
+  EXPECT_EQ(Anzahl(Stapeltext(), "M  VR 24.40"), 2);
+}
+
+TEST_F(BlattTest, NeueProtokolldateiBekommtKopfUndAnschluss) {
+  auto B = Verbinde("24.40");
+  Tippe(*B, "LinelGitter", "2003\n");
+  ProtokollNehmen(Ordner.Pfad("b.dru"));
+  Tippe(*B, "LinelGitter", "2004\n");
+  EXPECT_EQ(Anzahl(Protokoll(), "|VR 24.40"), 1);
+  EXPECT_EQ(Anzahl(Protokoll(), "1002      PE"), 1);
+}
+
+TEST_F(BlattTest, GleicheNummerZeigtDieZeileWieder) {
+  auto B = Verbinde("24.40");
+  Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelGitter", "2003\n2004\n");
+  for (const bool MitReturn : {true, false}) {
+    B->ZelleWechseln(G, 0, 0);
+    B->Tippen(G, "2003");
+    EXPECT_EQ(G.Inhalt(0, 3), "");
+    if (MitReturn) {
+      Tippe(*B, "LinelGitter", "\n");
+    } else {
+      B->ZelleWechseln(G, 1, 0);
+    }
+    EXPECT_EQ(G.Inhalt(0, 3), "42.000") << MitReturn;
+  }
+  EXPECT_EQ(Anzahl(Stapeltext(), "NR      2003"), 1);
 }
 
 TEST_F(BlattTest, BerichtigteZeilenWerdenGestrichen) {
@@ -244,11 +315,13 @@ TEST_F(BlattTest, VerlassenFragtNachOffenem) {
 TEST_F(BlattTest, StreifenNimmtDiePunkteDesBereichs) {
   auto B = Verbinde("24.40");
   const Gitter& G = Gitterfeld(*B);
+  Tippe(*B, "LinelGitter", "1001");  // typed and not confirmed: it comes first
   Tippe(*B, "LinelPnrvon", "2000\n2999\n10\n");
-  EXPECT_EQ(G.Inhalt(0, 0), "2003");
-  EXPECT_EQ(G.Inhalt(1, 0), "2005");  // 2004 is 45 m off
+  EXPECT_EQ(G.Inhalt(0, 0), "1001");
+  EXPECT_EQ(G.Inhalt(1, 0), "2003");
+  EXPECT_EQ(G.Inhalt(2, 0), "2005");  // 2004 is 45 m off
   Tippe(*B, "LinelPnrvon", "2000\n2999\n0\n");
-  EXPECT_EQ(G.Zeilen(), 6);
+  EXPECT_EQ(G.Zeilen(), 7);
 }
 
 TEST_F(BlattTest, JedesBlattHatSeinenPlan) {
