@@ -28,8 +28,7 @@ extern const std::vector<double>&KorRechts, &KorHoch, &KorHoehe;
 extern const std::vector<std::string>& KorSymbol;
 extern const std::vector<KorInfoSatz>& KorInfo;
 extern const bool& KoordinatenGeaendert;  ///< the table differs from the file
-extern const std::uint64_t&
-    KorStand;  ///< raised by every change: who keeps a picture of the table compares it
+extern const std::uint64_t& KorStand;     ///< raised by every change: for who keeps a picture of the table
 
 /// The point number of a row.
 const std::string& KorPnr(int Zeile);
@@ -162,8 +161,7 @@ struct NeupunktErgebnis {
   double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
   std::string Pnr;                        ///< number under which the result now stands
   double Rechts = 0, Hoch = 0;
-  std::string
-      AlterPnr;  ///< AlterNeunum: new number of the old point; NeuerNeunum: the number asked for first
+  std::string AlterPnr;  ///< new number of the old point; with NeuerNeunum the number asked for first
 };
 
 /// Stores a calculated point. A taken number is asked about, see Konfliktantwort.
@@ -194,6 +192,7 @@ enum class Konfliktwort {
   Nochmal,         ///< RÜC: ask again
 };
 
+/// What the surveyor answers.
 struct Konfliktantwort {
   Konfliktwort Wort = Konfliktwort::Abbrechen;
   std::string NeuePnr;
@@ -213,8 +212,8 @@ enum class KorTat { Setzen, Erweitern, Einschieben, Streichen, Ordnen, Abbilden 
 struct KorÄnderung {
   KorTat Tat;
   int Von, Bis;
-  std::span<const int>
-      Folge;  ///< Ordnen: the present row of what comes to each row; empty if a number changes too
+  /// Ordnen: the present row of what comes to each row. Empty where numbers change on the way, and otherwise.
+  std::span<const int> Folge;
 };
 
 /// What the table needs from above. Unplugged hooks answer as a break-off and do nothing.

@@ -123,8 +123,8 @@ TEST_F(Punkttabelle, SiebenAntworten) {
     EXPECT_EQ(static_cast<int>(Neupunkt(Pnr, 104, 196, 12.5, "020", nullptr, E)), f.Code);
     EXPECT_EQ(Reihe(Gefragt, Gemittelt, E.DeltaRechts, E.DeltaHoch), f.Code == 2 ? "2|1|4|-4" : "2|0|4|-4");
     EXPECT_EQ(Reihe(KorAnzahl, Pnr.Text(), E.Rechts, E.AlterPnr), f.Soll);
-    const auto z = static_cast<std::size_t>(KorSuche(Wert("5")));
-    EXPECT_EQ(Reihe(KorRechts[z], KorHoehe[z], KorSymbol[z]), f.Zeile);
+    const KorSatz S = KorPunkt(KorSuche(Wert("5")));
+    EXPECT_EQ(Reihe(S.Rechts, S.Hoehe, S.Symbol), f.Zeile);
   }
 }
 
@@ -180,100 +180,72 @@ TEST_F(Punkttabelle, LöschenUndEinfuegen) {
   EXPECT_EQ(Reihe(KorSuche(Wert("6")), Skript.Status[1]), "3|4 Punkte");
 }
 
-struct Tabellenzeile {
-  std::string Pnr, Symbol;
-  double Rechts, Hoch, Hoehe;
-  KorInfoSatz Info;
-  bool operator==(const Tabellenzeile&) const = default;
-};
-using Tabellenbild = std::vector<Tabellenzeile>;
+using Zeilen = std::vector<std::tuple<std::string, double, double, double, std::string, KorInfoSatz>>;
 
-Tabellenbild Zeilen(int Von, int Bis) {
-  Tabellenbild Bild;
-  for (int z = Von; z < std::min(Bis, KorAnzahl); ++z) {
-    const KorSatz S = KorPunkt(z);
-    Bild.push_back({std::string(S.Pnr), std::string(S.Symbol), S.Rechts, S.Hoch, S.Hoehe, *S.Info});
+Zeilen Bild(int Von, int Bis) {
+  Zeilen Z;
+  for (; Von < std::min(Bis, KorAnzahl); ++Von) {
+    const KorSatz S = KorPunkt(Von);
+    Z.emplace_back(S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol, *S.Info);
   }
-  return Bild;
+  return Z;
 }
 
-// A listener that knows no operation. It keeps the rows that a change may touch, and takes changes back.
-class Mitschrift {
- public:
-  Mitschrift() {
-    Haken.VorÄnderung = [this](const KorÄnderung& Neu) {
-      OrdnungPrüfen();
-      Schritte.push_back({KorAnzahl, Neu.Von, Zeilen(Neu.Von, Neu.Bis)});
-      for (const int Zeile : Neu.Folge) Geordnet.push_back(Zeilen(Zeile, Zeile + 1).front());
-    };
-  }
-  // A sort that told its order has led to it.
-  void OrdnungPrüfen() {
-    const Tabellenbild Soll = std::exchange(Geordnet, {});
-    EXPECT_TRUE(Soll.empty() || Soll == Zeilen(0, KorAnzahl));
-  }
-  void ZurückAuf(std::size_t Stand) {
-    Haken.VorÄnderung = {};
-    for (; Schritte.size() > Stand; Schritte.pop_back()) {
-      KorAbschneiden(Schritte.back().Anzahl);
-      int z = Schritte.back().Von;
-      for (const Tabellenzeile& Z : Schritte.back().Alte) {
-        const KorSatz Satz{Z.Pnr, Z.Rechts, Z.Hoch, Z.Hoehe, Z.Symbol, &Z.Info};
-        ASSERT_EQ(z < KorAnzahl ? KorZeileSetzen(z, Satz) : KorAnhängen(Satz), 0);
-        ++z;
-      }
+// What a listener keeps that knows no operation: the rows that a change may touch. Ganz is for the test.
+struct Schritt {
+  int Anzahl, z;
+  Zeilen Alte, Ganz;
+  void Zurücknehmen() {
+    KorAbschneiden(Anzahl);
+    for (const auto& [Pnr, R, H, Hoehe, Symbol, Info] : Alte) {
+      const KorSatz S{Pnr, R, H, Hoehe, Symbol, &Info};
+      ASSERT_EQ(z < KorAnzahl ? KorZeileSetzen(z, S) : KorAnhängen(S), 0);
+      ++z;
     }
   }
-  struct Schritt {
-    int Anzahl, Von;
-    Tabellenbild Alte;
-  };
-  std::vector<Schritt> Schritte;
-
- private:
-  Tabellenbild Geordnet;
 };
 
 TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
   std::mt19937 Zufall(11);
   const auto Eine = [&](int Bis) { return static_cast<int>(Zufall() % static_cast<unsigned>(Bis)); };
+  const auto Pnr = [&] { return Zufallsnummer(Zufall, Eine(5)); };
   const std::string Datei = Ordner.Pfad("dazu.kor");
   PortsSetzen({});  // what is asked and told on the way does not matter here
   Haken.PunktVorhandenBehandeln = [&](const Konflikt&) {
-    return Konfliktantwort{static_cast<Konfliktwort>(Eine(6)), std::to_string(Eine(90))};
+    return Konfliktantwort{static_cast<Konfliktwort>(Eine(6)), Pnr()};
   };
-  int Art = 0;
-  const std::function<void()> Taten[] = {
-      [&] {
-        Wert Pnr(Zufallsnummer(Zufall, 1 + Art % 4));
-        NeupunktErgebnis E;
-        static_cast<void>(Neupunkt(Pnr, Eine(99), Eine(99), Eine(99), "neu", nullptr, E));
-      },
-      [&] { static_cast<void>(KorLoeschen(Eine(40))); },
-      [&] { KorBereichLoeschen(Eine(40), Eine(40)); },
-      [&] { KorEinfuegen(Eine(40), Zufallsnummer(Zufall, Art % 5), 1, 2, 3, "ein", {}); },
-      [&] { KorVerschieben(Eine(9), 2, 3, 1, 0, 1, Eine(4)); },
-      [&] { KorSortieren(); },
-      [&] { KorAbschneiden(Eine(80)); },
-      [&] {
-        Schreibe(Datei,
-                 Zufallsnummer(Zufall, Art % 5) + " 1.0 2 3 x\r\n" + std::to_string(Eine(99)) + " 4.0 5\r\n");
-        static_cast<void>(KorLesen(Datei, static_cast<Lesemodus>(Eine(3) - 1), Dateiformat::Kor));
-      }};
-  for (; Art < 20; ++Art) {
+  for (int Lauf = 0; Lauf < 20; ++Lauf) {
     KorLeeren();
-    Mitschrift M;
-    std::vector<std::pair<std::size_t, Tabellenbild>> Bilder;
-    for (int i = 0; i < 60; ++i) {
-      Bilder.emplace_back(M.Schritte.size(), Zeilen(0, KorAnzahl));
-      const std::uint64_t Stand = KorStand;
-      Taten[i < 20 ? 0 : Eine(8)]();
-      M.OrdnungPrüfen();
-      ASSERT_EQ(KorStand - Stand, M.Schritte.size() - Bilder.back().first);
+    std::vector<Schritt> Schritte;
+    Zeilen Geordnet;  // as the sort has told it
+    Haken.VorÄnderung = [&](const KorÄnderung& Neu) {
+      Schritte.push_back({KorAnzahl, Neu.Von, Bild(Neu.Von, Neu.Bis), Bild(0, KorAnzahl)});
+      Geordnet.clear();
+      for (const int z : Neu.Folge) Geordnet.push_back(Bild(z, z + 1).front());
+    };
+    for (std::size_t i = 0; i < 60; ++i) {
+      const std::uint64_t Stand = KorStand - Schritte.size();
+      const int Tat = i < 20 ? 7 : Eine(9);
+      Wert Neu(Pnr());
+      NeupunktErgebnis E;
+      if (Tat == 0) static_cast<void>(KorLoeschen(Eine(40)));
+      if (Tat == 1) KorBereichLoeschen(Eine(40), Eine(40));
+      if (Tat == 2) KorEinfuegen(Eine(40), Neu, 1, 2, 3, "ein", {});
+      if (Tat == 3) KorVerschieben(Eine(9), 2, 3, 1, 0, 1, Eine(4));
+      if (Tat == 4) KorSortieren();
+      if (Tat == 5) KorAbschneiden(Eine(80));
+      if (Tat == 6) {
+        Schreibe(Datei, Pnr() + " 1.0 2 3 x\r\n" + Pnr() + " 4.0 5\r\n");
+        static_cast<void>(KorLesen(Datei, static_cast<Lesemodus>(Eine(3) - 1), Dateiformat::Kor));
+      }
+      if (Tat > 6) static_cast<void>(Neupunkt(Neu, Eine(99), Eine(99), Eine(99), "neu", nullptr, E));
+      ASSERT_EQ(KorStand, Stand + Schritte.size());
+      ASSERT_TRUE(Geordnet.empty() || std::exchange(Geordnet, {}) == Bild(0, KorAnzahl));
     }
-    for (; !Bilder.empty(); Bilder.pop_back()) {
-      M.ZurückAuf(Bilder.back().first);
-      ASSERT_EQ(Zeilen(0, KorAnzahl), Bilder.back().second) << Art << ' ' << Bilder.size();
+    Haken.VorÄnderung = {};
+    for (; !Schritte.empty(); Schritte.pop_back()) {
+      Schritte.back().Zurücknehmen();
+      ASSERT_EQ(Bild(0, KorAnzahl), Schritte.back().Ganz) << Lauf << ' ' << Schritte.size();
     }
   }
 }

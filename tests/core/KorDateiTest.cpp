@@ -21,8 +21,8 @@ class KorDatei : public TabellenTest {
   }
   // A row of the table: number, Rechts, height and symbol.
   static std::string Punktzeile(int Zeile) {
-    const auto z = static_cast<std::size_t>(Zeile);
-    return Reihe(KorPnr(Zeile), KorRechts[z], KorHoehe[z], KorSymbol[z]);
+    const KorSatz S = KorPunkt(Zeile);
+    return Reihe(S.Pnr, S.Rechts, S.Hoehe, S.Symbol);
   }
   static std::string Zeilen(int Anzahl, int Ab = 1) {
     std::string Text, Zeile;

@@ -53,7 +53,7 @@ TEST_F(TVPDoppFormTest, RückgängigZeigtNeuUndAntwortenWirken) {
   EXPECT_EQ(Pnr, Wert("77"));
   Pnr = Wert("5");
   EXPECT_EQ(Rechne(Bediene({{"AlterPunktPnr", "8"}, {"PDoppAltenNeunum", ""}})), 3);
-  EXPECT_EQ(KorRechts[static_cast<std::size_t>(KorSuche(Wert("8")))], 100);
+  EXPECT_EQ(KorPunkt(KorSuche(Wert("8"))).Rechts, 100);
   EXPECT_EQ(Rechne(Bediene({{"PDoppNeuenLöschen", ""}})), 11);
   EXPECT_EQ(Rechne(Bediene({{"PDoppMitteln", ""}})), 2);
   EXPECT_EQ(Rechne(Bediene({{"PDoppAltenLöschen", ""}})), 1);
