@@ -107,6 +107,7 @@ void Hauptfenster::MenüsBauen() {
       A = Eltern->addSeparator();
     } else if (IstMenü) {
       QMenu* M = Eltern == nullptr ? menuBar()->addMenu(E.Titel) : Eltern->addMenu(E.Titel);
+      M->setToolTipsVisible(true);
       Menüs[E.Name] = M;
       A = M->menuAction();
     } else {
@@ -116,6 +117,7 @@ void Hauptfenster::MenüsBauen() {
     }
     A->setObjectName(E.Name);
     A->setStatusTip(QString());
+    connect(A, &QAction::hovered, this, [&E] { StatusHilfeSetzen(std::string(Kern().Grund(E))); });
     Einträge[&E] = A;
   }
 }
@@ -131,7 +133,7 @@ void Hauptfenster::SymbolleisteBauen() {
     QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis).trimmed());
     A->setObjectName(W.Name);
     connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusführen(W); });
-    connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(W.Hinweis); });
+    connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(Kern().Hinweis(W)); });
     Bilder.emplace_back(&W, A);
   }
 }
@@ -200,8 +202,13 @@ void Hauptfenster::Auffrischen() {
     if (!Kern().Aktiv(*E)) Titel.remove('&');
     A->setEnabled(Kern().Aktiv(*E));
     A->setText(Titel);
+    const std::string_view Grund = Kern().Grund(*E);
+    A->setToolTip(QString::fromUtf8(Grund.data(), static_cast<qsizetype>(Grund.size())));
   }
-  for (const auto& [W, A] : Bilder) A->setEnabled(Kern().WerkzeugAktiv(*W));
+  for (const auto& [W, A] : Bilder) {
+    A->setEnabled(Kern().WerkzeugAktiv(*W));
+    A->setToolTip(QString::fromStdString(Kern().Hinweis(*W)));
+  }
   ProtokollZeigen();
 }
 

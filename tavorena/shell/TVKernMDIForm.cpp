@@ -4,6 +4,7 @@
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
@@ -18,6 +19,9 @@ int IndexVon(std::string_view Name) {
   const std::size_t Klammer = Name.find('(');
   return Klammer == std::string_view::npos ? 0 : static_cast<int>(ZahlAusText(Name.substr(Klammer + 1)));
 }
+
+constexpr std::string_view OhneDatei = "keine Koordinatendatei offen";
+constexpr std::string_view Fehlt = "noch nicht vorhanden";
 
 bool IstHist(const Menüeintrag& E) { return std::string_view(E.Name).starts_with("MenüDateiHist("); }
 
@@ -63,18 +67,24 @@ bool TVKernMDIForm::Sichtbar(const Menüeintrag& E) const {
   return !E.Verborgen;
 }
 
-bool TVKernMDIForm::Aktiv(const Menüeintrag& E) const {
+std::string_view TVKernMDIForm::Grund(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
-  if (Lang) return false;
-  if (Name.starts_with("MenüMain("))
-    return Offen || !IstEinerVon(Name, {"MenüMain(2)", "MenüMain(3)", "MenüMain(4)"});
-  if (IstHist(E)) return !Offen && HistIndex(IndexVon(Name)) >= 0;
-  const Befehl* B = BefehlFinden(Name);
-  if (B != nullptr) return Offen || !B->MitDatei;
-  // A submenu can be opened when one of its entries can be used.
-  const auto Baum = Menübaum();
-  return std::any_of(Baum.begin(), Baum.end(),
-                     [&](const Menüeintrag& U) { return U.Eltern == Name && Sichtbar(U) && Aktiv(U); });
+  if (Lang) return "langer Lauf";
+  if (Name.starts_with("MenüMain(")) {
+    return Offen || !IstEinerVon(Name, {"MenüMain(2)", "MenüMain(3)", "MenüMain(4)"}) ? "" : OhneDatei;
+  }
+  if (IstHist(E))
+    return HistIndex(IndexVon(Name)) < 0 ? "kein Eintrag" : Offen ? "Koordinatendatei offen" : "";
+  if (const Befehl* B = BefehlFinden(Name)) return Offen || !B->MitDatei ? "" : OhneDatei;
+  // A submenu can be opened when one of its entries can be used; else what helps most is told.
+  std::string_view Warum = Fehlt;
+  for (const Menüeintrag& U : Menübaum()) {
+    if (U.Eltern != Name || !Sichtbar(U)) continue;
+    const std::string_view G = Grund(U);
+    if (G.empty() || G == OhneDatei) Warum = G;
+    if (G.empty()) break;
+  }
+  return Warum;
 }
 
 std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
@@ -83,12 +93,18 @@ std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
   return i >= 0 ? Historie[static_cast<std::size_t>(i)].Dateiname : "";
 }
 
-bool TVKernMDIForm::WerkzeugAktiv(const Werkzeug& W) const {
-  if (std::string_view(W.Name) == "ImageStop") return Lang;
+std::string_view TVKernMDIForm::Grund(const Werkzeug& W) const {
+  if (std::string_view(W.Name) == "ImageStop") return Lang ? "" : "kein langer Lauf";
   if (BlätterOffen() && IstEinerVon(W.Name, {"ImageProgrammende", "ImageDateiLesen", "ImageOptionen"}))
-    return false;
+    return "Rechenblatt offen";
   const Menüeintrag* E = MenüFinden(W.Eintrag);
-  return E != nullptr && Aktiv(*E);
+  return E != nullptr ? Grund(*E) : Fehlt;
+}
+
+std::string TVKernMDIForm::Hinweis(const Werkzeug& W) const {
+  const std::string_view Warum = Grund(W);
+  if (Warum.empty()) return W.Hinweis;
+  return std::string(TrimmenSicht(W.Hinweis)) + " (" + std::string(Warum) + ")";
 }
 
 int TVKernMDIForm::Hilfe(const Menüeintrag& E) const {

@@ -26,9 +26,17 @@ class TVKernMDIForm {
 
   // ---- what the window shows
   [[nodiscard]] bool Sichtbar(const Menüeintrag& E) const;
-  [[nodiscard]] bool Aktiv(const Menüeintrag& E) const;
+  /// @{
+  /// Why an entry or an image can not be used, in words for the user; "" if it can. Menus, tool tips, the
+  /// help text of the status bar and the console all tell this one.
+  [[nodiscard]] std::string_view Grund(const Menüeintrag& E) const;
+  [[nodiscard]] std::string_view Grund(const Werkzeug& W) const;
+  /// @}
+  [[nodiscard]] bool Aktiv(const Menüeintrag& E) const { return Grund(E).empty(); }
   [[nodiscard]] std::string Titel(const Menüeintrag& E) const;
-  [[nodiscard]] bool WerkzeugAktiv(const Werkzeug& W) const;
+  [[nodiscard]] bool WerkzeugAktiv(const Werkzeug& W) const { return Grund(W).empty(); }
+  /// Tool tip and help text of an image, with the reason why it can not be used.
+  [[nodiscard]] std::string Hinweis(const Werkzeug& W) const;
   /// Help number of an entry; that of its menu where it has none.
   [[nodiscard]] int Hilfe(const Menüeintrag& E) const;
 

@@ -64,6 +64,19 @@ TEST_F(Haupt, Menüzustände) {
   }
 }
 
+TEST_F(Haupt, GrundDerSperre) {
+  EXPECT_TRUE(Gleich(Grund("MenüKatasterLinel"), "keine Koordinatendatei offen",  //
+                     Grund("MenüDateiHinzuLesen"), "keine Koordinatendatei offen",
+                     Grund("MenüDateiDruckenMain"), "noch nicht vorhanden", Grund("MenüDateiHist(1)"),
+                     "kein Eintrag"));
+  Öffne();
+  Optionen.AbfrageRiss = false;
+  Befehl("MenüKatasterPolel");
+  const TVKernMDIForm& Kern = TVKernMDIForm::Fenster();
+  EXPECT_TRUE(Gleich(Kern.Hinweis(Symbolleiste()[1]), "Koordinatendatei öffnen (Rechenblatt offen)",
+                     Kern.Hinweis(Symbolleiste()[8]), "Linienelemente"));
+}
+
 TEST_F(HauptOffen, OffenesBlattSperrtBilder) {
   Optionen.AbfrageRiss = false;
   for (const bool Blatt : {false, true}) {

@@ -48,6 +48,9 @@ class Shelltest : public TabellenTest {
     Skript.Formulare.push_back(Bediene({{"Knopf(" + std::to_string(Nummer) + ")", ""}}));
   }
   static bool Aktiv(const char* Name) { return TVKernMDIForm::Fenster().Aktiv(*MenüFinden(Name)); }
+  static std::string_view Grund(const char* Name) {
+    return TVKernMDIForm::Fenster().Grund(*MenüFinden(Name));
+  }
   static bool Sichtbar(const char* Name) { return TVKernMDIForm::Fenster().Sichtbar(*MenüFinden(Name)); }
   static bool BildAktiv(const std::string& Name) {
     for (const Werkzeug& W : Symbolleiste()) {
