@@ -6,7 +6,8 @@
 
 namespace tavorena {
 
-int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::string& /*Titel*/) {
+int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::string& /*Titel*/,
+                              int /*Vorgabe*/) {
   if (Art != Knöpfe::OK) Ohne(Text);
   if (Art == Knöpfe::OK) Ziel << Text << '\n';
   return Art == Knöpfe::OK ? 1 : KnopfAbbruch;

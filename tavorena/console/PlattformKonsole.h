@@ -14,7 +14,7 @@ class PlattformKonsole final : public Rückfragen, public Anzeige, public Umgebu
   PlattformKonsole(std::ostream& Meldungsziel, std::string Ordner)
       : Ziel(Meldungsziel), Programm(std::move(Ordner)) {}
 
-  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel) override;
+  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string ProgrammOrdner() override { return Programm; }
 

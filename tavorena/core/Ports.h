@@ -29,8 +29,10 @@ struct Dateiauftrag {
 class Rückfragen {
  public:
   virtual ~Rückfragen() = default;
-  /// Message box. @return the code of the button; 1 for OK
-  virtual int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/) {
+  /// Message box. @param[in] Vorgabe  code of the default button; 0 the first one
+  /// @return the code of the button; 1 for OK
+  virtual int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/,
+                      int /*Vorgabe*/ = 0) {
     return KnopfAbbruch;
   }
   /// File dialog. @return the chosen name; "" if cancelled

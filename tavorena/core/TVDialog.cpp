@@ -32,12 +32,12 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
 
 int Dialogergebnis = 0;
 
-int FrageJaNeinAbbruch(const std::string& Text) {
-  return FragenPort().Meldung(Text, Knöpfe::JaNeinAbbruch, "Tavorena");
+int FrageJaNeinAbbruch(const std::string& Text, int Vorgabe) {
+  return FragenPort().Meldung(Text, Knöpfe::JaNeinAbbruch, "Tavorena", Vorgabe);
 }
 
-int FrageJaNein(const std::string& Text, const std::string& Titel) {
-  return FragenPort().Meldung(Text, Knöpfe::JaNein, Titel);
+int FrageJaNein(const std::string& Text, const std::string& Titel, int Vorgabe) {
+  return FragenPort().Meldung(Text, Knöpfe::JaNein, Titel, Vorgabe);
 }
 
 void Hinweis(const std::string& Text, const std::string& Titel) {

@@ -10,10 +10,11 @@ namespace tavorena {
 /// Result of the last modal dialog: 0 or higher go on, -1 cancelled.
 extern int Dialogergebnis;
 
-/// @return the button code: 6 Ja, 7 Nein, 2 Abbruch
-[[nodiscard]] int FrageJaNeinAbbruch(const std::string& Text);
-/// @return the button code: 6 Ja, 7 Nein
-[[nodiscard]] int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena");
+/// @return the button code: 6 Ja, 7 Nein, 2 Abbruch; Vorgabe is that of the default button, 0 the first
+[[nodiscard]] int FrageJaNeinAbbruch(const std::string& Text, int Vorgabe = 0);
+/// @return the button code: 6 Ja, 7 Nein; Vorgabe is that of the default button, 0 the first. A question that
+/// stands on "Nein" warns of a loss: the console takes it on with --trotzdem alone.
+[[nodiscard]] int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena", int Vorgabe = 0);
 void Hinweis(const std::string& Text, const std::string& Titel = "Tavorena");
 void FehlerMeldung(const std::string& Text);
 void DateiendeMeldung(const std::string& Datei);

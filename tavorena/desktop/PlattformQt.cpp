@@ -78,7 +78,7 @@ QMessageBox::Icon Bild(Knöpfe Art, const std::string& Titel) {
 
 }  // namespace
 
-int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel) {
+int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) {
   QMessageBox Kasten(Bild(Art, Titel), Q(Titel), Q(Text), QMessageBox::NoButton,
                      QApplication::activeWindow());
   Kasten.setTextFormat(Qt::PlainText);
@@ -89,9 +89,9 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
   }
   QPushButton* Ja = Kasten.addButton("&Ja", QMessageBox::YesRole);
   QPushButton* Nein = Kasten.addButton("&Nein", QMessageBox::NoRole);
-  Kasten.setDefaultButton(Ja);
   QPushButton* Zurück = Nein;
   if (Art == Knöpfe::JaNeinAbbruch) Zurück = Kasten.addButton("&Abbrechen", QMessageBox::RejectRole);
+  Kasten.setDefaultButton(Vorgabe == KnopfNein ? Nein : Vorgabe == KnopfAbbruch ? Zurück : Ja);
   Kasten.setEscapeButton(Zurück);
   Kasten.exec();
   if (Kasten.clickedButton() == Ja) return KnopfJa;

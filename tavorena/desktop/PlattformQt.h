@@ -11,7 +11,7 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
  public:
   explicit PlattformQt(Hauptfenster& Haupt) : Fenster(Haupt) {}
 
-  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel) override;
+  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override;

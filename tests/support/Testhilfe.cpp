@@ -75,7 +75,8 @@ PlattformSkript::~PlattformSkript() {
   EXPECT_TRUE(Formulare.empty()) << "a modal form was not shown";
 }
 
-int PlattformSkript::Meldung(const std::string& Text, Knöpfe /*Art*/, const std::string& Überschrift) {
+int PlattformSkript::Meldung(const std::string& Text, Knöpfe /*Art*/, const std::string& Überschrift,
+                             int /*Vorgabe*/) {
   BeiMeldung(Text);
   Titel.push_back(Überschrift);
   const auto [Stück, Antwort] = Nehmen(Offen, "message: " + Text);

@@ -69,7 +69,7 @@ class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf,
   PlattformSkript(const PlattformSkript&) = delete;
   PlattformSkript& operator=(const PlattformSkript&) = delete;
 
-  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Überschrift) override;
+  int Meldung(const std::string& Text, Knöpfe Art, const std::string& Überschrift, int Vorgabe) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override { BeiEreignissen(); }
