@@ -1,5 +1,6 @@
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Text.h>
 
 namespace tavorena {
 namespace {
@@ -48,7 +49,7 @@ void FehlerMeldung(const std::string& Text) { Hinweis("Fehler aufgetreten:\n" + 
 
 void DateiendeMeldung(const std::string& Datei) { Hinweis("Unerwartetes Dateiende in:\n" + Datei); }
 
-void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Pnr + "schon vorhanden !"); }
+void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Zitat(Pnr) + "schon vorhanden !"); }
 
 void StatusHilfeSetzen(const std::string& Text) {
   AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");

@@ -110,6 +110,33 @@ std::string Großtext(std::string_view Text) {
   return Gross;
 }
 
+std::string Sichtbar(std::string_view Text) {
+  std::string Gezeigt;
+  Gezeigt.reserve(Text.size());
+  for (std::size_t i = 0; i < Text.size(); ++i) {
+    const auto z = static_cast<unsigned char>(Text[i]);
+    const unsigned Folge = i + 1 < Text.size() ? static_cast<unsigned char>(Text[i + 1]) : 0U;
+    if (z < 0x20) {  // U+2400 and on
+      Gezeigt += "\xE2\x90";
+      Gezeigt += static_cast<char>(0x80U + z);
+    } else if (z == 0x7F) {
+      Gezeigt += "\xE2\x90\xA1";
+    } else if (z == 0xC2 && Folge >= 0x80 && Folge < 0xA0) {  // U+0080 to U+009F have no pictures
+      Gezeigt += "\xEF\xBF\xBD";
+      ++i;
+    } else {
+      Gezeigt += Text[i];
+    }
+  }
+  return Gezeigt;
+}
+
+std::string Zitat(std::string_view Pnr) {
+  constexpr std::size_t Grenze = 40;
+  const std::string_view Kurz = TextTeil(Pnr, 0, Grenze);
+  return std::string(Kurz) + (Kurz.size() < Pnr.size() ? "…" : "");
+}
+
 std::string_view Wortnehmen(std::string_view& Zeile) {
   // Plain loops: tokens are short, and this is where the reading of a large file spends its time.
   const auto IstTrenner = [](char z) { return z == ' ' || z == '\t' || z == '\0'; };

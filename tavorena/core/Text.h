@@ -61,6 +61,14 @@ int ZeichenKlasse(int Zeichencode);
 /// Upper case of the letters a to z and of the umlauts; ß stays.
 std::string Großtext(std::string_view Text);
 
+/// Text that comes from a file, for a terminal: each control character, line ends too, is shown as its
+/// picture
+/// ("␛" for escape) and does nothing.
+std::string Sichtbar(std::string_view Text);
+
+/// A point number for a message: cut after 40 characters, with "…" behind it.
+std::string Zitat(std::string_view Pnr);
+
 /// Next token of a line. Blank, tab and code 0 separate; a carriage return ends the token and the
 /// skipping of separators too, so that it can not merge two lines. Zeile is advanced behind the token.
 std::string_view Wortnehmen(std::string_view& Zeile);

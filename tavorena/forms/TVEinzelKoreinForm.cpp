@@ -13,7 +13,7 @@ namespace {
 class TVEinzelKoreinForm final : public Dialogform {
  public:
   explicit TVEinzelKoreinForm(const std::string& Nummer)
-      : Dialogform("TVEinzelKoreinForm", "Punkt " + Nummer + " nicht vorhanden") {
+      : Dialogform("TVEinzelKoreinForm", "Punkt " + Zitat(Nummer) + " nicht vorhanden") {
     Hilfenummer = 4010;
     const char* const Namen[] = {"Punktnr.:", "Rechts:", "Hoch:", "Höhe:", "Symbol:"};
     for (int i = 0; i < 5; ++i) BeschriftungAnlegen(Namen[i], {i, 0});

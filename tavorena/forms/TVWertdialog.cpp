@@ -195,12 +195,12 @@ int DateiVorhandenFrage(const std::string& Dateiname) {
 }
 
 int PunktVorhandenFrage(const std::string& Pnr) {
-  const int Knopf = Knopffrage("Punkt schon vorhanden:", Pnr, {"&Weiter", "&Zurück"}, 0);
+  const int Knopf = Knopffrage("Punkt schon vorhanden:", Zitat(Pnr), {"&Weiter", "&Zurück"}, 0);
   return Knopf == 0 ? 0 : 1;
 }
 
 int PunktVorhandenOrientierungFrage(const std::string& Pnr) {
-  const int Knopf = Knopffrage("Punkt schon vorhanden:", Pnr, {"&Orientierung", "&Zurück", "&Abbruch"}, 0);
+  const int Knopf = Knopffrage("Punkt schon vorhanden:", Zitat(Pnr), {"&Orientierung", "&Zurück", "&Abbruch"}, 0);
   return Knopf < 0 ? 2 : Knopf;
 }
 

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
@@ -104,7 +105,7 @@ int Anschluss::AusStapel(const std::string& AnfPnr, const std::string& EndPnr) {
   End.Pnr.Text = EndPnr;
   for (Punktfeld* P : {&Anf, &End}) {
     if (P->Setzen() == 0 && P->Gesetzt()) continue;
-    StapelFehlerMeldung("Anschlußpunkt " + *P->Pnr.Text + " fehlt");
+    StapelFehlerMeldung("Anschlußpunkt " + Zitat(*P->Pnr.Text) + " fehlt");
     return -1;
   }
   return 0;
