@@ -1,3 +1,5 @@
+#include <iostream>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLibraryInfo>
@@ -11,7 +13,71 @@
 
 using namespace tavorena;
 
+namespace {
+
+constexpr const char* Hilfe = R"(Aufruf: tavorena [--hell | --dunkel] [datei.kor]
+
+Vermessungstechnische Berechnungen auf der Koordinatendatei datei.kor.
+
+Optionen:
+  -h, --help   Diese Hilfe
+  --version    Fassung des Programms
+  --hell       Helles Aussehen
+  --dunkel     Dunkles Aussehen; ohne Angabe das des Systems
+
+Rückgabewert: 0 getan; 1 das Fenster kann nicht gezeigt werden; 2 falscher Aufruf.
+)";
+
+// Options that Qt takes for itself.
+const QStringList MitWert = {"display",       "geometry", "platform",        "platformpluginpath",
+                             "platformtheme", "plugin",   "qwindowgeometry", "qwindowicon",
+                             "qwindowtitle",  "session",  "style",           "stylesheet"};
+const QStringList OhneWert = {"reverse", "widgetcount"};
+
+bool MitBildschirm(const QCommandLineParser& Zeile) {
+#ifdef __linux__
+  return Zeile.isSet("platform") || qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+         !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+  static_cast<void>(Zeile);
+  return true;
+#endif
+}
+
+int Aufruffehler(const QString& Text) {
+  std::cerr << "tavorena: " << Text.toStdString() << " (mehr mit --help)\n";
+  return 2;
+}
+
+// Looks at the command line before there is a window: help and faults need no display.
+// @return -1 to go on; else the exit status
+int AufrufLesen(QCommandLineParser& Zeile, const QStringList& Worte) {
+  Zeile.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);  // as Qt writes its own
+  for (const char* Name : {"hell", "dunkel", "version"}) Zeile.addOption(QCommandLineOption(Name));
+  Zeile.addOption(QCommandLineOption(QStringList{"h", "help"}));
+  for (const QString& Name : MitWert) Zeile.addOption(QCommandLineOption(Name, {}, "x"));
+  for (const QString& Name : OhneWert) Zeile.addOption(QCommandLineOption(Name));
+  const bool Gut = Zeile.parse(Worte);
+  const QStringList Unbekannt = Zeile.unknownOptionNames();
+  if (!Unbekannt.isEmpty()) return Aufruffehler("unbekannte Angabe: --" + Unbekannt.first());
+  if (!Gut) return Aufruffehler("falsche Angabe");
+  if (Zeile.positionalArguments().size() > 1)
+    return Aufruffehler("unbekannte Angabe: " + Zeile.positionalArguments().at(1));
+  if (Zeile.isSet("help")) return std::cout << Hilfe, 0;
+  if (Zeile.isSet("version")) return std::cout << "tavorena " TAVORENA_FASSUNG "\n", 0;
+  if (MitBildschirm(Zeile)) return -1;
+  std::cerr << "tavorena: kein Bildschirm; ohne Fenster rechnet tavorena-stapel\n";
+  return 1;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  QStringList Worte;
+  for (int i = 0; i < argc; ++i) Worte << QString::fromLocal8Bit(argv[i]);
+  QCommandLineParser Zeile;
+  if (const int Ende = AufrufLesen(Zeile, Worte); Ende >= 0) return Ende;
+
   QApplication App(argc, argv);
   QApplication::setApplicationName("Tavorena");
   QApplication::setDesktopFileName("tavorena");
@@ -19,18 +85,9 @@ int main(int argc, char** argv) {
   if (Deutsch.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(&Deutsch);
 
-  QCommandLineParser Zeile;
-  Zeile.setApplicationDescription("Vermessungstechnische Berechnungen");
-  const QCommandLineOption Hilfe({"h", "help"}, "Diese Hilfe"), Hell("hell", "Helles Aussehen"),
-      Dunkel("dunkel", "Dunkles Aussehen");
-  Zeile.addOptions({Hilfe, Hell, Dunkel});
-  Zeile.addPositionalArgument("datei", "Koordinatendatei, die geöffnet wird", "[datei.kor]");
-  Zeile.process(App);
-  if (Zeile.isSet(Hilfe)) Zeile.showHelp();
-
-  AussehenSetzen(App, Zeile.isSet(Dunkel) ? Helligkeit::Dunkel
-                      : Zeile.isSet(Hell) ? Helligkeit::Hell
-                                          : Helligkeit::System);
+  AussehenSetzen(App, Zeile.isSet("dunkel") ? Helligkeit::Dunkel
+                      : Zeile.isSet("hell") ? Helligkeit::Hell
+                                            : Helligkeit::System);
   Hauptfenster Fenster;
   PlattformQt Qt(Fenster);
   PortsSetzen(PortsVon(Qt));
