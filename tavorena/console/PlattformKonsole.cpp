@@ -1,16 +1,23 @@
 #include <ostream>
 
 #include <tavorena/console/PlattformKonsole.h>
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/forms/Formular.h>
 #include <tavorena/records/Stapelleser.h>
 
 namespace tavorena {
 
-int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::string& /*Titel*/,
-                              int /*Vorgabe*/) {
-  if (Art != Knöpfe::OK) Ohne(Text);
-  if (Art == Knöpfe::OK) Ziel << Text << '\n';
-  return Art == Knöpfe::OK ? 1 : KnopfAbbruch;
+int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) {
+  if (Art == Knöpfe::OK) {
+    Melden(Text);
+    if (Titel == "Tavorena Fehlermeldung") Fehler = true;
+    return 1;
+  }
+  const bool Warnt = Art == Knöpfe::JaNein && Vorgabe == KnopfNein;
+  if (Warnt && A.Trotzdem) return KnopfJa;
+  Ohne(Warnt ? Text + " (Ja mit --trotzdem)" : Text);
+  return Warnt ? KnopfNein : KnopfAbbruch;
 }
 
 void PlattformKonsole::FormularZeigen(Formular& Form, bool Modal) {
@@ -18,13 +25,36 @@ void PlattformKonsole::FormularZeigen(Formular& Form, bool Modal) {
   Form.Öffnen();
 }
 
-void PlattformKonsole::Ohne(const std::string& Frage) {
-  if (!FrageOffen) {
-    Ziel << "Frage ohne Antwort";
-    if (Stapel.Aktiv) Ziel << " (" << Stapel.Bilanz.Datei << ", Zeile " << Stapel.Zeilennummer << ")";
-    Ziel << ": " << Frage << '\n';
+void PlattformKonsole::Melden(const std::string& Text) {
+  if (Still || !Gesagt.insert(Text).second) return;
+  std::string Datei = AnDatei, Worte;
+  const bool ImStapel = !Datei.empty() && Datei == Stapel.Bilanz.Datei && Stapel.Zeilennummer > 0;
+  const std::string Zeile = "Zeile: " + std::to_string(Stapel.Zeilennummer);
+  Zeilenleser Leser(Text);
+  std::string_view Stück;
+  while (Leser.Nächste(Stück)) {
+    Stück = TrimmenSicht(Stück);
+    if (Stück.empty() || (ImStapel && Stück == Zeile)) continue;
+    if (Stück == A.Koordinaten || Stück == A.Protokoll || Stück == A.Speichern || Stück == A.Datei) {
+      Datei = Stück;
+      Fehler = true;
+    } else {
+      Worte += (Worte.empty() ? "" : " ") + std::string(Stück);
+    }
   }
-  FrageOffen = true;
+  Ziel << Sichtbar(Datei.empty() ? "tavorena-stapel" : Datei);
+  if (ImStapel && Datei == AnDatei) Ziel << ", Zeile " << Stapel.Zeilennummer;
+  Ziel << ": " << Sichtbar(Worte) << '\n';
+  if (Datei == A.Protokoll && !Datei.empty()) Enden();
+}
+
+void PlattformKonsole::Ohne(const std::string& Frage) {
+  Melden("Frage ohne Antwort: " + Frage);
+  Enden();
+}
+
+void PlattformKonsole::Enden() {
+  Fehler = Still = true;
   StapelAnhalten();
 }
 

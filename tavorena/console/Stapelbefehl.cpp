@@ -1,30 +1,30 @@
 #include <map>
 #include <ostream>
 
-#include <tavorena/console/PlattformKonsole.h>
-#include <tavorena/console/Stapelbefehl.h>
-#include <tavorena/core/KorDatei.h>
+#include <tavorena/console/Befehle.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelleser.h>
-#include <tavorena/shell/TVHauptmodul.h>
 
 namespace tavorena {
 namespace {
 
-const std::map<std::string, Konfliktwort> Antworten = {{"abbruch", Konfliktwort::Abbrechen},
-                                                       {"alt-loeschen", Konfliktwort::AltenErsetzen},
-                                                       {"mittel", Konfliktwort::Mitteln},
-                                                       {"neu-loeschen", Konfliktwort::NeuenVerwerfen}};
-
 // A line per block, written when the next one begins.
 class Blockzeilen {
  public:
-  explicit Blockzeilen(std::ostream& Ausgabe) : Ziel(Ausgabe) {}
+  explicit Blockzeilen(std::ostream& Ausgabe) : Ziel(Ausgabe) {
+    StapelHaken.Schritt = [this](const std::string& Nächster) { Schritt(Nächster); };
+  }
+  ~Blockzeilen() { StapelHaken.Schritt = {}; }
+  Blockzeilen(const Blockzeilen&) = delete;
+  Blockzeilen& operator=(const Blockzeilen&) = delete;
 
+ private:
   void Schritt(const std::string& Nächster) {
     if (!Titel.empty()) {
-      Ziel << Titel << ": " << Stapel.Bilanz.Zeilen - Zeilen << " Zeilen, " << Prot.Marken - Marken
+      Ziel << Sichtbar(Titel) << ": " << Stapel.Bilanz.Zeilen - Zeilen << " Zeilen, " << Prot.Marken - Marken
            << " Marken\n";
     }
     Titel = Nächster;
@@ -32,7 +32,6 @@ class Blockzeilen {
     Marken = Prot.Marken;
   }
 
- private:
   std::ostream& Ziel;
   std::string Titel;
   int Zeilen = 0, Marken = 0;
@@ -41,47 +40,30 @@ class Blockzeilen {
 void Übergangene(std::ostream& Ausgabe) {
   std::map<std::string, int> Anzahl;
   for (const std::string& Kennung : Stapel.Bilanz.Übergangen) ++Anzahl[Kennung];
-  for (const auto& [Kennung, n] : Anzahl) Ausgabe << "übergangen: " << Kennung << " (" << n << " mal)\n";
+  for (const auto& [Kennung, n] : Anzahl) {
+    Ausgabe << "übergangen: " << Sichtbar(Kennung) << " (" << n << " mal)\n";
+  }
 }
 
-bool Speichern(const std::string& Name) {
-  if (Name.empty()) return true;
-  return KoordinatenExportieren(Name, FormatNachEndung(Name)) == 0;
+bool Abspielen(const Aufruf& A, const Umfeld& U) {
+  const Blockzeilen Zeilen(U.Ausgabe);
+  StapelStarten(A.Datei);
+  const StapelBilanz& B = Stapel.Bilanz;
+  if (!B.Fehler && B.Blöcke == 0 && B.Übergangen.empty()) {
+    Hinweis("In der Stapeldatei steht kein Block:\n" + A.Datei);
+    return false;
+  }
+  Übergangene(U.Ausgabe);
+  U.Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << B.Zeilen << "  Marken: " << Prot.Marken << '\n';
+  return !B.Fehler;
 }
 
 }  // namespace
 
-int StapelAusführen(const Stapelauftrag& Auftrag, std::ostream& Ausgabe, std::ostream& Meldungen,
-                    const std::string& Programmordner) {
-  PlattformKonsole Konsole(Meldungen, Programmordner);
-  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole});
-  HauptAnschließen();
-  HauptInitialisierung();
-  DateinameProtokollTemp.clear();  // nothing is printed afterwards
-  if (const auto Antwort = Antworten.find(Auftrag.Vorhanden); Antwort != Antworten.end()) {
-    Haken.PunktVorhandenBehandeln = [Wort = Antwort->second](const Konflikt&) {
-      return Konfliktantwort{Wort, ""};
-    };
-  }
-  KoordinatendateiName = Auftrag.Koordinaten;
-  const bool Gelesen =
-      KorLesen(Auftrag.Koordinaten, Lesemodus::Ersetzen, FormatNachEndung(Auftrag.Koordinaten)) == 0;
-  bool Gut = Gelesen;
-  if (Gelesen) {
-    ProtokollNehmen(Auftrag.Protokoll);
-    Blockzeilen Zeilen(Ausgabe);
-    StapelHaken.Schritt = [&](const std::string& Titel) { Zeilen.Schritt(Titel); };
-    StapelStarten(Auftrag.Stapel);
-    Übergangene(Ausgabe);
-    Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << Stapel.Bilanz.Zeilen << "  Marken: " << Prot.Marken
-            << '\n';
-    Gut = !Stapel.Bilanz.Fehler && !Konsole.Unbeantwortet();
-    // After an error the table may be half done: the file stays as it is.
-    if (Gut) Gut = Speichern(Auftrag.Speichern);
-  }
-  StapelHaken.Schritt = {};
-  PortsSetzen(Vorher);
-  return Gut ? 0 : 1;
+Konsolenbefehl Stapelbefehl() {
+  return {
+      "",   "",       "Spielt eine Stapeldatei (*.sta) auf einer Koordinatendatei ab.", "Stapeldatei (*.sta)",
+      true, Abspielen};
 }
 
 }  // namespace tavorena

@@ -1,28 +1,20 @@
-#include <exception>
 #include <filesystem>
 #include <iostream>
 
-#include <CLI/CLI.hpp>
+#include <tavorena/console/Kommandozeile.h>
 
-#include <tavorena/console/Stapelbefehl.h>
+using namespace tavorena;
 
 int main(int argc, char** argv) try {
-  tavorena::Stapelauftrag Auftrag;
-  CLI::App App("Spielt eine Stapeldatei (*.sta) auf einer Koordinatendatei ab.", "tavorena-stapel");
-  App.get_formatter()->label("REQUIRED", "nötig");
-  App.set_help_flag("-h,--help", "Diese Hilfe");
-  App.add_option("--koordinaten", Auftrag.Koordinaten, "Koordinatendatei (*.kor, *.lt4)")->required();
-  App.add_option("--protokoll", Auftrag.Protokoll,
-                 "Protokolldatei (*.dru); eine vorhandene wird fortgeschrieben");
-  App.add_option("--vorhanden", Auftrag.Vorhanden, "Antwort, wenn eine Punktnummer schon vergeben ist")
-      ->check(CLI::IsMember({"abbruch", "alt-loeschen", "mittel", "neu-loeschen"}));
-  App.add_option("--speichern", Auftrag.Speichern, "Datei für die Koordinaten nach dem Lauf");
-  App.add_option("stapel", Auftrag.Stapel, "Stapeldatei (*.sta)")->required();
-  CLI11_PARSE(App, argc, argv);
   std::error_code Fehler;
-  const std::filesystem::path Programm = std::filesystem::absolute(argv[0], Fehler).parent_path();
-  return tavorena::StapelAusführen(Auftrag, std::cout, std::cerr, Programm.string());
+  // Where the running program lies; the current folder must not count, whatever the call says.
+  const std::filesystem::path Programm = std::filesystem::read_symlink("/proc/self/exe", Fehler);
+  const Rückgabe Ergebnis =
+      KommandozeileAusführen(argc, argv, {std::cout, std::cerr, Programm.parent_path().string()});
+  if (std::cout.flush()) return Ergebnis;
+  std::cerr << "tavorena-stapel: die Ausgabe läßt sich nicht schreiben\n";
+  return NichtGetan;
 } catch (const std::exception& Fehler) {
   std::cerr << "tavorena-stapel: " << Fehler.what() << '\n';
-  return 1;
+  return NichtGetan;
 }

@@ -3,7 +3,8 @@
 #include <cstdlib>
 #include <sstream>
 
-#include <tavorena/console/Stapelbefehl.h>
+#include <tavorena/console/Befehle.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 
@@ -12,29 +13,29 @@ namespace fs = std::filesystem;
 namespace tavorena::test {
 namespace {
 
-class Stapelbefehl : public TabellenTest {
+class StapelbefehlTest : public TabellenTest {
  protected:
-  Stapelbefehl() {
+  StapelbefehlTest() {
     setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1);
     Schreibe(Auftrag.Koordinaten = Ordner.Pfad("a.kor"),
              "1001 3500100 5600200\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
-    Auftrag.Stapel = Ordner.Pfad("a.sta");
+    Auftrag.Datei = Ordner.Pfad("a.sta");
     Auftrag.Speichern = Ordner.Pfad("b.kor");
   }
-  ~Stapelbefehl() override { unsetenv("TAVORENA_ORDNER"); }
+  ~StapelbefehlTest() override { unsetenv("TAVORENA_ORDNER"); }
   int Laufen(const std::string& Sta) {
-    Schreibe(Auftrag.Stapel, Sta);
+    Schreibe(Auftrag.Datei, Sta);
     Aus.str("");
     Meldungen.str("");
-    return StapelAusführen(Auftrag, Aus, Meldungen, "");
+    return SitzungFühren(Stapelbefehl(), Auftrag, {Aus, Meldungen, ""});
   }
-  Stapelauftrag Auftrag;
+  Aufruf Auftrag;
   std::ostringstream Aus, Meldungen;
   const std::string Gut =
       "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002 99.93\r\nNR 2003\r\nNR 1002\r\nE\r\n";
 };
 
-TEST_F(Stapelbefehl, BerichtetJeBlock) {
+TEST_F(StapelbefehlTest, BerichtetJeBlock) {
   EXPECT_EQ(Laufen(Gut + "M VR 65.00 x\r\nPN 1\r\nE\r\nM 3D WINKEL\r\nE\r\n" + Gut), 0);
   EXPECT_EQ(Aus.str(),
             "VR 24.40 Linienelemente: 2 Zeilen, 1 Marken\nVR 24.40 Linienelemente: 2 Zeilen, 1 Marken\n"
@@ -44,39 +45,54 @@ TEST_F(Stapelbefehl, BerichtetJeBlock) {
   EXPECT_EQ(std::count(Gespeichert.begin(), Gespeichert.end(), '\n'), 3);
 }
 
-TEST_F(Stapelbefehl, LesefehlerBeendetOhneSpeichern) {
+TEST_F(StapelbefehlTest, LesefehlerBeendetOhneSpeichern) {
   EXPECT_EQ(Laufen(Gut + "M VR 24.40 x\r\nPXN 1\r\n"), 1);
-  EXPECT_EQ(Meldungen.str(), "Fehler 8 beim Lesen der Stapeldatei:\nPXN 1\n");
+  EXPECT_EQ(Meldungen.str(), Auftrag.Datei + ", Zeile 8: Fehler 8 beim Lesen der Stapeldatei: PXN 1\n");
   EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
 }
 
-TEST_F(Stapelbefehl, FrageOhneAntwortBeendetOhneSpeichern) {
+TEST_F(StapelbefehlTest, FrageOhneAntwortBeendetOhneSpeichern) {
   EXPECT_EQ(Laufen("M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nNR 2003\r\nE\r\n" + Gut), 1);
-  EXPECT_EQ(Meldungen.str(),
-            "Frage ohne Antwort (" + Auftrag.Stapel + ", Zeile 4): Punkt 77 nicht vorhanden\n");
+  EXPECT_EQ(Meldungen.str(), Auftrag.Datei + ", Zeile 4: Frage ohne Antwort: Punkt 77 nicht vorhanden\n");
   EXPECT_EQ(Stapel.Bilanz.Blöcke, 1);  // nothing runs after it
   EXPECT_EQ(Inhalt(Auftrag.Speichern), "");
 }
 
-TEST_F(Stapelbefehl, FehlendeKoordinatendateiBeendet) {
-  Auftrag.Koordinaten = Ordner.Pfad("fehlt.kor");
-  EXPECT_EQ(Laufen(Gut), 1);
-  EXPECT_NE(Meldungen.str().find("nicht vorhanden !"), std::string::npos);
-}
-
-TEST_F(Stapelbefehl, AntwortAufVergebeneNummer) {
+TEST_F(StapelbefehlTest, AntwortAufVergebeneNummer) {
   Laufen(Gut);
   Auftrag.Vorhanden = "mittel";
   Laufen(Gut);
   EXPECT_EQ(Haken.PunktVorhandenBehandeln({}).Wort, Konfliktwort::Mitteln);
 }
 
+// A question that warns of a loss, as the shell asks it before saving.
+TEST_F(StapelbefehlTest, TrotzdemBeantwortetWarnungen) {
+  Konsolenbefehl Fragt = Stapelbefehl();
+  Fragt.Tun = [](const Aufruf&, const Umfeld&) {
+    return FrageJaNein("Trotzdem\nspeichern ?", "Tavorena", KnopfNein) == KnopfJa;
+  };
+  EXPECT_EQ(SitzungFühren(Fragt, Auftrag, {Aus, Meldungen, ""}), NichtGetan);
+  EXPECT_EQ(Meldungen.str(),
+            Auftrag.Datei + ": Frage ohne Antwort: Trotzdem speichern ? (Ja mit --trotzdem)\n");
+  Auftrag.Trotzdem = true;
+  EXPECT_EQ(SitzungFühren(Fragt, Auftrag, {Aus, Meldungen, ""}), Getan);
+}
+
+// What a file holds does nothing to the terminal, and does not fill it.
+TEST_F(StapelbefehlTest, DateitexteSindHarmlos) {
+  EXPECT_EQ(Laufen("M VR 24.40 \x1b[2J\xC2\x9B\x7F\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nNR " +
+                   std::string(60, '7') + "\r\nE\r\n"),
+            1);
+  EXPECT_EQ(Aus.str().substr(0, Aus.str().find(':')), "VR 24.40 ␛[2J\uFFFD␡");
+  EXPECT_NE(Meldungen.str().find("Punkt " + std::string(40, '7') + "… nicht"), std::string::npos);
+}
+
 // The example job, replayed in its folder, gives the protocol that lies there, apart from the time.
-TEST_F(Stapelbefehl, BeispielGibtSeinProtokoll) {
+TEST_F(StapelbefehlTest, BeispielGibtSeinProtokoll) {
   const fs::path Vorher = fs::current_path();
   fs::current_path(fs::path(TAVORENA_TESTS) / "../examples");
-  Auftrag = {"musterdorf.kor", Ordner.Pfad("m.dru"), "", "", "musterdorf.sta"};
-  const int Ergebnis = StapelAusführen(Auftrag, Aus, Meldungen, "");
+  Auftrag = {"musterdorf.kor", Ordner.Pfad("m.dru"), "", "", false, "musterdorf.sta"};
+  const int Ergebnis = SitzungFühren(Stapelbefehl(), Auftrag, {Aus, Meldungen, ""});
   fs::current_path(Vorher);
   EXPECT_EQ(Ergebnis, 0) << Meldungen.str();
   std::string Protokoll = Inhalt(Auftrag.Protokoll);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <tavorena/console/Sitzung.h>
+
+// The commands of tavorena-stapel, each in the source of its name.
+
+namespace tavorena {
+
+/// Replays a batch file, with a line per block and a summary. Works where no command is named.
+[[nodiscard]] Konsolenbefehl Stapelbefehl();
+
+/// "menue": menu tree and tool bar as the window would show them, a line each: name, caption, parent, state
+/// (frei, gesperrt, verborgen, Strich) and reason, with tabs between.
+[[nodiscard]] Konsolenbefehl Menübefehl();
+
+}  // namespace tavorena

@@ -1,0 +1,121 @@
+#include <filesystem>
+#include <map>
+#include <ostream>
+#include <utility>
+
+#include <tavorena/console/PlattformKonsole.h>
+#include <tavorena/console/Sitzung.h>
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Geschuetzt.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/shell/TVKernMDIForm.h>
+
+namespace fs = std::filesystem;
+
+namespace tavorena {
+namespace {
+
+const std::map<std::string, Konfliktwort> Antworten = {{"abbruch", Konfliktwort::Abbrechen},
+                                                       {"alt-loeschen", Konfliktwort::AltenErsetzen},
+                                                       {"mittel", Konfliktwort::Mitteln},
+                                                       {"neu-loeschen", Konfliktwort::NeuenVerwerfen}};
+
+// The same file, whatever it is called.
+bool SelbeDatei(const std::string& A, const std::string& B) {
+  if (A.empty() || B.empty()) return false;
+  const fs::path PfadA = Systempfad(A), PfadB = Systempfad(B);
+  std::error_code Fehler;
+  if (fs::equivalent(PfadA, PfadB, Fehler)) return true;
+  const fs::path Ganz = fs::weakly_canonical(fs::absolute(PfadA, Fehler), Fehler);
+  return !Ganz.empty() && Ganz == fs::weakly_canonical(fs::absolute(PfadB, Fehler), Fehler);
+}
+
+// What is wrong with the call; "" if nothing is.
+std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
+  const std::string Ich = "tavorena-stapel: ";
+  if (B.MitKoordinaten && A.Koordinaten.empty()) return Ich + "--koordinaten fehlt";
+  if (B.Datei != nullptr && A.Datei.empty()) return Ich + "die " + B.Datei + " fehlt";
+  if (B.Datei == nullptr && !A.Datei.empty()) return Ich + "unbekannte Angabe: " + A.Datei;
+  if (!A.Vorhanden.empty() && !Antworten.contains(A.Vorhanden)) {
+    std::string Worte;
+    for (const auto& [Wort, Bedeutung] : Antworten) Worte += (Worte.empty() ? "" : ", ") + Wort;
+    return Ich + "--vorhanden " + A.Vorhanden + " gibt es nicht, nur " + Worte;
+  }
+  if (!A.Speichern.empty() && A.Koordinaten.empty()) return Ich + "--speichern braucht --koordinaten";
+  // An output must not destroy what is read or written besides; the table may go back to its file.
+  const std::pair<const char*, const std::string&> Rollen[] = {{"das Protokoll", A.Protokoll},
+                                                               {"die Koordinatendatei", A.Koordinaten},
+                                                               {"die Datei des Befehls", A.Datei}};
+  for (const auto& [Rolle, Name] : Rollen) {
+    if (&Name != &A.Protokoll && SelbeDatei(A.Protokoll, Name)) {
+      return A.Protokoll + ": das Protokoll ist auch " + Rolle;
+    }
+    if (&Name != &A.Koordinaten && SelbeDatei(A.Speichern, Name)) {
+      return A.Speichern + ": die Datei von --speichern ist auch " + Rolle;
+    }
+  }
+  return "";
+}
+
+bool Lesen(const Aufruf& A, PlattformKonsole& Konsole) {
+  Konsole.Arbeitet(A.Koordinaten);
+  if (A.Koordinaten.empty()) return true;
+  KoordinatendateiName = A.Koordinaten;
+  Koordinatendateiformat = FormatNachEndung(A.Koordinaten);
+  if (KorLesen(A.Koordinaten, Lesemodus::Ersetzen, Koordinatendateiformat) < 0) return false;
+  TVKernMDIForm::Fenster().DateiOffen();
+  return true;
+}
+
+bool ProtokollBeginnen(const Aufruf& A, PlattformKonsole& Konsole) {
+  // Told before the work, not at its first row.
+  if (!A.Protokoll.empty() && TextAnhängen(A.Protokoll, "") < 0) {
+    Konsole.Arbeitet(A.Protokoll);
+    Konsole.Melden("Das Protokoll läßt sich nicht schreiben.");
+    return false;
+  }
+  ProtokollNehmen(A.Protokoll);
+  return true;
+}
+
+bool Speichern(const Aufruf& A, PlattformKonsole& Konsole) {
+  Konsole.Arbeitet(A.Speichern);
+  return A.Speichern.empty() || KoordinatenExportieren(A.Speichern, FormatNachEndung(A.Speichern)) == 0;
+}
+
+bool Arbeiten(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U, PlattformKonsole& Konsole) {
+  HauptAnschließen();
+  HauptInitialisierung();
+  DateinameProtokollTemp.clear();  // nothing is printed afterwards
+  if (const auto Antwort = Antworten.find(A.Vorhanden); Antwort != Antworten.end()) {
+    Haken.PunktVorhandenBehandeln = [Wort = Antwort->second](const Konflikt&) {
+      return Konfliktantwort{Wort, ""};
+    };
+  }
+  if (!Lesen(A, Konsole) || !ProtokollBeginnen(A, Konsole)) return false;
+  Konsole.Arbeitet(B.Datei != nullptr ? A.Datei : A.Koordinaten);
+  // After a failure the table may be half done: the file stays as it is.
+  return B.Tun(A, U) && !Konsole.Mißlungen() && Speichern(A, Konsole);
+}
+
+}  // namespace
+
+Rückgabe SitzungFühren(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U) {
+  if (const std::string Warum = Einwand(B, A); !Warum.empty()) {
+    U.Meldungen << Sichtbar(Warum) << '\n';
+    return FalscherAufruf;
+  }
+  PlattformKonsole Konsole(A, U.Meldungen, U.Programmordner);
+  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole});
+  bool Gut = false;
+  const auto Tun = [&] { Gut = Arbeiten(B, A, U, Konsole); };
+  Gut = Geschützt("Konsole", Tun) == 0 && Gut && !Konsole.Mißlungen();
+  PortsSetzen(Vorher);
+  return Gut ? Getan : NichtGetan;
+}
+
+}  // namespace tavorena

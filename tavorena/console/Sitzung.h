@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+// What all commands of the console share: the files of a call, the answers it gives, and its exit status.
+
+namespace tavorena {
+
+/// Exit status of both programs.
+enum Rückgabe : int {
+  Getan = 0,
+  NichtGetan = 1,      ///< not done, or not wholly
+  FalscherAufruf = 2,  ///< nothing was touched
+};
+
+/// What the command line asks for. A name that is "" was not given.
+struct Aufruf {
+  std::string Koordinaten;
+  std::string Protokoll;  ///< an existing file is extended
+  std::string Vorhanden;  ///< answer to a taken number: abbruch, alt-loeschen, mittel, neu-loeschen
+  std::string Speichern;  ///< file for the table afterwards
+  bool Trotzdem = false;  ///< "Ja" to the questions that warn of a loss
+  std::string Datei;      ///< the file that the command itself works on
+};
+
+/// Where results and messages go, and the folder of the executable.
+struct Umfeld {
+  std::ostream& Ausgabe;
+  std::ostream& Meldungen;
+  std::string Programmordner;
+};
+
+/// A command of the program. Its source defines it, Kommandozeile.cpp lists it.
+struct Konsolenbefehl {
+  const char* Name;          ///< "" works where none is named
+  const char* Thema;         ///< heading in the list of --help
+  const char* Beschreibung;  ///< for --help
+  const char* Datei;    ///< tells what Aufruf::Datei is, which then must be given; nullptr: it takes none
+  bool MitKoordinaten;  ///< must be given a coordinate file
+  /// Works on the table that was read. @return false if it was not done wholly
+  std::function<bool(const Aufruf& A, const Umfeld& U)> Tun;
+};
+
+/// Runs a command: looks at the call, reads the coordinates, takes the protocol, works, and saves the table
+/// if all went well. @return the exit status; each cause of another than 0 is told in one message
+[[nodiscard]] Rückgabe SitzungFühren(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U);
+
+}  // namespace tavorena

@@ -1,0 +1,123 @@
+// The programs themselves, as a shell script calls them.
+#include "Testhilfe.h"
+
+#include <cstdlib>
+#include <sys/wait.h>
+
+namespace fs = std::filesystem;
+
+namespace tavorena::test {
+namespace {
+
+class Programm : public ::testing::Test {
+ protected:
+  Programm() {
+    Schreibe(Ordner.Pfad("a.kor"),
+             "1001 3500100 5600200\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
+    Schreibe(Ordner.Pfad("a.sta"), "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\n");
+    Schreibe(Ordner.Pfad("fehler.sta"), "M VR 24.40 x\r\nPXN 1\r\n");
+    Schreibe(Ordner.Pfad("frage.sta"), "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nE\r\n");
+    Schreibe(Ordner.Pfad("leer.sta"), "C nichts\r\n");
+    fs::create_directory(Ordner.Pfad("ordner"));
+    fs::create_hard_link(Ordner.Pfad("a.sta"), Ordner.Pfad("gleich"));
+  }
+  // Runs a program in the folder, without a display. @return its exit status; -1 if it was killed
+  int Laufen(const std::string& Pfad, const std::string& Worte) {
+    const std::string Zeile = "cd '" + Ordner.Pfad("") +
+                              "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM HOME=. " +
+                              "XDG_CONFIG_HOME= TAVORENA_ORDNER= " + Pfad + " " + Worte + " >aus 2>meldungen";
+    const int Status = std::system(Zeile.c_str());
+    Aus = Inhalt(Ordner.Pfad("aus"));
+    Meldungen = Inhalt(Ordner.Pfad("meldungen"));
+    return WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
+  }
+  Testordner Ordner;
+  std::string Aus, Meldungen;
+};
+
+TEST_F(Programm, Rückgabewerte) {
+  struct Fall {
+    const char* Worte;
+    int Rückgabe;
+    const char* Meldung;  // the beginning of the only line
+  };
+  const Fall Fälle[] = {
+      {"--koordinaten a.kor a.sta", 0, ""},
+      {"--koordinaten a.kor --protokoll a.dru --speichern a.kor a.sta", 0, ""},
+      {"menue --koordinaten a.kor", 0, ""},
+      {"--koordinaten fehlt.kor a.sta", 1, "fehlt.kor: Koordinatendatei nicht vorhanden"},
+      {"--koordinaten ordner a.sta", 1, "ordner: "},
+      {"--koordinaten a.kor fehlt.sta", 1, "fehlt.sta: "},
+      {"--koordinaten a.kor fehler.sta", 1, "fehler.sta, Zeile 2: Fehler 2"},
+      {"--koordinaten a.kor frage.sta", 1, "frage.sta, Zeile 4: Frage ohne Antwort: Punkt 77"},
+      {"--koordinaten a.kor leer.sta", 1, "leer.sta"},
+      {"--koordinaten a.kor --protokoll ordner a.sta", 1, "ordner: Das Protokoll"},
+      {"--koordinaten a.kor --protokoll /dev/full a.sta", 1, "/dev/full: "},
+      {"--koordinaten a.kor --speichern nirgends/b.kor a.sta", 1, "nirgends/b.kor: "},
+      {"", 2, "tavorena-stapel: --koordinaten fehlt"},
+      {"--koordinaten a.kor", 2, "tavorena-stapel: die Stapeldatei (*.sta) fehlt"},
+      {"--koordinaten", 2, "tavorena-stapel: --koordinaten: die Zahl der Werte"},
+      {"--koordinaten a.kor --falsch a.sta", 2, "tavorena-stapel: unbekannte Angabe: --falsch"},
+      {"--koordinaten a.kor --vorhanden nie a.sta", 2, "tavorena-stapel: --vorhanden nie gibt es nicht"},
+      {"--koordinaten a.kor --trotzdem=2x a.sta", 2, "tavorena-stapel: trotzdem"},
+      {"menue a.sta", 2, "tavorena-stapel: unbekannte Angabe: a.sta"},
+      {"menue --speichern b.kor", 2, "tavorena-stapel: --speichern braucht"},
+      {"--koordinaten a.kor --protokoll ./a.kor a.sta", 2, "./a.kor: das Protokoll ist auch die Koord"},
+      {"--koordinaten a.kor --protokoll gleich a.sta", 2, "gleich: das Protokoll ist auch die Datei"},
+      {"--koordinaten a.kor --speichern a.sta a.sta", 2, "a.sta: die Datei von --speichern ist"},
+      {"--koordinaten a.kor --protokoll neu --speichern ordner/../neu a.sta", 2,
+       "ordner/../neu: die Datei von"},
+  };
+  for (const Fall& F : Fälle) {
+    SCOPED_TRACE(F.Worte);
+    EXPECT_EQ(Laufen(TAVORENA_STAPEL, F.Worte), F.Rückgabe);
+    EXPECT_TRUE(Meldungen.starts_with(F.Meldung)) << Meldungen;
+    EXPECT_EQ(std::count(Meldungen.begin(), Meldungen.end(), '\n'), F.Rückgabe == 0 ? 0 : 1) << Meldungen;
+  }
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue >/dev/full 2>&1; exit $?; :"), 1);
+  EXPECT_EQ(Inhalt(Ordner.Pfad("a.sta")).substr(0, 3), "M V");  // a refused call touches nothing
+}
+
+TEST_F(Programm, HilfeUndFassungOhneBildschirm) {
+  for (const char* Pfad : {TAVORENA_STAPEL, TAVORENA_FENSTER}) {
+    if (*Pfad == '\0') continue;  // a build without Qt
+    SCOPED_TRACE(Pfad);
+    EXPECT_EQ(Laufen(Pfad, "--version"), 0);
+    EXPECT_NE(Aus.find(TAVORENA_FASSUNG "\n"), std::string::npos) << Aus;
+    EXPECT_EQ(Laufen(Pfad, "--help"), 0);
+    EXPECT_NE(Aus.find("Rückgabewert: 0"), std::string::npos) << Aus;
+    EXPECT_EQ(Aus.find("Options"), std::string::npos) << Aus;
+    EXPECT_EQ(Aus.find("Usage"), std::string::npos) << Aus;
+    EXPECT_EQ(Laufen(Pfad, "--falsch"), 2);
+    EXPECT_NE(Meldungen.find("unbekannte Angabe: --falsch"), std::string::npos) << Meldungen;
+  }
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue --help"), 0);
+  EXPECT_NE(Aus.find("--trotzdem"), std::string::npos) << Aus;
+  EXPECT_EQ(Aus.find("Options"), std::string::npos) << Aus;
+}
+
+// The settings beside the program are its own, not those of the folder that it is started in.
+TEST_F(Programm, FremdeEinstellungenImArbeitsordner) {
+  Schreibe(Ordner.Pfad("Tavorena.ini"), "[Optionen]\r\n3\r\n0\r\nFalse\r\nFalse\r\n0\r\n0\r\n3\r\n1\r\n");
+  const fs::path Ort = fs::path(TAVORENA_STAPEL).parent_path();
+  Laufen("PATH='" + Ort.string() + "':$PATH tavorena-stapel", "--koordinaten a.kor --speichern b.kor a.sta");
+  EXPECT_NE(Inhalt(Ordner.Pfad("b.kor")).find("3500100.000"), std::string::npos)
+      << Inhalt(Ordner.Pfad("b.kor"));
+}
+
+TEST_F(Programm, MenüWieImFenster) {
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue"), 0);
+  for (const char* Zeile :
+       {"MenüDateiNeu\tKoordinatendatei &neu ...\tMenüMain(1)\tfrei\t\n",
+        "MenüDateiStrich1\t\tMenüMain(1)\tStrich\t\n",
+        "MenüKatasterLinel\t&Linienelemente\tMenüMain(4)\tgesperrt\tkeine Koordinatendatei offen\n",
+        "MenüTestPanik\t&Panik-Exit\tMenüMain(10)\tverborgen\tnoch nicht vorhanden\n",
+        "ImageVR2200\tMeßlinie\tSymbolleiste\tgesperrt\tnoch nicht vorhanden\n"}) {
+    EXPECT_NE(Aus.find(Zeile), std::string::npos) << Zeile;
+  }
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue --koordinaten a.kor"), 0);
+  EXPECT_NE(Aus.find("MenüKatasterLinel\t&Linienelemente\tMenüMain(4)\tfrei\t\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tavorena::test
