@@ -26,25 +26,37 @@ bool OrdnerVorhanden(std::string_view Name);
 /// Makes a folder and those above it. @return 0 (also if it was there); -1
 [[nodiscard]] int OrdnerAnlegen(std::string_view Name);
 
-/// Reads a whole regular file as it stands. @return 0; -1 if it can not be opened or read
-[[nodiscard]] int DateiLesen(std::string_view Name, std::string& Inhalt);
+// The functions below answer -1 with the reason in a few words ("Datenträger voll"), where one is wanted.
+// They open regular files and nothing else: a folder, a pipe or a device is refused at once.
+
+/// Reads a whole file as it stands.
+/// @param[out] Grund  why not; "" if there is no such file
+/// @return 0; -1 if it can not be opened or read, or is too large for the memory
+[[nodiscard]] int DateiLesen(std::string_view Name, std::string& Inhalt, std::string* Grund = nullptr);
 
 /// Reads a text file: valid UTF-8 is taken as such (a byte-order mark is dropped), any other content as
-/// Windows-1252. @return 0; -1 if it can not be opened or read
-[[nodiscard]] int TextdateiLesen(std::string_view Name, std::string& Text);
+/// Windows-1252. @return 0; -1 as DateiLesen, and for UTF-16
+[[nodiscard]] int TextdateiLesen(std::string_view Name, std::string& Text, std::string* Grund = nullptr);
 
-/// Replaces a file as a whole: written beside it, flushed to the disk, renamed over it. On any failure the
-/// old file is as it was. A link is followed, the permissions of an old file are kept. @return 0 or -1
-[[nodiscard]] int DateiErsetzen(std::string_view Name, std::string_view Inhalt);
+/// Replaces a file as a whole: written beside it under a name of its own, flushed to the disk, renamed over
+/// it. On any failure the old file is as it was. Links are followed, a file with several names keeps them;
+/// mode, owner and group stay where the system allows. A file that is protected against writing is refused,
+/// and so is a link without a file at its end. @return 0 or -1
+[[nodiscard]] int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund = nullptr);
 
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length. @return 0 or -1
-[[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text);
+[[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr);
+
+/// What was appended so far reaches the disk.
+/// @param[out] Name  a file that did not get there
+/// @return 0 or -1
+int AnhängeSichern(std::string* Name = nullptr);
 
 /// By what a file shows that somebody wrote in it. A missing file has the state {}.
 struct Dateistand {
   std::uintmax_t Länge = 0;  ///< [bytes]
-  std::filesystem::file_time_type Zeit;
+  std::int64_t Zeit = 0;     ///< of the last writing [ns]
   bool operator==(const Dateistand&) const = default;
 };
 Dateistand DateistandVon(std::string_view Name);

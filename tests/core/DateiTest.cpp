@@ -1,7 +1,9 @@
 #include "Testhilfe.h"
 
 #include <csignal>
+#include <string_view>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -12,6 +14,7 @@ namespace tavorena::test {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_view_literals;
 
 // A file that holds "alt", alone in its folder.
 class Datei : public ::testing::Test {
@@ -114,13 +117,133 @@ TEST_F(Datei, AbbruchZuJederZeitLäßtEineGanzeDatei) {
   }
 }
 
+// How a file system may lie about a name.
+struct Lage {
+  const char* Name;
+  std::function<void(const std::string& Ordner)> Tun;  // what stands under "ziel" beside "a.kor"
+  const char* Ersetzt;                                 // the reason; nullptr: goes well
+  const char* Gelesen;
+  const char* Angehängt;
+};
+
+TEST_F(Datei, WasUnterEinemNamenStehenKann) {
+  constexpr const char *Art = "keine gewöhnliche Datei", *Leere = "Verweis ins Leere";
+  const Lage Fälle[] = {
+      {"nothing", [](const std::string&) {}, nullptr, "", nullptr},
+      {"folder", [](const std::string& O) { fs::create_directory(O + "ziel"); }, "ist ein Ordner",
+       "ist ein Ordner", "ist ein Ordner"},
+      {"pipe", [](const std::string& O) { mkfifo((O + "ziel").c_str(), 0600); }, Art, Art, Art},
+      {"device", [](const std::string& O) { fs::create_symlink("/dev/null", O + "ziel"); }, Art, Art, Art},
+      {"link", [](const std::string& O) { fs::create_symlink("a.kor", O + "ziel"); }, nullptr, nullptr,
+       nullptr},
+      {"dangling link", [](const std::string& O) { fs::create_symlink("fehlt", O + "ziel"); }, Leere, "",
+       Leere},
+      {"loop", [](const std::string& O) { fs::create_symlink("ziel", O + "ziel"); }, Leere, Leere, Leere},
+      {"second name", [](const std::string& O) { fs::create_hard_link(O + "a.kor", O + "ziel"); }, nullptr,
+       nullptr, nullptr},
+      {"protected",
+       [](const std::string& O) {
+         Schreibe(O + "ziel", "alt");
+         fs::permissions(O + "ziel", fs::perms{0444});
+       },
+       "schreibgeschützt", nullptr, "schreibgeschützt"}};
+  for (const Lage& f : Fälle) {
+    SCOPED_TRACE(f.Name);
+    const Testordner Eigener;
+    const std::string O = Eigener.Pfad(""), Ziel = O + "ziel";
+    const auto Prüfe = [](const char* Soll, const auto& Tun) {
+      std::string Grund;
+      EXPECT_EQ(Tun(Grund), Soll == nullptr ? 0 : -1);
+      EXPECT_EQ(Grund, Soll == nullptr ? "" : Soll);
+    };
+    Schreibe(O + "a.kor", "alt");
+    f.Tun(O);
+    const auto Art0 = fs::symlink_status(Ziel).type();
+    std::string Text;
+    Prüfe(f.Gelesen, [&](std::string& G) { return DateiLesen(Ziel, Text, &G); });
+    Prüfe(f.Ersetzt, [&](std::string& G) { return DateiErsetzen(Ziel, "neuer Inhalt", &G); });
+    Prüfe(f.Angehängt, [&](std::string& G) { return TextAnhängen(Ziel, "+", &G); });
+    if (f.Ersetzt == nullptr) {
+      EXPECT_EQ(Inhalt(Ziel), "neuer Inhalt+");
+    } else {
+      EXPECT_EQ(fs::symlink_status(Ziel).type(), Art0);
+    }
+    // Both names of a linked file hold the same, and nobody wrote where a link leads nowhere.
+    const bool Verbunden = f.Ersetzt == nullptr && fs::equivalent(Ziel, O + "a.kor");
+    EXPECT_EQ(Inhalt(O + "a.kor"), Verbunden ? "neuer Inhalt+" : "alt");
+    EXPECT_FALSE(fs::exists(O + "fehlt"));
+    EXPECT_LE(std::distance(fs::directory_iterator(O), {}), 2);  // no remains
+  }
+}
+
 TEST_F(Datei, ErsetzenÄndertNurDenInhalt) {
   const std::string Verweis = Ordner.Pfad("verweis.kor");
-  fs::permissions(Name, fs::perms{0600});
+  fs::permissions(Name, fs::perms{0640});
   fs::create_symlink(Name, Verweis);
+  const bool Fremd = chown(Name.c_str(), 1234, 4321) == 0;  // root alone may give files away
+  struct stat Vorher {
+  }, Nachher{};
+  stat(Name.c_str(), &Vorher);
+  EXPECT_EQ(Fremd, Vorher.st_uid == 1234);
   EXPECT_EQ(DateiErsetzen(Verweis, "neu"), 0);
-  EXPECT_TRUE(Gleich(fs::is_symlink(Verweis), true, Inhalt(Name), "neu"));
-  EXPECT_EQ(fs::status(Name).permissions(), fs::perms{0600});
+  stat(Name.c_str(), &Nachher);
+  EXPECT_TRUE(Gleich(fs::is_symlink(Verweis), true, Inhalt(Name), "neu", Nachher.st_mode, Vorher.st_mode,
+                     Nachher.st_uid, Vorher.st_uid, Nachher.st_gid, Vorher.st_gid));
+}
+
+TEST_F(Datei, NurEigeneAlteResteGehen) {
+  const std::string Rest = Name + ".neu~AbCdEf", Frisch = Name + ".neu~GhIjKl",
+                    Verweis = Name + ".neu~MnOpQr", Fremd = Name + ".neu~", Opfer = Ordner.Pfad("opfer");
+  for (const std::string& D : {Rest, Frisch, Fremd, Opfer}) Schreibe(D, "x");
+  fs::create_symlink(Opfer, Verweis);
+  for (const std::string& D : {Rest, Fremd, Opfer})
+    fs::last_write_time(D, fs::file_time_type::clock::now() - std::chrono::hours(25));
+  EXPECT_EQ(DateiErsetzen(Name, "neu"), 0);
+  EXPECT_FALSE(fs::exists(Rest));
+  for (const std::string& D : {Frisch, Fremd, Verweis, Opfer}) EXPECT_EQ(Inhalt(D), "x") << D;
+}
+
+TEST_F(Datei, ZweiProgrammeSpeichernEineDatei) {
+  const std::string A(20'000, 'a'), B(30'000, 'b');
+  Schreibe(Name, A);
+  const auto Speichern = [this](const std::string& Text) {
+    for (int i = 0; i < 200; ++i) {
+      const std::string Ist = Inhalt(Name);
+      if (DateiErsetzen(Name, Text) < 0 || Ist.find_first_not_of(Ist.front()) != std::string::npos ||
+          (Ist.size() != 20'000 && Ist.size() != 30'000))
+        return false;
+    }
+    return true;
+  };
+  const pid_t Kind = fork();
+  if (Kind == 0) _exit(Speichern(B) ? 0 : 1);
+  EXPECT_TRUE(Speichern(A));
+  int Status = -1;
+  waitpid(Kind, &Status, 0);
+  EXPECT_EQ(Status, 0);
+}
+
+TEST_F(Datei, AnhängenSiehtWasAndereTun) {
+  const std::string Zweite = Ordner.Pfad("b.dru");
+  const auto Wechsel = [&](const auto& Tun, const std::string& Soll) {
+    EXPECT_TRUE(Gleich(TextAnhängen(Name, "1"), 0, TextAnhängen(Zweite, "1"), 0));
+    Tun();
+    EXPECT_EQ(TextAnhängen(Name, "ä"), 0);
+    EXPECT_EQ(Inhalt(Name), Soll);
+  };
+  Wechsel([&] { Schreibe(Name, "f\xFCr"); }, "f\xFCr\xE4");        // written over
+  Wechsel([&] { fs::rename(Zweite, Name); }, "11ä");               // another file in its place
+  Wechsel([&] { EXPECT_EQ(DateiErsetzen(Name, "e"), 0); }, "eä");  // by this program itself
+  Wechsel([&] { EXPECT_EQ(DateiLöschen(Name), 0); }, "ä");         // removed
+  EXPECT_EQ(AnhängeSichern(), 0);
+}
+
+TEST_F(Datei, UnlesbaresWirdBenannt) {
+  std::string Text, Grund;
+  Schreibe(Name, "\xFF\xFEM\0"sv);
+  EXPECT_TRUE(Gleich(TextdateiLesen(Name, Text, &Grund), -1, Grund, "ist in UTF-16 geschrieben"));
+  fs::resize_file(Name, std::uintmax_t{1} << 40U);  // holes alone
+  EXPECT_TRUE(Gleich(TextdateiLesen(Name, Text, &Grund), -1, Grund, "zu groß"));
 }
 
 }  // namespace

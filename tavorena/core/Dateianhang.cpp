@@ -1,0 +1,124 @@
+#include <algorithm>
+#include <cerrno>
+#include <vector>
+
+#include <tavorena/core/Deskriptor.h>
+
+// Appending: a file that is extended row by row stays open until it is secured.
+
+namespace fs = std::filesystem;
+
+namespace tavorena {
+namespace {
+
+enum class Kodierung { Ascii, Utf8, Windows1252 };
+
+Kodierung KodierungVon(std::string_view Inhalt) {
+  if (!IstUtf8(Inhalt)) return Kodierung::Windows1252;
+  const auto Oben = [](char z) { return (static_cast<unsigned char>(z) & 0x80U) != 0; };
+  return std::any_of(Inhalt.begin(), Inhalt.end(), Oben) ? Kodierung::Utf8 : Kodierung::Ascii;
+}
+
+// What is known of a file that was extended: while it stands as it was left, it is neither opened nor looked
+// through again.
+struct Anhangspur {
+  fs::path Pfad;
+  Deskriptor K;  // not open: secured
+  dev_t Gerät = 0;
+  ino_t Nummer = 0;
+  Dateistand Stand;
+  Kodierung Art = Kodierung::Ascii;
+
+  [[nodiscard]] bool Gilt(const struct stat& S) const {
+    return S.st_dev == Gerät && S.st_ino == Nummer && DateistandAus(S) == Stand;
+  }
+  void Merken(const struct stat& S) {
+    Gerät = S.st_dev;
+    Nummer = S.st_ino;
+    Stand = DateistandAus(S);
+  }
+};
+std::vector<Anhangspur> Spuren;
+constexpr std::size_t MeisteSpuren =
+    16;  // files extended in turn: the protocol, the batch file, a few worksheets
+
+bool Sichern(Anhangspur& Spur) {
+  const bool Gut = !Spur.K || fsync(Spur.K.Nummer()) == 0;
+  Spur.K = Deskriptor();
+  return Gut;
+}
+
+Anhangspur& SpurVon(const fs::path& Pfad) {
+  const auto Alte =
+      std::find_if(Spuren.begin(), Spuren.end(), [&](const Anhangspur& S) { return S.Pfad == Pfad; });
+  if (Alte != Spuren.end()) return *Alte;
+  if (Spuren.size() == MeisteSpuren) {
+    static_cast<void>(Sichern(Spuren.front()));  // long out of use, and written
+    Spuren.erase(Spuren.begin());
+  }
+  return Spuren.emplace_back(Anhangspur{Pfad, Deskriptor(), 0, 0, {}, Kodierung::Ascii});
+}
+
+int Öffnen(Anhangspur& Spur, std::string& Grund) {
+  if (VerweisInsLeere(Spur.Pfad)) {
+    Grund = Fehlerwort(ELOOP);
+    return -1;
+  }
+  struct stat Stand {};
+  Deskriptor K = RegulärÖffnen(Spur.Pfad, O_RDWR | O_APPEND | O_CREAT, Stand, Grund);
+  if (!K) return -1;
+  if (!Beschreibbar(Spur.Pfad, Stand)) {
+    Grund = Fehlerwort(EROFS);
+    return -1;
+  }
+  if (!Spur.Gilt(Stand)) {
+    std::string Alt;
+    if (!Auslesen(K, Alt)) {
+      Grund = Fehlerwort(errno);
+      return -1;
+    }
+    Spur.Art = KodierungVon(Alt);
+    Spur.Merken(Stand);
+  }
+  Spur.K = std::move(K);
+  return 0;
+}
+
+int Anhängen(Anhangspur& Spur, std::string_view Text, std::string& Grund) {
+  struct stat Stand {};
+  const bool Wie = Spur.K && stat(Spur.Pfad.c_str(), &Stand) == 0 && Spur.Gilt(Stand);
+  if (!Wie && Öffnen(Spur, Grund) < 0) return -1;
+  const std::string Bytes = Spur.Art == Kodierung::Windows1252 ? NachWindows1252(Text) : std::string(Text);
+  if (!Ausschreiben(Spur.K, Bytes)) {
+    Grund = Fehlerwort(errno);
+    static_cast<void>(ftruncate(Spur.K.Nummer(), static_cast<off_t>(Spur.Stand.Länge)) == 0);
+    return -1;
+  }
+  if (fstat(Spur.K.Nummer(), &Stand) == 0) Spur.Merken(Stand);
+  if (Spur.Art == Kodierung::Ascii) Spur.Art = KodierungVon(Bytes);
+  return 0;
+}
+
+}  // namespace
+
+int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund) {
+  if (Name.empty()) return -1;
+  Anhangspur& Spur = SpurVon(Systempfad(Name));
+  std::string Wort;
+  if (Anhängen(Spur, Text, Wort) == 0) return 0;
+  Spur = Anhangspur{Spur.Pfad, Deskriptor(), 0, 0, {}, Kodierung::Ascii};
+  if (Grund != nullptr) *Grund = Wort;
+  return -1;
+}
+
+int AnhängeSichern(std::string* Name) {
+  int Ergebnis = 0;
+  for (Anhangspur& Spur : Spuren) {
+    if (Sichern(Spur)) continue;
+    if (Name != nullptr) *Name = Spur.Pfad.string();
+    Ergebnis = -1;
+  }
+  return Ergebnis;
+}
+
+}  // namespace tavorena
