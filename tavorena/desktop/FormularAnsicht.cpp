@@ -218,6 +218,7 @@ void FormularAnsicht::FeldAnschließen(Eingabefeld& Zeile, Eingabeelement& E) {
 void FormularAnsicht::FokusMelden(Steuerelement& S) {
   if (Modell == nullptr || Auffrischend || Modell->Fokus() == &S) return;
   if (!FokusWidget(S)->hasFocus()) return;
+  const QScopedValueRollback Liest(Lesetiefe, Lesetiefe + 1);
   Modell->FokusWechseln(S);
   FokusZeigen();
 }
@@ -227,11 +228,38 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   const bool Anfang = Zeile != nullptr && (Zeile->text().isEmpty() || Zeile->selectedText() == Zeile->text());
   const std::optional<Taste> T = TasteVon(Ereignis, Anfang);
   FokusMelden(S);
+  const bool IstEingabe = dynamic_cast<const Eingabeelement*>(&S) != nullptr;
+  const QScopedValueRollback Liest(Lesetiefe, Lesetiefe + (IstEingabe ? 1 : 0));
   if (Modell == nullptr || Modell->Fokus() != &S) return true;  // the focus went back: the key is void
+  if (ZeileWechseln(S, Ereignis)) return true;
   if (!T || !Modell->TasteDrücken(*T)) return false;
   FokusZeigen();
-  if ((T == Taste::Plus || T == Taste::Minus) && Zeile != nullptr) Zeile->end(false);
+  if ((T == Taste::Plus || T == Taste::Minus) && Zeile != nullptr) {
+    Zeile->end(false);
+  } else {
+    FokusMarkieren();
+  }
   return true;
+}
+
+// The keys that lead to another row of a grid.
+bool FormularAnsicht::ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis) {
+  auto* G = dynamic_cast<Gitter*>(&S);
+  if (G == nullptr) return false;
+  const bool Ganz = Ereignis.modifiers().testFlag(Qt::ControlModifier);
+  const auto& Tabelle = dynamic_cast<const Gitteransicht&>(*Bilder.at(G).Widget);
+  const int Ziel = Tabelle.Zielzeile(static_cast<Qt::Key>(Ereignis.key()), Ganz);
+  if (Ziel < 0) return false;
+  Modell->ZelleWechseln(*G, Ziel, *G->Spalte);
+  FokusZeigen();
+  FokusMarkieren();
+  return true;
+}
+
+// What is typed next replaces the text.
+void FormularAnsicht::FokusMarkieren() {
+  if (Modell == nullptr || Modell->Fokus() == nullptr) return;
+  if (auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(*Modell->Fokus()))) Zeile->selectAll();
 }
 
 bool FormularAnsicht::TabWeiter(const Steuerelement& S, bool Vor) {

@@ -32,6 +32,9 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   /// Gives the focus to the control that has it in the form.
   void FokusZeigen();
 
+  /// A field or a row of any form is being read: nobody asked for a question that comes now.
+  [[nodiscard]] static bool LiestEingabe() { return Lesetiefe > 0; }
+
   std::function<void()> BeiGeschlossen;
 
  protected:
@@ -57,10 +60,13 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   void FeldAnschließen(Eingabefeld& Zeile, Eingabeelement& E);
   void RahmenZeigen(const std::string& Titel);
   [[nodiscard]] bool TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis);
+  [[nodiscard]] bool ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool TabWeiter(const Steuerelement& S, bool Vor);
   void FokusMelden(Steuerelement& S);
+  void FokusMarkieren();
   [[nodiscard]] QWidget* FokusWidget(const Steuerelement& S) const;
 
+  inline static int Lesetiefe = 0;  // readings that run inside each other
   Formular* Modell;
   std::unordered_map<const Steuerelement*, Bild> Bilder;
   std::unordered_map<const QObject*, Steuerelement*> Elemente;

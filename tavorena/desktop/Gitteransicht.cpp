@@ -129,17 +129,53 @@ void Gitteransicht::FeldSetzen() {
   const QString Text = QString::fromStdString(Daten.Inhalt(Daten.Zeile, Daten.Spalte));
   if (Zellfeld->text() != Text) Zellfeld->setText(Text);
   if (Zelle != Feldzelle) {
-    scrollTo(Zelle);
     Feldzelle = Zelle;
     if (Zellfeld->hasFocus()) Zellfeld->selectAll();
   }
   Zellfeld->FehlerhaftZeigen(Daten.Fehlerhaft);
-  FeldRücken();
+  FeldZeigen();
   Zellfeld->show();
+}
+
+// The current cell is always wholly to be seen. A new row is laid out first, or there is nothing to scroll
+// to.
+void Gitteransicht::FeldZeigen() {
+  if (!Feldzelle.isValid()) return;
+  executeDelayedItemsLayout();
+  scrollTo(Feldzelle);
+  FeldRücken();
+}
+
+int Gitteransicht::Zielzeile(Qt::Key Taste, bool Ganz) const {
+  const int Letzte = Daten.Zeilen() - 1, Zeile = *Daten.Zeile;
+  const int Höhe = std::max(verticalHeader()->defaultSectionSize(), 1);
+  const int Seite = std::max(viewport()->height() / Höhe, 1);
+  const int Oberste = std::max(rowAt(0), 0), Unterste = std::min(Oberste + Seite - 1, Letzte);
+  switch (Taste) {
+    case Qt::Key_Up:
+      return Ganz ? 0 : -1;  // a single row is a matter of the form
+    case Qt::Key_PageUp:
+      return Ganz ? 0 : std::max(Zeile - Seite, 0);
+    case Qt::Key_Home:
+      return Ganz ? 0 : Oberste;
+    case Qt::Key_Down:
+      return Ganz ? Letzte : -1;
+    case Qt::Key_PageDown:
+      return Ganz ? Letzte : std::min(Zeile + Seite, Letzte);
+    case Qt::Key_End:
+      return Ganz ? Letzte : Unterste;
+    default:
+      return -1;
+  }
 }
 
 void Gitteransicht::FeldRücken() {
   if (Feldzelle.isValid()) Zellfeld->setGeometry(visualRect(Feldzelle));
+}
+
+void Gitteransicht::resizeEvent(QResizeEvent* Ereignis) {
+  QTableView::resizeEvent(Ereignis);
+  FeldZeigen();
 }
 
 void Gitteransicht::updateGeometries() {

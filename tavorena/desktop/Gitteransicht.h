@@ -23,6 +23,9 @@ class Gitteransicht final : public QTableView {
   void ZustandZeigen();
   /// What takes the keys: the field of the current cell, if it is there.
   [[nodiscard]] QWidget* Fokusziel();
+  /// The row that a key leads to, up to the first or the last one with Ganz; Home and End lead to the first
+  /// and the last one that is seen. @return -1: no such key
+  [[nodiscard]] int Zielzeile(Qt::Key Taste, bool Ganz) const;
   /// The form is closed: its grid must not be looked at any more.
   void Lösen();
 
@@ -30,6 +33,7 @@ class Gitteransicht final : public QTableView {
 
  protected:
   void focusInEvent(QFocusEvent* Ereignis) override;
+  void resizeEvent(QResizeEvent* Ereignis) override;
   void updateGeometries() override;
   void scrollContentsBy(int dx, int dy) override;
   [[nodiscard]] QSize sizeHint() const override;
@@ -37,6 +41,7 @@ class Gitteransicht final : public QTableView {
  private:
   void SpaltenZeigen();
   void FeldSetzen();
+  void FeldZeigen();
   void FeldRücken();
 
   Gitter& Daten;

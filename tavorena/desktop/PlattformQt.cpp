@@ -18,6 +18,7 @@
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/desktop/Tastensperre.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
 namespace tavorena {
@@ -82,6 +83,7 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
   QMessageBox Kasten(Bild(Art, Titel), Q(Titel), Q(Text), QMessageBox::NoButton,
                      QApplication::activeWindow());
   Kasten.setTextFormat(Qt::PlainText);
+  if (FormularAnsicht::LiestEingabe()) new Tastensperre(Kasten);
   if (Art == Knöpfe::OK) {
     Kasten.addButton("&OK", QMessageBox::AcceptRole);
     Kasten.exec();
@@ -101,6 +103,7 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
 void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   if (!Modal) return Fenster.BlattZeigen(Form);
   Dialogfenster Dialog(Form, QApplication::activeWindow());
+  if (Form.Ungefragt) new Tastensperre(Dialog);
   Dialog.Zeigen();
 }
 

@@ -36,7 +36,8 @@ class Formular {
 
   const std::string FormName;  ///< name of the class, and of the one running window
   Gezeigt<std::string> Titel;
-  int Hilfenummer = 0;  ///< page of the handbook
+  int Hilfenummer = 0;     ///< page of the handbook
+  bool Ungefragt = false;  ///< a row opens it by itself: keys that were typed ahead are not meant for it
 
   [[nodiscard]] const std::vector<std::unique_ptr<Steuerelement>>& Steuerelemente() const { return Liste; }
   /// The control of that name, nullptr if there is none.

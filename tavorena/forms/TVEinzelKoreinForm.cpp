@@ -15,6 +15,7 @@ class TVEinzelKoreinForm final : public Dialogform {
   explicit TVEinzelKoreinForm(const std::string& Nummer)
       : Dialogform("TVEinzelKoreinForm", "Punkt " + Zitat(Nummer) + " nicht vorhanden") {
     Hilfenummer = 4010;
+    Ungefragt = true;
     const char* const Namen[] = {"Punktnr.:", "Rechts:", "Hoch:", "Höhe:", "Symbol:"};
     for (int i = 0; i < 5; ++i) BeschriftungAnlegen(Namen[i], {i, 0});
     Pnr.Text = Nummer;

@@ -195,8 +195,9 @@ int DateiVorhandenFrage(const std::string& Dateiname) {
 }
 
 int PunktVorhandenFrage(const std::string& Pnr) {
-  const int Knopf = Knopffrage("Punkt schon vorhanden:", Zitat(Pnr), {"&Weiter", "&Zurück"}, 0);
-  return Knopf == 0 ? 0 : 1;
+  Knopfform Form("Punkt schon vorhanden:", Zitat(Pnr), {"&Weiter", "&Zurück"}, 0);
+  Form.Ungefragt = true;
+  return Form.Zeigen() == 0 ? 0 : 1;
 }
 
 int PunktVorhandenOrientierungFrage(const std::string& Pnr) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+namespace tavorena {
+
+/// Keeps keys that were typed ahead out of a dialog that nobody asked for: until the dialog was drawn, and
+/// for a short time after, every key is dropped with a beep. It belongs to its dialog and goes by itself.
+class Tastensperre final : public QObject {
+ public:
+  explicit Tastensperre(QWidget& Dialog);
+
+ protected:
+  bool eventFilter(QObject* Objekt, QEvent* Ereignis) override;
+
+ private:
+  QWidget& Fenster;
+  bool Gezeichnet = false;
+};
+
+}  // namespace tavorena
