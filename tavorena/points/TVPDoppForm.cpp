@@ -10,6 +10,8 @@
 namespace tavorena {
 namespace {
 
+constexpr double Grenze = 0.06;  // dS above it is red [m]
+
 std::string Zahlentext(const Wert& Zahl) {
   return Trimmen(ZahlFormat(Zahl, 7, Optionen.OptNachkommastellen));
 }
@@ -18,6 +20,7 @@ class TVPDoppForm final : public Formular {
  public:
   explicit TVPDoppForm(const Konflikt& Frage) : Formular("TVPDoppForm"), Nummer(Frage.Pnr) {
     Titel = "Tavorena Punkt vorhanden";
+    Ungefragt = true;
     const auto z = static_cast<std::size_t>(Frage.Zeile);
     const char* const Spalten[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
     for (int i = 0; i < 5; ++i) BeschriftungAnlegen(Spalten[i], {0, i + 1}).Rechtsbündig = i < 4;
@@ -33,7 +36,10 @@ class TVPDoppForm final : public Formular {
     ErgebnisfeldAnlegen("DeltaHöhe", {3, 4}).Text =
         MitHoehe ? Zahlentext(KorHoehe[z] - Frage.Hoehe.Zahl()) : "";
     BeschriftungAnlegen("dS:", {4, 2});
-    ErgebnisfeldAnlegen("DeltaS", {4, 3}).Text = Zahlentext(Strecke(0, 0, dR, dH));
+    const double dS = Strecke(0, 0, dR, dH);
+    Feld& DeltaS = ErgebnisfeldAnlegen("DeltaS", {4, 3});
+    DeltaS.Text = Zahlentext(dS);
+    DeltaS.Fehlerhaft = dS > Grenze;
     Antwortknopf("PDoppAltenLöschen", "&Alten löschen", Konfliktwort::AltenErsetzen, {0, 0});
     Antwortknopf("PDoppNeuenLöschen", "&Neuen löschen", Konfliktwort::NeuenVerwerfen, {0, 1});
     Antwortknopf("PDoppMitteln", "&Mitteln", Konfliktwort::Mitteln, {0, 2});
@@ -60,6 +66,7 @@ class TVPDoppForm final : public Formular {
     F.Rechtsbündig = F.IstPnr = true;
     F.BeiVerlassen = [this, &F] { return NummerLesen(F); };
     F.BeiText = [this, &F] { NummerGeändert(F); };
+    F.BeiReturn = [this, &F] { NachNummer(F); };
     ErgebnisfeldAnlegen(Name + "Rechts", {Zeile, 2}).Text = Zahlentext(R);
     ErgebnisfeldAnlegen(Name + "Hoch", {Zeile, 3}).Text = Zahlentext(H);
     ErgebnisfeldAnlegen(Name + "Höhe", {Zeile, 4}, "", 9).Text = Zahlentext(Z);
@@ -97,6 +104,12 @@ class TVPDoppForm final : public Formular {
     const bool Anders = Trimmen(*F.Text) != Trimmen(Nummer);
     AltenNeunum->Aktiv = Alt && Anders;
     NeuenNeunum->Aktiv = !Alt && Anders;
+  }
+
+  // Return leads to the button that takes the new number; without one nothing is answered by accident.
+  void NachNummer(const Feld& F) {
+    Knopf& Sein = &F == AlterPnr ? *AltenNeunum : *NeuenNeunum;
+    FokusSetzen(Sein.Aktiv ? Sein : *Abbrechen);
   }
 
   std::string Nummer;

@@ -26,7 +26,16 @@ TEST_F(TVPDoppFormTest, ZeigtBeidePunkteUndIhreAbweichung) {
     EXPECT_EQ(Text(Form, "AlterPunktRechts") + "|" + Text(Form, "NeuerPunktRechts"), "100.000|104.000");
     EXPECT_EQ(Text(Form, "DeltaRechts") + "|" + Text(Form, "DeltaHoch"), "-4.000|3.000");  // old minus new
     EXPECT_EQ(Text(Form, "DeltaHöhe") + "|" + Text(Form, "DeltaS"), "-2.500|5.000");
+    EXPECT_TRUE(Feld(Form, "DeltaS").Fehlerhaft);
     EXPECT_EQ(Form.Fokus()->Name, "PDoppAbbruch");
+    Tippe(Form, "AlterPunktPnr", "\n");  // nothing changed
+    EXPECT_EQ(Form.Fokus()->Name, "PDoppAbbruch");
+    for (const char* Zeile : {"Alter", "Neuer"}) {  // the button of that row, and no other, is open
+      Tippe(Form, std::string(Zeile) + "PunktPnr", "77\n");
+      EXPECT_EQ(Form.Fokus()->Name,
+                std::string(Zeile == std::string("Alter") ? "PDoppAlten" : "PDoppNeuen") + "Neunum");
+      EXPECT_NE(*Form.Finde("PDoppAltenNeunum")->Aktiv, *Form.Finde("PDoppNeuenNeunum")->Aktiv);
+    }
     Form.TasteDrücken(Taste::Escape);
   });
   EXPECT_EQ(Code, -1);
