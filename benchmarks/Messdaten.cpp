@@ -36,7 +36,8 @@ class Messordner {
 class Meldezähler final : public Rückfragen {
  public:
   Meldezähler() { PortsSetzen({this, nullptr, nullptr, nullptr}); }
-  int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/) override {
+  int Meldung(const std::string& /*Text*/, Knöpfe /*Art*/, const std::string& /*Titel*/,
+              int /*Vorgabe*/) override {
     ++Anzahl;
     return KnopfAbbruch;
   }

@@ -1,6 +1,13 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Winkel.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Dialogform.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
@@ -62,11 +69,43 @@ class TVEinzelKoreinForm final : public Dialogform {
       if (!NurNummer() && F->Text->empty()) return FokusSetzen(*F);
     }
     if (KorSuche(Wert(*Pnr.Text)) >= 0 && PunktVorhandenFrage(Pnr.Text) != 0) return FokusSetzen(Pnr);
+    if (!NurNummer() && !FernpunktFrage(Pnr.Text, ZahlAusText(*Rechts.Text), ZahlAusText(*Hoch.Text)))
+      return FokusSetzen(Rechts);
     Fertig(0);
   }
 };
 
+// One coordinate of the table: its extent, and how near it comes to a value [m].
+struct Ausdehnung {
+  double Von = std::numeric_limits<double>::max(), Bis = std::numeric_limits<double>::lowest();
+  double Nächster = std::numeric_limits<double>::max();
+
+  void Nehmen(double Vorhanden, double Neu) {
+    Von = std::min(Von, Vorhanden);
+    Bis = std::max(Bis, Vorhanden);
+    Nächster = std::min(Nächster, std::fabs(Vorhanden - Neu));
+  }
+};
+
 }  // namespace
+
+bool FernpunktFrage(const std::string& Pnr, double Rechts, double Hoch) {
+  Ausdehnung R, H;
+  double Abstand = std::numeric_limits<double>::max();
+  for (int z = 0; z < KorAnzahl; ++z) {
+    const auto P = KorPunkt(z);
+    if (P.Rechts == 0 && P.Hoch == 0) continue;
+    R.Nehmen(P.Rechts, Rechts);
+    H.Nehmen(P.Hoch, Hoch);
+    Abstand = std::min(Abstand, Strecke(P.Rechts, P.Hoch, Rechts, Hoch));
+  }
+  const bool Leer = R.Bis < R.Von;
+  const double Grenze = Leer ? 0 : std::max({10000.0, 10 * (R.Bis - R.Von), 10 * (H.Bis - H.Von)});
+  if (Leer || std::max(R.Nächster, H.Nächster) <= Grenze) return true;
+  const std::string Km = Trimmen(ZahlFormat(Wert(Abstand / 1000), -1, 0));
+  return FrageJaNein("Punkt " + Pnr + " liegt " + Km + " km von allen anderen entfernt. Trotzdem aufnehmen ?",
+                     "Tavorena", KnopfNein) == KnopfJa;
+}
 
 int FormEinzelKorein(Wert& Pnr) {
   TVEinzelKoreinForm Form(Trimmen(Pnr));

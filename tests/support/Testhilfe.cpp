@@ -76,7 +76,8 @@ PlattformSkript::~PlattformSkript() {
 }
 
 int PlattformSkript::Meldung(const std::string& Text, Knöpfe /*Art*/, const std::string& Überschrift,
-                             int /*Vorgabe*/) {
+                             int Vorgabe) {
+  LetzteVorgabe = Vorgabe;
   BeiMeldung(Text);
   Titel.push_back(Überschrift);
   const auto [Stück, Antwort] = Nehmen(Offen, "message: " + Text);

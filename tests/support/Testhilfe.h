@@ -97,6 +97,7 @@ class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf,
   std::function<void()> BeiEreignissen = [] {};  ///< runs when the event queue is served
   std::array<std::string, 8> Status;
   std::vector<std::string> Titel;
+  int LetzteVorgabe = 0;  ///< default button of the last message box
   std::vector<Dateiauftrag> Aufträge;
   std::string Fenstertitel, Programmordner, Gestartet;
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};

@@ -163,6 +163,24 @@ TEST_F(BlattTest, FehlenderPunktWirdGefragt) {
   EXPECT_EQ(KorAnzahl, 6);
 }
 
+TEST_F(BlattTest, FernerPunktWirdGefragt) {
+  Skript.Erwarte("Punkt 9 liegt 6377 km von allen anderen entfernt. Trotzdem aufnehmen ?", KnopfNein);
+  EXPECT_FALSE(FernpunktFrage("9", 350010, 56002));
+  EXPECT_EQ(Skript.LetzteVorgabe, KnopfNein);
+  Skript.Erwarte("Punkt 9 liegt 10 km", KnopfJa);  // one coordinate is enough
+  EXPECT_TRUE(FernpunktFrage("9", 3500100, 5610361));
+  EXPECT_TRUE(FernpunktFrage("9", 3510219, 5610359));
+  Punkt("K", 0, 0);  // a heading of the file
+  Punkt("6", 3502500, 5600200);
+  EXPECT_TRUE(FernpunktFrage("9", 3526000, 5600200));  // within ten times the extent
+  auto B = Öffne("24.40");
+  Skript.Erwarte("liegt", KnopfNein);
+  Skript.Formulare.push_back(
+      Bediene({{"EinzelRechts", "1\n"}, {"EinzelHoch", "5600000\n\n\n"}, {"Abbrechen", ""}}));
+  Tippe(*B, "LinelAnfPnr", "9\n");
+  EXPECT_EQ(KorAnzahl, 7);
+}
+
 TEST_F(BlattTest, AndereBekannteNummerImPunktdialog) {
   auto B = Öffne("24.40");
   Skript.Formulare.push_back(Bediene({{"EinzelPnr", "1002"}, {"OK", ""}}));
