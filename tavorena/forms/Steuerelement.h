@@ -20,6 +20,9 @@ struct Platz {
   int Breite = 1;  ///< columns that it spans
 };
 
+/// Width of a point number, as long as the files hold it.
+inline constexpr int PnrZeichen = 14;
+
 /// The frame of the buttons at the foot of a form.
 inline constexpr const char* Knopfleiste = "#";
 

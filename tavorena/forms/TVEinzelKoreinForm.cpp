@@ -38,9 +38,9 @@ class TVEinzelKoreinForm final : public Dialogform {
     return KorSuche(Wert(*Pnr.Text)) >= 0 && Rechts.Text->empty() && Hoch.Text->empty();
   }
 
-  Feld& Pnr = FeldAnlegen("EinzelPnr", {0, 1});
-  Feld& Rechts = ZahlenfeldAnlegen("EinzelRechts", {1, 1});
-  Feld& Hoch = ZahlenfeldAnlegen("EinzelHoch", {2, 1});
+  Feld& Pnr = FeldAnlegen("EinzelPnr", {0, 1}, "", PnrZeichen);
+  Feld& Rechts = ZahlenfeldAnlegen("EinzelRechts", {1, 1}, "", PnrZeichen);
+  Feld& Hoch = ZahlenfeldAnlegen("EinzelHoch", {2, 1}, "", PnrZeichen);
   Feld& Hoehe = ZahlenfeldAnlegen("EinzelHöhe", {3, 1});
   Feld& Symbol = FeldAnlegen("EinzelSymbol", {4, 1});
 

@@ -31,13 +31,13 @@ class TVPDoppForm final : public Formular {
     BeschriftungAnlegen("Abweichungen (alt minus neu):", {3, 0, 2});
     const double dR = KorRechts[z] - Frage.Rechts, dH = KorHoch[z] - Frage.Hoch;
     const bool MitHoehe = KorHoehe[z] != 0 && Frage.Hoehe.Zahl() != 0;
-    ErgebnisfeldAnlegen("DeltaRechts", {3, 2}).Text = Zahlentext(dR);
-    ErgebnisfeldAnlegen("DeltaHoch", {3, 3}).Text = Zahlentext(dH);
-    ErgebnisfeldAnlegen("DeltaHöhe", {3, 4}).Text =
+    ErgebnisfeldAnlegen("DeltaRechts", {3, 2}, "", PnrZeichen).Text = Zahlentext(dR);
+    ErgebnisfeldAnlegen("DeltaHoch", {3, 3}, "", PnrZeichen).Text = Zahlentext(dH);
+    ErgebnisfeldAnlegen("DeltaHöhe", {3, 4}, "", 11).Text =
         MitHoehe ? Zahlentext(KorHoehe[z] - Frage.Hoehe.Zahl()) : "";
     BeschriftungAnlegen("dS:", {4, 2});
     const double dS = Strecke(0, 0, dR, dH);
-    Feld& DeltaS = ErgebnisfeldAnlegen("DeltaS", {4, 3});
+    Feld& DeltaS = ErgebnisfeldAnlegen("DeltaS", {4, 3}, "", PnrZeichen);
     DeltaS.Text = Zahlentext(dS);
     DeltaS.Fehlerhaft = dS > Grenze;
     Antwortknopf("PDoppAltenLöschen", "&Alten löschen", Konfliktwort::AltenErsetzen, {0, 0});
@@ -61,15 +61,15 @@ class TVPDoppForm final : public Formular {
   Feld& Punktzeile(const char* Label, const std::string& Name, int Zeile, const std::string& Pnr, double R,
                    double H, const Wert& Z, const std::string& Sy) {
     BeschriftungAnlegen(Label, {Zeile, 0});
-    Feld& F = FeldAnlegen(Name + "Pnr", {Zeile, 1});
+    Feld& F = FeldAnlegen(Name + "Pnr", {Zeile, 1}, "", PnrZeichen);
     F.Text = Trimmen(Pnr);
     F.Rechtsbündig = F.IstPnr = true;
     F.BeiVerlassen = [this, &F] { return NummerLesen(F); };
     F.BeiText = [this, &F] { NummerGeändert(F); };
     F.BeiReturn = [this, &F] { NachNummer(F); };
-    ErgebnisfeldAnlegen(Name + "Rechts", {Zeile, 2}).Text = Zahlentext(R);
-    ErgebnisfeldAnlegen(Name + "Hoch", {Zeile, 3}).Text = Zahlentext(H);
-    ErgebnisfeldAnlegen(Name + "Höhe", {Zeile, 4}, "", 9).Text = Zahlentext(Z);
+    ErgebnisfeldAnlegen(Name + "Rechts", {Zeile, 2}, "", PnrZeichen).Text = Zahlentext(R);
+    ErgebnisfeldAnlegen(Name + "Hoch", {Zeile, 3}, "", PnrZeichen).Text = Zahlentext(H);
+    ErgebnisfeldAnlegen(Name + "Höhe", {Zeile, 4}, "", 11).Text = Zahlentext(Z);
     Feld& Symbol = ErgebnisfeldAnlegen(Name + "Symbol", {Zeile, 5}, "", 5);
     Symbol.Text = Sy;
     Symbol.Rechtsbündig = false;

@@ -27,7 +27,7 @@ Anschluss::Anschluss(Rechenblatt& Für, std::function<void()> BeiWechsel)
 
 Feld& Anschluss::Messfeld(const char* Rest, const char* Label, Platz Ort, double& Zahl) {
   Blatt.BeschriftungAnlegen(Label, {Ort.Zeile, Ort.Spalte}, RahmenAnschluss);
-  Feld& F = Blatt.ZahlenfeldAnlegen(Blatt.Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, RahmenAnschluss, 10);
+  Feld& F = Blatt.ZahlenfeldAnlegen(Blatt.Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, RahmenAnschluss, 12);
   F.Text = Messwerttext(Zahl);
   F.BeiVerlassen = [this, &F, &Zahl] { return MesswertNehmen(F, Zahl); };
   Messfelder.push_back({F, Zahl});
@@ -36,7 +36,7 @@ Feld& Anschluss::Messfeld(const char* Rest, const char* Label, Platz Ort, double
 
 Feld& Anschluss::Ergebnis(const char* Rest, const char* Label, int Spalte) {
   Blatt.BeschriftungAnlegen(Label, {0, Spalte}, RahmenErgebnis);
-  return Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Rest), {0, Spalte + 1}, RahmenErgebnis, 10);
+  return Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Rest), {0, Spalte + 1}, RahmenErgebnis, Längenbreite(6));
 }
 
 // What was measured to another point does not belong to this one. A dialog on the way may have moved points.

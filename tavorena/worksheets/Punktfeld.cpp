@@ -8,10 +8,10 @@ namespace tavorena {
 Punktfeld::Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char* Label, const char* Rahmen,
                      int Zeile)
     : Pnr((Blatt.BeschriftungAnlegen(Label, {Zeile, 0}, Rahmen),
-           Blatt.ZahlenfeldAnlegen(Blatt.Mit(Welcher + "Pnr"), {Zeile, 1}, Rahmen, 10))),
-      Rechts(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Rechts"), {Zeile, 2}, Rahmen, 12)),
-      Hoch(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Hoch"), {Zeile, 3}, Rahmen, 12)),
-      H_he(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "H_he"), {Zeile, 4}, Rahmen, 9)),
+           Blatt.ZahlenfeldAnlegen(Blatt.Mit(Welcher + "Pnr"), {Zeile, 1}, Rahmen, PnrZeichen))),
+      Rechts(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Rechts"), {Zeile, 2}, Rahmen, Längenbreite(8))),
+      Hoch(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Hoch"), {Zeile, 3}, Rahmen, Längenbreite(8))),
+      H_he(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "H_he"), {Zeile, 4}, Rahmen, Längenbreite(4))),
       Sym(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Sym"), {Zeile, 5}, Rahmen, 5)) {
   Pnr.IstPnr = true;
   Pnr.Hilfe = "Punktnummer; + und - zählen weiter";

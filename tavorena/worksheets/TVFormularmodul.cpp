@@ -23,6 +23,8 @@ std::string PunktnummerSchritt(int Schritt) {
 
 std::string Längentext(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommastellen); }
 
+int Längenbreite(int Vorkomma) { return 1 + Vorkomma + 1 + Optionen.OptNachkommastellen; }
+
 std::string Messwerttext(double Zahl) {
   std::string Text = ZahlFormat(Zahl, -1, Messdezimalen);
   if (Optionen.OptNachkommastellen < Messdezimalen && Text.ends_with('0')) Text.pop_back();

@@ -19,6 +19,9 @@ std::string PunktnummerSchritt(int Schritt);
 /// Text of a coordinate or a computed length in a field: OptNachkommastellen decimals, no blanks.
 std::string Längentext(const Wert& Zahl);
 
+/// Width of a field of such texts with so many integer places, sign and point included [characters].
+int Längenbreite(int Vorkomma);
+
 /// Text of a measured value in a field. It is taken to 4 decimals, the precision in which the batch file
 /// keeps it, so that a replay computes with the same value; a fourth decimal of 0 is not shown with fewer
 /// decimals set.

@@ -24,7 +24,11 @@ TVPolelForm::TVPolelForm(const Blattart& BlattArt)
       D(Kopf.Ergebnis("D", "D:", 4)),
       Ws(Kopf.Ergebnis("Ws", "WS:", 6)),
       Zeilen(*this, Kopf,
-             {{"Punktnr.", 10, true}, {"Rechts", 12}, {"Hoch", 12}, {"Richtung", 12}, {"Strecke", 12}},
+             {{"Punktnr.", PnrZeichen, true},
+              {"Rechts", Längenbreite(8)},
+              {"Hoch", Längenbreite(8)},
+              {"Richtung", 12},
+              {"Strecke", Längenbreite(6)}},
              Kunde()) {
   Strecke.BeiReturn = [this] { AnschlussÖffnen(); };
   Zeilen.KnöpfeAnlegen([this] { AnschlussÖffnen(); });
