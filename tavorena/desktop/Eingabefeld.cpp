@@ -8,6 +8,17 @@ namespace tavorena {
 
 Eingabefeld::Eingabefeld(QWidget* Eltern) : QLineEdit(Eltern) {}
 
+void Eingabefeld::TextZeigen(const QString& Ganz, bool Kürzen) {
+  constexpr int Rand = 12;  // frame, padding and cursor [pixels]
+  const QString Kurz = Kürzen ? fontMetrics().elidedText(Ganz, Qt::ElideRight, width() - Rand) : Ganz;
+  setToolTip(Kurz != Ganz ? Ganz : "");
+  if (text() != Kurz) setText(Kurz);
+}
+
+QString Eingabefeld::Auswahltext() const {
+  return hasSelectedText() && !toolTip().isEmpty() ? toolTip() : selectedText();
+}
+
 void Eingabefeld::ErgebnisZeigen(bool An) {
   if (isReadOnly() == An) return;
   setReadOnly(An);

@@ -15,6 +15,11 @@ class Eingabefeld final : public QLineEdit {
   std::function<void()> BeiFokus;
   std::function<bool(bool Vor)> BeiTab;  ///< true: the focus was moved
 
+  /// Shows a text; one that is too long for a result ends with "…", and the tool tip has all of it.
+  void TextZeigen(const QString& Ganz, bool Kürzen);
+  /// The marked text; the whole one of a result that is shown in part.
+  [[nodiscard]] QString Auswahltext() const;
+
   /// A result: shown flat, never typed into.
   void ErgebnisZeigen(bool An);
   /// The value failed or exceeds its limit.

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -133,7 +134,7 @@ FormularAnsicht::Bild FormularAnsicht::FeldErzeugen(Feld& F) {
   Zeile->setAlignment(F.Rechtsbündig ? Qt::AlignRight : Qt::AlignLeft);
   FeldAnschließen(*Zeile, F);
   return {Zeile, [&F, Zeile] {
-            if (Zeile->text() != Q(F.Text)) Zeile->setText(Q(F.Text));
+            Zeile->TextZeigen(Q(F.Text), F.NurLesen);
             Zeile->ErgebnisZeigen(!Formular::NimmtFokus(F));  // one that is closed for now stays readable
             Zeile->FehlerhaftZeigen(F.Fehlerhaft);
           }};
@@ -150,6 +151,13 @@ FormularAnsicht::Bild FormularAnsicht::GitterErzeugen(Gitter& G) {
     const bool Eingabe = G.Spalten[static_cast<std::size_t>(Spalte)].Eingabe;
     Modell->ZelleWechseln(G, Zeile, Eingabe ? Spalte : *G.Spalte);
     FokusZeigen();
+  };
+  Tabelle->BeiEinfügen = [this, &G, Zelle] {
+    if (Modell == nullptr) return;
+    Zelle->setFocus();
+    FokusMelden(G);
+    const QString Text = QApplication::clipboard()->text();
+    if (!Einfügen(G, Text)) Zelle->insert(Text.trimmed());
   };
   return {Tabelle, [Tabelle] { Tabelle->ZustandZeigen(); }};
 }
@@ -227,10 +235,13 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(S));
   const bool Anfang = Zeile != nullptr && (Zeile->text().isEmpty() || Zeile->selectedText() == Zeile->text());
   const std::optional<Taste> T = TasteVon(Ereignis, Anfang);
+  if (Kopieren(S, Ereignis)) return true;
   FokusMelden(S);
   const bool IstEingabe = dynamic_cast<const Eingabeelement*>(&S) != nullptr;
   const QScopedValueRollback Liest(Lesetiefe, Lesetiefe + (IstEingabe ? 1 : 0));
   if (Modell == nullptr || Modell->Fokus() != &S) return true;  // the focus went back: the key is void
+  if (auto* G = dynamic_cast<Gitter*>(&S); G != nullptr && Ereignis.matches(QKeySequence::Paste))
+    return Einfügen(*G, QApplication::clipboard()->text());
   if (ZeileWechseln(S, Ereignis)) return true;
   if (!T || !Modell->TasteDrücken(*T)) return false;
   FokusZeigen();
@@ -242,13 +253,67 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   return true;
 }
 
+// Ctrl+C takes what is marked in the grid or in a result, and Shift with the arrows marks rows; any other key
+// ends the marking.
+bool FormularAnsicht::Kopieren(const Steuerelement& S, const QKeyEvent& Ereignis) {
+  const auto* G = dynamic_cast<const Gitter*>(&S);
+  const bool Auf = Ereignis.key() == Qt::Key_Up, Ab = Ereignis.key() == Qt::Key_Down;
+  if (G != nullptr && (Auf || Ab) && Ereignis.modifiers().testFlag(Qt::ShiftModifier)) {
+    Tabelle(*G).AuswahlErweitern(Auf ? -1 : 1);
+    return true;
+  }
+  const bool IstKopieren = Ereignis.matches(QKeySequence::Copy);
+  const bool Umschalter = Ereignis.text().isEmpty() && Ereignis.key() >= Qt::Key_Shift &&
+                          Ereignis.key() <= Qt::Key_AltGr;  // a key that is held does nothing by itself
+  QString Text;
+  for (const auto& [E, B] : Bilder) {
+    if (auto* Zeile = dynamic_cast<Eingabefeld*>(B.Widget); Zeile != nullptr && Zeile->isReadOnly()) {
+      if (Text.isEmpty()) Text = Zeile->Auswahltext();
+      if (!IstKopieren && !Umschalter) Zeile->deselect();
+    } else if (auto* Sicht = dynamic_cast<Gitteransicht*>(B.Widget)) {
+      if (Text.isEmpty()) Text = Sicht->Auswahltext();
+      if (!IstKopieren && !Umschalter) Sicht->clearSelection();
+    }
+  }
+  if (IstKopieren && !Text.isEmpty()) QApplication::clipboard()->setText(Text);
+  return IstKopieren && !Text.isEmpty();
+}
+
+// The first column of each line becomes a row, taken as if it had been typed; the first that is refused ends
+// it. A single line is only typed.
+bool FormularAnsicht::Einfügen(Gitter& G, const QString& Text) {
+  QStringList Nummern;
+  for (const QString& Zeile : Text.split('\n')) {
+    const QString Nummer = Zeile.section('\t', 0, 0).trimmed();
+    if (!Nummer.isEmpty()) Nummern << Nummer;
+  }
+  if (Nummern.size() < 2 && !Text.contains('\t')) return false;
+  int Anzahl = 0;
+  for (const QString& Nummer : Nummern) {
+    if (Modell == nullptr || Modell->Fokus() != &G) break;
+    const int Vorher = G.Zeile;
+    Modell->Tippen(G, Nummer.toStdString());
+    if (Nummern.size() == 1) return true;
+    Modell->TasteDrücken(Taste::Return);
+    if (G.Zeile == Vorher) break;
+    ++Anzahl;
+  }
+  FokusZeigen();
+  FokusMarkieren();
+  StatusHilfeSetzen(Anzahl == 1 ? "1 Zeile eingefügt" : std::to_string(Anzahl) + " Zeilen eingefügt");
+  return true;
+}
+
+Gitteransicht& FormularAnsicht::Tabelle(const Gitter& G) const {
+  return dynamic_cast<Gitteransicht&>(*Bilder.at(&G).Widget);
+}
+
 // The keys that lead to another row of a grid.
 bool FormularAnsicht::ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis) {
   auto* G = dynamic_cast<Gitter*>(&S);
   if (G == nullptr) return false;
   const bool Ganz = Ereignis.modifiers().testFlag(Qt::ControlModifier);
-  const auto& Tabelle = dynamic_cast<const Gitteransicht&>(*Bilder.at(G).Widget);
-  const int Ziel = Tabelle.Zielzeile(static_cast<Qt::Key>(Ereignis.key()), Ganz);
+  const int Ziel = Tabelle(*G).Zielzeile(static_cast<Qt::Key>(Ereignis.key()), Ganz);
   if (Ziel < 0) return false;
   Modell->ZelleWechseln(*G, Ziel, *G->Spalte);
   FokusZeigen();
@@ -291,7 +356,7 @@ void FormularAnsicht::SteuerelementGeändert(Steuerelement& S) {
 
 void FormularAnsicht::GitterGeändert(Gitter& G, const Gitteränderung& Was) {
   const QScopedValueRollback<bool> Sperre(Auffrischend, true);
-  dynamic_cast<Gitteransicht&>(*Bilder.at(&G).Widget).Übernehmen(Was);
+  Tabelle(G).Übernehmen(Was);
 }
 
 void FormularAnsicht::TitelGeändert() { setWindowTitle(Q(Modell->Titel)); }

@@ -1,19 +1,29 @@
 #include <algorithm>
 
 #include <QAbstractTableModel>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QMenu>
 
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/Gitteransicht.h>
 
 namespace tavorena {
+namespace {
+
+constexpr int Zellrand = 12;  // pixels of a column beside its characters
+
+}  // namespace
 
 /// The cells of a Gitter for the table view; nothing is kept twice.
 class Gittermodell final : public QAbstractTableModel {
  public:
-  Gittermodell(const Gitter& Zeigt, QObject* Eltern) : QAbstractTableModel(Eltern), Daten(&Zeigt) {}
+  Gittermodell(const Gitter& Zeigt, QTableView* Für)
+      : QAbstractTableModel(Für), Ansicht(Für), Daten(&Zeigt) {}
 
   [[nodiscard]] int rowCount(const QModelIndex& Eltern = {}) const override {
     return Eltern.isValid() ? 0 : Zeilen;
@@ -25,6 +35,7 @@ class Gittermodell final : public QAbstractTableModel {
     if (Daten == nullptr || !Zelle.isValid() || Zelle.row() >= Daten->Zeilen()) return {};
     if (Rolle == Qt::DisplayRole) return QString::fromStdString(Daten->Inhalt(Zelle.row(), Zelle.column()));
     if (Rolle == Qt::TextAlignmentRole) return Bündig(Zelle.column());
+    if (Rolle == Qt::ToolTipRole) return Gekürztes(Zelle);
     return {};
   }
   [[nodiscard]] QVariant headerData(int Spalte, Qt::Orientation Richtung, int Rolle) const override {
@@ -59,6 +70,14 @@ class Gittermodell final : public QAbstractTableModel {
     return QVariant::fromValue(Qt::Alignment((Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
   }
 
+  // A text that the column shows only in part.
+  [[nodiscard]] QVariant Gekürztes(const QModelIndex& Zelle) const {
+    const QString Text = data(Zelle, Qt::DisplayRole).toString();
+    const int Platz = Ansicht->columnWidth(Zelle.column()) - Zellrand / 2;
+    return Ansicht->fontMetrics().horizontalAdvance(Text) > Platz ? QVariant(Text) : QVariant();
+  }
+
+  const QTableView* Ansicht;
   const Gitter* Daten;  // nullptr after the form was closed
   const int SpaltenAnzahl = static_cast<int>(Daten->Spalten.size());
   int Zeilen = 0;
@@ -69,7 +88,7 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   setModel(Modell);
   setFont(Zahlenschrift());
   setEditTriggers(NoEditTriggers);
-  setSelectionMode(NoSelection);
+  setSelectionMode(ContiguousSelection);
   setTabKeyNavigation(false);
   setAlternatingRowColors(true);
   setShowGrid(false);
@@ -79,11 +98,12 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   for (int s = 0; s < Modell->columnCount(); ++s) {
-    setColumnWidth(s, Zeichenbreite(font(), Daten.Spalten[static_cast<std::size_t>(s)].Zeichen) + 12);
+    setColumnWidth(s, Zeichenbreite(font(), Daten.Spalten[static_cast<std::size_t>(s)].Zeichen) + Zellrand);
   }
   Zellfeld->setParent(viewport());
   Zellfeld->setFont(font());
   Zellfeld->setAlignment(Qt::AlignRight);
+  Zellfeld->setContextMenuPolicy(Qt::NoContextMenu);  // that of the grid comes
   Zellfeld->hide();
   Übernehmen({0, Daten.Zeilen(), true, true, true});
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Gitteransicht::FeldRücken);
@@ -173,6 +193,52 @@ void Gitteransicht::FeldRücken() {
   if (Feldzelle.isValid()) Zellfeld->setGeometry(visualRect(Feldzelle));
 }
 
+void Gitteransicht::AuswahlErweitern(int Schritt) {
+  if (!selectionModel()->hasSelection()) Markende = *Daten.Zeile;
+  Markende = std::clamp(Markende + Schritt, 0, std::max(Daten.Zeilen() - 1, 0));
+  ZeilenMarkieren(*Daten.Zeile, Markende);
+  scrollTo(Modell->index(Markende, 0));
+}
+
+void Gitteransicht::ZeilenMarkieren(int Von, int Bis) {
+  selectionModel()->select(
+      {Modell->index(std::min(Von, Bis), 0), Modell->index(std::max(Von, Bis), Modell->columnCount() - 1)},
+      QItemSelectionModel::ClearAndSelect);
+}
+
+QString Gitteransicht::Auswahltext() const {
+  QStringList Zeilen;
+  for (const QItemSelectionRange& Block : selectionModel()->selection()) {
+    for (int z = Block.top(); z <= Block.bottom(); ++z) {
+      QStringList Zellen;
+      for (int s = Block.left(); s <= Block.right(); ++s) {
+        if (!isColumnHidden(s)) Zellen << Modell->index(z, s).data().toString();
+      }
+      Zeilen << Zellen.join('\t');
+    }
+  }
+  return Zeilen.join('\n');
+}
+
+void Gitteransicht::contextMenuEvent(QContextMenuEvent* Ereignis) {
+  QMenu Menü(this);
+  const auto Kopieren = [this] {
+    const QString Text = Auswahltext();
+    QGuiApplication::clipboard()->setText(Text.isEmpty() ? Zellfeld->text() : Text);
+  };
+  Menü.addAction("&Kopieren\tStrg+C", this, Kopieren);
+  Menü.addAction("&Zeile kopieren", this, [this, Kopieren] {
+    ZeilenMarkieren(*Daten.Zeile, *Daten.Zeile);
+    Kopieren();
+  });
+  Menü.addAction("&Einfügen\tStrg+V", this,
+                 [this] {
+                   if (BeiEinfügen) BeiEinfügen();
+                 })
+      ->setEnabled(Feldzelle.isValid());
+  Menü.exec(Ereignis->globalPos());
+}
+
 void Gitteransicht::resizeEvent(QResizeEvent* Ereignis) {
   QTableView::resizeEvent(Ereignis);
   FeldZeigen();
@@ -195,7 +261,7 @@ void Gitteransicht::focusInEvent(QFocusEvent* Ereignis) {
 
 QSize Gitteransicht::sizeHint() const {
   int Breite = 2 * frameWidth() + 24;
-  for (const Gitterspalte& S : Daten.Spalten) Breite += Zeichenbreite(font(), S.Zeichen) + 12;
+  for (const Gitterspalte& S : Daten.Spalten) Breite += Zeichenbreite(font(), S.Zeichen) + Zellrand;
   return {Breite, 8 * verticalHeader()->defaultSectionSize()};
 }
 

@@ -26,12 +26,18 @@ class Gitteransicht final : public QTableView {
   /// The row that a key leads to, up to the first or the last one with Ganz; Home and End lead to the first
   /// and the last one that is seen. @return -1: no such key
   [[nodiscard]] int Zielzeile(Qt::Key Taste, bool Ganz) const;
+  /// Marks one more row above or below the current one, for copying.
+  void AuswahlErweitern(int Schritt);
+  /// The marked cells, tabs between columns and a line for each row; "" if none is marked.
+  [[nodiscard]] QString Auswahltext() const;
   /// The form is closed: its grid must not be looked at any more.
   void Lösen();
 
   std::function<void(int Zeile, int Spalte)> BeiZelle;  ///< the user clicked a cell
+  std::function<void()> BeiEinfügen;                    ///< the user wants the clipboard as rows
 
  protected:
+  void contextMenuEvent(QContextMenuEvent* Ereignis) override;
   void focusInEvent(QFocusEvent* Ereignis) override;
   void resizeEvent(QResizeEvent* Ereignis) override;
   void updateGeometries() override;
@@ -40,6 +46,7 @@ class Gitteransicht final : public QTableView {
 
  private:
   void SpaltenZeigen();
+  void ZeilenMarkieren(int Von, int Bis);
   void FeldSetzen();
   void FeldZeigen();
   void FeldRücken();
@@ -48,6 +55,7 @@ class Gitteransicht final : public QTableView {
   Gittermodell* Modell;
   Eingabefeld* Zellfeld;
   QPersistentModelIndex Feldzelle;
+  int Markende = 0;  // row that the marking has come to
 };
 
 }  // namespace tavorena

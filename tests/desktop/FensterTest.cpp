@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -364,6 +365,41 @@ class FensterTest : public QObject {
     zelleSteht(29);
     Fenster->resize(Fenster->width(), Fenster->height() - 150);
     zelleSteht(29);
+  }
+
+  void kopierenUndEinfuegen() {
+    Öffne("MenüKatasterLinel");
+    Tippe("1001\n1002\n0\n0\n");
+    QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
+    QClipboard* const Ablage = QApplication::clipboard();
+    Ablage->setText("2003\t3500130\r\n2004\r\n\r\n2005\r\n77\r\n1001\r\n");
+    Antworte(Qt::Key_Escape, Qt::NoModifier);
+    Drücke(Qt::Key_V, Qt::ControlModifier);
+    QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
+    zelleSteht(3);
+    QCOMPARE(Feldtext(), QString("77"));  // refused: what is behind it stays away
+    QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 3);
+    Drücke(Qt::Key_Escape);
+    Drücke(Qt::Key_Up);
+    Drücke(Qt::Key_Up, Qt::ShiftModifier);
+    QCOMPARE(Feldtext(), QString("2005"));  // only the marking moves
+    Drücke(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(Ablage->text(), QString("2004\t3500100.000\t5600275.000\t60.000\t-45.000\n"
+                                     "2005\t3500220.000\t5600360.000\t200.000\t0.000"));
+    auto* L = Fenster->findChild<QLineEdit*>("LinelL");
+    QTest::mouseDClick(L, Qt::LeftButton);
+    L->selectAll();
+    Drücke(Qt::Key_Down);  // what was marked before counts no more
+    L->selectAll();
+    Drücke(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(Ablage->text(), QString("100.000"));
+    const auto* Tabelle = Fenster->findChild<QTableView*>("LinelGitter");
+    const QRect Zelle = Tabelle->visualRect(Tabelle->model()->index(1, 4));
+    QTest::mouseClick(Tabelle->viewport(), Qt::LeftButton, {}, Zelle.center());
+    L->deselect();
+    Drücke(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(Ablage->text(), QString("-45.000"));
+    zelleSteht(1);
   }
 
   void langesLesenLaesstSichAnhalten() {
