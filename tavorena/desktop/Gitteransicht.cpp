@@ -193,6 +193,19 @@ void Gitteransicht::FeldRücken() {
   if (Feldzelle.isValid()) Zellfeld->setGeometry(visualRect(Feldzelle));
 }
 
+QList<int> Gitteransicht::Breiten() const {
+  QList<int> Alle;
+  for (int s = 0; s < Modell->columnCount(); ++s) Alle << (isColumnHidden(s) ? 0 : columnWidth(s));
+  return Alle;
+}
+
+void Gitteransicht::BreitenSetzen(const QList<int>& Neue) {
+  if (Neue.size() != Modell->columnCount()) return;
+  for (int s = 0; s < Modell->columnCount(); ++s) {
+    if (Neue[s] > 0) setColumnWidth(s, Neue[s]);
+  }
+}
+
 void Gitteransicht::AuswahlErweitern(int Schritt) {
   if (!selectionModel()->hasSelection()) Markende = *Daten.Zeile;
   Markende = std::clamp(Markende + Schritt, 0, std::max(Daten.Zeilen() - 1, 0));

@@ -26,6 +26,9 @@ class Gitteransicht final : public QTableView {
   /// The row that a key leads to, up to the first or the last one with Ganz; Home and End lead to the first
   /// and the last one that is seen. @return -1: no such key
   [[nodiscard]] int Zielzeile(Qt::Key Taste, bool Ganz) const;
+  /// Widths of the columns [pixels]; those of another number of columns are not taken.
+  [[nodiscard]] QList<int> Breiten() const;
+  void BreitenSetzen(const QList<int>& Neue);
   /// Marks one more row above or below the current one, for copying.
   void AuswahlErweitern(int Schritt);
   /// The marked cells, tabs between columns and a line for each row; "" if none is marked.

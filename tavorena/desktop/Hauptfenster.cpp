@@ -2,11 +2,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTime>
@@ -15,6 +17,7 @@
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Handbuch.h>
@@ -43,6 +46,17 @@ bool NeueGruppe(std::string_view Bild) {
          Bild == "ImageVR0900" || Bild == "ImageVWS" || Bild == "ImageProgrammende";
 }
 
+// A caption without the mark of its letter; "&&" stays the sign itself.
+QString OhneBuchstabe(const QString& Titel) {
+  QStringList Teile = Titel.split("&&");
+  for (QString& Teil : Teile) Teil.remove('&');
+  return Teile.join("&&");
+}
+
+QString Schlüssel(const Formular& Form, const char* Was) {
+  return QString::fromStdString(Form.FormName) + "/" + Was;
+}
+
 /// A worksheet in the work area; closing it asks the form first.
 class Blattfenster final : public QMdiSubWindow {
  public:
@@ -50,7 +64,8 @@ class Blattfenster final : public QMdiSubWindow {
     setWidget(Ansicht);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowIcon(Programmsymbol());
-    Ansicht->BeiGeschlossen = [this] {
+    Ansicht->BeiGeschlossen = [this, Name = QString::fromStdString(Zeigt->Form()->FormName)] {
+      PlatzMerken(Name);
       hide();
       deleteLater();
     };
@@ -64,6 +79,14 @@ class Blattfenster final : public QMdiSubWindow {
   }
 
  private:
+  // One that shares the work area has no size of its own.
+  void PlatzMerken(const QString& Name) const {
+    Fensterplatz Platz;
+    if (!isMaximized() && mdiArea()->subWindowList().size() == 1) Platz.Merken(Name + "/Größe", size());
+    if (const auto* Gitter = Ansicht->findChild<Gitteransicht*>())
+      Platz.Merken(Name + "/Spalten", Gitter->Breiten());
+  }
+
   FormularAnsicht* Ansicht;
 };
 
@@ -93,7 +116,24 @@ Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
   Hilfe->setShortcutContext(Qt::ApplicationShortcut);
   connect(Hilfe, &QAction::triggered, this, &Hauptfenster::HilfeZeigen);
   addAction(Hilfe);
-  resize(1280, 800);
+  qApp->installEventFilter(this);
+  // It fits into the work area, its frame included.
+  resize(QSize(1280, 800).boundedTo(screen()->availableSize() - QSize(20, 60)));
+}
+
+void Hauptfenster::PlatzLesen() {
+  Fensterplatz Platz;
+  restoreGeometry(Platz.Bytes("Hauptfenster/Platz"));
+  restoreState(Platz.Bytes("Hauptfenster/Leisten"));
+  Protokollbreite = Platz.Zahl("Protokoll/Breite");
+  Protokollrahmen->hide();  // whether it is shown is an option
+}
+
+void Hauptfenster::PlatzSchreiben() const {
+  Fensterplatz Platz;
+  Platz.Merken("Hauptfenster/Platz", saveGeometry());
+  Platz.Merken("Hauptfenster/Leisten", saveState());
+  if (Protokollrahmen->isVisible()) Platz.Merken("Protokoll/Breite", Protokollrahmen->width());
 }
 
 void Hauptfenster::MenüsBauen() {
@@ -130,8 +170,11 @@ void Hauptfenster::SymbolleisteBauen() {
   Leiste->setContextMenuPolicy(Qt::PreventContextMenu);
   for (const Werkzeug& W : Symbolleiste()) {
     if (NeueGruppe(W.Name)) Leiste->addSeparator();
-    QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis).trimmed());
+    QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis));
+    A->setToolTip(W.Hinweis);
     A->setObjectName(W.Name);
+    // It is open only while something long runs; then the key belongs to nobody else.
+    if (std::string_view(W.Name) == "ImageStop") A->setShortcut(QKeySequence(Qt::Key_Escape));
     connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusführen(W); });
     connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(Kern().Hinweis(W)); });
     Bilder.emplace_back(&W, A);
@@ -176,7 +219,8 @@ void Hauptfenster::ProtokollZeigen() {
   Schrift.setPointSize(Optionen.SchriftgroesseProtokoll);
   Protokolltext->setFont(Schrift);
   // A line of the protocol without its print margin fits in.
-  if (Neu) resizeDocks({Protokollrahmen}, {Zeichenbreite(Schrift, 74) + 30}, Qt::Horizontal);
+  const int Breite = Protokollbreite > 0 ? Protokollbreite : Zeichenbreite(Schrift, 74) + 30;
+  if (Neu) resizeDocks({Protokollrahmen}, {Breite}, Qt::Horizontal);
   ProtokollNachziehen();
 }
 
@@ -199,7 +243,7 @@ void Hauptfenster::Auffrischen() {
     A->setVisible(Kern().Sichtbar(*E));
     QString Titel = QString::fromStdString(Kern().Titel(*E));
     // A disabled entry leaves its letter to the others, with which Qt would let it take turns.
-    if (!Kern().Aktiv(*E)) Titel.remove('&');
+    if (!Kern().Aktiv(*E)) Titel = OhneBuchstabe(Titel);
     A->setEnabled(Kern().Aktiv(*E));
     A->setText(Titel);
     const std::string_view Grund = Kern().Grund(*E);
@@ -217,13 +261,34 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   auto* Fenster = new Blattfenster(Ansicht);
   Flaeche->addSubWindow(Fenster);
   // Room for a few rows, as far as the work area has it.
-  const QSize Wunsch = Fenster->sizeHint();
-  const bool MitGitter = Ansicht->findChild<Gitteransicht*>() != nullptr;
-  Fenster->resize(Wunsch.width(),
-                  MitGitter ? std::max(Wunsch.height(), Flaeche->height() - 40) : Wunsch.height());
+  QSize Wunsch = Fenster->sizeHint();
+  auto* Gitter = Ansicht->findChild<Gitteransicht*>();
+  if (Gitter != nullptr) Wunsch.setHeight(std::max(Wunsch.height(), Flaeche->height() - 40));
+  const Fensterplatz Platz;
+  const QSize Letzte = Platz.Größe(Schlüssel(Form, "Größe"));
+  BlattStellen(*Fenster, Letzte.isEmpty() ? Wunsch : Letzte.boundedTo(Flaeche->size()));
+  if (Gitter != nullptr) Gitter->BreitenSetzen(Platz.Zahlen(Schlüssel(Form, "Spalten")));
   Fenster->show();
   Form.Öffnen();
   if (Ansicht->Form() != nullptr) Ansicht->FokusZeigen();
+}
+
+// A second worksheet stands beside the first one, or below it where the work area is too narrow: both are to
+// be seen.
+void Hauptfenster::BlattStellen(QMdiSubWindow& Neues, QSize Wunsch) {
+  QMdiSubWindow* Altes = nullptr;
+  for (QMdiSubWindow* F : Flaeche->subWindowList()) {
+    if (F != &Neues && F->isVisible()) Altes = F;
+  }
+  if (Altes == nullptr || Altes->isMaximized()) return Neues.resize(Wunsch);
+  const QSize Platz = Flaeche->viewport()->size();
+  if (Altes->width() + Wunsch.width() <= Platz.width()) {
+    Altes->move(0, 0);
+    Neues.setGeometry(QRect(QPoint(Altes->width(), 0), Wunsch));
+  } else {
+    Altes->setGeometry(0, 0, Altes->width(), Platz.height() / 2);
+    Neues.setGeometry(0, Platz.height() / 2, Wunsch.width(), Platz.height() / 2);
+  }
 }
 
 void Hauptfenster::StatusSetzen(Statusfeld Feld, const QString& Text) {
@@ -259,15 +324,23 @@ bool Hauptfenster::event(QEvent* Ereignis) {
 
 // The mouse over the bare work area clears the help text.
 bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
+  // A dialog closes the shortcuts of the window that it stands before: F1 works all the same.
+  if (Ereignis->type() == QEvent::KeyPress && QApplication::activeModalWidget() != nullptr &&
+      static_cast<const QKeyEvent&>(*Ereignis).key() == Qt::Key_F1) {
+    HilfeZeigen();
+    return true;
+  }
   if (Objekt == Flaeche->viewport() && Ereignis->type() == QEvent::MouseMove) StatusHilfeSetzen("");
   return QMainWindow::eventFilter(Objekt, Ereignis);
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* Ereignis) {
-  if (Ende) return Ereignis->accept();
-  Ereignis->ignore();
-  if (Kern().IstBeschäftigt() || HauptBeenden() < 0) return;
-  Ende = true;
+  if (!Ende) {
+    Ereignis->ignore();
+    if (Kern().IstBeschäftigt() || HauptBeenden() < 0) return;
+    Ende = true;
+  }
+  PlatzSchreiben();
   Ereignis->accept();
   QCoreApplication::quit();
 }

@@ -14,6 +14,7 @@ class QAction;
 class QDockWidget;
 class QLabel;
 class QMdiArea;
+class QMdiSubWindow;
 class QMenu;
 class QPlainTextEdit;
 
@@ -27,6 +28,8 @@ class Hauptfenster final : public QMainWindow {
  public:
   Hauptfenster();
 
+  /// Takes over place, size and state of the last run.
+  void PlatzLesen();
   /// Takes over menus, tool bar and protocol window.
   void Auffrischen();
   void BlattZeigen(Formular& Form);
@@ -51,6 +54,8 @@ class Hauptfenster final : public QMainWindow {
   void ProtokollZeigen();
   void ProtokollNachziehen();
   void HilfeZeigen();
+  void PlatzSchreiben() const;
+  void BlattStellen(QMdiSubWindow& Neues, QSize Wunsch);
 
   std::map<const Menüeintrag*, QAction*> Einträge;
   std::vector<std::pair<const Werkzeug*, QAction*>> Bilder;
@@ -62,6 +67,7 @@ class Hauptfenster final : public QMainWindow {
   QTimer TerminatorTimer;
   QTimer Uhr;
   QTimer Protokolluhr;
+  int Protokollbreite = 0;  // of the last run [pixels]; 0: none is known
   bool Ende = false;
 };
 

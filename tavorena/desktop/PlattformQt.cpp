@@ -36,7 +36,7 @@ class Dialogfenster final : public QDialog {
     auto* Platz = new QVBoxLayout(this);
     Platz->setContentsMargins(0, 0, 0, 0);
     Platz->addWidget(Ansicht);
-    setModal(true);
+    setWindowModality(Qt::WindowModal);
     setMinimumWidth(Zeichenbreite(font(), 45));  // the title is to be read
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
@@ -72,6 +72,12 @@ QString QtFilter(const std::string& Filter) {
   return Einträge.join(";;");
 }
 
+// The handbook stays usable beside a dialog: the dialog closes only what it stands before.
+QWidget* Davor(Hauptfenster& Fenster) {
+  QWidget* Dialog = QApplication::activeModalWidget();
+  return Dialog != nullptr ? Dialog : &Fenster;
+}
+
 QMessageBox::Icon Bild(Knöpfe Art, const std::string& Titel) {
   if (Art != Knöpfe::OK) return QMessageBox::Question;
   return Titel == "Tavorena Fehlermeldung" ? QMessageBox::Critical : QMessageBox::Information;
@@ -80,8 +86,9 @@ QMessageBox::Icon Bild(Knöpfe Art, const std::string& Titel) {
 }  // namespace
 
 int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) {
-  QMessageBox Kasten(Bild(Art, Titel), Q(Titel), Q(Text), QMessageBox::NoButton,
-                     QApplication::activeWindow());
+  QMessageBox Kasten(Bild(Art, Titel), Q(Titel), Q(Text), QMessageBox::NoButton, Davor(Fenster));
+  Kasten.setWindowModality(Qt::WindowModal);
+  Kasten.setTextInteractionFlags(Qt::TextSelectableByMouse);
   Kasten.setTextFormat(Qt::PlainText);
   if (FormularAnsicht::LiestEingabe()) new Tastensperre(Kasten);
   if (Art == Knöpfe::OK) {
@@ -102,14 +109,14 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
 
 void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   if (!Modal) return Fenster.BlattZeigen(Form);
-  Dialogfenster Dialog(Form, QApplication::activeWindow());
+  Dialogfenster Dialog(Form, Davor(Fenster));
   if (Form.Ungefragt) new Tastensperre(Dialog);
   Dialog.Zeigen();
 }
 
 std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
-  QFileDialog Dialog(QApplication::activeWindow(), Q(Auftrag.Titel), Pfad(Auftrag.Ordner),
-                     QtFilter(Auftrag.Filter));
+  QFileDialog Dialog(Davor(Fenster), Q(Auftrag.Titel), Pfad(Auftrag.Ordner), QtFilter(Auftrag.Filter));
+  Dialog.setWindowModality(Qt::WindowModal);
   Dialog.setAcceptMode(Auftrag.NurVorhandene ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   Dialog.setFileMode(Auftrag.NurVorhandene ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   Dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks in its own words

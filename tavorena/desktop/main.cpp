@@ -9,6 +9,7 @@
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
 
 using namespace tavorena;
@@ -92,6 +93,8 @@ int main(int argc, char** argv) {
   PlattformQt Qt(Fenster);
   PortsSetzen(PortsVon(Qt));
   HauptAnschließen();
+  DateinamenAbleiten();
+  Fenster.PlatzLesen();
   Fenster.show();
   const QStringList Dateien = Zeile.positionalArguments();
   const auto Starten = [&Dateien] {

@@ -1,3 +1,7 @@
+#include <algorithm>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Protokollfenster.h>
 
@@ -26,6 +30,21 @@ void Fenstertext::Leeren() {
   const int Nächster = Beginn + 1;
   *this = {};
   Beginn = Nächster;
+}
+
+void FensterAusDatei(const std::string& Protokolldatei) {
+  Protokollfenster.Leeren();
+  AnzeigePort().ProtokollGeändert();
+  std::string Text;
+  if (Protokolldatei.empty() || TextdateiLesen(Protokolldatei, Text) < 0) return;
+  std::erase_if(Text, [](char c) { return c == '\r' || c == '\f'; });
+  std::size_t Ab = Text.size() > Grenze ? Text.find('\n', Text.size() - Grenze) + 1 : 0;
+  while (Ab < Text.size()) {
+    const std::size_t Ende = std::min(Text.find('\n', Ab), Text.size());
+    const std::string_view Zeile = std::string_view(Text).substr(Ab, Ende - Ab);
+    Protokollfenster.Anhängen(std::string(Zeile.starts_with("      ") ? Zeile.substr(6) : Zeile) + "\n");
+    Ab = Ende + 1;
+  }
 }
 
 Fensterwechsel FensterLesen(const Fenstertext& Fenster, Fensterstand& Stand) {

@@ -26,6 +26,9 @@ struct Fenstertext {
 
 extern Fenstertext Protokollfenster;
 
+/// Shows the end of a protocol that exists, without its print margin; of any other name nothing.
+void FensterAusDatei(const std::string& Protokolldatei);
+
 /// How far a reader has come.
 struct Fensterstand {
   int Beginn = -1;

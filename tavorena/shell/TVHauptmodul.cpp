@@ -49,6 +49,7 @@ int ProtokollNehmenFragen(std::string Name) {
     }
   }
   ProtokollNehmen(Name);
+  FensterAusDatei(Name);
   return 0;
 }
 

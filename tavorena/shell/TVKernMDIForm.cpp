@@ -90,7 +90,10 @@ std::string_view TVKernMDIForm::Grund(const Menüeintrag& E) const {
 std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
   if (!IstHist(E)) return E.Titel;
   const int i = HistIndex(IndexVon(E.Name));
-  return i >= 0 ? Historie[static_cast<std::size_t>(i)].Dateiname : "";
+  std::string Name = i >= 0 ? Historie[static_cast<std::size_t>(i)].Dateiname : "";
+  for (std::size_t k = Name.find('&'); k != std::string::npos; k = Name.find('&', k + 2))
+    Name.insert(k, 1, '&');
+  return Name;  // in a caption "&&" is the sign itself
 }
 
 std::string_view TVKernMDIForm::Grund(const Werkzeug& W) const {

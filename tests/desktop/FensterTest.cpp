@@ -5,10 +5,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDockWidget>
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRegularExpression>
@@ -44,7 +47,7 @@ class Testplattform final : public PlattformQt {
   Zeitpunkt Jetzt() override { return {2003, 2, 1, 10, 15}; }
   double Zeitgeber() override { return Sekunden += 1; }
   void EreignisseAbarbeiten() override {
-    if (StopDrücken) Fenster.findChild<QAction*>("ImageStop")->trigger();
+    if (StopDrücken) QTest::keyClick(&Fenster, Qt::Key_Escape);
     PlattformQt::EreignisseAbarbeiten();
   }
   bool StopDrücken = false;
@@ -400,6 +403,60 @@ class FensterTest : public QObject {
     Drücke(Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(Ablage->text(), QString("-45.000"));
     zelleSteht(1);
+  }
+
+  void fensterUndProtokollKommenWieder() {
+    const QString Ablage = Pfad("app/TavorenaFenster.ini");
+    QFile::remove(Ablage);
+    Öffne("MenüKatasterLinel");
+    Optionen.ProtokollfensterAn = true;
+    Fenster->Auffrischen();
+    QVERIFY(!QFile::exists(Ablage));  // the start makes none
+    auto* Linel = Fenster->findChild<QMdiSubWindow*>();
+    auto* Gitter = Fenster->findChild<QTableView*>("LinelGitter");
+    Gitter->setColumnWidth(3, 201);
+    Linel->resize(Linel->width() + 31, Linel->height() - 57);
+    const QSize Größe = Linel->size();
+    Menü("MenüKatasterPolel");  // both are to be seen
+    const auto Blätter = Fenster->findChildren<QMdiSubWindow*>();
+    QCOMPARE(Blätter.size(), 2);
+    QVERIFY(!Blätter[0]->geometry().intersects(Blätter[1]->geometry()));
+    for (const QMdiSubWindow* F : Blätter)
+      QVERIFY(F->y() + F->height() <= Linel->mdiArea()->viewport()->height());
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    Linel->resize(Größe);
+    QTRY_COMPARE(Linel->mdiArea()->subWindowList().size(), 1);
+    Linel->close();
+    QTRY_VERIFY(!BlätterOffen());
+    auto* Protokoll = Fenster->findChild<QDockWidget*>();
+    Fenster->resizeDocks({Protokoll}, {333}, Qt::Horizontal);
+    QCoreApplication::processEvents();
+    QCOMPARE(Protokoll->width(), 333);
+    const QSize Haupt(1211, 777);
+    Fenster->resize(Haupt);
+    KoordinatendateiName.clear();
+    Antworte(Qt::Key_J);
+    QVERIFY(Fenster->close());
+
+    cleanup();
+    init();
+    Fenster->PlatzLesen();
+    QCOMPARE(Fenster->size(), Haupt);
+    QByteArray Altes = "      erste\r\n\f";
+    for (int i = 0; i < 3000; ++i) Altes += "      Zeile " + QByteArray::number(i) + "\r\n";
+    Schreibe(Pfad("a.dru"), Altes);
+    Wähle(Pfad("a.kor"));
+    Antworte(Qt::Key_N);  // "Anhängen"
+    Menü("MenüDateiLesen(0)");
+    Optionen.ProtokollfensterAn = true;
+    Fenster->Auffrischen();
+    const auto* Text = Fenster->findChild<QPlainTextEdit*>();
+    QTRY_VERIFY(Text->toPlainText().endsWith("\nZeile 2999\n") && Text->toPlainText().startsWith("Zeile"));
+    Optionen.AbfrageRiss = false;
+    Menü("MenüKatasterLinel");
+    QCOMPARE(Fenster->findChild<QMdiSubWindow*>()->size(), Größe);
+    QCOMPARE(Fenster->findChild<QTableView*>("LinelGitter")->columnWidth(3), 201);
+    QTRY_COMPARE(Fenster->findChild<QDockWidget*>()->width(), 333);
   }
 
   void langesLesenLaesstSichAnhalten() {
