@@ -4,7 +4,9 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QSvgRenderer>
 
 #include <tavorena/desktop/Aussehen.h>
@@ -69,6 +71,46 @@ QString Stil(bool Dunkles) {
       .arg(Dunkles ? "#ff8a75" : "#b3261e");
 }
 
+// The basic style shows the focus of buttons and boxes only after a Tab, and draws the edge of an empty box
+// as a shade of the window: in the dark it is not to be seen.
+class Grundstil final : public QProxyStyle {
+ public:
+  Grundstil() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+  void drawControl(ControlElement Was, const QStyleOption* Wie, QPainter* Maler,
+                   const QWidget* W) const override {
+    const auto* Knopf = qstyleoption_cast<const QStyleOptionButton*>(Wie);
+    if (Knopf == nullptr) return QProxyStyle::drawControl(Was, Wie, Maler, W);
+    const QStyleOptionButton Neu = MitFokus(*Knopf);
+    QProxyStyle::drawControl(Was, &Neu, Maler, W);
+  }
+
+  void drawComplexControl(ComplexControl Was, const QStyleOptionComplex* Wie, QPainter* Maler,
+                          const QWidget* W) const override {
+    const auto* Liste = qstyleoption_cast<const QStyleOptionComboBox*>(Wie);
+    if (Liste == nullptr) return QProxyStyle::drawComplexControl(Was, Wie, Maler, W);
+    const QStyleOptionComboBox Neu = MitFokus(*Liste);
+    QProxyStyle::drawComplexControl(Was, &Neu, Maler, W);
+  }
+
+  void drawPrimitive(PrimitiveElement Was, const QStyleOption* Wie, QPainter* Maler,
+                     const QWidget* W) const override {
+    const auto* Knopf = qstyleoption_cast<const QStyleOptionButton*>(Wie);
+    if (Knopf == nullptr || (Was != PE_IndicatorCheckBox && Was != PE_IndicatorRadioButton))
+      return QProxyStyle::drawPrimitive(Was, Wie, Maler, W);
+    QStyleOptionButton Neu = MitFokus(*Knopf);
+    Neu.palette.setColor(QPalette::Window, IstDunkel() ? Dunkel.Text : Hell.Blass);
+    QProxyStyle::drawPrimitive(Was, &Neu, Maler, W);
+  }
+
+ private:
+  template <typename Option>
+  static Option MitFokus(Option O) {
+    if (O.state.testFlag(State_HasFocus)) O.state |= State_KeyboardFocusChange;
+    return O;
+  }
+};
+
 QPixmap Zeichnen(QSvgRenderer& Bild, int Kante, double Deckung) {
   QPixmap Flaeche(Kante, Kante);
   Flaeche.fill(Qt::transparent);
@@ -87,7 +129,7 @@ QByteArray Bilddatei(const QString& Name) {
 
 void AussehenSetzen(QApplication& App, Helligkeit Wahl) {
   const bool Dunkles = Wahl == Helligkeit::Dunkel || (Wahl == Helligkeit::System && IstDunkel());
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new Grundstil);
   App.setPalette(Palette(Dunkles ? Dunkel : Hell));
   App.setStyleSheet(Stil(Dunkles));
   App.setWindowIcon(Programmsymbol());

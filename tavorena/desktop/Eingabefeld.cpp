@@ -11,12 +11,12 @@ Eingabefeld::Eingabefeld(QWidget* Eltern) : QLineEdit(Eltern) {}
 void Eingabefeld::TextZeigen(const QString& Ganz, bool Kürzen) {
   constexpr int Rand = 12;  // frame, padding and cursor [pixels]
   const QString Kurz = Kürzen ? fontMetrics().elidedText(Ganz, Qt::ElideRight, width() - Rand) : Ganz;
-  setToolTip(Kurz != Ganz ? Ganz : "");
+  if (Kürzen) setToolTip(Kurz != Ganz ? Ganz : "");
   if (text() != Kurz) setText(Kurz);
 }
 
 QString Eingabefeld::Auswahltext() const {
-  return hasSelectedText() && !toolTip().isEmpty() ? toolTip() : selectedText();
+  return hasSelectedText() && text() != toolTip() && text().endsWith(u'…') ? toolTip() : selectedText();
 }
 
 void Eingabefeld::ErgebnisZeigen(bool An) {

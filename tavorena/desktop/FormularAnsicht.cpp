@@ -68,8 +68,12 @@ FormularAnsicht::~FormularAnsicht() {
 
 void FormularAnsicht::Aufbauen() {
   Knöpfe = new QGridLayout;
+  QLabel* Davor = nullptr;  // a label whose letter leads to the control behind it
   for (const auto& S : Modell->Steuerelemente()) {
     const Bild& B = Bilder[S.get()] = Erzeugen(*S);
+    if (Davor != nullptr) Davor->setBuddy(B.Widget);
+    Davor = S->Text->find('&') != std::string::npos ? qobject_cast<QLabel*>(B.Widget) : nullptr;
+    if (!S->Tipp.empty()) B.Widget->setToolTip(Q(S->Tipp));
     Elemente[B.Widget] = S.get();
     B.Widget->setObjectName(Q(S->Name));
     B.Widget->installEventFilter(this);
@@ -187,6 +191,7 @@ FormularAnsicht::Bild FormularAnsicht::AuswahlErzeugen(Auswahl& A) {
   }
   connect(Haken, &QAbstractButton::clicked, this, [this, &A](bool An) {
     if (Modell == nullptr) return;
+    if (Modell->Fokus() != &A) Modell->FokusWechseln(A);  // the arrow keys lead from option to option
     Modell->Wählen(A, "", An);
     FokusZeigen();
   });

@@ -21,6 +21,21 @@ class TVOptionenform final : public Formular {
     Titel = "Tavorena Optionen";
     Hilfenummer = 8020;
     OkUndAbbruch([this] { Übernehmen(); }, "OptEnd", "OptAbbruch");
+    for (Steuerelement* S : std::initializer_list<Steuerelement*>{
+             &OptWarnstufe, &OptAbfrDruck, &OptFStatHöhen, &OptGKRed, &OptFStatAnschluss, &OptVorgabeRechts,
+             &OptVorgabeHoch, &OptEDBSInfo}) {
+      S->Aktiv = false;  // its value stays as it is in the file
+      S->Tipp = "noch ohne Wirkung: die Berechnung, die danach fragt, ist noch nicht vorhanden";
+    }
+  }
+
+ protected:
+  // Return is "OK" wherever it is pressed.
+  bool TasteUnten(Steuerelement& S, Taste T) override {
+    if (T != Taste::Return || dynamic_cast<Knopf*>(&S) != nullptr) return false;
+    auto* E = dynamic_cast<Eingabeelement*>(&S);
+    if (E == nullptr || Lesen(*E)) Übernehmen();
+    return true;
   }
 
  private:
@@ -47,7 +62,7 @@ class TVOptionenform final : public Formular {
   }
 
   Auswahl& Warnliste() {
-    BeschriftungAnlegen("Ausgabe von Warnungen ins Protokoll ?", {2, 0}, Ausgabe);
+    BeschriftungAnlegen("Ausgabe von &Warnungen ins Protokoll ?", {2, 0}, Ausgabe);
     Auswahl& A = ListeAnlegen("OptWarnstufe", {"Keine", "Alle"},
                               Optionen.OptWarnstufe == 0 ? "Keine" : "Alle", {2, 1}, Ausgabe);
     A.Zeichen = 8;
@@ -64,7 +79,7 @@ class TVOptionenform final : public Formular {
   }
 
   Feld& Edbs() {
-    BeschriftungAnlegen("EDBS: Name der Information:", {0, 0}, "EDBS");
+    BeschriftungAnlegen("&EDBS: Name der Information:", {0, 0}, "EDBS");
     Feld& F = FeldAnlegen("OptEDBSInfo", {0, 1}, "EDBS", 8);
     BeschriftungAnlegen("(8 Stellen)", {0, 2}, "EDBS");
     F.Text = Optionen.EDBSInfo;
@@ -101,31 +116,31 @@ class TVOptionenform final : public Formular {
   const std::string Ausgabe = "Formular und Protokoll", Rechnen = "Berechnung";
 
   Auswahl& OptNachkommastellen = Zahlenliste(
-      "OptNachkommastellen", "Nachkommastellen für Formular und Protokoll", 0, Optionen.OptNachkommastellen);
-  Auswahl& OptNachkommaSpeichern = Zahlenliste("OptNachkommaSpeichern", "Nachkommastellen beim Speichern", 1,
+      "OptNachkommastellen", "&Nachkommastellen für Formular und Protokoll", 0, Optionen.OptNachkommastellen);
+  Auswahl& OptNachkommaSpeichern = Zahlenliste("OptNachkommaSpeichern", "Nachkommastellen beim &Speichern", 1,
                                                Optionen.OptNachkommaSpeichern);
   Auswahl& OptWarnstufe = Warnliste();
   Auswahl& OptAbfrRiß =
-      Haken("OptAbfrRiß", "Abfrage Rißbezeichnung und Berechnungsnummer / Ausgabe ins Protokoll", 3,
+      Haken("OptAbfrRiß", "Abfrage &Rißbezeichnung und Berechnungsnummer / Ausgabe ins Protokoll", 3,
             Optionen.AbfrageRiss, Ausgabe);
   Auswahl& OptAbfrDruck =
-      Haken("OptAbfrDruck", "Ausdruck nach jeder Berechnung", 4, Optionen.AbfrageDruck, Ausgabe);
-  Auswahl& OptProtokoll0 = Wahl("OptProtokoll(0)", "Protokollfenster", 0, Optionen.ProtokollfensterAn);
-  Auswahl& OptProtokoll1 = Wahl("OptProtokoll(1)", "nur auf Kommando", 1,
+      Haken("OptAbfrDruck", "Aus&druck nach jeder Berechnung", 4, Optionen.AbfrageDruck, Ausgabe);
+  Auswahl& OptProtokoll0 = Wahl("OptProtokoll(0)", "&Protokollfenster", 0, Optionen.ProtokollfensterAn);
+  Auswahl& OptProtokoll1 = Wahl("OptProtokoll(1)", "nur auf &Kommando", 1,
                                 !Optionen.ProtokollfensterAn && !Optionen.GrafikfensterAn);
   Auswahl& OptProtokoll2 =
-      Wahl("OptProtokoll(2)", "immer", 2, Optionen.GrafikfensterAn && !Optionen.ProtokollfensterAn);
+      Wahl("OptProtokoll(2)", "&immer", 2, Optionen.GrafikfensterAn && !Optionen.ProtokollfensterAn);
   Auswahl& OptFStatHöhen =
-      Haken("OptFStatHöhen", "Freie Stationierung / polarer Anschluß / Vorw.schnitt mit Höhen", 0,
+      Haken("OptFStatHöhen", "&Freie Stationierung / polarer Anschluß / Vorw.schnitt mit Höhen", 0,
             Optionen.FStatMitHoehe, Rechnen);
   Auswahl& OptGKRed =
-      Haken("OptGKRed", "Flächenberechnung: zusätzlich Anzeige/Protokoll GK-reduzierte Flächen", 1,
+      Haken("OptGKRed", "Flächenberechnung: &zusätzlich Anzeige/Protokoll GK-reduzierte Flächen", 1,
             Optionen.GKreduzierteFlaechen, Rechnen);
   Auswahl& OptFStatAnschluss = Haken(
-      "OptFStatAnschluss", "Freie Stationierung: Anschlußpunkte aus Rohdaten (GSI)  interaktiv auswählen", 2,
+      "OptFStatAnschluss", "Freie Stationierung: Anschlußp&unkte aus Rohdaten (GSI)  interaktiv auswählen", 2,
       Optionen.FStatPAAnschluss, Rechnen);
-  Feld& OptVorgabeRechts = Vorgabe("OptVorgabeRechts", "Rechts:", 0, Optionen.VorgabeRechts);
-  Feld& OptVorgabeHoch = Vorgabe("OptVorgabeHoch", "Hoch:", 2, Optionen.VorgabeHoch);
+  Feld& OptVorgabeRechts = Vorgabe("OptVorgabeRechts", "Re&chts:", 0, Optionen.VorgabeRechts);
+  Feld& OptVorgabeHoch = Vorgabe("OptVorgabeHoch", "&Hoch:", 2, Optionen.VorgabeHoch);
   Feld& OptEDBSInfo = Edbs();
 };
 

@@ -1,6 +1,9 @@
 #include "Shelltest.h"
 
+#include <algorithm>
+
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/shell/TVOptionenform.h>
 
 namespace tavorena::test {
@@ -155,6 +158,15 @@ TEST_F(Konfiguration, Optionsdialog) {
   for (const char* Ende : {"OptAbbruch", "OptEnd"}) {
     Skript.Formulare.push_back([Ende](Formular& Form) {
       Form.Öffnen();
+      std::string Buchstaben;
+      for (const auto& S : Form.Steuerelemente()) {
+        const std::size_t Marke = S->Text->find('&');
+        if (Marke != std::string::npos) Buchstaben += Großtext(S->Text->substr(Marke + 1, 1));
+        EXPECT_NE(S->Aktiv, !S->Tipp.empty()) << S->Name;  // a closed one says why
+        S->Aktiv = true;                                   // as it will be when something reads it
+      }
+      std::sort(Buchstaben.begin(), Buchstaben.end());
+      EXPECT_EQ(Buchstaben, "ACDEFHIKNOPRSUWZ");  // each once
       Form.Wählen(Element<Auswahl>(Form, "OptNachkommastellen"), "4", true);
       Form.Wählen(Element<Auswahl>(Form, "OptWarnstufe"), "Keine", true);
       Form.Wählen(Element<Auswahl>(Form, "OptAbfrRiß"), "", false);
@@ -165,7 +177,11 @@ TEST_F(Konfiguration, Optionsdialog) {
       EXPECT_TRUE(Form.Offen());  // no number
       Tippe(Form, "OptVorgabeRechts", "350,5");
       Tippe(Form, "OptEDBSInfo", "ZUVIELEZEICHEN");
-      Drücke(Form, Ende);
+      if (std::string_view(Ende) == "OptEnd") {
+        Tippe(Form, "OptAbfrRiß", "\n");  // Return is OK everywhere
+      } else {
+        Drücke(Form, Ende);
+      }
     });
     TVOptionenformZeigen();
     const auto& O = Optionen;
