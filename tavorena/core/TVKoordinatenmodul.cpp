@@ -18,7 +18,7 @@ std::size_t Reihe(int Zeile) { return static_cast<std::size_t>(Zeile); }
 std::uint64_t SchlüsselVon(std::string_view Getrimmt) {
   std::uint64_t Schlüssel = 0;
   if (Getrimmt.size() > sizeof Schlüssel) return std::hash<std::string_view>{}(Getrimmt);
-  std::memcpy(&Schlüssel, Getrimmt.data(), Getrimmt.size());
+  if (!Getrimmt.empty()) std::memcpy(&Schlüssel, Getrimmt.data(), Getrimmt.size());
   return Schlüssel;
 }
 
