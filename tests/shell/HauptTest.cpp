@@ -237,7 +237,7 @@ TEST_F(HauptOffen, Protokollwechsel) {
 TEST_F(HauptOffen, AnsichtÖffnetDenEditor) {
   Optionen.DateinameEditorNT = "ed";
   Befehl("MenüAnsichtKoordinatendatei");
-  EXPECT_EQ(Skript.Gestartet, "ed|" + A_kor);
+  EXPECT_EQ(Skript.Gestartet, (std::vector<std::string>{"ed", A_kor}));
 }
 
 TEST_F(HauptOffen, TextErsetzen) {

@@ -83,7 +83,7 @@ class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf,
   bool StapelHält() override { return Hält; }
   void HauptfensterGröße(int& B, int& H) override { B = Breite, H = Hoehe; }
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override {
-    Gestartet = Programm + "|" + Datei;
+    Gestartet = {Programm, Datei};
     return 0;
   }
 
@@ -99,7 +99,8 @@ class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf,
   std::vector<std::string> Titel;
   int LetzteVorgabe = 0;  ///< default button of the last message box
   std::vector<Dateiauftrag> Aufträge;
-  std::string Fenstertitel, Programmordner, Gestartet;
+  std::string Fenstertitel, Programmordner;
+  std::vector<std::string> Gestartet;  ///< a program and its file
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
   bool Hält = false;
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
