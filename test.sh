@@ -30,7 +30,7 @@ schritt "aus einem fremden Programm"
 # The packages of Debian belong to its own Python, whichever comes first in PATH.
 cmake --preset headless -DTAVORENA_TESTS=OFF -DTAVORENA_WERROR=ON -DTAVORENA_PYTHON=ON \
   -DPython3_EXECUTABLE=/usr/bin/python3 >/dev/null
-cmake --build build/headless --target tavorena_gemeinsam tavorena_statisch tavorena_python
+cmake --build build/headless --target tavorena_gemeinsam tavorena_statisch tavorena_python tavorena-stapel
 tests/paket/pruefen.sh build/headless
 
 schritt "aus Python"
