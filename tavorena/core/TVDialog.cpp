@@ -1,3 +1,4 @@
+#include <tavorena/core/Datei.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
@@ -34,10 +35,12 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
 int Dialogergebnis = 0;
 
 int FrageJaNeinAbbruch(const std::string& Text, int Vorgabe) {
+  AktenSichern();
   return FragenPort().Meldung(Text, Knöpfe::JaNeinAbbruch, "Tavorena", Vorgabe);
 }
 
 int FrageJaNein(const std::string& Text, const std::string& Titel, int Vorgabe) {
+  AktenSichern();
   return FragenPort().Meldung(Text, Knöpfe::JaNein, Titel, Vorgabe);
 }
 
@@ -50,6 +53,13 @@ void FehlerMeldung(const std::string& Text) { Hinweis("Fehler aufgetreten:\n" + 
 void DateiendeMeldung(const std::string& Datei) { Hinweis("Unerwartetes Dateiende in:\n" + Datei); }
 
 void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Zitat(Pnr) + "schon vorhanden !"); }
+
+int AktenSichern() {
+  std::string Name;
+  if (AnhängeSichern(&Name) == 0) return 0;
+  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Name);
+  return -1;
+}
 
 void StatusHilfeSetzen(const std::string& Text) {
   AnzeigePort().StatusSetzen(Statusfeld::StatusHilfe, Text.empty() ? "" : "   " + Text + "   ");

@@ -20,6 +20,10 @@ void FehlerMeldung(const std::string& Text);
 void DateiendeMeldung(const std::string& Datei);
 void PunktVorhandenMeldung(const std::string& Pnr);
 
+/// What was recorded in protocol and batch file reaches the disk: at the end of a typed block, before a
+/// question, at the end of a replay. @return 0; -1 with a message that names the file
+int AktenSichern();
+
 /// Shows a text in the help panel of the status bar, three blanks before and behind it; an empty one clears
 /// the panel.
 void StatusHilfeSetzen(const std::string& Text);

@@ -16,6 +16,7 @@ class Dialogform : public Formular {
   /// Shows the form until it is closed. @return its result, also in Dialogergebnis; -1 if it was cancelled
   int Zeigen() {
     Ergebnis = -1;
+    AktenSichern();
     AnzeigePort().FormularZeigen(*this, true);
     return Dialogergebnis = Ergebnis;
   }

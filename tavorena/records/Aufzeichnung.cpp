@@ -1,9 +1,16 @@
 #include <utility>
 
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/records/Aufzeichnung.h>
 
 namespace tavorena {
+namespace {
+
+// A typed block is over: it is not lost any more.
+int Gesichert(int Ergebnis) { return AktenSichern() < 0 ? -1 : Ergebnis; }
+
+}  // namespace
 
 void Aufzeichnung::Öffnen(bool Nachlauf) {
   ImNachlauf = Nachlauf;
@@ -18,7 +25,7 @@ void Aufzeichnung::Öffnen(bool Nachlauf) {
 int Aufzeichnung::Beginnen(Verbindung Neue) {
   Über = std::make_shared<const Verbindung>(std::move(Neue));
   Gezählt = false;
-  return ImNachlauf ? 0 : Stapel.Beginnen(Über);
+  return ImNachlauf ? 0 : Gesichert(Stapel.Beginnen(Über));
 }
 
 int Aufzeichnung::Protokollieren(const Block& Zeile) {
@@ -48,7 +55,7 @@ int Aufzeichnung::Streichen(const Block& Gestrichen, const Spur& Wo) {
 
 int Aufzeichnung::Beenden() {
   Über.reset();
-  return ImNachlauf ? 0 : Stapel.Beenden();
+  return ImNachlauf ? 0 : Gesichert(Stapel.Beenden());
 }
 
 }  // namespace tavorena

@@ -160,6 +160,7 @@ int Eintragen(Protokoll& P, Arbeit Tun) {
 }  // namespace
 
 void ProtokollNehmen(const std::string& Dateiname) {
+  AktenSichern();
   Prot = {};
   Prot.Datei = Dateiname;
   Prot.ImFenster = true;

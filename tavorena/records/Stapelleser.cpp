@@ -55,6 +55,7 @@ int NächsterSatz(Satz& S) {
 
 void Beenden() {
   Stapel.Aktiv = Stapel.Ablauf = false;
+  if (AktenSichern() < 0) Stapel.Bilanz.Fehler = true;
   if (StapelHaken.Schritt) StapelHaken.Schritt("");
 }
 

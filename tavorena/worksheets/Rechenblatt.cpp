@@ -89,7 +89,10 @@ void Rechenblatt::StapelBeginnen() {
     return StapelBlattEnde();
   }
   Hält = AblaufPort().StapelHält();
-  if (Hält) return FokusSetzen(*KnopfWeiter);
+  if (Hält) {
+    AktenSichern();  // somebody may look at it for long
+    return FokusSetzen(*KnopfWeiter);
+  }
   StapelZeilenRechnen();
 }
 

@@ -264,6 +264,44 @@ TEST_F(BlattTest, BewegterAnschlussBeginntEinenBlock) {
   EXPECT_EQ(Anzahl(Stapeltext(), "M  VR 24.40"), 2);
 }
 
+// A file that is extended stays open until it was brought to the disk.
+bool Ungesichert(const std::string& Name) {
+  namespace fs = std::filesystem;
+  const auto Ist = [&](const fs::directory_entry& Zahl) {
+    std::error_code Fehler;
+    return fs::read_symlink(Zahl, Fehler) == fs::canonical(Name);
+  };
+  const fs::directory_iterator Offene("/proc/self/fd");
+  return std::any_of(begin(Offene), end(Offene), Ist);
+}
+
+TEST_F(BlattTest, ErledigtesIstAufDerPlatte) {
+  const auto Beide = [] { return std::pair(Ungesichert(Prot.Datei), Ungesichert(StapelDatei.Name)); };
+  auto B = Verbinde("24.40");
+  Tippe(*B, "LinelGitter", "2003\n2004\n");
+  EXPECT_EQ(Beide(), std::pair(true, true));
+  Tippe(*B, "LinelGitter", "\n");
+  Drücke(*B, "LinelEnd10");
+  EXPECT_EQ(Beide(), std::pair(false, false));
+  Tippe(*B, "LinelAnfPnr", "1001\n1002\n0\n0\n2003\n2004");  // a question in the midst of a block
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
+  Skript.BeiMeldung = [&](const std::string&) { EXPECT_EQ(Beide(), std::pair(false, false)); };
+  Drücke(*B, "LinelEnd");
+  Skript.BeiMeldung = [](const std::string&) {};
+  // A replay that runs through does it once, at its end; one that holds, before it waits.
+  std::vector<bool> Gesehen;
+  StapelHaken.Schritt = [&](const std::string&) {
+    Gesehen.push_back(DateiVorhanden(Prot.Datei) && Ungesichert(Prot.Datei));
+  };
+  Nachlauf();
+  EXPECT_EQ(Gesehen, (std::vector{false, true, false}));
+  Skript.Hält = true;
+  Starten();
+  Drücke(*Blätter.back(), "LinelWeiter");
+  EXPECT_FALSE(Ungesichert(Prot.Datei));
+  Drücke(*Blätter.back(), "LinelStop");
+}
+
 TEST_F(BlattTest, NeueProtokolldateiBekommtKopfUndAnschluss) {
   auto B = Verbinde("24.40");
   Tippe(*B, "LinelGitter", "2003\n");
