@@ -14,6 +14,11 @@ int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::s
     if (Titel == "Tavorena Fehlermeldung") Fehler = true;
     return 1;
   }
+  if (Art == Knöpfe::NochmalsOhneProtokoll || Art == Knöpfe::NochmalsOhneStapel) {
+    Melden(Text);  // there is no going on without what was asked for
+    Enden();
+    return KnopfAbbruch;
+  }
   const bool Warnt = Art == Knöpfe::JaNein && Vorgabe == KnopfNein;
   if (Warnt && A.Trotzdem) return KnopfJa;
   Ohne(Warnt ? Text + " (Ja mit --trotzdem)" : Text);

@@ -26,15 +26,17 @@ struct Anhangspur {
   Deskriptor K;  // not open: secured
   dev_t Gerät = 0;
   ino_t Nummer = 0;
+  mode_t Rechte = 0;
   Dateistand Stand;
   Kodierung Art = Kodierung::Ascii;
 
   [[nodiscard]] bool Gilt(const struct stat& S) const {
-    return S.st_dev == Gerät && S.st_ino == Nummer && DateistandAus(S) == Stand;
+    return S.st_dev == Gerät && S.st_ino == Nummer && S.st_mode == Rechte && DateistandAus(S) == Stand;
   }
   void Merken(const struct stat& S) {
     Gerät = S.st_dev;
     Nummer = S.st_ino;
+    Rechte = S.st_mode;
     Stand = DateistandAus(S);
   }
 };
@@ -56,7 +58,7 @@ Anhangspur& SpurVon(const fs::path& Pfad) {
     static_cast<void>(Sichern(Spuren.front()));  // long out of use, and written
     Spuren.erase(Spuren.begin());
   }
-  return Spuren.emplace_back(Anhangspur{Pfad, Deskriptor(), 0, 0, {}, Kodierung::Ascii});
+  return Spuren.emplace_back(Anhangspur{Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii});
 }
 
 int Öffnen(Anhangspur& Spur, std::string& Grund) {
@@ -106,7 +108,7 @@ int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Gru
   Anhangspur& Spur = SpurVon(Systempfad(Name));
   std::string Wort;
   if (Anhängen(Spur, Text, Wort) == 0) return 0;
-  Spur = Anhangspur{Spur.Pfad, Deskriptor(), 0, 0, {}, Kodierung::Ascii};
+  Spur = Anhangspur{Spur.Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii};
   if (Grund != nullptr) *Grund = Wort;
   return -1;
 }

@@ -9,10 +9,11 @@ namespace tavorena {
 
 class Formular;  // tavorena/forms; passed through here and never looked into
 
-enum class Knöpfe { OK, JaNein, JaNeinAbbruch };
+/// The last two: a file can not be written, try again or go on without the protocol or the batch file.
+enum class Knöpfe { OK, JaNein, JaNeinAbbruch, NochmalsOhneProtokoll, NochmalsOhneStapel };
 
 /// Button codes of a message box.
-inline constexpr int KnopfAbbruch = 2, KnopfJa = 6, KnopfNein = 7;
+inline constexpr int KnopfAbbruch = 2, KnopfNochmals = 4, KnopfOhne = 5, KnopfJa = 6, KnopfNein = 7;
 
 /// What a file dialog is asked for.
 struct Dateiauftrag {

@@ -30,6 +30,13 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
   return "";
 }
 
+const char* const Fehlertitel = "Tavorena Fehlermeldung";
+
+std::string Fehlertext(Laufzeitfehler Fehler, const std::string& Ort) {
+  return "Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
+         " wurde ausgelöst durch Tavorena\n" + Beschreibung(Fehler);
+}
+
 }  // namespace
 
 int Dialogergebnis = 0;
@@ -66,9 +73,19 @@ void StatusHilfeSetzen(const std::string& Text) {
 }
 
 void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort, const std::string& Vorspann) {
-  Hinweis(Vorspann + "Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
-              " wurde ausgelöst durch Tavorena\n" + Beschreibung(Fehler),
-          "Tavorena Fehlermeldung");
+  Hinweis(Vorspann + Fehlertext(Fehler, Ort), Fehlertitel);
+}
+
+std::string InKlammern(const std::string& Grund) { return Grund.empty() ? "" : " (" + Grund + ")"; }
+
+int SchreibfehlerFrage(const std::string& Datei, const std::string& Grund, const std::string& Stelle) {
+  const std::string Was = "\n" + Datei + (Grund.empty() ? "" : "\n(" + Grund + ")");
+  if (Stelle.empty()) {
+    return FragenPort().Meldung("Fehler aufgetreten beim Schreiben in" + Was, Knöpfe::NochmalsOhneProtokoll,
+                                "Tavorena", KnopfNochmals);
+  }
+  return FragenPort().Meldung(Fehlertext(Laufzeitfehler::EinAusgabe, Stelle) + Was,
+                              Knöpfe::NochmalsOhneStapel, Fehlertitel, KnopfNochmals);
 }
 
 }  // namespace tavorena

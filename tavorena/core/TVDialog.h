@@ -14,7 +14,8 @@ extern int Dialogergebnis;
 [[nodiscard]] int FrageJaNeinAbbruch(const std::string& Text, int Vorgabe = 0);
 /// @return the button code: 6 Ja, 7 Nein; Vorgabe is that of the default button, 0 the first. A question that
 /// stands on "Nein" warns of a loss: the console takes it on with --trotzdem alone.
-[[nodiscard]] int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena", int Vorgabe = 0);
+[[nodiscard]] int FrageJaNein(const std::string& Text, const std::string& Titel = "Tavorena",
+                              int Vorgabe = 0);
 void Hinweis(const std::string& Text, const std::string& Titel = "Tavorena");
 void FehlerMeldung(const std::string& Text);
 void DateiendeMeldung(const std::string& Datei);
@@ -40,6 +41,15 @@ enum class Laufzeitfehler : int {
   Zugriff = 70,
   Pfad = 76,
 };
+
+/// A reason behind a told text: " (ist ein Ordner)"; "" without one.
+std::string InKlammern(const std::string& Grund);
+
+/// The protocol or the batch file can not be written: what to do now.
+/// @param[in] Stelle  where, as for LaufzeitFehlerMeldung; "": the message of the protocol
+/// @return KnopfNochmals; KnopfOhne; anything else: the question was broken off
+[[nodiscard]] int SchreibfehlerFrage(const std::string& Datei, const std::string& Grund,
+                                     const std::string& Stelle);
 
 /// "Fehler <number> in <Ort> wurde ausgelöst durch Tavorena" and the description, under the title
 /// "Tavorena Fehlermeldung". Ort names module and routine, such as "Koordinatenmodul.KorFind"; Vorspann

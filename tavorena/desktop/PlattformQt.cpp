@@ -1,3 +1,6 @@
+#include <utility>
+#include <vector>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QDesktopServices>
@@ -78,8 +81,29 @@ QWidget* Davor(Hauptfenster& Fenster) {
   return Dialog != nullptr ? Dialog : &Fenster;
 }
 
+struct Kastenknopf {
+  const char* Text;
+  QMessageBox::ButtonRole Rolle;
+  int Kennung;
+};
+
+std::vector<Kastenknopf> KnöpfeVon(Knöpfe Art) {
+  const Kastenknopf Ja{"&Ja", QMessageBox::YesRole, KnopfJa}, Nein{"&Nein", QMessageBox::NoRole, KnopfNein},
+      Nochmals{"&Nochmals", QMessageBox::AcceptRole, KnopfNochmals};
+  switch (Art) {
+    case Knöpfe::JaNeinAbbruch:
+      return {Ja, Nein, {"&Abbrechen", QMessageBox::RejectRole, KnopfAbbruch}};
+    case Knöpfe::NochmalsOhneProtokoll:
+      return {Nochmals, {"&Ohne Protokoll weiter", QMessageBox::RejectRole, KnopfOhne}};
+    case Knöpfe::NochmalsOhneStapel:
+      return {Nochmals, {"&Ohne Stapel weiter", QMessageBox::RejectRole, KnopfOhne}};
+    default:
+      return {Ja, Nein};
+  }
+}
+
 QMessageBox::Icon Bild(Knöpfe Art, const std::string& Titel) {
-  if (Art != Knöpfe::OK) return QMessageBox::Question;
+  if (Art == Knöpfe::JaNein || Art == Knöpfe::JaNeinAbbruch) return QMessageBox::Question;
   return Titel == "Tavorena Fehlermeldung" ? QMessageBox::Critical : QMessageBox::Information;
 }
 
@@ -96,15 +120,18 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
     Kasten.exec();
     return 1;
   }
-  QPushButton* Ja = Kasten.addButton("&Ja", QMessageBox::YesRole);
-  QPushButton* Nein = Kasten.addButton("&Nein", QMessageBox::NoRole);
-  QPushButton* Zurück = Nein;
-  if (Art == Knöpfe::JaNeinAbbruch) Zurück = Kasten.addButton("&Abbrechen", QMessageBox::RejectRole);
-  Kasten.setDefaultButton(Vorgabe == KnopfNein ? Nein : Vorgabe == KnopfAbbruch ? Zurück : Ja);
-  Kasten.setEscapeButton(Zurück);
+  std::vector<std::pair<QPushButton*, int>> Wahl;  // the last one is that of Escape
+  for (const Kastenknopf& K : KnöpfeVon(Art)) Wahl.emplace_back(Kasten.addButton(K.Text, K.Rolle), K.Kennung);
+  Kasten.setDefaultButton(Wahl.front().first);
+  for (const auto& [Knopf, Kennung] : Wahl) {
+    if (Kennung == Vorgabe) Kasten.setDefaultButton(Knopf);
+  }
+  Kasten.setEscapeButton(Wahl.back().first);
   Kasten.exec();
-  if (Kasten.clickedButton() == Ja) return KnopfJa;
-  return Kasten.clickedButton() == Nein ? KnopfNein : KnopfAbbruch;
+  for (const auto& [Knopf, Kennung] : Wahl) {
+    if (Kasten.clickedButton() == Knopf) return Kennung;
+  }
+  return Wahl.back().second;
 }
 
 void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {

@@ -49,11 +49,6 @@ std::vector<std::string> Kopfzeilen(const Verbindung& V, const std::string& Date
   return Zeilen;
 }
 
-int Melden(const std::string& Datei) {
-  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei);
-  return -1;
-}
-
 // One entry: its lines are gathered, reach the file in one piece, and only then count.
 class Eintrag {
  public:
@@ -120,7 +115,12 @@ class Eintrag {
 
   [[nodiscard]] int Abschließen() {
     if (Puffer.empty()) return 0;
-    if (TextAnhängen(Neu.Datei, Puffer) < 0) return Melden(Neu.Datei);
+    std::string Grund;
+    while (TextAnhängen(Neu.Datei, Puffer, &Grund) < 0) {
+      const int Antwort = SchreibfehlerFrage(Neu.Datei, Grund, "");
+      if (Antwort == KnopfOhne) Alt.Datei.clear();
+      if (Antwort != KnopfNochmals) return Antwort == KnopfOhne ? 0 : -1;
+    }
     Neu.Stand = DateistandVon(Neu.Datei);
     for (const std::string& Zeile : Fenster) {
       Protokollfenster.Anhängen(Zeile + "\n");
@@ -190,7 +190,10 @@ int ProtLeerzeile(Protokoll& P) {
 int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::string& Name) {
   std::string Text;
   for (const std::string& Zeile : Kopfzeilen(V, Name, Prot.Seite)) Text += Zeile + "\r\n";
-  return TextAnhängen(Datei, Text) == 0 ? 0 : Melden(Datei);
+  std::string Grund;
+  if (TextAnhängen(Datei, Text, &Grund) == 0) return 0;
+  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei + InKlammern(Grund));
+  return -1;
 }
 
 }  // namespace tavorena

@@ -48,9 +48,10 @@ std::string Zeitstempel();
 /// Writes a block below what has to stand above it: where the title, the plan or the connection above the
 /// next line is another one, or somebody else changed the file, page head, table head and the lines of the
 /// connection come first, on a new page unless the protocol or the page is fresh. Nothing happens without a
-/// file. A block that can not be written leaves file and P as they were.
+/// file. A block that can not be written is asked for: again, or without the protocol, which P then is until
+/// another file is taken; a question that is broken off leaves file and P as they were.
 /// @param[in] V  null: the block goes below whatever stands there
-/// @return 0; -1 with a message if the file could not be written
+/// @return 0; -1 if the file could not be written and the question was broken off
 [[nodiscard]] int Schreiben(Protokoll& P, const std::shared_ptr<const Verbindung>& V, const Block& B);
 
 /// Writes the lines of a block, each counted; a page takes 50. @return as Schreiben

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Zahlen.h>
@@ -21,17 +22,29 @@ std::string Zusammen(const std::vector<std::string>& Zeilen) {
   return Text;
 }
 
+// Nothing is written until another file is taken. The pieces keep their places, which the rows know.
+void OhneStapel() {
+  StapelDatei.Name.clear();
+  StapelDatei.Offen.reset();
+  for (std::string& Stück : StapelDatei.Stücke) Stück.clear();
+}
+
 // Appends a piece. Pieces from before somebody else changed the file can not be taken out any more.
 int Schreiben(const std::string& Text, const char* Routine) {
   Stapeldatei& D = StapelDatei;
+  if (D.Name.empty()) return 0;
   const Dateistand Jetzt = DateistandVon(D.Name);
   if (D.Stücke.empty() || Jetzt != D.Stand) {
     for (std::string& Stück : D.Stücke) Stück.clear();
     D.Ab = Jetzt.Länge;
   }
-  if (TextAnhängen(D.Name, Text) < 0) {
-    LaufzeitFehlerMeldung(Laufzeitfehler::EinAusgabe, std::string("Stapelmodul.") + Routine);
-    return -1;
+  std::string Grund;
+  while (TextAnhängen(D.Name, Text, &Grund) < 0) {
+    const int Antwort = SchreibfehlerFrage(D.Name, Grund, std::string("Stapelmodul.") + Routine);
+    if (Antwort == KnopfNochmals) continue;
+    if (Antwort != KnopfOhne) return -1;
+    OhneStapel();
+    return 0;
   }
   D.Stücke.push_back(Text);
   D.Stand = DateistandVon(D.Name);
@@ -56,7 +69,7 @@ int StapelKopf(const std::shared_ptr<const Verbindung>& V) {
   }
   Zeilen.insert(Zeilen.end(), V->Sätze.begin(), V->Sätze.end());
   if (Schreiben(Zusammen(Zeilen), "StapelKopf") < 0) return -1;
-  StapelDatei.Offen = V;
+  if (!StapelDatei.Name.empty()) StapelDatei.Offen = V;
   return 0;
 }
 
@@ -76,12 +89,14 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
   if (!Offen() && StapelKopf(Über) < 0) return -1;
   if (Satz.empty()) return 0;
   if (Schreiben(Satz + "\r\n", "StapelPunktzeile") < 0) return -1;
+  if (StapelDatei.Name.empty()) return 0;
   Griff = static_cast<int>(StapelDatei.Stücke.size()) - 1;
   return 0;
 }
 
 int Stapelblock::Entfernen(int Griff) {
   Stapeldatei& D = StapelDatei;
+  if (D.Name.empty()) return 0;
   if (Griff < 0 || Griff >= std::ssize(D.Stücke)) return -1;
   std::string Inhalt, Alles, Übrig;
   if (D.Stücke[static_cast<std::size_t>(Griff)].empty() || DateiLesen(D.Name, Inhalt) < 0) return -1;

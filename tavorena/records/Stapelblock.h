@@ -38,12 +38,15 @@ class Stapelblock {
   /// Appends a record, below its connection; the block of another worksheet is ended first. An empty record
   /// opens the block alone. Nothing happens without a file.
   /// @param[out] Griff  what Entfernen takes; -1 if nothing was appended
-  /// @return 0; -1 with a message if the file could not be written
+  /// A file that can not be written is asked for: again, or without it until another one is taken.
+  /// @return 0; -1 if the file could not be written and the question was broken off
   [[nodiscard]] int Anfügen(const std::string& Satz, int& Griff);
 
   /// Takes a record out of the file, wherever it stands: a row that the surveyor corrected or deleted must
   /// not be calculated again.
-  /// @return 0; -1 if the file can not be written, or somebody else changed it: it is then left alone
+  /// @return 0, also without a file; -1 if it can not be written, or somebody else changed it: it is then
+  /// left
+  ///         alone
   [[nodiscard]] static int Entfernen(int Griff);
 
   /// Ends the block if it is still open. @return 0; -1 with a message

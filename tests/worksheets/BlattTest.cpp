@@ -137,6 +137,33 @@ TEST_F(BlattTest, UngeschriebeneZeileBleibtOffen) {
   EXPECT_FALSE(B->Offen());
 }
 
+// Each file is asked for once, and then no more until another one is taken.
+TEST_F(BlattTest, OhneAktenGehtEsWeiter) {
+  const std::string Sta = StapelDatei.Name, Dru = Prot.Datei;
+  auto B = Verbinde("24.40");
+  Tippe(*B, "LinelGitter", "2003\n");
+  for (const std::string& Datei : {Sta, Dru})
+    std::filesystem::permissions(Datei, std::filesystem::perms{0444});
+  Skript.Erwarte("Stapelmodul.StapelPunktzeile wurde ausgelöst durch Tavorena\nE/A-Fehler\n" + Sta +
+                     "\n(schreibgeschützt)",
+                 KnopfOhne);
+  Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Dru + "\n(schreibgeschützt)", KnopfNochmals);
+  Skript.Erwarte(Dru, KnopfOhne);
+  Tippe(*B, "LinelGitter", "2004\n2005\n");
+  Gitter& G = Gitterfeld(*B);
+  EXPECT_EQ(G.Zeilen(), 4);
+  B->ZelleWechseln(G, 0, 0);
+  Drücke(*B, "LinelDelete");  // nothing to take it out of
+  EXPECT_EQ(G.Inhalt(0, 0), "2004");
+  StapelDatei.Name = Ordner.Pfad("b.sta");
+  ProtokollNehmen(Ordner.Pfad("b.dru"));
+  B->ZelleWechseln(G, 2, 0);
+  Tippe(*B, "LinelGitter", "2003\n");
+  EXPECT_EQ(Anzahl(Stapeltext(), "PAN"), 1);
+  EXPECT_EQ(Anzahl(Protokoll(), "|VR 24.40"), 1);
+  EXPECT_TRUE(Inhalt(Sta).ends_with("2003\r\n"));
+}
+
 // With one of the two files out of reach the row is written in the other.
 TEST_F(BlattTest, EineDateiGenügt) {
   StapelDatei.Name = Ordner.Pfad("fehlt/a.sta");
