@@ -56,6 +56,8 @@ class Anzeige {
   virtual void HauptfensterGeändert() {}
   /// Lines of the protocol window changed; called for each line.
   virtual void ProtokollGeändert() {}
+  /// The handbook, at the page of what the user is in.
+  virtual void HandbuchZeigen() {}
   /// Size of the main window [pixels].
   virtual void HauptfensterGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
   virtual void BildschirmGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }

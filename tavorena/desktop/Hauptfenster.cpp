@@ -38,6 +38,7 @@ QKeySequence Kurztaste(std::string_view Name) {
   if (Name == "MenüDateiLesen(0)") return QKeySequence::Open;
   if (Name == "MenüDateiSpeichern(0)") return QKeySequence::Save;
   if (Name == "MenüDateiBeenden") return QKeySequence::Quit;
+  if (Name == "MenüInfoHandbuch") return Qt::Key_F1;
   return {};
 }
 
@@ -111,11 +112,6 @@ Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
     close();
     QCoreApplication::quit();
   });
-  auto* Hilfe = new QAction(this);
-  Hilfe->setShortcut(QKeySequence(Qt::Key_F1));
-  Hilfe->setShortcutContext(Qt::ApplicationShortcut);
-  connect(Hilfe, &QAction::triggered, this, &Hauptfenster::HilfeZeigen);
-  addAction(Hilfe);
   qApp->installEventFilter(this);
   // It fits into the work area, its frame included.
   resize(QSize(1280, 800).boundedTo(screen()->availableSize() - QSize(20, 60)));
@@ -324,8 +320,9 @@ bool Hauptfenster::event(QEvent* Ereignis) {
 
 // The mouse over the bare work area clears the help text.
 bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
-  // A dialog closes the shortcuts of the window that it stands before: F1 works all the same.
-  if (Ereignis->type() == QEvent::KeyPress && QApplication::activeModalWidget() != nullptr &&
+  // A dialog or an open menu closes the shortcuts of the window: F1 works all the same.
+  if (Ereignis->type() == QEvent::KeyPress &&
+      (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) &&
       static_cast<const QKeyEvent&>(*Ereignis).key() == Qt::Key_F1) {
     HilfeZeigen();
     return true;

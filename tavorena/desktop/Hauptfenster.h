@@ -38,6 +38,8 @@ class Hauptfenster final : public QMainWindow {
   void ProtokollSpäterZeigen() { Protokolluhr.start(); }
   /// A long loop runs: only the stop button can be used.
   void Sperren(bool An);
+  /// Opens the handbook at the page of the menu entry, form or dialog that the user is in.
+  void HilfeZeigen();
   /// Ends the program when the event that runs is done.
   void Beenden();
 
@@ -53,7 +55,6 @@ class Hauptfenster final : public QMainWindow {
   void ProtokollfensterBauen();
   void ProtokollZeigen();
   void ProtokollNachziehen();
-  void HilfeZeigen();
   void PlatzSchreiben() const;
   void BlattStellen(QMdiSubWindow& Neues, QSize Wunsch);
 

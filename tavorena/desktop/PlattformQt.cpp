@@ -183,6 +183,8 @@ void PlattformQt::FenstertitelSetzen(const std::string& Titel) { Fenster.setWind
 void PlattformQt::HauptfensterGeändert() { Fenster.Auffrischen(); }
 void PlattformQt::ProtokollGeändert() { Fenster.ProtokollSpäterZeigen(); }
 
+void PlattformQt::HandbuchZeigen() { Fenster.HilfeZeigen(); }
+
 void PlattformQt::HauptfensterGröße(int& Breite, int& Hoehe) {
   Breite = Fenster.width();
   Hoehe = Fenster.height();

@@ -20,6 +20,7 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
   void FenstertitelSetzen(const std::string& Titel) override;
   void HauptfensterGeändert() override;
   void ProtokollGeändert() override;
+  void HandbuchZeigen() override;
   void HauptfensterGröße(int& Breite, int& Hoehe) override;
   void BildschirmGröße(int& Breite, int& Hoehe) override;
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;

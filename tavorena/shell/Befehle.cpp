@@ -221,6 +221,7 @@ const Befehl Befehle[] = {
     {"MenüOptionenDateinamen(0)", false, TexteditorWählen},
     {"MenüInfoÜberAlt", false, Über},
     {"MenüInfoProjektstand", false, Projektstand},
+    {"MenüInfoHandbuch", false, [] { AnzeigePort().HandbuchZeigen(); }},
     {"MenüInfoÜber", false, Über},
 };
 

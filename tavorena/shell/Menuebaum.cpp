@@ -206,6 +206,7 @@ constexpr Menüeintrag Baum[] = {
     {"MenüTestElastic", "&Elastic", 0, Test},
 
     {"MenüMain(18)", "&?", 8000, Bar},
+    {"MenüInfoHandbuch", "&Handbuch", 8000, Fragezeichen},
     {"MenüInfoÜber", "&Über...", 8001, Fragezeichen},
     {"MenüTestGrid", "Test", 0, Fragezeichen, Verborgen},
     {"MenüInfoVGA", "&VGA- Emulation", 0, Fragezeichen, Verborgen},

@@ -10,11 +10,13 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -475,14 +477,41 @@ class FensterTest : public QObject {
   void hilfeOptionenUndEnde() {
     Öffne("MenüKatasterPolel");
     Drücke(Qt::Key_F1);
-    QTextBrowser* Handbuch = nullptr;
+    QWidget* Rahmen = nullptr;
     for (QWidget* W : QApplication::topLevelWidgets()) {
-      if (W->objectName() == "Handbuch") Handbuch = qobject_cast<QTextBrowser*>(W);
+      if (W->objectName() == "Handbuch") Rahmen = W;
     }
-    QVERIFY(Handbuch != nullptr);
+    QVERIFY(Rahmen != nullptr);
+    auto* Handbuch = Rahmen->findChild<QTextBrowser*>();
     QCOMPARE(Handbuch->source().fileName(), QString("polarelemente.md"));
     QVERIFY(Handbuch->toPlainText().contains("Polarelemente"));
-    Handbuch->close();
+    auto* Verzeichnis = Rahmen->findChild<QListWidget*>();
+    QVERIFY(Verzeichnis->count() > 12 && Verzeichnis->item(1)->text() == "Die erste Viertelstunde");
+    QTest::keyClicks(Rahmen->findChild<QLineEdit*>(), "bild auf strg");
+    QCOMPARE(Verzeichnis->count(), 1);
+    QTest::keyClick(Rahmen->findChild<QLineEdit*>(), Qt::Key_Return);
+    QCOMPARE(Handbuch->source().fileName(), QString("tasten.md"));
+    for (const int Breite : {700, 1100}) {  // the pictures of the first page go with the window
+      Rahmen->resize(Breite, 700);
+      Handbuch->setSource(QUrl("qrc:/handbuch/index.md"), QTextDocument::MarkdownResource);
+      QCOMPARE(Handbuch->horizontalScrollBar()->maximum(), 0);
+    }
+    Handbuch->backward();
+    QCOMPARE(Handbuch->source().fileName(), QString("tasten.md"));
+    Rahmen->close();
+    Dialoge.push_back([] {  // also inside a dialog
+      QWidget* Dialog = QApplication::activeModalWidget();
+      QTest::keyClick(Dialog, Qt::Key_F1);
+      for (QWidget* W : QApplication::topLevelWidgets()) {
+        if (W->objectName() != "Handbuch") continue;
+        QCOMPARE(W->findChild<QTextBrowser*>()->source().fileName(), QString("optionen.md"));
+        QCOMPARE(Dialog->windowModality(), Qt::WindowModal);  // it can be read beside it
+        W->close();
+      }
+      QTest::keyClick(Dialog, Qt::Key_Escape);
+    });
+    Menü("MenüOptionenOptionen");
+    QVERIFY(Dialoge.empty());
     static const QRegularExpression Verweis("\\]\\(([^)]+)\\)");
     for (int Nummer = 0; Nummer < 9000; Nummer += 10) {
       const QByteArray Seite = Inhalt(":/handbuch/" + Handbuchseite(Nummer));
