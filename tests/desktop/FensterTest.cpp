@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMdiArea>
@@ -17,6 +18,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -24,6 +26,7 @@
 #include <QtTest>
 
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
@@ -370,6 +373,66 @@ class FensterTest : public QObject {
     zelleSteht(29);
     Fenster->resize(Fenster->width(), Fenster->height() - 150);
     zelleSteht(29);
+  }
+
+  // Two worksheets in turn, all keys in the queue at once: each row goes to its own.
+  void zweiBlaetterImWechsel() {
+    Öffne("MenüKatasterLinel");
+    Menü("MenüKatasterPolel");
+    auto* Fläche = Fenster->findChild<QMdiArea*>();
+    const QList<QMdiSubWindow*> Blätter = Fläche->subWindowList();
+    const auto Nach = [&](int i) {
+      QMetaObject::invokeMethod(
+          qApp, [=] { Fläche->setActiveSubWindow(Blätter[i]); }, Qt::QueuedConnection);
+    };
+    for (const int i : {0, 1}) {
+      Nach(i);
+      TippeVoraus("1001\n1002\n0\n0\n");
+    }
+    for (const char* Nummer : {"2003\n", "2004\n", "2005\n"}) {
+      for (const int i : {0, 1}) {
+        Nach(i);
+        TippeVoraus(Nummer);
+      }
+    }
+    for (const char* Name : {"LinelGitter", "PolelGitter"}) {
+      const auto* Modell = Fenster->findChild<QTableView*>(Name)->model();
+      QTRY_COMPARE(Modell->rowCount(), 4);
+      for (int z = 0; z < 3; ++z) QCOMPARE(Modell->index(z, 0).data().toString(), QString::number(2003 + z));
+    }
+    QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 6);
+  }
+
+  void geschlossenesBlattHaeltDenStapelAn() {
+    Öffne();
+    QByteArray Sta;
+    for (const char* Art : {"24.40", "08.40"})
+      Sta += QByteArray("M VR ") + Art + "\r\nPAN 1001 0\r\nPEN 1002 99.93\r\nNR 2003\r\nE Ende\r\n";
+    Schreibe(Pfad("b.sta"), Sta);
+    Wähle(Pfad("b.sta"));
+    Menü("MenüDateiStapel");
+    QVERIFY(Stapel.Aktiv);
+    Fenster->findChild<QMdiSubWindow*>()->close();
+    QTRY_VERIFY(!BlätterOffen());
+    QVERIFY(!Stapel.Aktiv);
+  }
+
+  // A name from a file is no markup.
+  void textIstKeineAuszeichnung() {
+    const char* const Name = "<b>a</b>&amp;";
+    Dialoge.push_back([&] {
+      const auto* Text = QApplication::activeModalWidget()->findChild<QLabel*>("qt_msgbox_label");
+      QVERIFY(Text->text() == Name && Text->textFormat() == Qt::PlainText);
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    });
+    Hinweis(Name);
+    StatusHilfeSetzen(Name);
+    bool Gezeigt = false;
+    for (const auto* Text : Fenster->statusBar()->findChildren<QLabel*>()) {
+      Gezeigt = Gezeigt || Text->text().contains(Name);
+      QCOMPARE(Text->textFormat(), Qt::PlainText);
+    }
+    QVERIFY(Gezeigt);
   }
 
   void kopierenUndEinfuegen() {
