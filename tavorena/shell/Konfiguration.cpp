@@ -40,7 +40,9 @@ class Einstellungsleser {
   bool Suchen(std::string_view Abschnitt) {
     std::string Gelesen;
     while (Zeile(Gelesen)) {
-      if (Großtext(Gelesen).find(Abschnitt) != std::string::npos) return true;
+      // Every section has its bracket; most lines have none.
+      if (Gelesen.find('[') != std::string::npos && Großtext(Gelesen).find(Abschnitt) != std::string::npos)
+        return true;
     }
     return false;
   }

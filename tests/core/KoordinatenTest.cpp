@@ -86,6 +86,7 @@ TEST_F(Punkttabelle, NeupunktHältOrdnungUndSpalten) {
 TEST_F(Punkttabelle, OrdnungVonZahlenUndTexten) {
   for (const char* Pnr : {"10", "2", "1,5"}) Punkt(Pnr, 1, 1);
   EXPECT_EQ(Reihe(KorPnr(0), KorPnr(1)), "1.5|2");  // the comma has become a point
+  EXPECT_EQ(KorSuche(std::string_view()), -1);      // what a record without a number asks for
   EXPECT_EQ(Reihe(KorSuche(Wert(1.5)), KorSuche(Wert(" 10\t")), KorSuche(Wert("1,5")), KorSuche(Wert("010"))),
             "0|2|-1|-1");
 }
