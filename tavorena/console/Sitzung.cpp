@@ -73,9 +73,10 @@ bool Lesen(const Aufruf& A, PlattformKonsole& Konsole) {
 
 bool ProtokollBeginnen(const Aufruf& A, PlattformKonsole& Konsole) {
   // Told before the work, not at its first row.
-  if (!A.Protokoll.empty() && TextAnhängen(A.Protokoll, "") < 0) {
+  std::string Grund;
+  if (!A.Protokoll.empty() && TextAnhängen(A.Protokoll, "", &Grund) < 0) {
     Konsole.Arbeitet(A.Protokoll);
-    Konsole.Melden("Das Protokoll läßt sich nicht schreiben.");
+    Konsole.Melden("Das Protokoll läßt sich nicht schreiben (" + Grund + ").");
     return false;
   }
   ProtokollNehmen(A.Protokoll);

@@ -103,8 +103,9 @@ bool FernpunktFrage(const std::string& Pnr, double Rechts, double Hoch) {
   const double Grenze = Leer ? 0 : std::max({10000.0, 10 * (R.Bis - R.Von), 10 * (H.Bis - H.Von)});
   if (Leer || std::max(R.Nächster, H.Nächster) <= Grenze) return true;
   const std::string Km = Trimmen(ZahlFormat(Wert(Abstand / 1000), -1, 0));
-  return FrageJaNein("Punkt " + Pnr + " liegt " + Km + " km von allen anderen entfernt. Trotzdem aufnehmen ?",
-                     "Tavorena", KnopfNein) == KnopfJa;
+  return FrageJaNein(
+             "Punkt " + Zitat(Pnr) + " liegt " + Km + " km von allen anderen entfernt. Trotzdem aufnehmen ?",
+             "Tavorena", KnopfNein) == KnopfJa;
 }
 
 int FormEinzelKorein(Wert& Pnr) {
