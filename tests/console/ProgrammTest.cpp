@@ -79,6 +79,18 @@ TEST_F(Programm, Rückgabewerte) {
   EXPECT_EQ(Inhalt(Ordner.Pfad("a.sta")).substr(0, 3), "M V");  // a refused call touches nothing
 }
 
+TEST_F(Programm, VolleScheibeBeendetOhneSpeichern) {
+  std::string Viele = "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\n";
+  for (int i = 0; i < 60; ++i) Viele += "NR 2003\r\n";
+  Schreibe(Ordner.Pfad("viele.sta"), Viele + "E\r\n");
+  EXPECT_EQ(Laufen("sh -c 'trap \"\" XFSZ; ulimit -f 2; exec " TAVORENA_STAPEL " \"$@\"' sh",
+                   "--koordinaten a.kor --protokoll a.dru --speichern b.kor viele.sta"),
+            1);
+  EXPECT_EQ(Meldungen.find("a.dru: "), 0U) << Meldungen;
+  EXPECT_EQ(Meldungen.find('\n'), Meldungen.size() - 1) << Meldungen;  // one, not one a row
+  EXPECT_FALSE(fs::exists(Ordner.Pfad("b.kor")));
+}
+
 TEST_F(Programm, HilfeUndFassungOhneBildschirm) {
   for (const char* Pfad : {TAVORENA_STAPEL, TAVORENA_FENSTER}) {
     if (*Pfad == '\0') continue;  // a build without Qt
