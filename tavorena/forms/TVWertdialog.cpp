@@ -201,7 +201,8 @@ int PunktVorhandenFrage(const std::string& Pnr) {
 }
 
 int PunktVorhandenOrientierungFrage(const std::string& Pnr) {
-  const int Knopf = Knopffrage("Punkt schon vorhanden:", Zitat(Pnr), {"&Orientierung", "&Zurück", "&Abbruch"}, 0);
+  const int Knopf =
+      Knopffrage("Punkt schon vorhanden:", Zitat(Pnr), {"&Orientierung", "&Zurück", "&Abbruch"}, 0);
   return Knopf < 0 ? 2 : Knopf;
 }
 
