@@ -66,11 +66,13 @@ bool Auslesen(const Deskriptor& K, std::string& Inhalt) {
   Inhalt.clear();
   for (;;) {
     // A byte more than the file has: the end shows, and a file that grew meanwhile is read on.
-    if (Gelesen == Inhalt.size())
-      Inhalt.resize(std::max(static_cast<std::size_t>(Stand.st_size) + 1, Gelesen + Gelesen / 2));
-    if (Inhalt.size() > Größte) {
-      errno = EFBIG;
-      return false;
+    if (Gelesen == Inhalt.size()) {
+      const std::size_t Nötig = std::max(static_cast<std::size_t>(Stand.st_size) + 1, Gelesen + Gelesen / 2);
+      if (Nötig > Größte) {
+        errno = EFBIG;
+        return false;
+      }
+      Inhalt.resize(Nötig);
     }
     const ssize_t n = read(K.Nummer(), Inhalt.data() + Gelesen, Inhalt.size() - Gelesen);
     if (n < 0 && errno == EINTR) continue;
