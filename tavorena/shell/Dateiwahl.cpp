@@ -51,7 +51,7 @@ void VerzeichnisMerken(const std::string& Name) {
   const std::string Ordner = DateinameZerlegen(Name).Ordner;
   if (Ordner.empty()) return;
   Optionen.VerzeichnisLetztes = Ordner;
-  static_cast<void>(OptionenSchreiben());  // it holds for this run all the same
+  OptionenMerken();
 }
 
 int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,

@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <cstdlib>
 #include <initializer_list>
+#include <utility>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Protokoll.h>
@@ -40,6 +42,7 @@ class Einstellungsleser {
   bool Suchen(std::string_view Abschnitt) {
     std::string Gelesen;
     while (Zeile(Gelesen)) {
+      Überlaufen = false;
       // Every section has its bracket; most lines have none.
       if (Gelesen.find('[') != std::string::npos && Großtext(Gelesen).find(Abschnitt) != std::string::npos)
         return true;
@@ -51,8 +54,27 @@ class Einstellungsleser {
     std::string_view Sicht;
     if (!Gut || !Leser.Nächste(Sicht)) return false;
     Gelesen = Sicht;
+    ++Nummer;
+    Überlaufen = Überlaufen || Gelesen.starts_with('[');
     return true;
   }
+
+  // A whole number from 0 to Größte out of the line that was read last. What runs over into the next section
+  // is read as it comes; in its own section any other value is noted. Both leave the default.
+  std::int16_t Ganz(const std::string& Wort, int Größte, int Vorgabe) {
+    const bool Ziffern = !Wort.empty() && Wort.find_first_not_of("0123456789") == std::string::npos;
+    const int Zahl = KurzAusText(Wort);
+    const bool Gilt = Zahl >= 0 && Zahl <= Größte && (Ziffern ? ZahlAusText(Wort) <= Größte : Überlaufen);
+    if (!Gilt && !Überlaufen) {
+      Mängel += "\nZeile " + std::to_string(Nummer) + ": " + Zitat(Wort) +
+                " ist keine ganze Zahl von 0 bis " + std::to_string(Größte) + ", es gilt " +
+                std::to_string(Vorgabe);
+    }
+    return static_cast<std::int16_t>(Gilt ? Zahl : Vorgabe);
+  }
+
+  // What Ganz noted.
+  [[nodiscard]] const std::string& Beanstandet() const { return Mängel; }
 
   [[nodiscard]] bool AmEnde() const { return Leser.AmEnde(); }
 
@@ -69,6 +91,9 @@ class Einstellungsleser {
   std::string Text;
   bool Gut;
   Zeilenleser Leser;
+  int Nummer = 0;
+  bool Überlaufen = false;
+  std::string Mängel;
 };
 
 bool IstWahr(const std::string& Wort) {
@@ -103,9 +128,9 @@ bool SpätereLesen(Einstellungsleser& K) {
   if (!Nächste()) return false;
   Optionen.VorgabeHoch = Gilt ? ZahlAusText(Wort) : 0;
   if (!Nächste()) return false;
-  Optionen.OptWarnstufe = Gilt ? KurzAusText(Wort) : 3;
+  Optionen.OptWarnstufe = Gilt ? K.Ganz(Wort, 3, 3) : std::int16_t{3};
   if (!Nächste()) return false;
-  Optionen.OptNachkommaSpeichern = Gilt ? KurzAusText(Wort) : std::int16_t{4};
+  Optionen.OptNachkommaSpeichern = Gilt ? K.Ganz(Wort, 6, 4) : std::int16_t{4};
   if (!Nächste()) return false;
   Optionen.FStatMitHoehe = Gilt ? IstWahr(Wort) : true;
   if (!Nächste()) return false;
@@ -113,6 +138,20 @@ bool SpätereLesen(Einstellungsleser& K) {
   if (!Nächste()) return false;
   Optionen.FStatPAAnschluss = Gilt && IstWahr(Wort);
   return true;
+}
+
+int AbschnittLesen(Einstellungsleser& K) {
+  std::string Wort;
+  if (!K.Suchen("[OPTIONEN]")) return -1;
+  if (!K.ZeileLesen(Wort)) return -1;
+  Optionen.OptNachkommastellen = K.Ganz(Wort, 6, 3);
+  if (!K.ZeileLesen(Wort)) return -1;
+  FensterwahlLesen(Wort);
+  if (!K.ZeileLesen(Wort)) return -1;
+  Optionen.AbfrageRiss = IstWahr(Wort);
+  if (!K.ZeileLesen(Wort)) return -1;
+  Optionen.AbfrageDruck = IstWahr(Wort);
+  return SpätereLesen(K) ? 0 : -1;
 }
 
 std::string Fensterzeile() {
@@ -131,9 +170,11 @@ std::string Vorgabezeile(double Wert, const char* Kommentar) {
 // The irregular blanks behind "True" and "False" are part of the format.
 std::string Wahlzeile(bool An, const char* Wahr, const char* Falsch) { return An ? Wahr : Falsch; }
 
-int Schreiben(const std::string& Dateiname, const std::string& Text) {
-  return OrdnerAnlegen(Anwendungsordner) < 0 ? -1 : DateiErsetzen(Dateiname, Text);
+int Schreiben(const std::string& Dateiname, const std::string& Text, std::string* Grund = nullptr) {
+  return OrdnerAnlegen(Anwendungsordner) < 0 ? -1 : DateiErsetzen(Dateiname, Text, Grund);
 }
+
+std::string Gemeldet;  // the file that was told to be out of reach
 
 // The text of the values that DateinamenLesen takes, in the order of the file.
 struct Namenszeile {
@@ -175,17 +216,9 @@ void DateinamenAbleiten() {
 int OptionenLesen() {
   Optionen = {};
   Einstellungsleser K(DateinameOptionen);
-  std::string Wort;
-  if (!K.Suchen("[OPTIONEN]")) return -1;
-  if (!K.ZeileLesen(Wort)) return -1;
-  Optionen.OptNachkommastellen = KurzAusText(Wort);
-  if (!K.ZeileLesen(Wort)) return -1;
-  FensterwahlLesen(Wort);
-  if (!K.ZeileLesen(Wort)) return -1;
-  Optionen.AbfrageRiss = IstWahr(Wort);
-  if (!K.ZeileLesen(Wort)) return -1;
-  Optionen.AbfrageDruck = IstWahr(Wort);
-  return SpätereLesen(K) ? 0 : -1;
+  const int Ergebnis = AbschnittLesen(K);
+  if (!K.Beanstandet().empty()) Hinweis("Einstellungen in\n" + DateinameOptionen + K.Beanstandet());
+  return Ergebnis;
 }
 
 int HistorieLesen() {
@@ -230,7 +263,7 @@ int EDBSLesen() {
   return -1;
 }
 
-int OptionenSchreiben() {
+int OptionenSchreiben(std::string* Grund) {
   const auto& O = Optionen;
   const auto Zahl = [](std::int32_t n) { return ZahlFeld(n, 3); };
   std::string Text;
@@ -262,7 +295,16 @@ int OptionenSchreiben() {
   for (const Namenszeile& N : Namenszeilen) Zeile(O.*N.Wert + N.Kommentar);
   Zeile("[EDBS]");
   Zeile(O.EDBSInfo);
-  return Schreiben(DateinameOptionen, Text);
+  return Schreiben(DateinameOptionen, Text, Grund);
+}
+
+void OptionenMerken() {
+  std::string Grund;
+  if (OptionenSchreiben(&Grund) == 0) {
+    Gemeldet.clear();
+  } else if (std::exchange(Gemeldet, DateinameOptionen) != DateinameOptionen) {
+    Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen + InKlammern(Grund));
+  }
 }
 
 void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format) {
@@ -273,7 +315,7 @@ void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format) {
   const auto Vorn = Historie.begin();
   std::move_backward(Vorn, Vorn + Stelle, Vorn + Stelle + 1);
   Historie[0] = {Dateiname, Format};
-  static_cast<void>(OptionenSchreiben());  // it holds for this run all the same
+  OptionenMerken();
 }
 
 int TheoOptionenLesen(TheoOptionen& Gelesen) {

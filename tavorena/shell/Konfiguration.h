@@ -36,6 +36,8 @@ inline constexpr int HistorieAnzahl = 10;
 
 // ---- readers; 0 good, -1 section missing, end of file or read error
 
+/// Decimals that are no whole number from 0 to 6, and a warning level that is none from 0 to 3, take their
+/// default; one message names lines and values.
 int OptionenLesen();
 int HistorieLesen();
 /// Reads nothing and sets the font size to 8: the section "[Formular]" reports the last run only.
@@ -44,7 +46,10 @@ int DateinamenLesen();
 int EDBSLesen();
 
 /// Rewrites Tavorena.ini whole. Called after every change. @return 0; -1 if it could not be written
-[[nodiscard]] int OptionenSchreiben();
+[[nodiscard]] int OptionenSchreiben(std::string* Grund = nullptr);
+
+/// The same beside other work: what can not be written holds for this run, and is told once.
+void OptionenMerken();
 
 /// Puts a file to the front of the history, and writes it.
 void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format);

@@ -107,8 +107,9 @@ class TVOptionenform final : public Formular {
     } else {
       FormularZoomRechnen(false);
     }
-    if (OptionenSchreiben() < 0)
-      Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen);  // they hold for this run
+    std::string Grund;
+    if (OptionenSchreiben(&Grund) < 0)  // they hold for this run
+      Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen + InKlammern(Grund));
     AnzeigePort().HauptfensterGeändert();
     Schließen();
   }

@@ -63,13 +63,32 @@ TEST_F(Konfiguration, Fensterwahl) {
   }
 }
 
-TEST_F(Konfiguration, GanzeZahlenHabenSechzehnBit) {
-  for (const auto& [Wort, Soll] : {std::pair{"32767", 32767}, {"32768", 0}, {"-32767.5", 0}, {"2.9", 2}}) {
-    Ini(std::string("[Optionen]\n") + Wort + "\n0\n0\n0\n0\n0\n" + Wort + "\n" + Wort + "\n0\n");
+TEST_F(Konfiguration, GanzeZahlenHabenIhrenBereich) {
+  for (const char* Wort : {"32767", "65539", "-5", "nan", "2.9", "7", "3,"}) {
+    SCOPED_TRACE(Wort);
+    Ini(std::string("x\n[Optionen]\n") + Wort + "\n0\n0\n0\n0\n0\n" + Wort + "\n" + Wort + "\n0\n");
+    const std::string Ist = std::string(Wort) + " ist keine ganze Zahl von 0 bis ";
+    Skript.Erwarte("Tavorena.ini\nZeile 3: " + Ist + "6, es gilt 3\nZeile 9: " + Ist +
+                   "3, es gilt 3\nZeile 10: " + Ist + "6, es gilt 4");
     OptionenLesen();
-    EXPECT_TRUE(Gleich(Optionen.OptNachkommastellen, Soll, Optionen.OptWarnstufe, Soll,
-                       Optionen.OptNachkommaSpeichern, Soll));
+    EXPECT_TRUE(
+        Gleich(Optionen.OptNachkommastellen, 3, Optionen.OptWarnstufe, 3, Optionen.OptNachkommaSpeichern, 4));
   }
+  Ini("[Optionen]\n6\n0\n0\n0\n0\n0\n0\n06\n0\n");
+  OptionenLesen();
+  EXPECT_TRUE(
+      Gleich(Optionen.OptNachkommastellen, 6, Optionen.OptWarnstufe, 0, Optionen.OptNachkommaSpeichern, 6));
+  Ini("[Optionen]\n3\n2\nTrue\nFalse\n1\n1\n[Historie]\n4711.kor * 0\n\n\n\n");  // runs over: no word
+  OptionenLesen();
+  EXPECT_EQ(Optionen.OptNachkommaSpeichern, 4);
+}
+
+TEST_F(Konfiguration, UnbeschreibbareDateiWirdEinmalGemeldet) {
+  Ini("");
+  std::filesystem::permissions(Ordner.Pfad("app/Tavorena.ini"), std::filesystem::perms{0444});
+  Skript.Erwarte("beim Speichern der Datei " + DateinameOptionen + " (schreibgeschützt)");
+  for (const char* Name : {"a", "b", "c"}) HauptHistSchreiben(Name, Dateiformat::Kor);
+  EXPECT_EQ(Ini(), "");
 }
 
 TEST_F(Konfiguration, ÄltereDateiLäuftInDenNächstenAbschnitt) {
