@@ -65,6 +65,7 @@ bool Lesen(const Aufruf& A, PlattformKonsole& Konsole) {
   Konsole.Arbeitet(A.Koordinaten);
   if (A.Koordinaten.empty()) return true;
   KoordinatendateiName = A.Koordinaten;
+  KoordinatendateiStandMerken(A.Koordinaten);
   Koordinatendateiformat = FormatNachEndung(A.Koordinaten);
   if (KorLesen(A.Koordinaten, Lesemodus::Ersetzen, Koordinatendateiformat) < 0) return false;
   TVKernMDIForm::Fenster().DateiOffen();

@@ -41,6 +41,13 @@ Dateiname DateinameZerlegen(std::string_view Name) {
   return Teile;
 }
 
+std::string GanzerName(const std::string& Name) {
+  const fs::path Pfad = Systempfad(Name);
+  std::error_code Fehler;
+  const fs::path Ganz = fs::absolute(Pfad, Fehler).lexically_normal();
+  return Name.empty() || Pfad.is_absolute() || Fehler ? Name : Ganz.string();
+}
+
 bool DateiVorhanden(std::string_view Name) {
   std::error_code Fehler;
   return !Name.empty() && fs::exists(Systempfad(Name), Fehler);

@@ -20,6 +20,9 @@ struct Dateiname {
 };
 Dateiname DateinameZerlegen(std::string_view Name);
 
+/// The name with its folder, also where it was told beside the current one.
+std::string GanzerName(const std::string& Name);
+
 bool DateiVorhanden(std::string_view Name);
 bool OrdnerVorhanden(std::string_view Name);
 

@@ -207,9 +207,9 @@ int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
     FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
     return -1;
   }
-  std::string Inhalt;
-  if (TextdateiLesen(Dateiname, Inhalt) < 0) {
-    Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !");
+  std::string Inhalt, Grund;
+  if (TextdateiLesen(Dateiname, Inhalt, &Grund) < 0) {
+    Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !" + InKlammern(Grund));
     return -1;
   }
   const Lesung::Ende Ende = TabelleFüllen(Inhalt, Modus, Format, Nimmt);
@@ -247,9 +247,9 @@ int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maxi
   Anzahl = 0;
   if (Dateiname.empty()) return 0;
   Listen = {};
-  std::string Inhalt;
-  if (TextdateiLesen(Dateiname, Inhalt) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Dateiname);
+  std::string Inhalt, Grund;
+  if (TextdateiLesen(Dateiname, Inhalt, &Grund) < 0) {
+    Hinweis("Datei nicht gefunden:\n" + Dateiname + InKlammern(Grund));
     return -1;
   }
   Zeilenleser Leser(Inhalt);

@@ -55,6 +55,7 @@ void DateiSpeichernUnter() {
   if (KoordinatenExportieren(Name, Format, Anhängen) < 0) return;
   KoordinatendateiName = Name;
   Koordinatendateiformat = Format;
+  KoordinatendateiStandMerken(Name);
   KorGeaendertSetzen(false);
   // An extended file holds more than the table: the table takes all of it.
   if (Anhängen && KorLesen(Name, Lesemodus::Ersetzen, Format) < 0) {

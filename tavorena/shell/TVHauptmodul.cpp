@@ -71,7 +71,23 @@ void MittelEintragen(const Mittelpunkt& M) {
   static_cast<void>(Schreiben(Prot, Kopf, MittelBlock(Optionen.OptNachkommastellen, M)));
 }
 
+// The coordinate file as this program knows it.
+struct {
+  std::string Name;
+  Dateistand Stand;
+} Bekannt;
+
+// Another program wrote the file that was read here: its points are not in the table.
+bool DarfÜberschreiben(const std::string& Dateiname) {
+  const Dateistand Jetzt = DateistandVon(Dateiname);
+  if (Dateiname != Bekannt.Name || Jetzt == Bekannt.Stand || Jetzt == Dateistand{}) return true;
+  return FrageJaNein("Die Datei wurde inzwischen von einem anderen Programm geändert. Überschreiben ?\n\n" +
+                         Dateiname,
+                     "Tavorena", KnopfNein) == KnopfJa;
+}
+
 int LesenNachFormat() {
+  KoordinatendateiStandMerken(KoordinatendateiName);
   if (Koordinatendateiformat >= Dateiformat::Kor && Koordinatendateiformat <= Dateiformat::Lt4) {
     const int Gelesen = KorLesen(KoordinatendateiName, Lesemodus::Ersetzen, Koordinatendateiformat);
     if (Gelesen < 0) KoordinatendateiName.clear();
@@ -83,6 +99,10 @@ int LesenNachFormat() {
 }
 
 }  // namespace
+
+void KoordinatendateiStandMerken(const std::string& Dateiname) {
+  Bekannt = {Dateiname, DateistandVon(Dateiname)};
+}
 
 void HauptAnschließen() {
   Haken.FormEinzelKorein = FormEinzelKorein;
@@ -145,7 +165,7 @@ Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst) {
 }
 
 int HauptDateiÖffnen(const std::string& Name, Dateiformat Format) {
-  KoordinatendateiName = Name;
+  KoordinatendateiName = GanzerName(Name);
   Koordinatendateiformat = FormatNachEndung(Name, Format);
   if (HauptLesenUndDateinamenSetzen(true) < 0) {
     OhnePunkte();
@@ -171,13 +191,17 @@ int HauptDateiSpeichern() {
 }
 
 int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen) {
-  std::string Alt, Neu;
-  bool Gut = KorText(Format, Optionen.OptNachkommaSpeichern, Neu) == 0 &&
-             (!Anhängen || DateiLesen(Dateiname, Alt) == 0);
+  if (!Anhängen && !DarfÜberschreiben(Dateiname)) return -1;
+  std::string Alt, Neu, Grund;
+  // Whatever an option came to, coordinates are not rounded to metres by it.
+  const int Gewählt = Optionen.OptNachkommaSpeichern;
+  const int Nachkomma = Gewählt >= 0 && Gewählt <= 6 ? Gewählt : OptionenSatz().OptNachkommaSpeichern;
+  bool Gut = KorText(Format, Nachkomma, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
   if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
   // A file that is extended keeps the coding that it has.
-  Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu))) == 0;
-  if (!Gut) Hinweis("Fehler aufgetreten beim Speichern der Datei " + Dateiname);
+  Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu)), &Grund) == 0;
+  if (!Gut) Hinweis("Fehler aufgetreten beim Speichern der Datei " + Dateiname + InKlammern(Grund));
+  if (Gut && Dateiname == KoordinatendateiName) KoordinatendateiStandMerken(Dateiname);
   return Gut ? 0 : -1;
 }
 

@@ -30,7 +30,11 @@ int HauptDateiÖffnen(const std::string& Name, Dateiformat Format);
 /// Writes the table to KoordinatendateiName in its format. @return 0; -1 with a message
 int HauptDateiSpeichern();
 
-/// The common writer behind saving and exports. @param[in] Format KOR or LT4
+/// The file stands as this program knows it: to be called before it is read, and after it was written.
+void KoordinatendateiStandMerken(const std::string& Dateiname);
+
+/// The common writer behind saving and exports; a file that somebody else changed since it was read is asked
+/// for. @param[in] Format KOR or LT4
 /// @return 0; -1, an old file is then as it was
 int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen = false);
 

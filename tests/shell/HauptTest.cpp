@@ -117,6 +117,8 @@ TEST_F(Haupt, MisslungenesLesenLäßtDenTitelStehen) {
   Skript.Erwarte("nicht vorhanden !");
   Befehl("MenüDateiLesen(0)", Ordner.Pfad("fehlt.kor"));
   EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("fehlt.kor"));
+  Skript.Erwarte("nicht vorhanden ! (ist ein Ordner)");
+  Befehl("MenüDateiLesen(0)", Ordner.Pfad("app/.."));
   Schreibe(Ordner.Pfad("a.eds"), "x");
   Skript.Erwarte("Das Format der Datei wird nicht gelesen");
   Befehl("MenüDateiLesen(0)", Ordner.Pfad("a.eds"));
@@ -142,6 +144,35 @@ TEST_F(Haupt, NeueDateiSpeichern) {
   Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
   EXPECT_EQ(Koordinatendateiformat, Dateiformat::Lt4);
   EXPECT_TRUE(Inhalt(Ordner.Pfad("b.lt4")).starts_with("000 45590000000007"));
+}
+
+// What another program wrote after it was read here is not lost without a question.
+TEST_F(HauptOffen, FremdeÄnderungFragt) {
+  const std::string Fremd = "9001 1.0 2.0\r\n9002 3.0 4.0\r\n";
+  Punkt("7", 1, 2);
+  Schreibe(A_kor, Fremd);
+  for (const int Antwort : {KnopfNein, KnopfJa}) {
+    Skript.Erwarte("inzwischen von einem anderen Programm geändert. Überschreiben ?\n\n" + A_kor, Antwort);
+    Befehl("MenüDateiSpeichern(0)");
+    EXPECT_EQ(Inhalt(A_kor) == Fremd, Antwort == KnopfNein);
+    EXPECT_EQ(KoordinatenGeaendert, Antwort == KnopfNein);
+  }
+  Punkt("8", 1, 2);
+  Optionen.OptNachkommaSpeichern = -5;
+  Befehl("MenüDateiSpeichern(0)");  // known again
+  EXPECT_NE(Inhalt(A_kor).find("  8         1.000         2.000 "), std::string::npos) << Inhalt(A_kor);
+  EXPECT_EQ(DateiLöschen(A_kor), 0);
+  Befehl("MenüDateiSpeichern(0)");  // nothing to lose
+  EXPECT_TRUE(DateiVorhanden(A_kor));
+}
+
+TEST_F(Haupt, NameDerBefehlszeileWirdGanz) {
+  Schreibe(A_kor, "1 2.0 3.0\r\n");
+  const auto Vorher = std::filesystem::current_path();
+  std::filesystem::current_path(Ordner.Pfad(""));
+  HauptDateiÖffnen("a.kor", Dateiformat::Kor);
+  std::filesystem::current_path(Vorher);
+  EXPECT_TRUE(Gleich(Historie[0].Dateiname, A_kor, Prot.Datei, A_dru));
 }
 
 TEST_F(Haupt, SpeichernUnterVergebenemNamen) {
