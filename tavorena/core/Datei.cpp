@@ -96,6 +96,7 @@ int DateiLöschen(std::string_view Name) {
   std::error_code Fehler;
   const fs::path Pfad = Systempfad(Name);
   if (fs::is_directory(Pfad, Fehler)) return -1;
+  AnhangVergessen(Pfad);
   fs::remove(Pfad, Fehler);
   return Fehler ? -1 : 0;
 }

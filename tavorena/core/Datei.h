@@ -47,6 +47,10 @@ bool OrdnerVorhanden(std::string_view Name);
 /// and so is a link without a file at its end. @return 0 or -1
 [[nodiscard]] int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund = nullptr);
 
+/// Makes an empty file beside Name that nobody else has or may read.
+/// @param[in,out] Name  the name of the new file; "" if there is none @return 0 or -1
+[[nodiscard]] int EigeneDateiAnlegen(std::string& Name);
+
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length. @return 0 or -1
 [[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr);

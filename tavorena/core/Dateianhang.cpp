@@ -53,7 +53,10 @@ bool Sichern(Anhangspur& Spur) {
 Anhangspur& SpurVon(const fs::path& Pfad) {
   const auto Alte =
       std::find_if(Spuren.begin(), Spuren.end(), [&](const Anhangspur& S) { return S.Pfad == Pfad; });
-  if (Alte != Spuren.end()) return *Alte;
+  if (Alte != Spuren.end()) {
+    std::rotate(Alte, Alte + 1, Spuren.end());  // the one out of use for longest stands in front
+    return Spuren.back();
+  }
   if (Spuren.size() == MeisteSpuren) {
     static_cast<void>(Sichern(Spuren.front()));  // long out of use, and written
     Spuren.erase(Spuren.begin());
@@ -111,6 +114,10 @@ int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Gru
   Spur = Anhangspur{Spur.Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii};
   if (Grund != nullptr) *Grund = Wort;
   return -1;
+}
+
+void AnhangVergessen(const fs::path& Pfad) {
+  std::erase_if(Spuren, [&](const Anhangspur& S) { return S.Pfad == Pfad; });
 }
 
 int AnhängeSichern(std::string* Name) {

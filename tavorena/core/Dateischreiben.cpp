@@ -124,6 +124,13 @@ int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, std::string& Grund) 
 
 }  // namespace
 
+int EigeneDateiAnlegen(std::string& Name) {
+  std::string Neu = Name.empty() ? "" : Systempfad(Name).string() + std::string(Eigenes);
+  const Deskriptor K(mkostemp(Neu.data(), O_CLOEXEC));
+  Name = K ? Neu : "";
+  return K ? 0 : -1;
+}
+
 int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund) {
   std::string Wort;
   if (!Name.empty() && Ersetzen(Systempfad(Name), Inhalt, Wort) == 0) return 0;

@@ -56,6 +56,9 @@ Deskriptor RegulärÖffnen(const std::filesystem::path& Pfad, int Art, struct st
 /// A link without a file at its end, or one that runs in a circle.
 [[nodiscard]] bool VerweisInsLeere(const std::filesystem::path& Pfad);
 
+/// A file that is removed is not extended any more.
+void AnhangVergessen(const std::filesystem::path& Pfad);
+
 Dateistand DateistandAus(const struct stat& Stand);
 
 }  // namespace tavorena

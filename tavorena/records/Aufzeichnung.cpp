@@ -17,9 +17,17 @@ void Aufzeichnung::Öffnen(bool Nachlauf) {
   Eigenes = {};
   Eigenes.OhneKopf = true;
   // Without a second target the worksheet works as well.
-  const std::string Ordner = DateinameZerlegen(DateinameProtokollTemp).Ordner;
-  if (OrdnerAnlegen(Ordner) == 0 && DateiErsetzen(DateinameProtokollTemp, "") == 0)
-    Eigenes.Datei = DateinameProtokollTemp;
+  EigeneDateiEntfernen();
+  std::string Neue = DateinameProtokollTemp;
+  if (OrdnerAnlegen(DateinameZerlegen(Neue).Ordner) == 0 && EigeneDateiAnlegen(Neue) == 0)
+    Eigenes.Datei = EigeneDatei = Neue;
+}
+
+Aufzeichnung::~Aufzeichnung() { EigeneDateiEntfernen(); }
+
+void Aufzeichnung::EigeneDateiEntfernen() {
+  if (!EigeneDatei.empty()) static_cast<void>(DateiLöschen(EigeneDatei));
+  EigeneDatei.clear();
 }
 
 int Aufzeichnung::Beginnen(Verbindung Neue) {

@@ -22,8 +22,10 @@ class Aufzeichnung {
   Aufzeichnung() = default;
   Aufzeichnung(const Aufzeichnung&) = delete;
   Aufzeichnung& operator=(const Aufzeichnung&) = delete;
+  ~Aufzeichnung();
 
-  /// The worksheet opens: the second target is made new.
+  /// The worksheet opens: its second target is a file of its own beside DateinameProtokollTemp, which goes
+  /// with it.
   void Öffnen(bool Nachlauf);
 
   /// What is to stand above the rows from now on; nothing is written before the first one.
@@ -50,9 +52,11 @@ class Aufzeichnung {
 
  private:
   [[nodiscard]] int Protokollieren(const Block& Zeile);
+  void EigeneDateiEntfernen();
 
   std::shared_ptr<const Verbindung> Über;
   Protokoll Eigenes;
+  std::string EigeneDatei;
   Stapelblock Stapel;
   bool ImNachlauf = false;
   bool Gezählt = false;  // the marks of the connection

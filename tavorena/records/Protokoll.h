@@ -36,7 +36,7 @@ extern Protokoll Prot;
 /// Plan name and calculation number that were typed or read last: the next worksheet begins with them.
 extern Plan LetzterPlan;
 
-/// Path of the temporary file of the worksheets' second targets.
+/// What the files of the worksheets' second targets are named after.
 extern std::string DateinameProtokollTemp;
 
 /// Takes a protocol file into use for the job: page 1, nothing written yet.

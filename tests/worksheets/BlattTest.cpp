@@ -137,6 +137,19 @@ TEST_F(BlattTest, UngeschriebeneZeileBleibtOffen) {
   EXPECT_FALSE(B->Offen());
 }
 
+TEST_F(BlattTest, JedesBlattHatSeinZweitesZiel) {
+  auto A = Verbinde("24.40"), B = Verbinde("08.40");
+  Tippe(*A, "LinelGitter", "2003\n");
+  Tippe(*B, "PolelGitter", "2004\n");
+  ASSERT_EQ(ZweiteZiele().size(), 2U);
+  for (const std::string& Datei : ZweiteZiele()) {
+    EXPECT_EQ(Anzahl(Inhalt(Datei), "2003") + Anzahl(Inhalt(Datei), "2004"), 1);
+    EXPECT_EQ(std::filesystem::status(Datei).permissions(), std::filesystem::perms{0600});
+  }
+  A.reset();
+  EXPECT_EQ(ZweiteZiele().size(), 1U);
+}
+
 // Each file is asked for once, and then no more until another one is taken.
 TEST_F(BlattTest, OhneAktenGehtEsWeiter) {
   const std::string Sta = StapelDatei.Name, Dru = Prot.Datei;
