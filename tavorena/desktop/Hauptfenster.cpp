@@ -260,6 +260,10 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   QSize Wunsch = Fenster->sizeHint();
   auto* Gitter = Ansicht->findChild<Gitteransicht*>();
   if (Gitter != nullptr) Wunsch.setHeight(std::max(Wunsch.height(), Flaeche->height() - 40));
+  // A worksheet that is cut at its side hides what is typed: the protocol makes room.
+  const int Fehlend = Wunsch.width() - Flaeche->width();
+  if (Fehlend > 0 && Protokollrahmen->isVisible())
+    resizeDocks({Protokollrahmen}, {Protokollrahmen->width() - Fehlend}, Qt::Horizontal);
   const Fensterplatz Platz;
   const QSize Letzte = Platz.Größe(Schlüssel(Form, "Größe"));
   BlattStellen(*Fenster, Letzte.isEmpty() ? Wunsch : Letzte.boundedTo(Flaeche->size()));

@@ -35,7 +35,9 @@ class Hauptfenster final : public QMainWindow {
   void BlattZeigen(Formular& Form);
   void StatusSetzen(Statusfeld Feld, const QString& Text);
   /// Shows the lines of the protocol when a burst of them is over.
-  void ProtokollSpäterZeigen() { Protokolluhr.start(); }
+  void ProtokollSpäterZeigen() {
+    if (!Protokolluhr.isActive()) Protokolluhr.start();
+  }
   /// A long loop runs: only the stop button can be used.
   void Sperren(bool An);
   /// Opens the handbook at the page of the menu entry, form or dialog that the user is in.
