@@ -280,7 +280,7 @@ void Hauptfenster::BlattStellen(QMdiSubWindow& Neues, QSize Wunsch) {
   for (QMdiSubWindow* F : Flaeche->subWindowList()) {
     if (F != &Neues && F->isVisible()) Altes = F;
   }
-  if (Altes == nullptr || Altes->isMaximized()) return Neues.resize(Wunsch);
+  if (Altes == nullptr || Altes->isMaximized()) return Neues.setGeometry(QRect(QPoint(0, 0), Wunsch));
   const QSize Platz = Flaeche->viewport()->size();
   if (Altes->width() + Wunsch.width() <= Platz.width()) {
     Altes->move(0, 0);

@@ -478,6 +478,7 @@ class FensterTest : public QObject {
     Fenster->Auffrischen();
     QVERIFY(!QFile::exists(Ablage));  // the start makes none
     auto* Linel = Fenster->findChild<QMdiSubWindow*>();
+    QCOMPARE(Linel->pos(), QPoint(0, 0));  // not cut at the side that is typed into
     auto* Gitter = Fenster->findChild<QTableView*>("LinelGitter");
     Gitter->setColumnWidth(3, 201);
     Linel->resize(Linel->width() + 31, Linel->height() - 57);
