@@ -118,10 +118,11 @@ void StapelStarten(const std::string& Dateiname) {
   if (Dateiname.empty()) return;
   Stapel = {};
   Stapel.Bilanz.Datei = Dateiname;
-  std::string Text;
-  if (TextdateiLesen(Dateiname, Text) < 0) {
+  std::string Text, Grund;
+  if (TextdateiLesen(Dateiname, Text, &Grund) < 0) {
     Stapel.Bilanz.Fehler = true;
-    return LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Stapelmodul.StapelStarten");
+    return LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Stapelmodul.StapelStarten",
+                                 Dateiname + InKlammern(Grund) + "\n");
   }
   Zeilenleser Leser(Text);
   std::string_view Zeile;

@@ -212,8 +212,10 @@ TEST_F(StapelTest, FehlerBeendetDenLauf) {
 
 TEST_F(StapelTest, GrenzenDesLaufs) {
   StapelStarten("");
-  Skript.Erwarte("Fehler 53");
+  Skript.Erwarte(Ordner.Pfad("fehlt.sta") + "\nFehler 53");
   StapelStarten(Ordner.Pfad("fehlt.sta"));
+  Skript.Erwarte(" (ist ein Ordner)\nFehler 53");
+  StapelStarten(Ordner.Pfad(""));
   int Blöcke = 0;
   std::string Text, P;
   for (int i = 0; i < 5000; ++i) Text += "M VR LE\r\nE\r\n";
