@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScrollArea>
 
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
@@ -164,6 +165,9 @@ void Gitteransicht::FeldZeigen() {
   executeDelayedItemsLayout();
   scrollTo(Feldzelle);
   FeldRücken();
+  for (QWidget* W = parentWidget(); Zellfeld->hasFocus() && W != nullptr; W = W->parentWidget()) {
+    if (auto* Rolle = qobject_cast<QScrollArea*>(W)) Rolle->ensureWidgetVisible(Zellfeld, 10, 10);
+  }
 }
 
 int Gitteransicht::Zielzeile(Qt::Key Taste, bool Ganz) const {

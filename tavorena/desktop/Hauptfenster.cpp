@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTime>
@@ -62,7 +63,18 @@ QString Schlüssel(const Formular& Form, const char* Was) {
 class Blattfenster final : public QMdiSubWindow {
  public:
   explicit Blattfenster(FormularAnsicht* Zeigt) : Ansicht(Zeigt) {
-    setWidget(Ansicht);
+    // On a small screen the worksheet scrolls, and what has the focus is to be seen.
+    auto* Rolle = new QScrollArea;
+    Rolle->setWidget(Ansicht);
+    Rolle->setWidgetResizable(true);
+    Rolle->setFrameShape(QFrame::NoFrame);
+    Rolle->setFocusPolicy(Qt::NoFocus);
+    setWidget(Rolle);
+    setWindowTitle(Ansicht->windowTitle());
+    connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
+    connect(qApp, &QApplication::focusChanged, Rolle, [this, Rolle](QWidget*, QWidget* Neu) {
+      if (Neu != nullptr && Ansicht->isAncestorOf(Neu)) Rolle->ensureWidgetVisible(Neu, 10, 10);
+    });
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowIcon(Programmsymbol());
     Ansicht->BeiGeschlossen = [this, Name = QString::fromStdString(Zeigt->Form()->FormName)] {
@@ -257,7 +269,7 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   auto* Fenster = new Blattfenster(Ansicht);
   Flaeche->addSubWindow(Fenster);
   // Room for a few rows, as far as the work area has it.
-  QSize Wunsch = Fenster->sizeHint();
+  QSize Wunsch = Ansicht->sizeHint() + QSize(12, 40);  // the frame of the window
   auto* Gitter = Ansicht->findChild<Gitteransicht*>();
   if (Gitter != nullptr) Wunsch.setHeight(std::max(Wunsch.height(), Flaeche->height() - 40));
   // A worksheet that is cut at its side hides what is typed: the protocol makes room.
@@ -266,7 +278,7 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
     resizeDocks({Protokollrahmen}, {Protokollrahmen->width() - Fehlend}, Qt::Horizontal);
   const Fensterplatz Platz;
   const QSize Letzte = Platz.Größe(Schlüssel(Form, "Größe"));
-  BlattStellen(*Fenster, Letzte.isEmpty() ? Wunsch : Letzte.boundedTo(Flaeche->size()));
+  BlattStellen(*Fenster, (Letzte.isEmpty() ? Wunsch : Letzte).boundedTo(Flaeche->size()));
   if (Gitter != nullptr) Gitter->BreitenSetzen(Platz.Zahlen(Schlüssel(Form, "Spalten")));
   Fenster->show();
   Form.Öffnen();
