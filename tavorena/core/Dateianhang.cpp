@@ -40,7 +40,8 @@ struct Anhangspur {
     Stand = DateistandAus(S);
   }
 };
-std::vector<Anhangspur> Spuren;
+// Never destroyed: a worksheet that is still open at the end of the program appends and removes behind main.
+auto& Spuren = *new std::vector<Anhangspur>;
 constexpr std::size_t MeisteSpuren =
     16;  // files extended in turn: the protocol, the batch file, a few worksheets
 
