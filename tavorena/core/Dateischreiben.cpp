@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 namespace tavorena {
 namespace {
 
+constexpr std::time_t Tag = 24L * 3600;  // [s]
 constexpr std::string_view Zeichen = ".neu~", Eigenes = "XXXXXX";
 
 // What a kill left behind is nobody's any more after a day.
@@ -26,7 +27,7 @@ void ResteEntfernen(const fs::path& Ziel) {
     struct stat Stand {};
     if (Name.size() == Vorn.size() + Eigenes.size() && Name.starts_with(Vorn) &&
         lstat(Ordner->path().c_str(), &Stand) == 0 && S_ISREG(Stand.st_mode) &&
-        std::time(nullptr) - Stand.st_mtim.tv_sec > 24 * 3600)
+        std::time(nullptr) - Stand.st_mtim.tv_sec > Tag)
       Alte.push_back(Ordner->path());
   }
   for (const fs::path& Pfad : Alte) fs::remove(Pfad, Fehler);
