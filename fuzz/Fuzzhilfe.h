@@ -16,6 +16,10 @@ class Eingabe {
   /// A number from Von to Bis out of the next byte; Von at the end of the input.
   int Zahl(int Von, int Bis);
   [[nodiscard]] std::string_view Rest() const { return Offen; }
+  /// The rest bears the mark of UTF-16: readers of texts refuse it.
+  [[nodiscard]] bool IstUtf16() const {
+    return Offen.starts_with("\xFF\xFE") || Offen.starts_with("\xFE\xFF");
+  }
 
  private:
   std::string_view Offen;

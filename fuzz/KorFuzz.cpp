@@ -56,6 +56,7 @@ void Lauf(Eingabe E) {
            "die Nummer ist frei");
   }
   const int Vorher = KorAnzahl;
+  if (E.IstUtf16()) return;
   const std::string Name = Datei("a.kor", E.Rest());
   Prüfen(KorLesen(Name, Modus, Dateiformat::Kor) == 0, "eine Datei wird immer gelesen");
   Prüfen(KorAnzahl >= Vorher, "es geht kein Punkt verloren");

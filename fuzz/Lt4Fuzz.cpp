@@ -38,6 +38,7 @@ void ZeilePrüfen(int Zeile) {
 void Lauf(Eingabe E) {
   KorLeeren();
   const auto Modus = static_cast<Lesemodus>(E.Zahl(-1, 1));
+  if (E.IstUtf16()) return;
   const std::string Name = Datei("a.lt4", E.Rest());
   std::string Text;
   Prüfen(KorLesen(Name, Modus, Dateiformat::Lt4) == 0, "eine Datei wird immer gelesen");

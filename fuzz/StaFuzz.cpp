@@ -41,6 +41,7 @@ void Lauf(Eingabe E) {
   Schlussrufe = 0;
   Pnr1.clear();
   Prot = {};
+  if (E.IstUtf16()) return;
   StapelStarten(Datei("a.sta", E.Rest()));
   Prüfen(!Stapel.Aktiv, "der Lauf ist zu Ende");
   Prüfen(Stapel.Zeiger <= Stapel.Anzahl() && Stapel.Zeilennummer == Stapel.Zeiger,
