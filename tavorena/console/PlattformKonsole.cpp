@@ -5,6 +5,7 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/Formular.h>
 #include <tavorena/records/Stapelleser.h>
+#include <tavorena/shell/Konfiguration.h>
 
 namespace tavorena {
 
@@ -43,6 +44,8 @@ void PlattformKonsole::Melden(const std::string& Text) {
     if (Stück == A.Koordinaten || Stück == A.Protokoll || Stück == A.Speichern || Stück == A.Datei) {
       Datei = Stück;
       Fehler = true;
+    } else if (Stück == DateinameOptionen) {
+      Datei = Stück;  // its defaults stand: no failure
     } else {
       Worte += (Worte.empty() ? "" : " ") + std::string(Stück);
     }
