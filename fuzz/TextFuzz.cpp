@@ -35,6 +35,8 @@ void KodierungPrüfen(std::string_view Bytes) {
 }
 
 void DateiPrüfen(std::string_view Bytes) {
+  // A text with the mark of UTF-16 is refused.
+  if (Bytes.starts_with("\xFF\xFE") || Bytes.starts_with("\xFE\xFF")) return;
   // The module remembers the file extended last.
   Prüfen(TextAnhängen(Datei("b.txt", ""), "x") == 0, "der Text wird angehängt");
   const std::string Name = Datei("a.txt", "");
