@@ -1,11 +1,9 @@
-#include <map>
 #include <ostream>
 
 #include <tavorena/console/Befehle.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
-#include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelleser.h>
 
 namespace tavorena {
@@ -24,26 +22,18 @@ class Blockzeilen {
  private:
   void Schritt(const std::string& Nächster) {
     if (!Titel.empty()) {
-      Ziel << Sichtbar(Titel) << ": " << Stapel.Bilanz.Zeilen - Zeilen << " Zeilen, " << Prot.Marken - Marken
-           << " Marken\n";
+      Ziel << Sichtbar(Titel) << ": " << Stapel.Bilanz.Zeilen - Zeilen << " Zeilen, "
+           << Stapel.Bilanz.Marken - Marken << " Marken\n";
     }
     Titel = Nächster;
     Zeilen = Stapel.Bilanz.Zeilen;
-    Marken = Prot.Marken;
+    Marken = Stapel.Bilanz.Marken;
   }
 
   std::ostream& Ziel;
   std::string Titel;
   int Zeilen = 0, Marken = 0;
 };
-
-void Übergangene(std::ostream& Ausgabe) {
-  std::map<std::string, int> Anzahl;
-  for (const std::string& Kennung : Stapel.Bilanz.Übergangen) ++Anzahl[Kennung];
-  for (const auto& [Kennung, n] : Anzahl) {
-    Ausgabe << "übergangen: " << Sichtbar(Kennung) << " (" << n << " mal)\n";
-  }
-}
 
 bool Abspielen(const Aufruf& A, const Umfeld& U) {
   const Blockzeilen Zeilen(U.Ausgabe);
@@ -53,8 +43,8 @@ bool Abspielen(const Aufruf& A, const Umfeld& U) {
     Hinweis("In der Stapeldatei steht kein Block:\n" + A.Datei);
     return false;
   }
-  Übergangene(U.Ausgabe);
-  U.Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << B.Zeilen << "  Marken: " << Prot.Marken << '\n';
+  for (const std::string& Zeile : StapelBericht()) U.Ausgabe << Sichtbar(Zeile) << '\n';
+  U.Ausgabe << "Punkte: " << KorAnzahl << "  Zeilen: " << B.Zeilen << "  Marken: " << B.Marken << '\n';
   return !B.Fehler;
 }
 

@@ -92,6 +92,10 @@ std::string KuerzenMitPunkten(std::string_view Text, int Breite) {
   return "..." + FeldRechts(Text, Breite - 3);
 }
 
+std::string Anzahltext(int Anzahl, std::string_view Eins, std::string_view Viele) {
+  return std::to_string(Anzahl) + ' ' + std::string(Anzahl == 1 ? Eins : Viele);
+}
+
 int ZeichenKlasse(int Zeichencode) {
   if (Zeichencode >= '0' && Zeichencode <= '9') return 1;
   if (Zeichencode < 32 || Zeichencode == 127 || Zeichencode == '+' || Zeichencode == '-') return -1;

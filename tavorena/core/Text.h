@@ -55,6 +55,9 @@ std::string TeilVonRechts(std::string_view Text, int Stelle, int Laenge);
 /// If Breite is over 3 and Text is longer: "..." and the last Breite - 3 characters; otherwise Text.
 std::string KuerzenMitPunkten(std::string_view Text, int Breite);
 
+/// A number with its noun: "1 Zeile", "2 Zeilen".
+std::string Anzahltext(int Anzahl, std::string_view Eins, std::string_view Viele);
+
 /// 1 for a digit; -1 for a code below 32, for 127, for "+" and "-"; 0 for all else.
 int ZeichenKlasse(int Zeichencode);
 

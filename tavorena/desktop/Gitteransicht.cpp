@@ -144,6 +144,9 @@ void Gitteransicht::FeldSetzen() {
   if (!Daten.Aktiv || !Daten.ZelleOffen()) {
     Feldzelle = QModelIndex();
     Zellfeld->hide();
+    const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
+    if (Daten.NurLesen) selectionModel()->setCurrentIndex(Zelle, QItemSelectionModel::NoUpdate);
+    if (Daten.NurLesen) ZelleZeigen(Zelle);
     return;
   }
   const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
@@ -158,12 +161,16 @@ void Gitteransicht::FeldSetzen() {
   Zellfeld->show();
 }
 
-// The current cell is always wholly to be seen. A new row is laid out first, or there is nothing to scroll
-// to.
+// A new row is laid out first, or there is nothing to scroll to.
+void Gitteransicht::ZelleZeigen(const QModelIndex& Zelle) {
+  executeDelayedItemsLayout();
+  scrollTo(Zelle);
+}
+
+// The current cell is always wholly to be seen.
 void Gitteransicht::FeldZeigen() {
   if (!Feldzelle.isValid()) return;
-  executeDelayedItemsLayout();
-  scrollTo(Feldzelle);
+  ZelleZeigen(Feldzelle);
   FeldRücken();
   for (QWidget* W = parentWidget(); Zellfeld->hasFocus() && W != nullptr; W = W->parentWidget()) {
     if (auto* Rolle = qobject_cast<QScrollArea*>(W)) Rolle->ensureWidgetVisible(Zellfeld, 10, 10);

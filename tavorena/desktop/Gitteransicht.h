@@ -51,6 +51,7 @@ class Gitteransicht final : public QTableView {
   void SpaltenZeigen();
   void ZeilenMarkieren(int Von, int Bis);
   void FeldSetzen();
+  void ZelleZeigen(const QModelIndex& Zelle);
   void FeldZeigen();
   void FeldRücken();
 

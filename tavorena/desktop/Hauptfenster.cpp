@@ -181,8 +181,6 @@ void Hauptfenster::SymbolleisteBauen() {
     QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis));
     A->setToolTip(W.Hinweis);
     A->setObjectName(W.Name);
-    // It is open only while something long runs; then the key belongs to nobody else.
-    if (std::string_view(W.Name) == "ImageStop") A->setShortcut(QKeySequence(Qt::Key_Escape));
     connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusführen(W); });
     connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(Kern().Hinweis(W)); });
     Bilder.emplace_back(&W, A);
@@ -260,6 +258,9 @@ void Hauptfenster::Auffrischen() {
   for (const auto& [W, A] : Bilder) {
     A->setEnabled(Kern().WerkzeugAktiv(*W));
     A->setToolTip(QString::fromStdString(Kern().Hinweis(*W)));
+    // While something long runs the key belongs to nobody else; a replay has it in its worksheet.
+    if (std::string_view(W->Name) == "ImageStop")
+      A->setShortcut(Kern().IstBeschäftigt() ? QKeySequence(Qt::Key_Escape) : QKeySequence());
   }
   ProtokollZeigen();
 }

@@ -108,6 +108,10 @@ void Formular::Melden() {
   if (Titel.Abholen() && Beobachter != nullptr) Beobachter->TitelGeändert();
 }
 
+void Formular::Zwischenstand() {
+  if (IstOffen) Melden();
+}
+
 // ---- the focus ----------------------------------------------------------------------------------------
 
 bool Formular::NimmtFokus(const Steuerelement& S) {
@@ -141,7 +145,7 @@ Steuerelement* Formular::Nachbar(const Steuerelement& S, bool Vor) const {
 }
 
 bool Formular::Lesen(Eingabeelement& E) {
-  if (!E.BeiVerlassen || !NimmtFokus(E)) return true;
+  if (!E.BeiVerlassen || E.NurLesen || !NimmtFokus(E)) return true;
   const bool Gut = E.BeiVerlassen();
   E.Fehlerhaft = !Gut;
   return Gut;
@@ -194,13 +198,19 @@ bool Formular::TasteDrücken(Taste T) {
   Ausführen([&] {
     if (NimmtFokus(*Aktuell)) {  // it may have been closed since
       if (TasteUnten(*Aktuell, T)) return;
-      const auto* G = dynamic_cast<Gitter*>(Aktuell);
-      if (G != nullptr && G->BeiTaste && G->BeiTaste(T)) return;
+      if (auto* G = dynamic_cast<Gitter*>(Aktuell); G != nullptr && GitterTaste(*G, T)) return;
       if (T == Taste::Return) return ReturnDrücken();
     }
     Genommen = T == Taste::Escape && EscapeDrücken();
   });
   return Genommen;
+}
+
+// A grid that is only looked at knows the arrows alone.
+bool Formular::GitterTaste(Gitter& G, Taste T) {
+  if (!G.NurLesen) return G.BeiTaste && G.BeiTaste(T);
+  if (T == Taste::Auf || T == Taste::Ab) ZelleWechseln(G, G.Zeile + (T == Taste::Auf ? -1 : 1), G.Spalte);
+  return T != Taste::Escape;
 }
 
 void Formular::ReturnDrücken() {

@@ -124,6 +124,8 @@ class Formular {
   /// @return false: the form stays open
   virtual bool DarfSchließen() { return true; }
   virtual void BeiSchließen() {}
+  /// Shows what a long event has done so far.
+  void Zwischenstand();
 
  private:
   template <typename Arbeit>
@@ -132,6 +134,7 @@ class Formular {
   Art& Anlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen);
   void Melden();
   [[nodiscard]] bool Verlassen();
+  bool GitterTaste(Gitter& G, Taste T);
   void ReturnDrücken();
   bool EscapeDrücken();
   static void Drücken(Knopf& K);

@@ -16,8 +16,8 @@ bool Steuerelement::Abholen() {
 }
 
 bool Eingabeelement::Abholen() {
-  const bool Neu = Fehlerhaft.Abholen();
-  return Steuerelement::Abholen() || Neu;
+  const bool Neu[] = {Fehlerhaft.Abholen(), NurLesen.Abholen()};
+  return Steuerelement::Abholen() || Neu[0] || Neu[1];
 }
 
 bool Auswahl::Abholen() {
@@ -55,7 +55,9 @@ void Gitter::Leeren(int ZeilenDanach) {
   Zeile = Spalte = 0;
 }
 
-bool Gitter::ZelleOffen() const { return Zeile < Zeilen() && Spalten.at(Stelle(Spalte)).Eingabe; }
+bool Gitter::ZelleOffen() const {
+  return !NurLesen && Zeile < Zeilen() && Spalten.at(Stelle(Spalte)).Eingabe;
+}
 
 void Gitter::Merken(int Von, int Bis) {
   if (Von >= Bis) return;

@@ -53,6 +53,7 @@ struct Beschriftung final : Steuerelement {
 /// A control that is typed into.
 struct Eingabeelement : Steuerelement {
   bool IstPnr = false;            ///< a point number: "+" and "-" step it
+  Gezeigt<bool> NurLesen;         ///< a result, or a grid to be looked at: shown, never typed into
   Gezeigt<bool> Fehlerhaft;       ///< the value failed; shown in the warning colour
   std::function<void()> BeiText;  ///< the user changed the text
   /// Reads the value when the control, or the current cell, is left. @return false: it failed and stays
@@ -62,7 +63,6 @@ struct Eingabeelement : Steuerelement {
 };
 
 struct Feld final : Eingabeelement {
-  bool NurLesen = false;            ///< a result: shown, never typed into
   bool Rechtsbündig = false;        ///< numbers
   std::function<void()> BeiReturn;  ///< what Return does when the field was read; empty: on to the next
 };

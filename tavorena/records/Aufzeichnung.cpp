@@ -3,6 +3,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/records/Aufzeichnung.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena {
 namespace {
@@ -33,7 +34,7 @@ void Aufzeichnung::EigeneDateiEntfernen() {
 int Aufzeichnung::Beginnen(Verbindung Neue) {
   Über = std::make_shared<const Verbindung>(std::move(Neue));
   Gezählt = false;
-  return ImNachlauf ? 0 : Gesichert(Stapel.Beginnen(Über));
+  return ImNachlauf ? 0 : Gesichert(Sätze.Beginnen(Über));
 }
 
 int Aufzeichnung::Protokollieren(const Block& Zeile) {
@@ -46,11 +47,13 @@ int Aufzeichnung::Protokollieren(const Block& Zeile) {
 int Aufzeichnung::Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo) {
   Wo = {};
   const bool MitProtokoll = !Prot.Datei.empty(), MitStapel = !ImNachlauf && !StapelDatei.Name.empty();
-  const bool ImStapel = MitStapel && Stapel.Anfügen(Satz, Wo.Griff) == 0;
+  const bool ImStapel = MitStapel && Sätze.Anfügen(Satz, Wo.Griff) == 0;
   const bool ImProtokoll = MitProtokoll && Protokollieren(Zeile) == 0;
   Wo.Geschrieben = ImStapel || ImProtokoll || (!MitProtokoll && !MitStapel);
   if (!Wo.Geschrieben) return -1;
-  Prot.Marken += Zeile.Marken + (std::exchange(Gezählt, true) ? 0 : Über->Zeilen.Marken);
+  const int Marken = Zeile.Marken + (std::exchange(Gezählt, true) ? 0 : Über->Zeilen.Marken);
+  Prot.Marken += Marken;
+  if (ImNachlauf) Stapel.Bilanz.Marken += Marken;
   return 0;
 }
 
@@ -63,7 +66,7 @@ int Aufzeichnung::Streichen(const Block& Gestrichen, const Spur& Wo) {
 
 int Aufzeichnung::Beenden() {
   Über.reset();
-  return ImNachlauf ? 0 : Gesichert(Stapel.Beenden());
+  return ImNachlauf ? 0 : Gesichert(Sätze.Beenden());
 }
 
 }  // namespace tavorena

@@ -33,7 +33,7 @@ class Aufzeichnung {
   [[nodiscard]] int Beginnen(Verbindung Neue);
 
   /// The batch block stands open: the next row needs no new head.
-  [[nodiscard]] bool BlockOffen() const { return Stapel.Offen(); }
+  [[nodiscard]] bool BlockOffen() const { return Sätze.Offen(); }
 
   /// Writes a row below its connection into every file that is wanted. It counts as written when it reached
   /// one of them, or when none is wanted.
@@ -57,7 +57,7 @@ class Aufzeichnung {
   std::shared_ptr<const Verbindung> Über;
   Protokoll Eigenes;
   std::string EigeneDatei;
-  Stapelblock Stapel;
+  Stapelblock Sätze;  // its block of the batch file
   bool ImNachlauf = false;
   bool Gezählt = false;  // the marks of the connection
 };

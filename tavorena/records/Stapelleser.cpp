@@ -1,4 +1,8 @@
 
+#include <algorithm>
+#include <map>
+#include <utility>
+
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
@@ -42,10 +46,18 @@ bool RissNehmen(const Satz& S) {
   return true;
 }
 
+std::string InZeile() { return "Zeile " + std::to_string(Stapel.Zeilennummer); }
+
+void OhneEndeMerken() {
+  Stapel.Bilanz.OhneEnde.push_back("Block " + std::to_string(Stapel.Block) + ", " + Stapel.Art + ", " +
+                                   InZeile());
+}
+
 // The next record that is no comment; -1 with a message at the end of the file, -2 at the end of the block.
 int NächsterSatz(Satz& S) {
   do {
     if (!NächsteZeile(S)) {
+      OhneEndeMerken();
       StapelFehlerMeldung("Unerwartetes Dateiende");
       return -1;
     }
@@ -56,14 +68,32 @@ int NächsterSatz(Satz& S) {
 void Beenden() {
   Stapel.Aktiv = Stapel.Ablauf = false;
   if (AktenSichern() < 0) Stapel.Bilanz.Fehler = true;
+  if (Stapel.Blatt.Stand) Stapel.Blatt.Stand();
   if (StapelHaken.Schritt) StapelHaken.Schritt("");
 }
 
+void Abbrechen() {
+  Stapel.Bilanz.Fehler = Stapel.Bilanz.Abgebrochen = true;
+  Beenden();
+}
+
+// The line that was read last is read again.
+void ZeileZurück() {
+  --Stapel.Zeiger;
+  --Stapel.Zeilennummer;
+}
+
+// A record that does not belong here. Where it is the head of the next block, the run goes on with that.
 int Ablehnen(const Satz& S) {
   Hinweis("Fehler " + std::to_string(Stapel.Zeilennummer) + " beim Lesen der Stapeldatei:\n" +
           std::string(S.Zeile));
-  Stapel.Bilanz.Fehler = true;
-  Beenden();
+  if (S.Schlüssel != "M") {
+    Abbrechen();
+    return -1;
+  }
+  OhneEndeMerken();
+  Stapel.Bilanz.Fehler = Stapel.Zerrissen = true;
+  ZeileZurück();
   return -1;
 }
 
@@ -82,19 +112,29 @@ void BlockÜbergehen() {
   while (NächsteZeile(S)) {
     if (!IstKommentar(S) && IstEnde(S)) return;
     if (S.Schlüssel != "M") continue;
-    --Stapel.Zeiger;
-    --Stapel.Zeilennummer;
-    return;
+    return ZeileZurück();
   }
 }
 
 void BlockZeigen(const std::function<void()>& BlattZeigen) {
   Stapel.Aktiv = true;
-  Stapel.Ablauf = false;
-  ++Stapel.Bilanz.Blöcke;
+  Stapel.Ablauf = Stapel.Zerrissen = false;
   if (StapelHaken.Schritt) StapelHaken.Schritt(Stapel.Art);
   AblaufPort().EreignisseAbarbeiten();
+  if (!Stapel.Aktiv) return;  // somebody stopped it
+  ++Stapel.Bilanz.Blöcke;
+  if (const auto Schließen = std::exchange(Stapel.Blatt, {}).Schließen) Schließen();
   BlattZeigen();
+}
+
+// What stands behind a lone end record is not replayed.
+void VorzeitigesEnde() {
+  if (Stapel.Block < Stapel.Blöcke) {
+    Stapel.Bilanz.OhneEnde.push_back(InZeile() + ": E ohne Block, nicht gerechnet: " +
+                                     Anzahltext(Stapel.Blöcke - Stapel.Block, "Block", "Blöcke"));
+    Stapel.Bilanz.Fehler = true;
+  }
+  Beenden();
 }
 
 void NächsterBlock() {
@@ -103,6 +143,7 @@ void NächsterBlock() {
   for (;;) {
     const int Art = StapelLeseKopf(Kennung);
     if (Art == -1 && !Kennung.empty()) return StapelFehlerMeldung("Modulkopf fehlerhaft");
+    if (Art == -2) return VorzeitigesEnde();
     if (Art < 0) return Beenden();
     if (Art == 0 && StapelHaken.BlattFür) {
       if (const auto BlattZeigen = StapelHaken.BlattFür(Kennung)) return BlockZeigen(BlattZeigen);
@@ -116,7 +157,9 @@ void NächsterBlock() {
 
 void StapelStarten(const std::string& Dateiname) {
   if (Dateiname.empty()) return;
+  Nachlaufblatt Letztes = std::move(Stapel.Blatt);
   Stapel = {};
+  Stapel.Blatt = std::move(Letztes);
   Stapel.Bilanz.Datei = Dateiname;
   std::string Text, Grund;
   if (TextdateiLesen(Dateiname, Text, &Grund) < 0) {
@@ -133,6 +176,7 @@ void StapelStarten(const std::string& Dateiname) {
       return LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Stapelmodul.StapelStarten");
     }
     Stapel.Zeilen.emplace_back(Zeile);
+    if (Großtext(Wortnehmen(Zeile)) == "M") ++Stapel.Blöcke;
   }
   Stapel.Aktiv = true;
   StapelWeiter();
@@ -154,14 +198,44 @@ void StapelWeiter() {
 }
 
 void StapelAnhalten() {
-  if (Stapel.Aktiv) Beenden();
+  if (!Stapel.Aktiv) return;
+  Stapel.Bilanz.Abgebrochen = true;
+  Beenden();
+  if (Stapel.Blatt.Anhalten) Stapel.Blatt.Anhalten();
+}
+
+void StapelAuslassen(const std::string& Grund) {
+  Stapel.Bilanz.Ausgelassen.push_back(InZeile() + ": " + Grund);
+}
+
+std::string StapelStand() {
+  const StapelBilanz& B = Stapel.Bilanz;
+  const std::string Block = "Block " + std::to_string(Stapel.Block) + " von " + std::to_string(Stapel.Blöcke);
+  if (Stapel.Aktiv) return Block + ", " + Stapel.Art + ", " + InZeile();
+  std::string Text = B.Abgebrochen ? "Stapel abgebrochen bei " + Block : "Stapel beendet";
+  Text += ": " + Anzahltext(B.Blöcke, "Block", "Blöcke") + ", " + Anzahltext(B.Zeilen, "Zeile", "Zeilen");
+  if (!B.Ausgelassen.empty()) Text += ", " + std::to_string(B.Ausgelassen.size()) + " ausgelassen";
+  Text += ", " + Anzahltext(B.Marken, "Marke", "Marken");
+  if (!B.Übergangen.empty()) Text += ", übergangen: " + std::to_string(B.Übergangen.size());
+  return Text;
+}
+
+std::vector<std::string> StapelBericht() {
+  const StapelBilanz& B = Stapel.Bilanz;
+  std::vector<std::string> Zeilen;
+  for (const std::string& Zeile : B.Ausgelassen) Zeilen.push_back("ausgelassen: " + Zeile);
+  for (const std::string& Zeile : B.OhneEnde) Zeilen.push_back("ohne Ende: " + Zeile);
+  std::map<std::string, int> Anzahl;
+  for (const std::string& Kennung : B.Übergangen) ++Anzahl[Kennung];
+  for (const auto& [Kennung, n] : Anzahl)
+    Zeilen.push_back("übergangen: " + Kennung + " (" + std::to_string(n) + " mal)");
+  return Zeilen;
 }
 
 void StapelFehlerMeldung(const std::string& Text) {
   Hinweis("Fehler aufgetreten im Stapel\n" + Stapel.Bilanz.Datei +
           "\nZeile: " + std::to_string(Stapel.Zeilennummer) + "\n" + Text);
-  Stapel.Bilanz.Fehler = true;
-  Beenden();
+  Abbrechen();
 }
 
 int StapelLeseKopf(std::string& Kennung) {
@@ -171,6 +245,7 @@ int StapelLeseKopf(std::string& Kennung) {
     if (IstKommentar(S)) continue;
     if (S.Schlüssel == "E") return -2;
     if (S.Schlüssel != "M") continue;  // lines between blocks
+    ++Stapel.Block;
     Stapel.Art = TrimmenSicht(S.Rest);
     const std::string Art = Großtext(Wortnehmen(S.Rest));
     Kennung = Großtext(Wortnehmen(S.Rest));
@@ -202,8 +277,7 @@ int StapelLeseRisszeilen() {
   Satz S;
   while (NächsteZeile(S)) {
     if (IstKommentar(S) || RissNehmen(S)) continue;
-    --Stapel.Zeiger;
-    --Stapel.Zeilennummer;
+    ZeileZurück();
     return 0;
   }
   return -1;

@@ -12,10 +12,21 @@ namespace tavorena {
 /// What came of a replay.
 struct StapelBilanz {
   std::string Datei;
-  int Blöcke = 0;                       ///< blocks that a worksheet took
-  int Zeilen = 0;                       ///< rows that were calculated
-  std::vector<std::string> Übergangen;  ///< Kennungen that no worksheet takes
-  bool Fehler = false;                  ///< the replay ended with an error
+  int Blöcke = 0;                        ///< blocks that a worksheet took
+  int Zeilen = 0;                        ///< rows that were calculated
+  int Marken = 0;                        ///< tolerance marks of them
+  std::vector<std::string> Übergangen;   ///< Kennungen that no worksheet takes
+  std::vector<std::string> Ausgelassen;  ///< rows that were dropped: line of the file and reason
+  std::vector<std::string> OhneEnde;     ///< blocks without an end record: where they break off
+  bool Abgebrochen = false;              ///< stopped, or ended by an error
+  bool Fehler = false;                   ///< not all of it could be replayed
+};
+
+/// The worksheet that a replay shows.
+struct Nachlaufblatt {
+  std::function<void()> Schließen;  ///< the next block is shown in its place
+  std::function<void()> Anhalten;   ///< the replay was stopped, perhaps while the worksheet holds
+  std::function<void()> Stand;      ///< StapelStand has another text
 };
 
 /// The running replay. Start values: {}.
@@ -26,10 +37,17 @@ struct Nachlauf {
   bool Aktiv = false;               ///< a replay runs
   bool Ablauf = false;              ///< the worksheet has taken its block head
   std::string Art;                  ///< title of the block that runs
+  int Block = 0, Blöcke = 0;        ///< its place among all blocks of the file, from 1
+  bool Halten = true;               ///< each worksheet shows its connection and waits
+  bool Zerrissen = false;           ///< the block that runs broke off at the head of the next one
   StapelBilanz Bilanz;
+  Nachlaufblatt Blatt;                        ///< stays when the replay has ended, to be read
   bool ImVerteiler = false, Nochmal = false;  ///< StapelWeiter runs; it was called again meanwhile
+  bool RechnetZeilen = false;                 ///< a worksheet takes the rows of its block
 
   [[nodiscard]] int Anzahl() const { return static_cast<int>(Zeilen.size()); }  ///< number of lines
+  /// It runs, or its last step is not over: no other replay may begin.
+  [[nodiscard]] bool Läuft() const { return Aktiv || ImVerteiler || RechnetZeilen; }
 };
 extern Nachlauf Stapel;
 
@@ -45,12 +63,22 @@ extern Nachlaufhaken StapelHaken;
 /// Reads the file and runs the first block. An empty name does nothing.
 void StapelStarten(const std::string& Dateiname);
 
-/// Finds the next module head and shows its worksheet; ends the replay at the end of the file. Called by a
-/// worksheet that has finished its block; a call from inside the dispatcher is done when that returns.
+/// Finds the next module head and shows its worksheet, in place of the one before; ends the replay at the end
+/// of the file. Called by a worksheet that has finished its block; a call from inside the dispatcher is done
+/// when that returns.
 void StapelWeiter();
 
 /// The stop button: the replay ends after the running row.
 void StapelAnhalten();
+
+/// The row that was read last is dropped; the replay goes on and names it at its end.
+void StapelAuslassen(const std::string& Grund);
+
+/// Where the replay is, or how it ended: "Block 3 von 11, VR 24.40 Linienelemente, Zeile 57".
+[[nodiscard]] std::string StapelStand();
+
+/// What did not go as recorded, a line each: rows dropped, blocks without an end, blocks passed over.
+[[nodiscard]] std::vector<std::string> StapelBericht();
 
 /// A failure of the replay: box with file and line, then the replay is over.
 void StapelFehlerMeldung(const std::string& Text);

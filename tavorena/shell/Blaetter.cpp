@@ -35,7 +35,7 @@ bool BlätterSchließen() {
   return true;
 }
 
-bool StapelSchreibenOffen() { return Stapel.Aktiv; }
+bool StapelSchreibenOffen() { return Stapel.Läuft(); }
 
 std::function<void()> BlattFür(const std::string& Kennung) {
   const Blattart* Art = BlattartVonKennung(Kennung);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 
 #include <tavorena/core/Datei.h>
@@ -30,13 +31,20 @@ int BildschirmBreite = 0, BildschirmHoehe = 0;
 
 namespace {
 
+constexpr std::size_t Berichtzeilen = 15;  // that a message box shows
+
+// A replay begins a block, or has ended: what did not go as recorded is told.
 void Stapelstand(const std::string& Titel) {
-  if (!Titel.empty()) return StatusHilfeSetzen("Stapel: " + Titel);
-  std::string Text = "Stapel beendet: " + std::to_string(Stapel.Bilanz.Blöcke) + " Blöcke, " +
-                     std::to_string(Stapel.Bilanz.Zeilen) + " Zeilen";
-  if (!Stapel.Bilanz.Übergangen.empty()) Text += ", übergangen:";
-  for (const std::string& Kennung : Stapel.Bilanz.Übergangen) Text += " " + Kennung;
-  StatusHilfeSetzen(Text);
+  StatusHilfeSetzen(StapelStand());
+  AnzeigePort().HauptfensterGeändert();
+  const StapelBilanz& B = Stapel.Bilanz;
+  if (!Titel.empty() || (B.Ausgelassen.empty() && B.OhneEnde.empty())) return;
+  const std::vector<std::string> Zeilen = StapelBericht();
+  std::string Text = B.Datei + "\n";
+  for (std::size_t i = 0; i < std::min(Zeilen.size(), Berichtzeilen); ++i) Text += "\n" + Zeilen[i];
+  if (Zeilen.size() > Berichtzeilen)
+    Text += "\nund " + std::to_string(Zeilen.size() - Berichtzeilen) + " weitere";
+  tavorena::Hinweis(Text);
 }
 
 int ProtokollNehmenFragen(std::string Name) {

@@ -6,6 +6,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Konfiguration.h>
@@ -97,7 +98,7 @@ std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
 }
 
 std::string_view TVKernMDIForm::Grund(const Werkzeug& W) const {
-  if (std::string_view(W.Name) == "ImageStop") return Lang ? "" : "kein langer Lauf";
+  if (std::string_view(W.Name) == "ImageStop") return Lang || Stapel.Aktiv ? "" : "kein langer Lauf";
   if (BlätterOffen() && IstEinerVon(W.Name, {"ImageProgrammende", "ImageDateiLesen", "ImageOptionen"}))
     return "Rechenblatt offen";
   const Menüeintrag* E = MenüFinden(W.Eintrag);
@@ -129,7 +130,11 @@ void TVKernMDIForm::Ausführen(std::string_view Name) {
 void TVKernMDIForm::WerkzeugAusführen(const Werkzeug& W) {
   if (!WerkzeugAktiv(W)) return;
   if (std::string_view(W.Name) == "ImageStop") {
-    KorStop = Laufwunsch::Stop;
+    if (Lang) {
+      KorStop = Laufwunsch::Stop;
+    } else {
+      StapelAnhalten();
+    }
   } else {
     Ausführen(W.Eintrag);
   }

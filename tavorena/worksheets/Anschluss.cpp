@@ -13,6 +13,7 @@ namespace {
 
 const char* const RahmenAnschluss = "Anschluß";
 const char* const RahmenErgebnis = "Ergebnis";
+const char* const GleichePunkte = "Anfangs- und Endpunkt sind gleich";
 
 }  // namespace
 
@@ -95,7 +96,7 @@ bool Anschluss::Prüfen() {
     return false;
   }
   if (Gesetzt()) return true;
-  StatusHilfeSetzen("Anfangs- und Endpunkt sind gleich");
+  StatusHilfeSetzen(GleichePunkte);
   Blatt.FokusSetzen(End.Pnr);
   return false;
 }
@@ -108,7 +109,9 @@ int Anschluss::AusStapel(const std::string& AnfPnr, const std::string& EndPnr) {
     StapelFehlerMeldung("Anschlußpunkt " + Zitat(*P->Pnr.Text) + " fehlt");
     return -1;
   }
-  return 0;
+  if (Gesetzt()) return 0;
+  StapelFehlerMeldung(GleichePunkte);
+  return -1;
 }
 
 void Anschluss::AnschlussAnAus(bool An) {

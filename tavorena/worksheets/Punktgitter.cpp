@@ -141,6 +141,9 @@ int Punktgitter::StapelZeile() {
   // A point that the user does not supply drops its row, the replay goes on.
   const int Eingetragen = Eintragen(Gelesen);
   if (Eingetragen == 0) ++Stapel.Bilanz.Zeilen;
+  if (Eingetragen == -1)
+    StapelAuslassen("Punkt " + Zitat(Gelesen) +
+                    (KorSuche(std::string_view(Gelesen)) < 0 ? " fehlt" : " ist nicht zu rechnen"));
   if (Eingetragen != -2) return 0;
   StapelFehlerMeldung("Zeile nicht geschrieben");
   return -1;

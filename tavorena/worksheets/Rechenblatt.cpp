@@ -12,6 +12,7 @@ namespace tavorena {
 namespace {
 
 const char* const RahmenPlan = "Plan";
+const char* const RahmenStapel = "Stapel";
 
 // A label and, behind it, the result field that it names.
 Feld& Planfeld(Formular& Form, const char* Label, const std::string& Name, int Spalte, int Zeichen) {
@@ -37,13 +38,17 @@ Rechenblatt::Rechenblatt(const Blattart& BlattArt)
 // The keys of the buttons are those that the menu bar leaves free.
 void Rechenblatt::KnöpfeAnlegen() {
   KnopfEnd = &KnopfAnlegen(Mit("End"), "&Schließen", [this] { SchließenVerlangen(); }, {0, 3});
-  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", [this] { Stop(); }, {0, 4});
+  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", [] { StapelAnhalten(); }, {0, 4});
   KnopfWeiter = &KnopfAnlegen(Mit("Weiter"), "&Weiter", [this] { StapelZeilenRechnen(); }, {0, 5});
+  Stand = &BeschriftungAnlegen("", {0, 0}, RahmenStapel);
+  JederBlock = &KästchenAnlegen(Mit("Halten"), "bei &jedem Block halten", {0, 1}, RahmenStapel);
+  JederBlock->BeiWahl = [this] { Stapel.Halten = JederBlock->Gewählt; };
   KnopfEnd->OhnePrüfung = KnopfStop->OhnePrüfung = true;
   KnopfEnd->Hilfe = "Rechenblatt schließen";
   KnopfStop->Hilfe = "Stapel nach der laufenden Zeile beenden";
   KnopfWeiter->Hilfe = "Zeilen des Stapels rechnen";
-  KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = false;
+  JederBlock->Hilfe = "Aus: der Stapel läuft durch, ohne bei jedem Anschluß zu warten";
+  KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = Stand->Sichtbar = JederBlock->Sichtbar = false;
 }
 
 void Rechenblatt::BeiÖffnen() {
@@ -76,19 +81,46 @@ Verbindung Rechenblatt::NeueVerbindung() {
   return V;
 }
 
+// In a replay there is nothing to type: what the surveyor can do is to look, to go on and to stop.
+void Rechenblatt::StapelKnöpfe(bool Läuft) {
+  for (const auto& S : Steuerelemente()) {
+    if (auto* E = dynamic_cast<Eingabeelement*>(S.get())) {
+      E->NurLesen = true;
+    } else if (dynamic_cast<Beschriftung*>(S.get()) == nullptr) {
+      S->Sichtbar = S.get() == KnopfEnd;
+    }
+  }
+  KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = JederBlock->Sichtbar = Läuft;
+  JederBlock->Gewählt = Stapel.Halten;
+  Stand->Sichtbar = true;
+}
+
+void Rechenblatt::StandZeigen() {
+  Stand->Text = StapelStand();
+  StatusHilfeSetzen(Stand->Text);
+}
+
 void Rechenblatt::StapelBeginnen() {
   Stapel.Ablauf = true;
+  Stapel.Blatt = {[this] { Schließen(); },
+                  [this] {
+                    Ereignis([this] {
+                      if (Hält) StapelBlattEnde();
+                    });
+                  },
+                  [this] { Ereignis([this] { StandZeigen(); }); }};
   Titel = Art.Stapeltitel;
   if (FeldLinks(Stapel.Art, 8) == FeldLinks(ProtTitel, 8)) ProtTitel = Stapel.Art;
-  KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = true;
-  KnopfEnd->Sichtbar = false;
+  StapelKnöpfe(true);
   const int Ergebnis = StapelAnschluss();
   if (Ergebnis < 0) {
     KnopfStop->Text = "- Abbruch -";
-    if (Stapel.Aktiv) StapelFehlerMeldung("Anschluß fehlt");
+    if (Stapel.Aktiv && !Stapel.Zerrissen) StapelFehlerMeldung("Anschluß fehlt");
+    Schließen();
     return StapelBlattEnde();
   }
-  Hält = AblaufPort().StapelHält();
+  Hält = Stapel.Halten && AblaufPort().StapelHält();
+  StandZeigen();
   if (Hält) {
     AktenSichern();  // somebody may look at it for long
     return FokusSetzen(*KnopfWeiter);
@@ -98,33 +130,48 @@ void Rechenblatt::StapelBeginnen() {
 
 void Rechenblatt::StapelZeilenRechnen() {
   Hält = false;
+  FokusSetzen(*KnopfStop);
   KnopfWeiter->Aktiv = false;
+  Stapel.RechnetZeilen = true;
   Atempause Pause(0.1);
-  while (Stapel.Aktiv && Offen() && StapelZeile() == 0) {
-    if (Pause.Fällig()) AblaufPort().EreignisseAbarbeiten();
+  int Ergebnis = 0;
+  while (Stapel.Aktiv && Offen() && (Ergebnis = StapelZeile()) == 0) {
+    if (!Pause.Fällig()) continue;
+    StandZeigen();
+    Zwischenstand();
+    AblaufPort().EreignisseAbarbeiten();
   }
+  Stapel.RechnetZeilen = false;
+  if (Ergebnis == -1) Schließen();
   StapelBlattEnde();
 }
 
+// The block is done. The worksheet stays to be read, unless another block takes its place.
 void Rechenblatt::StapelBlattEnde() {
   Stapel.Ablauf = Hält = false;
-  Schließen();
+  if (Offen()) {
+    static_cast<void>(Akten.Beenden());  // a replay has no block that could fail to end
+    StapelKnöpfe(false);
+    FokusSetzen(*KnopfEnd);
+    for (const auto& S : Steuerelemente()) {
+      if (dynamic_cast<Gitter*>(S.get()) != nullptr) FokusSetzen(*S);
+    }
+  }
   if (Stapel.Aktiv) StapelWeiter();
 }
 
 bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
+  if (T == Taste::Escape && VomStapel && Stapel.Aktiv) {
+    StapelAnhalten();
+    return true;
+  }
   auto* const E = dynamic_cast<Eingabeelement*>(&S);
-  if (E == nullptr || !E->IstPnr || (T != Taste::Plus && T != Taste::Minus)) return false;
+  if (E == nullptr || !E->IstPnr || E->NurLesen || (T != Taste::Plus && T != Taste::Minus)) return false;
   const std::string Neu = PunktnummerSchritt(T == Taste::Plus ? 1 : -1);
   if (Neu.empty()) return false;
   LetztePunktnummer = Neu;
   Tippen(*E, Neu);
   return true;
-}
-
-void Rechenblatt::Stop() {
-  StapelAnhalten();
-  if (Hält) StapelBlattEnde();
 }
 
 bool Rechenblatt::DarfSchließen() {
@@ -140,6 +187,7 @@ bool Rechenblatt::OffenesKlären() {
 }
 
 void Rechenblatt::BeiSchließen() {
+  if (VomStapel) Stapel.Blatt = {};
   // A block that can not be ended was told; the worksheet closes all the same.
   static_cast<void>(Akten.Beenden());
 }

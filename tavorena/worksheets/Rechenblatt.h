@@ -51,9 +51,10 @@ class Rechenblatt : public Formular {
 
  private:
   void StapelBeginnen();
+  void StapelKnöpfe(bool Läuft);
+  void StandZeigen();
   void StapelZeilenRechnen();
   void StapelBlattEnde();
-  void Stop();
   void RissFragen();
   void RissZeigen();
 
@@ -67,6 +68,8 @@ class Rechenblatt : public Formular {
   Knopf* KnopfEnd = nullptr;
   Knopf* KnopfStop = nullptr;
   Knopf* KnopfWeiter = nullptr;
+  Beschriftung* Stand = nullptr;  // where the replay is
+  Auswahl* JederBlock = nullptr;  // "bei jedem Block halten"
 };
 
 }  // namespace tavorena

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Dis.h>
 #include <tavorena/records/Stapelleser.h>
@@ -92,7 +93,15 @@ int TVDisForm::StapelZeile() {
   Kopf.Anf.Pnr.Text = AnfPnr;
   Kopf.End.Pnr.Text = EndPnr;
   // A point that the user does not supply drops its check, the replay goes on.
-  if (Kopf.Anf.Setzen() < 0 || Kopf.End.Setzen() < 0 || !Kopf.Gesetzt()) return 0;
+  for (Punktfeld* P : {&Kopf.Anf, &Kopf.End}) {
+    if (P->Setzen() == 0) continue;
+    StapelAuslassen("Punkt " + Zitat(*P->Pnr.Text) + " fehlt");
+    return 0;
+  }
+  if (!Kopf.Gesetzt()) {
+    StapelAuslassen("Anfangs- und Endpunkt sind gleich");
+    return 0;
+  }
   Anschluss::MesswertSetzen(Strecke, Entfernung);
   if (AnschlussEinzel() == 0) return 0;
   StapelFehlerMeldung("Zeile nicht geschrieben");

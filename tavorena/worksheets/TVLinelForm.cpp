@@ -5,6 +5,7 @@
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Linel.h>
 #include <tavorena/records/Stapelleser.h>
@@ -14,6 +15,7 @@
 namespace tavorena {
 namespace {
 
+const char* const GleicheMaße = "Anlegemaß und Endmaß sind gleich";
 constexpr std::size_t SpalteRed = 5;  // first of the two grid columns with the reduced values
 
 Feld& Streifenfeld(Rechenblatt& Blatt, const char* Label, const char* Rest, int Spalte, int Zeichen) {
@@ -103,7 +105,7 @@ void TVLinelForm::AnschlussÖffnen() {
 int TVLinelForm::AnschlussEinzel() {
   if (Gemessen() == 0) {
     Endmass.Fehlerhaft = true;
-    StatusHilfeSetzen("Anlegemaß und Endmaß sind gleich");
+    StatusHilfeSetzen(GleicheMaße);
     FokusSetzen(Endmass);
     return -1;
   }
@@ -120,6 +122,7 @@ int TVLinelForm::StapelAnschluss() {
   if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
   Anschluss::MesswertSetzen(Anlegemass, AnfWert);
   Anschluss::MesswertSetzen(Endmass, EndWert);
+  if (Gemessen() == 0) StapelFehlerMeldung(GleicheMaße);
   return AnschlussEinzel();
 }
 
@@ -133,7 +136,7 @@ void TVLinelForm::Streifen() {
   if (Pnrbis.Text->empty()) Pnrbis.Text = *Pnrvon.Text;
   if (!Zeilen.OffeneZeileSchreiben()) return;
   const int Anzahl = StreifenAufnehmen(std::fabs(Grenze));
-  StatusHilfeSetzen(std::to_string(Anzahl) + " Punkte im Streifen");
+  StatusHilfeSetzen(Anzahltext(Anzahl, "Punkt", "Punkte") + " im Streifen");
   FokusSetzen(Zeilen.Zellen);
 }
 
@@ -153,7 +156,7 @@ int TVLinelForm::StreifenAufnehmen(double Grenze) {
     if (Ergebnis == -2) break;  // it reached no file, nor would the next one
     if (Ergebnis == 0) ++Anzahl;
     if (!Pause.Fällig()) continue;
-    StatusHilfeSetzen(std::to_string(Anzahl) + " Zeilen");
+    StatusHilfeSetzen(Anzahltext(Anzahl, "Zeile", "Zeilen"));
     AblaufPort().EreignisseAbarbeiten();
   }
   KorStop = Laufwunsch::Weiter;

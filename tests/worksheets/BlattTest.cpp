@@ -456,17 +456,76 @@ TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
   EXPECT_EQ(Blätter.back()->Fokus()->Name, "LinelWeiter");
   EXPECT_EQ(Protokoll(), "");
   Formular& Erstes = *Blätter.back();
+  Tippe(Erstes, "LinelGitter", "2004\n");  // there is nothing to type
+  for (const char* Zu : {"LinelAnfPnr", "LinelEndmass", "LinelPnrvon", "LinelEnd10", "LinelDelete"})
+    EXPECT_FALSE(Formular::NimmtFokus(Element(Erstes, Zu))) << Zu;
+  EXPECT_EQ(Protokoll(), "");
+  EXPECT_EQ(StapelStand(), "Block 1 von 3, VR 24.40 x, Zeile 3");
   Drücke(Erstes, "LinelWeiter");  // the next block is shown when this one is done
   EXPECT_FALSE(Erstes.Offen());
   ASSERT_EQ(Blätter.size(), 2U);
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Skript.BeiEreignissen = [&] { Drücke(*Blätter.back(), "PolelStop"); };
   Drücke(*Blätter.back(), "PolelWeiter");  // stopped after the running row
-  EXPECT_FALSE(Stapel.Aktiv);
-  EXPECT_FALSE(Blätter.back()->Offen());
+  EXPECT_FALSE(Stapel.Läuft());
   EXPECT_EQ(Blätter.size(), 2U);
-  EXPECT_EQ(Stapel.Bilanz.Zeilen, 1);
+  EXPECT_EQ(StapelStand(),
+            "Stapel abgebrochen bei Block 2 von 3: 2 Blöcke, 1 Zeile, 1 ausgelassen, 0 Marken");
+  EXPECT_EQ(StapelBericht(), std::vector<std::string>{"ausgelassen: Zeile 9: Punkt 77 fehlt"});
   EXPECT_FALSE(Stapel.Bilanz.Fehler);
+  EXPECT_TRUE(Blätter.back()->Offen());  // to be read
+  // The next run takes its place. Halting is of each run's own; Escape stops, as the image does.
+  Starten();
+  EXPECT_FALSE(Blätter[1]->Offen());
+  auto& Halten = Element<Auswahl>(*Blätter[2], "LinelHalten");
+  EXPECT_TRUE(Halten.Gewählt);
+  Blätter[2]->Wählen(Halten, "", false);
+  Skript.BeiEreignissen = [] {};
+  Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  Drücke(*Blätter[2], "LinelWeiter");
+  EXPECT_EQ(Blätter.size(), 5U);
+  EXPECT_EQ(StapelStand(), "Stapel beendet: 3 Blöcke, 3 Zeilen, 1 ausgelassen, 0 Marken");
+  EXPECT_EQ(*Gitterfeld(*Blätter[4]).Zeile, 1);
+  EXPECT_TRUE(Blätter[4]->TasteDrücken(Taste::Auf));
+  EXPECT_EQ(*Gitterfeld(*Blätter[4]).Zeile, 0);
+  Starten();
+  EXPECT_TRUE(Blätter[5]->TasteDrücken(Taste::Escape));
+  EXPECT_EQ(StapelStand(), "Stapel abgebrochen bei Block 1 von 3: 1 Block, 0 Zeilen, 0 Marken");
+}
+
+// A file whose blocks lost their ends: what can be calculated is, and each tear is named.
+TEST_F(BlattTest, NachlaufGehtHinterEinemRißWeiter) {
+  const std::string Kopf = "M VR 24.40 x\r\nPAN 1001\r\n", Rest = "PEN 1002\r\nNR 2003\r\n";
+  Schreibe(StapelDatei.Name, Kopf + Rest + Kopf + Kopf + Rest + "E\r\n" + Kopf + Rest);
+  Skript.Erwarte("Fehler 5 beim Lesen der Stapeldatei:\nM VR 24.40 x");
+  Skript.Erwarte("Fehler 7 beim Lesen der Stapeldatei:\nM VR 24.40 x");
+  Skript.Erwarte("Unerwartetes Dateiende");
+  EXPECT_EQ(Anzahl(Nachlauf(), "   2003\r\n"), 3);
+  EXPECT_EQ(StapelBericht(), (std::vector<std::string>{"ohne Ende: Block 1, VR 24.40 x, Zeile 5",
+                                                       "ohne Ende: Block 2, VR 24.40 x, Zeile 7",
+                                                       "ohne Ende: Block 4, VR 24.40 x, Zeile 15"}));
+  EXPECT_TRUE(Stapel.Bilanz.Fehler);
+}
+
+TEST_F(BlattTest, NachlaufNenntDenGrund) {
+  const struct {
+    const char *Satz, *Grund;
+  } Fälle[] = {
+      {"M VR 24.40 x\r\nPAN 1001 5\r\nPEN 1002 5\r\n", "Anlegemaß und Endmaß sind gleich"},
+      {"M VR 08.40 x\r\nPAN 1001\r\nPEN 1001\r\n", "Anfangs- und Endpunkt sind gleich"},
+      {"M VR 22.10 x\r\nPAN 1001\r\nPEN 1001\r\n", "Anfangs- und Endpunkt sind gleich"},
+  };
+  for (const auto& F : Fälle) {
+    Schreibe(StapelDatei.Name, F.Satz);
+    Skript.Erwarte("Zeile: 3\n" + std::string(F.Grund));
+    Starten();
+    EXPECT_TRUE(Stapel.Bilanz.Fehler);
+    EXPECT_FALSE(Blätter.back()->Offen());
+  }
+  Schreibe(StapelDatei.Name, "M VR 22.10 x\r\nPAN 1001\r\nPEN 1002\r\nNND 1001 1001 0\r\nE\r\n");
+  Starten();
+  EXPECT_EQ(StapelBericht(),
+            std::vector<std::string>{"ausgelassen: Zeile 4: Anfangs- und Endpunkt sind gleich"});
 }
 
 TEST_F(BlattTest, NachlaufOhnePunktLäßtDieZeileAus) {
