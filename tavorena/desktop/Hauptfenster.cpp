@@ -270,7 +270,8 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   auto* Fenster = new Blattfenster(Ansicht);
   Flaeche->addSubWindow(Fenster);
   // Room for a few rows, as far as the work area has it.
-  QSize Wunsch = Ansicht->sizeHint() + QSize(12, 40);  // the frame of the window
+  const QSize Rand(12, 40);  // of the window
+  QSize Wunsch = Ansicht->sizeHint() + Rand;
   auto* Gitter = Ansicht->findChild<Gitteransicht*>();
   if (Gitter != nullptr) Wunsch.setHeight(std::max(Wunsch.height(), Flaeche->height() - 40));
   // A worksheet that is cut at its side hides what is typed: the protocol makes room.
@@ -283,7 +284,11 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   if (Gitter != nullptr) Gitter->BreitenSetzen(Platz.Zahlen(Schlüssel(Form, "Spalten")));
   Fenster->show();
   Form.Öffnen();
-  if (Ansicht->Form() != nullptr) Ansicht->FokusZeigen();
+  if (Ansicht->Form() == nullptr) return;
+  Ansicht->FokusZeigen();
+  // A replay shows more than a worksheet that is typed into.
+  if (Gitter == nullptr)
+    Fenster->resize(Fenster->size().expandedTo(Ansicht->sizeHint() + Rand).boundedTo(Flaeche->size()));
 }
 
 // A second worksheet stands beside the first one, or below it where the work area is too narrow: both are to

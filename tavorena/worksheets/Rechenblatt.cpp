@@ -23,6 +23,14 @@ Feld& Planfeld(Formular& Form, const char* Label, const std::string& Name, int S
   return F;
 }
 
+// While it lives no other replay may begin: the rows would come from that one.
+struct Zeilenlauf {
+  Zeilenlauf() { Stapel.RechnetZeilen = true; }
+  ~Zeilenlauf() { Stapel.RechnetZeilen = false; }
+  Zeilenlauf(const Zeilenlauf&) = delete;
+  Zeilenlauf& operator=(const Zeilenlauf&) = delete;
+};
+
 }  // namespace
 
 Rechenblatt::Rechenblatt(const Blattart& BlattArt)
@@ -132,16 +140,17 @@ void Rechenblatt::StapelZeilenRechnen() {
   Hält = false;
   FokusSetzen(*KnopfStop);
   KnopfWeiter->Aktiv = false;
-  Stapel.RechnetZeilen = true;
-  Atempause Pause(0.1);
   int Ergebnis = 0;
-  while (Stapel.Aktiv && Offen() && (Ergebnis = StapelZeile()) == 0) {
-    if (!Pause.Fällig()) continue;
-    StandZeigen();
-    Zwischenstand();
-    AblaufPort().EreignisseAbarbeiten();
+  {
+    const Zeilenlauf Läuft;
+    Atempause Pause(0.1);
+    while (Stapel.Aktiv && Offen() && (Ergebnis = StapelZeile()) == 0) {
+      if (!Pause.Fällig()) continue;
+      StandZeigen();
+      Zwischenstand();
+      AblaufPort().EreignisseAbarbeiten();
+    }
   }
-  Stapel.RechnetZeilen = false;
   if (Ergebnis == -1) Schließen();
   StapelBlattEnde();
 }

@@ -465,7 +465,10 @@ TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
   EXPECT_FALSE(Erstes.Offen());
   ASSERT_EQ(Blätter.size(), 2U);
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
-  Skript.BeiEreignissen = [&] { Drücke(*Blätter.back(), "PolelStop"); };
+  Skript.BeiEreignissen = [&] {
+    Drücke(*Blätter.back(), "PolelStop");
+    EXPECT_TRUE(Stapel.Läuft());  // no other replay may begin before its last row is done
+  };
   Drücke(*Blätter.back(), "PolelWeiter");  // stopped after the running row
   EXPECT_FALSE(Stapel.Läuft());
   EXPECT_EQ(Blätter.size(), 2U);
