@@ -1,0 +1,265 @@
+#include "Testhilfe.h"
+
+#include <cmath>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Winkel.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/graphics/GrafDesign.h>
+#include <tavorena/graphics/Grafikfenster.h>
+#include <tavorena/graphics/Grafikmodul.h>
+
+namespace tavorena::test {
+namespace {
+
+/// Writes down what is drawn, in whole twips.
+class Mitschrift final : public Zeichenfläche {
+ public:
+  void Linie(double x1, double y1, double x2, double y2, int Farbe, Strich Stil) override {
+    Schreibe(Stil == Strich::Durchgezogen ? "Linie" : "Strichlinie", {x1, y1, x2, y2}, Farbe);
+  }
+  void Bogen(double x, double y, double r, double Anfang, double Ende, int Farbe) override {
+    Schreibe("Bogen", {x, y, r, Anfang, Ende}, Farbe);
+  }
+  void Scheibe(double x, double y, double r, int Farbe) override { Schreibe("Scheibe", {x, y, r}, Farbe); }
+  void Text(double x, double y, std::string_view Inhalt, int, int Farbe) override {
+    Schreibe("Text " + std::string(Inhalt), {x, y}, Farbe);
+  }
+
+  std::vector<std::string> Liste;
+
+ private:
+  void Schreibe(std::string Zeile, std::initializer_list<double> Werte, int Farbe) {
+    for (const double w : Werte) Zeile += " " + std::to_string(std::lround(w));
+    Liste.push_back(Zeile + " f" + std::to_string(Farbe));
+  }
+};
+
+std::vector<std::string> Gezeichnet() {
+  Mitschrift M;
+  GrafikZeichnen(M);
+  return M.Liste;
+}
+
+class GrafikTest : public TabellenTest {
+ protected:
+  GrafikTest() {
+    GrafikBeiÄnderung = {};
+    GrafikFenster = {};
+    GrafikWahl = {true, false};
+    GrafikLeeren();
+    GrafDesignLeeren();
+  }
+  static std::vector<double> Fenster() {
+    const Grafikzustand& G = GrafikFenster;
+    return {G.FensterRechts, G.FensterHoch, G.FensterBreite, G.FensterHoehe, G.Massstab};
+  }
+  static void Nahe(const std::vector<double>& Ist, const std::vector<double>& Soll) {
+    for (std::size_t i = 0; i < Soll.size(); ++i) EXPECT_NEAR(Ist[i], Soll[i], 1e-8) << i;
+  }
+  // A click on a point of the table.
+  static void Klicke(const char* Pnr) {
+    const auto z = static_cast<std::size_t>(KorSuche(std::string_view(Pnr)));
+    GrafDesignKlick(KorRechts[z], KorHoch[z]);
+  }
+  std::string Aufforderung() const {
+    return Skript.Status[static_cast<std::size_t>(Statusfeld::StatusHilfe)];
+  }
+};
+
+TEST_F(GrafikTest, PaßtSichDerTabelleAn) {
+  GrafikÖffnen(3000, 1500);
+  EXPECT_EQ(GrafikFenster.Massstab, 0);  // an empty table has no window
+  double R = 7, H = 8;
+  GrafikWeltAusPixel(1, 1, R, H);
+  EXPECT_TRUE(Gleich(R, 7, H, 8));
+  Punkt("1", 100, 200);
+  GrafikZoomAnpassen();  // one point: 20 m
+  Nahe(Fenster(), {86, 186, 56, 28, 1500 / 28.0});
+  Punkt("2", 1100, 200);  // all on one Hoch
+  GrafikZoomAnpassen();
+  Nahe(Fenster(), {-100, 186, 1400, 700, 3000 / 1400.0});
+  Punkt("3", 1100, 10200);  // higher than the picture: the scale is that of the height
+  GrafikZoomAnpassen();
+  Nahe(Fenster(), {-100, -1800, 28000, 14000, 1500 / 14000.0});
+  EXPECT_EQ(GrafikFenster.BereichRechtsBis, 1300);
+  EXPECT_EQ(GrafikFenster.BereichHochBis, 12200);
+}
+
+TEST_F(GrafikTest, BefehleVerschiebenDasFenster) {
+  Punkt("1", 0, 0);
+  Punkt("2", 1000, 500);
+  GrafikÖffnen(3000, 1500);
+  const auto Anfang = Fenster();
+  Nahe(Anfang, {-200, -100, 1400, 700, 3000 / 1400.0});
+  GrafZoomin();
+  Nahe(Fenster(), {150, 75, 700, 350, 3000 / 700.0});
+  GrafZoomout();
+  Nahe(Fenster(), Anfang);
+  GrafZoomrechts();
+  GrafZoomoben();
+  Nahe(Fenster(), {-200 + 1400 / 6.0, -100 + 700 / 6.0, 1400, 700});
+  GrafZoomlinks();
+  GrafZoomunten();
+  Nahe(Fenster(), Anfang);
+  double x = 0, y = 0, R = 0, H = 0;
+  GrafikWeltAusPixel(2000, 300, R, H);
+  GrafikZoomBei(2000, 300, 1.25);
+  GrafikPixelAusWelt(R, H, x, y);
+  Nahe({x, y, GrafikFenster.FensterBreite}, {2000, 300, 1120});
+  GrafikSchieben(30, -60);
+  GrafikPixelAusWelt(R, H, x, y);
+  Nahe({x, y}, {2030, 240});
+  GrafikMitte(R, H);
+  GrafikPixelAusWelt(R, H, x, y);
+  Nahe({x, y}, {1500, 750});
+  GrafikZoomAnpassen();
+  GrafikAusschnitt(0, 0, 0, 0);  // a click without a drag
+  Nahe(Fenster(), Anfang);
+  GrafikAusschnitt(1500, 1500, 1200, 900);  // higher than the picture's form: grown to both sides
+  Nahe(Fenster(), {-200 + 750 / 3000.0 * 1400, -100, 560, 280});
+  // A size changes: corner and scale stay. What is kept comes back.
+  const auto Vorher = Fenster();
+  GrafikGrößeSetzen(1500, 3000);
+  Nahe(Fenster(), {Vorher[0], Vorher[1], 280, 560, Vorher[4]});
+  GrafikFensterMerken();
+  GrafikSchließen();
+  GrafikÖffnen(3000, 1500);
+  Nahe(Fenster(), Vorher);
+}
+
+// The search by the tree against the told scan over the table.
+TEST_F(GrafikTest, FindetDenErstenDerTabelle) {
+  std::mt19937 Zufall(7);
+  std::uniform_real_distribution<double> Eins(0, 1);
+  const auto Suche = [](double R, double H, double Toleranz) {
+    for (int z = 0; z < KorAnzahl; ++z) {
+      const auto i = static_cast<std::size_t>(z);
+      if (PunktIstNah(R, H, KorRechts[i], KorHoch[i], Toleranz) != 0) return z;
+    }
+    return -1;
+  };
+  EXPECT_EQ(GrafikPunktSuchen(0, 0, 1e9), -1);
+  for (int Tabelle = 0; Tabelle < 6; ++Tabelle) {
+    KorAbschneiden(0);
+    const double Weite = Tabelle == 1 ? 0 : 1000, Ursprung = Tabelle == 2 ? -5e6 : 3.5e6;
+    for (int i = 0; i < 500; ++i) {
+      const double Haufen = Tabelle == 3 ? std::floor(Eins(Zufall) * 5) * 1e5 : 0;
+      const bool Fern = Tabelle == 4 && i == 250;  // a point at 0/0 among the others
+      const double R = Fern ? 0 : Ursprung + Haufen + Eins(Zufall) * Weite;
+      const double H = Fern ? 0 : Tabelle == 5 ? 5 : Ursprung + Eins(Zufall) * Weite;
+      ASSERT_EQ(KorAnhängen({std::to_string(i), R, H, 0, "", nullptr}), 0);
+    }
+    for (int i = 0; i < 300; ++i) {
+      const auto z = static_cast<std::size_t>(Eins(Zufall) * 500);
+      const double Neben = i % 3 == 0 ? 0 : (Eins(Zufall) - 0.5) * 50,
+                   Toleranz = i % 5 == 0 ? 0 : std::pow(10, Eins(Zufall) * 8 - 2);
+      const double R = KorRechts[z] + Neben, H = KorHoch[z] - Neben;
+      EXPECT_EQ(GrafikPunktSuchen(R, H, Toleranz), Suche(R, H, Toleranz)) << Tabelle << ' ' << i;
+    }
+  }
+  EXPECT_EQ(GrafikPunktSuchen(0, 0, NAN), -1);
+  ASSERT_EQ(KorZeileSetzen(3, {"3", NAN, INFINITY, 0, "", nullptr}), 0);  // it stands nowhere
+  EXPECT_EQ(GrafikPunktSuchen(KorRechts[0], 5, 1e9), 0);
+}
+
+TEST_F(GrafikTest, ZeichnetInDerRichtigenFolge) {
+  Punkt("1", 0, 0, 0, "02");
+  Punkt("2", 1000, 500, 0, "025");
+  Punkt("3", 5000, 5000);
+  GrafikFenster.GrafikOffen = true;
+  GrafikFenster = {true, 1500, 750, 1, 0, 0, 1500, 750, 0, 0, 0, 0, false};
+  GrafikBogenHinzu({500, 500, 100, 0, 90, FarbeBlau, true});
+  const int Marke = GrafikMarkeHinzu({"2", 1000, 500, "MARK", FarbeRot});
+  const int Linie = GrafikLinieHinzu({0, 0, 1000, 500, FarbeRot, Strich::Gestrichelt, false});
+  GrafikLinieHinzu({-10, 0, -10, 500});  // outside
+  const int Text = GrafikTextHinzu({10, 20, "Text", 8, FarbeSchwarz});
+  EXPECT_EQ(Gezeichnet(),
+            (std::vector<std::string>{
+                "Text Text 10 730 f0", "Strichlinie 0 750 1000 250 f255", "Linie 0 714 36 786 f0",
+                "Linie 36 786 -36 786 f0", "Linie -36 786 0 714 f0", "Text 1 90 750 f0",
+                "Bogen 1000 250 60 0 360 f0", "Bogen 1000 250 30 0 360 f0", "Text 2 1090 250 f0",
+                "Bogen 500 250 100 0 90 f16711680", "Scheibe 1000 250 50 f255", "Text 2 1090 250 f255"}));
+  GrafikMarkeWeg(Marke);
+  GrafikLinieWeg(Linie);
+  GrafikTextWeg(Text);
+  GrafikTextWeg(Text);  // it is gone
+  GrafikWahl = {false, true};
+  const auto Rest = Gezeichnet();
+  EXPECT_EQ(Rest.size(), 3U + 2 + 1 + 4);
+  EXPECT_EQ(Rest.back(), "Text 2000 m 2390 450 f0");  // the scale bar
+  KorAbschneiden(0);
+  EXPECT_EQ(Gezeichnet().size(), 1U + 4);
+  GrafikFenster.Massstab = 0;
+  EXPECT_TRUE(Gezeichnet().empty());
+}
+
+// A sign that hangs over the edge of the window is drawn, and a number that reaches in.
+TEST_F(GrafikTest, RandWirdMitgezeichnet) {
+  Punkt("1234", -300, 100);
+  Punkt("2", 100, -59);
+  Punkt("3", 100, -61);
+  Punkt("4", -600, 100);
+  GrafikFenster = {true, 1500, 750, 1, 0, 0, 1500, 750, 0, 0, 0, 0, false};
+  int Texte = 0;
+  for (const std::string& Z : Gezeichnet()) Texte += Z.starts_with("Text") ? 1 : 0;
+  EXPECT_EQ(Texte, 2);
+}
+
+TEST_F(GrafikTest, ZeichenbefehleFragenDerReiheNach) {
+  Punkt("1", 0, 0);
+  Punkt("2", 100, 0);
+  Punkt("3", 100, 100);
+  Punkt("4", 200, 0);
+  GrafikFenster = {true, 1500, 750, 3, -50, -50, 500, 250, 0, 0, 0, 0, false};
+  GrafDesign(Zeichenbefehl::Linie);
+  EXPECT_EQ(Aufforderung(), "   Startpunkt der Linie identifizieren !   ");
+  GrafDesignKlick(50, 50);  // no point there
+  Klicke("1");
+  EXPECT_EQ(Aufforderung(), "   Endpunkt der Linie identifizieren !   ");
+  EXPECT_EQ(GrafikOrtstext(3, 4), "Rechts: 3.000  Hoch: 4.000  Länge: 5.000");
+  Klicke("2");
+  EXPECT_EQ(GrafDesignSchritt(), Zeichenschritt::LinieAnfang);
+  Klicke("1");
+  Klicke("1");  // no line between equal points
+  EXPECT_EQ(GrafikFreieLinien().size(), 1U);
+  GrafDesign(Zeichenbefehl::Polygon);
+  for (const char* P : {"1", "2", "3"}) Klicke(P);
+  EXPECT_EQ(Aufforderung(), "   Weiteren Polygonpunkt identifizieren !   ");
+  EXPECT_EQ(GrafikOrtstext(110, 100), "Rechts: 110.000  Hoch: 100.000  Länge: 10.000  Seitw.: 10.000");
+  EXPECT_EQ(GrafikFreieLinien().size(), 3U);
+  // Clockwise or not, the arc runs through its second point and is kept counter-clockwise.
+  for (const auto& Folge : {std::array{"1", "3", "4"}, std::array{"4", "3", "1"}}) {
+    GrafDesign(Zeichenbefehl::Bogen);
+    for (const char* P : Folge) Klicke(P);
+    EXPECT_EQ(Aufforderung(), "   Startpunkt Bogen identifizieren !   ");
+    const GrafikBogen B = GrafikFreieBogen().back();
+    Nahe({B.Rechts, B.Hoch, B.Radius, B.Anfang, B.Ende}, {100, 0, 100, 0, 180});
+  }
+  for (const char* P : {"1", "2", "4"}) Klicke(P);  // in one line
+  EXPECT_EQ(GrafikFreieBogen().size(), 2U);
+  EXPECT_TRUE(GrafikUngesichert);
+  GrafDesign(Zeichenbefehl::Löschen);
+  GrafDesignKlick(29, 71);  // on both arcs
+  GrafDesignKlick(29, 71);
+  EXPECT_EQ(GrafikFreieBogen().size(), 0U);
+  GrafDesignKlick(100, -80);  // where the arcs were not
+  GrafDesignKlick(50, 2);
+  GrafDesignKlick(50, 2);
+  EXPECT_EQ(GrafikFreieLinien().size(), 1U);
+  EXPECT_TRUE(GrafDesignVerlassen());
+  EXPECT_EQ(Aufforderung(), "");
+  EXPECT_FALSE(GrafDesignVerlassen());
+  GrafDesign(Zeichenbefehl::Linie);
+  for (int i = 1; i < GrafikFreieGrenze; ++i) GrafikLinieHinzu({0, 0, 1, 1, 0, Strich::Durchgezogen, true});
+  Klicke("1");
+  Klicke("3");
+  EXPECT_EQ(Aufforderung(), "   Maximale Anzahl von 1001 Elementen erreicht   ");
+  EXPECT_GE(GrafikLinieHinzu({0, 0, 1, 1}), 0);  // marks of worksheets have no limit
+}
+
+}  // namespace
+}  // namespace tavorena::test
