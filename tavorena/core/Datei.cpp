@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cerrno>
 #include <exception>
 
@@ -18,16 +19,20 @@ int Gescheitert(std::string* Grund, std::string Wort) {
   return -1;
 }
 
-}  // namespace
-
-fs::path Systempfad(std::string_view Name) {
+// A path takes its time to be made; a state needs the text alone.
+std::string Systemtext(std::string_view Name) {
   const bool Laufwerk = Name.size() > 2 && Name[1] == ':' && (Name[2] == '\\' || Name[2] == '/') &&
                         ((Name[0] >= 'a' && Name[0] <= 'z') || (Name[0] >= 'A' && Name[0] <= 'Z'));
   if (Laufwerk) Name.remove_prefix(2);
   std::string Text(Name);
-  for (char& z : Text) {
-    if (z == '\\') z = '/';
-  }
+  std::replace(Text.begin(), Text.end(), '\\', '/');
+  return Text;
+}
+
+}  // namespace
+
+fs::path Systempfad(std::string_view Name) {
+  const std::string Text = Systemtext(Name);
   return fs::path(std::u8string(Text.begin(), Text.end()));
 }
 
@@ -89,7 +94,7 @@ int TextdateiLesen(std::string_view Name, std::string& Text, std::string* Grund)
 
 Dateistand DateistandVon(std::string_view Name) {
   struct stat Stand {};
-  return stat(Systempfad(Name).c_str(), &Stand) == 0 ? DateistandAus(Stand) : Dateistand{};
+  return stat(Systemtext(Name).c_str(), &Stand) == 0 ? DateistandAus(Stand) : Dateistand{};
 }
 
 int DateiLöschen(std::string_view Name) {

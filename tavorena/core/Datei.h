@@ -29,6 +29,14 @@ bool OrdnerVorhanden(std::string_view Name);
 /// Makes a folder and those above it. @return 0 (also if it was there); -1
 [[nodiscard]] int OrdnerAnlegen(std::string_view Name);
 
+/// By what a file shows that somebody wrote in it. A missing file has the state {}.
+struct Dateistand {
+  std::uintmax_t Länge = 0;  ///< [bytes]
+  std::int64_t Zeit = 0;     ///< of the last writing [ns]
+  bool operator==(const Dateistand&) const = default;
+};
+Dateistand DateistandVon(std::string_view Name);
+
 // The functions below answer -1 with the reason in a few words ("Datenträger voll"), where one is wanted.
 // They open regular files and nothing else: a folder, a pipe or a device is refused at once.
 
@@ -52,21 +60,16 @@ bool OrdnerVorhanden(std::string_view Name);
 [[nodiscard]] int EigeneDateiAnlegen(std::string& Name);
 
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
-/// (UTF-8 or Windows-1252). A write that fails leaves it at its old length. @return 0 or -1
-[[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr);
+/// (UTF-8 or Windows-1252). A write that fails leaves it at its old length.
+/// @param[out] Danach  the state in which the file is left, where it is wanted
+/// @return 0 or -1
+[[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr,
+                               Dateistand* Danach = nullptr);
 
 /// What was appended so far reaches the disk.
 /// @param[out] Name  a file that did not get there
 /// @return 0 or -1
 int AnhängeSichern(std::string* Name = nullptr);
-
-/// By what a file shows that somebody wrote in it. A missing file has the state {}.
-struct Dateistand {
-  std::uintmax_t Länge = 0;  ///< [bytes]
-  std::int64_t Zeit = 0;     ///< of the last writing [ns]
-  bool operator==(const Dateistand&) const = default;
-};
-Dateistand DateistandVon(std::string_view Name);
 
 /// Removes a file. @return 0 (also if there was none); -1 if it stays
 [[nodiscard]] int DateiLöschen(std::string_view Name);

@@ -22,6 +22,7 @@ Kodierung KodierungVon(std::string_view Inhalt) {
 // What is known of a file that was extended: while it stands as it was left, it is neither opened nor looked
 // through again.
 struct Anhangspur {
+  std::string Name;
   fs::path Pfad;
   Deskriptor K;  // not open: secured
   dev_t Gerät = 0;
@@ -51,9 +52,9 @@ bool Sichern(Anhangspur& Spur) {
   return Gut;
 }
 
-Anhangspur& SpurVon(const fs::path& Pfad) {
+Anhangspur& SpurVon(std::string_view Name) {
   const auto Alte =
-      std::find_if(Spuren.begin(), Spuren.end(), [&](const Anhangspur& S) { return S.Pfad == Pfad; });
+      std::find_if(Spuren.begin(), Spuren.end(), [&](const Anhangspur& S) { return S.Name == Name; });
   if (Alte != Spuren.end()) {
     std::rotate(Alte, Alte + 1, Spuren.end());  // the one out of use for longest stands in front
     return Spuren.back();
@@ -62,7 +63,8 @@ Anhangspur& SpurVon(const fs::path& Pfad) {
     static_cast<void>(Sichern(Spuren.front()));  // long out of use, and written
     Spuren.erase(Spuren.begin());
   }
-  return Spuren.emplace_back(Anhangspur{Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii});
+  return Spuren.emplace_back(
+      Anhangspur{std::string(Name), Systempfad(Name), Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii});
 }
 
 int Öffnen(Anhangspur& Spur, std::string& Grund) {
@@ -107,12 +109,15 @@ int Anhängen(Anhangspur& Spur, std::string_view Text, std::string& Grund) {
 
 }  // namespace
 
-int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund) {
+int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund, Dateistand* Danach) {
   if (Name.empty()) return -1;
-  Anhangspur& Spur = SpurVon(Systempfad(Name));
+  Anhangspur& Spur = SpurVon(Name);
   std::string Wort;
-  if (Anhängen(Spur, Text, Wort) == 0) return 0;
-  Spur = Anhangspur{Spur.Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii};
+  if (Anhängen(Spur, Text, Wort) == 0) {
+    if (Danach != nullptr) *Danach = Spur.Stand;
+    return 0;
+  }
+  Spur = Anhangspur{Spur.Name, Spur.Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii};
   if (Grund != nullptr) *Grund = Wort;
   return -1;
 }

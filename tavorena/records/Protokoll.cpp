@@ -116,12 +116,11 @@ class Eintrag {
   [[nodiscard]] int Abschließen() {
     if (Puffer.empty()) return 0;
     std::string Grund;
-    while (TextAnhängen(Neu.Datei, Puffer, &Grund) < 0) {
+    while (TextAnhängen(Neu.Datei, Puffer, &Grund, &Neu.Stand) < 0) {
       const int Antwort = SchreibfehlerFrage(Neu.Datei, Grund, "");
       if (Antwort == KnopfOhne) Alt.Datei.clear();
       if (Antwort != KnopfNochmals) return Antwort == KnopfOhne ? 0 : -1;
     }
-    Neu.Stand = DateistandVon(Neu.Datei);
     for (const std::string& Zeile : Fenster) {
       Protokollfenster.Anhängen(Zeile + "\n");
       AnzeigePort().ProtokollGeändert();

@@ -39,7 +39,7 @@ int Schreiben(const std::string& Text, const char* Routine) {
     D.Ab = Jetzt.Länge;
   }
   std::string Grund;
-  while (TextAnhängen(D.Name, Text, &Grund) < 0) {
+  while (TextAnhängen(D.Name, Text, &Grund, &D.Stand) < 0) {
     const int Antwort = SchreibfehlerFrage(D.Name, Grund, std::string("Stapelmodul.") + Routine);
     if (Antwort == KnopfNochmals) continue;
     if (Antwort != KnopfOhne) return -1;
@@ -47,7 +47,6 @@ int Schreiben(const std::string& Text, const char* Routine) {
     return 0;
   }
   D.Stücke.push_back(Text);
-  D.Stand = DateistandVon(D.Name);
   return 0;
 }
 
