@@ -105,7 +105,10 @@ void DezimalSchreiben(std::string& Ziel, double Zahl, int MinVor, int Nachkomma)
 }
 
 // 10^n for the overflow tests.
-double Zehnerpotenz(int n) { return std::pow(10.0, n); }
+double Zehnerpotenz(int n) {
+  constexpr std::array Genaue = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10};
+  return n >= 0 && n < std::ssize(Genaue) ? Genaue[static_cast<std::size_t>(n)] : std::pow(10.0, n);
+}
 
 void Rechtsstellen(std::string& Ziel, std::size_t Ab, int Breite) {
   const auto Laenge = static_cast<int>(Ziel.size() - Ab);

@@ -64,8 +64,13 @@ Zeilenkunde TVLinelForm::Kunde() {
         return Linienelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Z.Wert1, Z.Wert2);
       },
       [this](const Punktzeile& Z) -> std::vector<std::string> {
-        return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW),         Längentext(Z.Wert1),
-                Längentext(Z.Wert2),  Längentext(a + Red(Z.Wert1)), Längentext(Red(Z.Wert2))};
+        std::vector<std::string> Texte = {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Längentext(Z.Wert1),
+                                          Längentext(Z.Wert2)};
+        if (MitRed()) {
+          Texte.push_back(Längentext(a + Red(Z.Wert1)));
+          Texte.push_back(Längentext(Red(Z.Wert2)));
+        }
+        return Texte;
       },
       [this](const Punktzeile& Z, const std::string& Marke) {
         const Wert LinieRed = MitRed() ? Wert(a + Red(Z.Wert1)) : Wert();
