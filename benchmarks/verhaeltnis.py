@@ -21,6 +21,11 @@ PAARE = (
     ("HelmertAlle/aussen", ("MalUndPlus",), 2.0),
     ("FreieStationierungPnr/50", ("KorSuche/50", "FreieStationierung/50"), 1.1),
     ("PolarpunktPnr", ("KorSuche/2", "Polarpunkt"), 1.1),
+    ("Konsole/ohne", ("NurRechnen/ohne",), 3.0),
+    ("Konsole/mit", ("NurRechnen/mit",), 3.0),
+    ("Zeile/5MB", ("Zeile/leer",), 1.3),
+    ("Streifen/20000", ("Streifen/2000",), 1.2),
+    ("Streifen/20000", ("Konsole/mit",), 4.0),
 )
 SEKUNDEN = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
 
