@@ -26,14 +26,18 @@ PAARE = (
     ("Zeile/5MB", ("Zeile/leer",), 1.3),
     ("Streifen/20000", ("Streifen/2000",), 1.2),
     ("Streifen/20000", ("Konsole/mit",), 4.0),
+    ("Fenster/zu", ("Fenster/Konsole",), 4.0),
+    ("Fenster/offen", ("Fenster/Konsole",), 6.0),
 )
 SEKUNDEN = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
 
 
-def zeiten_lesen(datei):
+def zeiten_lesen(dateien):
     """Median time of each measurement in seconds."""
-    with open(datei, encoding="utf-8") as kanal:
-        laeufe = json.load(kanal)["benchmarks"]
+    laeufe = []
+    for datei in dateien:
+        with open(datei, encoding="utf-8") as kanal:
+            laeufe += json.load(kanal)["benchmarks"]
     zeiten = {}
     for lauf in laeufe:
         if lauf.get("error_occurred"):
@@ -41,8 +45,10 @@ def zeiten_lesen(datei):
         if lauf["run_type"] != "iteration":
             continue
         # Processor time, unless the measurement says what its time is: other programs run beside it.
-        name, _, art = lauf["run_name"].partition("/manual_time")[0].partition("/real_time")
-        eigene = name != lauf["run_name"]
+        voll = lauf["run_name"]
+        eigene = voll.endswith(("/manual_time", "/real_time"))
+        name = voll.rpartition("/")[0] if eigene else voll
+        name = name.partition("/iterations:")[0]
         zeit = lauf["real_time" if eigene else "cpu_time"] * SEKUNDEN[lauf["time_unit"]]
         zeiten.setdefault(name, []).append(zeit)
     return {name: statistics.median(werte) for name, werte in zeiten.items()}
@@ -56,7 +62,7 @@ def zeit_text(sekunden):
 
 
 def main():
-    zeiten = zeiten_lesen(sys.argv[1])
+    zeiten = zeiten_lesen(sys.argv[1:])
     genannt = set()
     zu_langsam = False
     print(f"{'Messung':31} {'Zeit':>11}   {'Grundlage':34} {'Zeit':>11} {'Verhältnis':>11} {'Grenze':>7}")
