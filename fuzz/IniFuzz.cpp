@@ -17,22 +17,21 @@ void AllesLesen() {
   EDBSLesen();
 }
 
-// Writes the settings, reads them again, and gives what was written.
-std::string Runde() {
+std::string Geschrieben() {
   Prüfen(OptionenSchreiben() == 0, "die Optionen werden geschrieben");
-  std::string Geschrieben = Inhalt(DateinameOptionen);
-  AllesLesen();
-  return Geschrieben;
+  return Inhalt(DateinameOptionen);
 }
 
 void Lauf(Eingabe E) {
   Datei("Tavorena.ini", E.Rest());
   AllesLesen();
-  Runde();  // the first round may lose: fields are narrow, and for an empty name the word behind it is read
-  const std::string Erste = Runde();
+  Geschrieben();  // may lose: fields are narrow, and for an empty name the word behind it is read
+  AllesLesen();
+  const std::string Erste = Geschrieben();
   // A value that holds the name of a section is taken for it; five are the sections themselves.
   if (std::count(Erste.begin(), Erste.end(), '[') > 5) return;
-  Prüfen(Runde() == Erste, "Schreiben und Lesen ändert die Optionen nicht");
+  AllesLesen();
+  Prüfen(Geschrieben() == Erste, "Schreiben und Lesen ändert die Optionen nicht");
 }
 
 }  // namespace
