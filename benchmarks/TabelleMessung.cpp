@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 #include <random>
 #include <string>
 #include <string_view>
@@ -102,7 +101,7 @@ struct Spalten {
     Info.emplace_back().Punktart = KurzAusText(P.Symbol[p]);
   }
   void Sortieren() {
-    Abschrift(Pnr, std::numeric_limits<std::size_t>::max(), [this](std::size_t i, std::size_t j) {
+    Abschrift(Pnr, [this](std::size_t i, std::size_t j) {
       Alle([&](auto& Spalte) { std::swap(Spalte[i], Spalte[j]); });
     });
   }

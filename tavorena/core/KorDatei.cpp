@@ -129,16 +129,13 @@ std::string Lt4Schlüssel(const std::string& Pnr) {
   return "4559" + Pnr;
 }
 
-int ListenOrdnen(Punktlisten& L) {
+void ListenOrdnen(Punktlisten& L) {
   std::vector<double> Werte(L.Pnr.size());
   std::transform(L.Pnr.begin(), L.Pnr.end(), Werte.begin(),
                  [](const std::string& Pnr) { return ZahlAusText(Pnr); });
-  const bool Komma = std::any_of(L.Pnr.begin(), L.Pnr.end(),
-                                 [](const std::string& Pnr) { return Pnr.find(',') != std::string::npos; });
   std::vector<int> Folge;
-  const int Ergebnis = SortierfolgeErmitteln(L.Pnr, Werte, Komma, Folge);
+  if (SortierfolgeErmitteln(L.Pnr, Werte, KommaZeilen(L.Pnr), Folge)) return;
   SpaltenOrdnen(Folge, L.Pnr, L.Rechts, L.Hoch, L.Hoehe, L.Symbol);
-  return Ergebnis;
 }
 
 }  // namespace

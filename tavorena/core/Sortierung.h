@@ -7,23 +7,26 @@
 
 namespace tavorena {
 
+/// Rows whose number holds a ",".
+std::vector<int> KommaZeilen(std::span<const std::string> Nummern);
+
 /// The order in which a list of point numbers stands: 2 before 10, A before B.
 ///
-/// The order is the one of a quicksort (Hoare's partition, middle row as pivot, right part on a stack of
-/// 501 pairs) whose comparison depends on the pivot: with a numeric prefix other than 0 the numeric values
-/// are compared, otherwise the texts by character code. On mixed lists that is not a strict order, and the
-/// result depends on the order before; it is kept because other jobs rely on it. Lists of distinct numbers
-/// have one order only and are sorted the short way.
+/// The order is the one of a quicksort (Hoare's partition, middle row as pivot) whose comparison depends on
+/// the pivot: with a numeric prefix other than 0 the numeric values are compared, otherwise the texts by
+/// character code. On mixed lists that is not a strict order, and the result depends on the order before; it
+/// is kept because other jobs rely on it. Lists of distinct numbers have one order only and are sorted the
+/// short way.
 ///
 /// A number whose numeric value is taken has its "," replaced by "." in place; this is wanted.
 ///
-/// @param[in,out] Nummern  the point numbers, in their present order
-/// @param[in]     Werte    ZahlAusText of each number
-/// @param[in]     MitKomma a number may hold a ","
-/// @param[out]    Folge    Folge[i] is the present row of the number that comes to row i
-/// @return 1 if Folge is the identity, 0 if not; -1 on overflow of the stack, Folge is then the identity
-[[nodiscard]] int SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const double> Werte,
-                                        bool MitKomma, std::vector<int>& Folge);
+/// @param[in,out] Nummern    the point numbers, in their present order
+/// @param[in]     Werte      ZahlAusText of each number
+/// @param[in]     MitKomma   KommaZeilen of the numbers: no others change
+/// @param[out]    Folge      Folge[i] is the present row of the number that comes to row i
+/// @return true if Folge is the identity
+[[nodiscard]] bool SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const double> Werte,
+                                         std::span<const int> MitKomma, std::vector<int>& Folge);
 
 /// Brings the rows of parallel columns into the order of Folge, which is the identity afterwards.
 template <typename... Spalte>

@@ -206,16 +206,18 @@ void KorEinfuegen(int Zeile, const Wert& Pnr, double Rechts, double Hoch, double
 void KorSortieren() {
   static std::vector<int> Folge;  // kept between calls: a sort runs after every new point
   Punkttabelle& T = Tabelle;
-  if (T.Anzahl == 0) return;
   const std::size_t n = Reihe(T.Anzahl);
-  if (T.MitKomma) Vor(KorTat::Ordnen, 0, T.Anzahl);  // on the way a comma becomes a point
-  const int Ergebnis = SortierfolgeErmitteln(std::span(T.Nummern).first(n), std::span(T.Zahlwerte).first(n),
-                                             T.MitKomma, Folge);
-  if (Ergebnis < 0) LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Koordinatenmodul.KorSortieren");
-  for (std::size_t i = 0; T.MitKomma && i < n; ++i)
-    T.Suchschlüssel[i] = SchlüsselVon(TrimmenSicht(T.Nummern[i]));
-  if (Ergebnis != 0) return;
-  if (!T.MitKomma) Vor(KorTat::Ordnen, 0, T.Anzahl, Folge);
+  const auto Nummern = std::span(T.Nummern).first(n);
+  const std::vector<int> Kommas = T.MitKomma ? KommaZeilen(Nummern) : std::vector<int>();
+  if (!Kommas.empty()) Vor(KorTat::Ordnen, 0, T.Anzahl);  // on the way a comma becomes a point
+  const bool Geordnet = SortierfolgeErmitteln(Nummern, std::span(T.Zahlwerte).first(n), Kommas, Folge);
+  T.MitKomma = false;
+  for (const int z : Kommas) {
+    T.Suchschlüssel[Reihe(z)] = SchlüsselVon(TrimmenSicht(T.Nummern[Reihe(z)]));
+    T.MitKomma = T.MitKomma || T.Nummern[Reihe(z)].find(',') != std::string::npos;
+  }
+  if (Geordnet) return;
+  if (Kommas.empty()) Vor(KorTat::Ordnen, 0, T.Anzahl, Folge);
   SpaltenOrdnen(Folge, T.Nummern, T.Zahlwerte, T.Suchschlüssel, T.Rechts, T.Hoch, T.Hoehe, T.Symbol, T.Info);
 }
 

@@ -14,16 +14,18 @@ namespace {
 
 // The plain quicksort on numbers and the rows that go with them.
 void Ordnen(std::vector<std::string>& Nr, std::vector<int>& Begleiter) {
-  Abschrift(Nr, 501, [&](std::size_t i, std::size_t j) {
+  Abschrift(Nr, [&](std::size_t i, std::size_t j) {
     std::swap(Nr[i], Nr[j]);
     std::swap(Begleiter[i], Begleiter[j]);
   });
 }
 
-// Nearly all distinct, many duplicates (0 among them), mixed with letters, with commas and letters.
+// Nearly all distinct, many duplicates (0 among them), mixed with letters, with commas and letters, long ones
+// that begin alike.
 std::string Zufallsnummer(std::mt19937& Zufall, int Art) {
   const auto n = static_cast<int>(Zufall() % 40);
   const std::string Zahl = std::to_string(n);
+  if (Art == 5) return (n % 2 == 0 ? "Nagel in " : "Nagel,in ") + Zahl;
   if (Art == 0) return std::to_string(Zufall());
   if (Art == 2 && n % 3 == 0) return {static_cast<char>('A' + n % 26)};
   if (Art < 3) return Zahl;
@@ -31,26 +33,43 @@ std::string Zufallsnummer(std::mt19937& Zufall, int Art) {
   return n % 4 == 0 ? "A," + Zahl : Zahl + ",5";
 }
 
+void GleichDerAbschrift(std::vector<std::string> Nr) {
+  std::vector<std::string> Soll = Nr;
+  std::vector<int> SollFolge(Nr.size()), Folge;
+  std::iota(SollFolge.begin(), SollFolge.end(), 0);
+  Ordnen(Soll, SollFolge);
+  std::vector<double> Werte;
+  for (const auto& N : Nr) Werte.push_back(ZahlAusText(N));
+  EXPECT_EQ(SortierfolgeErmitteln(Nr, Werte, KommaZeilen(Nr), Folge),
+            std::is_sorted(SollFolge.begin(), SollFolge.end()));
+  ASSERT_EQ(Folge, SollFolge);
+  SpaltenOrdnen(Folge, Nr);
+  ASSERT_EQ(Nr, Soll);
+}
+
 TEST(Sortierung, WieDieAbschrift) {
   std::mt19937 Zufall(19700101);
-  for (int Lauf = 0; Lauf < 2000; ++Lauf) {
-    std::vector<std::string> Nr(Zufall() % 60);
-    for (auto& N : Nr) N = Zufallsnummer(Zufall, Lauf % 5);
+  for (int Lauf = 0; Lauf < 2000 && !HasFatalFailure(); ++Lauf) {
+    SCOPED_TRACE(Lauf);
+    std::vector<std::string> Nr(Lauf % 100 == 0 ? 2000 : Zufall() % 60);
+    for (auto& N : Nr) N = Zufallsnummer(Zufall, Lauf % 6);
     if (Lauf % 3 == 0) std::sort(Nr.begin(), Nr.end());
-    std::vector<std::string> Soll = Nr;
-    std::vector<int> SollFolge(Nr.size()), Folge;
-    std::iota(SollFolge.begin(), SollFolge.end(), 0);
-    Ordnen(Soll, SollFolge);
-    std::vector<double> Werte;
-    bool Komma = false;
-    for (const auto& N : Nr) {
-      Werte.push_back(ZahlAusText(N));
-      Komma = Komma || N.find(',') != std::string::npos;
-    }
-    ASSERT_GE(SortierfolgeErmitteln(Nr, Werte, Komma, Folge), 0);
-    ASSERT_EQ(Folge, SollFolge) << "run " << Lauf;
-    SpaltenOrdnen(Folge, Nr);
-    ASSERT_EQ(Nr, Soll) << "run " << Lauf;
+    GleichDerAbschrift(Nr);
+  }
+}
+
+// Each part is but two rows shorter than the one before.
+TEST(Sortierung, SteigtUndFällt) {
+  for (const int Anzahl : {2000, 20000}) {
+    std::vector<std::string> Nr(static_cast<std::size_t>(Anzahl));
+    std::vector<double> Werte(Nr.size());
+    for (int i = 1; i <= Anzahl / 2; ++i) *(Werte.begin() + i - 1) = *(Werte.end() - i) = i;
+    std::transform(Werte.begin(), Werte.end(), Nr.begin(), [](double w) { return ZahlNachText(w).Text(); });
+    if (Anzahl == 2000) GleichDerAbschrift(Nr);
+    std::vector<int> Folge;
+    EXPECT_FALSE(SortierfolgeErmitteln(Nr, Werte, {}, Folge));
+    SpaltenOrdnen(Folge, Werte);
+    EXPECT_TRUE(std::is_sorted(Werte.begin(), Werte.end()));
   }
 }
 

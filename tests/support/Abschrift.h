@@ -9,14 +9,12 @@
 
 namespace tavorena {
 
-/// The quicksort of the point table, written down plainly: the witness of the fast one, and what the fast
-/// one is measured by.
-/// @param[in] Tiefe   most pairs on the stack
+/// The quicksort of the point table, written down plainly, its right parts on the stack: the witness of the
+/// fast one, and what the fast one is measured by.
 /// @param[in] Tausch  exchanges two rows of all columns, the numbers included
-/// @return false on overflow of the stack
 template <typename Tauscher>
-bool Abschrift(std::vector<std::string>& Nr, std::size_t Tiefe, Tauscher Tausch) {
-  if (Nr.empty()) return true;
+void Abschrift(std::vector<std::string>& Nr, Tauscher Tausch) {
+  if (Nr.empty()) return;
   const auto Z = [](int i) { return static_cast<std::size_t>(i); };
   std::vector<std::pair<int, int>> Stapel{{0, static_cast<int>(Nr.size()) - 1}};
   while (!Stapel.empty()) {
@@ -33,15 +31,11 @@ bool Abschrift(std::vector<std::string>& Nr, std::size_t Tiefe, Tauscher Tausch)
         while (Nach(j)) --j;
         if (i <= j) Tausch(Z(i++), Z(j--));
       } while (i <= j);
-      if (i < hi) {
-        if (Stapel.size() == Tiefe) return false;
-        Stapel.emplace_back(i, hi);
-      }
+      if (i < hi) Stapel.emplace_back(i, hi);
       if (lo >= j) break;
       hi = j;
     }
   }
-  return true;
 }
 
 }  // namespace tavorena
