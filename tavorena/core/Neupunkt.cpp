@@ -13,8 +13,15 @@ struct NeuerPunkt {
   const KorInfoSatz* Info;
 };
 
+// A number that was just sorted in, as the table holds it.
+void Nachlesen(std::string& Pnr) {
+  if (Pnr.find(',') == std::string::npos) return;
+  Wert Gesucht(Pnr);
+  if (KorSucheMitPunkt(Gesucht) >= 0) Pnr = Gesucht.Text();
+}
+
 // @return Wie; Nichts if the table is full
-NeupunktCode Anfügen(const std::string& Pnr, const NeuerPunkt& P, NeupunktCode Wie) {
+NeupunktCode Anfügen(std::string& Pnr, const NeuerPunkt& P, NeupunktCode Wie) {
   KorInfoSatz Ohne;
   Ohne.Punktart = KurzAusText(P.Symbol);
   if (KorAnhängen({Pnr, P.Rechts, P.Hoch, P.Hoehe.Zahl(), P.Symbol, P.Info != nullptr ? P.Info : &Ohne}) <
@@ -24,6 +31,7 @@ NeupunktCode Anfügen(const std::string& Pnr, const NeuerPunkt& P, NeupunktCode 
   }
   KorAnzahlAnzeigen();
   KorSortieren();
+  Nachlesen(Pnr);
   return Wie;
 }
 
@@ -72,7 +80,9 @@ NeupunktCode AlterNeueNummer(int Zeile, const NeuerPunkt& P, const std::string& 
   Satz.Pnr = NeuePnr;
   if (KorZeileSetzen(Zeile, Satz) < 0) return NeupunktCode::Nichts;
   KorSortieren();
-  return Anfügen(Ergebnis.Pnr, P, NeupunktCode::AlterNeunum);
+  const NeupunktCode Code = Anfügen(Ergebnis.Pnr, P, NeupunktCode::AlterNeunum);
+  Nachlesen(Ergebnis.AlterPnr);
+  return Code;
 }
 
 NeupunktCode AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktantwort& Antwort,
@@ -108,7 +118,7 @@ NeupunktCode AntwortAusführen(int Zeile, const NeuerPunkt& P, const Konfliktant
 
 int KorFind(Wert& Pnr) {
   for (;;) {
-    const int Zeile = KorSuche(Pnr);
+    const int Zeile = KorSucheMitPunkt(Pnr);
     if (Zeile >= 0) return Zeile;
     const int Ergebnis = Haken.FormEinzelKorein ? Haken.FormEinzelKorein(Pnr) : -1;
     if (Ergebnis < 0) return Ergebnis;
@@ -118,16 +128,21 @@ int KorFind(Wert& Pnr) {
 NeupunktCode Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
                       const KorInfoSatz* Info, NeupunktErgebnis& Ergebnis) {
   KorGeaendertSetzen(true);  // also if nothing is stored: settled behaviour
+  const int Zeile = KorSucheMitPunkt(Pnr);
   Ergebnis = {0, 0, Pnr.IstText() ? Pnr.Text() : ZahlNachText(Pnr).Text(), Rechts, Hoch, {}};
   if (TrimmenSicht(Ergebnis.Pnr).empty()) return NeupunktCode::Nichts;
   const NeuerPunkt P{Rechts, Hoch, Hoehe, Symbol, Info};
-  const int Zeile = KorSuche(Pnr);
-  if (Zeile < 0) return Anfügen(Ergebnis.Pnr, P, NeupunktCode::Neu);
-  Ergebnis.DeltaRechts = Rechts - KorPunkt(Zeile).Rechts;
-  Ergebnis.DeltaHoch = Hoch - KorPunkt(Zeile).Hoch;
-  const Konfliktantwort Antwort = Fragen({Ergebnis.Pnr, Zeile, Rechts, Hoch, Hoehe, Symbol});
-  const NeupunktCode Code = AntwortAusführen(Zeile, P, Antwort, Ergebnis);
-  if (Code == NeupunktCode::NeuerVerworfen || Code == NeupunktCode::NeuerNeunum) Pnr = Wert(Ergebnis.Pnr);
+  const std::string Gegeben = Ergebnis.Pnr;
+  NeupunktCode Code = NeupunktCode::Nichts;
+  if (Zeile < 0) {
+    Code = Anfügen(Ergebnis.Pnr, P, NeupunktCode::Neu);
+  } else {
+    Ergebnis.DeltaRechts = Rechts - KorPunkt(Zeile).Rechts;
+    Ergebnis.DeltaHoch = Hoch - KorPunkt(Zeile).Hoch;
+    const Konfliktantwort Antwort = Fragen({Ergebnis.Pnr, Zeile, Rechts, Hoch, Hoehe, Symbol});
+    Code = AntwortAusführen(Zeile, P, Antwort, Ergebnis);
+  }
+  if (Code != NeupunktCode::Nichts && Ergebnis.Pnr != Gegeben) Pnr = Wert(Ergebnis.Pnr);
   return Code;
 }
 

@@ -170,6 +170,16 @@ int KorSuche(const Wert& Pnr) {
   return KorSuche(std::string_view(Trimmen(Pnr)));
 }
 
+int KorSucheMitPunkt(Wert& Pnr) {
+  const int Zeile = KorSuche(Pnr);
+  if (Zeile >= 0 || Pnr.Text().find(',') == std::string::npos) return Zeile;
+  std::string MitPunkt = Pnr.Text();
+  ZeichenErsetzen(MitPunkt, ',', '.');
+  const int Andere = KorSuche(std::string_view(MitPunkt));
+  if (Andere >= 0) Pnr = Wert(std::move(MitPunkt));
+  return Andere;
+}
+
 int KorLoeschen(int Zeile) {
   if (KorAnzahl == 0 || Zeile < 0 || Zeile > KorAnzahl - 1) return -1;
   Vor(KorTat::Streichen, Zeile, KorAnzahl);

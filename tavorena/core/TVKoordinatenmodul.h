@@ -97,8 +97,13 @@ void KorLeeren();
 [[nodiscard]] int KorSuche(const Wert& Pnr);
 [[nodiscard]] int KorSuche(std::string_view Pnr);
 
-/// As KorSuche, but asks for a missing point until it is there.
-/// @param[in,out] Pnr  the user may type another number
+/// As KorSuche. A number with a "," that is not there is looked for with a ".", which is how a sort leaves
+/// it.
+/// @param[in,out] Pnr  the number as the table holds it; as it was if it is not found
+[[nodiscard]] int KorSucheMitPunkt(Wert& Pnr);
+
+/// As KorSucheMitPunkt, but asks for a missing point until it is there.
+/// @param[in,out] Pnr  the number as the table holds it; the user may type another one
 /// @return the row; negative if the user cancels
 [[nodiscard]] int KorFind(Wert& Pnr);
 
@@ -159,13 +164,13 @@ enum class NeupunktCode {
 /// What Neupunkt hands back besides its code.
 struct NeupunktErgebnis {
   double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
-  std::string Pnr;                        ///< number under which the result now stands
+  std::string Pnr;                        ///< number under which the result now stands in the table
   double Rechts = 0, Hoch = 0;
   std::string AlterPnr;  ///< new number of the old point; with NeuerNeunum the number asked for first
 };
 
-/// Stores a calculated point. A taken number is asked about, see Konfliktantwort.
-/// @param[in,out] Pnr    empty or null stores nothing; the final number on return
+/// Stores a calculated point. A taken number (see KorSucheMitPunkt) is asked about, see Konfliktantwort.
+/// @param[in,out] Pnr    empty or null stores nothing; on return the final number as the table holds it
 /// @param[in]     Hoehe  null or empty if there is none; stored as 0
 /// @param[in]     Info   attributes; nullptr: all empty, Punktart the number in the symbol
 [[nodiscard]] NeupunktCode Neupunkt(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe,

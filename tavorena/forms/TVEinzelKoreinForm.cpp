@@ -34,9 +34,7 @@ class TVEinzelKoreinForm final : public Dialogform {
   }
 
   /// The number typed is a known point, no coordinates go with it.
-  [[nodiscard]] bool NurNummer() const {
-    return KorSuche(Wert(*Pnr.Text)) >= 0 && Rechts.Text->empty() && Hoch.Text->empty();
-  }
+  [[nodiscard]] bool NurNummer() const { return Bekannt() && Rechts.Text->empty() && Hoch.Text->empty(); }
 
   Feld& Pnr = FeldAnlegen("EinzelPnr", {0, 1}, "", PnrZeichen);
   Feld& Rechts = ZahlenfeldAnlegen("EinzelRechts", {1, 1}, "", PnrZeichen);
@@ -48,6 +46,11 @@ class TVEinzelKoreinForm final : public Dialogform {
   void BeiÖffnen() override { FokusSetzen(Rechts); }  // the number is there already
 
  private:
+  [[nodiscard]] bool Bekannt() const {
+    Wert Nummer(*Pnr.Text);
+    return KorSucheMitPunkt(Nummer) >= 0;
+  }
+
   static bool WortLesen(Feld& F) {
     F.Text = Trimmen(*F.Text);
     return F.Text->find_first_of(" \t") == std::string::npos;  // a file could not hold it
@@ -68,7 +71,7 @@ class TVEinzelKoreinForm final : public Dialogform {
     for (Feld* F : {&Rechts, &Hoch}) {
       if (!NurNummer() && F->Text->empty()) return FokusSetzen(*F);
     }
-    if (KorSuche(Wert(*Pnr.Text)) >= 0 && PunktVorhandenFrage(Pnr.Text) != 0) return FokusSetzen(Pnr);
+    if (Bekannt() && PunktVorhandenFrage(Pnr.Text) != 0) return FokusSetzen(Pnr);
     if (!NurNummer() && !FernpunktFrage(Pnr.Text, ZahlAusText(*Rechts.Text), ZahlAusText(*Hoch.Text)))
       return FokusSetzen(Rechts);
     Fertig(0);

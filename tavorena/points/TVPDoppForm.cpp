@@ -92,7 +92,8 @@ class TVPDoppForm final : public Formular {
   bool NummerLesen(Feld& F) const {
     F.Text = Trimmen(*F.Text);
     if (F.Text->empty() || F.Text->find_first_of(" \t") != std::string::npos) return false;
-    if (F.Text == Trimmen(Nummer) || KorSuche(Wert(*F.Text)) < 0) return true;
+    Wert Neue(*F.Text);
+    if (F.Text == Trimmen(Nummer) || KorSucheMitPunkt(Neue) < 0) return true;
     PunktVorhandenMeldung(F.Text);
     return false;
   }

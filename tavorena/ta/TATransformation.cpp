@@ -61,14 +61,6 @@ struct Passpunktdatei {
   std::int32_t Anzahl = 0;
 };
 
-/// Row of a number of a file. The sort of the table turns a comma of a number into a point.
-int ZeileSuchen(std::string Pnr) {
-  const int Zeile = KorSuche(std::string_view(Pnr));
-  if (Zeile >= 0 || Pnr.find(',') == std::string::npos) return Zeile;
-  std::replace(Pnr.begin(), Pnr.end(), ',', '.');
-  return KorSuche(std::string_view(Pnr));
-}
-
 /// Reads a passpoint file in its own order: the residuals come in it.
 enmResult PasspunktdateiLesen(const std::string& Name, Passpunktdatei& D) {
   if (!DateiVorhanden(Name)) return enmResult::Fehler_DateiNichtVorhanden;
@@ -78,7 +70,8 @@ enmResult PasspunktdateiLesen(const std::string& Name, Passpunktdatei& D) {
   if (Anzahl < 2) return enmResult::Fehler_ZuweningePunkte;
   D.Anzahl = Anzahl;
   for (const std::string& Pnr : D.Neu.Pnr) {
-    const int Zeile = ZeileSuchen(Pnr);
+    Wert Gesucht(Pnr);
+    const int Zeile = KorSucheMitPunkt(Gesucht);
     if (Zeile < 0) return enmResult::Fehler_PunktNichtVorhanden;
     D.AltRW.push_back(KorPunkt(Zeile).Rechts);
     D.AltHW.push_back(KorPunkt(Zeile).Hoch);

@@ -41,7 +41,7 @@ bool MesswertLesen(std::string& Text, double& Zahl) {
 int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
                       const KorInfoSatz* Info, Punktnotiz& Notiz) {
   Notiz = {};
-  const int Zeile = KorSuche(Pnr);
+  const int Zeile = KorSucheMitPunkt(Pnr);
   if (Zeile >= 0) {
     const auto z = static_cast<std::size_t>(Zeile);
     const bool Lage =

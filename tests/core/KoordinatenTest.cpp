@@ -84,7 +84,8 @@ TEST_F(Punkttabelle, NeupunktHältOrdnungUndSpalten) {
     std::vector<int> Begleiter;
     for (int i = 0; i < 120; ++i) {
       const std::string Pnr = Zufallsnummer(Zufall, Art);
-      if (KorSuche(std::string_view(Pnr)) >= 0) continue;
+      Wert Vorhanden(Pnr);
+      if (KorSucheMitPunkt(Vorhanden) >= 0) continue;
       Punkt(Pnr.c_str(), i, 2 * i, 3 * i, std::to_string(i).c_str());
       Soll.push_back(Pnr);
       Begleiter.push_back(i);
@@ -108,6 +109,35 @@ TEST_F(Punkttabelle, OrdnungVonZahlenUndTexten) {
   EXPECT_EQ(KorSuche(std::string_view()), -1);      // what a record without a number asks for
   EXPECT_EQ(Reihe(KorSuche(Wert(1.5)), KorSuche(Wert(" 10\t")), KorSuche(Wert("1,5")), KorSuche(Wert("010"))),
             "0|2|-1|-1");
+}
+
+// What is handed back is found: as text it may keep its comma, in a comparison of values it loses it.
+TEST_F(Punkttabelle, KommaWieInDerTabelle) {
+  NeupunktErgebnis E;
+  for (const char* Pnr : {"1,5", "Nagel", "Nagel,1", "Nagel,2", "7"}) {
+    Wert Nummer(Pnr);
+    ASSERT_EQ(Neupunkt(Nummer, 1, 1, 0, "", nullptr, E), NeupunktCode::Neu);
+    EXPECT_TRUE(Gleich(Nummer, Wert(E.Pnr), KorSuche(Nummer) >= 0, true)) << Pnr;
+  }
+  Wert Gefragt("1,5");
+  EXPECT_TRUE(Gleich(KorFind(Gefragt), KorSuche(Wert("1.5")), Gefragt, Wert("1.5")));
+  Haken.FormEinzelKorein = [](Wert& Pnr) {
+    NeupunktErgebnis Eines;
+    Pnr = Wert("2,5");
+    return Neupunkt(Pnr, 8, 9, 0, "", nullptr, Eines) == NeupunktCode::Neu ? 1 : -1;
+  };
+  Gefragt = Wert("9,9");
+  EXPECT_TRUE(Gleich(KorPnr(std::max(KorFind(Gefragt), 0)), "2.5", Gefragt, Wert("2.5")));
+  for (const Konfliktwort Wort : {Konfliktwort::NeuenNeunum, Konfliktwort::AltenNeunum}) {
+    const bool Neuer = Wort == Konfliktwort::NeuenNeunum;
+    Haken.PunktVorhandenBehandeln = [&](const Konflikt& K) {
+      EXPECT_EQ(K.Pnr, "1.5");
+      return Konfliktantwort{Wort, Neuer ? "3,5" : "4,5"};
+    };
+    Wert Pnr("1,5");
+    EXPECT_GT(static_cast<int>(Neupunkt(Pnr, 2, 2, 0, "", nullptr, E)), 2);
+    EXPECT_TRUE(Gleich(Pnr, Wert(E.Pnr), E.Pnr, Neuer ? "3.5" : "1.5", E.AlterPnr, Neuer ? "1.5" : "4.5"));
+  }
 }
 
 TEST_F(Punkttabelle, SiebenAntworten) {
