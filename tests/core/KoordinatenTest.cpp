@@ -73,10 +73,10 @@ TEST(Sortierung, SteigtUndFällt) {
   }
 }
 
-class Punkttabelle : public TabellenTest {};
+using Punkttabelle = TabellenTest;
 
 // One table against a plain list through a long row of new points: order, columns and search stay together.
-TEST_F(Punkttabelle, NeupunktHältOrdnungUndSpalten) {
+TEST_F(Punkttabelle, NeupunktHältDieSpaltenZusammen) {
   std::mt19937 Zufall(7);
   for (int Art = 0; Art < 4; ++Art) {
     KorLeeren();
@@ -93,22 +93,23 @@ TEST_F(Punkttabelle, NeupunktHältOrdnungUndSpalten) {
     }
     ASSERT_EQ(KorAnzahl, static_cast<int>(Soll.size()));
     for (int z = 0; z < KorAnzahl; ++z) {
-      const auto s = static_cast<std::size_t>(z);
-      const int B = Begleiter[s];
-      ASSERT_EQ(Reihe(KorPnr(z), KorRechts[s], KorHoch[s], KorHoehe[s], KorSymbol[s], KorInfo[s].Punktart),
-                Reihe(Soll[s], B, 2 * B, 3 * B, B, B));
-      const int Gefunden = KorSuche(std::string_view(Soll[s]));
-      ASSERT_TRUE(Gefunden >= 0 && KorPnr(Gefunden) == Soll[s]);
+      const std::string& Nr = Soll[static_cast<std::size_t>(z)];
+      const int B = Begleiter[static_cast<std::size_t>(z)];
+      const KorSatz S = KorPunkt(z);
+      ASSERT_TRUE(Gleich(S.Pnr, Nr, S.Rechts, B, S.Hoch, 2 * B, S.Hoehe, 3 * B, S.Symbol, std::to_string(B),
+                         S.Info->Punktart, B));
+      const int Gefunden = KorSuche(std::string_view(Nr));
+      ASSERT_TRUE(Gefunden >= 0 && KorPnr(Gefunden) == Nr);
     }
   }
 }
 
-TEST_F(Punkttabelle, OrdnungVonZahlenUndTexten) {
+TEST_F(Punkttabelle, OrdnungNachZahlenwert) {
   for (const char* Pnr : {"10", "2", "1,5"}) Punkt(Pnr, 1, 1);
-  EXPECT_EQ(Reihe(KorPnr(0), KorPnr(1)), "1.5|2");  // the comma has become a point
-  EXPECT_EQ(KorSuche(std::string_view()), -1);      // what a record without a number asks for
-  EXPECT_EQ(Reihe(KorSuche(Wert(1.5)), KorSuche(Wert(" 10\t")), KorSuche(Wert("1,5")), KorSuche(Wert("010"))),
-            "0|2|-1|-1");
+  EXPECT_TRUE(Gleich(KorPnr(0), "1.5", KorPnr(1), "2"));  // the comma has become a point
+  EXPECT_EQ(KorSuche(std::string_view()), -1);            // what a record without a number asks for
+  EXPECT_TRUE(Gleich(KorSuche(Wert(1.5)), 0, KorSuche(Wert(" 10\t")), 2, KorSuche(Wert("1,5")), -1,
+                     KorSuche(Wert("010")), -1));
 }
 
 // What is handed back is found: as text it may keep its comma, in a comparison of values it loses it.
@@ -143,17 +144,19 @@ TEST_F(Punkttabelle, KommaWieInDerTabelle) {
 TEST_F(Punkttabelle, SiebenAntworten) {
   struct Fall {
     Konfliktwort Wort;
-    int Code;
-    const char* Soll;   // points, number handed back, Rechts of the result, number of the old point
-    const char* Zeile;  // Rechts, height and symbol of point 5 in the table
+    int Code, Punkte;  // points of the table
+    const char* Pnr;   // handed back
+    double Rechts;     // of the result
+    const char* AlterPnr;
+    KorSatz Zeile;  // point 5 in the table
   };
-  constexpr Fall Fälle[] = {
-      {Konfliktwort::Abbrechen, -1, "1|5|104|", "100|10|015"},
-      {Konfliktwort::AltenErsetzen, 1, "1|5|104|", "104|12.5|020"},
-      {Konfliktwort::Mitteln, 2, "1|5|102|", "102|11.25|015"},
-      {Konfliktwort::AltenNeunum, 3, "2|5|100|77", "104|12.5|020"},
-      {Konfliktwort::NeuenVerwerfen, 11, "1|5|100|", "100|10|015"},
-      {Konfliktwort::NeuenNeunum, 13, "2|77|104|5", "100|10|015"},
+  const Fall Fälle[] = {
+      {Konfliktwort::Abbrechen, -1, 1, "5", 104, "", {"5", 100, 200, 10, "015"}},
+      {Konfliktwort::AltenErsetzen, 1, 1, "5", 104, "", {"5", 104, 196, 12.5, "020"}},
+      {Konfliktwort::Mitteln, 2, 1, "5", 102, "", {"5", 102, 198, 11.25, "015"}},
+      {Konfliktwort::AltenNeunum, 3, 2, "5", 100, "77", {"5", 104, 196, 12.5, "020"}},
+      {Konfliktwort::NeuenVerwerfen, 11, 1, "5", 100, "", {"5", 100, 200, 10, "015"}},
+      {Konfliktwort::NeuenNeunum, 13, 2, "77", 104, "5", {"5", 100, 200, 10, "015"}},
   };
   for (const Fall& f : Fälle) {
     SCOPED_TRACE(f.Code);
@@ -171,10 +174,11 @@ TEST_F(Punkttabelle, SiebenAntworten) {
     Wert Pnr("5");
     NeupunktErgebnis E;
     EXPECT_EQ(static_cast<int>(Neupunkt(Pnr, 104, 196, 12.5, "020", nullptr, E)), f.Code);
-    EXPECT_EQ(Reihe(Gefragt, Gemittelt, E.DeltaRechts, E.DeltaHoch), f.Code == 2 ? "2|1|4|-4" : "2|0|4|-4");
-    EXPECT_EQ(Reihe(KorAnzahl, Pnr.Text(), E.Rechts, E.AlterPnr), f.Soll);
+    EXPECT_TRUE(Gleich(Gefragt, 2, Gemittelt, f.Code == 2, E.DeltaRechts, 4, E.DeltaHoch, -4, KorAnzahl,
+                       f.Punkte, Pnr.Text(), f.Pnr, E.Rechts, f.Rechts, E.AlterPnr, f.AlterPnr));
     const KorSatz S = KorPunkt(KorSuche(Wert("5")));
-    EXPECT_EQ(Reihe(S.Rechts, S.Hoehe, S.Symbol), f.Zeile);
+    EXPECT_TRUE(Gleich(S.Rechts, f.Zeile.Rechts, S.Hoch, f.Zeile.Hoch, S.Hoehe, f.Zeile.Hoehe, S.Symbol,
+                       f.Zeile.Symbol));
   }
 }
 
@@ -193,7 +197,7 @@ TEST_F(Punkttabelle, MittelDerHoehe) {
   }
 }
 
-TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
+TEST_F(Punkttabelle, WasKeinNeupunktWird) {
   NeupunktErgebnis E;
   for (Wert Keine : {Wert(), Wert(NullWert{}), Wert("  ")})
     EXPECT_EQ(Neupunkt(Keine, 1, 1, 0, "", nullptr, E), NeupunktCode::Nichts);
@@ -211,23 +215,24 @@ TEST_F(Punkttabelle, OhneNummerUndVolleTabelle) {
   EXPECT_EQ(KorAnzahl, KorZeilen);
 }
 
-TEST_F(Punkttabelle, LöschenUndEinfuegen) {
+TEST_F(Punkttabelle, ZeilenInDerMitte) {
   KorEinfuegen(0, "1", 1, 1, 1, "", {});
   EXPECT_EQ(KorAnzahl, 0);  // the first point comes through Neupunkt
   for (int i = 1; i <= 6; ++i) Punkt(std::to_string(i).c_str(), i, i, i, std::to_string(i).c_str());
   KorBereichLoeschen(2, 9);
   KorBereichLoeschen(-1, 2);
-  EXPECT_EQ(Reihe(KorLoeschen(6), KorLoeschen(-1), KorAnzahl), "-1|-1|6");
+  EXPECT_TRUE(Gleich(KorLoeschen(6), -1, KorLoeschen(-1), -1, KorAnzahl, 6));
   KorBereichLoeschen(1, 2);
-  EXPECT_EQ(Reihe(KorPnr(1), KorSymbol[1]), "4|2");  // symbols do not follow here
+  EXPECT_TRUE(Gleich(KorPnr(1), "4", KorSymbol[1], "2"));  // symbols do not follow here
   EXPECT_EQ(KorLoeschen(0), 0);
-  EXPECT_EQ(Reihe(KorPnr(0), KorSymbol[0]), "4|2");  // here they do
+  EXPECT_TRUE(Gleich(KorPnr(0), "4", KorSymbol[0], "2"));  // here they do
   KorInfoSatz Info;
   Info.Entstehung = "alt";
   EXPECT_EQ(KorZeileSetzen(1, {"5", 5, 5, 5, "5", &Info}), 0);
   KorEinfuegen(1, 45, 9, 9, 9, "neu", {});
-  EXPECT_EQ(Reihe(KorPnr(1), KorInfo[1].Entstehung), "45|alt");  // attributes only for EDBS and LT4
-  EXPECT_EQ(Reihe(KorSuche(Wert("6")), Skript.Status[1]), "3|4 Punkte");
+  // Attributes only for EDBS and LT4.
+  EXPECT_TRUE(Gleich(KorPnr(1), "45", KorInfo[1].Entstehung, "alt", KorSuche(Wert("6")), 3, Skript.Status[1],
+                     "4 Punkte"));
 }
 
 using Zeilen = std::vector<std::tuple<std::string, double, double, double, std::string, KorInfoSatz>>;
@@ -303,21 +308,22 @@ TEST_F(Punkttabelle, JedeÄnderungLäßtSichZurücknehmen) {
 TEST_F(Punkttabelle, BereichSucheVerschieben) {
   double a = 0, b = 0, c = 0, d = 0;
   KorBereich(a, b, c, d);
-  EXPECT_EQ(Reihe(a, b, c, d), "999999999.999|999999999.999|-99999999.999|-99999999.999");
+  EXPECT_TRUE(Gleich(a, 999999999.999, b, a, c, -99999999.999, d, c));
   EXPECT_EQ(KorBereichSuche(1, 9, -1), -3);
   for (const char* Pnr : {"10", "12A", "14", "20"}) Punkt(Pnr, std::stod(Pnr), 100, 7);
   constexpr int Nächste[] = {1, 1, 2, -1, -3};
   for (int Start = -1; Start <= 3; ++Start) EXPECT_EQ(KorBereichSuche("11", "15", Start), Nächste[Start + 1]);
-  const char* const Soll[] = {"-9|102|10", "102|-9|10", "-9|10|102", "10|102|-9"};
+  constexpr double Soll[][3] = {{-9, 102, 10}, {102, -9, 10}, {-9, 10, 102}, {10, 102, -9}};
   for (int Tausch = 0; Tausch < 4; ++Tausch) {
     EXPECT_EQ(KorZeileSetzen(0, {"10", 10, 100, 7}), 0);
     KorVerschieben(1, 2, 3, 1, 0, 0, Tausch);
-    EXPECT_EQ(Reihe(KorRechts[0], KorHoch[0], KorHoehe[0]), Soll[Tausch]);
+    const auto& [R, H, Hoehe] = Soll[Tausch];
+    EXPECT_TRUE(Gleich(KorRechts[0], R, KorHoch[0], H, KorHoehe[0], Hoehe)) << Tausch;
   }
   std::vector<int> Indizes;
   const std::vector<std::string> Liste{"1", " 2", "2", "2"};
-  EXPECT_EQ(Reihe(ListeFind("2", Liste, 4), ListeFind("2", Liste, 1)), "1|-1");
-  EXPECT_EQ(Reihe(ListeFindAlle(Liste, 4, "2", Indizes), ListeFindAlle(Liste, 4, "2", Indizes, 2)), "3|-2");
+  EXPECT_TRUE(Gleich(ListeFind("2", Liste, 4), 1, ListeFind("2", Liste, 1), -1));
+  EXPECT_TRUE(Gleich(ListeFindAlle(Liste, 4, "2", Indizes), 3, ListeFindAlle(Liste, 4, "2", Indizes, 2), -2));
 }
 
 }  // namespace

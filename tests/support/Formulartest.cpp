@@ -1,7 +1,8 @@
 #include "Formulartest.h"
 
 namespace tavorena::test {
-void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
+
+std::string Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
   Form.FokusWechseln(Element(Form, Name));
   const auto Schreibe = [&](const std::string& Wort) {
     if (!Wort.empty()) Form.Tippen(dynamic_cast<Eingabeelement&>(*Form.Fokus()), Wort);
@@ -18,9 +19,13 @@ void Tippe(Formular& Form, const std::string& Name, const std::string& Text) {
     }
   }
   Schreibe(Wort);
+  return Form.Fokus() != nullptr ? Form.Fokus()->Name : "";
 }
 
-void Drücke(Formular& Form, const std::string& Name) { Form.Klicken(Element<Knopf>(Form, Name)); }
+std::string Drücke(Formular& Form, const std::string& Name) {
+  Form.Klicken(Element<Knopf>(Form, Name));
+  return Form.Fokus() != nullptr ? Form.Fokus()->Name : "";
+}
 
 Gitter& Gitterfeld(const Formular& Form) {
   for (const auto& S : Form.Steuerelemente()) {

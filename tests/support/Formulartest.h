@@ -11,10 +11,11 @@ namespace tavorena::test {
 
 /// Types into a control as the surveyor does: it gets the focus, each "\n" is Return, "+" and "-" alone
 /// are the keys of the number pad. A grid takes the text in its current cell.
-void Tippe(Formular& Form, const std::string& Name, const std::string& Text);
+/// @return the name of the control that has the focus afterwards
+std::string Tippe(Formular& Form, const std::string& Name, const std::string& Text);
 
-/// Presses a button.
-void Drücke(Formular& Form, const std::string& Name);
+/// Presses a button. @return as above
+std::string Drücke(Formular& Form, const std::string& Name);
 
 /// A control, which must be there and of that kind.
 template <typename Art = Steuerelement>
@@ -27,10 +28,8 @@ inline tavorena::Feld& Feld(const Formular& Form, const std::string& Name) {
   return Element<tavorena::Feld>(Form, Name);
 }
 
-/// Texts of controls, "|" between them.
-template <typename... T>
-std::string Text(const Formular& Form, const T&... Namen) {
-  return Reihe(*Element(Form, Namen).Text...);
+inline const std::string& Text(const Formular& Form, const std::string& Name) {
+  return *Element(Form, Name).Text;
 }
 
 /// The grid of a worksheet.

@@ -4,7 +4,6 @@
 #include <deque>
 #include <filesystem>
 #include <functional>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -32,16 +31,6 @@ class Testordner {
 
 std::string Inhalt(const std::string& Datei);
 void Schreibe(const std::string& Datei, std::string_view Bytes);
-
-/// The values in one line, "|" between them.
-template <typename... T>
-std::string Reihe(const T&... Werte) {
-  std::ostringstream Text;
-  Text.precision(15);
-  const char* Trenner = "";
-  ((Text << std::exchange(Trenner, "|") << Werte), ...);
-  return Text.str();
-}
 
 /// Compares in pairs, a value and the one expected beside it, and tells which pair is off. A variable that a
 /// call beside it writes is seen as it is after the call; what another call reads is not.
