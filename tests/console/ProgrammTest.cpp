@@ -91,7 +91,7 @@ TEST_F(Programm, VolleScheibeBeendetOhneSpeichern) {
   EXPECT_FALSE(fs::exists(Ordner.Pfad("b.kor")));
 }
 
-TEST_F(Programm, HilfeUndFassungOhneBildschirm) {
+TEST_F(Programm, AuskunftOhneBildschirm) {
   for (const char* Pfad : {TAVORENA_STAPEL, TAVORENA_FENSTER}) {
     if (*Pfad == '\0') continue;  // a build without Qt
     SCOPED_TRACE(Pfad);

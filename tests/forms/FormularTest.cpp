@@ -101,7 +101,7 @@ TEST_F(Formulare, AbgewiesenerWertHältDenFokus) {
   EXPECT_FALSE(Form.Offen());
 }
 
-TEST_F(Formulare, ReturnUndEscape) {
+TEST_F(Formulare, TastenFührenDurchDasFormular) {
   Tippe(Form, "Zahl", "12\n");
   EXPECT_EQ(Fokus(), "Tabelle");
   Form.Tabelle.BeiTaste = [&](Taste T) { return T == Taste::Return && Form.Tabelle.Zeile == 0; };

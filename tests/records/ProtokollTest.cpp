@@ -111,7 +111,7 @@ TEST_F(ProtokollTest, NeueArtBeginntEineSeite) {
 }
 
 // What stands above the next line is known: it is repeated only where something else came in between.
-TEST_F(ProtokollTest, AnschlussUndPlanStehenÜberIhrenZeilen) {
+TEST_F(ProtokollTest, VerbindungStehtÜberIhrenZeilen) {
   const auto A1 = Über(Linien, {{"Anschluss A"}}), B1 = Über(Linien, {{"Anschluss B"}});
   for (const auto& V : {A1, A1, B1, A1}) ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
   EXPECT_EQ(Anzahl("Seite"), 1);
@@ -124,7 +124,7 @@ TEST_F(ProtokollTest, AnschlussUndPlanStehenÜberIhrenZeilen) {
   EXPECT_EQ(Anzahl("Seite"), 2);
 }
 
-TEST_F(ProtokollTest, FremdGeänderteDateiBekommtKopfUndAnschluss) {
+TEST_F(ProtokollTest, FremdGeänderteDateiBeginntMitDemKopf) {
   const auto V = Über(Linien, {{"Anschluss"}});
   ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
   Schreibe(Prot.Datei, Ist() + "von Hand\r\n");

@@ -342,7 +342,7 @@ TEST_F(BlattTest, ErledigtesIstAufDerPlatte) {
   Drücke(*Blätter.back(), "LinelStop");
 }
 
-TEST_F(BlattTest, NeueProtokolldateiBekommtKopfUndAnschluss) {
+TEST_F(BlattTest, NeueProtokolldateiBeginntMitDemKopf) {
   auto B = Verbinde("24.40");
   Tippe(*B, "LinelGitter", "2003\n");
   ProtokollNehmen(Ordner.Pfad("b.dru"));
@@ -437,7 +437,7 @@ TEST_F(BlattTest, JedesBlattHatSeinenPlan) {
   EXPECT_EQ(*Feld(*D, "DisRi_bez").Text, "Riss 13");  // cancel keeps the old values
 }
 
-TEST_F(BlattTest, PlusUndMinusZählenDieLetzteNummer) {
+TEST_F(BlattTest, TastenZählenDieLetzteNummer) {
   auto B = Öffne("24.40");
   EXPECT_FALSE(B->TasteDrücken(Taste::Plus));  // no number yet: the key is left to the text
   LetztePunktnummer = "12A";
