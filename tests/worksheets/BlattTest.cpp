@@ -4,29 +4,36 @@ namespace tavorena::test {
 namespace {
 
 using BlattTest = Blatttest;
+using Texte = std::vector<std::string>;
+
+// Line elements, connected and nothing measured.
+class Linienblatt : public Blatttest {
+ protected:
+  std::string Gib(const std::string& Text) { return Tippe(*B, "LinelGitter", Text); }
+  std::string Feldtext(const char* Name) const { return Text(*B, Name); }
+  void Streiche(int Zeile) {
+    B->ZelleWechseln(G, Zeile, 0);
+    Drücke(*B, "LinelDelete");
+  }
+  std::unique_ptr<Formular> B = Verbinde("24.40");
+  Gitter& G = Gitterfeld(*B);
+};
 
 TEST_F(BlattTest, LinienelementeSchreibenIhreDateien) {
   auto B = Öffne("24.40");
   const Gitter& G = Gitterfeld(*B);
   Tippe(*B, "LinelAnfPnr", "1001\n");
-  EXPECT_EQ(*Feld(*B, "LinelAnfH_he").Text, "12.500");
-  EXPECT_EQ(*Feld(*B, "LinelAnfSym").Text, "015");
+  EXPECT_TRUE(Gleich(Text(*B, "LinelAnfH_he"), "12.500", Text(*B, "LinelAnfSym"), "015"));
   Tippe(*B, "LinelEndPnr", "1002\n0\n99,93\n");  // Return leads through the connection into the grid
-  for (const auto& [Name, Soll] :
-       {std::pair{"LinelL", "100.000"}, std::pair{"LinelE", "100.000"}, std::pair{"LinelM", "1.000700"},
-        std::pair{"LinelD", "0.160"}, std::pair{"LinelWs", "0.070"}})
-    EXPECT_EQ(*Feld(*B, Name).Text, Soll) << Name;
+  EXPECT_TRUE(Gleich(Text(*B, "LinelL"), "100.000", Text(*B, "LinelE"), "100.000", Text(*B, "LinelM"),
+                     "1.000700", Text(*B, "LinelD"), "0.160", Text(*B, "LinelWs"), "0.070"));
   EXPECT_FALSE(DateiVorhanden(Prot.Datei));     // nothing is written before the first row
   Tippe(*B, "LinelGitter", "2003\n2004\n+\n");  // + steps to 2005
-  EXPECT_EQ(Gitterzeile(G, 0), (std::vector<std::string>{"2003", "3500130.000", "5600230.000", "42.000",
-                                                         "6.000", "41.971", "5.996"}));
-  EXPECT_EQ(G.Inhalt(2, 0), "2005");
-  Tippe(*B, "LinelGitter", "\n");  // Return in an empty row leads out of the grid
-  EXPECT_EQ(B->Fokus()->Name, "LinelEnd10");
-  Drücke(*B, "LinelEnd10");
-  EXPECT_EQ(B->Fokus()->Name, "LinelAnfPnr");
-  Tippe(*B, "LinelAnfPnr", "1002\n");
-  Tippe(*B, "LinelEndPnr", "2005\n0\n0\n2003\n");
+  EXPECT_EQ(Gitterzeile(G, 0),
+            (Texte{"2003", "3500130.000", "5600230.000", "42.000", "6.000", "41.971", "5.996"}));
+  EXPECT_EQ(Tippe(*B, "LinelGitter", "\n"), "LinelEnd10");  // Return in an empty row leads out of the grid
+  EXPECT_EQ(Drücke(*B, "LinelEnd10"), "LinelAnfPnr");
+  Tippe(*B, "LinelAnfPnr", "1002\n2005\n0\n0\n2003\n");
   EXPECT_FALSE(G.Spalten[5].Sichtbar);  // nothing measured, nothing to reduce
   Drücke(*B, "LinelEnd");
   EXPECT_FALSE(B->Offen());
@@ -38,22 +45,18 @@ TEST_F(BlattTest, PolarelementeSchreibenIhreDateien) {
   auto B = Öffne("08.40");
   Tippe(*B, "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n");
   EXPECT_EQ(Gitterzeile(Gitterfeld(*B), 0),
-            (std::vector<std::string>{"2003", "3500130.000", "5600230.000", "21.5334", "42.426"}));
-  EXPECT_EQ(*Feld(*B, "PolelM").Text, "1.000200");
-  EXPECT_EQ(*Feld(*B, "PolelWs").Text, "0.020");
+            (Texte{"2003", "3500130.000", "5600230.000", "21.5334", "42.426"}));
+  EXPECT_TRUE(Gleich(Text(*B, "PolelM"), "1.000200", Text(*B, "PolelWs"), "0.020"));
   Drücke(*B, "PolelEnd");
   PrüfeDateien("polel", 2);
 }
 
 TEST_F(BlattTest, EntfernungskontrollenSchreibenIhreDateien) {
   auto B = Öffne("22.10");
-  Tippe(*B, "DisAnfPnr", "1001\n1002\n99,8\n");
-  EXPECT_EQ(*Feld(*B, "DisL").Text, "100.000");
-  EXPECT_EQ(*Feld(*B, "DisD").Text, "0.160");
-  EXPECT_EQ(*Feld(*B, "DisWs").Text, "0.200");
-  EXPECT_TRUE(Feld(*B, "DisWs").Fehlerhaft);
-  EXPECT_EQ(*Feld(*B, "DisAnfPnr").Text, "1002");  // the end point is the new start point
-  EXPECT_EQ(B->Fokus()->Name, "DisEndPnr");
+  EXPECT_EQ(Tippe(*B, "DisAnfPnr", "1001\n1002\n99,8\n"), "DisEndPnr");
+  // The end point is the new start point.
+  EXPECT_TRUE(Gleich(Text(*B, "DisL"), "100.000", Text(*B, "DisD"), "0.160", Text(*B, "DisWs"), "0.200",
+                     Text(*B, "DisAnfPnr"), "1002", Feld(*B, "DisWs").Fehlerhaft, true));
   Tippe(*B, "DisEndPnr", "2005\n0\n");  // not measured
   Tippe(*B, "DisEndPnr", "1001\n200.1");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);  // the last check was not committed
@@ -73,66 +76,54 @@ TEST_F(BlattTest, ZweiBlätterImWechsel) {
   for (const auto& [Blatt, Name] :
        {std::pair{L.get(), "LinelEnd"}, std::pair{P.get(), "PolelEnd"}, std::pair{D.get(), "DisEnd"}})
     Drücke(*Blatt, Name);
-  const std::string Sta = Stapeltext(), Dru = Protokoll();
-  EXPECT_EQ(Anzahl(Sta, "M  VR"), 6);
-  EXPECT_EQ(Anzahl(Sta, "EM  (Ende Modul"), 6);
-  EXPECT_EQ(Anzahl(Sta, "PAN     1001        0.0000\r\nPEN     1002        0.0000\r\nNR      2004\r\nE Ende"),
-            1);
-  EXPECT_EQ(Anzahl(Sta, "PAN     1002        0.0000\r\nPEN     2005        0.0000\r\nE  (Ende)"), 1);
-  EXPECT_EQ(Anzahl(Dru, "|VR 24.40"), 3);  // each turn stands below its head
-  EXPECT_EQ(Anzahl(Dru, "|VR 08.40"), 1);
-  EXPECT_EQ(Anzahl(Dru, "|VR 22.10"), 2);
+  const std::string Dru = Protokoll();
+  for (const auto& [Stück, Soll] :
+       {std::pair{"M  VR", 6},
+        {"EM  (Ende Modul", 6},
+        {"PAN     1001        0.0000\r\nPEN     1002        0.0000\r\nNR      2004\r\nE Ende", 1},
+        {"PAN     1002        0.0000\r\nPEN     2005        0.0000\r\nE  (Ende)", 1}})
+    EXPECT_EQ(Anzahl(Stapeltext(), Stück), Soll) << Stück;
+  // Each turn stands below its head.
+  EXPECT_TRUE(Gleich(Anzahl(Dru, "|VR 24.40"), 3, Anzahl(Dru, "|VR 08.40"), 1, Anzahl(Dru, "|VR 22.10"), 2));
   EXPECT_EQ(Nachlauf(), Dru);
 }
 
 // A row that was written before another worksheet came in between can still be taken back.
-TEST_F(BlattTest, ZeileImEigenenAltenBlockWirdGestrichen) {
-  auto L = Verbinde("24.40"), P = Verbinde("08.40");
-  Tippe(*L, "LinelGitter", "2003\n2004\n");
+TEST_F(Linienblatt, ZeileImEigenenAltenBlockWirdGestrichen) {
+  auto P = Verbinde("08.40");
+  Gib("2003\n2004\n");
   Tippe(*P, "PolelGitter", "2003\n");
-  Gitter& G = Gitterfeld(*L);
-  L->ZelleWechseln(G, 0, 0);
-  Drücke(*L, "LinelDelete");
-  EXPECT_EQ(Anzahl(Stapeltext(), "NR      2003\r\nE Ende"), 0);
-  EXPECT_EQ(Anzahl(Stapeltext(), "PEN     1002        0.0000\r\nNR      2004\r\nE Ende"), 1);
-  EXPECT_EQ(Anzahl(Protokoll(), "2003 ***gelöscht"), 1);
-  EXPECT_EQ(G.Inhalt(0, 0), "2004");
+  Streiche(0);
+  EXPECT_TRUE(Gleich(Anzahl(Stapeltext(), "NR      2003\r\nE Ende"), 0,
+                     Anzahl(Stapeltext(), "PEN     1002        0.0000\r\nNR      2004\r\nE Ende"), 1,
+                     Anzahl(Protokoll(), "2003 ***gelöscht"), 1, G.Inhalt(0, 0), "2004"));
 }
 
-TEST_F(BlattTest, ZeileBleibtInFremdGeänderterStapeldatei) {
-  auto B = Verbinde("24.40");
-  Gitter& G = Gitterfeld(*B);
-  Tippe(*B, "LinelGitter", "2003\n2004\n");
+TEST_F(Linienblatt, ZeileBleibtInFremdGeänderterStapeldatei) {
+  Gib("2003\n2004\n");
   Schreibe(StapelDatei.Name, Stapeltext() + "C von Hand\r\n");
-  B->ZelleWechseln(G, 0, 0);
-  Drücke(*B, "LinelDelete");
+  Streiche(0);
   EXPECT_EQ(G.Inhalt(0, 0), "2003");
   EXPECT_NE(Skript.Status[4].find("von anderer Seite geändert"), std::string::npos);
-  Tippe(*B, "LinelGitter", "2005\n");  // nor is it replaced
-  EXPECT_EQ(G.Inhalt(0, 0), "2003");
-  EXPECT_EQ(Anzahl(Protokoll(), "gelöscht"), 0);
-  EXPECT_EQ(Anzahl(Protokoll(), "2005"), 0);
+  Gib("2005\n");  // nor is it replaced
+  EXPECT_TRUE(
+      Gleich(G.Inhalt(0, 0), "2003", Anzahl(Protokoll(), "gelöscht"), 0, Anzahl(Protokoll(), "2005"), 0));
 }
 
 // A row that reached no file is not written: it stays, and closing asks.
-TEST_F(BlattTest, UngeschriebeneZeileBleibtOffen) {
+TEST_F(Linienblatt, UngeschriebeneZeileBleibtOffen) {
   StapelDatei.Name.clear();
   Prot.Datei = Ordner.Pfad("fehlt/a.dru");
-  auto B = Verbinde("24.40");
-  const Gitter& G = Gitterfeld(*B);
   Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Prot.Datei);
-  Tippe(*B, "LinelGitter", "2003\n");
-  EXPECT_EQ(G.Zeilen(), 1);
-  EXPECT_EQ(G.Inhalt(0, 3), "42.000");
-  EXPECT_EQ(Prot.Marken, 0);
+  Gib("2003\n");
+  EXPECT_TRUE(Gleich(G.Zeilen(), 1, G.Inhalt(0, 3), "42.000", Prot.Marken, 0));
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
   Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfNein);
   B->SchließenVerlangen();
   EXPECT_TRUE(B->Offen());
   Prot.Datei = Ordner.Pfad("a.dru");
-  Tippe(*B, "LinelGitter", "\n");
-  EXPECT_EQ(Anzahl(Protokoll(), "   2003\r\n"), 1);
-  EXPECT_EQ(G.Zeilen(), 2);
+  Gib("\n");
+  EXPECT_TRUE(Gleich(Anzahl(Protokoll(), "   2003\r\n"), 1, G.Zeilen(), 2));
   Drücke(*B, "LinelEnd");  // and now nothing is open
   EXPECT_FALSE(B->Offen());
 }
@@ -151,10 +142,9 @@ TEST_F(BlattTest, JedesBlattHatSeinZweitesZiel) {
 }
 
 // Each file is asked for once, and then no more until another one is taken.
-TEST_F(BlattTest, OhneAktenGehtEsWeiter) {
+TEST_F(Linienblatt, OhneAktenGehtEsWeiter) {
   const std::string Sta = StapelDatei.Name, Dru = Prot.Datei;
-  auto B = Verbinde("24.40");
-  Tippe(*B, "LinelGitter", "2003\n");
+  Gib("2003\n");
   for (const std::string& Datei : {Sta, Dru})
     std::filesystem::permissions(Datei, std::filesystem::perms{0444});
   Skript.Erwarte("Stapelmodul.StapelPunktzeile wurde ausgelöst durch Tavorena\nE/A-Fehler\n" + Sta +
@@ -162,28 +152,24 @@ TEST_F(BlattTest, OhneAktenGehtEsWeiter) {
                  KnopfOhne);
   Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Dru + "\n(schreibgeschützt)", KnopfNochmals);
   Skript.Erwarte(Dru, KnopfOhne);
-  Tippe(*B, "LinelGitter", "2004\n2005\n");
-  Gitter& G = Gitterfeld(*B);
+  Gib("2004\n2005\n");
   EXPECT_EQ(G.Zeilen(), 4);
-  B->ZelleWechseln(G, 0, 0);
-  Drücke(*B, "LinelDelete");  // nothing to take it out of
+  Streiche(0);  // nothing to take it out of
   EXPECT_EQ(G.Inhalt(0, 0), "2004");
   StapelDatei.Name = Ordner.Pfad("b.sta");
   ProtokollNehmen(Ordner.Pfad("b.dru"));
   B->ZelleWechseln(G, 2, 0);
-  Tippe(*B, "LinelGitter", "2003\n");
-  EXPECT_EQ(Anzahl(Stapeltext(), "PAN"), 1);
-  EXPECT_EQ(Anzahl(Protokoll(), "|VR 24.40"), 1);
+  Gib("2003\n");
+  EXPECT_TRUE(Gleich(Anzahl(Stapeltext(), "PAN"), 1, Anzahl(Protokoll(), "|VR 24.40"), 1));
   EXPECT_TRUE(Inhalt(Sta).ends_with("2003\r\n"));
 }
 
 // With one of the two files out of reach the row is written in the other.
-TEST_F(BlattTest, EineDateiGenügt) {
+TEST_F(Linienblatt, EineDateiGenügt) {
   StapelDatei.Name = Ordner.Pfad("fehlt/a.sta");
-  auto B = Verbinde("24.40");
   Skript.Erwarte("Fehler 57 in Stapelmodul.StapelKopf");
-  Tippe(*B, "LinelGitter", "2003\n");
-  EXPECT_EQ(Gitterfeld(*B).Zeilen(), 2);
+  Gib("2003\n");
+  EXPECT_EQ(G.Zeilen(), 2);
   Drücke(*B, "LinelEnd");
   EXPECT_FALSE(B->Offen());
 }
@@ -191,22 +177,17 @@ TEST_F(BlattTest, EineDateiGenügt) {
 TEST_F(BlattTest, FehlenderPunktWirdGefragt) {
   auto B = Öffne("24.40");
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
-  Tippe(*B, "LinelAnfPnr", "7\n");
-  EXPECT_EQ(B->Fokus()->Name, "LinelAnfPnr");
-  EXPECT_EQ(*Feld(*B, "LinelAnfPnr").Text, "7");
+  EXPECT_TRUE(Gleich(Tippe(*B, "LinelAnfPnr", "7\n"), "LinelAnfPnr", Text(*B, "LinelAnfPnr"), "7"));
   // OK is not enough without coordinates.
   Skript.Formulare.push_back(
       Bediene({{"OK", ""}, {"EinzelRechts", "3500000,5\n"}, {"EinzelHoch", "5600000\n10\n\n"}}));
-  Tippe(*B, "LinelAnfPnr", "\n");
-  EXPECT_EQ(B->Fokus()->Name, "LinelEndPnr");
-  EXPECT_EQ(*Feld(*B, "LinelAnfRechts").Text, "3500000.500");
-  EXPECT_EQ(KorAnzahl, 6);
+  EXPECT_EQ(Tippe(*B, "LinelAnfPnr", "\n"), "LinelEndPnr");
+  EXPECT_TRUE(Gleich(Text(*B, "LinelAnfRechts"), "3500000.500", KorAnzahl, 6));
 }
 
 TEST_F(BlattTest, FernerPunktWirdGefragt) {
   Skript.Erwarte("Punkt 9 liegt 6377 km von allen anderen entfernt. Trotzdem aufnehmen ?", KnopfNein);
-  EXPECT_FALSE(FernpunktFrage("9", 350010, 56002));
-  EXPECT_EQ(Skript.LetzteVorgabe, KnopfNein);
+  EXPECT_TRUE(Gleich(FernpunktFrage("9", 350010, 56002), false, Skript.LetzteVorgabe, KnopfNein));
   Skript.Erwarte("Punkt 9 liegt 10 km", KnopfJa);  // one coordinate is enough
   EXPECT_TRUE(FernpunktFrage("9", 3500100, 5610361));
   EXPECT_TRUE(FernpunktFrage("9", 3510219, 5610359));
@@ -226,35 +207,29 @@ TEST_F(BlattTest, AndereBekannteNummerImPunktdialog) {
   Skript.Formulare.push_back(Bediene({{"EinzelPnr", "1002"}, {"OK", ""}}));
   Skript.Formulare.push_back(Bediene({{"Knopf(0)", ""}}));
   Tippe(*B, "LinelEndPnr", "8\n");  // it is taken as it stands
-  EXPECT_EQ(*Feld(*B, "LinelEndPnr").Text, "1002");
-  EXPECT_EQ(KorAnzahl, 5);
+  EXPECT_TRUE(Gleich(Text(*B, "LinelEndPnr"), "1002", KorAnzahl, 5));
 }
 
 TEST_F(BlattTest, UngültigeEingabenHaltenDenFokus) {
   auto B = Öffne("24.40");
   Tippe(*B, "LinelAnfPnr", "1001\n1001\n0\nabc\n");
   EXPECT_TRUE(Feld(*B, "LinelEndmass").Fehlerhaft);
-  B->FokusWechseln(Element(*B, "LinelAnlegemass"));
-  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
-  B->FokusWechseln(Element(*B, "LinelEnd"));  // a way out is always open
-  EXPECT_EQ(B->Fokus()->Name, "LinelEnd");
-  using Schritt = std::array<const char*, 3>;  // where, what is typed, where the focus then is
-  // Both points the same, Endmass equal to Anlegemass, all well.
-  for (const auto& [Name, Text, Fokus] :
-       {Schritt{"LinelEndmass", "0\n", "LinelEndPnr"}, Schritt{"LinelEndPnr", "1002\n5\n5\n", "LinelEndmass"},
-        Schritt{"LinelEndmass", "105\n", "LinelGitter"}}) {
-    Tippe(*B, Name, Text);
-    EXPECT_EQ(B->Fokus()->Name, Fokus) << Text;
+  // A way out is always open.
+  for (const auto& [Ziel, Fokus] : {std::pair{"LinelAnlegemass", "LinelEndmass"}, {"LinelEnd", "LinelEnd"}}) {
+    B->FokusWechseln(Element(*B, Ziel));
+    EXPECT_EQ(B->Fokus()->Name, Fokus);
   }
+  // Both points the same, Endmass equal to Anlegemass, all well.
+  EXPECT_EQ(Tippe(*B, "LinelEndmass", "0\n"), "LinelEndPnr");
+  EXPECT_EQ(Tippe(*B, "LinelEndPnr", "1002\n5\n5\n"), "LinelEndmass");
+  EXPECT_EQ(Tippe(*B, "LinelEndmass", "105\n"), "LinelGitter");
 }
 
-TEST_F(BlattTest, NummerOhnePunktBleibtOffen) {
-  auto B = Verbinde("24.40");
-  const Gitter& G = Gitterfeld(*B);
-  Tippe(*B, "LinelGitter", "+");  // the number entered last was 1002
+TEST_F(Linienblatt, NummerOhnePunktBleibtOffen) {
+  Gib("+");  // the number entered last was 1002
   EXPECT_EQ(G.Inhalt(0, 0), "1003");
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
-  Tippe(*B, "LinelGitter", "\n");
+  Gib("\n");
   EXPECT_EQ(G.Inhalt(0, 3), "");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
   Skript.Formulare.push_back(Bediene({{"EinzelRechts", "3500000\n5600000\n\n\n"}}));
@@ -267,40 +242,35 @@ TEST_F(BlattTest, AndererAnschlusspunktLöschtDieMessung) {
   auto B = Öffne("24.40");
   Tippe(*B, "LinelAnfPnr", "1001\n1002\n5\n104.9");
   Tippe(*B, "LinelEndPnr", "1002\n");  // the same again
-  EXPECT_EQ(*Feld(*B, "LinelEndmass").Text, "104.900");
+  EXPECT_EQ(Text(*B, "LinelEndmass"), "104.900");
   Tippe(*B, "LinelEndPnr", "2005\n");
-  EXPECT_EQ(*Feld(*B, "LinelAnlegemass").Text, "0.000");
-  EXPECT_EQ(*Feld(*B, "LinelEndmass").Text, "0.000");
+  EXPECT_TRUE(Gleich(Text(*B, "LinelAnlegemass"), "0.000", Text(*B, "LinelEndmass"), "0.000"));
 }
 
 TEST_F(BlattTest, ZuGroßerMesswertWirdAbgelehnt) {
   auto B = Öffne("24.40");
-  Tippe(*B, "LinelAnfPnr", "1001\n1002\n12345678.9\n");
-  EXPECT_EQ(B->Fokus()->Name, "LinelAnlegemass");
+  EXPECT_EQ(Tippe(*B, "LinelAnfPnr", "1001\n1002\n12345678.9\n"), "LinelAnlegemass");
   EXPECT_TRUE(Feld(*B, "LinelAnlegemass").Fehlerhaft);
   EXPECT_NE(Skript.Status[4].find("9999999.9999"), std::string::npos);
-  Tippe(*B, "LinelAnlegemass", "-999999.9999\n");
-  EXPECT_EQ(B->Fokus()->Name, "LinelEndmass");
+  EXPECT_EQ(Tippe(*B, "LinelAnlegemass", "-999999.9999\n"), "LinelEndmass");
 }
 
 // The answer to a taken number moves the end point of the open connection: the rows behind it stand below
 // the connection as it is now.
-TEST_F(BlattTest, BewegterAnschlussBeginntEinenBlock) {
-  auto B = Verbinde("24.40");
-  Tippe(*B, "LinelGitter", "2003\n");
+TEST_F(Linienblatt, BewegterAnschlussBeginntEinenBlock) {
+  Gib("2003\n");
   Haken.PunktVorhandenBehandeln = [](const Konflikt&) {
     return Konfliktantwort{Konfliktwort::AltenErsetzen, ""};
   };
   Wert Pnr("1002");
   NeupunktErgebnis E;
   ASSERT_EQ(Neupunkt(Pnr, 3500220, 5600360, 0.0, "", nullptr, E), NeupunktCode::AlterErsetzt);
-  Tippe(*B, "LinelGitter", "2004\n");
-  EXPECT_EQ(*Feld(*B, "LinelEndRechts").Text, "3500220.000");
-  EXPECT_EQ(*Feld(*B, "LinelL").Text, "200.000");
-  EXPECT_EQ(Anzahl(Stapeltext(), "M  VR 24.40"), 2);
+  Gib("2004\n");
+  EXPECT_TRUE(Gleich(Feldtext("LinelEndRechts"), "3500220.000", Feldtext("LinelL"), "200.000",
+                     Anzahl(Stapeltext(), "M  VR 24.40"), 2));
   EXPECT_EQ(Anzahl(Protokoll(), "      3500220.000  5600360.000      200.000                   1002      PE"),
             1);
-  Tippe(*B, "LinelGitter", "2005\n");
+  Gib("2005\n");
   EXPECT_EQ(Anzahl(Stapeltext(), "M  VR 24.40"), 2);
 }
 
@@ -315,12 +285,11 @@ bool Ungesichert(const std::string& Name) {
   return std::any_of(begin(Offene), end(Offene), Ist);
 }
 
-TEST_F(BlattTest, ErledigtesIstAufDerPlatte) {
+TEST_F(Linienblatt, ErledigtesIstAufDerPlatte) {
   const auto Beide = [] { return std::pair(Ungesichert(Prot.Datei), Ungesichert(StapelDatei.Name)); };
-  auto B = Verbinde("24.40");
-  Tippe(*B, "LinelGitter", "2003\n2004\n");
+  Gib("2003\n2004\n");
   EXPECT_EQ(Beide(), std::pair(true, true));
-  Tippe(*B, "LinelGitter", "\n");
+  Gib("\n");
   Drücke(*B, "LinelEnd10");
   EXPECT_EQ(Beide(), std::pair(false, false));
   Tippe(*B, "LinelAnfPnr", "1001\n1002\n0\n0\n2003\n2004");  // a question in the midst of a block
@@ -342,49 +311,36 @@ TEST_F(BlattTest, ErledigtesIstAufDerPlatte) {
   Drücke(*Blätter.back(), "LinelStop");
 }
 
-TEST_F(BlattTest, NeueProtokolldateiBeginntMitDemKopf) {
-  auto B = Verbinde("24.40");
-  Tippe(*B, "LinelGitter", "2003\n");
+TEST_F(Linienblatt, NeueProtokolldateiBeginntMitDemKopf) {
+  Gib("2003\n");
   ProtokollNehmen(Ordner.Pfad("b.dru"));
-  Tippe(*B, "LinelGitter", "2004\n");
-  EXPECT_EQ(Anzahl(Protokoll(), "|VR 24.40"), 1);
-  EXPECT_EQ(Anzahl(Protokoll(), "1002      PE"), 1);
+  Gib("2004\n");
+  EXPECT_TRUE(Gleich(Anzahl(Protokoll(), "|VR 24.40"), 1, Anzahl(Protokoll(), "1002      PE"), 1));
 }
 
-TEST_F(BlattTest, GleicheNummerZeigtDieZeileWieder) {
-  auto B = Verbinde("24.40");
-  Gitter& G = Gitterfeld(*B);
-  Tippe(*B, "LinelGitter", "2003\n2004\n");
+TEST_F(Linienblatt, GleicheNummerZeigtDieZeileWieder) {
+  Gib("2003\n2004\n");
   for (const bool MitReturn : {true, false}) {
     B->ZelleWechseln(G, 0, 0);
     B->Tippen(G, "2003");
     EXPECT_EQ(G.Inhalt(0, 3), "");
-    if (MitReturn) {
-      Tippe(*B, "LinelGitter", "\n");
-    } else {
-      B->ZelleWechseln(G, 1, 0);
-    }
+    MitReturn ? void(Gib("\n")) : B->ZelleWechseln(G, 1, 0);
     EXPECT_EQ(G.Inhalt(0, 3), "42.000") << MitReturn;
   }
   EXPECT_EQ(Anzahl(Stapeltext(), "NR      2003"), 1);
 }
 
-TEST_F(BlattTest, BerichtigteZeilenWerdenGestrichen) {
-  auto B = Verbinde("24.40");
-  Gitter& G = Gitterfeld(*B);
-  Tippe(*B, "LinelGitter", "2003\n2004\n2005\n");
+TEST_F(Linienblatt, BerichtigteZeilenWerdenGestrichen) {
+  Gib("2003\n2004\n2005\n");
   B->ZelleWechseln(G, 1, 0);
   B->Tippen(G, "1002");
   B->ZelleWechseln(G, 0, 0);  // not confirmed: what was written stands
-  EXPECT_EQ(G.Inhalt(1, 0), "2004");
-  EXPECT_EQ(G.Inhalt(1, 4), "-45.000");
+  EXPECT_TRUE(Gleich(G.Inhalt(1, 0), "2004", G.Inhalt(1, 4), "-45.000"));
   B->ZelleWechseln(G, 1, 0);
-  Tippe(*B, "LinelGitter", "1002\n");
-  B->ZelleWechseln(G, 2, 0);
-  Drücke(*B, "LinelDelete");
-  EXPECT_EQ(G.Inhalt(0, 0), "2003");
-  EXPECT_EQ(G.Inhalt(1, 0), "1002");
-  Tippe(*B, "LinelGitter", "2004");
+  Gib("1002\n");
+  Streiche(2);
+  EXPECT_TRUE(Gleich(G.Inhalt(0, 0), "2003", G.Inhalt(1, 0), "1002"));
+  Gib("2004");
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
   Drücke(*B, "LinelEnd");
   for (const char* Pnr : {"2004", "2005"})
@@ -393,29 +349,23 @@ TEST_F(BlattTest, BerichtigteZeilenWerdenGestrichen) {
       << Stapeltext();
 }
 
-TEST_F(BlattTest, VerlassenFragtNachOffenem) {
-  auto B = Verbinde("24.40");
-  Tippe(*B, "LinelGitter", "2004");
-  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
-  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfNein);
-  B->SchließenVerlangen();
-  EXPECT_TRUE(B->Offen());
+TEST_F(Linienblatt, VerlassenFragtNachOffenem) {
+  Gib("2004");
+  for (const int Antwort : {KnopfNein, KnopfJa}) {
+    Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
+    Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", Antwort);
+    B->SchließenVerlangen();
+    EXPECT_EQ(B->Offen(), Antwort == KnopfNein);
+  }
   EXPECT_EQ(Skript.Titel.back(), "Berechnung Linienelemente");
-  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
-  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfJa);
-  B->SchließenVerlangen();
-  EXPECT_FALSE(B->Offen());
   EXPECT_FALSE(DateiVorhanden(Prot.Datei));
 }
 
-TEST_F(BlattTest, StreifenNimmtDiePunkteDesBereichs) {
-  auto B = Verbinde("24.40");
-  const Gitter& G = Gitterfeld(*B);
-  Tippe(*B, "LinelGitter", "1001");  // typed and not confirmed: it comes first
+TEST_F(Linienblatt, StreifenNimmtDiePunkteDesBereichs) {
+  Gib("1001");  // typed and not confirmed: it comes first
   Tippe(*B, "LinelPnrvon", "2000\n2999\n10\n");
-  EXPECT_EQ(G.Inhalt(0, 0), "1001");
-  EXPECT_EQ(G.Inhalt(1, 0), "2003");
-  EXPECT_EQ(G.Inhalt(2, 0), "2005");  // 2004 is 45 m off
+  // 2004 is 45 m off.
+  EXPECT_TRUE(Gleich(G.Inhalt(0, 0), "1001", G.Inhalt(1, 0), "2003", G.Inhalt(2, 0), "2005"));
   Tippe(*B, "LinelPnrvon", "2000\n2999\n0\n");
   EXPECT_EQ(G.Zeilen(), 7);
 }
@@ -424,8 +374,7 @@ TEST_F(BlattTest, JedesBlattHatSeinenPlan) {
   Optionen.AbfrageRiss = true;
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "Riss 12\n"}, {"Wert(1)", "3\n"}}));
   auto L = Verbinde("24.40");
-  EXPECT_EQ(*Feld(*L, "LinelRi_bez").Text, "Riss 12");
-  EXPECT_EQ(*Feld(*L, "LinelBernr").Text, "3");
+  EXPECT_TRUE(Gleich(Text(*L, "LinelRi_bez"), "Riss 12", Text(*L, "LinelBernr"), "3"));
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "Riss 13\n"}, {"Wert(1)", "4\n"}}));
   auto P = Verbinde("08.40");
   Tippe(*P, "PolelGitter", "2003\n");
@@ -434,7 +383,7 @@ TEST_F(BlattTest, JedesBlattHatSeinenPlan) {
   EXPECT_EQ(Anzahl(Protokoll(), "|VR 24.40  Linienelemente  (Riss 12) 3 "), 1);
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   auto D = Öffne("22.10");
-  EXPECT_EQ(*Feld(*D, "DisRi_bez").Text, "Riss 13");  // cancel keeps the old values
+  EXPECT_EQ(Text(*D, "DisRi_bez"), "Riss 13");  // cancel keeps the old values
 }
 
 TEST_F(BlattTest, TastenZählenDieLetzteNummer) {
@@ -442,7 +391,7 @@ TEST_F(BlattTest, TastenZählenDieLetzteNummer) {
   EXPECT_FALSE(B->TasteDrücken(Taste::Plus));  // no number yet: the key is left to the text
   LetztePunktnummer = "12A";
   EXPECT_TRUE(B->TasteDrücken(Taste::Minus));
-  EXPECT_EQ(*Feld(*B, "LinelAnfPnr").Text, "11");
+  EXPECT_EQ(Text(*B, "LinelAnfPnr"), "11");
 }
 
 TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
@@ -451,19 +400,16 @@ TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
   Schreibe(StapelDatei.Name, Linie + "M VR 08.40 x\r\n" + Anschluss + "NR 77\r\nNR 2004\r\nE\r\n" + Linie);
   Skript.Hält = true;
   Starten();
-  ASSERT_TRUE(Stapel.Aktiv);
-  ASSERT_TRUE(Blätter.back()->Offen());
-  EXPECT_EQ(Blätter.back()->Fokus()->Name, "LinelWeiter");
-  EXPECT_EQ(Protokoll(), "");
+  ASSERT_TRUE(Stapel.Aktiv && Blätter.back()->Offen());
   Formular& Erstes = *Blätter.back();
   Tippe(Erstes, "LinelGitter", "2004\n");  // there is nothing to type
   for (const char* Zu : {"LinelAnfPnr", "LinelEndmass", "LinelPnrvon", "LinelEnd10", "LinelDelete"})
     EXPECT_FALSE(Formular::NimmtFokus(Element(Erstes, Zu))) << Zu;
   EXPECT_EQ(Protokoll(), "");
   EXPECT_EQ(StapelStand(), "Block 1 von 3, VR 24.40 x, Zeile 3");
+  EXPECT_TRUE(Gleich(Erstes.Fokus()->Name, "LinelWeiter", Protokoll(), ""));
   Drücke(Erstes, "LinelWeiter");  // the next block is shown when this one is done
-  EXPECT_FALSE(Erstes.Offen());
-  ASSERT_EQ(Blätter.size(), 2U);
+  ASSERT_TRUE(Gleich(Erstes.Offen(), false, Blätter.size(), 2U));
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Skript.BeiEreignissen = [&] {
     Drücke(*Blätter.back(), "PolelStop");
@@ -538,8 +484,7 @@ TEST_F(BlattTest, NachlaufOhnePunktLäßtDieZeileAus) {
   for (int i = 0; i < 2; ++i) Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Skript.Erwarte("Zeile: 9\nAnschlußpunkt 77 fehlt");
   EXPECT_EQ(Anzahl(Nachlauf(), "   2003\r\n"), 1);
-  EXPECT_EQ(Stapel.Bilanz.Zeilen, 1);
-  EXPECT_TRUE(Stapel.Bilanz.Fehler);
+  EXPECT_TRUE(Gleich(Stapel.Bilanz.Zeilen, 1, Stapel.Bilanz.Fehler, true));
 }
 
 TEST_F(BlattTest, NachlaufOhneProtokolldateiEndetMitFehler) {
@@ -548,25 +493,23 @@ TEST_F(BlattTest, NachlaufOhneProtokolldateiEndetMitFehler) {
   Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Prot.Datei);
   Skript.Erwarte("Zeile: 4\nZeile nicht geschrieben");
   StapelStarten(StapelDatei.Name);
-  EXPECT_TRUE(Stapel.Bilanz.Fehler);
-  EXPECT_EQ(Stapel.Bilanz.Zeilen, 0);
+  EXPECT_TRUE(Gleich(Stapel.Bilanz.Fehler, true, Stapel.Bilanz.Zeilen, 0));
 }
 
 TEST_F(BlattTest, NeupunktEintragenFragtNurBeiAndererLage) {
   Punktnotiz Notiz;
   Wert Pnr("1001");
-  EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.0004, 5600200, NullWert{}, "", nullptr, Notiz), 0);
-  EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.5, "", nullptr, Notiz), 0);
-  EXPECT_EQ(Notiz.Code, NeupunktCode::Neu);
+  for (const auto& [R, Hoehe] : {std::pair{3500100.0004, Wert(NullWert{})}, {3500100.0, Wert(12.5)}}) {
+    EXPECT_EQ(NeupunktEintragen(Pnr, R, 5600200, Hoehe, "", nullptr, Notiz), 0);
+    EXPECT_EQ(Notiz.Code, NeupunktCode::Neu);
+  }
   int Gefragt = 0;
   Haken.PunktVorhandenBehandeln = [&](const Konflikt&) {
     return ++Gefragt == 1 ? Konfliktantwort{} : Konfliktantwort{Konfliktwort::NeuenNeunum, "9002"};
   };
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.6, "", nullptr, Notiz), -1);
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.02, 5600199.98, 0.0, "", nullptr, Notiz), 5);
-  EXPECT_EQ(Pnr.Text(), "9002");
-  EXPECT_EQ(Notiz.Code, NeupunktCode::NeuerNeunum);
-  EXPECT_EQ(Notiz.Nummer, "9002");
+  EXPECT_TRUE(Gleich(Pnr.Text(), "9002", Notiz.Code, NeupunktCode::NeuerNeunum, Notiz.Nummer, "9002"));
 }
 
 // What holds for every kind of worksheet.
