@@ -2,7 +2,6 @@
 
 #include <memory>
 
-#include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/ta/TA.h>
 

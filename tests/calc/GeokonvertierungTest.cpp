@@ -1,6 +1,5 @@
 #include "Rechentest.h"
 
-#include <array>
 #include <limits>
 #include <memory>
 

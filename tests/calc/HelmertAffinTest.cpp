@@ -365,7 +365,7 @@ TEST_F(Transformation, DateienBleibenGanz) {
   }
   Schreibe(Pass, Drei);
   const std::string Ordnername = Ordner.Pfad("ordner"), Weg = Ordner.Pfad("fehlt.kor");
-  std::filesystem::create_directories(Ordnername);
+  fs::create_directories(Ordnername);
   for (const auto& [K, P] : {std::pair{Weg, Pass}, {Kor, Weg}}) Versuch(K, P, 3, OhneDatei, OhneDatei);
   for (const auto& [K, P] : {std::pair{Ordnername, Pass}, {Kor, Ordnername}})  // there, but not readable
     Versuch(K, P, 3, Fehler, Fehler);
@@ -374,9 +374,9 @@ TEST_F(Transformation, DateienBleibenGanz) {
   Schreibe(Kor, Zuvoll);
   EXPECT_EQ(Ta.HelmertTransformationKoordinatendateiPasspunktdatei(Kor, Pass, true), Zuviele);
   EXPECT_EQ(Inhalt(Kor), Zuvoll);
-  std::filesystem::permissions(Kor, std::filesystem::perms{0444});  // nobody, not even root, may write it
+  fs::permissions(Kor, fs::perms{0444});  // nobody, not even root, may write it
   Versuch(Kor, Pass, 3, Fehler, Fehler);
-  EXPECT_FALSE(std::filesystem::exists(Weg));
+  EXPECT_FALSE(fs::exists(Weg));
 }
 
 }  // namespace

@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <sys/wait.h>
 
-namespace fs = std::filesystem;
-
 namespace tavorena::test {
 namespace {
 

@@ -8,8 +8,6 @@
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 
-namespace fs = std::filesystem;
-
 namespace tavorena::test {
 namespace {
 

@@ -8,12 +8,9 @@
 #include <thread>
 #include <unistd.h>
 
-#include <tavorena/core/Datei.h>
-
 namespace tavorena::test {
 namespace {
 
-namespace fs = std::filesystem;
 using namespace std::string_view_literals;
 
 // A file that holds "alt", alone in its folder.

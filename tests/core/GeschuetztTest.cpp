@@ -10,7 +10,6 @@ namespace tavorena::test {
 namespace {
 
 TEST(Geschützt, MeldetDieArtDesFehlers) {
-  namespace fs = std::filesystem;
   const auto Dateifehler = [](std::errc Grund) {
     return fs::filesystem_error("x", std::make_error_code(Grund));
   };

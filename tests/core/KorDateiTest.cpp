@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <tavorena/core/KorDatei.h>
-#include <tavorena/core/Optionen.h>
 
 namespace tavorena::test {
 namespace {
@@ -147,7 +146,7 @@ TEST_F(KorDatei, WasKeineDateiIst) {
     Scheitert(Fall, "Koordinatendatei\n" + Fall + "\nnicht vorhanden !");
   Scheitert(Datei, "Format der Datei", Dateiformat::Edbs);
   if (geteuid() == 0) {  // without read permission; root must put on another hat to be refused
-    std::filesystem::permissions(Datei, std::filesystem::perms::none);
+    fs::permissions(Datei, fs::perms::none);
     ASSERT_EQ(seteuid(65534), 0);
     Scheitert(Datei, "nicht vorhanden !");
     ASSERT_EQ(seteuid(0), 0);

@@ -2,28 +2,8 @@
 #include <deque>
 #include <functional>
 
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QDockWidget>
-#include <QFile>
-#include <QFileDialog>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QRegularExpression>
-#include <QScrollBar>
-#include <QStatusBar>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTextBrowser>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>

@@ -1,7 +1,5 @@
 #include "Aktentest.h"
 
-#include <tavorena/core/Datei.h>
-#include <tavorena/core/Optionen.h>
 #include <tavorena/records/Dis.h>
 #include <tavorena/records/Linel.h>
 

@@ -1,6 +1,5 @@
 #include "Shelltest.h"
 
-#include <tavorena/core/Datei.h>
 #include <tavorena/forms/TVWertdialog.h>
 
 namespace tavorena::test {
@@ -168,10 +167,10 @@ TEST_F(HauptOffen, FremdeÄnderungFragt) {
 
 TEST_F(Haupt, NameDerBefehlszeileWirdGanz) {
   Schreibe(A_kor, "1 2.0 3.0\r\n");
-  const auto Vorher = std::filesystem::current_path();
-  std::filesystem::current_path(Ordner.Pfad(""));
+  const auto Vorher = fs::current_path();
+  fs::current_path(Ordner.Pfad(""));
   HauptDateiÖffnen("a.kor", Dateiformat::Kor);
-  std::filesystem::current_path(Vorher);
+  fs::current_path(Vorher);
   EXPECT_TRUE(Gleich(Historie[0].Dateiname, A_kor, Prot.Datei, A_dru));
 }
 

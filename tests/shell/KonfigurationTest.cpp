@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <tavorena/core/Datei.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/shell/TVOptionenform.h>
 
@@ -12,7 +11,7 @@ namespace {
 class Konfiguration : public Shelltest {
  protected:
   void Ini(const std::string& Text) {
-    std::filesystem::create_directories(Anwendungsordner);
+    fs::create_directories(Anwendungsordner);
     Schreibe(Ordner.Pfad("app/Tavorena.ini"), Text);
   }
   std::string Ini() const { return Inhalt(Ordner.Pfad("app/Tavorena.ini")); }
@@ -85,7 +84,7 @@ TEST_F(Konfiguration, GanzeZahlenHabenIhrenBereich) {
 
 TEST_F(Konfiguration, UnbeschreibbareDateiWirdEinmalGemeldet) {
   Ini("");
-  std::filesystem::permissions(Ordner.Pfad("app/Tavorena.ini"), std::filesystem::perms{0444});
+  fs::permissions(Ordner.Pfad("app/Tavorena.ini"), fs::perms{0444});
   Skript.Erwarte("beim Speichern der Datei " + DateinameOptionen + " (schreibgeschützt)");
   for (const char* Name : {"a", "b", "c"}) HauptHistSchreiben(Name, Dateiformat::Kor);
   EXPECT_EQ(Ini(), "");

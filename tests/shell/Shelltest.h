@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 
-#include <tavorena/core/Optionen.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>

@@ -2,7 +2,6 @@
 
 #include "Testhilfe.h"
 
-#include <tavorena/core/Optionen.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelblock.h>

@@ -7,10 +7,6 @@
 #include <sstream>
 #include <unistd.h>
 
-#include <tavorena/core/Optionen.h>
-
-namespace fs = std::filesystem;
-
 namespace tavorena::test {
 
 Testordner::Testordner() {

@@ -11,10 +11,14 @@
 
 #include <gtest/gtest.h>
 
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
 namespace tavorena::test {
+
+namespace fs = std::filesystem;
 
 /// A folder of its own for one test, removed with it.
 class Testordner {
@@ -26,7 +30,7 @@ class Testordner {
   [[nodiscard]] std::string Pfad(std::string_view Name) const;
 
  private:
-  std::filesystem::path Ort;
+  fs::path Ort;
 };
 
 std::string Inhalt(const std::string& Datei);

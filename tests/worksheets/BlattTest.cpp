@@ -135,7 +135,7 @@ TEST_F(BlattTest, JedesBlattHatSeinZweitesZiel) {
   ASSERT_EQ(ZweiteZiele().size(), 2U);
   for (const std::string& Datei : ZweiteZiele()) {
     EXPECT_EQ(Anzahl(Inhalt(Datei), "2003") + Anzahl(Inhalt(Datei), "2004"), 1);
-    EXPECT_EQ(std::filesystem::status(Datei).permissions(), std::filesystem::perms{0600});
+    EXPECT_EQ(fs::status(Datei).permissions(), fs::perms{0600});
   }
   A.reset();
   EXPECT_EQ(ZweiteZiele().size(), 1U);
@@ -145,8 +145,7 @@ TEST_F(BlattTest, JedesBlattHatSeinZweitesZiel) {
 TEST_F(Linienblatt, OhneAktenGehtEsWeiter) {
   const std::string Sta = StapelDatei.Name, Dru = Prot.Datei;
   Gib("2003\n");
-  for (const std::string& Datei : {Sta, Dru})
-    std::filesystem::permissions(Datei, std::filesystem::perms{0444});
+  for (const std::string& Datei : {Sta, Dru}) fs::permissions(Datei, fs::perms{0444});
   Skript.Erwarte("Stapelmodul.StapelPunktzeile wurde ausgelöst durch Tavorena\nE/A-Fehler\n" + Sta +
                      "\n(schreibgeschützt)",
                  KnopfOhne);
@@ -276,7 +275,6 @@ TEST_F(Linienblatt, BewegterAnschlussBeginntEinenBlock) {
 
 // A file that is extended stays open until it was brought to the disk.
 bool Ungesichert(const std::string& Name) {
-  namespace fs = std::filesystem;
   const auto Ist = [&](const fs::directory_entry& Zahl) {
     std::error_code Fehler;
     return fs::read_symlink(Zahl, Fehler) == fs::canonical(Name);

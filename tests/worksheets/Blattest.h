@@ -3,8 +3,6 @@
 #include "Aktentest.h"
 #include "Formulartest.h"
 
-#include <tavorena/core/Datei.h>
-#include <tavorena/core/Optionen.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -53,7 +51,7 @@ class Blatttest : public Aktentest {
   /// The second targets of the worksheets that are there.
   [[nodiscard]] std::vector<std::string> ZweiteZiele() const {
     std::vector<std::string> Namen;
-    for (const auto& Datei : std::filesystem::directory_iterator(Ordner.Pfad(""))) {
+    for (const auto& Datei : fs::directory_iterator(Ordner.Pfad(""))) {
       if (Datei.path().string().starts_with(DateinameProtokollTemp)) Namen.push_back(Datei.path().string());
     }
     return Namen;
