@@ -27,35 +27,29 @@ class ProtokollTest : public Aktentest {
   }
   static int Anzahl(const std::string& Stück) { return Aktentest::Anzahl(Ist(), Stück); }
 
-  Protanschluss Anschluss() const { return {A, E, {}, {}, {}, {}, 0.07, 0.16}; }
+  Protanschluss Anschluss(const Wert& Anf1, const Wert& Anf2, const Wert& End1, const Wert& End2,
+                          double Abweichung) const {
+    return {A, E, Anf1, Anf2, End1, End2, Abweichung, 0.16};
+  }
+  static void Gib(const std::shared_ptr<const Verbindung>& V, const Block& B = {{"x"}}) {
+    ASSERT_EQ(Schreiben(Prot, V, B), 0);
+  }
   const Protpunkt A{3500100, 5600200, "1001"}, E{3500160, 5600280, "1002"}, P{3500130, 5600230, "2003"};
   const char *const Linien = "VR 24.40 Linienelemente", *const Polar = "VR 08.40 Polarelemente",
                     *const Kontrolle = "VR 22.10 Entfernungskontrolle";
 };
 
 TEST_F(ProtokollTest, BlöckeStehenUnterIhrenKöpfen) {
-  Protanschluss L = Anschluss();
-  L.AnfWert1 = 0.0;
-  L.EndWert1 = 99.93;
-  const auto LinienV = Über(Linien, LinelAnschluss(3, L));
-  EXPECT_EQ(Schreiben(Prot, LinienV, LinelZeile(3, P, 42, 6, 41.9706, 5.9958)), 0);
-  EXPECT_EQ(Schreiben(Prot, LinienV, LinelZeile(3, P, 42, -6, {}, {}, " ***gelöscht")), 0);
-  Protanschluss W = Anschluss();
-  W.AnfWert1 = 40.96655;
-  W.AnfWert2 = 100.0;
-  W.EndWert1 = 12.5;
-  W.EndWert2 = 99.98;
-  W.Abweichung = 0.02;
-  EXPECT_EQ(PolelAnschluss(3, W).Marken, 0);
-  EXPECT_EQ(Schreiben(Prot, Über(Polar, PolelAnschluss(3, W)), PolelZeile(3, P, 21.53345, 42.4264)), 0);
-  Protanschluss D = Anschluss();
-  D.EndWert2 = 100.0;
+  const auto LinienV = Über(Linien, LinelAnschluss(3, Anschluss(0.0, {}, 99.93, {}, 0.07)));
+  Gib(LinienV, LinelZeile(3, P, 42, 6, 41.9706, 5.9958));
+  Gib(LinienV, LinelZeile(3, P, 42, -6, {}, {}, " ***gelöscht"));
+  const Block W = PolelAnschluss(3, Anschluss(40.96655, 100.0, 12.5, 99.98, 0.02));
+  Gib(Über(Polar, W), PolelZeile(3, P, 21.53345, 42.4264));
   const auto KontrolleV = Über(Kontrolle);
-  EXPECT_EQ(Schreiben(Prot, KontrolleV, DisZeile(3, D, false)), 0);
-  D.EndWert1 = 99.8;
-  D.Abweichung = 0.2;
-  EXPECT_EQ(DisZeile(3, D, true).Marken, 1);
-  EXPECT_EQ(Schreiben(Prot, KontrolleV, DisZeile(3, D, true)), 0);
+  Gib(KontrolleV, DisZeile(3, Anschluss({}, {}, {}, 100.0, 0.07), false));
+  const Block D = DisZeile(3, Anschluss({}, {}, 99.8, 100.0, 0.2), true);
+  Gib(KontrolleV, D);
+  EXPECT_TRUE(Gleich(W.Marken, 0, D.Marken, 1));
   EXPECT_EQ(ProtBlock(Prot, MittelBlock(3, {"1001", 3500100.01, 5600200.02, 3500100.03, 5600200, 3500100.02,
                                             5600200.01})),
             0);
@@ -70,67 +64,59 @@ TEST_F(ProtokollTest, SpaltenWandernNichtMitDenDezimalen) {
   for (int n = 0; n <= 5; ++n) {
     const std::string Zeile = LinelZeile(n, {1, 2, "12"}, 3, 4, {}, {}, "<").Zeilen.front();
     const std::size_t Einer = n == 0 ? 13 : 12;  // without decimals the digit takes the place of the point
-    EXPECT_EQ(Zeile.find('<'), 66U) << Zeile;
-    EXPECT_EQ(Zeile[Einer], '1') << Zeile;
-    EXPECT_EQ(Zeile[Einer + 39], '4') << Zeile;
+    EXPECT_TRUE(Gleich(Zeile.find('<'), 66U, Zeile[Einer], '1', Zeile[Einer + 39], '4')) << Zeile;
   }
-  EXPECT_EQ(LinelAnschluss(6, Anschluss()).Zeilen,
+  EXPECT_EQ(LinelAnschluss(6, Anschluss({}, {}, {}, {}, 0)).Zeilen,
             std::vector<std::string>{"      #Fehler: Zu viele Nachkommastellen#"});
 }
 
 TEST_F(ProtokollTest, SeiteBrichtNach50Zeilen) {
   const auto V = Über(Kontrolle);
-  ASSERT_EQ(Schreiben(Prot, V, {}), 0);
-  EXPECT_EQ(Prot.Zeilen, 9);  // starts at 1, the head has 8 lines
-  EXPECT_EQ(Prot.Seite, 2);
-  ASSERT_EQ(Schreiben(Prot, V, {std::vector<std::string>(41, "x")}), 0);
+  Gib(V, {});
+  EXPECT_TRUE(Gleich(Prot.Zeilen, 9, Prot.Seite, 2));  // starts at 1, the head has 8 lines
+  Gib(V, {std::vector<std::string>(41, "x")});
   EXPECT_EQ(Prot.Zeilen, 50);
-  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
-  EXPECT_EQ(Prot.Zeilen, 1);
-  EXPECT_EQ(Prot.Seite, 3);
+  Gib(V);
+  EXPECT_TRUE(Gleich(Prot.Zeilen, 1, Prot.Seite, 3));
   EXPECT_TRUE(Ist().ends_with("x\r\n\f"));  // no head on the new page
   Prot.OhneUmbruch = true;
-  ASSERT_EQ(Schreiben(Prot, V, {std::vector<std::string>(99, "y")}), 0);
+  Gib(V, {std::vector<std::string>(99, "y")});
   EXPECT_EQ(Prot.Zeilen, 100);
 }
 
 TEST_F(ProtokollTest, NeueArtBeginntEineSeite) {
-  ASSERT_EQ(Schreiben(Prot, Über(Kontrolle), {{"x"}}), 0);
+  Gib(Über(Kontrolle));
   ASSERT_EQ(ProtNeueSeite(Prot), 0);
   const auto V = Über(Polar);
-  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);  // the page is fresh: no further form feed
+  Gib(V);  // the page is fresh: no further form feed
   EXPECT_EQ(Prot.Seite, 3);
-  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);  // the same kind: no head
-  ASSERT_EQ(Schreiben(Prot, Über(Linien), {{"x"}}), 0);
-  EXPECT_EQ(Anzahl("\f"), 2);
-  EXPECT_EQ(Anzahl("x\r\n\f\r\n---"), 2);
-  EXPECT_EQ(Anzahl("Seite  2|"), 1);
-  EXPECT_EQ(Anzahl("Seite  3|"), 1);
+  Gib(V);  // the same kind: no head
+  Gib(Über(Linien));
+  EXPECT_TRUE(
+      Gleich(Anzahl("\f"), 2, Anzahl("x\r\n\f\r\n---"), 2, Anzahl("Seite  2|"), 1, Anzahl("Seite  3|"), 1));
 }
 
 // What stands above the next line is known: it is repeated only where something else came in between.
 TEST_F(ProtokollTest, VerbindungStehtÜberIhrenZeilen) {
   const auto A1 = Über(Linien, {{"Anschluss A"}}), B1 = Über(Linien, {{"Anschluss B"}});
-  for (const auto& V : {A1, A1, B1, A1}) ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  for (const auto& V : {A1, A1, B1, A1}) Gib(V);
   EXPECT_EQ(Anzahl("Seite"), 1);
   EXPECT_EQ(Anzahl("Anschluss A\r\nx\r\nx\r\nAnschluss B\r\nx\r\nAnschluss A\r\nx\r\n"), 1);
-  const auto C1 = Über(Linien, {{"Anschluss C"}}, {"Riss 13", "3"});
-  ASSERT_EQ(Schreiben(Prot, C1, {{"x"}}), 0);
+  Gib(Über(Linien, {{"Anschluss C"}}, {"Riss 13", "3"}));
   EXPECT_EQ(Anzahl("(Riss 13) 3"), 1);
   Optionen.AbfrageRiss = false;  // heads without a plan do not differ by it
-  ASSERT_EQ(Schreiben(Prot, A1, {{"x"}}), 0);
+  Gib(A1);
   EXPECT_EQ(Anzahl("Seite"), 2);
 }
 
 TEST_F(ProtokollTest, FremdGeänderteDateiBeginntMitDemKopf) {
   const auto V = Über(Linien, {{"Anschluss"}});
-  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  Gib(V);
   Schreibe(Prot.Datei, Ist() + "von Hand\r\n");
-  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
-  EXPECT_EQ(Anzahl("von Hand\r\n\f\r\n---"), 1);
-  EXPECT_EQ(Anzahl("Anschluss\r\nx\r\n"), 2);
+  Gib(V);
+  EXPECT_TRUE(Gleich(Anzahl("von Hand\r\n\f\r\n---"), 1, Anzahl("Anschluss\r\nx\r\n"), 2));
   ASSERT_EQ(DateiLöschen(Prot.Datei), 0);
-  ASSERT_EQ(Schreiben(Prot, V, {{"x"}}), 0);
+  Gib(V);
   EXPECT_TRUE(Ist().starts_with("\r\n---"));  // the file begins anew, without a form feed
   EXPECT_EQ(Anzahl("Anschluss\r\nx\r\n"), 1);
 }
@@ -142,16 +128,14 @@ TEST_F(ProtokollTest, EigenesZielHatNurDieBlöcke) {
   Optionen.ProtokollfensterAn = true;
   const auto V = Über(Linien, {{"Anschluss"}});
   for (int i = 0; i < 2; ++i) ASSERT_EQ(Schreiben(Eigenes, V, {{"z"}}), 0);
-  EXPECT_EQ(Inhalt(Eigenes.Datei), "Anschluss\r\nz\r\nz\r\n");
-  EXPECT_EQ(Protokollfenster.Text, "");
-  EXPECT_EQ(Prot.Zeilen, 1);
-  EXPECT_FALSE(DateiVorhanden(Prot.Datei));
+  EXPECT_TRUE(Gleich(Inhalt(Eigenes.Datei), "Anschluss\r\nz\r\nz\r\n", Protokollfenster.Text, "", Prot.Zeilen,
+                     1, DateiVorhanden(Prot.Datei), false));
 }
 
 TEST_F(ProtokollTest, LangerPfadImKopfWirdVornGekürzt) {
   Optionen.AbfrageRiss = false;
   KoordinatendateiName = std::string(71, 'p');
-  ASSERT_EQ(Schreiben(Prot, Über("Ausgleichende Gerade"), {}), 0);
+  Gib(Über("Ausgleichende Gerade"), {});
   EXPECT_NE(Ist().find("|..." + std::string(67, 'p') + "|\r\n|Ausgleichende Gerade "), std::string::npos);
   EXPECT_TRUE(Ist().ends_with("-\r\n      \r\n"));  // no table head for this title
   const std::string Druck = Ordner.Pfad("druck.tmp");
@@ -170,18 +154,14 @@ TEST_F(ProtokollTest, FensterZeigtOhneDruckrand) {
 
 TEST_F(ProtokollTest, OhneDateiGeschiehtNichts) {
   ProtokollNehmen("");
-  EXPECT_EQ(Schreiben(Prot, Über(Linien), {{"x"}}), 0);
-  EXPECT_EQ(ProtNeueSeite(Prot), 0);
-  EXPECT_EQ(ProtLeerzeile(Prot), 0);
-  EXPECT_EQ(Prot.Seite, 1);
+  Gib(Über(Linien));
+  EXPECT_TRUE(Gleich(ProtNeueSeite(Prot), 0, ProtLeerzeile(Prot), 0, Prot.Seite, 1));
 }
 
 TEST_F(ProtokollTest, SchreibfehlerLäßtDenStand) {
   ProtokollNehmen(Ordner.Pfad("fehlt/x.dru"));
   Skript.Erwarte("Fehler aufgetreten beim Schreiben in\n" + Prot.Datei);
-  EXPECT_EQ(Schreiben(Prot, Über(Linien), {{"x"}}), -1);
-  EXPECT_EQ(Prot.Seite, 1);
-  EXPECT_FALSE(Prot.HatInhalt);
+  EXPECT_TRUE(Gleich(Schreiben(Prot, Über(Linien), {{"x"}}), -1, Prot.Seite, 1, Prot.HatInhalt, false));
 }
 
 TEST(Tabellenkopf, JedeArtHatIhrenKopf) {

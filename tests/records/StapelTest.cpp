@@ -14,20 +14,15 @@ class StapelTest : public Aktentest {
     KoordinatendateiName = "/daten/auftrag/musterdorf.kor";
     LetzterPlan = {"Riss 12", "3"};
   }
-  static Verbindung Über(const char* Titel, std::vector<std::string> Sätze, bool EndeMitZeilen = true) {
+  static std::string Ist() { return Inhalt(StapelDatei.Name); }
+  static void Beginne(Stapelblock& B, std::vector<std::string> Sätze = StapelKopfLinie("1", 0, "2", 0),
+                      const char* Titel = "VR 24.40 Linienelemente", bool EndeMitZeilen = true) {
     Verbindung V;
     V.Titel = Titel;
     V.Riß = LetzterPlan;
     V.Sätze = std::move(Sätze);
     V.EndeMitZeilen = EndeMitZeilen;
-    return V;
-  }
-  static std::string Ist() { return Inhalt(StapelDatei.Name); }
-  // Begins a connection of line elements.
-  static void Beginne(Stapelblock& B, const char* Anf = "1", const char* End = "2") {
-    ASSERT_EQ(B.Beginnen(std::make_shared<const Verbindung>(
-                  Über("VR 24.40 Linienelemente", StapelKopfLinie(Anf, 0, End, 0)))),
-              0);
+    ASSERT_EQ(B.Beginnen(std::make_shared<const Verbindung>(std::move(V))), 0);
   }
   static int Füge(Stapelblock& B, const std::string& Satz) {
     int Griff = -1;
@@ -50,26 +45,20 @@ class StapelTest : public Aktentest {
 
 TEST_F(StapelTest, BlöckeMitIhrenSätzen) {
   Stapelblock L, D;
-  ASSERT_EQ(L.Beginnen(std::make_shared<const Verbindung>(
-                Über("VR 24.40 Linienelemente", StapelKopfLinie("1001", 0, "1002", 99.93)))),
-            0);
+  Beginne(L, StapelKopfLinie("1001", 0, "1002", 99.93));
   EXPECT_FALSE(DateiVorhanden(StapelDatei.Name));  // nothing before the first record
   Füge(L, LinelSatz("2003"));
   const int Griff = Füge(L, LinelSatz("2004"));
   Füge(L, LinelSatz("2005"));
-  EXPECT_EQ(Stapelblock::Entfernen(Griff), 0);
-  EXPECT_EQ(Stapelblock::Entfernen(Griff), -1);  // it is gone
+  for (const int Soll : {0, -1}) EXPECT_EQ(Stapelblock::Entfernen(Griff), Soll);  // it is gone
   Füge(L, LinelSatz("2006"));
   ASSERT_EQ(L.Beenden(), 0);
   Optionen.AbfrageRiss = false;
-  ASSERT_EQ(D.Beginnen(std::make_shared<const Verbindung>(
-                Über("VR 22.10 Entfernungskontrolle", StapelKopfLinie("1", 0, "2", 0), false))),
-            0);
+  Beginne(D, StapelKopfLinie("1", 0, "2", 0), "VR 22.10 Entfernungskontrolle", false);
   for (const std::string& Satz :
        {std::string(), DisSatz("2", "3", 55.5), StapelNeupunkt("12", ""), StapelNeupunkt("", "")})
     Füge(D, Satz);
-  ASSERT_EQ(D.Beenden(), 0);
-  ASSERT_EQ(D.Beenden(), 0);
+  for (int i = 0; i < 2; ++i) ASSERT_EQ(D.Beenden(), 0);
   EXPECT_TRUE(GleichSoll(Ist(), "records/soll/bloecke.sta"));
 }
 
@@ -77,15 +66,14 @@ TEST_F(StapelTest, BlöckeMitIhrenSätzen) {
 TEST_F(StapelTest, ZweiBlätterSchreibenGanzeBlöcke) {
   Optionen.AbfrageRiss = false;
   Stapelblock A, B;
-  Beginne(A, "1", "2");
-  Beginne(B, "3", "4");
+  Beginne(A);
+  Beginne(B, StapelKopfLinie("3", 0, "4", 0));
   const int Erster = Füge(A, LinelSatz("11"));
   Füge(B, LinelSatz("21"));
   EXPECT_FALSE(A.Offen());
   Füge(A, LinelSatz("12"));
   EXPECT_EQ(Stapelblock::Entfernen(Erster), 0);
-  ASSERT_EQ(A.Beenden(), 0);
-  ASSERT_EQ(B.Beenden(), 0);  // over already
+  ASSERT_TRUE(Gleich(A.Beenden(), 0, B.Beenden(), 0));  // B is over already
   const std::string
       Kopf =
           "M  VR 24.40 Linienelemente\r\nC  Tavorena             01.02.2003   10:15\r\n"
@@ -141,8 +129,7 @@ TEST_F(StapelTest, SchreibfehlerÖffnetKeinenBlock) {
   Beginne(B);
   Skript.Erwarte("Fehler 57 in Stapelmodul.StapelKopf");
   int Griff = 7;
-  EXPECT_EQ(B.Anfügen(LinelSatz("1"), Griff), -1);
-  EXPECT_EQ(Griff, -1);
+  EXPECT_TRUE(Gleich(B.Anfügen(LinelSatz("1"), Griff), -1, Griff, -1));
   EXPECT_FALSE(B.Offen());
 }
 
@@ -162,20 +149,12 @@ TEST_F(StapelTest, FremdeZeilenWerdenÜbergangen) {
           EXPECT_EQ(StapelLesenPnrMitWerte(A, a, E, e), -1);
           return;
         }
-        EXPECT_EQ(StapelLesenPnrMitWerte(A, a, E, e), 0);
-        EXPECT_EQ(StapelLesePnr("NR", P), 0);
-        EXPECT_EQ(Stapel.Art, "vr le");
-        EXPECT_EQ(LetzterPlan.Riss, "Riss 7 b");
-        EXPECT_EQ(A, "1");
-        EXPECT_EQ(a, 1.5);
-        EXPECT_EQ(E, "2");
-        EXPECT_EQ(e, 0);
-        EXPECT_EQ(P, "3");
+        EXPECT_TRUE(Gleich(StapelLesenPnrMitWerte(A, a, E, e), 0, A, "1", a, 1.5, E, "2", e, 0));
+        EXPECT_TRUE(Gleich(StapelLesePnr("NR", P), 0, P, "3"));
         EXPECT_EQ(StapelLesePnr("NR", P), -2);
+        EXPECT_TRUE(Gleich(Stapel.Art, "vr le", LetzterPlan.Riss, "Riss 7 b"));
       });
-  EXPECT_EQ(Blöcke, 2);
-  EXPECT_TRUE(Stapel.Bilanz.Fehler);
-  EXPECT_FALSE(Stapel.Aktiv);
+  EXPECT_TRUE(Gleich(Blöcke, 2, Stapel.Bilanz.Fehler, true, Stapel.Aktiv, false));
   EXPECT_EQ(Stapel.Bilanz.Übergangen, (std::vector<std::string>{"09.00", "65.00", "3D WINKEL"}));
 }
 
@@ -195,15 +174,9 @@ TEST_F(StapelTest, FehlerBeendetDenLauf) {
   Laufen("M VR LE\r\nRISS x\r\nBERNR  7\r\nNEUPUNKT  12  -\r\nNEUPUNKT  0 - -\r\nNND 1 2 3,5\r\nPXN 2\r\n",
          [&] {
            EXPECT_EQ(StapelLeseRisszeilen() + StapelLeseNeupunkt(P, S), 0);
-           EXPECT_EQ(LetzterPlan.BerNr, "7");
-           EXPECT_EQ(P, "12");
-           EXPECT_EQ(S, "");
-           EXPECT_EQ(StapelLeseNeupunkt(P, S), 0);
-           EXPECT_EQ(P, "");
-           EXPECT_EQ(StapelLeseZweiPnr("NND", P, S, w), 0);
-           EXPECT_EQ(P, "1");
-           EXPECT_EQ(S, "2");
-           EXPECT_EQ(w, 3.5);
+           EXPECT_TRUE(Gleich(LetzterPlan.BerNr, "7", P, "12", S, ""));
+           EXPECT_TRUE(Gleich(StapelLeseNeupunkt(P, S), 0, P, ""));
+           EXPECT_TRUE(Gleich(StapelLeseZweiPnr("NND", P, S, w), 0, P, "1", S, "2", w, 3.5));
            Skript.Erwarte("Fehler 7 beim Lesen der Stapeldatei:\nPXN 2");
            EXPECT_EQ(StapelLeseNeupunkt(P, S), -1);
          });
