@@ -109,9 +109,7 @@ TEST(Ausgleich, KreisErhalten) {
 using AusgleichTA = RechenTest;
 
 TEST_F(AusgleichTA, Zwillinge) {
-  Punkt("1", 10, 5);
-  Punkt("2", 5, 10);
-  Punkt("3", 0, 5);
+  PunkteAnlegen({{"1", 10, 5}, {"2", 5, 10}, {"3", 0, 5}});
   const std::vector<Wert> Nummern{1, 2.0, " 3 ", "1a"};
   EXPECT_EQ(Ta.AusgleichenderKreisPnr(Nummern, 3, a, b, c), ok);
   EXPECT_TRUE(Nahe({a, b, c}, {5, 5, 5}));

@@ -150,10 +150,7 @@ TEST_F(EinschnitteTA, Ergebniszuordnung) {
 }
 
 TEST_F(EinschnitteTA, Zwillinge) {
-  Punkt("1", 0, 0);
-  Punkt("2", 0, 9);
-  Punkt("3", 30, -40);
-  Punkt("4A", 30, 40);
+  PunkteAnlegen({{"1", 0, 0}, {"2", 0, 9}, {"3", 30, -40}, {"4A", 30, 40}});
   EXPECT_EQ(Ta.VorwaertsschnittEbenePnr(1, 2, 0, 100, 3, "4a", 20, 20, a, b), Fehler_PunktNichtVorhanden);
   EXPECT_EQ(Ta.RueckwaertsschnittPnr(1, 0, 7, 1, 3, 2, true, a, b), Fehler_PunktNichtVorhanden);
   EXPECT_TRUE(Unberührt());

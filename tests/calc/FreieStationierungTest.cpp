@@ -140,9 +140,7 @@ class Stationierung : public FeldTest {
 TEST_F(Stationierung, Zwilling) {
   const Lage S{3400000.5, 5700000.25};
   const Sicht W = Beobachtet(S, 123.4, 1.0002, 3);
-  Punkt("1", W.R[0], W.H[0]);
-  Punkt("2A", W.R[1], W.H[1]);
-  Punkt("3", W.R[2], W.H[2]);
+  PunkteAnlegen({{"1", W.R[0], W.H[0]}, {"2A", W.R[1], W.H[1]}, {"3", W.R[2], W.H[2]}});
   EXPECT_EQ(Rechnen({1, " 2A", 3.0}, W, 3), ok);
   EXPECT_TRUE(Nahe({z[0], z[1], z[2], z[3]}, {S.RW, S.HW, 1.0002, 123.4}, 1e-7));
   EXPECT_EQ(Rechnen({1, "2A", 4}, W, 3), Fehler_PunktNichtVorhanden);

@@ -79,9 +79,7 @@ TEST_F(LinienTA, Polarelemente) {
 }
 
 TEST_F(LinienTA, Zwillinge) {
-  Punkt("1", 0, 0);
-  Punkt("2", 60, 80);
-  Punkt("12A", 30, 30);
+  PunkteAnlegen({{"1", 0, 0}, {"2", 60, 80}, {"12A", 30, 30}});
   EXPECT_EQ(Ta.EntfernungskontrollePnr(1, 2.0, a, 99.8, &b, &c), ok);
   EXPECT_EQ(Ta.LinienelementeAnschlussPnr(1, "2", d), ok);
   EXPECT_TRUE(Gleich(a, 100, d, 100));

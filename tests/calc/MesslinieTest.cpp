@@ -102,8 +102,7 @@ TEST(Messlinie, UmkehrungDurchElemente) {
 using MesslinieTA = RechenTest;
 
 TEST_F(MesslinieTA, Zwillinge) {
-  Punkt("1", 0, 0);
-  Punkt("2", 60, 80);
+  PunkteAnlegen({{"1", 0, 0}, {"2", 60, 80}});
   EXPECT_EQ(Ta.MesslinieAnschlussPnr(1, "2", a, 5, 105.2, &b, &c, &d), ok);
   EXPECT_TRUE(Nahe({a, b, c, d}, {100, 0.16, -0.2, 100 / 100.2}));  // computed over measured
   EXPECT_EQ(Ta.MesslinieAnschlussPnr(1, "2", a, 5, 0, nullptr, &c, &d), ok);

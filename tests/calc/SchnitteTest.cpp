@@ -202,13 +202,7 @@ using Art = enmArtGeradenschnitt;
 // The twins are asked: they run through the methods with coordinates.
 class SchnitteTA : public RechenTest {
  protected:
-  SchnitteTA() {
-    Punkt("0", 0, 0);
-    Punkt("E", 10, 0);
-    Punkt("NE", 10, 10);
-    Punkt("P", -5, -5);
-    Punkt("B", 5, 12);
-  }
+  SchnitteTA() { PunkteAnlegen({{"0", 0, 0}, {"E", 10, 0}, {"NE", 10, 10}, {"P", -5, -5}, {"B", 5, 12}}); }
   enmResult Geraden(const char* E1, const char* E2, int Wahl) {
     return Ta.SchnittGeradeGeradePnr("0", E1, 0, E2, a, b, &w, static_cast<Art>(Wahl), 3, std::sqrt(8), "P",
                                      "E");

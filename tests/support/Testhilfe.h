@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -110,6 +111,9 @@ class TabellenTest : public ::testing::Test {
   TabellenTest();
   ~TabellenTest() override;
   static void Punkt(const char* Pnr, double R, double H, double Z = 0, const char* Symbol = "");
+  static void PunkteAnlegen(std::initializer_list<std::tuple<const char*, double, double>> Neue) {
+    for (const auto& [Pnr, R, H] : Neue) Punkt(Pnr, R, H);
+  }
   PlattformSkript Skript;
   Testordner Ordner;
 };
