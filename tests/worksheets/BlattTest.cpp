@@ -400,12 +400,12 @@ TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
   Starten();
   ASSERT_TRUE(Stapel.Aktiv && Blätter.back()->Offen());
   Formular& Erstes = *Blätter.back();
+  EXPECT_EQ(Erstes.Fokus()->Name, "LinelWeiter");
   Tippe(Erstes, "LinelGitter", "2004\n");  // there is nothing to type
   for (const char* Zu : {"LinelAnfPnr", "LinelEndmass", "LinelPnrvon", "LinelEnd10", "LinelDelete"})
     EXPECT_FALSE(Formular::NimmtFokus(Element(Erstes, Zu))) << Zu;
   EXPECT_EQ(Protokoll(), "");
   EXPECT_EQ(StapelStand(), "Block 1 von 3, VR 24.40 x, Zeile 3");
-  EXPECT_TRUE(Gleich(Erstes.Fokus()->Name, "LinelWeiter", Protokoll(), ""));
   Drücke(Erstes, "LinelWeiter");  // the next block is shown when this one is done
   ASSERT_TRUE(Gleich(Erstes.Offen(), false, Blätter.size(), 2U));
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
