@@ -11,6 +11,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Protokoll.h>
+#include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
@@ -116,6 +117,7 @@ Rückgabe SitzungFühren(const Konsolenbefehl& B, const Aufruf& A, const Umfeld&
   bool Gut = false;
   const auto Tun = [&] { Gut = Arbeiten(B, A, U, Konsole); };
   Gut = Geschützt("Konsole", Tun) == 0 && Gut && !Konsole.Mißlungen();
+  static_cast<void>(BlätterSchließen());  // that of a replay stays to be read, and here is nobody
   PortsSetzen(Vorher);
   return Gut ? Getan : NichtGetan;
 }

@@ -48,12 +48,24 @@ void Anschluss::PunktGewechselt(const Punktfeld& P) {
       M.F.Text = Messwerttext(0);
     }
   }
-  if (!Nachsehen()) Rechnen();
+  if (Nachsehen()) return;
+  Markieren();
+  Rechnen();
+}
+
+// The points are discs, with the line between them.
+void Anschluss::Markieren() {
+  Bild.Löschen();
+  for (const Punktfeld* P : {&Anf, &End}) {
+    if (P->Gesetzt()) Bild.Punkt({P->Nummer(), P->Ort().RW, P->Ort().HW, "MARK", FarbeRot});
+  }
+  if (Gesetzt()) Bild.Linie({Anf.Ort().RW, Anf.Ort().HW, End.Ort().RW, End.Ort().HW, FarbeRot});
 }
 
 bool Anschluss::Nachsehen() {
   const bool AnfBewegt = Anf.Nachsehen(), EndBewegt = End.Nachsehen();
   if (!AnfBewegt && !EndBewegt) return false;
+  Markieren();
   Rechnen();
   return true;
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <tavorena/graphics/Markierung.h>
 #include <tavorena/worksheets/Punktfeld.h>
 
 namespace tavorena {
@@ -34,6 +35,8 @@ class Anschluss {
   bool Nachsehen();
   /// Enables or disables its fields together.
   void AnschlussAnAus(bool An);
+  /// Removes its marks from the graphics view.
+  void GrafikAnschlußLöschen() { Bild.Löschen(); }
   /// Sets the value of a measured field from outside, such as from a record.
   static void MesswertSetzen(Feld& F, double Zahl);
 
@@ -44,11 +47,13 @@ class Anschluss {
   };
 
   void PunktGewechselt(const Punktfeld& P);
+  void Markieren();
   [[nodiscard]] bool MesswertNehmen(Feld& F, double& Zahl);
 
   Rechenblatt& Blatt;
   std::function<void()> Rechnen;
   std::vector<Messung> Messfelder;
+  Markierung Bild;
 };
 
 }  // namespace tavorena

@@ -59,13 +59,16 @@ int Punktgitter::Verbinden() {
 int Punktgitter::AnschlussEinzel() {
   if (!Kopf.Gesetzt() || Verbinden() < 0) return -1;
   AnschlussAnAus(false);
-  Reihen.assign(1, {});
+  GrafikKleinpunktLöschen();
+  Reihen.clear();
+  Reihen.emplace_back();
   Zellen.Leeren(1);
   return 0;
 }
 
 void Punktgitter::AnschlussSchließen() {
   if (!Blatt.OffenesKlären() || Blatt.Akten.Beenden() < 0) return Blatt.FokusSetzen(Zellen);
+  GrafikKleinpunktLöschen();
   Reihen.clear();
   Zellen.Leeren(0);
   AnschlussAnAus(true);
@@ -100,11 +103,12 @@ int Punktgitter::GitterEinzel(int z) {
   // Where a point of the connection was moved meanwhile, the rows from here on have another head.
   if (Kopf.Nachsehen() && Verbinden() < 0) return -1;
   const auto P = KorPunkt(Tabellenzeile);
-  Punktzeile Neu{Trimmen(Gesucht), {P.Rechts, P.Hoch}, 0, 0, {}};
+  Punktzeile Neu{Trimmen(Gesucht), {P.Rechts, P.Hoch}, 0, 0, {}, {}};
   if (Kunde.Rechnen(Neu) < 0) return -1;
   if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return -1;
   LetztePunktnummer = Neu.Pnr;
   Reihe(z) = std::move(Neu);
+  Markieren(z, FarbeBlau);
   ZeileZeigen(z);
   return 0;
 }
@@ -112,7 +116,23 @@ int Punktgitter::GitterEinzel(int z) {
 // The end of a row: protocol and batch file.
 int Punktgitter::GitterEnde(int z) {
   Punktzeile& Z = Reihe(z);
-  return Blatt.Akten.Zeile(Kunde.Protokollieren(Z, ""), LinelSatz(Z.Pnr), Z.Wo);
+  if (Blatt.Akten.Zeile(Kunde.Protokollieren(Z, ""), LinelSatz(Z.Pnr), Z.Wo) < 0) return -1;
+  Markieren(z, FarbeRot);
+  return 0;
+}
+
+// The row under work is blue, the committed one red with its number.
+void Punktgitter::Markieren(int z, int Farbe) {
+  Punktzeile& Z = Reihe(z);
+  const Lage Von = Kunde.Herkunft(Z);
+  Z.Bild.Löschen();
+  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe});
+  Z.Bild.Punkt({Farbe == FarbeRot ? Z.Pnr : "", Z.Ort.RW, Z.Ort.HW, "", Farbe});
+}
+
+void Punktgitter::GrafikKleinpunktLöschen() {
+  Beiwerk.Löschen();
+  for (Punktzeile& Z : Reihen) Z.Bild.Löschen();
 }
 
 void Punktgitter::GitterInkrement() {
@@ -157,6 +177,7 @@ int Punktgitter::Streichen(int z) {
     return -1;
   }
   Z.Wo = {};
+  Z.Bild.Löschen();
   return 0;
 }
 
@@ -204,7 +225,9 @@ void Punktgitter::TextGeändert() {
   // Results that do not belong to the number above them would mislead.
   for (int s = 1; s < std::ssize(Zellen.Spalten); ++s) Zellen.InhaltSetzen(Zellen.Zeile, s, "");
   Punktzeile& Z = Reihe(Zellen.Zeile);
-  if (!Z.Wo.Geschrieben) Z.Pnr.clear();
+  if (Z.Wo.Geschrieben) return;
+  Z.Pnr.clear();
+  Z.Bild.Löschen();
 }
 
 bool Punktgitter::TasteNehmen(Taste T) {

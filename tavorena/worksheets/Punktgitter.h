@@ -15,6 +15,7 @@ struct Punktzeile {
   Lage Ort;         ///< [m]
   double Wert1 = 0, Wert2 = 0;
   Aufzeichnung::Spur Wo;
+  Markierung Bild;  ///< in the graphics view
 };
 
 /// What a worksheet knows of its rows.
@@ -27,6 +28,8 @@ struct Zeilenkunde {
   std::function<Block(const Punktzeile&, const std::string& Marke)> Protokollieren;
   /// Completes what stands above the rows.
   std::function<void(Verbindung&)> Verbinden;
+  /// Where the line in the graphics view comes from that leads to the point of a row [m].
+  std::function<Lage(const Punktzeile&)> Herkunft;
 };
 
 /// The rows of a worksheet whose rows are known points seen from a connection. A row is typed as one point
@@ -40,6 +43,7 @@ class Punktgitter {
   Punktgitter& operator=(const Punktgitter&) = delete;
 
   Gitter& Zellen;
+  Markierung Beiwerk;  ///< marks that go with the rows
 
   /// Makes its three buttons. @param[in] Öffnen  opens the connection that was typed
   void KnöpfeAnlegen(std::function<void()> Öffnen);
@@ -50,6 +54,8 @@ class Punktgitter {
   [[nodiscard]] int AnschlussEinzel();
   /// Ends the connection: back to the head.
   void AnschlussSchließen();
+  /// Removes the marks of the rows from the graphics view.
+  void GrafikKleinpunktLöschen();
   [[nodiscard]] bool Offen() const { return Anschlussan; }
 
   /// Takes a point number into the last row, computes and commits it.
@@ -73,6 +79,7 @@ class Punktgitter {
   [[nodiscard]] bool ZelleVerlassen();
   void TextGeändert();
   void ZeileZeigen(int z);
+  void Markieren(int z, int Farbe);
   void Delete();
   [[nodiscard]] int Streichen(int z);
   void AnschlussAnAus(bool An);

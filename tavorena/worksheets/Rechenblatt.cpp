@@ -199,6 +199,7 @@ void Rechenblatt::BeiSchließen() {
   if (VomStapel) Stapel.Blatt = {};
   // A block that can not be ended was told; the worksheet closes all the same.
   static_cast<void>(Akten.Beenden());
+  GrafikLöschen();
 }
 
 }  // namespace tavorena

@@ -45,6 +45,8 @@ class Rechenblatt : public Formular {
   [[nodiscard]] virtual bool HatOffenes() const = 0;
   /// Writes it. @return false: it could not be written, the worksheet stays
   [[nodiscard]] virtual bool OffenesSchreiben() = 0;
+  /// Removes all its marks from the graphics view: it closes.
+  virtual void GrafikLöschen() = 0;
 
   /// The closing, stop and go-on buttons; called when all other controls are there.
   void KnöpfeAnlegen();

@@ -38,6 +38,8 @@ int TVDisForm::AnschlussEinzel() {
   if (!Kopf.Gesetzt()) return -1;
   ZeigeAnschluss();
   if (KontrolleSchreiben() < 0) return -1;
+  const Lage A = Kopf.Anf.Ort(), E = Kopf.End.Ort();
+  Geprüft.Linie({A.RW, A.HW, E.RW, E.HW, FarbeRot});
   if (ImStapel()) ++Stapel.Bilanz.Zeilen;
   return 0;
 }

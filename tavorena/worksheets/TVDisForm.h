@@ -16,6 +16,10 @@ class TVDisForm final : public Rechenblatt {
   [[nodiscard]] int StapelZeile() override;
   [[nodiscard]] bool HatOffenes() const override;
   [[nodiscard]] bool OffenesSchreiben() override;
+  void GrafikLöschen() override {
+    Kopf.GrafikAnschlußLöschen();
+    Geprüft.Löschen();
+  }
 
  private:
   /// Computes and writes the check that is typed. @return 0 or -1
@@ -27,6 +31,7 @@ class TVDisForm final : public Rechenblatt {
   double Gemessen = 0;  // [m]; 0 means not measured
   Anschlusswerte Werte;
   Anschluss Kopf;
+  Markierung Geprüft;  // the lines that were checked
   Feld& Strecke;
   Feld &L, &D, &Ws;
 };

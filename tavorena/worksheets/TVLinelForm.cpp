@@ -89,6 +89,11 @@ Zeilenkunde TVLinelForm::Kunde() {
                                                                  Werte.AbweichungZulaessig});
         V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), a, Kopf.End.Nummer(), e);
       },
+      [this](const Punktzeile& Z) {
+        Lage Fuß = Z.Ort;
+        static_cast<void>(Fusspunkt(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Fuß));  // they are apart
+        return Fuß;
+      },
   };
 }
 
@@ -140,9 +145,21 @@ void TVLinelForm::Streifen() {
   if (Pnrvon.Text->empty()) return FokusSetzen(Pnrvon);
   if (Pnrbis.Text->empty()) Pnrbis.Text = *Pnrvon.Text;
   if (!Zeilen.OffeneZeileSchreiben()) return;
+  ParallelenMarkieren(std::fabs(Grenze));
   const int Anzahl = StreifenAufnehmen(std::fabs(Grenze));
   StatusHilfeSetzen(Anzahltext(Anzahl, "Punkt", "Punkte") + " im Streifen");
   FokusSetzen(Zeilen.Zellen);
+}
+
+// The edges of the strip, as long as the base line.
+void TVLinelForm::ParallelenMarkieren(double Abstand) {
+  if (Abstand == 0) return;
+  const Lage Von = Kopf.Anf.Ort(), Bis = Kopf.End.Ort();
+  for (const double Seite : {-Abstand, Abstand}) {
+    const double dR = (Bis.HW - Von.HW) / Kopf.Länge() * Seite, dH = (Von.RW - Bis.RW) / Kopf.Länge() * Seite;
+    Zeilen.Beiwerk.Linie(
+        {Von.RW + dR, Von.HW + dH, Bis.RW + dR, Bis.HW + dH, FarbeRot, Strich::Gestrichelt, false});
+  }
 }
 
 int TVLinelForm::StreifenAufnehmen(double Grenze) {

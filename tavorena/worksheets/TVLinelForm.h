@@ -17,6 +17,10 @@ class TVLinelForm final : public Rechenblatt {
   [[nodiscard]] int StapelZeile() override { return Zeilen.StapelZeile(); }
   [[nodiscard]] bool HatOffenes() const override { return Zeilen.HatOffenes(); }
   [[nodiscard]] bool OffenesSchreiben() override { return Zeilen.OffenesSchreiben(); }
+  void GrafikLöschen() override {
+    Kopf.GrafikAnschlußLöschen();
+    Zeilen.GrafikKleinpunktLöschen();
+  }
 
  private:
   /// Computes the connection and opens the rows. @return 0 or -1
@@ -25,6 +29,7 @@ class TVLinelForm final : public Rechenblatt {
   void ZeigeAnschluss();
   /// Every table point of the range of numbers whose offset is at most the width becomes a row.
   void Streifen();
+  void ParallelenMarkieren(double Abstand);
   /// @param[in] Grenze  largest offset to either side [m]; 0: none. @return number of rows
   [[nodiscard]] int StreifenAufnehmen(double Grenze);
   [[nodiscard]] Zeilenkunde Kunde();

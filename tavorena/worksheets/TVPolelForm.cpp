@@ -54,6 +54,7 @@ Zeilenkunde TVPolelForm::Kunde() {
              Gemessen != 0 ? Wert(Gemessen) : Wert(), Werte.Abweichung, Werte.AbweichungZulaessig});
         V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), Ablesung, Kopf.End.Nummer(), Gemessen);
       },
+      [this](const Punktzeile&) { return Kopf.Anf.Ort(); },
   };
 }
 

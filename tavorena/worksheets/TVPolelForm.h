@@ -15,6 +15,10 @@ class TVPolelForm final : public Rechenblatt {
   [[nodiscard]] int StapelZeile() override { return Zeilen.StapelZeile(); }
   [[nodiscard]] bool HatOffenes() const override { return Zeilen.HatOffenes(); }
   [[nodiscard]] bool OffenesSchreiben() override { return Zeilen.OffenesSchreiben(); }
+  void GrafikLöschen() override {
+    Kopf.GrafikAnschlußLöschen();
+    Zeilen.GrafikKleinpunktLöschen();
+  }
 
  private:
   void AnschlussÖffnen();

@@ -1,4 +1,5 @@
 #include "Blattest.h"
+#include "Mitschrift.h"
 
 namespace tavorena::test {
 namespace {
@@ -508,6 +509,56 @@ TEST_F(BlattTest, NeupunktEintragenFragtNurBeiAndererLage) {
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100, 5600200, 12.6, "", nullptr, Notiz), -1);
   EXPECT_EQ(NeupunktEintragen(Pnr, 3500100.02, 5600199.98, 0.0, "", nullptr, Notiz), 5);
   EXPECT_TRUE(Gleich(Pnr.Text(), "9002", Notiz.Code, NeupunktCode::NeuerNeunum, Notiz.Nummer, "9002"));
+}
+
+// What the worksheets mark in the graphics view, on a picture of 2 twips a metre; whoever closes takes all
+// away.
+TEST_F(BlattTest, MarkenInDerGrafik) {
+  GrafikLeeren();
+  GrafikWahl = {true, false};
+  GrafikFenster = {true, 400, 400, 2, 3500050, 5600190, 200, 200, 0, 0, 0, 0, false};
+  const auto Leer = Gezeichnet();
+  const auto Neues = [&] {  // beside the points of the table
+    std::vector<std::string> Alle = Gezeichnet(), Rest;
+    for (const std::string& Z : Alle) {
+      if (std::find(Leer.begin(), Leer.end(), Z) == Leer.end()) Rest.push_back(Z);
+    }
+    return Rest;
+  };
+  using Liste = std::vector<std::string>;
+  const Liste Anschluß{"Linie 100 380 220 220 f255", "Scheibe 100 380 50 f255", "Text 1001 190 380 f255",
+                       "Scheibe 220 220 50 f255", "Text 1002 310 220 f255"};
+  auto L = Verbinde("24.40");
+  EXPECT_EQ(Neues(), Anschluß);
+  Element<Gitter>(*L, "LinelGitter").Zeile = 0;
+  L->Tippen(Element<Gitter>(*L, "LinelGitter"), "2004");
+  L->FokusWechseln(Element(*L, "LinelPnrvon"));  // computed, not yet written
+  const auto Blau = Neues();
+  EXPECT_EQ(Blau[1], "Linie 172 284 100 230 f16711680");  // from the foot point
+  EXPECT_EQ(Blau.size(), Anschluß.size() + 1 + 2);
+  Tippe(*L, "LinelGitter", "\n");
+  EXPECT_EQ(Neues()[1], "Linie 172 284 100 230 f255");
+  EXPECT_EQ(Neues().back(), "Text 2004 190 230 f255");
+  Element<Gitter>(*L, "LinelGitter").Zeile = 0;
+  Drücke(*L, "LinelDelete");
+  EXPECT_EQ(Neues(), Anschluß);
+  Tippe(*L, "LinelPnrvon", "2003\n2004\n7\n");
+  EXPECT_EQ(Neues()[1], "Strichlinie 111 388 231 228 f255");
+  EXPECT_EQ(Neues()[2], "Strichlinie 89 372 209 212 f255");
+  EXPECT_EQ(Neues().size(), Anschluß.size() + 2 + 4);
+  Drücke(*L, "LinelEnd10");
+  EXPECT_EQ(Neues(), Anschluß);
+  L->SchließenVerlangen();
+  EXPECT_EQ(Gezeichnet(), Leer);
+  auto P = Verbinde("08.40");
+  Tippe(*P, "PolelGitter", "2003\n");
+  EXPECT_EQ(Neues()[1], "Linie 100 380 160 320 f255");  // a ray from the station
+  P->SchließenVerlangen();
+  auto D = Öffne("22.10");
+  Tippe(*D, "DisAnfPnr", "1001\n1002\n0\n");
+  EXPECT_EQ(Neues()[0], "Linie 100 380 220 220 f255");
+  D->SchließenVerlangen();
+  EXPECT_EQ(Gezeichnet(), Leer);
 }
 
 // What holds for every kind of worksheet.

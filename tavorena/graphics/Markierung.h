@@ -1,0 +1,37 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include <tavorena/graphics/Grafikmodul.h>
+
+namespace tavorena {
+
+/// What somebody marked in the graphics view: it goes with this object.
+class Markierung {
+ public:
+  Markierung() = default;
+  ~Markierung() { Löschen(); }
+  Markierung(Markierung&& Andere) noexcept : Elemente(std::exchange(Andere.Elemente, {})) {}
+  Markierung& operator=(Markierung&& Andere) noexcept {
+    std::swap(Elemente, Andere.Elemente);
+    return *this;
+  }
+
+  void Punkt(const GrafikMarke& M) { Elemente.push_back({Art::Marke, GrafikMarkeHinzu(M)}); }
+  void Linie(const GrafikLinie& L) { Elemente.push_back({Art::Linie, GrafikLinieHinzu(L)}); }
+  void Löschen() {
+    for (const Stück& S : Elemente) S.Was == Art::Marke ? GrafikMarkeWeg(S.Handle) : GrafikLinieWeg(S.Handle);
+    Elemente.clear();
+  }
+
+ private:
+  enum class Art { Marke, Linie };
+  struct Stück {
+    Art Was;
+    int Handle;
+  };
+  std::vector<Stück> Elemente;
+};
+
+}  // namespace tavorena
