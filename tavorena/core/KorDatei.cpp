@@ -212,7 +212,7 @@ int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
   const Lesung::Ende Ende = TabelleFüllen(Inhalt, Modus, Format, Nimmt);
   KorAnzahlAnzeigen();
   if (Ende == Lesung::Ende::Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
-  if (AnzahlDoppelte() > 0) Hinweis("Achtung, doppelte Punkte vorhanden !");
+  if (DoppelteVorhanden()) Hinweis("Achtung, doppelte Punkte vorhanden !");
   return 0;
 }
 

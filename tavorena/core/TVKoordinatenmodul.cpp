@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cstring>
+#include <unordered_set>
+#include <utility>
 
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/Sortierung.h>
@@ -237,6 +239,22 @@ int AnzahlDoppelte() {
     if (KorPnr(i) == KorPnr(i - 1)) ++Anzahl;
   }
   return Anzahl;
+}
+
+bool DoppelteVorhanden() {
+  // Numbers whose values rise from row to row, nearly every file, are all different.
+  const auto Anfang = Tabelle.Zahlwerte.begin(), Ende = Anfang + KorAnzahl;
+  if (std::adjacent_find(Anfang, Ende, std::greater_equal<>()) == Ende) return false;
+  std::vector<std::uint64_t> Schlüssel(Tabelle.Suchschlüssel.begin(),
+                                       Tabelle.Suchschlüssel.begin() + KorAnzahl);
+  std::sort(Schlüssel.begin(), Schlüssel.end());
+  if (std::adjacent_find(Schlüssel.begin(), Schlüssel.end()) == Schlüssel.end()) return false;
+  // Equal keys are equal numbers nearly always.
+  std::unordered_set<std::string_view> Nummern;
+  for (int i = 0; i < KorAnzahl; ++i) {
+    if (!Nummern.insert(TrimmenSicht(KorPnr(i))).second) return true;
+  }
+  return false;
 }
 
 void KorBereich(double& MinRechts, double& MinHoch, double& MaxRechts, double& MaxHoch) {

@@ -125,6 +125,9 @@ void KorSortieren();
 /// Number of neighbouring rows with the same point number.
 int AnzahlDoppelte();
 
+/// A number stands in two rows, neighbours or not; compared as KorSuche does.
+bool DoppelteVorhanden();
+
 /// Bounding box of all points [m]. The two sentinels of an empty table, 999999999.999 and -99999999.999,
 /// differ by a factor of ten on purpose.
 void KorBereich(double& MinRechts, double& MinHoch, double& MaxRechts, double& MaxHoch);

@@ -169,6 +169,17 @@ TEST_F(KorDatei, SeltsameInhalte) {
   EXPECT_GE(KorSchreiben(Ordner.Pfad("b.kor"), Dateiformat::Kor, 3), 100);
 }
 
+// Numbers that sort as equal may keep two of one number apart.
+TEST_F(KorDatei, DoppelteOhneNachbarschaft) {
+  for (const std::string Pnr : {"12", "123456789"}) {
+    for (const char* Dritte : {"A", "C"}) {
+      if (*Dritte == 'A') Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
+      ASSERT_EQ(Lies(Pnr + "A 1 2\r\n" + Pnr + "B 1 2\r\n" + Pnr + Dritte + " 3 4\r\n"), 0);
+      EXPECT_TRUE(Gleich(AnzahlDoppelte(), 0, DoppelteVorhanden(), *Dritte == 'A'));
+    }
+  }
+}
+
 TEST_F(KorDatei, Listen) {
   Punktlisten L;
   int Anzahl = 7;
