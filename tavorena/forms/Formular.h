@@ -108,6 +108,9 @@ class Formular {
   /// The user closes the window.
   void SchließenVerlangen();
 
+  /// Asks what is to become of something that is typed and not yet written; called within an event.
+  /// @return false: the form stays as it is
+  [[nodiscard]] virtual bool OffenesKlären() { return true; }
   /// Closes the form without a question.
   void Schließen();
 

@@ -27,12 +27,22 @@ bool BlätterOffen() {
   return std::any_of(Blätter.begin(), Blätter.end(), [](const auto& B) { return B->Offen(); });
 }
 
-bool BlätterSchließen() {
+bool BlätterKlären() {
   for (std::size_t i = 0; i < Blätter.size(); ++i) {
-    Blätter[i]->SchließenVerlangen();
-    if (Blätter[i]->Offen()) return false;
+    Formular& Form = *Blätter[i];
+    bool Geklärt = !Form.Offen();
+    if (!Geklärt) Form.Ereignis([&] { Geklärt = Form.OffenesKlären(); });
+    if (!Geklärt) return false;
   }
   return true;
+}
+
+void BlätterSchließen() {
+  if (Stapel.Aktiv) StapelAnhalten();
+  for (std::size_t i = 0; i < Blätter.size(); ++i) {
+    Formular& Form = *Blätter[i];
+    Form.Ereignis([&Form] { Form.Schließen(); });
+  }
 }
 
 bool StapelSchreibenOffen() { return Stapel.Läuft(); }

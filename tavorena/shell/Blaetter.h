@@ -16,8 +16,12 @@ void BlattZeigen(std::unique_ptr<Formular> Blatt);
 /// A worksheet is open.
 bool BlätterOffen();
 
-/// Closes all open worksheets; one with something unwritten asks first. @return false: one stayed open
-bool BlätterSchließen();
+/// Each open worksheet asks what is to become of something not yet written.
+/// @return false: one of them stays as it is
+[[nodiscard]] bool BlätterKlären();
+
+/// Closes all open worksheets without a question; a replay ends.
+void BlätterSchließen();
 
 /// A replay runs: no other worksheet may be opened.
 bool StapelSchreibenOffen();

@@ -139,13 +139,15 @@ void HauptInitialisierung() {
 }
 
 int HauptKoordinatendateiWechseln(bool Nachfragen) {
+  if (!BlätterKlären()) return -1;
   if (Nachfragen && !KoordinatendateiName.empty()) {
     const int Antwort =
-        FrageJaNeinAbbruch("Koordinaten in Koordinatendatei\n\n" + KoordinatendateiName + "\n\nspeichern ? ");
+        FrageJaNeinAbbruch("Koordinaten in Koordinatendatei\n\n" + KoordinatendateiName + "\n\nspeichern ? ",
+                           KoordinatenGeaendert ? 0 : KnopfNein);
     if (Antwort != KnopfJa && Antwort != KnopfNein) return -1;
     if (Antwort == KnopfJa && HauptDateiSpeichern() < 0) return -1;
   }
-  if (!BlätterSchließen()) return -1;
+  BlätterSchließen();
   OhnePunkte();
   KoordinatendateiName.clear();
   return 0;

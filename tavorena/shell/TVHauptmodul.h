@@ -14,8 +14,9 @@ void HauptAnschließen();
 /// The start sequence of settings and window state; also when a file is closed or replaced.
 void HauptInitialisierung();
 
-/// Asks whether the open file is to be saved (also when nothing changed: settled behaviour), closes the
-/// worksheets and empties the table. Nachfragen false leaves the question out.
+/// Settles what is typed and not written in the worksheets, asks whether the open file is to be saved (also
+/// when nothing changed: settled behaviour; the default is then "Nein"), closes the worksheets and empties
+/// the table. Nachfragen false leaves the question about saving out.
 /// @return 0; -1 cancelled, everything stays
 int HauptKoordinatendateiWechseln(bool Nachfragen);
 

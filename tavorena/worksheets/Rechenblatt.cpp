@@ -190,9 +190,9 @@ bool Rechenblatt::DarfSchließen() {
 }
 
 bool Rechenblatt::OffenesKlären() {
-  if (!HatOffenes()) return true;
+  if (VomStapel || !HatOffenes()) return true;
   if (FrageJaNein("Protokoll und Stapel schreiben ? ", Art.Fragetitel) == KnopfJa) return OffenesSchreiben();
-  return FrageJaNein("ohne Protokollausdruck und Stapel beenden ? ", Art.Fragetitel) == KnopfJa;
+  return FrageJaNein("ohne Protokollausdruck und Stapel beenden ? ", Art.Fragetitel, KnopfNein) == KnopfJa;
 }
 
 void Rechenblatt::BeiSchließen() {

@@ -23,8 +23,7 @@ class Rechenblatt : public Formular {
   [[nodiscard]] std::string Mit(const std::string& Rest) const { return Art.Präfix + Rest; }
   /// A replay drives this worksheet.
   [[nodiscard]] bool ImStapel() const { return VomStapel; }
-  /// Asks what is to become of something not yet written. @return false: the worksheet stays as it is
-  [[nodiscard]] bool OffenesKlären();
+  [[nodiscard]] bool OffenesKlären() override;
   /// What stands above the rows of this worksheet, without a connection: title and plan.
   [[nodiscard]] Verbindung NeueVerbindung();
 

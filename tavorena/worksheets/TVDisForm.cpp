@@ -110,8 +110,15 @@ int TVDisForm::StapelZeile() {
   return -1;
 }
 
-bool TVDisForm::HatOffenes() const { return Kopf.Gesetzt() && ZahlAusText(*Strecke.Text) != 0; }
+// A point that is not known yet is asked for when the check is written.
+bool TVDisForm::HatOffenes() const {
+  return !TrimmenSicht(*Kopf.End.Pnr.Text).empty() && ZahlAusText(*Strecke.Text) != 0;
+}
 
-bool TVDisForm::OffenesSchreiben() { return Kopf.Prüfen() && AnschlussEinzel() == 0; }
+bool TVDisForm::OffenesSchreiben() {
+  if (!Kopf.Prüfen() || AnschlussEinzel() < 0) return false;
+  NächsteKontrolle();  // it is not written a second time
+  return true;
+}
 
 }  // namespace tavorena

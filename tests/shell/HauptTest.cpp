@@ -20,28 +20,38 @@ TEST_F(HauptOffen, DateiLesenNimmtDieDateienDaneben) {
   EXPECT_EQ(Skript.Aufträge[0].Titel, "Koordinatendatei zum Lesen auswählen");
 }
 
-// Every change of file asks, even when nothing changed, and goes on only when the old file is safe.
+// Every change of file settles what is typed, asks, even when nothing changed, and goes on only when the old
+// file is safe.
 TEST_F(HauptOffen, DateiwechselFragt) {
   Skript.Erwarte("Koordinaten in Koordinatendatei\n\n" + A_kor + "\n\nspeichern ? ", KnopfAbbruch);
   Befehl("MenüDateiSchließen");
-  EXPECT_EQ(KorAnzahl, 3) << "cancelled";
+  EXPECT_TRUE(Gleich(KorAnzahl, 3, Skript.LetzteVorgabe, KnopfNein)) << "cancelled";
   KoordinatendateiName = Ordner.Pfad("fehlt/x.kor");
   Skript.Erwarte("speichern ? ", KnopfJa);
   Skript.Erwarte("Fehler aufgetreten beim Speichern der Datei " + KoordinatendateiName);
   Befehl("MenüDateiSchließen");
   EXPECT_EQ(KorAnzahl, 3) << "not saved";
-  Skript.BeiBlatt = [](Formular& Form) {
+  Formular* Blatt = nullptr;
+  Skript.BeiBlatt = [&Blatt](Formular& Form) {
     Form.Öffnen();
-    Tippe(Form, "DisAnfPnr", "1001\n1002\n99,8");
+    Blatt = &Form;
   };
   Optionen.AbfrageRiss = false;
   Befehl("MenüKatasterDis");
-  for (const bool Zu : {false, true}) {
-    Skript.Erwarte("speichern ? ", KnopfNein);
-    Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
-    Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", Zu ? KnopfJa : KnopfNein);
+  Tippe(*Blatt, "DisAnfPnr", "1001\n");
+  // The check is written once; it stays; it goes without its file; both go.
+  using Fall = std::tuple<const char*, int, int, int>;
+  for (const auto& [Getippt, Schreiben, Ohne, Speichern] :
+       {Fall{"1002\n99,8", KnopfJa, 0, KnopfAbbruch}, Fall{"", 0, 0, KnopfAbbruch},
+        Fall{"2003\n42", KnopfNein, KnopfNein, 0}, Fall{"", KnopfNein, KnopfJa, KnopfAbbruch},
+        Fall{"", KnopfNein, KnopfJa, KnopfNein}}) {
+    if (*Getippt != '\0') Tippe(*Blatt, "DisEndPnr", Getippt);
+    if (Schreiben != 0) Skript.Erwarte("Protokoll und Stapel schreiben ? ", Schreiben);
+    if (Ohne != 0) Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", Ohne);
+    if (Speichern != 0) Skript.Erwarte("speichern ? ", Speichern);
     Befehl("MenüDateiSchließen");
-    EXPECT_EQ(KorAnzahl, Zu ? 0 : 3) << "worksheet";
+    EXPECT_EQ(Skript.LetzteVorgabe, KnopfNein);
+    EXPECT_TRUE(Gleich(KorAnzahl, Speichern == KnopfNein ? 0 : 3, BlätterOffen(), KorAnzahl > 0));
   }
   EXPECT_TRUE(Gleich(KoordinatendateiName, "", Prot.Datei, "", StapelDatei.Name, ""));
 }
@@ -251,6 +261,7 @@ TEST_F(HauptOffen, BeendenFragt) {
   Skript.Erwarte("speichern ? ", KnopfAbbruch);
   EXPECT_EQ(HauptBeenden(), -1);
   EXPECT_EQ(KorAnzahl, 4);
+  EXPECT_EQ(Skript.LetzteVorgabe, 0);  // there is something to save
   Skript.Erwarte("Tavorena beenden ?", KnopfJa);
   Skript.Erwarte("speichern ? ", KnopfJa);
   EXPECT_EQ(HauptBeenden(), 0);
