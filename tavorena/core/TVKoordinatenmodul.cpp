@@ -71,11 +71,16 @@ struct Punkttabelle {
 
 Punkttabelle Tabelle;
 
+void GeändertSetzen(bool Geändert) {
+  if (std::exchange(Tabelle.Geändert, Geändert) != Geändert && Haken.GeaendertGewechselt)
+    Haken.GeaendertGewechselt();
+}
+
 // Every change comes by here before it happens. A sort alone asks for no saving.
 void Vor(KorTat Tat, int Von, int Bis, std::span<const int> Folge = {}) {
   if (Haken.VorÄnderung) Haken.VorÄnderung({Tat, Von, Bis, Folge});
   ++Tabelle.Stand;
-  if (Tat != KorTat::Ordnen) Tabelle.Geändert = true;
+  if (Tat != KorTat::Ordnen) GeändertSetzen(true);
 }
 
 }  // namespace
@@ -126,7 +131,7 @@ int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung) {
   return Abbildung({std::span(T.Rechts).first(n), std::span(T.Hoch).first(n), std::span(T.Hoehe).first(n)});
 }
 
-void KorGeaendertSetzen(bool Geaendert) { Tabelle.Geändert = Geaendert; }
+void KorGeaendertSetzen(bool Geaendert) { GeändertSetzen(Geaendert); }
 
 struct KorBeiseite::Inhalt {
   Punkttabelle Punkte;
@@ -150,7 +155,8 @@ void KorLeeren() {
   KorAbschneiden(0);
   for (int i = 0; i < Tabelle.Benutzt; ++i) Tabelle.Schreiben(i, {});
   Tabelle.Benutzt = 0;
-  Tabelle.MitKomma = Tabelle.Geändert = false;
+  Tabelle.MitKomma = false;
+  GeändertSetzen(false);
   KoordinatendateiName.clear();
   Koordinatendateiformat = Dateiformat::Kor;
   KorStop = Laufwunsch::Weiter;

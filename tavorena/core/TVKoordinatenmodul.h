@@ -230,6 +230,7 @@ struct KoordinatenHaken {
   std::function<Konfliktantwort(const Konflikt&)> PunktVorhandenBehandeln;
   std::function<void(const Mittelpunkt&)> MittelEintragen;  ///< protocol entry of a mean
   std::function<void(const KorÄnderung&)> VorÄnderung;      ///< may look at the table, not change it
+  std::function<void()> GeaendertGewechselt;                ///< KoordinatenGeaendert has another value
 };
 extern KoordinatenHaken Haken;
 

@@ -61,6 +61,13 @@ int ProtokollNehmenFragen(std::string Name) {
   return 0;
 }
 
+std::string Titelname;
+
+void TitelZeigen() {
+  const bool Marke = KoordinatenGeaendert && !Titelname.empty();
+  AnzeigePort().FenstertitelSetzen("Tavorena    " + Titelname + (Marke ? " *" : ""));
+}
+
 void OhnePunkte() {
   KorAbschneiden(0);
   KorGeaendertSetzen(false);
@@ -116,6 +123,7 @@ void HauptAnschließen() {
   Haken.FormEinzelKorein = FormEinzelKorein;
   Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
   Haken.MittelEintragen = MittelEintragen;
+  Haken.GeaendertGewechselt = TitelZeigen;
   StapelHaken = {BlattFür, Stapelstand};
 }
 
@@ -132,7 +140,8 @@ void HauptInitialisierung() {
   EDBSLesen();
   HauptOptionsmenüSetzen();
   TVKernMDIForm::Fenster().OhneKoordinaten();
-  AnzeigePort().FenstertitelSetzen("Tavorena    ");
+  Titelname.clear();
+  TitelZeigen();
   AnzeigePort().StatusSetzen(Statusfeld::Datei, "");
   AnzeigePort().StatusSetzen(Statusfeld::StatusVersion, "Version: 2.2");
   KorAnzahlAnzeigen();
@@ -231,7 +240,8 @@ void HauptOptionsmenüSetzen() {}
 
 void TitelSetzen(const std::string& Dateiname) {
   AnzeigePort().StatusSetzen(Statusfeld::Datei, "   " + Dateiname + "   ");
-  AnzeigePort().FenstertitelSetzen("Tavorena    " + Dateiname);
+  Titelname = Dateiname;
+  TitelZeigen();
 }
 
 }  // namespace tavorena

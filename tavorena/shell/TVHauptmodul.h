@@ -57,6 +57,8 @@ void HauptfensterAktiviert();
 /// Does nothing: kept so that the order of the start sequence stays.
 void HauptOptionsmenüSetzen();
 
+/// The name in the title of the main window and in the status bar. Behind the title stands a mark while the
+/// table differs from its file.
 void TitelSetzen(const std::string& Dateiname);
 
 }  // namespace tavorena

@@ -147,6 +147,7 @@ TEST_F(Haupt, AbgebrocheneNeueDatei) {
 TEST_F(Haupt, NeueDateiSpeichern) {
   Befehl("MenüDateiNeu", Ordner.Pfad("neu"));
   Punkt("7", 1, 2, 3, "ß");
+  EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("neu.kor") + " *");
   Befehl("MenüDateiSpeichern(0)");
   EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")), "             7         1.000         2.000       3.000  ß\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
