@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -75,6 +76,23 @@ QString QtFilter(const std::string& Filter) {
   return Einträge.join(";;");
 }
 
+// What a file dialog starts with: a pattern chooses its filter, a name stands in the field.
+void VorgabeSetzen(QFileDialog& Dialog, const QString& Vorgabe) {
+  if (Vorgabe.isEmpty()) return;
+  if (!Vorgabe.contains('*')) return Dialog.selectFile(Vorgabe);
+  QStringList Filter = Dialog.nameFilters();
+  const auto Passt = [&](const QString& F) {
+    return F.section('(', 1).chopped(1).split(' ').contains(Vorgabe);
+  };
+  auto i = std::find_if(Filter.begin(), Filter.end(), Passt);
+  if (i == Filter.end()) {
+    const QString Groß = Vorgabe.toUpper();
+    i = Filter.insert(Filter.begin(), Groß.section('.', -1) + " (" + Vorgabe + " " + Groß + ")");
+    Dialog.setNameFilters(Filter);
+  }
+  Dialog.selectNameFilter(*i);
+}
+
 // The handbook stays usable beside a dialog: the dialog closes only what it stands before.
 QWidget* Davor(Hauptfenster& Fenster) {
   QWidget* Dialog = QApplication::activeModalWidget();
@@ -146,6 +164,7 @@ std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
   Dialog.setWindowModality(Qt::WindowModal);
   Dialog.setAcceptMode(Auftrag.NurVorhandene ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   Dialog.setFileMode(Auftrag.NurVorhandene ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  VorgabeSetzen(Dialog, Q(Auftrag.Vorgabe));
   Dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks in its own words
   Dialog.setLabelText(QFileDialog::Accept, Auftrag.NurVorhandene ? "Ö&ffnen" : "Ü&bernehmen");
   Dialog.setLabelText(QFileDialog::Reject, "&Abbrechen");

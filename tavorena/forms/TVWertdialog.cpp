@@ -89,7 +89,8 @@ class Dateiform final : public Dialogform {
  private:
   static void NameWählen(Feld& F, const Dateifeld& D) {
     const Dateiname Teile = DateinameZerlegen(*F.Text);
-    Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Teile.Grundname, !D.Ausgabe, "", false};
+    const std::string Vorgabe = F.Text->substr(Teile.Ordner.size());
+    Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Vorgabe, !D.Ausgabe, "", false};
     const std::string Name = FragenPort().DateiWählen(Auftrag);
     if (!Name.empty()) F.Text = Name;
   }
@@ -159,6 +160,10 @@ int ZweiWerte(const std::string& Titel, const std::string& Label1, std::string& 
 }
 
 int DreiWerte(const std::string& Titel, std::span<Wertfeld, 3> Felder) { return Wertdialog(Titel, Felder); }
+
+int EinDateiname(const std::string& Titel, Dateifeld& Feld) {
+  return Dateiform(Titel, std::span(&Feld, 1)).Zeigen();
+}
 
 int ZweiDateinamen(const std::string& Titel, std::span<Dateifeld, 2> Felder) {
   return Dateiform(Titel, Felder).Zeigen();

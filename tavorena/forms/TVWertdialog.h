@@ -32,6 +32,7 @@ struct Dateifeld {
 };
 
 /// Asks for the file names, each with a button that chooses one. @return 0; -1 if cancelled
+[[nodiscard]] int EinDateiname(const std::string& Titel, Dateifeld& Feld);
 [[nodiscard]] int ZweiDateinamen(const std::string& Titel, std::span<Dateifeld, 2> Felder);
 [[nodiscard]] int DreiDateinamen(const std::string& Titel, std::span<Dateifeld, 3> Felder);
 

@@ -174,17 +174,11 @@ void TextErsetzen() {
 }
 
 void TexteditorWählen() {
-  Dateiauftrag Auftrag{"Tavorena Texteditor für Windows NT festlegen",
-                       "Programmdatei (*.exe)|*.exe|Batch-Datei (*.bat)|*.bat|Alle Dateien|*",
-                       Startordner(),
-                       "",
-                       true,
-                       "",
-                       false};
-  const std::string Name = FragenPort().DateiWählen(Auftrag);
-  if (Name.empty()) return;
-  Optionen.DateinameEditorNT = Name;
-  VerzeichnisMerken(Name);
+  Dateifeld Feld{"Editor Win NT", Optionen.DateinameEditorNT,
+                 "Programmdatei (*.exe)|*.exe|Batch-Datei (*.bat)|*.bat"};
+  if (EinDateiname("Tavorena Texteditor für Windows NT festlegen", Feld) < 0) return;
+  Optionen.DateinameEditorNT = Feld.Name;
+  VerzeichnisMerken(Feld.Name);
 }
 
 void Über() { Hinweis("Tavorena für PC\nVersion 3.0\nRelease 4"); }
@@ -199,7 +193,7 @@ void Projektstand() {
 const Befehl Befehle[] = {
     {"MenüDateiNeu", false, DateiNeu},
     {"MenüDateiLesen(0)", false, [] { DateiLesenMit(Dateiformat::Kor, FilterKor, "*.kor"); }},
-    {"MenüDateiLesen(2)", false, [] { DateiLesenMit(Dateiformat::Lt4, FilterKor, "*.alk"); }},
+    {"MenüDateiLesen(2)", false, [] { DateiLesenMit(Dateiformat::Lt4, FilterEdbs, "*.alk"); }},
     {"MenüDateiSpeichern(0)", true, DateiSpeichern},
     {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},
     {"MenüDateiStapel", true, Stapelbearbeitung},

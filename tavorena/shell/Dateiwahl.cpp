@@ -49,8 +49,7 @@ std::string Startordner() {
 
 void VerzeichnisMerken(const std::string& Name) {
   const std::string Ordner = DateinameZerlegen(Name).Ordner;
-  if (Ordner.empty()) return;
-  Optionen.VerzeichnisLetztes = Ordner;
+  if (!Ordner.empty()) Optionen.VerzeichnisLetztes = Ordner;
   OptionenMerken();
 }
 

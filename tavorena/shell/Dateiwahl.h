@@ -10,6 +10,7 @@ enum class Dateisorte { Kor, Dru, Sta };
 enum class Wahlmodus : char { Lesen = 'r', Schreiben = 'w', Anhängen = 'a', Neu = 'n' };
 
 inline const char* const FilterKor = "CADdy (*.kor)|*.kor|KAFKA (*.lt4)|*.lt4";
+inline const char* const FilterEdbs = "EDBS- Dateien |*.ed?";
 
 /// The chooser of the commands: starts in the last folder, keeps the folder of the name chosen. In mode
 /// "w" and "n" an existing file is asked about; it is not deleted, saving replaces it as a whole.
@@ -21,7 +22,7 @@ inline const char* const FilterKor = "CADdy (*.kor)|*.kor|KAFKA (*.lt4)|*.lt4";
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
 [[nodiscard]] int ProtokollWahl(std::string& Name);
 
-/// VerzeichnisLetztes becomes the folder of Name, and is written.
+/// VerzeichnisLetztes becomes the folder of Name, if it has one; the settings are written.
 void VerzeichnisMerken(const std::string& Name);
 
 /// Folder in which a file dialog starts.

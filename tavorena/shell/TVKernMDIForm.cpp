@@ -72,7 +72,10 @@ std::string_view TVKernMDIForm::Grund(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
   if (Lang) return "langer Lauf";
   if (Name.starts_with("MenüMain(")) {
-    return Offen || !IstEinerVon(Name, {"MenüMain(2)", "MenüMain(3)", "MenüMain(4)"}) ? "" : OhneDatei;
+    return Offen || !IstEinerVon(Name,
+                                 {"MenüMain(2)", "MenüMain(3)", "MenüMain(4)", "MenüMain(9)", "MenüMain(10)"})
+               ? ""
+               : OhneDatei;
   }
   if (IstHist(E))
     return HistIndex(IndexVon(Name)) < 0 ? "kein Eintrag" : Offen ? "Koordinatendatei offen" : "";

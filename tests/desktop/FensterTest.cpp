@@ -608,6 +608,19 @@ class FensterTest : public QObject {
     QVERIFY(Fenster->close());
   }
 
+  void musterWaehltDenFilter() {
+    for (const auto& [Eintrag, Filter] : {std::pair{"MenüDateiLesen(0)", "CADdy (*.kor *.KOR)"},
+                                          std::pair{"MenüDateiLesen(2)", "ALK (*.alk *.ALK)"}}) {
+      Dialoge.push_back([Filter] {
+        auto* Dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(Dialog != nullptr);
+        Dialog->close();
+        QCOMPARE(Dialog->selectedNameFilter(), QString(Filter));
+      });
+      Menü(Eintrag);
+    }
+  }
+
   void jederEintragIstImMenue() {
     for (const Menüeintrag& E : Menübaum()) QVERIFY2(Fenster->findChild<QAction*>(E.Name) != nullptr, E.Name);
     for (const Werkzeug& W : Symbolleiste()) {

@@ -18,6 +18,9 @@ TEST_F(HauptOffen, DateiLesenNimmtDieDateienDaneben) {
                      Skript.Status[1], "3 Punkte", Skript.Status[2], "Version: 2.2"));
   EXPECT_TRUE(Gleich(Historie[0].Dateiname, A_kor, Optionen.VerzeichnisLetztes, Ordner.Pfad("")));
   EXPECT_EQ(Skript.Aufträge[0].Titel, "Koordinatendatei zum Lesen auswählen");
+  Skript.Erwarte("speichern ? ", KnopfNein);
+  Befehl("MenüDateiLesen(2)", "");
+  EXPECT_TRUE(Gleich(Skript.Aufträge[1].Filter, "EDBS- Dateien |*.ed?", Skript.Aufträge[1].Vorgabe, "*.alk"));
 }
 
 // Every change of file settles what is typed, asks, even when nothing changed, and goes on only when the old
@@ -60,7 +63,8 @@ TEST_F(Haupt, Menüzustände) {
   for (const bool Offen : {false, true}) {
     SCOPED_TRACE(Offen);
     if (Offen) Öffne();
-    for (const char* Name : {"MenüMain(4)", "MenüDateiSpeichern(0)", "MenüKatasterLinel"})
+    for (const char* Name :
+         {"MenüMain(4)", "MenüMain(9)", "MenüMain(10)", "MenüDateiSpeichern(0)", "MenüKatasterLinel"})
       EXPECT_EQ(Aktiv(Name), Offen) << Name;
     for (const char* Name : {"MenüDateiNeu", "MenüOptionenOptionen", "MenüOptionenDateinam"})
       EXPECT_TRUE(Aktiv(Name)) << Name;
@@ -277,7 +281,13 @@ TEST_F(HauptOffen, Protokollwechsel) {
 }
 
 TEST_F(HauptOffen, AnsichtÖffnetDenEditor) {
-  Optionen.DateinameEditorNT = "ed";
+  Skript.Formulare.push_back([](Formular& Form) {
+    Form.Öffnen();
+    EXPECT_EQ(Form.Steuerelemente()[0]->Text, "Editor Win NT");
+    Tippe(Form, "Datei(0)", "ed");
+    Drücke(Form, "OK");
+  });
+  Befehl("MenüOptionenDateinamen(0)");
   Befehl("MenüAnsichtKoordinatendatei");
   EXPECT_EQ(Skript.Gestartet, (std::vector<std::string>{"ed", A_kor}));
 }
