@@ -28,8 +28,15 @@ namespace {
 void DateiNeu() {
   if (HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
-  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Neu, FilterKor, "*.kor", KoordinatendateiName) < 0) return;
-  Koordinatendateiformat = FormatNachEndung(KoordinatendateiName);
+  std::string Name;
+  bool Anhängen = false;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Neu, FilterKor, "*.kor", Name, &Anhängen) < 0) return;
+  if (Anhängen) {  // what it holds is the beginning of the new job
+    HauptDateiÖffnen(Name, Dateiformat::Kor);
+    return;
+  }
+  KoordinatendateiName = Name;
+  Koordinatendateiformat = FormatNachEndung(Name);
   if (HauptLesenUndDateinamenSetzen(false) < 0) return HauptInitialisierung();
   HauptDateiOffenSetzen();
 }

@@ -146,6 +146,15 @@ TEST_F(Haupt, AbgebrocheneNeueDatei) {
     Befehl("MenüDateiNeu");
     EXPECT_TRUE(Gleich(KoordinatendateiName, "", Aktiv("MenüKatasterLinel"), false)) << "without " << Ohne;
   }
+  Schreibe(A_kor, "1 2.0 3.0\r\n");
+  for (const int Antwort : {2, 1, 0}) {  // it is there: as it was, begun anew, gone on with
+    Skript.Erwarte("speichern ? ", KnopfNein);
+    if (Antwort == 2) KoordinatendateiName = A_kor;
+    Knopf(Antwort);
+    Befehl("MenüDateiNeu", A_kor);
+    EXPECT_TRUE(Gleich(KorAnzahl, Antwort == 0 ? 1 : 0, KoordinatendateiName, Antwort == 2 ? "" : A_kor));
+    if (Antwort == 2) KoordinatendateiName = A_kor;
+  }
 }
 
 TEST_F(Haupt, NeueDateiSpeichern) {
