@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <map>
 #include <ostream>
 #include <utility>
@@ -7,15 +6,13 @@
 #include <tavorena/console/Sitzung.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Geschuetzt.h>
-#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
-
-namespace fs = std::filesystem;
 
 namespace tavorena {
 namespace {
@@ -24,16 +21,6 @@ const std::map<std::string, Konfliktwort> Antworten = {{"abbruch", Konfliktwort:
                                                        {"alt-loeschen", Konfliktwort::AltenErsetzen},
                                                        {"mittel", Konfliktwort::Mitteln},
                                                        {"neu-loeschen", Konfliktwort::NeuenVerwerfen}};
-
-// The same file, whatever it is called.
-bool SelbeDatei(const std::string& A, const std::string& B) {
-  if (A.empty() || B.empty()) return false;
-  const fs::path PfadA = Systempfad(A), PfadB = Systempfad(B);
-  std::error_code Fehler;
-  if (fs::equivalent(PfadA, PfadB, Fehler)) return true;
-  const fs::path Ganz = fs::weakly_canonical(fs::absolute(PfadA, Fehler), Fehler);
-  return !Ganz.empty() && Ganz == fs::weakly_canonical(fs::absolute(PfadB, Fehler), Fehler);
-}
 
 // What is wrong with the call; "" if nothing is.
 std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
@@ -66,9 +53,8 @@ bool Lesen(const Aufruf& A, PlattformKonsole& Konsole) {
   Konsole.Arbeitet(A.Koordinaten);
   if (A.Koordinaten.empty()) return true;
   KoordinatendateiName = A.Koordinaten;
-  KoordinatendateiStandMerken(A.Koordinaten);
   Koordinatendateiformat = FormatNachEndung(A.Koordinaten);
-  if (KorLesen(A.Koordinaten, Lesemodus::Ersetzen, Koordinatendateiformat) < 0) return false;
+  if (KoordinatendateiLesen() < 0) return false;
   TVKernMDIForm::Fenster().DateiOffen();
   return true;
 }

@@ -53,6 +53,15 @@ std::string GanzerName(const std::string& Name) {
   return Name.empty() || Pfad.is_absolute() || Fehler ? Name : Ganz.string();
 }
 
+bool SelbeDatei(std::string_view A, std::string_view B) {
+  if (A.empty() || B.empty()) return false;
+  const fs::path PfadA = Systempfad(A), PfadB = Systempfad(B);
+  std::error_code Fehler;
+  if (fs::equivalent(PfadA, PfadB, Fehler)) return true;
+  const fs::path Ganz = fs::weakly_canonical(fs::absolute(PfadA, Fehler), Fehler);
+  return !Ganz.empty() && Ganz == fs::weakly_canonical(fs::absolute(PfadB, Fehler), Fehler);
+}
+
 bool DateiVorhanden(std::string_view Name) {
   std::error_code Fehler;
   return !Name.empty() && fs::exists(Systempfad(Name), Fehler);

@@ -23,6 +23,9 @@ Dateiname DateinameZerlegen(std::string_view Name);
 /// The name with its folder, also where it was told beside the current one.
 std::string GanzerName(const std::string& Name);
 
+/// The same file, whatever it is called: links and names of a folder that does not exist yet included.
+bool SelbeDatei(std::string_view A, std::string_view B);
+
 bool DateiVorhanden(std::string_view Name);
 bool OrdnerVorhanden(std::string_view Name);
 

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include <tavorena/core/Atempause.h>
@@ -49,6 +51,47 @@ bool Lt4Zerlegen(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
   Info.Lagegenauigkeit = Spalten(Zeile, 64, 64);
   S.Info = &Info;
   return true;
+}
+
+// What a point is made of; empty where the line makes none.
+struct Punktworte {
+  std::string_view Pnr, Rechts, Hoch;
+};
+
+Punktworte PunktworteVon(std::string_view Zeile, Dateiformat Format) {
+  if (Format == Dateiformat::Lt4) {
+    if (Zeile.starts_with('#') || KürzerAls(Zeile, 64)) return {};
+    return {TrimmenSicht(Spalten(Zeile, 9, 18)), TrimmenSicht(Spalten(Zeile, 24, 34)),
+            TrimmenSicht(Spalten(Zeile, 36, 46))};
+  }
+  if (KürzerAls(Zeile, 6)) return {};
+  return {Wortnehmen(Zeile), Wortnehmen(Zeile), Wortnehmen(Zeile)};
+}
+
+Dateibefund Befunden(std::string_view Inhalt, Dateiformat Format) {
+  Dateibefund B;
+  B.MitNull = Inhalt.find('\0') != std::string_view::npos;
+  Zeilenleser Leser(Inhalt);
+  std::string_view Zeile;
+  for (int Nummer = 1; Leser.Nächste(Zeile); ++Nummer) {
+    const auto Ende = static_cast<std::size_t>(Zeile.data() - Inhalt.data()) + Zeile.size();
+    // A code 0 may also stand at the end of a line.
+    const bool Null =
+        B.MitNull && Inhalt.substr(0, Ende + 1).find('\0', Ende - Zeile.size()) != std::string_view::npos;
+    if (!Null && TrimmenSicht(Zeile).empty()) continue;
+    if (!Null && Format == Dateiformat::Lt4 && Zeile.starts_with('#')) {
+      if (B.Bemerkungen++ == 0) B.ErsteBemerkung = Nummer;
+      continue;
+    }
+    const Punktworte P = PunktworteVon(Zeile, Format);
+    if (!P.Pnr.empty()) ++B.Punkte;
+    if (!Null && !P.Pnr.empty() && IstZahlwort(P.Rechts) && IstZahlwort(P.Hoch)) {
+      ++B.Lesbar;
+    } else if (B.Andere++ == 0) {
+      B.ErsteAndere = Nummer;
+    }
+  }
+  return B;
 }
 
 int ZeilenZählen(std::string_view Text) {
@@ -198,7 +241,8 @@ Lesung::Ende TabelleFüllen(std::string_view Inhalt, Lesemodus Modus, Dateiforma
 }  // namespace
 
 int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
-             const std::function<bool(std::string_view)>& Nimmt) {
+             const std::function<bool(std::string_view)>& Nimmt,
+             const std::function<bool(const Dateibefund&)>& Prüfen) {
   if (Dateiname.empty()) return -1;
   if (!WirdGelesen(Format)) {
     FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
@@ -209,6 +253,7 @@ int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
     Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !" + InKlammern(Grund));
     return -1;
   }
+  if (Prüfen && !Prüfen(Befunden(Inhalt, Format))) return -2;
   const Lesung::Ende Ende = TabelleFüllen(Inhalt, Modus, Format, Nimmt);
   KorAnzahlAnzeigen();
   if (Ende == Lesung::Ende::Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
@@ -232,6 +277,26 @@ int KorText(Dateiformat Format, int Nachkomma, std::string& Text) {
     Text += "\r\n";
   }
   return 0;
+}
+
+Nummernverlust Lt4Nummernverlust() {
+  std::vector<std::string> Zurück;  // the number that each row would be read back with
+  std::unordered_map<std::string, std::string_view> Nummern;
+  std::unordered_set<std::string> Mehrfache;
+  std::string Zeile;
+  for (int i = 0; i < KorAnzahl; ++i) {
+    Lt4ZeileSchreiben(KorPnr(i), 0, 0, {}, Zeile);
+    Zurück.emplace_back(Spalten(Zeile, 9, 18));
+    const std::string_view Pnr = TrimmenSicht(KorPnr(i));
+    if (Nummern.try_emplace(Zurück.back(), Pnr).first->second != Pnr) Mehrfache.insert(Zurück.back());
+  }
+  Nummernverlust V;
+  for (int i = 0; i < KorAnzahl; ++i) {
+    const std::string& Neu = Zurück[static_cast<std::size_t>(i)];
+    if (Neu.ends_with(TrimmenSicht(KorPnr(i))) && !Mehrfache.contains(Neu)) continue;
+    if (V.Anzahl++ == 0) V.Erste = Trimmen(KorPnr(i));
+  }
+  return V;
 }
 
 int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma) {

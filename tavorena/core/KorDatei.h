@@ -38,19 +38,43 @@ enum class Lesemodus {
   Ersetzen = 1,  ///< replaces the table
 };
 
+/// What a look at the lines of a coordinate file finds. Empty lines do not count.
+struct Dateibefund {
+  int Lesbar = 0;          ///< lines with a number and two coordinates
+  int Andere = 0;          ///< the others, without the comments of an LT4 file
+  int ErsteAndere = 0;     ///< number of the first of them, from 1; 0: there is none
+  int Bemerkungen = 0;     ///< comments of an LT4 file
+  int ErsteBemerkung = 0;  ///< as ErsteAndere
+  int Punkte = 0;          ///< lines that are read as points, whatever they hold
+  bool MitNull = false;    ///< a code 0 stands in the file: it is no text
+};
+
 /// Reads a coordinate file into the table and sorts it. A missing file, the limit of 20000 points and
 /// double points are told in a message; every point that was read stays. The stop button rolls back; a table
 /// that was to be replaced is then empty.
 /// @param[in] Format  KOR or LT4
 /// @param[in] Nimmt   reads only the points whose number passes this test; none if empty
-/// @return 0; -1 no name, no file, a format that is not read, or stopped while replacing
+/// @param[in] Prüfen  looks at the file before the table changes; false: it is not read
+/// @return 0; -1 no name, no file, a format that is not read, or stopped while replacing; -2 by Prüfen, the
+///         table is then as it was
 [[nodiscard]] int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
-                           const std::function<bool(std::string_view)>& Nimmt = {});
+                           const std::function<bool(std::string_view)>& Nimmt = {},
+                           const std::function<bool(const Dateibefund&)>& Prüfen = {});
 
 /// The whole table, in its order, as the text of a coordinate file.
 /// @param[in] Nachkomma  decimals of the KOR format, 0 to 15; LT4 always has 3
 /// @return 0; -1 for a format that is not written
 [[nodiscard]] int KorText(Dateiformat Format, int Nachkomma, std::string& Text);
+
+/// Point numbers that a file would not give back.
+struct Nummernverlust {
+  int Anzahl = 0;
+  std::string Erste;
+};
+
+/// The numbers of the table that an LT4 file does not keep: the key of its lines makes them those of other
+/// points, or takes their letters.
+[[nodiscard]] Nummernverlust Lt4Nummernverlust();
 
 /// Writes the whole table to a file that is replaced safely.
 /// @return the number of rows; -1 if the format is not written or the file can not be written, an old file is

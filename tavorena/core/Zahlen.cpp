@@ -161,6 +161,29 @@ double ZahlAusText(std::string_view Text) {
   return Negativ ? -Betrag : Betrag;
 }
 
+bool IstZahlwort(std::string_view Wort) {
+  const auto Ziffern = [&Wort] {
+    const auto Ende = std::find_if_not(Wort.begin(), Wort.end(), IstZiffer);
+    const auto Anzahl = static_cast<std::size_t>(Ende - Wort.begin());
+    Wort.remove_prefix(Anzahl);
+    return Anzahl;
+  };
+  const auto EinesVon = [&Wort](char A, char B) {
+    const bool Da = Wort.starts_with(A) || Wort.starts_with(B);
+    if (Da) Wort.remove_prefix(1);
+    return Da;
+  };
+  EinesVon('+', '-');
+  std::size_t Anzahl = Ziffern();
+  if (EinesVon('.', ',')) Anzahl += Ziffern();
+  if (Anzahl == 0) return false;
+  if (EinesVon('e', 'E')) {
+    EinesVon('+', '-');
+    if (Ziffern() == 0) return false;
+  }
+  return Wort.empty();
+}
+
 std::int16_t KurzAusText(std::string_view Text) {
   const double Zahl = std::floor(ZahlAusText(Text));
   return std::fabs(Zahl) <= 32767 ? static_cast<std::int16_t>(Zahl) : std::int16_t{0};

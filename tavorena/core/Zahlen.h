@@ -20,6 +20,9 @@ namespace tavorena {
 /// double gives infinity, which every field shows as stars.
 double ZahlAusText(std::string_view Text);
 
+/// The whole word is a number as ZahlAusText reads it.
+bool IstZahlwort(std::string_view Wort);
+
 /// The integer below or at ZahlAusText, as old files hold it in 16 bits; 0 where it does not fit.
 std::int16_t KurzAusText(std::string_view Text);
 

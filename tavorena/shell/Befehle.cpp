@@ -17,6 +17,7 @@
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
 #include <tavorena/shell/Konfiguration.h>
+#include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
 #include <tavorena/shell/TVPSelectForm.h>
@@ -65,8 +66,8 @@ void DateiSpeichernUnter() {
   KoordinatendateiStandMerken(Name);
   KorGeaendertSetzen(false);
   // An extended file holds more than the table: the table takes all of it.
-  if (Anhängen && KorLesen(Name, Lesemodus::Ersetzen, Format) < 0) {
-    KoordinatendateiName.clear();  // what is left of the table must not be saved over the whole file
+  if (Anhängen && KoordinatendateiLesen(false) < 0) {
+    // What is left of the table must not be saved over the whole file.
     if (HauptKoordinatendateiWechseln(false) == 0) HauptInitialisierung();
     return;
   }
@@ -98,17 +99,10 @@ void Beenden() {
   if (HauptBeenden() == 0) AblaufPort().ProgrammBeenden();
 }
 
-// Reads points of a file into the table that is open.
-void Hinzulesen(const std::string& Name, Lesemodus Modus,
-                const std::function<bool(std::string_view)>& Nimmt = {}) {
-  // What is wrong with the file has been told then, and the table is as it was.
-  static_cast<void>(KorLesen(Name, Modus, FormatNachEndung(Name), Nimmt));
-}
-
 void HinzuGanz(Lesemodus Modus) {
   std::string Name;
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
-  Hinzulesen(Name, Modus);
+  KoordinatenHinzulesen(Name, Modus, FormatNachEndung(Name));
 }
 
 void HinzuKomplett() { HinzuGanz(Lesemodus::Alle); }
@@ -119,7 +113,7 @@ void HinzuPunktbereich() {
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   if (PunktbereichFrage("Tavorena Auswahl Punktbereich", Von, Bis) < 0) return;
   const double Unten = ZahlAusText(Von), Oben = ZahlAusText(Bis);
-  Hinzulesen(Name, Lesemodus::Alle, [=](std::string_view Pnr) {
+  KoordinatenHinzulesen(Name, Lesemodus::Alle, FormatNachEndung(Name), [=](std::string_view Pnr) {
     const double Nummer = ZahlAusText(Pnr);
     return Nummer >= Unten && Nummer <= Oben;
   });
@@ -135,7 +129,7 @@ void HinzuPunktselektion() {
   if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
   std::vector<std::string> Gewählt;
   if (PunkteAuswählen(Listen, Gewählt) < 0) return;
-  Hinzulesen(Name, Lesemodus::Alle, [&](std::string_view Pnr) {
+  KoordinatenHinzulesen(Name, Lesemodus::Alle, FormatNachEndung(Name), [&](std::string_view Pnr) {
     return std::find(Gewählt.begin(), Gewählt.end(), Pnr) != Gewählt.end();
   });
 }

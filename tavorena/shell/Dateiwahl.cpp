@@ -70,10 +70,10 @@ int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, cons
   return Dialogergebnis = 0;
 }
 
-int ProtokollWahl(std::string& Name) {
+int ProtokollWahl(std::string& Name, const std::string& Ordner) {
   Dateiauftrag Auftrag{TitelFür(Dateisorte::Dru, Wahlmodus::Anhängen),
                        "Protokolldateien (*.dru)|*.dru",
-                       Startordner(),
+                       Ordner,
                        "*.dru",
                        false,
                        "kein Protokoll",

@@ -19,13 +19,13 @@ inline const char* const FilterEdbs = "EDBS- Dateien |*.ed?";
 [[nodiscard]] int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter,
                             const std::string& Vorgabe, std::string& Name, bool* Anhängen = nullptr);
 
+/// Folder in which a file dialog starts.
+[[nodiscard]] std::string Startordner();
+
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
-[[nodiscard]] int ProtokollWahl(std::string& Name);
+[[nodiscard]] int ProtokollWahl(std::string& Name, const std::string& Ordner = Startordner());
 
 /// VerzeichnisLetztes becomes the folder of Name, if it has one; the settings are written.
 void VerzeichnisMerken(const std::string& Name);
-
-/// Folder in which a file dialog starts.
-[[nodiscard]] std::string Startordner();
 
 }  // namespace tavorena

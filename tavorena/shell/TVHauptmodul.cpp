@@ -3,7 +3,6 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Geschuetzt.h>
-#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
@@ -20,6 +19,7 @@
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
 #include <tavorena/shell/Konfiguration.h>
+#include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 #include <tavorena/shell/TVOptionenform.h>
@@ -50,7 +50,8 @@ void Stapelstand(const std::string& Titel) {
 int ProtokollNehmenFragen(std::string Name) {
   if (DateiVorhanden(Name)) {
     const int Antwort = DateiVorhandenFrage(Name);
-    if (Antwort < 0 && ProtokollWahl(Name) < 0) return -1;
+    // In the folder of the job, whatever the last one was.
+    if (Antwort < 0 && ProtokollWahl(Name, DateinameZerlegen(Name).Ordner) < 0) return -1;
     if (Antwort == 1 && DateiLöschen(Name) < 0) {
       LaufzeitFehlerMeldung(Laufzeitfehler::Zugriff, "Haupt.LesenUndDateinamenSetzen");
       return -1;
@@ -86,38 +87,7 @@ void MittelEintragen(const Mittelpunkt& M) {
   static_cast<void>(Schreiben(Prot, Kopf, MittelBlock(Optionen.OptNachkommastellen, M)));
 }
 
-// The coordinate file as this program knows it.
-struct {
-  std::string Name;
-  Dateistand Stand;
-} Bekannt;
-
-// Another program wrote the file that was read here: its points are not in the table.
-bool DarfÜberschreiben(const std::string& Dateiname) {
-  const Dateistand Jetzt = DateistandVon(Dateiname);
-  if (Dateiname != Bekannt.Name || Jetzt == Bekannt.Stand || Jetzt == Dateistand{}) return true;
-  return FrageJaNein("Die Datei wurde inzwischen von einem anderen Programm geändert. Überschreiben ?\n\n" +
-                         Dateiname,
-                     "Tavorena", KnopfNein) == KnopfJa;
-}
-
-int LesenNachFormat() {
-  KoordinatendateiStandMerken(KoordinatendateiName);
-  if (Koordinatendateiformat >= Dateiformat::Kor && Koordinatendateiformat <= Dateiformat::Lt4) {
-    const int Gelesen = KorLesen(KoordinatendateiName, Lesemodus::Ersetzen, Koordinatendateiformat);
-    if (Gelesen < 0) KoordinatendateiName.clear();
-    return Gelesen;
-  }
-  Hinweis("Es wird versucht, die Datei " + KoordinatendateiName + "als Koordinatendatei einzulesen",
-          "Interner Fehler");
-  return -1;
-}
-
 }  // namespace
-
-void KoordinatendateiStandMerken(const std::string& Dateiname) {
-  Bekannt = {Dateiname, DateistandVon(Dateiname)};
-}
 
 void HauptAnschließen() {
   Haken.FormEinzelKorein = FormEinzelKorein;
@@ -165,15 +135,16 @@ int HauptKoordinatendateiWechseln(bool Nachfragen) {
 int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
   TitelSetzen(KoordinatendateiName);
   if (Nachfragen) {
-    if (LesenNachFormat() < 0) return -1;
+    if (const int Gelesen = KoordinatendateiLesen(); Gelesen < 0) return Gelesen;
   } else {
+    KoordinatendateiStandMerken(KoordinatendateiName);
     OhnePunkte();
   }
   const Dateiname Teile = DateinameZerlegen(KoordinatendateiName);
   const std::string Stamm = Teile.Ordner + Teile.Grundname;
   StapelDatei.Name = Stamm + ".sta";
   KorAnzahlAnzeigen();
-  return ProtokollNehmenFragen(Stamm + ".dru");
+  return ProtokollNehmenFragen(Stamm + ".dru") < 0 ? -2 : 0;
 }
 
 Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst) {
@@ -186,15 +157,16 @@ Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst) {
 int HauptDateiÖffnen(const std::string& Name, Dateiformat Format) {
   KoordinatendateiName = GanzerName(Name);
   Koordinatendateiformat = FormatNachEndung(Name, Format);
-  if (HauptLesenUndDateinamenSetzen(true) < 0) {
-    OhnePunkte();
-    KoordinatendateiName.clear();
-    ProtokollNehmen("");
-    StapelDatei.Name.clear();
-    return -1;
+  const int Ergebnis = HauptLesenUndDateinamenSetzen(true);
+  if (Ergebnis == 0) {
+    HauptDateiOffenSetzen();
+    return 0;
   }
-  HauptDateiOffenSetzen();
-  return 0;
+  // Broken off, nothing of it stays to be seen; a file that could not be read is still named.
+  if (Ergebnis == -2) HauptInitialisierung();
+  OhnePunkte();
+  KorAnzahlAnzeigen();
+  return -1;
 }
 
 void HauptDateiOffenSetzen() {
@@ -207,21 +179,6 @@ int HauptDateiSpeichern() {
   if (KoordinatenExportieren(KoordinatendateiName, Koordinatendateiformat) < 0) return -1;
   KorGeaendertSetzen(false);
   return 0;
-}
-
-int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen) {
-  if (!Anhängen && !DarfÜberschreiben(Dateiname)) return -1;
-  std::string Alt, Neu, Grund;
-  // Whatever an option came to, coordinates are not rounded to metres by it.
-  const int Gewählt = Optionen.OptNachkommaSpeichern;
-  const int Nachkomma = Gewählt >= 0 && Gewählt <= 6 ? Gewählt : OptionenSatz().OptNachkommaSpeichern;
-  bool Gut = KorText(Format, Nachkomma, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
-  if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
-  // A file that is extended keeps the coding that it has.
-  Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu)), &Grund) == 0;
-  if (!Gut) Hinweis("Fehler aufgetreten beim Speichern der Datei " + Dateiname + InKlammern(Grund));
-  if (Gut && Dateiname == KoordinatendateiName) KoordinatendateiStandMerken(Dateiname);
-  return Gut ? 0 : -1;
 }
 
 int HauptBeenden() {

@@ -21,23 +21,15 @@ void HauptInitialisierung();
 int HauptKoordinatendateiWechseln(bool Nachfragen);
 
 /// Reads KoordinatendateiName (Nachfragen false: a new file, nothing is read) and takes the protocol and
-/// batch files beside it. @return 0; -1 failed or cancelled
+/// batch files beside it. @return 0; -1 failed; -2 cancelled
 int HauptLesenUndDateinamenSetzen(bool Nachfragen);
 
 /// Opens a file by its name, as the command "lesen" and the recent files do.
-/// @return 0; -1, the state is then "no coordinates"
+/// @return 0; -1, the state is then "no coordinates"; the title names a file that could not be read
 int HauptDateiÖffnen(const std::string& Name, Dateiformat Format);
 
 /// Writes the table to KoordinatendateiName in its format. @return 0; -1 with a message
 int HauptDateiSpeichern();
-
-/// The file stands as this program knows it: to be called before it is read, and after it was written.
-void KoordinatendateiStandMerken(const std::string& Dateiname);
-
-/// The common writer behind saving and exports; a file that somebody else changed since it was read is asked
-/// for. @param[in] Format KOR or LT4
-/// @return 0; -1, an old file is then as it was
-int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen = false);
 
 /// The coordinate file format that the ending of a name stands for; Sonst for any other ending.
 Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst = Dateiformat::Kor);

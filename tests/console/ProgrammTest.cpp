@@ -12,6 +12,8 @@ class Programm : public ::testing::Test {
   Programm() {
     Schreibe(Ordner.Pfad("a.kor"),
              "1001 3500100 5600200\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
+    Schreibe(Ordner.Pfad("kopf.kor"), "Flur 7\n" + Inhalt(Ordner.Pfad("a.kor")));
+    Schreibe(Ordner.Pfad("brief.kor"), "Guten Tag,\nPunkt 7\n");
     Schreibe(Ordner.Pfad("a.sta"), "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\n");
     Schreibe(Ordner.Pfad("fehler.sta"), "M VR 24.40 x\r\nPXN 1\r\n");
     Schreibe(Ordner.Pfad("frage.sta"), "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nE\r\n");
@@ -43,6 +45,11 @@ TEST_F(Programm, Rückgabewerte) {
       {"--koordinaten a.kor a.sta", 0, ""},
       {"--koordinaten a.kor --protokoll a.dru --speichern a.kor a.sta", 0, ""},
       {"menue --koordinaten a.kor", 0, ""},
+      {"--koordinaten kopf.kor --speichern ./kopf.kor a.sta", 1,
+       "./kopf.kor: Frage ohne Antwort: 1 Zeile der Datei ist kein Punkt. Trotzdem speichern ?"},
+      {"--koordinaten kopf.kor --speichern ./kopf.kor --trotzdem a.sta", 0, ""},
+      {"menue --koordinaten brief.kor", 1, "brief.kor: Frage ohne Antwort: Die Datei sieht nicht"},
+      {"menue --koordinaten brief.kor --trotzdem", 0, ""},
       {"--koordinaten fehlt.kor a.sta", 1, "fehlt.kor: Koordinatendatei nicht vorhanden"},
       {"--koordinaten ordner a.sta", 1, "ordner: "},
       {"--koordinaten a.kor fehlt.sta", 1, "fehlt.sta: "},

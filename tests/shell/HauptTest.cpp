@@ -1,11 +1,14 @@
 #include "Shelltest.h"
 
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/shell/Koordinatendatei.h>
 
 namespace tavorena::test {
 namespace {
 
 using Haupt = Shelltest;
+
+const std::string Lt4Zeile = "000 45590000001001 000 3500100.000 5600200.000               0  \r\n";
 
 class HauptOffen : public Shelltest {
  protected:
@@ -123,6 +126,87 @@ TEST_F(HauptOffen, VorhandenesProtokollFragt) {
     Befehl("MenüDateiLesen(0)");
     EXPECT_TRUE(Gleich(Prot.Datei, Protokoll, Inhalt(A_dru), Altes, KorAnzahl, Punkte));
     EXPECT_EQ(Aktiv("MenüKatasterLinel"), Punkte > 0);
+    EXPECT_TRUE(Gleich(Skript.Fenstertitel, "Tavorena    " + (Punkte > 0 ? A_kor : ""), Skript.Status[0],
+                       Punkte > 0 ? "   " + A_kor + "   " : "", Skript.Status[1],
+                       std::to_string(Punkte) + " Punkte"));
+  }
+  Optionen.VerzeichnisLetztes = "/";
+  Knopf(2);
+  Skript.Dateien = {""};
+  EXPECT_EQ(HauptDateiÖffnen(A_kor, Dateiformat::Kor), -1);
+  EXPECT_EQ(Skript.Aufträge.back().Ordner, Ordner.Pfad(""));
+}
+
+// What is no coordinate file is asked about before anything changes; single lines that are none are told.
+TEST_F(Haupt, FremdeDateiFragt) {
+  const std::string Null(1, '\0'), Kor = "1001\t3500100,5\t+5.6E6\r\n\r\n  \n1002 1.0 -2\r\n";
+  struct Fall {
+    const char* Name;
+    std::string Inhalt;
+    const char* Frage;
+    int Punkte, Fremde, Erste;
+  };
+  const Fall Fälle[] = {
+      {"a.kor", Kor, "", 2, 0, 0},
+      {"leer.kor", "", "", 0, 0, 0},
+      {"kopf.kor", Kor + "\r\nFlur 7\r\n# 1 2\n", "", 3, 2, 6},
+      {"c.lt4", "# x\n#\n" + Lt4Zeile + "#\n", "", 1, 3, 1},
+      {"kor.lt4", Kor, "0 von 2 Zeilen sind lesbar (erste andere: Zeile 1).\n\nTrotzdem lesen ?", 0, 2, 1},
+      {"x.pdf", "%PDF-1\n1 *** 2\n2 1.2.3 4\n3 1e 2\n4 5 6.0\n", "1 von 5 Zeilen sind lesbar", 5, 4, 1},
+      {"null.kor", Kor + "1003 1.0 2.0" + Null + "\n", "2 von 3 Zeilen sind lesbar", 3, 1, 5},
+  };
+  for (const Fall& F : Fälle) {
+    const std::string Datei = Ordner.Pfad(F.Name);
+    Schreibe(Datei, F.Inhalt);
+    for (const int Antwort : {KnopfNein, KnopfJa}) {
+      SCOPED_TRACE(F.Name);
+      Skript.Status[4].clear();
+      if (*F.Frage != '\0') Skript.Erwarte("eine Koordinatendatei aus:\n" + Datei + "\n" + F.Frage, Antwort);
+      const bool Offen = *F.Frage == '\0' || Antwort == KnopfJa;
+      EXPECT_EQ(HauptDateiÖffnen(Datei, Dateiformat::Kor), Offen ? 0 : -1);
+      EXPECT_TRUE(Gleich(KorAnzahl, Offen ? F.Punkte : 0, Skript.Fenstertitel,
+                         "Tavorena    " + (Offen ? Datei : "")));
+      const std::string Hilfe = Skript.Status[4], Ende = "die erste ist Zeile " + std::to_string(F.Erste);
+      EXPECT_EQ(Hilfe.empty(), !Offen || F.Fremde == 0);
+      if (Hilfe.empty()) continue;
+      EXPECT_NE(Hilfe.find("   " + std::to_string(F.Fremde) + " Zeile"), std::string::npos) << Hilfe;
+      EXPECT_NE(Hilfe.find(Ende), std::string::npos) << Hilfe;
+    }
+  }
+  Skript.Erwarte("eine Koordinatendatei aus", KnopfNein);
+  Befehl("MenüDateiHinzuLesenKomplett", Ordner.Pfad("x.pdf"));
+  EXPECT_TRUE(Gleich(KorAnzahl, 3, KoordinatenGeaendert, false));
+}
+
+// What a file holds and the table does not is not lost without a question, by whatever name it is written.
+TEST_F(Haupt, VerlusteFragenVorDemSpeichern) {
+  std::string Viele;
+  for (int i = 0; i < KorGrenze + 2; ++i) Viele += std::to_string(i + 1) + " 1.0 2.0\n";
+  for (const auto& [Name, Text, Frage] :
+       {std::tuple{"kopf.kor", std::string("Flur 7\n1 2.0 3.0\n"), "1 Zeile der Datei ist kein Punkt."},
+        {"c.lt4", Lt4Zeile + "#\n# x\n", "2 Zeilen der Datei sind keine Punkte."},
+        {"viele.kor", Viele, "2 Punkte der Datei stehen nicht in der Tabelle und gehen verloren."}}) {
+    SCOPED_TRACE(Name);
+    const std::string Datei = Ordner.Pfad(Name);
+    Schreibe(Datei, Text);
+    if (Text == Viele) Skript.Erwarte("Maximale Anzahl");
+    ASSERT_EQ(HauptDateiÖffnen(Datei, Dateiformat::Kor), 0);
+    Skript.Erwarte(std::string(Frage) + " Trotzdem speichern ?\n\n", KnopfNein);
+    EXPECT_EQ(KoordinatenExportieren(Ordner.Pfad("app/../") + Name, Koordinatendateiformat), -1);
+    EXPECT_TRUE(Gleich(Skript.LetzteVorgabe, KnopfNein, Inhalt(Datei), Text));
+    Skript.Erwarte(Frage, KnopfJa);
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(HauptDateiSpeichern(), 0);  // it is lost now
+    EXPECT_NE(Inhalt(Datei), Text);
+  }
+}
+
+// A key of LT4 that makes two numbers one, or takes the letters of a number.
+TEST_F(HauptOffen, NummernFürLt4) {
+  for (const char* Pnr : {"7A", "001001", "123456789012"}) Punkt(Pnr, 1, 2);
+  for (const int Antwort : {KnopfNein, KnopfJa}) {
+    Skript.Erwarte("4 Punktnummern gehen im Format LT4 verloren (erste: 7A). Trotzdem speichern ?", Antwort);
+    Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
+    EXPECT_EQ(DateiVorhanden(Ordner.Pfad("b.lt4")), Antwort == KnopfJa);
   }
 }
 
@@ -162,6 +246,8 @@ TEST_F(Haupt, NeueDateiSpeichern) {
   Punkt("7", 1, 2, 3, "ß");
   EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("neu.kor") + " *");
   Befehl("MenüDateiSpeichern(0)");
+  EXPECT_TRUE(Gleich(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("neu.kor"), Skript.Status[4],
+                     "   1 Punkt gespeichert   "));
   EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")), "             7         1.000         2.000       3.000  ß\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
   Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
