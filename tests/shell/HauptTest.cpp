@@ -45,12 +45,13 @@ TEST_F(HauptOffen, DateiwechselFragt) {
   Optionen.AbfrageRiss = false;
   Befehl("MenüKatasterDis");
   Tippe(*Blatt, "DisAnfPnr", "1001\n");
-  // The check is written once; it stays; it goes without its file; both go.
+  // The check is written once; it stays; it goes, its number unknown now, without its file; both go.
   using Fall = std::tuple<const char*, int, int, int>;
   for (const auto& [Getippt, Schreiben, Ohne, Speichern] :
        {Fall{"1002\n99,8", KnopfJa, 0, KnopfAbbruch}, Fall{"", 0, 0, KnopfAbbruch},
-        Fall{"2003\n42", KnopfNein, KnopfNein, 0}, Fall{"", KnopfNein, KnopfJa, KnopfAbbruch},
+        Fall{"2003\n42", KnopfNein, KnopfNein, 0}, Fall{"77\n", KnopfNein, KnopfJa, KnopfAbbruch},
         Fall{"", KnopfNein, KnopfJa, KnopfNein}}) {
+    if (std::string_view(Getippt) == "77\n") Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
     if (*Getippt != '\0') Tippe(*Blatt, "DisEndPnr", Getippt);
     if (Schreiben != 0) Skript.Erwarte("Protokoll und Stapel schreiben ? ", Schreiben);
     if (Ohne != 0) Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", Ohne);
@@ -150,7 +151,7 @@ TEST_F(Haupt, FremdeDateiFragt) {
       {"a.kor", Kor, "", 2, 0, 0},
       {"leer.kor", "", "", 0, 0, 0},
       {"kopf.kor", Kor + "\r\nFlur 7\r\n# 1 2\n", "", 3, 2, 6},
-      {"c.lt4", "# x\n#\n" + Lt4Zeile + "#\n", "", 1, 3, 1},
+      {"c.lt4", "# x\n#\nquer\n" + Lt4Zeile + "#\n", "", 1, 4, 1},
       {"kor.lt4", Kor, "0 von 2 Zeilen sind lesbar (erste andere: Zeile 1).\n\nTrotzdem lesen ?", 0, 2, 1},
       {"x.pdf", "%PDF-1\n1 *** 2\n2 1.2.3 4\n3 1e 2\n4 5 6.0\n", "1 von 5 Zeilen sind lesbar", 5, 4, 1},
       {"null.kor", Kor + "1003 1.0 2.0" + Null + "\n", "2 von 3 Zeilen sind lesbar", 3, 1, 5},
@@ -191,12 +192,14 @@ TEST_F(Haupt, VerlusteFragenVorDemSpeichern) {
     Schreibe(Datei, Text);
     if (Text == Viele) Skript.Erwarte("Maximale Anzahl");
     ASSERT_EQ(HauptDateiÖffnen(Datei, Dateiformat::Kor), 0);
+    EXPECT_EQ(KoordinatenExportieren(Datei, Koordinatendateiformat, true), 0);  // what it holds stays
+    const std::string Ganz = Inhalt(Datei);
     Skript.Erwarte(std::string(Frage) + " Trotzdem speichern ?\n\n", KnopfNein);
     EXPECT_EQ(KoordinatenExportieren(Ordner.Pfad("app/../") + Name, Koordinatendateiformat), -1);
-    EXPECT_TRUE(Gleich(Skript.LetzteVorgabe, KnopfNein, Inhalt(Datei), Text));
+    EXPECT_TRUE(Gleich(Skript.LetzteVorgabe, KnopfNein, Inhalt(Datei), Ganz));
     Skript.Erwarte(Frage, KnopfJa);
     for (int i = 0; i < 2; ++i) EXPECT_EQ(HauptDateiSpeichern(), 0);  // it is lost now
-    EXPECT_NE(Inhalt(Datei), Text);
+    EXPECT_LT(Inhalt(Datei).size(), Ganz.size());
   }
 }
 
@@ -211,9 +214,11 @@ TEST_F(HauptOffen, NummernFürLt4) {
 }
 
 TEST_F(Haupt, MisslungenesLesenLäßtDenTitelStehen) {
+  Punkt("7", 1, 2);
   Skript.Erwarte("nicht vorhanden !");
-  Befehl("MenüDateiLesen(0)", Ordner.Pfad("fehlt.kor"));
-  EXPECT_EQ(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("fehlt.kor"));
+  EXPECT_EQ(HauptDateiÖffnen(Ordner.Pfad("fehlt.kor"), Dateiformat::Kor), -1);
+  EXPECT_TRUE(
+      Gleich(Skript.Fenstertitel, "Tavorena    " + Ordner.Pfad("fehlt.kor"), Skript.Status[1], "0 Punkte"));
   Skript.Erwarte("nicht vorhanden ! (ist ein Ordner)");
   Befehl("MenüDateiLesen(0)", Ordner.Pfad("app/.."));
   Schreibe(Ordner.Pfad("a.eds"), "x");
@@ -230,15 +235,14 @@ TEST_F(Haupt, AbgebrocheneNeueDatei) {
     Befehl("MenüDateiNeu");
     EXPECT_TRUE(Gleich(KoordinatendateiName, "", Aktiv("MenüKatasterLinel"), false)) << "without " << Ohne;
   }
-  Schreibe(A_kor, "1 2.0 3.0\r\n");
-  for (const int Antwort : {2, 1, 0}) {  // it is there: as it was, begun anew, gone on with
-    Skript.Erwarte("speichern ? ", KnopfNein);
-    if (Antwort == 2) KoordinatendateiName = A_kor;
+  Schreibe(A_kor, "Flur 7\r\n1 2.0 3.0\r\n");
+  for (const int Antwort : {2, 0, 1}) {  // it is there: as it was, gone on with, begun anew
     Knopf(Antwort);
     Befehl("MenüDateiNeu", A_kor);
-    EXPECT_TRUE(Gleich(KorAnzahl, Antwort == 0 ? 1 : 0, KoordinatendateiName, Antwort == 2 ? "" : A_kor));
-    if (Antwort == 2) KoordinatendateiName = A_kor;
+    EXPECT_TRUE(Gleich(KorAnzahl, Antwort == 0 ? 2 : 0, KoordinatendateiName, Antwort == 2 ? "" : A_kor));
+    if (Antwort == 0) Skript.Erwarte("speichern ? ", KnopfNein);
   }
+  EXPECT_EQ(HauptDateiSpeichern(), 0);  // it was given up
 }
 
 TEST_F(Haupt, NeueDateiSpeichern) {
@@ -296,6 +300,13 @@ TEST_F(Haupt, SpeichernUnterVergebenemNamen) {
   Befehl("MenüDateiSpeichernUnter", Datei);
   EXPECT_EQ(KorAnzahl, 2);
   EXPECT_EQ(Inhalt(Datei), Alt + "\r\n             7         1.000         2.000       3.000  \xDF\r\n");
+  std::string Viele;
+  for (int i = 0; i < 300; ++i) Viele += std::to_string(i) + " 1.0 2.0\r\n";
+  Schreibe(Ordner.Pfad("v.kor"), Viele);
+  Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
+  Knopf(0);
+  Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("v.kor"));  // half a table is no job
+  EXPECT_TRUE(Gleich(KoordinatendateiName, "", Aktiv("MenüKatasterLinel"), false));
 }
 
 TEST_F(HauptOffen, Hinzulesen) {
@@ -383,6 +394,8 @@ TEST_F(HauptOffen, AnsichtÖffnetDenEditor) {
     Drücke(Form, "OK");
   });
   Befehl("MenüOptionenDateinamen(0)");
+  EXPECT_NE(Inhalt(Ordner.Pfad("app/Tavorena.ini")).find("\r\ned  Text-Editor fuer Windows NT"),
+            std::string::npos);
   Befehl("MenüAnsichtKoordinatendatei");
   EXPECT_EQ(Skript.Gestartet, (std::vector<std::string>{"ed", A_kor}));
 }

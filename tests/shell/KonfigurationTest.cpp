@@ -77,9 +77,11 @@ TEST_F(Konfiguration, GanzeZahlenHabenIhrenBereich) {
   OptionenLesen();
   EXPECT_TRUE(
       Gleich(Optionen.OptNachkommastellen, 6, Optionen.OptWarnstufe, 0, Optionen.OptNachkommaSpeichern, 6));
-  Ini("[Optionen]\n3\n2\nTrue\nFalse\n1\n1\n[Historie]\n4711.kor * 0\n\n\n\n");  // runs over: no word
-  OptionenLesen();
-  EXPECT_EQ(Optionen.OptNachkommaSpeichern, 4);
+  for (const char* Name : {"4711", "-5"}) {  // runs over: no word
+    Ini(std::string("[Optionen]\n3\n2\nTrue\nFalse\n1\n1\n[Historie]\n") + Name + ".kor * 0\n\n\n\n");
+    OptionenLesen();
+    EXPECT_EQ(Optionen.OptNachkommaSpeichern, 4);
+  }
 }
 
 TEST_F(Konfiguration, UnbeschreibbareDateiWirdEinmalGemeldet) {
