@@ -9,11 +9,12 @@ import sys
 # that stands in no pair, or only in a sum, is printed as a figure.
 PAARE = (
     ("KorLesen/geordnet", ("NurZahlen/geordnet",), 3.0),
-    ("KorLesen/gemischt", ("NurZahlen/gemischt",), 6.0),
+    ("KorLesen/gemischt", ("NurZahlen/gemischt",), 5.0),
     ("KorText", ("FmtText",), 3.0),
     ("KorSuche/letzte", ("StdFind/letzte",), 3.0),
     ("KorSuche/fehlt", ("StdFind/fehlt",), 3.0),
     ("Neupunkt", ("AnhaengenUndSortieren",), 0.05),
+    ("Neupunkt/gemischt", ("AnhaengenUndSortieren/gemischt",), 0.1),
     ("KorLesen/mischen", ("KorSuche/jede", "KorLesen/geordnet"), 1.1),
     ("KonvertierungGeographischNachGK", ("ProjTrans/vorwaerts",), 0.5),
     ("KonvertierungGKNachGeographisch", ("ProjTrans/rueckwaerts",), 0.5),

@@ -13,12 +13,12 @@ namespace {
 // Each line is a point number.
 void Lauf(Eingabe E) {
   std::vector<std::string> Nr;
-  std::vector<double> Werte;
+  std::vector<Sortierwert> Werte;
   std::string_view Zeile;
   Zeilenleser Leser(E.Rest());
   while (Leser.Nächste(Zeile)) {
     Nr.emplace_back(Zeile);
-    Werte.push_back(ZahlAusText(Zeile));
+    Werte.push_back(SortierwertVon(Zeile));
   }
   std::vector<std::string> Soll = Nr;
   std::vector<int> SollFolge(Nr.size()), Folge;

@@ -173,9 +173,8 @@ std::string Lt4Schlüssel(const std::string& Pnr) {
 }
 
 void ListenOrdnen(Punktlisten& L) {
-  std::vector<double> Werte(L.Pnr.size());
-  std::transform(L.Pnr.begin(), L.Pnr.end(), Werte.begin(),
-                 [](const std::string& Pnr) { return ZahlAusText(Pnr); });
+  std::vector<Sortierwert> Werte(L.Pnr.size());
+  std::transform(L.Pnr.begin(), L.Pnr.end(), Werte.begin(), SortierwertVon);
   std::vector<int> Folge;
   if (SortierfolgeErmitteln(L.Pnr, Werte, KommaZeilen(L.Pnr), Folge)) return;
   SpaltenOrdnen(Folge, L.Pnr, L.Rechts, L.Hoch, L.Hoehe, L.Symbol);

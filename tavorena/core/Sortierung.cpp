@@ -1,39 +1,38 @@
 #include <algorithm>
 #include <array>
-#include <cstdint>
+#include <bit>
+#include <limits>
 #include <numeric>
 #include <tuple>
 #include <utility>
 
 #include <tavorena/core/Sortierung.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
 
 namespace tavorena {
 namespace {
 
 std::size_t Reihe(int i) { return static_cast<std::size_t>(i); }
 
-// What is compared of a number, and where it stands.
+// What is compared of a number, and where it stands. Whole numbers of the order of the values: they stay in
+// the registers.
 struct Schlüssel {
-  double Wert;
-  std::uint64_t Anfang;  // first characters, in the order of texts
-  int Zeile;
-};
-
-std::uint64_t AnfangVon(std::string_view Nummer) {
+  Schlüssel() = default;
+  Schlüssel(const Sortierwert& Wert, int Reihe)
+      : Zahl(std::bit_cast<std::int64_t>(Wert.Zahl)), Anfang(Wert.Anfang), Zeile(Reihe) {
+    if (Zahl < 0) Zahl = std::numeric_limits<std::int64_t>::min() - Zahl;  // also makes a 0 of -0
+  }
+  std::int64_t Zahl = 0;
   std::uint64_t Anfang = 0;
-  for (std::size_t i = 0; i < sizeof Anfang; ++i)
-    Anfang = Anfang << 8U | (i < Nummer.size() ? static_cast<unsigned char>(Nummer[i]) : 0U);
-  return Anfang;
-}
+  int Zeile = 0;
+};
 
 class Quicksort {
  public:
-  Quicksort(std::span<std::string> Liste, std::span<const double> Werte, std::span<const int> MitKomma)
-      : Nummern(Liste), Kommas(MitKomma.size()) {
-    S.reserve(Liste.size());
-    for (std::size_t i = 0; i < Liste.size(); ++i)
-      S.push_back({Werte[i], AnfangVon(Liste[i]), static_cast<int>(i)});
+  Quicksort(std::span<std::string> Liste, std::span<const Sortierwert> Werte, std::span<const int> MitKomma)
+      : Nummern(Liste), S(Liste.size()), Kommas(MitKomma.size()) {
+    for (std::size_t i = 0; i < Werte.size(); ++i) S[i] = Schlüssel(Werte[i], static_cast<int>(i));
     if (Kommas > 0) HatKomma.resize(Liste.size());
     for (const int Zeile : MitKomma) HatKomma[Reihe(Zeile)] = 1;
   }
@@ -64,20 +63,17 @@ class Quicksort {
     const int Mitte = (lo + hi) / 2;
     Punktieren(Mitte);
     const Schlüssel P = S[Reihe(Mitte)];
-    if (P.Wert != 0) {
+    if (P.Zahl != 0) {
       for (int k = lo; Kommas > 0 && k <= hi; ++k) Punktieren(k);
       return Tauschlauf(
-          lo, hi, [P](const Schlüssel& s) { return s.Wert < P.Wert; },
-          [P](const Schlüssel& s) { return s.Wert > P.Wert; });
+          lo, hi, [Zahl = P.Zahl](const Schlüssel& s) { return s.Zahl < Zahl; },
+          [Zahl = P.Zahl](const Schlüssel& s) { return s.Zahl > Zahl; });
     }
-    const std::string& Pivot = Nummern[Reihe(P.Zeile)];
-    const auto Vergleich = [&](const Schlüssel& s) { return Nummern[Reihe(s.Zeile)].compare(Pivot); };
+    const auto Text = [this](const Schlüssel& s) { return std::string_view(Nummern[Reihe(s.Zeile)]); };
     return Tauschlauf(
         lo, hi,
-        [&](const Schlüssel& s) { return s.Anfang < P.Anfang || (s.Anfang == P.Anfang && Vergleich(s) < 0); },
-        [&](const Schlüssel& s) {
-          return s.Anfang > P.Anfang || (s.Anfang == P.Anfang && Vergleich(s) > 0);
-        });
+        [&](const Schlüssel& s) { return s.Anfang == P.Anfang ? Text(s) < Text(P) : s.Anfang < P.Anfang; },
+        [&](const Schlüssel& s) { return s.Anfang == P.Anfang ? Text(s) > Text(P) : s.Anfang > P.Anfang; });
   }
 
   template <typename Test1, typename Test2>
@@ -97,7 +93,7 @@ class Quicksort {
     if (Kommas == 0 || std::exchange(HatKomma[Reihe(s.Zeile)], 0) == 0) return;
     --Kommas;
     ZeichenErsetzen(Nummern[Reihe(s.Zeile)], ',', '.');
-    s.Anfang = AnfangVon(Nummern[Reihe(s.Zeile)]);
+    s = Schlüssel(SortierwertVon(Nummern[Reihe(s.Zeile)]), s.Zeile);
   }
 
   std::span<std::string> Nummern;
@@ -107,20 +103,28 @@ class Quicksort {
 };
 
 // Distinct numbers other than 0: every correct sort gives the same rows.
-bool EineOrdnung(std::span<const double> Werte, std::vector<int>& Folge) {
-  if (std::any_of(Werte.begin(), Werte.end(), [](double w) { return w == 0; })) return false;
-  const auto Kleiner = [&](int a, int b) { return Werte[Reihe(a)] < Werte[Reihe(b)]; };
+bool EineOrdnung(std::span<const Sortierwert> Werte, std::vector<int>& Folge) {
+  if (std::any_of(Werte.begin(), Werte.end(), [](const Sortierwert& w) { return w.Zahl == 0; })) return false;
+  const auto Kleiner = [&](int a, int b) { return Werte[Reihe(a)].Zahl < Werte[Reihe(b)].Zahl; };
   const auto Vorn = std::is_sorted_until(Folge.begin(), Folge.end(), Kleiner);
   if (Folge.end() - Vorn == 1) {  // one new point behind a sorted table
     std::rotate(std::upper_bound(Folge.begin(), Vorn, *Vorn, Kleiner), Vorn, Folge.end());
   } else {
     std::sort(Vorn == Folge.end() ? Vorn : Folge.begin(), Folge.end(), Kleiner);
   }
-  return std::adjacent_find(Folge.begin(), Folge.end(),
-                            [&](int a, int b) { return Werte[Reihe(a)] == Werte[Reihe(b)]; }) == Folge.end();
+  return std::adjacent_find(Folge.begin(), Folge.end(), [&](int a, int b) {
+           return Werte[Reihe(a)].Zahl == Werte[Reihe(b)].Zahl;
+         }) == Folge.end();
 }
 
 }  // namespace
+
+Sortierwert SortierwertVon(std::string_view Nummer) {
+  Sortierwert Wert{ZahlAusText(Nummer), 0};
+  for (std::size_t i = 0; i < sizeof Wert.Anfang; ++i)
+    Wert.Anfang = Wert.Anfang << 8U | (i < Nummer.size() ? static_cast<unsigned char>(Nummer[i]) : 0U);
+  return Wert;
+}
 
 std::vector<int> KommaZeilen(std::span<const std::string> Nummern) {
   std::vector<int> Zeilen;
@@ -130,7 +134,7 @@ std::vector<int> KommaZeilen(std::span<const std::string> Nummern) {
   return Zeilen;
 }
 
-bool SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const double> Werte,
+bool SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const Sortierwert> Werte,
                            std::span<const int> MitKomma, std::vector<int>& Folge) {
   Folge.resize(Nummern.size());
   std::iota(Folge.begin(), Folge.end(), 0);

@@ -1,11 +1,20 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace tavorena {
+
+/// What the sort compares of a point number; the texts themselves only where they begin alike.
+struct Sortierwert {
+  double Zahl = 0;           ///< ZahlAusText
+  std::uint64_t Anfang = 0;  ///< the first eight bytes, in the order of texts
+};
+Sortierwert SortierwertVon(std::string_view Nummer);
 
 /// Rows whose number holds a ",".
 std::vector<int> KommaZeilen(std::span<const std::string> Nummern);
@@ -21,11 +30,11 @@ std::vector<int> KommaZeilen(std::span<const std::string> Nummern);
 /// A number whose numeric value is taken has its "," replaced by "." in place; this is wanted.
 ///
 /// @param[in,out] Nummern    the point numbers, in their present order
-/// @param[in]     Werte      ZahlAusText of each number
+/// @param[in]     Werte      SortierwertVon each number
 /// @param[in]     MitKomma   KommaZeilen of the numbers: no others change
 /// @param[out]    Folge      Folge[i] is the present row of the number that comes to row i
 /// @return true if Folge is the identity
-[[nodiscard]] bool SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const double> Werte,
+[[nodiscard]] bool SortierfolgeErmitteln(std::span<std::string> Nummern, std::span<const Sortierwert> Werte,
                                          std::span<const int> MitKomma, std::vector<int>& Folge);
 
 /// Brings the rows of parallel columns into the order of Folge, which is the identity afterwards.

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 #include <unordered_set>
 #include <utility>
 
@@ -31,26 +32,36 @@ struct Punkttabelle {
   bool MitKomma = false;  // a number may hold a ","
   std::uint64_t Stand = 0;
   std::vector<std::string> Nummern = std::vector<std::string>(KorZeilen);
-  std::vector<double> Zahlwerte = std::vector<double>(KorZeilen);  // ZahlAusText of each number, for the sort
+  std::vector<Sortierwert> Sortierwerte = std::vector<Sortierwert>(KorZeilen);       // of each number
   std::vector<std::uint64_t> Suchschlüssel = std::vector<std::uint64_t>(KorZeilen);  // of each trimmed number
-  std::vector<double> Rechts = Zahlwerte, Hoch = Zahlwerte, Hoehe = Zahlwerte;
-  std::vector<std::string> Symbol = Nummern;
-  std::vector<KorInfoSatz> Info = std::vector<KorInfoSatz>(KorZeilen);
+  std::vector<double> Rechts = std::vector<double>(KorZeilen), Hoch = Rechts, Hoehe = Rechts;
+  // What is found through its place, so that a sort need not move it.
+  std::vector<std::string> Symbole = Nummern;
+  std::vector<KorInfoSatz> Infosätze = std::vector<KorInfoSatz>(KorZeilen);
+  std::vector<std::uint16_t> Platz = Plätze();
+
+  static std::vector<std::uint16_t> Plätze() {
+    std::vector<std::uint16_t> Alle(KorZeilen);
+    std::iota(Alle.begin(), Alle.end(), std::uint16_t{0});
+    return Alle;
+  }
+  std::string& Symbol(int Zeile) { return Symbole[Platz[Reihe(Zeile)]]; }
+  KorInfoSatz& Info(int Zeile) { return Infosätze[Platz[Reihe(Zeile)]]; }
 
   void Schreiben(int Zeile, const KorSatz& S) {
     const std::size_t z = Reihe(Zeile);
     Nummern[z].assign(S.Pnr);
-    Zahlwerte[z] = ZahlAusText(S.Pnr);
+    Sortierwerte[z] = SortierwertVon(S.Pnr);
     Suchschlüssel[z] = SchlüsselVon(TrimmenSicht(S.Pnr));
     if (S.Pnr.find(',') != std::string_view::npos) MitKomma = true;
     Rechts[z] = S.Rechts;
     Hoch[z] = S.Hoch;
     Hoehe[z] = S.Hoehe;
-    Symbol[z].assign(S.Symbol);
+    Symbol(Zeile).assign(S.Symbol);
     if (S.Info == nullptr) {
-      Info[z] = {};
-    } else if (S.Info != &Info[z]) {
-      Info[z] = *S.Info;
+      Info(Zeile) = {};
+    } else if (S.Info != &Info(Zeile)) {
+      Info(Zeile) = *S.Info;
     }
     Benutzt = std::max(Benutzt, Zeile + 1);
   }
@@ -58,13 +69,13 @@ struct Punkttabelle {
   void Kopieren(int Nach, int Von, bool MitSymbol, bool MitInfo) {
     const std::size_t n = Reihe(Nach), v = Reihe(Von);
     Nummern[n] = Nummern[v];
-    Zahlwerte[n] = Zahlwerte[v];
+    Sortierwerte[n] = Sortierwerte[v];
     Suchschlüssel[n] = Suchschlüssel[v];
     Rechts[n] = Rechts[v];
     Hoch[n] = Hoch[v];
     Hoehe[n] = Hoehe[v];
-    if (MitSymbol) Symbol[n] = Symbol[v];
-    if (MitInfo) Info[n] = Info[v];
+    if (MitSymbol) Symbol(Nach) = Symbol(Von);
+    if (MitInfo) Info(Nach) = Info(Von);
     Benutzt = std::max(Benutzt, Nach + 1);
   }
 };
@@ -87,8 +98,6 @@ void Vor(KorTat Tat, int Von, int Bis, std::span<const int> Folge = {}) {
 
 const int& KorAnzahl = Tabelle.Anzahl;
 const std::vector<double>&KorRechts = Tabelle.Rechts, &KorHoch = Tabelle.Hoch, &KorHoehe = Tabelle.Hoehe;
-const std::vector<std::string>& KorSymbol = Tabelle.Symbol;
-const std::vector<KorInfoSatz>& KorInfo = Tabelle.Info;
 const bool& KoordinatenGeaendert = Tabelle.Geändert;
 const std::uint64_t& KorStand = Tabelle.Stand;
 std::string KoordinatendateiName;
@@ -101,7 +110,15 @@ const std::string& KorPnr(int Zeile) { return Tabelle.Nummern[Reihe(Zeile)]; }
 KorSatz KorPunkt(int Zeile) {
   const Punkttabelle& T = Tabelle;
   const std::size_t z = Reihe(Zeile);
-  return {T.Nummern[z], T.Rechts[z], T.Hoch[z], T.Hoehe[z], T.Symbol[z], &T.Info[z]};
+  return {T.Nummern[z], T.Rechts[z], T.Hoch[z], T.Hoehe[z], KorSymbol[z], &KorInfo[z]};
+}
+
+const std::string& KorSymbolSpalte::operator[](std::size_t Zeile) const {
+  return Tabelle.Symbole[Tabelle.Platz[Zeile]];
+}
+
+const KorInfoSatz& KorInfoSpalte::operator[](std::size_t Zeile) const {
+  return Tabelle.Infosätze[Tabelle.Platz[Zeile]];
 }
 
 int KorZeileSetzen(int Zeile, const KorSatz& Satz) {
@@ -215,8 +232,8 @@ void KorEinfuegen(int Zeile, const Wert& Pnr, double Rechts, double Hoch, double
   const bool MitInfo = Koordinatendateiformat != Dateiformat::Kor;
   Vor(KorTat::Einschieben, Zeile, KorAnzahl + 1);
   for (int i = KorAnzahl; i > Zeile; --i) Tabelle.Kopieren(i, i - 1, true, MitInfo);
-  Tabelle.Schreiben(Zeile, {ZahlNachText(Pnr).Text(), Rechts, Hoch, Hoehe, Symbol,
-                            MitInfo ? &Info : &Tabelle.Info[Reihe(Zeile)]});
+  Tabelle.Schreiben(
+      Zeile, {ZahlNachText(Pnr).Text(), Rechts, Hoch, Hoehe, Symbol, MitInfo ? &Info : &Tabelle.Info(Zeile)});
   ++Tabelle.Anzahl;
   KorAnzahlAnzeigen();
 }
@@ -228,15 +245,16 @@ void KorSortieren() {
   const auto Nummern = std::span(T.Nummern).first(n);
   const std::vector<int> Kommas = T.MitKomma ? KommaZeilen(Nummern) : std::vector<int>();
   if (!Kommas.empty()) Vor(KorTat::Ordnen, 0, T.Anzahl);  // on the way a comma becomes a point
-  const bool Geordnet = SortierfolgeErmitteln(Nummern, std::span(T.Zahlwerte).first(n), Kommas, Folge);
+  const bool Geordnet = SortierfolgeErmitteln(Nummern, std::span(T.Sortierwerte).first(n), Kommas, Folge);
   T.MitKomma = false;
   for (const int z : Kommas) {
+    T.Sortierwerte[Reihe(z)] = SortierwertVon(T.Nummern[Reihe(z)]);
     T.Suchschlüssel[Reihe(z)] = SchlüsselVon(TrimmenSicht(T.Nummern[Reihe(z)]));
     T.MitKomma = T.MitKomma || T.Nummern[Reihe(z)].find(',') != std::string::npos;
   }
   if (Geordnet) return;
   if (Kommas.empty()) Vor(KorTat::Ordnen, 0, T.Anzahl, Folge);
-  SpaltenOrdnen(Folge, T.Nummern, T.Zahlwerte, T.Suchschlüssel, T.Rechts, T.Hoch, T.Hoehe, T.Symbol, T.Info);
+  SpaltenOrdnen(Folge, T.Nummern, T.Sortierwerte, T.Suchschlüssel, T.Rechts, T.Hoch, T.Hoehe, T.Platz);
 }
 
 int AnzahlDoppelte() {
@@ -278,7 +296,7 @@ int KorBereichSuche(const Wert& Von, const Wert& Bis, int Start) {
   if (KorAnzahl == 0 || Start >= KorAnzahl - 1) return -3;
   const double Unten = Von.Zahl(), Oben = Bis.Zahl();
   for (int i = std::max(Start + 1, 0); i < KorAnzahl; ++i) {
-    const double Nummer = Tabelle.Zahlwerte[Reihe(i)];
+    const double Nummer = Tabelle.Sortierwerte[Reihe(i)].Zahl;
     if (Nummer > Oben) return -1;  // the table is sorted
     if (Nummer >= Unten) return i;
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -25,8 +26,9 @@ inline constexpr int KorZeilen = KorGrenze + 1;  ///< rows there are; the last i
 
 extern const int& KorAnzahl;
 extern const std::vector<double>&KorRechts, &KorHoch, &KorHoehe;
-extern const std::vector<std::string>& KorSymbol;
-extern const std::vector<KorInfoSatz>& KorInfo;
+/// Symbols and attributes of the rows, as columns.
+inline constexpr struct KorSymbolSpalte { const std::string& operator[](std::size_t Zeile) const; } KorSymbol;
+inline constexpr struct KorInfoSpalte { const KorInfoSatz& operator[](std::size_t Zeile) const; } KorInfo;
 extern const bool& KoordinatenGeaendert;  ///< the table differs from the file
 extern const std::uint64_t& KorStand;     ///< raised by every change: for who keeps a picture of the table
 
