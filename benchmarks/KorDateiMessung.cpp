@@ -17,8 +17,8 @@
 namespace tavorena::messung {
 namespace {
 
-void KorLesenMessen(benchmark::State& Stand, bool Gemischt) {
-  const std::string Name = Kordatei(Gemischt);
+void KorLesenMessen(benchmark::State& Stand, bool Gemischt, const char* Zeilenende) {
+  const std::string Name = Kordatei(Gemischt, Zeilenende);
   int Ergebnis = 0;
   KorLeeren();
   for (auto _ : Stand) Ergebnis = KorLesen(Name, Lesemodus::Ersetzen, Dateiformat::Kor);
@@ -141,8 +141,9 @@ void JedeSuchenMessen(benchmark::State& Stand) {
 
 constexpr auto ms = benchmark::kMillisecond;
 
-BENCHMARK_CAPTURE(KorLesenMessen, geordnet, false)->Name("KorLesen/geordnet")->Unit(ms);
-BENCHMARK_CAPTURE(KorLesenMessen, gemischt, true)->Name("KorLesen/gemischt")->Unit(ms);
+BENCHMARK_CAPTURE(KorLesenMessen, geordnet, false, "\r\n")->Name("KorLesen/geordnet")->Unit(ms);
+BENCHMARK_CAPTURE(KorLesenMessen, gemischt, true, "\r\n")->Name("KorLesen/gemischt")->Unit(ms);
+BENCHMARK_CAPTURE(KorLesenMessen, unix, false, "\n")->Name("KorLesen/unix")->Unit(ms);
 BENCHMARK_CAPTURE(NurZahlenMessen, geordnet, false)->Name("NurZahlen/geordnet")->Unit(ms);
 BENCHMARK_CAPTURE(NurZahlenMessen, gemischt, true)->Name("NurZahlen/gemischt")->Unit(ms);
 BENCHMARK(KorTextMessen)->Name("KorText")->Unit(ms);

@@ -62,7 +62,7 @@ Punktlisten PunkteBilden() {
   return P;
 }
 
-void DateiSchreiben(const std::string& Name, bool Gemischt) {
+void DateiSchreiben(const std::string& Name, bool Gemischt, const char* Zeilenende) {
   const Punktlisten& P = Punkte();
   std::vector<std::size_t> Reihen(Punktzahl);
   std::iota(Reihen.begin(), Reihen.end(), 0);
@@ -71,7 +71,7 @@ void DateiSchreiben(const std::string& Name, bool Gemischt) {
   std::string Zeile;
   for (const std::size_t r : Reihen) {
     KorZeileSchreiben(P.Pnr[r], P.Rechts[r], P.Hoch[r], P.Hoehe[r], P.Symbol[r], Zeile);
-    Datei << Zeile << "\r\n";
+    Datei << Zeile << Zeilenende;
   }
 }
 
@@ -87,9 +87,10 @@ std::string Messpfad(const char* Name) {
   return (Ordner.Ort / Name).string();
 }
 
-std::string Kordatei(bool Gemischt) {
-  const std::string Name = Messpfad(Gemischt ? "gemischt.kor" : "geordnet.kor");
-  if (!fs::exists(Name)) DateiSchreiben(Name, Gemischt);
+std::string Kordatei(bool Gemischt, const char* Zeilenende) {
+  const std::string Art = *Zeilenende == '\n' ? "unix_" : "";
+  const std::string Name = Messpfad((Art + (Gemischt ? "gemischt.kor" : "geordnet.kor")).c_str());
+  if (!fs::exists(Name)) DateiSchreiben(Name, Gemischt, Zeilenende);
   return Name;
 }
 

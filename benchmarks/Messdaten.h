@@ -15,8 +15,8 @@ inline constexpr std::size_t Punktzahl = 20000;
 /// millimetres, so that a file gives them back exactly.
 const Punktlisten& Punkte();
 
-/// KOR file of all points, with its rows in order or shuffled.
-std::string Kordatei(bool Gemischt);
+/// KOR file of all points, with its rows in order or shuffled, ended by both characters or a line feed alone.
+std::string Kordatei(bool Gemischt, const char* Zeilenende = "\r\n");
 
 /// A name in the folder of this run.
 std::string Messpfad(const char* Name);

@@ -10,6 +10,7 @@ import sys
 PAARE = (
     ("KorLesen/geordnet", ("NurZahlen/geordnet",), 3.0),
     ("KorLesen/gemischt", ("NurZahlen/gemischt",), 5.0),
+    ("KorLesen/unix", ("KorLesen/geordnet",), 1.1),
     ("KorText", ("FmtText",), 3.0),
     ("KorSuche/letzte", ("StdFind/letzte",), 3.0),
     ("KorSuche/fehlt", ("StdFind/fehlt",), 3.0),

@@ -115,19 +115,18 @@ int DateiLöschen(std::string_view Name) {
   return Fehler ? -1 : 0;
 }
 
+std::size_t Zeilenleser::Nächstes(Zeilenende& Ende) const {
+  if (Ende.Stelle == std::string_view::npos || Ende.Stelle < Ab)
+    Ende.Stelle = std::min(Text.find(Ende.Zeichen, Ab), Text.size());
+  return Ende.Stelle;
+}
+
 bool Zeilenleser::Nächste(std::string_view& Zeile) {
-  if (Rest.empty()) return false;
-  if (!Unix) {
-    Zeile = Rest.substr(0, Rest.find('\r'));
-    Unix = Zeile.find('\n') != std::string_view::npos;
-  }
-  if (Unix) Zeile = Rest.substr(0, Rest.find_first_of(std::string_view("\n\r\0", 3)));
-  Rest.remove_prefix(Zeile.size());
-  if (Rest.starts_with("\r\n")) {
-    Rest.remove_prefix(2);
-  } else if (!Rest.empty()) {
-    Rest.remove_prefix(1);
-  }
+  if (AmEnde()) return false;
+  Unix = Unix || Nächstes(Lf) < Nächstes(Cr);
+  const std::size_t Bis = Unix ? std::min({Nächstes(Lf), Nächstes(Cr), Nächstes(Null)}) : Nächstes(Cr);
+  Zeile = Text.substr(Ab, Bis - Ab);
+  Ab = Bis + (Text.substr(Bis).starts_with("\r\n") ? 2 : Bis < Text.size() ? 1 : 0);
   return true;
 }
 

@@ -86,16 +86,25 @@ std::string NachWindows1252(std::string_view Text);
 /// carriage return on, the file counts as one with Unix line ends, and a code 0 ends a line as well.
 class Zeilenleser {
  public:
-  explicit Zeilenleser(std::string_view Text) : Rest(Text) {}
+  explicit Zeilenleser(std::string_view Inhalt) : Text(Inhalt) {}
 
   /// The next line without its end. @return false at the end of the text
   [[nodiscard]] bool Nächste(std::string_view& Zeile);
   /// Nothing is left to read.
-  [[nodiscard]] bool AmEnde() const { return Rest.empty(); }
+  [[nodiscard]] bool AmEnde() const { return Ab == Text.size(); }
 
  private:
-  std::string_view Rest;
+  /// A character that ends lines, and where it comes next: looked for again only once it is passed.
+  struct Zeilenende {
+    char Zeichen;
+    std::size_t Stelle = std::string_view::npos;  // not looked for yet
+  };
+  std::size_t Nächstes(Zeilenende& Ende) const;
+
+  std::string_view Text;
+  std::size_t Ab = 0;
   bool Unix = false;
+  Zeilenende Cr{'\r'}, Lf{'\n'}, Null{'\0'};
 };
 
 }  // namespace tavorena
