@@ -18,7 +18,9 @@
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/shell/TVKernMDIForm.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 using namespace tavorena;
@@ -53,16 +55,18 @@ void Tippe(const QString& Text) {
 }
 
 // Puts all keys into the queue at once, before the first is looked at; each goes to whatever has the focus
-// then.
-void TippeVoraus(const QString& Text) {
+// then. Danach looks at the window behind each Return.
+void TippeVoraus(
+    const QString& Text, const std::function<void()>& Danach = [] {}) {
   for (const QChar z : Text) {
     QMetaObject::invokeMethod(
         qApp,
-        [z] {
+        [z, Danach] {
           QWidget* Ziel = QApplication::focusWidget();
           if (Ziel == nullptr) Ziel = QApplication::activeModalWidget();
           if (Ziel == nullptr) return;
           z == '\n' ? QTest::keyClick(Ziel, Qt::Key_Return) : QTest::keyClick(Ziel, z.toLatin1());
+          if (z == '\n') Danach();
         },
         Qt::QueuedConnection);
   }
@@ -143,7 +147,6 @@ class FensterTest : public QObject {
   void zelleSteht(int Zeile) const {
     const auto* Tabelle = Fenster->findChild<QTableView*>("LinelGitter");
     const auto* Feld = Tabelle->findChild<QLineEdit*>("LinelGitterFeld");
-    QCoreApplication::processEvents();
     QCOMPARE(Tabelle->rowAt(Feld->geometry().center().y()), Zeile);
     QCOMPARE(Feld->height(), Zeilenhöhe());
     QVERIFY(Tabelle->viewport()->rect().contains(Feld->geometry()));
@@ -324,7 +327,10 @@ class FensterTest : public QObject {
     QString Text;
     for (int i = 0; i < 28; ++i) Text += i % 2 == 0 ? "2003\n" : "2004\n";
     Antworte(Qt::Key_Escape, Qt::NoModifier);
-    TippeVoraus(Text + "77\n2005\n2005\n\n\n");
+    int Zeilen = 0;
+    TippeVoraus(Text + "77\n2005\n2005\n\n\n", [&] {
+      if (Zeilen < 28) zelleSteht(++Zeilen);
+    });
     QTRY_VERIFY(Dialoge.empty());
     QTRY_COMPARE(FokusName(), QString("LinelGitterFeld"));
     QCOMPARE(Feldtext(), QString("77"));
@@ -443,6 +449,80 @@ class FensterTest : public QObject {
       QCOMPARE(Text->textFormat(), Qt::PlainText);
     }
     QVERIFY(Gezeigt);
+  }
+
+  void protokollDasSichNichtSchreibenLaesst() {
+    Öffne("MenüKatasterLinel");
+    Tippe("1001\n1002\n0\n0\n");
+    QDir().mkdir(Pfad("a.dru"));
+    Antworte(Qt::Key_N);
+    Dialoge.push_back([this] {
+      QDir().rmdir(Pfad("a.dru"));
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_N, Qt::AltModifier);
+    });
+    Tippe("2003\n");
+    QVERIFY(Dialoge.empty());
+    const QByteArray Protokoll = Inhalt(Pfad("a.dru"));
+    QVERIFY(Protokoll.endsWith("2003\r\n"));
+    QFile::rename(Pfad("a.dru"), Pfad("b.dru"));
+    QDir().mkdir(Pfad("a.dru"));
+    Antworte(Qt::Key_O);
+    Tippe("2004\n");
+    QVERIFY(Dialoge.empty());
+    QDir().rmdir(Pfad("a.dru"));
+    Tippe("2005\n");  // not a word more, and no protocol
+    QVERIFY(!QFile::exists(Pfad("a.dru")) && Inhalt(Pfad("b.dru")) == Protokoll);
+    QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 3);
+  }
+
+  void langeTexteUndUndZeichen() {
+    Öffne();
+    const QString Riss = "Fortführungsriß 12/2026 der Gemarkung Musterdorf";
+    Optionen.AbfrageRiss = true;
+    Dialoge.push_back([&] {
+      qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(Riss);
+      Tippe("\n3\n");
+    });
+    Menü("MenüKatasterLinel");
+    Tippe("1001\n1002\n0\n0\n2003\n");
+    const auto* Feld = Fenster->findChild<QLineEdit*>("LinelRi_bez");
+    QVERIFY(Feld->text().endsWith(u'…') && Riss.startsWith(Feld->text().chopped(1)));
+    QVERIFY(Feld->fontMetrics().horizontalAdvance(Feld->text()) < Feld->width());
+    QCOMPARE(Feld->toolTip(), Riss);
+    auto* Tabelle = Fenster->findChild<QTableView*>("LinelGitter");
+    const QModelIndex Zelle = Tabelle->model()->index(0, 1);
+    QVERIFY(Zelle.data(Qt::ToolTipRole).isNull() && Tabelle->textElideMode() == Qt::ElideRight);
+    Tabelle->setColumnWidth(1, 40);
+    QCOMPARE(Zelle.data(Qt::ToolTipRole).toString(), QString("3500130.000"));
+
+    HauptHistSchreiben("/daten/Müller & Söhne.kor", Dateiformat::Kor);
+    KoordinatendateiName.clear();
+    QVERIFY(BlätterSchließen());
+    TVKernMDIForm::Fenster().OhneKoordinaten();
+    Fenster->Auffrischen();
+    const QAction* Letzte = Fenster->findChild<QAction*>("MenüDateiHist(1)");
+    QVERIFY(Letzte->isVisible());
+    QCOMPARE(Letzte->text(), QString("/daten/Müller && Söhne.kor"));
+  }
+
+  // An empty box is as clear against the window as a text.
+  void kaestchenSindHellUndDunkelZuSehen() {
+    for (const Helligkeit Wahl : {Helligkeit::Dunkel, Helligkeit::Hell}) {
+      AussehenSetzen(*qApp, Wahl);
+      QCheckBox Haken;
+      QRadioButton Option;
+      for (QWidget* W : {static_cast<QWidget*>(&Haken), static_cast<QWidget*>(&Option)}) {
+        W->resize(W->sizeHint());
+        const QImage Bild = W->grab().toImage();
+        const int Grund = W->palette().color(QPalette::Window).lightness();
+        int Abstand = 0;
+        for (int x = 0; x < Bild.width(); ++x) {
+          const int Hier = Bild.pixelColor(x, Bild.height() / 2).lightness();
+          Abstand = std::max(Abstand, std::abs(Hier - Grund));
+        }
+        QVERIFY2(Abstand > 60, qPrintable(QString::number(Abstand)));
+      }
+    }
   }
 
   void kopierenUndEinfuegen() {
