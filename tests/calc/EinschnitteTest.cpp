@@ -63,37 +63,15 @@ TEST(Einschnitte, Rueckwaertsschnitt) {
       {"cuts due east and west", {{0, 100}, 0}, {{300, 300}, 50}, {{100, 0}, 100}, {0, 0}},
   };
   Überall(Fälle, [](const Fall& f, Lage Ort) {
-    Rueckwaertsschnittwerte a, b;
-    ASSERT_EQ(RueckwaertsschnittCollins(Ab(Ort, f.P1), Ab(Ort, f.P2), Ab(Ort, f.P3), a), 0);
-    ASSERT_EQ(RueckwaertsschnittCassini(Ab(Ort, f.P1), Ab(Ort, f.P2), Ab(Ort, f.P3), b), 0);
-    for (const auto& w : {a, b}) EXPECT_TRUE(Nahe({w.NeuRechts, w.NeuHoch}, f.Neu + Ort, f.Genau));
-  });
-}
-
-// Observations made from known points give the point back, and Collins agrees with Cassini.
-TEST(Einschnitte, KonstruierteBeobachtungen) {
-  Gelände G;
-  int Geprüft = 0;
-  for (int i = 0; i < 5000; ++i) {
-    const Lage A = G(), B = G(), C = G(), N = G();
-    const double o = G.Zahl(-400, 400), q = G.Zahl(-400, 400);
-    const VorwStation SA{A, C, Richtung(A, C) + o, Richtung(A, N) + o};
-    const VorwStation SB{B, C, Richtung(B, C) + q, Richtung(B, N) + q};
-    Vorwaertsschnittwerte v;
-    ASSERT_EQ(VorwaertsschnittEbene(SA, SB, v), 0);
-    ASSERT_LT(Abstand({v.NeuRechts, v.NeuHoch}, N) * std::fabs(SinGon(v.TauGon)), 2e-9) << i;
-    const RueckPunkt P1{A, Richtung(N, A) + o}, P2{B, Richtung(N, B) + o}, P3{C, Richtung(N, C) + o};
+    const RueckPunkt P1 = Ab(Ort, f.P1), P2 = Ab(Ort, f.P2), P3 = Ab(Ort, f.P3);
     Rueckwaertsschnittwerte a, b, Blatt;
     ASSERT_TRUE(
         Gleich(RueckwaertsschnittCollins(P1, P2, P3, a), 0, RueckwaertsschnittCassini(P1, P2, P3, b), 0));
     ASSERT_EQ(RueckwaertsschnittCollins(P1, P2, P3, Blatt, RueckTau::Blatt), 0);
-    if (std::fabs(SinGon(b.TauGon2)) < 0.001 || std::fabs(SinGon(a.Alpha + a.Beta)) < 0.001) continue;
-    ASSERT_TRUE(Nahe({a.NeuRechts, a.NeuHoch, b.NeuRechts, b.NeuHoch}, {N.RW, N.HW, N.RW, N.HW}, 1e-6)) << i;
-    ASSERT_NEAR(std::fabs(Blatt.TauGon1 - a.TauGon1), 200, 1e-9);
-    ASSERT_NEAR(SinGon(a.TauGon2 - b.TauGon2), 0, 1e-9);  // the same angle, but for half circles
-    ++Geprüft;
-  }
-  EXPECT_GT(Geprüft, 4900);
+    for (const auto& w : {a, b, Blatt}) EXPECT_TRUE(Nahe({w.NeuRechts, w.NeuHoch}, f.Neu + Ort, f.Genau));
+    EXPECT_NEAR(std::fabs(Blatt.TauGon1 - a.TauGon1), 200, 1e-9);
+    EXPECT_NEAR(SinGon(a.TauGon2 - b.TauGon2), 0, 1e-6);  // the same angle, but for half circles
+  });
 }
 
 // On the circle Cassini refuses, also where the last digit of a coordinate hides it; Collins tells by τ2 and

@@ -1,7 +1,5 @@
 #include "Rechentest.h"
 
-#include <complex>
-
 #include <tavorena/calc/Flaeche.h>
 
 namespace tavorena::test {
@@ -56,30 +54,6 @@ TEST(Flaeche, HalbkreisTrotzRundung) {
   }
   b.Sehne = Nichts;
   EXPECT_TRUE(Gleich(BogenElemente({3.4e6, 5.7e6}, {3.4e6, 5700010}, 4.99999999, b), -1, b.Sehne, Nichts));
-}
-
-// The same boundary drawn as a polygon of short edges: each arc from centre and sweep, not from its elements.
-TEST(Flaeche, FeinesPolygon) {
-  using Komplex = std::complex<double>;
-  const Zahlen R{3400000, 3400060, 3400080, 3400050}, H{5700000, 5699990, 5700050, 5700090};
-  const double Öffnung[] = {1.2, -1.5, 4, -5};  // counter-clockwise, which is outward here [rad]
-  constexpr int Teile = 100000;
-  Zahlen Radius, fR, fH;
-  for (std::size_t i = 0; i < 4; ++i) {
-    const Komplex P(R[i], H[i]), Q(R[(i + 1) % 4], H[(i + 1) % 4]), Ganz = std::polar(1., Öffnung[i]);
-    const Komplex M = P + (Q - P) / (1. - Ganz);
-    Radius.push_back(std::abs(P - M));
-    for (int k = 0; k < Teile; ++k) {
-      const Komplex Z = M + (P - M) * std::polar(1., Öffnung[i] * k / Teile);
-      fR.push_back(Z.real());
-      fH.push_back(Z.imag());
-    }
-  }
-  Flaechenwerte w;
-  double Flaeche = 0, Umring = 0;
-  ASSERT_EQ(FlaecheBerechnen(R, H, Radius, Arten{1, -1, 2, -2}, 4, w), 0);
-  ASSERT_EQ(FlaecheGauss(fR, fH, 4 * Teile, Flaeche, Umring), 0);
-  EXPECT_TRUE(Nahe({w.Flaeche, w.Umring}, {Flaeche, Umring}, 1e-4));
 }
 
 TEST(Flaeche, GaussKrueger) {

@@ -147,12 +147,6 @@ class Geoschnittstelle : public RechenTest {
   std::int32_t i = 9, j = 9, k = 9, l = 9;
 };
 
-TEST_F(Geoschnittstelle, Mittelmeridian) {
-  EXPECT_EQ(Ta.KonvertierungGeographischNachGK(9, 51, a, b), ok);
-  EXPECT_TRUE(Gleich(a, 3500000, b, Meridianbogen(Ellipsoide[0], 51 * RadJeGrad)));
-  EXPECT_TRUE(Gleich(Ta.KonvertierungGeographischNachUTM(9, 51, i, a, b), ok, a, 500000, i, 32));
-}
-
 TEST_F(Geoschnittstelle, Streifenrand) {
   EXPECT_EQ(Ta.KonvertierungGeographischGMSNachGK(7, 30, 0.5, 51, 30, 30.25, a, b), ok);
   EXPECT_EQ(std::floor(a / 1e5), 33);  // the western edge of strip 3

@@ -1,8 +1,5 @@
 #include "Rechentest.h"
 
-#include <sstream>
-#include <tuple>
-
 #include <tavorena/calc/TVBerechnungsmodulHelmertAffin.h>
 
 namespace tavorena::test {
@@ -24,8 +21,8 @@ struct Punkte {
   [[nodiscard]] Passpunkte P() const { return {aR, aH, nR, nH}; }
 };
 
-// C. D. Ghilani, Adjustment Computations, examples 18.1 (similarity) and 18.2 (fiducial marks, weighted).
-TEST(HelmertAffin, VeröffentlichteBeispiele) {
+// C. D. Ghilani, Adjustment Computations, example 18.1.
+TEST(HelmertAffin, VeröffentlichtesBeispiel) {
   HelmertErgebnis E;
   const Punkte B{{121.622, 141.228, 175.802},
                  {-128.066, 187.718, 135.728},
@@ -41,29 +38,12 @@ TEST(HelmertAffin, VeröffentlichteBeispiele) {
   Lage T;
   HelmertNeupunkt({0, 0}, E.Parameter, T);
   EXPECT_TRUE(Nahe(T, {1050003.715, 50542.131}, 5e-4));
-
-  constexpr Lage Alt[] = {{.764, 5.960}, {5.062, 10.541}, {9.663, 6.243}, {5.350, 1.654}};
-  constexpr Lage Neu[] = {{-113, .003}, {.001, 112.993}, {112.998, .003}, {.001, -112.999}};
-  constexpr double sY[] = {.104, .096, .112, .096}, sX[] = {.112, .120, .088, .104};
-  Punkte Y, X;  // a weight enters as the number of times that a passpoint is given
-  for (std::size_t i = 0; i < 4; ++i) {
-    for (int k = 0; k < std::lround(10 / (sY[i] * sY[i])); ++k) Y.Dazu(Alt[i], Neu[i]);
-    for (int k = 0; k < std::lround(10 / (sX[i] * sX[i])); ++k) X.Dazu(Alt[i], Neu[i]);
-  }
-  AffinErgebnis y, x;
-  ASSERT_TRUE(Gleich(HelmertAffin(Y.P(), y), 0, HelmertAffin(X.P(), x), 0));
-  EXPECT_TRUE(Nahe({y.Parameter.A22, x.Parameter.A12, y.Parameter.A21, x.Parameter.A11},
-                   {25.37152, -0.80994, 0.82220, 25.40166}, 8e-6));
-  EXPECT_TRUE(Nahe({y.Parameter.A20, x.Parameter.A10}, {-137.183, -150.723}, 5e-4));
-  EXPECT_TRUE(Nahe({y.Klaffen.RestklaffeVY[0], x.Klaffen.RestklaffeVX[0]}, {-0.101, -0.049}, 6e-4));
 }
 
 TEST(HelmertAffin, Drehwinkel) {
-  constexpr double Fälle[][3] = {// numerator, denominator, degrees
-                                 {0, 1, 0},     {1, 1, 45},   {2, 0, 90},   {1, -1, 135}, {0, -1, 180},
-                                 {-1, -1, 225}, {-1, 0, 270}, {-1, 1, 315}, {0, 0, 90},   {-1e-300, 1, 0}};
-  for (const auto& [Zähler, Nenner, Grad] : Fälle)
-    EXPECT_NEAR(HelmertDrehwinkel(Zähler, Nenner), Grad, 1e-12) << Grad;
+  EXPECT_TRUE(Nahe({HelmertDrehwinkel(2, 0), HelmertDrehwinkel(0, -1), HelmertDrehwinkel(-1, 0),
+                    HelmertDrehwinkel(-1, 1), HelmertDrehwinkel(0, 0), HelmertDrehwinkel(-1e-300, 1)},
+                   {90, 180, 270, 315, 90, 0}, 1e-12));
 }
 
 // A known similarity is found again, by both models.
@@ -98,31 +78,12 @@ TEST(HelmertAffin, FindenEineÄhnlichkeitWieder) {
   }
 }
 
-TEST(HelmertAffin, FindetEineAffinitaetWieder) {
-  const auto Bild = [](Lage d) { return Lage{1000 + .75 * d.RW - .25 * d.HW, 5e6 + .5 * d.RW - 2 * d.HW}; };
-  for (const Lage O : Orte) {
-    Punkte B;
-    for (const Lage d : std::span(Figur).first(3)) B.Dazu(O + d, Bild(d));
-    AffinErgebnis E;
-    Lage N;
-    ASSERT_EQ(HelmertAffin(B.P(), E), 0);
-    HelmertAffinneupunkt(O + Lage{900, -800}, E.Parameter, N);
-    EXPECT_TRUE(Nahe(N, Bild({900, -800}), 1e-7));
-    EXPECT_TRUE(Nahe({E.Massstab1, E.Massstab2}, {std::hypot(2, .25), std::hypot(.75, .5)}));
-    EXPECT_EQ(E.Klaffen.StandardabwMK, 0);  // not set with three passpoints
-  }
-}
-
 TEST(HelmertAffin, Klaffen) {
   HelmertErgebnis E;
   const Punkte Drei{{-3, 3, 0}, {0, 0, 0}, {97, 103, 100}, {50, 50, 50.03}};
   ASSERT_EQ(HelmertHelmert(Drei.P(), false, std::nullopt, E), 0);
   EXPECT_TRUE(Nahe({E.Klaffen.RestklaffeVX[2], E.Klaffen.StandardabwMK, E.Klaffen.StandardabwML},
                    {.02, std::sqrt(.0003), std::sqrt(.0006)}, 1e-12));
-  AffinErgebnis A;
-  const Punkte Vier{{0, 2, 0, 2}, {0, 0, 2, 2}, {0, 2, 0, 2}, {.01, -.01, 1.99, 2.01}};
-  ASSERT_EQ(HelmertAffin(Vier.P(), A), 0);
-  EXPECT_TRUE(Nahe({A.Klaffen.StandardabwMK, A.Klaffen.StandardabwML}, {std::sqrt(.0002), .02}, 1e-12));
 }
 
 TEST(HelmertAffin, ZweiPasspunkte) {
@@ -233,26 +194,17 @@ TEST_F(Transformation, Parameter) {
   EXPECT_EQ(Helmert({{0, 0}, {0, 100}, {7, 108}, {5, 5}}, 2), ok);
   EXPECT_TRUE(Nahe({z[0], z[1], z[2], z[3], z[4], z[5], z[6], z[7], z[8]},
                    {0, 50, 57.5, 5, 0, 1.01, 1.01, 100, 50}, 1e-12));  // gon here
-  EXPECT_EQ(Affin({{0, 1, 2}, {0, 2, 4}, {5, 6, 9}, {1, 2, 4}}, 3), ok);
-  EXPECT_TRUE(Nahe({z[4], z[5], z[8], z[9], z[10]}, {0, 0, 0, 0, 0}, 0));  // on one line: it goes on with 0
   EXPECT_EQ(Affin({{0, 1, 0}, {0, 0, 1}, {7, 7.5, 11}, {9, 7, 12}}, 3), ok);
-  EXPECT_TRUE(Nahe({z[3], z[4], z[5], z[6], z[7], z[8], z[9], z[10], z[11], z[12], z[13], z[14]},
+  EXPECT_TRUE(Nahe({z[3], z[4], z[5], z[6], z[7], z[8], z[9], z[10], z[11], z[12], z[13], z[14], z[15]},
                    {28 / 3., 9, 3, -2, 7, 4, .5, 5, std::sqrt(4.25), std::atan(4 / 3.) * 200 / pi,
-                    200 - std::atan(.25) * 200 / pi, std::sqrt(5.) / 3},
-                   1e-12));
+                    200 - std::atan(.25) * 200 / pi, std::sqrt(5.) / 3, 0},
+                   1e-12));  // no standard deviation with three passpoints
   EXPECT_EQ(Affin({{1, -1, -1, 1}, {1, 1, -1, -1}, {1.5, -1.5, -.5, .5}, {1, 1, -1, -1}}, 4), ok);
   EXPECT_TRUE(Nahe({z[15], z[16], v[0][1], v[1][1]}, {std::sqrt(.5), 1, -.5, 0}, 1e-12));
 }
 
-TEST_F(Transformation, Punktzahl) {
-  const Punkte Viele = Kette(1500);
-  EXPECT_EQ(Helmert(Viele, 101), ok);
-  EXPECT_EQ(v[2].size(), 101U);
-  EXPECT_TRUE(Gleich(Helmert(Viele, 102), Zuviele, Affin(Viele, 1500), ok));
-}
-
 TEST_F(Transformation, SchlechteEingaben) {
-  const Punkte Gut = Kette(5), EinOrt{{0, 1, 3}, {0, 1, 0}, {.1, .1, .1}, {.7, .7, .7}};
+  const Punkte Gut = Kette(5), Viele = Kette(1500), EinOrt{{0, 1, 3}, {0, 1, 0}, {.1, .1, .1}, {.7, .7, .7}};
   Punkte Kurz = Gut, Gross = Gut, Unendlich = Gut;
   Kurz.nH.pop_back();
   Gross.aR[2] = Gross.aH[2] = 1e200;
@@ -267,6 +219,7 @@ TEST_F(Transformation, SchlechteEingaben) {
                                    {Unendlich, 4, ok}}) {
     EXPECT_TRUE(Gleich(Helmert(B, n), Soll, Affin(B, n), Soll)) << n;
   }
+  EXPECT_TRUE(Gleich(Helmert(Viele, 101), ok, Helmert(Viele, 102), Zuviele, Affin(Viele, 1500), ok));
   EXPECT_EQ(Helmert({EinOrt.nR, EinOrt.nH, EinOrt.aR, EinOrt.aH}, 3), Fehler);
   EXPECT_TRUE(Gleich(Helmert(EinOrt, 3, false), Fehler, Helmert(EinOrt, 3), ok));
 

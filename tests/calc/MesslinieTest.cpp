@@ -78,27 +78,6 @@ TEST(Polarpunkt, Tabelle) {
                    {60.2, 100, 50, 150}));
 }
 
-// Line and polar elements are the inverse, times measured over computed where the line was measured.
-TEST(Messlinie, UmkehrungDurchElemente) {
-  Gelände G;
-  for (int i = 0; i < 5000; ++i) {
-    const Lage A = G(), E = G(), Punkt = G();
-    const double o = G.Zahl(0, 400), a = G.Zahl(-500, 500), Soll = G.Zahl(-500, 500);
-    MesslinieAnschlusswerte Werte;
-    ASSERT_GE(
-        MesslinieBerechnungAnschluss(A, E, a, i % 2 == 0 ? 0 : a + G.Zahl(0.9, 1.1) * Abstand(A, E), Werte),
-        0);
-    const Lage P = MesslinieBerechnungPunkt(A, a, Werte, Soll, -Soll);
-    double Linie = 0, Seitwaerts = 0, Winkel = 0, Entf = 0, Nord = 0;
-    ASSERT_EQ(Linienelemente(A, E, P, Linie, Seitwaerts), 0);
-    ASSERT_TRUE(Nahe({a + Linie / Werte.Massstab, Seitwaerts / Werte.Massstab}, {Soll, -Soll}, 3e-9));
-    Lage Neu;
-    ASSERT_EQ(Polarelemente(A, E, Punkt, o, Winkel, Entf, Nord), 0);
-    ASSERT_EQ(PolarBerechnungPunkt(A, E, GonNachGrad(Winkel), Entf, 0, GonNachGrad(o), 1, Neu), 0);
-    ASSERT_TRUE(Nahe(Neu, Punkt, 3e-9));
-  }
-}
-
 using MesslinieTA = RechenTest;
 
 TEST_F(MesslinieTA, Zwillinge) {
