@@ -18,7 +18,9 @@ TEST(Messlinie, Tabelle) {
       {"north, to the right", {0, 0}, {0, 100}, 0, 0, 40, 30, 1, {30, 40}},
       {"east, to the right", {0, 0}, {100, 0}, 0, 0, 40, 30, 1, {40, -30}},
       {"south, to the left", {0, 0}, {0, -100}, 0, 0, 40, -30, 1, {30, -40}},
+      {"west, to the right", {0, 0}, {-100, 0}, 0, 0, 40, 30, 1, {-40, 30}},
       {"west, behind the start", {0, 0}, {-100, 0}, 0, 0, -40, 30, 1, {40, 30}},
+      {"along no axis", {0, 0}, {30, 40}, 0, 0, 25, 10, 1, {23, 14}},
       {"80 m measured over 100 m: the scale once", {0, 0}, {0, 100}, 10, 90, 50, 8, 0, {10, 50}},
       {"readings equal: the start point", {1, 2}, {1, 9}, 7, 7, 3, 4, -1, {1, 2}},
       {"equal points, not measured", {1, 2}, {1, 2}, 0, 0, 3, 4, 1, {1, 2}},
@@ -34,6 +36,10 @@ TEST(Messlinie, Tabelle) {
     EXPECT_EQ(Werte.OhneEndmass, f.Endmass == 0);
     const Lage Neu = MesslinieBerechnungPunkt(f.Anf + Ort, f.Anlegemass, Werte, f.Linie, f.Seitwaerts);
     EXPECT_TRUE(Nahe(Neu, f.Neu + Ort));
+    if (f.Ergebnis != 1 || f.Anf == f.End) return;
+    double Linie = 0, Seitwaerts = 0;  // and back
+    EXPECT_EQ(Linienelemente(f.Anf + Ort, f.End + Ort, Neu, Linie, Seitwaerts), 0);
+    EXPECT_TRUE(Nahe({f.Anlegemass + Linie, Seitwaerts}, {f.Linie, f.Seitwaerts}, 3e-9));
   });
 }
 

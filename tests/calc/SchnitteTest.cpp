@@ -154,22 +154,6 @@ TEST(Kreisschnitt, Tabelle) {
     EXPECT_TRUE(Gleich(ArcusKosinus(x), -9999, ArcusKosinusGrad(x), -9999));
 }
 
-// Two circles meet in the point that they were made from.
-TEST(Kreisschnitt, KonstruiertePunkte) {
-  Gelände G(1e3);
-  for (int i = 0; i < 5000; ++i) {
-    const Lage M1 = G(), M2 = G(), P = G();
-    const double r1 = Abstand(M1, P), r2 = Abstand(M2, P);
-    Lage S1, S2;
-    double Winkel = 0, Linie = 0, Seitwaerts = 0;
-    ASSERT_EQ(Linienelemente(M1, M2, P, Linie, Seitwaerts), 0);
-    if (std::fabs(Seitwaerts) > 1) {
-      ASSERT_EQ(SchnittKreisKreisBerechnung(M1, r1, M2, r2, S1, S2, Winkel), 2);
-      ASSERT_TRUE(Nahe(Seitwaerts > 0 ? S1 : S2, P, 2e-9 / SinGrad(Winkel))) << Winkel;
-    }
-  }
-}
-
 TEST(Kreismittelpunkt, Tabelle) {
   const double r = std::sqrt(315.078125);
   const Fall Fälle[] = {

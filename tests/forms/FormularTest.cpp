@@ -83,8 +83,7 @@ TEST_F(Formulare, FokusGehtAnAllenVorbeiDieGeschlossenSind) {
 TEST_F(Formulare, AbgewiesenerWertHältDenFokus) {
   Tippe(Form, "Zahl", "1a");
   Form.FokusWechseln(Form.Text);
-  EXPECT_EQ(Fokus(), "Zahl");
-  EXPECT_TRUE(Form.Zahl.Fehlerhaft);
+  EXPECT_TRUE(Gleich(Fokus(), "Zahl", Form.Zahl.Fehlerhaft, true));
   Drücke(Form, "OK");
   EXPECT_TRUE(Form.Offen());
   Form.Tippen(Form.Zahl, "1");
@@ -92,8 +91,7 @@ TEST_F(Formulare, AbgewiesenerWertHältDenFokus) {
   Form.FokusWechseln(Form.Tabelle);
   Form.Tippen(Form.Tabelle, "x");
   Form.ZelleWechseln(Form.Tabelle, 2, 0);
-  EXPECT_EQ(Form.Tabelle.Zeile, 0);
-  EXPECT_TRUE(Form.Tabelle.Fehlerhaft);
+  EXPECT_TRUE(Gleich(Form.Tabelle.Zeile, 0, Form.Tabelle.Fehlerhaft, true));
   Form.FokusWechseln(Element(Form, "Abbrechen"));  // a way out is always open
   EXPECT_EQ(Fokus(), "Abbrechen");
   Form.FokusSetzen(Form.Tabelle);
@@ -102,15 +100,12 @@ TEST_F(Formulare, AbgewiesenerWertHältDenFokus) {
 }
 
 TEST_F(Formulare, TastenFührenDurchDasFormular) {
-  Tippe(Form, "Zahl", "12\n");
-  EXPECT_EQ(Fokus(), "Tabelle");
+  EXPECT_EQ(Tippe(Form, "Zahl", "12\n"), "Tabelle");
   Form.Tabelle.BeiTaste = [&](Taste T) { return T == Taste::Return && Form.Tabelle.Zeile == 0; };
-  Tippe(Form, "Tabelle", "\n");
-  EXPECT_EQ(Fokus(), "Tabelle");
+  EXPECT_EQ(Tippe(Form, "Tabelle", "\n"), "Tabelle");
   Form.ZelleWechseln(Form.Tabelle, 1, 0);
-  Tippe(Form, "Tabelle", "\n\n");  // on to the check box, and on
-  EXPECT_EQ(Fokus(), "Text");
-  EXPECT_FALSE(Form.TasteDrücken(Taste::Plus));  // it belongs to the text
+  EXPECT_EQ(Tippe(Form, "Tabelle", "\n\n"), "Text");  // on to the check box, and on
+  EXPECT_FALSE(Form.TasteDrücken(Taste::Plus));       // it belongs to the text
   Namen Getan;
   Form.Text.BeiVerlassen = [&] { return Getan.emplace_back("gelesen"), true; };
   Form.Text.BeiReturn = [&] { Getan.emplace_back("Return"); };
@@ -127,8 +122,7 @@ TEST_F(Formulare, TastenFührenDurchDasFormular) {
     EXPECT_TRUE(F.TasteDrücken(Taste::Escape));
     EXPECT_FALSE(F.Offen() || F.TasteDrücken(Taste::Escape));
   });
-  EXPECT_EQ(Form.Zeigen(), -1);
-  EXPECT_EQ(Dialogergebnis, -1);
+  EXPECT_TRUE(Gleich(Form.Zeigen(), -1, Dialogergebnis, -1));
 }
 
 TEST_F(Formulare, GeschlossenesNimmtNichtsAn) {
