@@ -267,8 +267,9 @@ int AnzahlDoppelte() {
 
 bool DoppelteVorhanden() {
   // Numbers whose values rise from row to row, nearly every file, are all different.
-  const auto Anfang = Tabelle.Zahlwerte.begin(), Ende = Anfang + KorAnzahl;
-  if (std::adjacent_find(Anfang, Ende, std::greater_equal<>()) == Ende) return false;
+  const auto Anfang = Tabelle.Sortierwerte.begin(), Ende = Anfang + KorAnzahl;
+  const auto SteigtNicht = [](const Sortierwert& A, const Sortierwert& B) { return A.Zahl >= B.Zahl; };
+  if (std::adjacent_find(Anfang, Ende, SteigtNicht) == Ende) return false;
   std::vector<std::uint64_t> Schlüssel(Tabelle.Suchschlüssel.begin(),
                                        Tabelle.Suchschlüssel.begin() + KorAnzahl);
   std::sort(Schlüssel.begin(), Schlüssel.end());

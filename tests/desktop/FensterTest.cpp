@@ -497,7 +497,7 @@ class FensterTest : public QObject {
 
     HauptHistSchreiben("/daten/Müller & Söhne.kor", Dateiformat::Kor);
     KoordinatendateiName.clear();
-    QVERIFY(BlätterSchließen());
+    BlätterSchließen();
     TVKernMDIForm::Fenster().OhneKoordinaten();
     Fenster->Auffrischen();
     const QAction* Letzte = Fenster->findChild<QAction*>("MenüDateiHist(1)");
