@@ -187,6 +187,7 @@ class FensterTest : public QObject {
     Optionen = {};
     LetztePunktnummer.clear();
     Prot = {};
+    LetzterPlan = {};
     HauptAnschließen();
     Fenster->show();
     HauptInitialisierung();
@@ -464,14 +465,14 @@ class FensterTest : public QObject {
     QVERIFY(Dialoge.empty());
     const QByteArray Protokoll = Inhalt(Pfad("a.dru"));
     QVERIFY(Protokoll.endsWith("2003\r\n"));
-    QFile::rename(Pfad("a.dru"), Pfad("b.dru"));
+    QFile::rename(Pfad("a.dru"), Pfad("c.dru"));
     QDir().mkdir(Pfad("a.dru"));
     Antworte(Qt::Key_O);
     Tippe("2004\n");
     QVERIFY(Dialoge.empty());
     QDir().rmdir(Pfad("a.dru"));
     Tippe("2005\n");  // not a word more, and no protocol
-    QVERIFY(!QFile::exists(Pfad("a.dru")) && Inhalt(Pfad("b.dru")) == Protokoll);
+    QVERIFY(!QFile::exists(Pfad("a.dru")) && Inhalt(Pfad("c.dru")) == Protokoll);
     QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 3);
   }
 
