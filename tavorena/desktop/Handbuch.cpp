@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTextBrowser>
@@ -59,6 +60,8 @@ class Seitenansicht final : public QTextBrowser {
     setSearchPaths({":/handbuch"});
     setOpenExternalLinks(false);
     document()->setDocumentMargin(Rand);
+    // Always there: one that comes with the page would make the room for its pictures narrower.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   }
 
  protected:
@@ -93,7 +96,7 @@ class Handbuchfenster final : public QWidget {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle("Tavorena Handbuch");
     setWindowIcon(Programmsymbol());
-    resize(1000, 720);
+    resize(QSize(1000, 720).boundedTo(screen()->availableSize() - QSize(20, 60)));  // with its frame
     Suche->setObjectName("Handbuchsuche");
     Suche->setPlaceholderText("Suchen in allen Seiten");
     Suche->setClearButtonEnabled(true);

@@ -152,6 +152,11 @@ class FensterTest : public QObject {
     QVERIFY(Tabelle->viewport()->rect().contains(Feld->geometry()));
     QVERIFY(Feld->hasFocus() && Feld->selectedText() == Feld->text());
   }
+  static QWidget* handbuch() {
+    const QWidgetList Fenster = QApplication::topLevelWidgets();
+    return *std::find_if(Fenster.begin(), Fenster.end(),
+                         [](const QWidget* W) { return W->objectName() == "Handbuch"; });
+  }
   static QString FokusName() {
     return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : "";
   }
@@ -631,12 +636,15 @@ class FensterTest : public QObject {
 
   void hilfeOptionenUndEnde() {
     Öffne("MenüKatasterPolel");
+    HandbuchZeigen(0);
+    QCoreApplication::processEvents();
+    QVERIFY(handbuch()->width() <= Fenster->screen()->availableSize().width());
+    QCOMPARE(handbuch()->findChild<QTextBrowser*>()->horizontalScrollBar()->maximum(), 0);
+    handbuch()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTRY_VERIFY(Fenster->isActiveWindow());
     Drücke(Qt::Key_F1);
-    QWidget* Rahmen = nullptr;
-    for (QWidget* W : QApplication::topLevelWidgets()) {
-      if (W->objectName() == "Handbuch") Rahmen = W;
-    }
-    QVERIFY(Rahmen != nullptr);
+    QWidget* Rahmen = handbuch();
     auto* Handbuch = Rahmen->findChild<QTextBrowser*>();
     QCOMPARE(Handbuch->source().fileName(), QString("polarelemente.md"));
     QVERIFY(Handbuch->toPlainText().contains("Polarelemente"));
@@ -657,12 +665,9 @@ class FensterTest : public QObject {
     Dialoge.push_back([] {  // also inside a dialog
       QWidget* Dialog = QApplication::activeModalWidget();
       QTest::keyClick(Dialog, Qt::Key_F1);
-      for (QWidget* W : QApplication::topLevelWidgets()) {
-        if (W->objectName() != "Handbuch") continue;
-        QCOMPARE(W->findChild<QTextBrowser*>()->source().fileName(), QString("optionen.md"));
-        QCOMPARE(Dialog->windowModality(), Qt::WindowModal);  // it can be read beside it
-        W->close();
-      }
+      QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("optionen.md"));
+      QCOMPARE(Dialog->windowModality(), Qt::WindowModal);  // it can be read beside it
+      handbuch()->close();
       QTest::keyClick(Dialog, Qt::Key_Escape);
     });
     Menü("MenüOptionenOptionen");
