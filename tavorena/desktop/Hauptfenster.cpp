@@ -277,7 +277,7 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
   // A worksheet that is cut at its side hides what is typed: the protocol makes room.
   const int Fehlend = Wunsch.width() - Flaeche->width();
   if (Fehlend > 0 && Protokollrahmen->isVisible())
-    resizeDocks({Protokollrahmen}, {Protokollrahmen->width() - Fehlend}, Qt::Horizontal);
+    resizeDocks({Protokollrahmen}, {std::max(Protokollrahmen->width() - Fehlend, 1)}, Qt::Horizontal);
   const Fensterplatz Platz;
   const QSize Letzte = Platz.Größe(Schlüssel(Form, "Größe"));
   BlattStellen(*Fenster, (Letzte.isEmpty() ? Wunsch : Letzte).boundedTo(Flaeche->size()));
@@ -304,8 +304,13 @@ void Hauptfenster::BlattStellen(QMdiSubWindow& Neues, QSize Wunsch) {
     Altes->move(0, 0);
     Neues.setGeometry(QRect(QPoint(Altes->width(), 0), Wunsch));
   } else {
-    Altes->setGeometry(0, 0, Altes->width(), Platz.height() / 2);
-    Neues.setGeometry(0, Platz.height() / 2, Wunsch.width(), Platz.height() / 2);
+    // Half as high they scroll, and the bar must not cut what is typed.
+    const int Halb = Platz.height() / 2, Rolle = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const auto Breite = [&](QSize Bisher) {
+      return std::min(Bisher.width() + (Bisher.height() > Halb ? Rolle : 0), Platz.width());
+    };
+    Altes->setGeometry(0, 0, Breite(Altes->size()), Halb);
+    Neues.setGeometry(0, Halb, Breite(Wunsch), Halb);
   }
 }
 
