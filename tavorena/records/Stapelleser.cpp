@@ -129,12 +129,9 @@ void BlockZeigen(const std::function<void()>& BlattZeigen) {
 
 // What stands behind a lone end record is not replayed.
 void VorzeitigesEnde() {
-  if (Stapel.Block < Stapel.Blöcke) {
-    Stapel.Bilanz.OhneEnde.push_back(InZeile() + ": E ohne Block, nicht gerechnet: " +
-                                     Anzahltext(Stapel.Blöcke - Stapel.Block, "Block", "Blöcke"));
-    Stapel.Bilanz.Fehler = true;
-  }
-  Beenden();
+  if (Stapel.Block == Stapel.Blöcke) return Beenden();
+  StapelFehlerMeldung("E ohne Block, nicht gerechnet: " +
+                      Anzahltext(Stapel.Blöcke - Stapel.Block, "Block", "Blöcke"));
 }
 
 void NächsterBlock() {

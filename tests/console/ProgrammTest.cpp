@@ -18,6 +18,7 @@ class Programm : public ::testing::Test {
     Schreibe(Ordner.Pfad("fehler.sta"), "M VR 24.40 x\r\nPXN 1\r\n");
     Schreibe(Ordner.Pfad("frage.sta"), "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nE\r\n");
     Schreibe(Ordner.Pfad("leer.sta"), "C nichts\r\n");
+    Schreibe(Ordner.Pfad("verirrt.sta"), "E\r\nM VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\n");
     fs::create_directory(Ordner.Pfad("ordner"));
     fs::create_hard_link(Ordner.Pfad("a.sta"), Ordner.Pfad("gleich"));
   }
@@ -56,6 +57,7 @@ TEST_F(Programm, Rückgabewerte) {
       {"--koordinaten a.kor fehler.sta", 1, "fehler.sta, Zeile 2: Fehler 2"},
       {"--koordinaten a.kor frage.sta", 1, "frage.sta, Zeile 4: Frage ohne Antwort: Punkt 77"},
       {"--koordinaten a.kor leer.sta", 1, "leer.sta"},
+      {"--koordinaten a.kor verirrt.sta", 1, "verirrt.sta, Zeile 1: Fehler aufgetreten im Stapel E ohne"},
       {"--koordinaten a.kor --protokoll ordner a.sta", 1,
        "ordner: Das Protokoll läßt sich nicht schreiben (ist ein Ordner)"},
       {"--koordinaten a.kor --protokoll /dev/full a.sta", 1, "/dev/full: "},

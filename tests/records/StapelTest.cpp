@@ -167,10 +167,9 @@ TEST_F(StapelTest, FehlerBeendetDenLauf) {
   Laufen("M XY 24.40\r\nM VR LE\r\n", [] { FAIL(); });
   EXPECT_EQ(Enden, 1);  // a run is told to have ended once
   StapelHaken.Schritt = {};
-  Laufen("E\r\nM VR LE\r\n", [] { FAIL(); });  // a lone "E" ends the run, what stands behind it is named
+  Skript.Erwarte("Zeile: 1\nE ohne Block, nicht gerechnet: 1 Block");  // a lone "E" ends the run
+  Laufen("E\r\nM VR LE\r\n", [] { FAIL(); });
   EXPECT_TRUE(Stapel.Bilanz.Fehler);
-  EXPECT_EQ(StapelBericht(),
-            std::vector<std::string>{"ohne Ende: Zeile 1: E ohne Block, nicht gerechnet: 1 Block"});
   Laufen("M VR LE\r\nRISS x\r\nBERNR  7\r\nNEUPUNKT  12  -\r\nNEUPUNKT  0 - -\r\nNND 1 2 3,5\r\nPXN 2\r\n",
          [&] {
            EXPECT_EQ(StapelLeseRisszeilen() + StapelLeseNeupunkt(P, S), 0);
