@@ -109,8 +109,12 @@ bool EineOrdnung(std::span<const Sortierwert> Werte, std::vector<int>& Folge) {
   const auto Vorn = std::is_sorted_until(Folge.begin(), Folge.end(), Kleiner);
   if (Folge.end() - Vorn == 1) {  // one new point behind a sorted table
     std::rotate(std::upper_bound(Folge.begin(), Vorn, *Vorn, Kleiner), Vorn, Folge.end());
-  } else {
-    std::sort(Vorn == Folge.end() ? Vorn : Folge.begin(), Folge.end(), Kleiner);
+  } else if (Vorn != Folge.end()) {
+    std::vector<std::pair<double, int>> Paare;  // side by side they are sorted in half the time
+    Paare.reserve(Werte.size());
+    for (const int i : Folge) Paare.emplace_back(Werte[Reihe(i)].Zahl, i);
+    std::sort(Paare.begin(), Paare.end());
+    std::transform(Paare.begin(), Paare.end(), Folge.begin(), [](const auto& p) { return p.second; });
   }
   return std::adjacent_find(Folge.begin(), Folge.end(), [&](int a, int b) {
            return Werte[Reihe(a)].Zahl == Werte[Reihe(b)].Zahl;

@@ -38,13 +38,11 @@ struct Punkttabelle {
   // What is found through its place, so that a sort need not move it.
   std::vector<std::string> Symbole = Nummern;
   std::vector<KorInfoSatz> Infosätze = std::vector<KorInfoSatz>(KorZeilen);
-  std::vector<std::uint16_t> Platz = Plätze();
+  std::vector<std::uint16_t> Platz = std::vector<std::uint16_t>(KorZeilen);
 
-  static std::vector<std::uint16_t> Plätze() {
-    std::vector<std::uint16_t> Alle(KorZeilen);
-    std::iota(Alle.begin(), Alle.end(), std::uint16_t{0});
-    return Alle;
-  }
+  Punkttabelle() { PlätzeOrdnen(); }
+  // An empty table is filled in the order of the places.
+  void PlätzeOrdnen() { std::iota(Platz.begin(), Platz.end(), std::uint16_t{0}); }
   std::string& Symbol(int Zeile) { return Symbole[Platz[Reihe(Zeile)]]; }
   KorInfoSatz& Info(int Zeile) { return Infosätze[Platz[Reihe(Zeile)]]; }
 
@@ -139,6 +137,7 @@ void KorAbschneiden(int Anzahl) {
   if (Anzahl < 0 || Anzahl >= KorAnzahl) return;
   Vor(KorTat::Streichen, Anzahl, KorAnzahl);
   Tabelle.Anzahl = Anzahl;
+  if (Anzahl == 0) Tabelle.PlätzeOrdnen();
 }
 
 int KorAbbilden(const std::function<int(const KorSpalten&)>& Abbildung) {

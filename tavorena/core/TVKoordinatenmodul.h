@@ -43,7 +43,8 @@ struct KorSatz {
   const KorInfoSatz* Info = nullptr;  ///< nullptr: all empty
 };
 
-/// A row, 0 to KorZeilen - 1. Behind the last point it holds what a longer table left there.
+/// A row, 0 to KorZeilen - 1. Behind the last point it holds what a longer table left there, symbol and
+/// attributes perhaps of another row.
 KorSatz KorPunkt(int Zeile);
 
 extern std::string KoordinatendateiName;    ///< path of the current file, empty if none

@@ -2,7 +2,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <utility>
 
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -135,13 +137,35 @@ std::string FormatFüllen(const Wert& Zahl, int Vorkomma, int Nachkomma, bool Mi
   return Feld;
 }
 
+// Digits with a point among them at the most, nearly always: up to 15 of them are exact, and so is the power
+// of ten, so that their quotient is the nearest value, which from_chars would take longer to find.
+bool KurzeZahl(std::string_view Text, double& Zahl) {
+  constexpr double Potenzen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+  if (Text.size() > 15) return false;
+  std::int64_t Ziffern = 0;
+  std::size_t Nachkomma = 0;
+  bool Punkt = false;
+  for (const char z : Text) {
+    if (IstZiffer(z)) {
+      Ziffern = Ziffern * 10 + (z - '0');
+      Nachkomma += Punkt ? 1 : 0;
+    } else if (z != '.' || std::exchange(Punkt, true)) {
+      return false;
+    }
+  }
+  Zahl = static_cast<double>(Ziffern) / Potenzen[Nachkomma];
+  return true;
+}
+
 std::string Sterne(int Breite) { return std::string(static_cast<std::size_t>(std::max(Breite, 1)), '*'); }
 
 }  // namespace
 
 double ZahlAusText(std::string_view Text) {
-  if (!Text.empty() && IstZiffer(Text.front())) {  // nearly always: a plain number and nothing else
+  if (!Text.empty() && IstZiffer(Text.front())) {
     double Zahl = 0;
+    if (KurzeZahl(Text, Zahl)) return Zahl;
     const auto Ergebnis = std::from_chars(Text.data(), Text.data() + Text.size(), Zahl);
     if (Ergebnis.ec == std::errc{} && Ergebnis.ptr == Text.data() + Text.size()) return Zahl;
   }

@@ -2,7 +2,9 @@
 
 #include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <random>
 
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
@@ -74,6 +76,12 @@ TEST(ZahlVonText, NumerischerAnfang) {
             (Zahlen{1.5, 0.5, 1.234, 1.234, 3500100.123456789}));
   EXPECT_EQ(Gelesen({"1e3", "1E+2,5", "12e", "1e-999", "1e999", "-1e999"}),
             (Zahlen{1000, 100, 12, 0, Unendlich, -Unendlich}));
+  std::mt19937_64 Zufall(3);  // every way to read gives the nearest value
+  for (int i = 0; i < 20000; ++i) {
+    std::string Zahl = std::to_string(Zufall()).substr(0, 1 + Zufall() % 17);
+    if (i % 5 > 0) Zahl.insert(1 + Zufall() % Zahl.size(), ".");
+    ASSERT_EQ(ZahlAusText(Zahl), std::strtod(Zahl.c_str(), nullptr)) << Zahl;
+  }
   std::string Text = "1,2,3";
   EXPECT_TRUE(Gleich(ZahlVonText(Text), 1.2, Text, "1.2.3"));  // replaced in the caller's text
   Wert Nummer("4711,2");
