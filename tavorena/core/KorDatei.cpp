@@ -26,7 +26,7 @@ std::string_view Spalten(std::string_view Zeile, std::size_t Von, std::size_t Bi
   return TextTeil(Zeile, Von - 1, Bis - Von + 1);
 }
 
-// The line readers fill what the format has; the rest of the row stays as it was. The views lie in the line.
+// The line readers fill what the format has. The views lie in the line.
 
 bool KorZerlegen(std::string_view Zeile, KorSatz& S) {
   if (KürzerAls(Zeile, 6)) return false;
@@ -119,16 +119,26 @@ class Lesung {
     KorInfoSatz Info;
     while (Leser.Nächste(Zeile)) {
       if (KorAnzahl >= KorGrenze) return Ende::Voll;
-      KorSatz Satz = KorPunkt(KorAnzahl);
-      const bool IstPunkt =
-          Zeilenart == Dateiformat::Lt4 ? Lt4Zerlegen(Zeile, Satz, Info) : KorZerlegen(Zeile, Satz);
-      if (!IstPunkt || Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) continue;
+      KorSatz Satz;
+      if (!Zerlegen(Zeile, Satz, Info) || Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) continue;
       if (KorAnzahl % 100 == 0 && Angehalten()) return Ende::Gestoppt;
     }
     return Ende::Gut;
   }
 
  private:
+  bool Zerlegen(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) const {
+    if (Zeilenart == Dateiformat::Lt4) {
+      S.Hoehe =
+          KorHoehe[static_cast<std::size_t>(KorAnzahl)];  // the row keeps the height that it had, on purpose
+      return Lt4Zerlegen(Zeile, S, Info);
+    }
+    if (!KorZerlegen(Zeile, S)) return false;
+    Info.Punktart = KurzAusText(S.Symbol);  // and no other attribute
+    S.Info = &Info;
+    return true;
+  }
+
   [[nodiscard]] bool Verworfen(std::string_view Pnr) const {
     return TrimmenSicht(Pnr).empty() || (Test && !Test(Pnr)) ||
            (LeseModus == Lesemodus::NurNeue && KorSuche(Pnr) >= 0);
@@ -164,7 +174,7 @@ void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double
   Ziel.append(2, ' ').append(Symbol);
 }
 
-// The key of an LT4 line: the fixed area key of the format and the point number.
+// The key of an LT4 line: the fixed area key of the format and the point number as it stands, its blanks too.
 std::string Lt4Schlüssel(const std::string& Pnr) {
   const std::size_t L = ZeichenAnzahl(Pnr);
   if (L < 6) return "45590000" + ZahlFeldNull(Pnr, 6);
@@ -213,7 +223,7 @@ int Lt4ZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, doub
 
 void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
                        std::string& Zeile) {
-  Zeile = ZahlFeldNull(Info.Lagestatus, 3) + " " + Lt4Schlüssel(Trimmen(Pnr)) + " ";
+  Zeile = ZahlFeldNull(Info.Lagestatus, 3) + " " + Lt4Schlüssel(ZahlNachText(Pnr).Text()) + " ";
   Zeile += ZahlFeldNull(std::int32_t{Info.Vermarkungsart}, 3) + " " + ZahlFormat(Rechts, 7, 3) + " ";
   Zeile += ZahlFormat(Hoch, 7, 3) + " " + Leerzeichen(8) + Leerzeichen(6);
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);

@@ -93,7 +93,8 @@ TEST_F(KorDatei, Lt4HatFesteSpalten) {
   std::string Zeile, Pnr, Symbol;
   double R = 0, H = 0;
   for (const auto& [Nummer, Schlüssel] :
-       {std::pair{"12", "45590000000012"}, std::pair{"1234567", "45590001234567"}}) {
+       {std::pair{"12", "45590000000012"}, std::pair{"1234567", "45590001234567"},
+        std::pair{"       12A", "4559       12A"}, std::pair{"        12", "4559        12"}}) {
     Lt4ZeileSchreiben(Nummer, 1, 2, Info, Zeile);
     EXPECT_EQ(Zeile.substr(4, 14), Schlüssel);
   }
@@ -108,6 +109,10 @@ TEST_F(KorDatei, Lt4HatFesteSpalten) {
   Ohne.replace(8, 10, 10, ' ');
   ASSERT_EQ(Lies(Zeile + "\r\n" + Ohne, Lesemodus::Ersetzen, Dateiformat::Lt4), 0);
   EXPECT_EQ(KorAnzahl, 1);  // without a number it is no point; as a KOR line its Rechts would become one
+  ASSERT_EQ(Lies("7 1.0 2 3 015\r\n"), 0);
+  Info = {};
+  Info.Punktart = 15;
+  EXPECT_EQ(KorInfo[0], Info);  // nothing is left of the row's former point
 }
 
 TEST_F(KorDatei, GrenzeVon20000Punkten) {
