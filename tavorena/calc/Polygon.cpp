@@ -39,7 +39,7 @@ void Richtungen(const PolygonZug& Zug, bool RichtungAnschluss, PolygonErgebnis& 
 void WinkelAbschluss(const PolygonZug& Zug, bool Verteilen, PolygonErgebnis& E) {
   // Deliberately not reduced: see the header.
   E.FW = Richtung(Zug.PE, Zug.PFE) - Weiter(E.Seiten.back().t, Zug.PolygonEndWinkel);
-  E.WinkelVerteilt = Verteilen && E.d1 > E.S / 2 && E.d2 > E.S / 2;
+  E.WinkelVerteilt = Verteilen && E.d1 > E.S / 2 && E.d2 > E.S / 2 && std::fabs(E.FW) <= 200;
   if (!E.WinkelVerteilt) return;
   E.Verbesserung = E.FW / E.n;
   int i = 0;

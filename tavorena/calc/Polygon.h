@@ -75,12 +75,13 @@ constexpr int PolygonMaxSeiten = 1000;  ///< most sides of a traverse
 /// Computes a traverse: bearings, misclosures, tolerances, distribution, coordinates.
 ///
 /// Without a start connection the chain is computed with a first bearing of 0 and then turned until its end
-/// lies in the direction of PE. WinkelVerteilen takes effect only with both connections and if both targets
-/// are further away than S/2; LinearVerteilen not in a ring (PA = PE, or a chain that ends on PA). An
-/// exceeded tolerance stops nothing.
+/// lies in the direction of PE. WinkelVerteilen takes effect only with both connections, if both targets
+/// are further away than S/2 and FW is not above 200 gon; otherwise WinkelVerteilt tells it; LinearVerteilen
+/// not in a ring (PA = PE, or a chain that ends on PA). An exceeded tolerance stops nothing.
 ///
 /// FW is not brought back by 400 gon: where the two bearings it compares lie on both sides of north it is
-/// near 400 or -400. This is meant, its mark shows it.
+/// near 400 or -400. This is meant, its mark shows it. Above 200 gon it is not distributed: a straight
+/// traverse would be bent.
 ///
 /// @param[in]  Zug                what was measured
 /// @param[in]  RichtungAnschluss  direction connection at the start, by PFA and PolygonAnfWinkel

@@ -51,7 +51,13 @@ TEST(Polygon, GestörteBeobachtungenWerdenVerteilt) {
     ASSERT_NEAR(E.FL, -1e-4 * S, 1e-6);
     ASSERT_NEAR(std::fabs(E.FQ) + Abweichung(E, P), 0, 1e-6);
     ASSERT_EQ(PolygonCalc(Messen(P, e, 1.0001), true, true, true, true, E), 0);
-    if (std::fabs(E.FW) > 200) continue;  // both sides of north: deliberately not brought back by 400
+    ASSERT_EQ(E.WinkelVerteilt, std::fabs(E.FW) < 200);
+    if (!E.WinkelVerteilt) {  // both sides of north: not brought back by 400, and no reason to bend the chain
+      PolygonErgebnis Ohne;
+      ASSERT_EQ(PolygonCalc(Messen(P, e, 1.0001), true, true, false, true, Ohne), 0);
+      ASSERT_EQ(Reihe(E.Verbesserung, E.Seiten[1].Ende.RW), Reihe(0, Ohne.Seiten[1].Ende.RW));
+      continue;
+    }
     ASSERT_NEAR(E.FW, -e * n, 1e-9);
     ASSERT_NEAR(E.Verbesserung, -e, 1e-11);
     ASSERT_NEAR(E.FL, -1e-4 * S, 1e-6);
