@@ -70,10 +70,10 @@ int RueckwaertsschnittCollins(const RueckPunkt& P1, const RueckPunkt& P2, const 
   // see. Taken from Q they would be lost where Q falls on P1 or P3 (Alpha or Beta 200 gon).
   const double t1 = t13 - Beta, t3 = 200 + Alpha + t13;
   Lage Q, Neu;  // seen from P1, so that a far Q keeps its digits
-  if (!Strahlenschnitt(P1.Ort, t1, P3.Ort, t3, Q)) return -1;
+  if (!Strahlenschnitt(P1.Ort, t1, P3.Ort, t3, Q)) return -3;
   const double t2 = Nordwinkel(Q, {P2.Ort.RW - P1.Ort.RW, P2.Ort.HW - P1.Ort.HW});
   const double a = t1 - t2, b = t2 - t3;
-  if (!Strahlenschnitt(P1.Ort, b + t13, P3.Ort, (200 + t13) - a, Neu)) return -1;
+  if (!Strahlenschnitt(P1.Ort, b + t13, P3.Ort, (200 + t13) - a, Neu)) return -3;
   // Deliberate: the worksheet's τ1 starts with the opposite bearing, and neither is reduced.
   const double t12 = Art == RueckTau::Blatt ? Nordwinkel(P1.Ort, P2.Ort) : Nordwinkel(P2.Ort, P1.Ort);
   const double Tau1 = t12 - Nordwinkel(P2.Ort, P3.Ort);

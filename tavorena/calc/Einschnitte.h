@@ -76,8 +76,8 @@ enum class RueckTau {
 /// @param[in]  Art  which τ1
 /// @param[out] Werte  τ1 is not reduced into 0 to 400, and τ2 = Alpha + Beta + τ1 - 200 neither, on purpose:
 ///                    both can be negative for a good figure
-/// @return 0; -1 if Alpha or Beta is 0 (two directions equal), or if Alpha + Beta is 200 or a full circle:
-///         the rays of the auxiliary point are then parallel and P1, the new point and P3 lie on one line
+/// @return 0; -1 if Alpha or Beta is 0 (two directions equal); -3 if Alpha + Beta is 200 or a full circle, or
+///         the rays to the new point are parallel: P1, the new point and P3 then lie on one line
 /// Accuracy: 1e-6 m for points within 10 km in Gauss-Krüger coordinates, unless the new point is within some
 ///           0.01 gon of the circle, or of the line P1-P3 between P1 and P3.
 /// Source: J. Collins, Philosophical Transactions 6, 1671; H. Kahmen, Vermessungskunde.

@@ -438,8 +438,9 @@ class TA {
   /// @param[out] dTauGon2 angle [gon]; near 0 the point lies on the circle through the three
   /// @return ok with a dTauGon2 of 20 or more; Hinweis_GefaehrlicherKreis from 5,
   ///     Fehler_GefaehrlicherKreis below (the point is delivered all the same);
-  ///     Fehler_ZweiRichtungenGleich, or Fehler_GefaehrlicherKreis where Cassini can not compute it: the
-  ///     outputs are then untouched
+  ///     Fehler_ZweiRichtungenGleich, Fehler_Allgemein where Collins finds the new point on the line through
+  ///     points 1 and 3, or Fehler_GefaehrlicherKreis where Cassini can not compute it: the outputs are then
+  ///     untouched
   enmResult Rueckwaertsschnitt(double dPunkt1RW, double dPunkt1HW, double dPunkt1RichtungGon,
                                double dPunkt2RW, double dPunkt2HW, double dPunkt2RichtungGon,
                                double dPunkt3RW, double dPunkt3HW, double dPunkt3RichtungGon, bool bCassini,

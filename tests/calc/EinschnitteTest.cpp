@@ -36,6 +36,12 @@ TEST(Einschnitte, Vorwaertsschnitt) {
   VorwStation S{{0, 0}, {0, 9}, 0, 100, 50, 350}, T{{300, -400}, {300, 9}, 0, 0, 60, 50};
   Vorwaertsschnittwerte w;
   ASSERT_EQ(VorwaertsschnittEbene(S, T, w) + w.VorwNeuHoehe, 0);
+  for (const double z : {0., 100., 300.}) {  // exactly: the tangent of a right angle is large, not infinite
+    S.z = T.z = z;
+    VorwaertsschnittHoehe(S, T, w);
+    EXPECT_TRUE(Gleich(w.VorwNeuHoehe, 55, w.VorwParallaxe, 10)) << z;
+  }
+  S.z = 350;
   for (const double z : {0., 100., 300., 50.}) {  // heights: 50 - 300, 60 + 400 with a zenith angle
     T.z = z;
     VorwaertsschnittHoehe(S, T, w);
@@ -120,8 +126,8 @@ TEST_F(EinschnitteTA, Ergebniszuordnung) {
     }
     EXPECT_EQ(Resektion(Cassini, 0, 20, std::nan("")), Fehler_Allgemein);
   }
-  EXPECT_EQ(Resektion(false, 0, 130, 200), Fehler_ZweiRichtungenGleich);  // auxiliary point at infinity
-  EXPECT_EQ(Resektion(true, 300, 0, 100), Fehler_GefaehrlicherKreis);     // both diameters end at Hoch 0
+  EXPECT_EQ(Resektion(false, 0, 130, 200), Fehler_Allgemein);          // on the line P1-P3
+  EXPECT_EQ(Resektion(true, 300, 0, 100), Fehler_GefaehrlicherKreis);  // both diameters end at Hoch 0
   for (const double rB : {50.0, 250.0, std::nan("")})
     EXPECT_EQ(Ta.VorwaertsschnittEbene(0, 0, 0, 9, 0, 50, 7, 8, 7, 9, 0, rB, a, b, &c), Fehler_Allgemein);
   EXPECT_TRUE(Unberührt());
