@@ -213,10 +213,10 @@ int HelmertHelmert(const Passpunkte& P, bool MasstabaenderungZulaessig, const st
   const Reduktion Reduziert(P, h.SchwerpunktAltesSystem, h.SchwerpunktNeuesSystem);
   const ReduziertePasspunkte s = Reduziert.Spalten();
   h.MaximalerAbstand = Reduziert.MaximalerAbstand();
-  if (HelmertTranspara(s, h.ParamA, h.ParamB) < 0) return -1;
+  if (HelmertTranspara(s, h.ParamA, h.ParamB) < 0) return -2;
   Neu.Massstab = Laenge(h.ParamA, h.ParamB);
   if (!MasstabaenderungZulaessig) {
-    if (Neu.Massstab == 0) return -1;
+    if (Neu.Massstab == 0) return -2;
     h.ParamA /= Neu.Massstab;
     h.ParamB /= Neu.Massstab;
     Neu.Massstab = Laenge(h.ParamA, h.ParamB);

@@ -141,8 +141,8 @@ void HelmertRestklaff(const ReduziertePasspunkte& P, double a, double b, std::si
 /// @param[in]  Fest  takes the place of the centroids; none in TA
 /// @param[out] Ergebnis  with two passpoints ("Transformation über Rechenachse") all residuals, MK and ML are
 ///                       0 on purpose, also with a fixed scale or point; WS and D tell the discrepancy then
-/// @return 0; -1 below two passpoints or for columns of different lengths, with all old points on one spot,
-///         or with a fixed scale and all new points on one spot: Ergebnis is then untouched
+/// @return 0; -1 too few: below two passpoints, or columns of different lengths; -2 a division by 0: all old
+///         points on one spot, or with a fixed scale all new ones. Ergebnis is untouched unless 0
 [[nodiscard]] int HelmertHelmert(const Passpunkte& P, bool MasstabaenderungZulaessig,
                                  const std::optional<Festpunkt>& Fest, HelmertErgebnis& Ergebnis);
 
@@ -196,7 +196,8 @@ void HelmertAffinrestklaff(const Passpunkte& P, const AffinParameter& Parameter,
 /// @param[out] Ergebnis  MK and ML are 0 up to three passpoints. If the passpoints lie on a line, the flag is
 ///                       set and the calculation carries on with parameters of 0 on purpose: residuals are
 ///                       then the new coordinates, both scales 0, both angles 90 degrees.
-/// @return 0; -1 below two passpoints or for columns of different lengths, Ergebnis is then untouched
+/// @return 0; -1 too few: below two passpoints, or columns of different lengths; Ergebnis is then untouched.
+///         No division by 0 (-2 of HelmertHelmert) can arise: the flag tells it.
 [[nodiscard]] int HelmertAffin(const Passpunkte& P, AffinErgebnis& Ergebnis);
 
 /// As HelmertNeupunkt.

@@ -101,6 +101,17 @@ TEST(HelmertAffin, ZweiPasspunkte) {
   EXPECT_TRUE(Nahe(N, {1001, 1000}));
 }
 
+TEST(HelmertAffin, ZuWenigIstKeineDivisionDurchNull) {
+  const Punkte Einer{{1}, {2}, {3}, {4}}, Alt{{5, 5}, {6, 6}, {0, 9}, {0, 9}},
+      Neu{{0, 9}, {0, 9}, {5, 5}, {6, 6}};
+  HelmertErgebnis H;
+  AffinErgebnis A;
+  EXPECT_TRUE(Gleich(HelmertHelmert(Einer.P(), true, std::nullopt, H), -1, HelmertAffin(Einer.P(), A), -1));
+  EXPECT_TRUE(Gleich(HelmertHelmert(Alt.P(), true, std::nullopt, H), -2,
+                     HelmertHelmert(Neu.P(), false, std::nullopt, H), -2, HelmertAffin(Alt.P(), A), 0,
+                     A.PasspunkteAufGerader, true));
+}
+
 TEST(HelmertAffin, PasspunkteAufEinerGeraden) {
   for (const Punkte& B : {Punkte{{.1, .1, .1, .1}, {0, 2, 4, 9}, {5, 6, 9, 8}, {1, 2, 4, 8}},
                           Punkte{{0, 2, 4, 9}, {.1, .1, .1, .1}, {5, 6, 9, 8}, {1, 2, 4, 8}},
