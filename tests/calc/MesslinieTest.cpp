@@ -20,7 +20,7 @@ TEST(Messlinie, Tabelle) {
       {"south, to the left", {0, 0}, {0, -100}, 0, 0, 40, -30, 1, {30, -40}},
       {"west, to the right", {0, 0}, {-100, 0}, 0, 0, 40, 30, 1, {-40, 30}},
       {"west, behind the start", {0, 0}, {-100, 0}, 0, 0, -40, 30, 1, {40, 30}},
-      {"along no axis", {0, 0}, {30, 40}, 0, 0, 25, 10, 1, {23, 14}},
+      {"along no axis", {0, 0}, {30, 40}, 5, 0, 30, 10, 1, {23, 14}},
       {"80 m measured over 100 m: the scale once", {0, 0}, {0, 100}, 10, 90, 50, 8, 0, {10, 50}},
       {"readings equal: the start point", {1, 2}, {1, 9}, 7, 7, 3, 4, -1, {1, 2}},
       {"equal points, not measured", {1, 2}, {1, 2}, 0, 0, 3, 4, 1, {1, 2}},
