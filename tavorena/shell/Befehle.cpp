@@ -129,8 +129,15 @@ void HinzuPunktselektion() {
   if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
   std::vector<std::string> Gewählt;
   if (PunkteAuswählen(Listen, Gewählt) < 0) return;
+  std::sort(Gewählt.begin(), Gewählt.end());
   KoordinatenHinzulesen(Name, Lesemodus::Alle, FormatNachEndung(Name), [&](std::string_view Pnr) {
-    return std::find(Gewählt.begin(), Gewählt.end(), Pnr) != Gewählt.end();
+    const auto Dabei = [&](std::string_view N) {
+      return std::binary_search(Gewählt.begin(), Gewählt.end(), N);
+    };
+    if (Dabei(Pnr) || Pnr.find(',') == std::string_view::npos) return Dabei(Pnr);
+    std::string MitPunkt(Pnr);  // as the sort of the list may have left it
+    ZeichenErsetzen(MitPunkt, ',', '.');
+    return Dabei(MitPunkt);
   });
 }
 

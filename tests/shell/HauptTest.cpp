@@ -319,11 +319,15 @@ TEST_F(HauptOffen, Hinzulesen) {
   Befehl("MenüDateiHinzuLesenNurNeue", Datei);  // of two new points of one number the first
   EXPECT_TRUE(Gleich(KorAnzahl, 6, KorRechts[0], 3500100, KorRechts[5], 1, KoordinatenGeaendert, true));
   Skript.Formulare.push_back(Bediene({{"PSelectGitter", "\n"}, {"OK", ""}}));  // Return marks the first
-  for (int i = 0; i < 2; ++i) Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
+  for (int i = 0; i < 3; ++i) Skript.Erwarte("Achtung, doppelte Punkte vorhanden !");
   Befehl("MenüDateiHinzuLesenPunktselektion", Datei);
   EXPECT_EQ(KorAnzahl, 7);
   Befehl("MenüDateiHinzuLesenKomplett", Datei);
   EXPECT_EQ(KorAnzahl, 12);
+  Schreibe(Datei, "4,5 1.0 1\r\n7000 1.0 1\r\n");  // the list shows 4.5
+  Skript.Formulare.push_back(Bediene({{"PSelectGitter", "\n"}, {"OK", ""}}));
+  Befehl("MenüDateiHinzuLesenPunktselektion", Datei);
+  EXPECT_EQ(KorPnr(0), "4.5");
 }
 
 TEST_F(HauptOffen, StapelÜberDasMenü) {
