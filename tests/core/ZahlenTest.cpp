@@ -4,7 +4,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <locale>
 #include <random>
+#include <sstream>
 
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
@@ -45,9 +47,16 @@ TEST(ZahlFormat, KaufmännischAufDemDezimaltext) {
 }
 
 TEST(ZahlFormat, KenntKeineLandessprache) {
+  struct Komma final : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+  };
   const std::string Vorher = std::setlocale(LC_ALL, nullptr);
-  for (const char* Name : {"de_DE.UTF-8", "de_DE.utf8"}) std::setlocale(LC_ALL, Name);
-  EXPECT_TRUE(Gleich(ZahlFormat(1234.5, 7, 3), "   1234.500", ZahlAusText("1234.5"), 1234.5));
+  const std::locale Alte = std::locale::global(std::locale(std::locale::classic(), new Komma));
+  for (const char* Name : {"de_DE.UTF-8", "de_DE.utf8"})
+    std::setlocale(LC_ALL, Name);  // where it is installed
+  EXPECT_TRUE(Gleich((std::ostringstream() << 1.5).str(), "1,5", ZahlFormat(1234.5, 7, 3), "   1234.500",
+                     ZahlAusText("1234.5"), 1234.5, ZahlNachText(0.5), Wert("0.5")));
+  std::locale::global(Alte);
   std::setlocale(LC_ALL, Vorher.c_str());
 }
 
