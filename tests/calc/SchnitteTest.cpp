@@ -113,6 +113,15 @@ TEST(KreisGerade, Tabelle) {
   for (const int Art : {0, 50}) EXPECT_EQ(SchnittKreisGeradeBerechnung(Art, {}, 5, {{}, {1, 1}}, Werte), -1);
   for (const int Art : {2, 3, 4}) EXPECT_EQ(SchnittKreisGeradeBerechnung(Art, {}, 5, {}, Werte), -2);
   EXPECT_EQ(SchnittKreisGeradeKern({}, 5, {}, Werte), -1);
+  // With a point of the line below 100000 there is no offset: on a line through the centre the sum is rounded
+  // once, whichever of the two it is.
+  Gelände G;
+  for (int i = 0; i < 2000; ++i) {
+    const Lage Mitte{G.Zahl(100001, 101000), 5};
+    const double r = G.Zahl(1, 900), Fern = i % 2 == 0 ? 150000 : -150000;
+    ASSERT_EQ(SchnittKreisGeradeBerechnung(1, Mitte, r, {{75000 + Fern, 5}, {75000 - Fern, 5}}, Werte), 2);
+    ASSERT_EQ(std::max(Werte.S1.RW, Werte.S2.RW), Mitte.RW + r) << i;
+  }
   // A point on a circle comes back from a line through it, however steep.
   constexpr Lage K{3412345.678, 5712345.678}, Soll{K.RW + 30, K.HW + 40};
   for (const double Steigung : {1., -1e3, 1e7, -1e10}) {

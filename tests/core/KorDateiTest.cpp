@@ -191,7 +191,7 @@ TEST_F(KorDatei, Listen) {
   EXPECT_EQ(KorDateiInListen("", L, 10, Anzahl), 0);
   Skript.Erwarte("Datei nicht gefunden:\nfehlt");
   EXPECT_EQ(KorDateiInListen("fehlt", L, 10, Anzahl), -1);
-  Schreibe(Datei = Ordner.Pfad("pp.kor"), "10 1 2 3 a\r\n2 3 4 5 b\r\nkurz\r\n");
+  Schreibe(Datei = Ordner.Pfad("pp.kor"), "10 1 2 3 a\r\n         \r\n2 3 4 5 b\r\nkurz\r\n");
   EXPECT_EQ(KorDateiInListen(Datei, L, 2, Anzahl), 0);
   EXPECT_TRUE(
       Gleich(Anzahl, 2, L.Pnr.at(0), "2", L.Symbol.at(0), "b", L.Pnr.at(1), "10", L.Symbol.at(1), "a"));
