@@ -186,8 +186,9 @@ void Lauf(Eingabe E) {
   Bediener Hand(E);
   Vorbereiten(E);
   while (!E.Rest().empty()) Hand.Ereignis();
-  while (!BlätterSchließen()) {
+  while (!BlätterKlären()) {
   }
+  BlätterSchließen();
   Zählung Geschrieben;
   for (const char* Name : Protokolle) ProtokollZählen(InhaltOderNichts(Ordner() + "/" + Name), Geschrieben);
   std::erase_if(Geschrieben, [](const auto& Z) { return Z.second == 0; });
@@ -201,10 +202,8 @@ void Lauf(Eingabe E) {
   StapelStarten(StapelDatei.Name);
   int Zeilen = 0;
   for (const auto& [Zeile, n] : Sätze) Zeilen += n;
-  while (!BlätterSchließen()) {
-  }
-  Prüfen(!Stapel.Aktiv && !Stapel.Bilanz.Fehler && Stapel.Bilanz.Übergangen.empty(),
-         "der Nachlauf läuft durch");
+  Prüfen(!Stapel.Aktiv && !Stapel.Bilanz.Fehler && StapelBericht().empty(), "der Nachlauf läuft durch");
+  BlätterSchließen();
   Prüfen(Stapel.Bilanz.Zeilen == Zeilen, "der Nachlauf rechnet jede Zeile");
   Zählung Nachlauf;
   ProtokollZählen(InhaltOderNichts(Prot.Datei), Nachlauf);
