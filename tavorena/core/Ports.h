@@ -58,6 +58,10 @@ class Anzeige {
   virtual void ProtokollGeändert() {}
   /// The handbook, at the page of what the user is in.
   virtual void HandbuchZeigen() {}
+  /// The graphics view: opens it, or lets it fill the work area, or gives that back.
+  virtual void GrafikZeigen() {}
+  /// A file was opened that the graphics view is to show, or is closed.
+  virtual void GrafikMitDatei(bool /*Offen*/) {}
   /// Size of the main window [pixels].
   virtual void HauptfensterGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }
   virtual void BildschirmGröße(int& Breite, int& Hoehe) { Breite = Hoehe = 0; }

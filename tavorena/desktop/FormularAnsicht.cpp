@@ -21,6 +21,7 @@
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
+#include <tavorena/graphics/Abgriff.h>
 
 namespace tavorena {
 namespace {
@@ -307,6 +308,13 @@ bool FormularAnsicht::Einfügen(Gitter& G, const QString& Text) {
   FokusMarkieren();
   StatusHilfeSetzen(Anzahl == 1 ? "1 Zeile eingefügt" : std::to_string(Anzahl) + " Zeilen eingefügt");
   return true;
+}
+
+void FormularAnsicht::PunktNehmen(const std::string& Pnr) {
+  const QScopedValueRollback Liest(Lesetiefe, Lesetiefe + 1);
+  if (Modell == nullptr || !AbgriffNehmen(*Modell, Pnr)) return;
+  FokusZeigen();
+  FokusMarkieren();
 }
 
 Gitteransicht& FormularAnsicht::Tabelle(const Gitter& G) const {

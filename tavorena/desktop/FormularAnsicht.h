@@ -32,6 +32,9 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   /// Gives the focus to the control that has it in the form.
   void FokusZeigen();
 
+  /// A point was clicked in the graphics view: the control with the focus takes it, if it takes points.
+  void PunktNehmen(const std::string& Pnr);
+
   /// A field or a row of any form is being read: nobody asked for a question that comes now.
   [[nodiscard]] static bool LiestEingabe() { return Lesetiefe > 0; }
 

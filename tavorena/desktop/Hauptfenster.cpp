@@ -1,3 +1,4 @@
+#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -11,6 +12,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTime>
 #include <QToolBar>
@@ -21,8 +23,10 @@
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
+#include <tavorena/desktop/GrafikAnsicht.h>
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
+#include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
@@ -117,6 +121,7 @@ Hauptfenster::Hauptfenster() : Flaeche(new QMdiArea(this)) {
   SymbolleisteBauen();
   StatusleisteBauen();
   ProtokollfensterBauen();
+  GrafikBauen();
   TerminatorTimer.setSingleShot(true);
   TerminatorTimer.setInterval(TerminatorFrist);
   connect(&TerminatorTimer, &QTimer::timeout, this, [this] {
@@ -134,7 +139,8 @@ void Hauptfenster::PlatzLesen() {
   restoreGeometry(Platz.Bytes("Hauptfenster/Platz"));
   restoreState(Platz.Bytes("Hauptfenster/Leisten"));
   Protokollbreite = Platz.Zahl("Protokoll/Breite");
-  Protokollrahmen->hide();  // whether it is shown is an option
+  Protokollrahmen->hide();  // whether they are shown is an option
+  Grafikrahmen->hide();
 }
 
 void Hauptfenster::PlatzSchreiben() const {
@@ -218,6 +224,68 @@ void Hauptfenster::ProtokollfensterBauen() {
   connect(&Protokolluhr, &QTimer::timeout, this, &Hauptfenster::ProtokollZeigen);
 }
 
+void Hauptfenster::GrafikBauen() {
+  Grafik = new GrafikAnsicht(this);
+  Grafikrahmen = new QDockWidget("Grafik", this);
+  Grafikrahmen->setObjectName("TVKernGrafikform");
+  Grafikrahmen->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  Grafikrahmen->setWidget(Grafik);
+  addDockWidget(Qt::RightDockWidgetArea, Grafikrahmen);
+  Grafikrahmen->hide();
+  connect(Grafikrahmen, &QDockWidget::visibilityChanged, Flaeche, [this](bool An) {
+    if (!An) Flaeche->show();  // what filled the work area gives it back
+  });
+  Grafik->Bild().BeiPunkt = [](const std::string& Pnr) {
+    QWidget* W = QApplication::focusWidget();
+    while (W != nullptr && dynamic_cast<FormularAnsicht*>(W) == nullptr) W = W->parentWidget();
+    if (auto* Ansicht = dynamic_cast<FormularAnsicht*>(W)) Ansicht->PunktNehmen(Pnr);
+  };
+  // Between two events the view takes over what became of the table.
+  for (const auto Signal : {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
+    connect(QAbstractEventDispatcher::instance(), Signal, Grafik, [this] {
+      if (Grafik->isVisible()) Grafik->Nachsehen();
+    });
+  }
+  const auto Taste = [this](const QKeySequence& Folge, void (*Tun)()) {
+    connect(new QShortcut(Folge, this), &QShortcut::activated, Grafik, [this, Tun] {
+      if (Grafik->isVisible()) Tun();
+    });
+  };
+  Taste(Qt::CTRL | Qt::Key_Plus, GrafZoomin);
+  Taste(Qt::CTRL | Qt::Key_Minus, GrafZoomout);
+  Taste(Qt::CTRL | Qt::Key_0, GrafikZoomAnpassen);
+  connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, Grafik, [this] { FokusTauschen(); });
+}
+
+// F6 leads into the view and back to where the focus was.
+void Hauptfenster::FokusTauschen() {
+  if (!Grafik->isVisible()) return;
+  if (!Grafik->Bild().hasFocus()) {
+    Vorheriger = QApplication::focusWidget();
+    Grafik->Bild().setFocus();
+  } else if (Vorheriger != nullptr) {
+    Vorheriger->setFocus();
+  } else {
+    Flaeche->setFocus();
+  }
+}
+
+void Hauptfenster::GrafikZeigen() {
+  if (!Grafikrahmen->isVisible()) return GrafikÖffnenSchließen(true);
+  Flaeche->setVisible(!Flaeche->isVisible());
+}
+
+void Hauptfenster::GrafikÖffnenSchließen(bool Offen) {
+  const bool Neu = Offen && Grafikrahmen->isHidden();
+  Grafikrahmen->setVisible(Offen);
+  if (!Neu) return;
+  if (Fensterplatz().Bytes("Hauptfenster/Leisten").isEmpty())
+    resizeDocks({Grafikrahmen}, {width() * 3 / 8}, Qt::Horizontal);
+  // It fits when the docks have found their places.
+  const bool Anpassen = GrafikFenster.Massstab == 0 || !GrafikFenster.Gemerkt;
+  if (Anpassen) QTimer::singleShot(0, Grafik, GrafikZoomAnpassen);
+}
+
 void Hauptfenster::ProtokollZeigen() {
   const bool Neu = Optionen.ProtokollfensterAn && Protokollrahmen->isHidden();
   Protokollrahmen->setVisible(Optionen.ProtokollfensterAn);
@@ -266,6 +334,7 @@ void Hauptfenster::Auffrischen() {
 }
 
 void Hauptfenster::BlattZeigen(Formular& Form) {
+  Flaeche->show();
   auto* Ansicht = new FormularAnsicht(Form);
   auto* Fenster = new Blattfenster(Ansicht);
   Flaeche->addSubWindow(Fenster);
@@ -354,6 +423,11 @@ bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
     HilfeZeigen();
     return true;
   }
+  // Escape belongs to the drawing in the view first, then to the field.
+  if (Ereignis->type() == QEvent::KeyPress &&
+      static_cast<const QKeyEvent&>(*Ereignis).key() == Qt::Key_Escape &&
+      QApplication::activeModalWidget() == nullptr && Grafik->isVisible() && Grafik->Verlassen())
+    return true;
   if (Objekt == Flaeche->viewport() && Ereignis->type() == QEvent::MouseMove) StatusHilfeSetzen("");
   return QMainWindow::eventFilter(Objekt, Ereignis);
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <tavorena/core/Ports.h>
@@ -21,6 +22,7 @@ class QPlainTextEdit;
 namespace tavorena {
 
 class Formular;
+class GrafikAnsicht;
 
 /// The main window: menus, tool bar, status bar, the worksheets and the protocol window. What can be used
 /// and what it does stands in TVKernMDIForm.
@@ -42,6 +44,9 @@ class Hauptfenster final : public QMainWindow {
   void Sperren(bool An);
   /// Opens the handbook at the page of the menu entry, form or dialog that the user is in.
   void HilfeZeigen();
+  /// Opens the graphics view, or lets it fill the work area, or gives that back.
+  void GrafikZeigen();
+  void GrafikÖffnenSchließen(bool Offen);
   /// Ends the program when the event that runs is done.
   void Beenden();
 
@@ -55,6 +60,8 @@ class Hauptfenster final : public QMainWindow {
   void SymbolleisteBauen();
   void StatusleisteBauen();
   void ProtokollfensterBauen();
+  void GrafikBauen();
+  void FokusTauschen();
   void ProtokollZeigen();
   void ProtokollNachziehen();
   void PlatzSchreiben() const;
@@ -66,7 +73,10 @@ class Hauptfenster final : public QMainWindow {
   QMdiArea* Flaeche;
   QDockWidget* Protokollrahmen = nullptr;
   QPlainTextEdit* Protokolltext = nullptr;
-  Fensterstand Protokollstand;  // of the protocol that Protokolltext shows
+  QDockWidget* Grafikrahmen = nullptr;
+  GrafikAnsicht* Grafik = nullptr;
+  QPointer<QWidget> Vorheriger;  // had the focus before the view
+  Fensterstand Protokollstand;   // of the protocol that Protokolltext shows
   QTimer TerminatorTimer;
   QTimer Uhr;
   QTimer Protokolluhr;

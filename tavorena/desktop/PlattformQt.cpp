@@ -203,6 +203,8 @@ void PlattformQt::HauptfensterGeändert() { Fenster.Auffrischen(); }
 void PlattformQt::ProtokollGeändert() { Fenster.ProtokollSpäterZeigen(); }
 
 void PlattformQt::HandbuchZeigen() { Fenster.HilfeZeigen(); }
+void PlattformQt::GrafikZeigen() { Fenster.GrafikZeigen(); }
+void PlattformQt::GrafikMitDatei(bool Offen) { Fenster.GrafikÖffnenSchließen(Offen); }
 
 void PlattformQt::HauptfensterGröße(int& Breite, int& Hoehe) {
   Breite = Fenster.width();

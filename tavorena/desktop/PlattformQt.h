@@ -21,6 +21,8 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
   void HauptfensterGeändert() override;
   void ProtokollGeändert() override;
   void HandbuchZeigen() override;
+  void GrafikZeigen() override;
+  void GrafikMitDatei(bool Offen) override;
   void HauptfensterGröße(int& Breite, int& Hoehe) override;
   void BildschirmGröße(int& Breite, int& Hoehe) override;
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;

@@ -76,15 +76,31 @@ double AbstandBogen(const GrafikBogen& B, double R, double H) {
   return std::min(Zu(B.Anfang), Zu(B.Ende));
 }
 
+// Cuts a line to the picture, whose painter would walk along all of it. @return false: nothing is left
+bool Stutzen(double& x1, double& y1, double& x2, double& y2) {
+  const double dx = x2 - x1, dy = y2 - y1;
+  const double Weg[] = {-dx, dx, -dy, dy};
+  const double Platz[] = {x1 + Zeichenradius, GrafikFenster.BildBreite + Zeichenradius - x1,
+                          y1 + Zeichenradius, GrafikFenster.BildHoehe + Zeichenradius - y1};
+  double Von = 0, Bis = 1;
+  for (int i = 0; i < 4; ++i) {
+    if (Weg[i] == 0 && Platz[i] < 0) return false;
+    if (Weg[i] < 0) Von = std::max(Von, Platz[i] / Weg[i]);
+    if (Weg[i] > 0) Bis = std::min(Bis, Platz[i] / Weg[i]);
+  }
+  if (!(Von <= Bis)) return false;
+  x2 = x1 + Bis * dx;
+  y2 = y1 + Bis * dy;
+  x1 += Von * dx;
+  y1 += Von * dy;
+  return true;
+}
+
 void LinieZeichnen(Zeichenfläche& Auf, const GrafikLinie& L) {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
   GrafikPixelAusWelt(L.Rechts1, L.Hoch1, x1, y1);
   GrafikPixelAusWelt(L.Rechts2, L.Hoch2, x2, y2);
-  const Grafikzustand& G = GrafikFenster;
-  if (std::max(x1, x2) < 0 || std::min(x1, x2) > G.BildBreite || std::max(y1, y2) < 0 ||
-      std::min(y1, y2) > G.BildHoehe)
-    return;
-  Auf.Linie(x1, y1, x2, y2, L.Farbe, L.Stil);
+  if (Stutzen(x1, y1, x2, y2)) Auf.Linie(x1, y1, x2, y2, L.Farbe, L.Stil);
 }
 
 void BogenZeichnen(Zeichenfläche& Auf, const GrafikBogen& B) {

@@ -212,6 +212,7 @@ const Befehl Befehle[] = {
     {"MenüDateiHinzuLesenNurNeue", true, HinzuNurNeue},
     {"MenüDateiHinzuLesenPunktbereich", true, HinzuPunktbereich},
     {"MenüDateiHinzuLesenPunktselektion", true, HinzuPunktselektion},
+    {"MenüAnsichtGrafik(1)", true, [] { AnzeigePort().GrafikZeigen(); }},
     {"MenüAnsichtTextPad(0)", true, AnsichtProtokoll},
     {"MenüAnsichtTextPad(1)", true, AnsichtStapel},
     {"MenüAnsichtTextPad(2)", true, AnsichtKoordinaten},

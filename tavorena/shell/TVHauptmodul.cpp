@@ -10,6 +10,9 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/graphics/GrafDesign.h>
+#include <tavorena/graphics/Grafikfenster.h>
+#include <tavorena/graphics/Grafikmodul.h>
 #include <tavorena/points/TVPDoppForm.h>
 #include <tavorena/records/Neupunktblock.h>
 #include <tavorena/records/Protokoll.h>
@@ -74,6 +77,14 @@ void OhnePunkte() {
   KorGeaendertSetzen(false);
 }
 
+// What was seen and drawn belongs to the file that is closed.
+void GrafikZurücksetzen() {
+  GrafikLeeren();
+  GrafDesignLeeren();
+  GrafikFenster.Gemerkt = false;
+  GrafikFenster.Massstab = 0;
+}
+
 // The mean stands within the running page; as the first entry of a protocol it has a head of its own.
 void MittelEintragen(const Mittelpunkt& M) {
   std::shared_ptr<const Verbindung> Kopf;
@@ -103,6 +114,8 @@ void HauptInitialisierung() {
   ProtokollNehmen("");
   Protokollfenster.Leeren();
   StapelDatei = {};
+  AnzeigePort().GrafikMitDatei(false);
+  GrafikZurücksetzen();
   OptionenLesen();
   HistorieLesen();
   FormularLesen();
@@ -173,6 +186,7 @@ void HauptDateiOffenSetzen() {
   VerzeichnisMerken(KoordinatendateiName);
   HauptHistSchreiben(KoordinatendateiName, Koordinatendateiformat);
   TVKernMDIForm::Fenster().DateiOffen();
+  if (Optionen.GrafikfensterAn) AnzeigePort().GrafikMitDatei(true);
 }
 
 int HauptDateiSpeichern() {

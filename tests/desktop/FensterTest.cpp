@@ -14,6 +14,9 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/graphics/GrafDesign.h>
+#include <tavorena/graphics/Grafikfenster.h>
+#include <tavorena/graphics/Grafikmodul.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelleser.h>
@@ -437,6 +440,74 @@ class FensterTest : public QObject {
     Tippe("2004\n");
     QCOMPARE(Fenster->findChild<QTableView*>("PolelGitter")->model()->index(0, 0).data().toString(),
              QString("2003"));
+  }
+
+  // Connection and rows clicked in the view; what was seen there comes and goes with the mouse and the keys.
+  void punkteAusDerGrafik() {
+    Öffne("MenüKatasterLinel");
+    auto* Bild = Fenster->findChild<QWidget*>("GrafBild");
+    QTRY_VERIFY(Bild->isVisible() && GrafikFenster.Massstab > 0);
+    QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
+    const auto Ort = [](const char* Pnr) {
+      const auto z = static_cast<std::size_t>(KorSuche(std::string_view(Pnr)));
+      double x = 0, y = 0;
+      GrafikPixelAusWelt(KorRechts[z], KorHoch[z], x, y);
+      return QPoint(qRound(x / TwipsJePixel), qRound(y / TwipsJePixel));
+    };
+    const auto Klicke = [&](const char* Pnr) { QTest::mouseClick(Bild, Qt::LeftButton, {}, Ort(Pnr)); };
+    QTRY_VERIFY(Bild->rect().contains(Ort("1001")) && Bild->rect().contains(Ort("2005")));
+    QTest::mouseClick(Bild, Qt::LeftButton, {}, QPoint(1, 1));  // no point there
+    QCOMPARE(FokusName(), QString("LinelAnfPnr"));
+    Klicke("1001");
+    QCOMPARE(FokusName(), QString("LinelEndPnr"));
+    Klicke("1002");
+    Tippe("0\n0\n");
+    for (const char* Pnr : {"2003", "2004", "2005"}) Klicke(Pnr);
+    QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 3);
+    // Wheel and middle button; Ctrl+0 from the field brings all back.
+    const QPoint Vorher = Ort("2003");
+    const double Massstab = GrafikFenster.Massstab;
+    QWheelEvent Rad(Vorher, Bild->mapToGlobal(Vorher), {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                    false);
+    QCoreApplication::sendEvent(Bild, &Rad);
+    QVERIFY(qFuzzyCompare(GrafikFenster.Massstab, 1.25 * Massstab));
+    QVERIFY((Ort("2003") - Vorher).manhattanLength() <= 1);
+    QTest::mousePress(Bild, Qt::MiddleButton, {}, Vorher);
+    QTest::mouseMove(Bild, Vorher + QPoint(20, -10));
+    QTest::mouseRelease(Bild, Qt::MiddleButton, {}, Vorher + QPoint(20, -10));
+    QVERIFY((Ort("2003") - Vorher - QPoint(20, -10)).manhattanLength() <= 1);
+    Drücke(Qt::Key_0, Qt::ControlModifier);
+    QCOMPARE(Ort("2003"), Vorher);
+    QTest::mousePress(Bild, Qt::LeftButton, Qt::ShiftModifier, QPoint(20, 20));
+    QTest::mouseMove(Bild, QPoint(Bild->width() / 2, Bild->height() / 2));
+    QTest::mouseRelease(Bild, Qt::LeftButton, Qt::ShiftModifier,
+                        QPoint(Bild->width() / 2, Bild->height() / 2));
+    QVERIFY(GrafikFenster.Massstab > 1.5 * Massstab);
+    Fenster->findChild<QAction*>("GrafikZoomAnpa")->trigger();
+    // Drawing takes the clicks until Escape, which the field then has again.
+    Fenster->findChild<QAction*>("GrafDesign(0)")->trigger();
+    Klicke("1001");
+    Klicke("2003");
+    QCOMPARE(GrafikFreieLinien().size(), 1U);
+    QTest::keyClicks(QApplication::focusWidget(), "77");
+    Drücke(Qt::Key_Escape);
+    QCOMPARE(GrafDesignSchritt(), Zeichenschritt::Keiner);
+    QCOMPARE(Feldtext(), QString("77"));
+    Drücke(Qt::Key_Escape);
+    QCOMPARE(Feldtext(), QString());
+    Drücke(Qt::Key_F6);
+    QCOMPARE(FokusName(), QString("GrafBild"));
+    Drücke(Qt::Key_Plus);
+    QVERIFY(qFuzzyCompare(GrafikFenster.Massstab, 2 * Massstab));
+    Drücke(Qt::Key_F6);
+    QCOMPARE(FokusName(), QString("LinelGitterFeld"));
+    // A point that comes is seen, closing the file closes the view.
+    const QImage Ohne = Bild->grab().toImage();
+    QCOMPARE(KorZeileSetzen(0, {"1001", 3500120, 5600260, 0, "", nullptr}), 0);
+    QTRY_VERIFY(Bild->grab().toImage() != Ohne);
+    Antworte(Qt::Key_N);
+    Menü("MenüDateiSchließen");
+    QVERIFY(!Bild->isVisible() && GrafikFreieLinien().empty());
   }
 
   // A name from a file is no markup.

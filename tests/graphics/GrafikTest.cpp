@@ -147,7 +147,7 @@ TEST_F(GrafikTest, ZeichnetInDerRichtigenFolge) {
   GrafikBogenHinzu({500, 500, 100, 0, 90, FarbeBlau, true});
   const int Marke = GrafikMarkeHinzu({"2", 1000, 500, "MARK", FarbeRot});
   const int Linie = GrafikLinieHinzu({0, 0, 1000, 500, FarbeRot, Strich::Gestrichelt, false});
-  GrafikLinieHinzu({-10, 0, -10, 500});  // outside
+  GrafikLinieHinzu({-100, 0, -100, 500});  // outside
   const int Text = GrafikTextHinzu({10, 20, "Text", 8, FarbeSchwarz});
   EXPECT_EQ(Gezeichnet(),
             (std::vector<std::string>{

@@ -1,0 +1,58 @@
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include <tavorena/graphics/Abgriff.h>
+
+namespace tavorena {
+namespace {
+
+// The forms that take points from the view.
+constexpr std::array<std::string_view, 20> Formen{"tvausgleichform",
+                                                  "tvdreidform",
+                                                  "tvkernkoordinateneditor",
+                                                  "tvberichform",
+                                                  "tvpmittform",
+                                                  "tvploeschform",
+                                                  "tvlinelform",
+                                                  "tvpolelform",
+                                                  "tvdisform",
+                                                  "tvorthoform",
+                                                  "tvpolarform",
+                                                  "tvintllform",
+                                                  "tvintblform",
+                                                  "tvintbbform",
+                                                  "tvkmittform",
+                                                  "tvareaform",
+                                                  "tvfstatform",
+                                                  "tvvorwaertsschnittform",
+                                                  "tvrueckwaertsschnittform",
+                                                  "tvpolygonform"};
+constexpr std::array<std::string_view, 5> Endungen{"Pnr", "Pnr1", "Pnr2", "Pnrvon", "Pnrbis"};
+
+std::string Kleintext(std::string Text) {
+  for (char& c : Text) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return Text;
+}
+
+}  // namespace
+
+bool NimmtAbgriff(const Formular& Form, const Steuerelement& S) {
+  if (std::find(Formen.begin(), Formen.end(), Kleintext(Form.FormName)) == Formen.end()) return false;
+  if (const auto* G = dynamic_cast<const Gitter*>(&S)) return G->IstPnr && !G->NurLesen && G->Zeilen() > 0;
+  const std::string_view Name = std::string_view(S.Name).substr(0, S.Name.find('('));
+  return dynamic_cast<const Feld*>(&S) != nullptr &&
+         std::any_of(Endungen.begin(), Endungen.end(), [&](std::string_view E) { return Name.ends_with(E); });
+}
+
+bool AbgriffNehmen(Formular& Form, const std::string& Pnr) {
+  Steuerelement* const S = Form.Fokus();
+  if (S == nullptr || !Formular::NimmtFokus(*S) || !NimmtAbgriff(Form, *S)) return false;
+  if (auto* G = dynamic_cast<Gitter*>(S); G != nullptr && !G->ZelleOffen())
+    Form.ZelleWechseln(*G, G->Zeile, 0);
+  Form.Tippen(dynamic_cast<Eingabeelement&>(*S), Pnr);
+  Form.TasteDrücken(Taste::Return);
+  return true;
+}
+
+}  // namespace tavorena
