@@ -285,6 +285,7 @@ void GrafikAnsicht::BefehleAnlegen() {
     });
   };
   Schalter("GrafNummern", "Punktnummern", "Nr.", GrafikWahl.Nummern);
+  Schalter("GrafFreistellen", "Nummern ohne Überdeckung", "Frei", GrafikWahl.Freistellen);
   Schalter("GrafMaßstabsleiste", "Maßstabsleiste", "Maßstab", GrafikWahl.Maßstabsleiste);
 }
 

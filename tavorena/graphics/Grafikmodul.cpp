@@ -7,6 +7,7 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
+#include <tavorena/graphics/Nummernwahl.h>
 #include <tavorena/graphics/Punktindex.h>
 #include <tavorena/graphics/Punktzeichen.h>
 
@@ -19,8 +20,6 @@ std::function<void()> GrafikBeiÄnderung;
 namespace {
 
 constexpr int Schriftgrad = 8;         // points
-constexpr double Nummernabstand = 90;  // twips from the middle of the sign to its number
-constexpr double Zeichenbreite = 105;  // twips, at most, of a character of a number
 constexpr double Leistenlänge = 2400;  // twips that the scale bar may take
 constexpr double Leistenrand = 300;    // twips from the corner
 
@@ -30,6 +29,7 @@ struct {
   Elementspeicher<GrafikText> Texte;
   Elementspeicher<GrafikMarke> Marken;
   Punktindex Index;
+  Nummernwahl Wahl;
 } Bild;
 
 template <typename Element>
@@ -122,13 +122,17 @@ void TextZeichnen(Zeichenfläche& Auf, const GrafikText& T) {
 void PunkteZeichnen(Zeichenfläche& Auf) {
   const Grafikzustand& G = GrafikFenster;
   const double Rand = Zeichenradius / G.Massstab,
-               Links = GrafikWahl.Nummern ? (Nummernabstand + 20 * Zeichenbreite) / G.Massstab : Rand;
+               Links = GrafikWahl.Nummern ? (Nummernabstand + 20 * Nummernzeichen) / G.Massstab : Rand;
   std::vector<int> Zeilen;
   Bild.Index.Im(G.FensterRechts - Links, G.FensterHoch - Rand, G.FensterRechts + G.FensterBreite + Rand,
                 G.FensterHoch + G.FensterHoehe + Rand, Zeilen);
+  const std::vector<char>* const Frei =
+      GrafikWahl.Freistellen && GrafikWahl.Nummern ? &Bild.Wahl.Bei(G.Massstab) : nullptr;
   for (const int z : Zeilen) {
     const auto i = static_cast<std::size_t>(z);
-    GrafikPunktZeichnen(Auf, KorPnr(z), KorRechts[i], KorHoch[i], KorSymbol[i], FarbeSchwarz);
+    const bool MitNummer = Frei == nullptr || (*Frei)[i] != 0;
+    GrafikPunktZeichnen(Auf, MitNummer ? KorPnr(z) : "", KorRechts[i], KorHoch[i], KorSymbol[i],
+                        FarbeSchwarz);
   }
 }
 
@@ -208,7 +212,7 @@ void GrafikPunktZeichnen(Zeichenfläche& Auf, const std::string& Pnr, double Rec
   GrafikPixelAusWelt(Rechts, Hoch, x, y);
   const bool MitNummer = GrafikWahl.Nummern && !Pnr.empty();
   const double Reicht =
-      MitNummer ? Nummernabstand + static_cast<double>(Pnr.size()) * Zeichenbreite : Zeichenradius;
+      MitNummer ? Nummernabstand + static_cast<double>(Pnr.size()) * Nummernzeichen : Zeichenradius;
   if (x + Reicht < 0 || x - Zeichenradius > G.BildBreite || y + Zeichenradius < 0 ||
       y - Zeichenradius > G.BildHoehe)
     return;

@@ -49,6 +49,7 @@ void GrafikLeeren();
 struct Grafikwahl {
   bool Nummern = true;
   bool Maßstabsleiste = true;
+  bool Freistellen = false;  ///< of numbers that overlap only those of lower rows
 };
 extern Grafikwahl GrafikWahl;
 

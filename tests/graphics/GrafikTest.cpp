@@ -21,7 +21,7 @@ class GrafikTest : public TabellenTest {
   GrafikTest() {
     GrafikBeiÄnderung = {};
     GrafikFenster = {};
-    GrafikWahl = {true, false};
+    GrafikWahl = {true, false, false};
     GrafikLeeren();
     GrafDesignLeeren();
   }
@@ -159,7 +159,7 @@ TEST_F(GrafikTest, ZeichnetInDerRichtigenFolge) {
   GrafikLinieWeg(Linie);
   GrafikTextWeg(Text);
   GrafikTextWeg(Text);  // it is gone
-  GrafikWahl = {false, true};
+  GrafikWahl = {false, true, false};
   const auto Rest = Gezeichnet();
   EXPECT_EQ(Rest.size(), 3U + 2 + 1 + 4);
   EXPECT_EQ(Rest.back(), "Text 2000 m 2390 450 f0");  // the scale bar
@@ -179,6 +179,27 @@ TEST_F(GrafikTest, RandWirdMitgezeichnet) {
   int Texte = 0;
   for (const std::string& Z : Gezeichnet()) Texte += Z.starts_with("Text") ? 1 : 0;
   EXPECT_EQ(Texte, 2);
+}
+
+// Of numbers that overlap the first in the table is shown, wherever the window stands.
+TEST_F(GrafikTest, NummernOhneÜberdeckung) {
+  Punkt("1001", 0, 0);
+  Punkt("1002", 300, 0);  // begins inside the first
+  Punkt("1003", 520, 0);  // would overlap the second, which is not there
+  Punkt("1004", 0, 179);
+  Punkt("1005", 0, 181);
+  GrafikWahl.Freistellen = true;
+  const auto Nummern = [](double Rechts) {
+    GrafikFenster = {true, 1500, 750, 1, Rechts, -100, 1500, 750, 0, 0, 0, 0, false};
+    std::string Alle;
+    for (const std::string& Z : Gezeichnet()) Alle += Z.starts_with("Text") ? Z.substr(4, 5) : "";
+    return Alle;
+  };
+  EXPECT_EQ(Nummern(-100), " 1001 1003 1005");
+  EXPECT_EQ(Nummern(200), " 1001 1003 1005");  // the first one reaches in
+  EXPECT_EQ(Nummern(515), " 1003");
+  KorAbschneiden(0);
+  EXPECT_EQ(Nummern(0), "");
 }
 
 TEST_F(GrafikTest, ZeichenbefehleFragenDerReiheNach) {

@@ -498,7 +498,7 @@ TEST_F(BlattTest, NeupunktEintragenFragtNurBeiAndererLage) {
 // away.
 TEST_F(BlattTest, MarkenInDerGrafik) {
   GrafikLeeren();
-  GrafikWahl = {true, false};
+  GrafikWahl = {true, false, false};
   GrafikFenster = {true, 400, 400, 2, 3500050, 5600190, 200, 200, 0, 0, 0, 0, false};
   const auto Leer = Gezeichnet();
   const auto Neues = [&] {  // beside the points of the table
