@@ -16,6 +16,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/desktop/Ansichtdatei.h>
 #include <tavorena/desktop/GrafikAnsicht.h>
 #include <tavorena/desktop/Malflaeche.h>
 #include <tavorena/graphics/GrafDesign.h>
@@ -287,6 +288,8 @@ void GrafikAnsicht::BefehleAnlegen() {
   Schalter("GrafNummern", "Punktnummern", "Nr.", GrafikWahl.Nummern);
   Schalter("GrafFreistellen", "Nummern ohne Überdeckung", "Frei", GrafikWahl.Freistellen);
   Schalter("GrafMaßstabsleiste", "Maßstabsleiste", "Maßstab", GrafikWahl.Maßstabsleiste);
+  Leiste->addSeparator();
+  Befehl("GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
 }
 
 void GrafikAnsicht::Nachsehen() {

@@ -29,9 +29,10 @@ struct Seite {
   const char* Datei;
 };
 constexpr Seite Seiten[] = {
-    {0, "index.md"},    {1000, "datei.md"},      {1080, "stapel.md"},   {1090, "protokoll.md"},
-    {1100, "datei.md"}, {2000, "bearbeiten.md"}, {3000, "ansicht.md"},  {4000, "rechenblatt.md"},
-    {5000, "index.md"}, {8000, "index.md"},      {8020, "optionen.md"}, {8040, "index.md"},
+    {0, "index.md"},          {1000, "datei.md"},      {1080, "stapel.md"},  {1090, "protokoll.md"},
+    {1100, "datei.md"},       {2000, "bearbeiten.md"}, {3000, "ansicht.md"}, {3100, "grafik.md"},
+    {4000, "rechenblatt.md"}, {5000, "index.md"},      {8000, "index.md"},   {8020, "optionen.md"},
+    {8040, "index.md"},
 };
 
 QUrl Adresse(const QString& Datei) { return QUrl("qrc:/handbuch/" + Datei); }

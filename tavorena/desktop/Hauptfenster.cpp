@@ -34,6 +34,7 @@ namespace tavorena {
 namespace {
 
 constexpr int TerminatorFrist = 200;  // ms
+constexpr int Grafikseite = 3100;     // help number of the view
 
 TVKernMDIForm& Kern() { return TVKernMDIForm::Fenster(); }
 
@@ -400,6 +401,7 @@ void Hauptfenster::HilfeZeigen() {
     const auto* M = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
     if (M != nullptr && M->activeAction() == A) Nummer = Kern().Hilfe(*E);
   }
+  if (Nummer == 0 && Grafik->Bild().hasFocus()) Nummer = Grafikseite;
   const QWidget* W = QApplication::focusWidget();
   while (Nummer == 0 && W != nullptr) {
     const auto* Ansicht = dynamic_cast<const FormularAnsicht*>(W);

@@ -6,9 +6,13 @@
 #include <QTranslator>
 
 #include <tavorena/core/Geschuetzt.h>
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/desktop/Ansichtdatei.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
 
@@ -17,6 +21,7 @@ using namespace tavorena;
 namespace {
 
 constexpr const char* Hilfe = R"(Aufruf: tavorena [--hell | --dunkel] [datei.kor]
+        tavorena datei.kor --ansicht bild.svg [--groesse 800x600]
 
 Vermessungstechnische Berechnungen auf der Koordinatendatei datei.kor.
 
@@ -25,8 +30,10 @@ Optionen:
   --version    Fassung des Programms
   --hell       Helles Aussehen
   --dunkel     Dunkles Aussehen; ohne Angabe das des Systems
+  --ansicht    Schreibt die Grafik aller Punkte (pdf, svg oder png), ohne ein Fenster
+  --groesse    Breite und Höhe der Ansicht in Bildpunkten, sonst 1200x900
 
-Rückgabewert: 0 getan; 1 das Fenster kann nicht gezeigt werden; 2 falscher Aufruf.
+Rückgabewert: 0 getan; 1 nicht getan, etwa weil das Fenster nicht gezeigt werden kann; 2 falscher Aufruf.
 )";
 
 // Options that Qt takes for itself.
@@ -50,12 +57,47 @@ int Aufruffehler(const QString& Text) {
   return 2;
 }
 
+// Of the view that is written; empty: what was typed is none.
+QSize GrößeVon(const QCommandLineParser& Zeile) {
+  if (!Zeile.isSet("groesse")) return {1200, 900};
+  const QStringList Teile = Zeile.value("groesse").split('x');
+  const QSize Größe = Teile.size() == 2 ? QSize(Teile[0].toInt(), Teile[1].toInt()) : QSize();
+  return Größe.width() > 10000 || Größe.height() > 10000 ? QSize() : Größe;
+}
+
+// Messages of a run without a window.
+class Stumm final : public Rückfragen, public Umgebung {
+ public:
+  int Meldung(const std::string& Text, Knöpfe /*Art*/, const std::string& /*Titel*/, int Vorgabe) override {
+    std::cerr << "tavorena: " << QString::fromStdString(Text).replace('\n', ' ').toStdString() << '\n';
+    return Vorgabe;
+  }
+  std::string ProgrammOrdner() override { return QCoreApplication::applicationDirPath().toStdString(); }
+};
+
+int AnsichtAusgeben(const std::string& Koordinaten, QSize Größe, const std::string& Ziel) {
+  Stumm Fragen;
+  PortsSetzen({&Fragen, nullptr, nullptr, &Fragen});
+  DateinamenAbleiten();
+  int Ergebnis = -1;
+  const auto Tun = [&] {
+    OptionenLesen();
+    if (KorLesen(Koordinaten, Lesemodus::Ersetzen, FormatNachEndung(Koordinaten)) < 0) return;
+    GrafikÖffnen(Größe.width() * TwipsJePixel, Größe.height() * TwipsJePixel);
+    Ergebnis = AnsichtSchreiben(Ziel);
+  };
+  const bool Gut = Geschützt("Tavorena.Ansicht", Tun) == 0 && Ergebnis == 0;
+  PortsSetzen({});
+  return Gut ? 0 : 1;
+}
+
 // Looks at the command line before there is a window: help and faults need no display.
 // @return -1 to go on; else the exit status
 int AufrufLesen(QCommandLineParser& Zeile, const QStringList& Worte) {
   Zeile.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);  // as Qt writes its own
   for (const char* Name : {"hell", "dunkel", "version"}) Zeile.addOption(QCommandLineOption(Name));
   Zeile.addOption(QCommandLineOption(QStringList{"h", "help"}));
+  for (const char* Name : {"ansicht", "groesse"}) Zeile.addOption(QCommandLineOption(Name, {}, "x"));
   for (const QString& Name : MitWert) Zeile.addOption(QCommandLineOption(Name, {}, "x"));
   for (const QString& Name : OhneWert) Zeile.addOption(QCommandLineOption(Name));
   const bool Gut = Zeile.parse(Worte);
@@ -66,6 +108,11 @@ int AufrufLesen(QCommandLineParser& Zeile, const QStringList& Worte) {
     return Aufruffehler("unbekannte Angabe: " + Zeile.positionalArguments().at(1));
   if (Zeile.isSet("help")) return std::cout << Hilfe, 0;
   if (Zeile.isSet("version")) return std::cout << "tavorena " TAVORENA_FASSUNG "\n", 0;
+  if (Zeile.isSet("groesse") && GrößeVon(Zeile).isEmpty())
+    return Aufruffehler("falsche Angabe: --groesse " + Zeile.value("groesse"));
+  if (Zeile.isSet("ansicht"))
+    return Zeile.positionalArguments().isEmpty() ? Aufruffehler("--ansicht braucht eine Koordinatendatei")
+                                                 : -1;
   if (MitBildschirm(Zeile)) return -1;
   std::cerr << "tavorena: kein Bildschirm; ohne Fenster rechnet tavorena-stapel\n";
   return 1;
@@ -79,6 +126,8 @@ int main(int argc, char** argv) {
   QCommandLineParser Zeile;
   if (const int Ende = AufrufLesen(Zeile, Worte); Ende >= 0) return Ende;
 
+  const bool NurAnsicht = Zeile.isSet("ansicht");
+  if (NurAnsicht) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication App(argc, argv);
   QApplication::setApplicationName("Tavorena");
   QApplication::setDesktopFileName("tavorena");
@@ -89,6 +138,9 @@ int main(int argc, char** argv) {
   AussehenSetzen(App, Zeile.isSet("dunkel") ? Helligkeit::Dunkel
                       : Zeile.isSet("hell") ? Helligkeit::Hell
                                             : Helligkeit::System);
+  if (NurAnsicht)
+    return AnsichtAusgeben(Zeile.positionalArguments().first().toStdString(), GrößeVon(Zeile),
+                           Zeile.value("ansicht").toStdString());
   Hauptfenster Fenster;
   PlattformQt Qt(Fenster);
   PortsSetzen(PortsVon(Qt));

@@ -108,7 +108,7 @@ constexpr Menüeintrag Baum[] = {
     {"MenüAnsichtQuasi", "&Quasiidentische Punkte", 0, Ansicht},
     {"MenüAnsichtBelegung", "&Punktnummern&belegung", 0, Ansicht},
     {"MenüAnsichtStrich1", "", 0, Ansicht},
-    {"MenüAnsichtGrafik(1)", "&Grafik- Vollbild", 0, Ansicht},
+    {"MenüAnsichtGrafik(1)", "&Grafik- Vollbild", 3100, Ansicht},
     {"MenüAnsichtTextPad", "Texteditor", 0, Ansicht, Verborgen},
     {"MenüAnsichtTextPad(0)", "&Protokolldatei", 0, "MenüAnsichtTextPad"},
     {"MenüAnsichtTextPad(1)", "&Stapeldatei", 0, "MenüAnsichtTextPad"},

@@ -116,6 +116,32 @@ TEST_F(Programm, AuskunftOhneBildschirm) {
   EXPECT_EQ(Aus.find("Options"), std::string::npos) << Aus;
 }
 
+TEST_F(Programm, AnsichtOhneBildschirm) {
+  if (*TAVORENA_FENSTER == '\0') GTEST_SKIP() << "a build without Qt";
+  const struct {
+    const char *Worte, *Anfang, *Darin;
+    int Rückgabe;
+  } Fälle[] = {{"a.kor --ansicht aus.svg", "<?xml", ">1001</text>", 0},
+               {"a.kor --ansicht aus.pdf --groesse 800x600", "%PDF-", "/MediaBox [0 0 600", 0},
+               {"a.kor --ansicht aus.png --groesse 320x200", "\x89PNG", "IHDR", 0},
+               {"a.kor --ansicht aus.bmp", "", "", 1},
+               {"fehlt.kor --ansicht aus.svg", "", "", 1},
+               {"a.kor --ansicht fehlt/aus.svg", "", "", 1},
+               {"--ansicht aus.svg", "", "", 2},
+               {"a.kor --ansicht aus.svg --groesse 800", "", "", 2}};
+  for (const auto& F : Fälle) {
+    SCOPED_TRACE(F.Worte);
+    for (const char* Name : {"aus.svg", "aus.pdf", "aus.png"}) fs::remove(Ordner.Pfad(Name));
+    EXPECT_EQ(Laufen(TAVORENA_FENSTER, F.Worte), F.Rückgabe);
+    std::string Alles;
+    for (const char* Name : {"aus.svg", "aus.pdf", "aus.png"}) Alles += Inhalt(Ordner.Pfad(Name));
+    EXPECT_EQ(Alles.substr(0, std::string(F.Anfang).size()), F.Anfang);
+    EXPECT_NE(Alles.find(F.Darin), std::string::npos);
+    EXPECT_EQ(Alles.empty(), F.Rückgabe != 0);
+    EXPECT_EQ(Meldungen.find("tavorena: ") != std::string::npos, F.Rückgabe != 0) << Meldungen;
+  }
+}
+
 // The settings beside the program are its own, not those of the folder that it is started in.
 TEST_F(Programm, FremdeEinstellungenImArbeitsordner) {
   Schreibe(Ordner.Pfad("Tavorena.ini"), "[Optionen]\r\n3\r\n0\r\nFalse\r\nFalse\r\n0\r\n0\r\n3\r\n1\r\n");
