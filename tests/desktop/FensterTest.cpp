@@ -586,9 +586,9 @@ class FensterTest : public QObject {
   void kaestchenSindHellUndDunkelZuSehen() {
     for (const Helligkeit Wahl : {Helligkeit::Dunkel, Helligkeit::Hell}) {
       AussehenSetzen(*qApp, Wahl);
-      QCheckBox Haken;
+      QCheckBox Kasten;
       QRadioButton Option;
-      for (QWidget* W : {static_cast<QWidget*>(&Haken), static_cast<QWidget*>(&Option)}) {
+      for (QWidget* W : {static_cast<QWidget*>(&Kasten), static_cast<QWidget*>(&Option)}) {
         W->resize(W->sizeHint());
         const QImage Bild = W->grab().toImage();
         const int Grund = W->palette().color(QPalette::Window).lightness();
@@ -768,11 +768,11 @@ class FensterTest : public QObject {
   void musterWaehltDenFilter() {
     for (const auto& [Eintrag, Filter] : {std::pair{"MenüDateiLesen(0)", "CADdy (*.kor *.KOR)"},
                                           std::pair{"MenüDateiLesen(2)", "ALK (*.alk *.ALK)"}}) {
-      Dialoge.push_back([Filter] {
+      Dialoge.push_back([Erwartet = QString(Filter)] {
         auto* Dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         QVERIFY(Dialog != nullptr);
         Dialog->close();
-        QCOMPARE(Dialog->selectedNameFilter(), QString(Filter));
+        QCOMPARE(Dialog->selectedNameFilter(), Erwartet);
       });
       Menü(Eintrag);
     }
