@@ -30,6 +30,8 @@ double Strecke(double R1, double H1, double R2, double H2) {
   return std::sqrt(dR * dR + dH * dH);
 }
 
+double AchtStellen(double Meter) { return std::round(Meter * 1e8) / 1e8; }
+
 double WinkelRad(double DeltaHoch, double DeltaRechts) {
   const double y = DeltaHoch, x = DeltaRechts, pi = Pi();
   if (x == 0) return y >= 0 ? pi / 2 : 3 * pi / 2;
@@ -116,7 +118,7 @@ void PunkteImKreis(double R, double H, std::span<const double> Rechts, std::span
 }
 
 int PunktIstNah(double R1, double H1, double R2, double H2, double Grenze) {
-  return Strecke(R1, H1, R2, H2) <= Grenze ? 1 : 0;
+  return AchtStellen(Strecke(R1, H1, R2, H2)) <= Grenze ? 1 : 0;
 }
 
 }  // namespace tavorena

@@ -14,6 +14,10 @@ double Pi();
 /// Horizontal distance between two points [m].
 double Strecke(double R1, double H1, double R2, double H2);
 
+/// A distance or difference [m] taken to 8 decimals, before it is held against a limit or shown: a double at
+/// 5600000 m carries 1e-9, and points that a file sets exactly 0.03 m apart are so.
+double AchtStellen(double Meter);
+
 /// Mathematical angle of a vector, 0 to below 2 pi. The zero vector gives pi/2 and is not an error:
 /// every caller tests the distance first.
 double WinkelRad(double DeltaHoch, double DeltaRechts);
@@ -64,7 +68,7 @@ double Richtungswinkel(double R1, double H1, double R2, double H2);
 void PunkteImKreis(double R, double H, std::span<const double> Rechts, std::span<const double> Hoch,
                    int Anzahl, std::vector<int>& Indizes, int& Treffer, double Radius);
 
-/// 1 if the distance is at most Grenze [m], otherwise 0.
+/// 1 if the distance, to 8 decimals, is at most Grenze [m], otherwise 0.
 int PunktIstNah(double R1, double H1, double R2, double H2, double Grenze);
 
 }  // namespace tavorena

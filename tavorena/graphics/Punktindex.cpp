@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Blattgröße = 16;
 // A box is sure to lie inside or outside a circle only by more than what rounding moves a distance.
-constexpr double Sicherheit = 1e-9;
+constexpr double Sicherheit = 1e-8;
 
 std::size_t Stelle(int i) { return static_cast<std::size_t>(i); }
 

@@ -176,6 +176,9 @@ TEST(Winkel, Listen) {
   PunkteImKreis(0, 0, R, H, 3, Indizes, Treffer, 10);
   // Strictly nearer: the point at 10 m stays out.
   EXPECT_TRUE(Gleich(Treffer, 1, PunktIstNah(0, 0, 10, 0, 10), 1));
+  // A double at these coordinates carries 1e-9.
+  EXPECT_EQ(PunktIstNah(3500100.01, 5600200, 3500100.02, 5600200, 0.01), 1);
+  EXPECT_EQ(PunktIstNah(3500100, 5600200, 3500100, 5600200.0300001, 0.03), 0);
 }
 
 }  // namespace
