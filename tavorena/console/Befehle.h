@@ -13,4 +13,11 @@ namespace tavorena {
 /// (frei, gesperrt, verborgen, Strich) and reason, with tabs between.
 [[nodiscard]] Konsolenbefehl Menübefehl();
 
+/// @name The lists of points, as they are saved but without page heads
+/// @{
+[[nodiscard]] Konsolenbefehl DoppelteBefehl();  ///< "doppelte"
+[[nodiscard]] Konsolenbefehl QuasiBefehl();     ///< "quasi --fs 0.01 [--ohne-einzelpunkte]"
+[[nodiscard]] Konsolenbefehl BelegungBefehl();  ///< "belegung --bereich VON,BIS"
+/// @}
+
 }  // namespace tavorena

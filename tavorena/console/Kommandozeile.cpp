@@ -48,6 +48,18 @@ void DateiAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
   if (B.Datei != nullptr) App.add_option("datei", A.Datei, B.Datei)->type_name("");
 }
 
+void EigenesAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
+  for (const Angabe& G : B.Angaben) {
+    if (G.Art != nullptr) {
+      App.add_option(G.Name, A.Werte[G.Name], G.Beschreibung)->type_name(G.Art);
+    } else {
+      App.add_flag_callback(
+             G.Name, [&A, &G] { A.Werte[G.Name] = "ja"; }, G.Beschreibung)
+          ->disable_flag_override();
+    }
+  }
+}
+
 // What the parser found wrong, in one line of our own.
 std::string Deutsch(const CLI::App& App, const CLI::ParseError& Fehler) {
   const std::string Text = Fehler.what(), Wer = Text.substr(0, Text.find_first_of(": "));
@@ -63,7 +75,8 @@ std::string Deutsch(const CLI::App& App, const CLI::ParseError& Fehler) {
 }  // namespace
 
 Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Umfeld& U) {
-  const Konsolenbefehl Befehle[] = {Stapelbefehl(), Menübefehl()};
+  const Konsolenbefehl Befehle[] = {Stapelbefehl(), Menübefehl(), DoppelteBefehl(), QuasiBefehl(),
+                                    BelegungBefehl()};
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");
   Eindeutschen(App);
@@ -78,6 +91,7 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
     CLI::App* Unter = App.add_subcommand(B.Name, B.Beschreibung)->group(B.Thema);
     Gemeinsames(*Unter, A);
     DateiAnmelden(*Unter, B, A);
+    EigenesAnmelden(*Unter, B, A);
     Unter->callback([&Gewählt, &B] { Gewählt = &B; });
   }
   try {

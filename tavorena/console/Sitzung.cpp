@@ -28,6 +28,9 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   if (B.MitKoordinaten && A.Koordinaten.empty()) return Ich + "--koordinaten fehlt";
   if (B.Datei != nullptr && A.Datei.empty()) return Ich + "die " + B.Datei + " fehlt";
   if (B.Datei == nullptr && !A.Datei.empty()) return Ich + "unbekannte Angabe: " + A.Datei;
+  for (const Angabe& G : B.Angaben) {
+    if (G.Nötig && A.Wert(G.Name).empty()) return Ich + G.Name + " fehlt";
+  }
   if (!A.Vorhanden.empty() && !Antworten.contains(A.Vorhanden)) {
     std::string Worte;
     for (const auto& [Wort, Bedeutung] : Antworten) Worte += (Worte.empty() ? "" : ", ") + Wort;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,21 @@ struct Aufruf {
   std::string Speichern;  ///< file for the table afterwards
   bool Trotzdem = false;  ///< "Ja" to the questions that warn of a loss
   std::string Datei;      ///< the file that the command itself works on
+  std::map<std::string, std::string> Werte = {};  ///< of the command's own options; "ja" of a switch
+
+  /// The value of an option; "" if it was not given.
+  [[nodiscard]] std::string Wert(const std::string& Name) const {
+    const auto Gefunden = Werte.find(Name);
+    return Gefunden != Werte.end() ? Gefunden->second : "";
+  }
+};
+
+/// An option that one command has.
+struct Angabe {
+  const char* Name;          ///< such as "--fs"
+  const char* Art;           ///< what its value is, for --help; nullptr: a switch
+  const char* Beschreibung;  ///< for --help
+  bool Nötig = false;
 };
 
 /// Where results and messages go, and the folder of the executable.
@@ -42,6 +58,7 @@ struct Konsolenbefehl {
   bool MitKoordinaten;  ///< must be given a coordinate file
   /// Works on the table that was read. @return false if it was not done wholly
   std::function<bool(const Aufruf& A, const Umfeld& U)> Tun;
+  std::vector<Angabe> Angaben = {};
 };
 
 /// Runs a command: looks at the call, reads the coordinates, takes the protocol, works, and saves the table

@@ -68,6 +68,12 @@ TEST_F(Programm, Rückgabewerte) {
       {"--koordinaten a.kor --falsch a.sta", 2, "tavorena-stapel: unbekannte Angabe: --falsch"},
       {"--koordinaten a.kor --vorhanden nie a.sta", 2, "tavorena-stapel: --vorhanden nie gibt es nicht"},
       {"--koordinaten a.kor --trotzdem=2x a.sta", 2, "tavorena-stapel: trotzdem"},
+      {"quasi --koordinaten a.kor", 2, "tavorena-stapel: --fs fehlt"},
+      {"quasi --koordinaten a.kor --fs=-1", 1, "a.kor: Fehler aufgetreten: --fs -1"},
+      {"quasi --koordinaten a.kor --fs nan", 1, "a.kor: Fehler aufgetreten: --fs nan"},
+      {"belegung --koordinaten a.kor --bereich 7", 1, "a.kor: Fehler aufgetreten: --bereich 7"},
+      {"belegung --koordinaten a.kor --bereich 7,8A", 1, "a.kor: Fehler aufgetreten: --bereich 7,8A"},
+      {"--koordinaten a.kor --fs 1 a.sta", 2, "tavorena-stapel: unbekannte Angabe: --fs"},
       {"menue a.sta", 2, "tavorena-stapel: unbekannte Angabe: a.sta"},
       {"menue --speichern b.kor", 2, "tavorena-stapel: --speichern braucht"},
       {"--koordinaten a.kor --protokoll ./a.kor a.sta", 2, "./a.kor: das Protokoll ist auch die Koord"},
@@ -149,6 +155,25 @@ TEST_F(Programm, FremdeEinstellungenImArbeitsordner) {
   Laufen("PATH='" + Ort.string() + "':$PATH tavorena-stapel", "--koordinaten a.kor --speichern b.kor a.sta");
   EXPECT_NE(Inhalt(Ordner.Pfad("b.kor")).find("3500100.000"), std::string::npos)
       << Inhalt(Ordner.Pfad("b.kor"));
+}
+
+TEST_F(Programm, Punktlisten) {
+  struct Fall {
+    const char *Worte, *Ausgabe;
+  };
+  for (const Fall& F : {
+           Fall{"doppelte", "Keine doppelten Punkte vorhanden !\n"},
+           {"quasi --fs 0.01 --ohne-einzelpunkte", "Keine quasiidentischen Punkte vorhanden !\n"},
+           {"quasi --fs 43 --ohne-einzelpunkte",
+            "      Punktnr.     Rechts        Hoch      Hoehe   ds     dH   Sy Bem.\n"
+            "          1001 3500100.000 5600200.000          21.213             ******W>D(max)\n"
+            "          2003 3500130.000 5600230.000          21.213             ******W>D(max)\n\n"},
+           {"belegung --bereich 1003,1001",
+            "          1001 -     1002  belegt       2\n          1003 -     1003  frei       1\n"},
+       }) {
+    EXPECT_EQ(Laufen(TAVORENA_STAPEL, F.Worte + std::string(" --koordinaten a.kor")), 0) << Meldungen;
+    EXPECT_EQ(Aus, F.Ausgabe);
+  }
 }
 
 TEST_F(Programm, MenüWieImFenster) {

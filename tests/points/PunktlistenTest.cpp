@@ -105,10 +105,11 @@ TEST_F(Punktlisten, ZeilenMitAbstandUndMarke) {
                 "          1001 3500100.000 5600200.030   123.200 0.030 -0.250      ***W>D",
                 "          1001 3500100.060 5600200.000           0.060             ***W>D",
                 "          1001 3500100.060 5600200.000           0.060             ******W>D(max)"}));
-  // Against the middle of the group, whose height is that of the two that have one.
+  // Against the middle of the group, whose height is that of the one that has any.
   const std::vector<Listenzeile> Liste = QuasiListe(0.03, false);
   ASSERT_EQ(Liste.size(), 7);  // the second row stands in both groups
-  EXPECT_TRUE(Gleich(Liste[0].fs, Wert(0.015), Liste[0].dh, Wert(), Liste[2].Zeile, -1));
+  EXPECT_TRUE(
+      Gleich(Liste[0].fs, Wert(0.015), Liste[0].dh, Wert(0.0), Liste[1].dh, Wert(), Liste[2].Zeile, -1));
 }
 
 TEST_F(Punktlisten, SeitenMitKopfUndNummer) {
