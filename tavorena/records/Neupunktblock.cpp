@@ -1,18 +1,15 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Neupunktblock.h>
+#include <tavorena/records/Punktblock.h>
 #include <tavorena/records/Spalten.h>
-#include <tavorena/records/Tabellenkopf.h>
 
 namespace tavorena {
 
 Block MittelBlock(int Nachkomma, const Mittelpunkt& M) {
-  const Spalten S(Nachkomma);
-  const auto Punkt = [&](double R, double H, const char* Marke) {
-    return S.Punkt({R, H, M.Pnr}, Leerzeichen(26), Marke);
-  };
-  return Zahlenblock(Nachkomma, {KopfPunkte, Punkt(M.AltRechts, M.AltHoch, ""),
-                                 Punkt(M.NeuRechts, M.NeuHoch, ""), Punkt(M.Rechts, M.Hoch, " ***Mittel")});
+  return Punktblock(Nachkomma, {{{M.AltRechts, M.AltHoch, M.Pnr}, ""},
+                                {{M.NeuRechts, M.NeuHoch, M.Pnr}, ""},
+                                {{M.Rechts, M.Hoch, M.Pnr}, " ***Mittel"}});
 }
 
 Block Bearbeitungsnotiz(int Nachkomma, NeupunktCode Code, const std::string& Nummer, double DeltaRechts,

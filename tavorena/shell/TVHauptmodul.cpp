@@ -17,6 +17,7 @@
 #include <tavorena/records/Neupunktblock.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Protokollfenster.h>
+#include <tavorena/records/Punktblock.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Blaetter.h>
@@ -90,7 +91,7 @@ void MittelEintragen(const Mittelpunkt& M) {
   std::shared_ptr<const Verbindung> Kopf;
   if (!Prot.HatKopf) {
     Verbindung V;
-    V.Titel = "VR 25.50 Mittelbildung von Punkten";
+    V.Titel = TitelMittel;
     V.Riß = LetzterPlan;
     Kopf = std::make_shared<const Verbindung>(std::move(V));
   }

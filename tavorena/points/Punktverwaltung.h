@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <tavorena/points/Ruecknahme.h>
+
+// Deletion, new numbers and means of points. Each goes through the table's door as one deed of a store,
+// writes its entry into the protocol, and leaves the table as it was where it fails. Coordinates in metres.
+
+namespace tavorena {
+
+/// All rows of a point number. @return 0; -1 with a message: there is none
+[[nodiscard]] int NummerZeilen(const std::string& Pnr, std::vector<int>& Zeilen);
+
+/// The rows of a range of numbers (see KorBereichSuche).
+/// @return 0; -1 with a message: upside down, or there is none
+[[nodiscard]] int BereichZeilen(const std::string& Von, const std::string& Bis, std::vector<int>& Zeilen);
+
+/// Deletes points, the others keep their order; entry VR 25.08.
+/// @param[in] Zeilen  rising, each in the table
+/// @return 0; -1: the protocol could not be written
+[[nodiscard]] int PunkteLöschen(Rücknahme& R, const std::vector<int>& Zeilen);
+
+/// Gives all rows of a number another one; entry VR 25.07.
+/// @return 0; -1 with a message: no such point; the new number is empty, holds a blank, is the old one or
+///         taken
+[[nodiscard]] int NummerBerichtigen(Rücknahme& R, const std::string& Alt, const std::string& Neu);
+
+/// Gives the numbers of a range, in table order, the numbers Start, Start + 1 and so on, all at once: the old
+/// and the new range may overlap. All rows of one number keep one number. Entry VR 25.07.
+/// @return 0; -1 with a message: as BereichZeilen; Start is no number of digits; a point outside the range
+/// has
+///         one of the new numbers
+[[nodiscard]] int BereichBerichtigen(Rücknahme& R, const std::string& Von, const std::string& Bis,
+                                     const std::string& Start);
+
+/// Makes one point of each group of rows: Rechts and Hoch the mean, the height that of the heights there are,
+/// number and attributes of the first row, the first symbol. More than eight rows become one eight at a time.
+/// The table is sorted. Entries VR 25.50. @return 0; -1: the protocol could not be written
+[[nodiscard]] int DoppelteMitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen);
+
+/// Whether the mean replaces its points or stands beside them.
+enum class Mittelart { Ersetzen, Schwerpunkt };
+
+/// What becomes of points with different numbers.
+struct Mittelauftrag {
+  Mittelart Art = Mittelart::Ersetzen;
+  std::string Neu;                ///< number of the mean; one of the old ones is free where it replaces them
+  std::vector<std::string> Alte;  ///< 2 to 8, each once; a missing one is asked for
+  double Hoehe = 0;               ///< of the mean; 0: none
+  std::string Symbol = {};
+};
+
+/// Stores the mean of points; a number that another point has is asked about before anything is deleted.
+/// Entry VR 25.50 with the letter L or S.
+/// @return 0; -1 with a message; -2: that question was broken off, or the mean was not to be stored
+[[nodiscard]] int PunkteMitteln(Rücknahme& R, const Mittelauftrag& M);
+
+}  // namespace tavorena

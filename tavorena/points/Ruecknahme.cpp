@@ -1,0 +1,196 @@
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/points/Ruecknahme.h>
+
+namespace tavorena {
+namespace {
+
+std::size_t Stelle(int i) { return static_cast<std::size_t>(i); }
+
+bool Gleich(const KorSatz& A, const KorSatz& B) {
+  return A.Pnr == B.Pnr && A.Rechts == B.Rechts && A.Hoch == B.Hoch && A.Hoehe == B.Hoehe &&
+         A.Symbol == B.Symbol && *A.Info == *B.Info;
+}
+
+// Listens at the door: before the first change it copies the table.
+class Wache {
+ public:
+  Wache() : Vorige(Haken.VorÄnderung), Stand(KorStand), Geändert(KoordinatenGeaendert) {
+    Haken.VorÄnderung = [this](const KorÄnderung& Neue) {
+      if (KorStand == Stand) {
+        for (int z = 0; z < KorAnzahl; ++z) Vorher.push_back(PunktsatzVon(z));
+      }
+      if (Vorige) Vorige(Neue);
+    };
+  }
+  ~Wache() { Haken.VorÄnderung = Vorige; }
+  Wache(const Wache&) = delete;
+  Wache& operator=(const Wache&) = delete;
+
+  [[nodiscard]] bool Verändert() const { return KorStand != Stand; }
+
+  std::function<void(const KorÄnderung&)> Vorige;
+  std::uint64_t Stand;
+  bool Geändert;
+  std::vector<Punktsatz> Vorher;
+};
+
+// Writes Neue in place of the rows Von to Von + Länge - 1. What only moves is always in its old or its new
+// row.
+void ZeilenErsetzen(int Von, int Länge, const std::vector<Punktsatz>& Neue) {
+  std::vector<Punktsatz> Alle = Neue;
+  for (int z = Von + Länge; z < KorAnzahl; ++z) Alle.push_back(PunktsatzVon(z));
+  const int Alt = KorAnzahl, Anzahl = Von + static_cast<int>(Alle.size());
+  const auto Setzen = [&](int z) {
+    const KorSatz Satz = Alle[Stelle(z - Von)].Satz();
+    if (!Gleich(Satz, KorPunkt(z))) static_cast<void>(KorZeileSetzen(z, Satz));
+  };
+  for (int z = Alt; z < Anzahl; ++z) static_cast<void>(KorAnhängen(Alle[Stelle(z - Von)].Satz()));
+  if (Anzahl > Alt) {
+    for (int z = Alt - 1; z >= Von; --z) Setzen(z);
+  } else {
+    for (int z = Von; z < Anzahl; ++z) Setzen(z);
+    KorAbschneiden(Anzahl);
+  }
+  KorAnzahlAnzeigen();
+}
+
+// Finds rows by all they hold, each once.
+class Satzsuche {
+ public:
+  void Aufnehmen(const KorSatz& Satz, int Nummer) { Nummern.emplace(Streuwert(Satz), Nummer); }
+  // @param[in] Von  gives the row of a number @return a number, which is then taken out; -1
+  template <typename Quelle>
+  int Nehmen(const KorSatz& Satz, const Quelle& Von) {
+    const auto [Ab, Bis] = Nummern.equal_range(Streuwert(Satz));
+    for (auto i = Ab; i != Bis; ++i) {
+      const int Nummer = i->second;
+      if (!Gleich(Satz, Von(Nummer))) continue;
+      Nummern.erase(i);
+      return Nummer;
+    }
+    return -1;
+  }
+  [[nodiscard]] std::vector<int> Rest() const {
+    std::vector<int> Übrige;
+    for (const auto& [Wert, Nummer] : Nummern) Übrige.push_back(Nummer);
+    std::sort(Übrige.begin(), Übrige.end());
+    return Übrige;
+  }
+
+ private:
+  static std::size_t Streuwert(const KorSatz& S) {
+    std::size_t Streu = std::hash<std::string_view>{}(S.Pnr) ^ std::hash<std::string_view>{}(S.Symbol);
+    for (const double x : {S.Rechts, S.Hoch, S.Hoehe}) Streu = Streu * 31 + std::hash<double>{}(x);
+    return Streu;
+  }
+  std::unordered_multimap<std::size_t, int> Nummern;
+};
+
+}  // namespace
+
+Punktsatz PunktsatzVon(int Zeile) {
+  const KorSatz S = KorPunkt(Zeile);
+  return {std::string(S.Pnr), S.Rechts, S.Hoch, S.Hoehe, std::string(S.Symbol), *S.Info};
+}
+
+void ZeilenLöschen(const std::vector<int>& Zeilen) {
+  if (Zeilen.empty()) return;
+  int Ziel = Zeilen.front();
+  auto Nächste = Zeilen.begin();
+  for (int z = Ziel; z < KorAnzahl; ++z) {
+    if (Nächste != Zeilen.end() && *Nächste == z) {
+      ++Nächste;
+    } else {
+      static_cast<void>(KorZeileSetzen(Ziel++, KorPunkt(z)));
+    }
+  }
+  KorAbschneiden(Ziel);
+  KorAnzahlAnzeigen();
+}
+
+int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
+  const Wache W;
+  const auto Verwerfen = [&W] {
+    if (!W.Verändert()) return;
+    ZeilenErsetzen(0, KorAnzahl, W.Vorher);
+    KorGeaendertSetzen(W.Geändert);
+  };
+  int Ergebnis = -1;
+  try {
+    Ergebnis = Arbeit();
+  } catch (...) {
+    Verwerfen();
+    throw;
+  }
+  if (Ergebnis < 0) Verwerfen();
+  if (Ergebnis < 0 || !W.Verändert()) return Ergebnis;
+  // Only the rows between those that are alike at both ends are kept.
+  const auto Vorher = static_cast<int>(W.Vorher.size());
+  int Von = 0, Hinten = 0;
+  const int Kürzer = std::min(Vorher, KorAnzahl);
+  while (Von < Kürzer && Gleich(W.Vorher[Stelle(Von)].Satz(), KorPunkt(Von))) ++Von;
+  while (Hinten < Kürzer - Von &&
+         Gleich(W.Vorher[Stelle(Vorher - 1 - Hinten)].Satz(), KorPunkt(KorAnzahl - 1 - Hinten)))
+    ++Hinten;
+  if (Von + Hinten == Vorher && Von + Hinten == KorAnzahl) return Ergebnis;
+  Eintrag E{std::move(Tat), Von, {}, KorAnzahl - Hinten - Von, {}, {}, W.Stand, KorStand};
+  E.Vorher.assign(W.Vorher.begin() + Von, W.Vorher.end() - Hinten);
+  const auto Alter = [&E](int i) { return E.Vorher[Stelle(i)].Satz(); };
+  Satzsuche Alte;
+  for (std::size_t i = 0; i < E.Vorher.size(); ++i) Alte.Aufnehmen(E.Vorher[i].Satz(), static_cast<int>(i));
+  for (int z = Von; z < Von + E.Länge; ++z) {
+    if (Alte.Nehmen(KorPunkt(z), Alter) < 0) E.Neu.push_back(PunktsatzVon(z));
+  }
+  for (const int i : Alte.Rest()) E.Weg.push_back(E.Vorher[Stelle(i)]);
+  Taten.push_back(std::move(E));
+  return Ergebnis;
+}
+
+int Rücknahme::Zurücktauschen(const Eintrag& E) {
+  if (KorAnzahl - static_cast<int>(E.Neu.size()) + static_cast<int>(E.Weg.size()) > KorZeilen) return -1;
+  Satzsuche Jetzige;
+  for (int z = 0; z < KorAnzahl; ++z) Jetzige.Aufnehmen(KorPunkt(z), z);
+  std::vector<int> Zeilen;
+  for (const Punktsatz& P : E.Neu) {
+    const int z = Jetzige.Nehmen(P.Satz(), KorPunkt);
+    if (z < 0) return -1;
+    Zeilen.push_back(z);
+  }
+  std::sort(Zeilen.begin(), Zeilen.end());
+  const std::size_t Paare = std::min(Zeilen.size(), E.Weg.size());
+  for (std::size_t i = 0; i < Paare; ++i) static_cast<void>(KorZeileSetzen(Zeilen[i], E.Weg[i].Satz()));
+  for (std::size_t i = Paare; i < E.Weg.size(); ++i) static_cast<void>(KorAnhängen(E.Weg[i].Satz()));
+  ZeilenLöschen({Zeilen.begin() + static_cast<std::ptrdiff_t>(Paare), Zeilen.end()});
+  KorSortieren();
+  KorAnzahlAnzeigen();
+  return 0;
+}
+
+int Rücknahme::Zurück() {
+  if (Taten.empty()) return -1;
+  const Eintrag& E = Taten.back();
+  const bool Unberührt = KorStand == E.Stand;
+  if (Unberührt) {
+    ZeilenErsetzen(E.Von, E.Länge, E.Vorher);
+  } else if (Zurücktauschen(E) < 0) {
+    FehlerMeldung("Die Punkte wurden inzwischen geändert: " + E.Tat.Name);
+    return -1;
+  }
+  const Eintrag Getan = std::move(Taten.back());
+  Taten.pop_back();
+  // The table is again what the deed before left.
+  if (Unberührt && !Taten.empty() && Taten.back().Stand == Getan.StandVorher) Taten.back().Stand = KorStand;
+  // It is in the table; a protocol that can not be written was told.
+  for (const Punkteintrag& P : Getan.Tat.BeiRücknahme) static_cast<void>(Eintragen(P));
+  return 0;
+}
+
+}  // namespace tavorena
