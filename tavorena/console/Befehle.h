@@ -19,5 +19,7 @@ namespace tavorena {
 [[nodiscard]] Konsolenbefehl QuasiBefehl();     ///< "quasi --fs 0.01 [--ohne-einzelpunkte]"
 [[nodiscard]] Konsolenbefehl BelegungBefehl();  ///< "belegung --bereich VON,BIS"
 /// @}
+/// "dxf": reads free lines and arcs from a DXF file and writes DXF files, with the points of the table too.
+[[nodiscard]] Konsolenbefehl DxfBefehl();
 
 }  // namespace tavorena

@@ -21,7 +21,8 @@ void Eindeutschen(CLI::App& App) {
                                           {"Positionals", "Angaben"},
                                           {"SUBCOMMAND", "BEFEHL"},
                                           {"SUBCOMMANDS", "BEFEHL"},
-                                          {"REQUIRED", "nötig"}}) {
+                                          {"REQUIRED", "nötig"},
+                                          {"Excludes", "nicht mit"}}) {
     Form->label(Englisch, Deutsch);
   }
   Form->column_width(28);
@@ -51,7 +52,8 @@ void DateiAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
 void EigenesAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
   for (const Angabe& G : B.Angaben) {
     if (G.Art != nullptr) {
-      App.add_option(G.Name, A.Werte[G.Name], G.Beschreibung)->type_name(G.Art);
+      CLI::Option* Neu = App.add_option(G.Name, A.Werte[G.Name], G.Beschreibung)->type_name(G.Art);
+      if (G.Statt != nullptr) Neu->excludes(G.Statt);
     } else {
       App.add_flag_callback(
              G.Name, [&A, &G] { A.Werte[G.Name] = "ja"; }, G.Beschreibung)
@@ -75,8 +77,8 @@ std::string Deutsch(const CLI::App& App, const CLI::ParseError& Fehler) {
 }  // namespace
 
 Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Umfeld& U) {
-  const Konsolenbefehl Befehle[] = {Stapelbefehl(), Menübefehl(), DoppelteBefehl(), QuasiBefehl(),
-                                    BelegungBefehl()};
+  const Konsolenbefehl Befehle[] = {Stapelbefehl(), Menübefehl(),     DoppelteBefehl(),
+                                    QuasiBefehl(),  BelegungBefehl(), DxfBefehl()};
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");
   Eindeutschen(App);

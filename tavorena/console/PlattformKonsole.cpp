@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <ostream>
 
 #include <tavorena/console/PlattformKonsole.h>
@@ -41,7 +42,10 @@ void PlattformKonsole::Melden(const std::string& Text) {
   while (Leser.Nächste(Stück)) {
     Stück = TrimmenSicht(Stück);
     if (Stück.empty() || (ImStapel && Stück == Zeile)) continue;
-    if (Stück == A.Koordinaten || Stück == A.Protokoll || Stück == A.Speichern || Stück == A.Datei) {
+    const bool Eigene = std::any_of(A.Dateien.begin(), A.Dateien.end(),
+                                    [Stück](const auto& Option) { return Option.second == Stück; });
+    if (Eigene || Stück == A.Koordinaten || Stück == A.Protokoll || Stück == A.Speichern ||
+        Stück == A.Datei) {
       Datei = Stück;
       Fehler = true;
     } else if (Stück == DateinameOptionen) {

@@ -1,6 +1,7 @@
 #include <map>
 #include <ostream>
 #include <utility>
+#include <vector>
 
 #include <tavorena/console/PlattformKonsole.h>
 #include <tavorena/console/Sitzung.h>
@@ -38,15 +39,24 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   }
   if (!A.Speichern.empty() && A.Koordinaten.empty()) return Ich + "--speichern braucht --koordinaten";
   // An output must not destroy what is read or written besides; the table may go back to its file.
-  const std::pair<const char*, const std::string&> Rollen[] = {{"das Protokoll", A.Protokoll},
-                                                               {"die Koordinatendatei", A.Koordinaten},
-                                                               {"die Datei des Befehls", A.Datei}};
-  for (const auto& [Rolle, Name] : Rollen) {
-    if (&Name != &A.Protokoll && SelbeDatei(A.Protokoll, Name)) {
-      return A.Protokoll + ": das Protokoll ist auch " + Rolle;
-    }
-    if (&Name != &A.Koordinaten && SelbeDatei(A.Speichern, Name)) {
-      return A.Speichern + ": die Datei von --speichern ist auch " + Rolle;
+  struct Rolle {
+    std::string Wort, Name;
+    bool Ausgabe;
+  };
+  std::vector<Rolle> Rollen = {{"die Datei von --speichern", A.Speichern, true},
+                               {"das Protokoll", A.Protokoll, true},
+                               {"die Koordinatendatei", A.Koordinaten, false},
+                               {"die Datei des Befehls", A.Datei, false}};
+  for (const Angabe& G : B.Angaben) {
+    if (G.Rolle != Dateirolle::Keine)
+      Rollen.push_back(
+          {std::string("die Datei von ") + G.Name, A.Wert(G.Name), G.Rolle == Dateirolle::Ausgabe});
+  }
+  for (const Rolle& Aus : Rollen) {
+    for (const Rolle& Andere : Rollen) {
+      const bool Zurück = &Aus == &Rollen[0] && &Andere == &Rollen[2];
+      if (!Aus.Ausgabe || &Aus == &Andere || Zurück || !SelbeDatei(Aus.Name, Andere.Name)) continue;
+      return Aus.Name + ": " + Aus.Wort + " ist auch " + Andere.Wort;
     }
   }
   return "";
@@ -79,6 +89,14 @@ bool Speichern(const Aufruf& A, PlattformKonsole& Konsole) {
   return A.Speichern.empty() || KoordinatenExportieren(A.Speichern, FormatNachEndung(A.Speichern)) == 0;
 }
 
+// What the messages of the command are about.
+std::string Arbeitsdatei(const Konsolenbefehl& B, const Aufruf& A) {
+  for (const Angabe& G : B.Angaben) {
+    if (G.Rolle == Dateirolle::Eingabe && !A.Wert(G.Name).empty()) return A.Wert(G.Name);
+  }
+  return B.Datei != nullptr ? A.Datei : A.Koordinaten;
+}
+
 bool Arbeiten(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U, PlattformKonsole& Konsole) {
   HauptAnschließen();
   HauptInitialisierung();
@@ -89,7 +107,7 @@ bool Arbeiten(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U, Plattfo
     };
   }
   if (!Lesen(A, Konsole) || !ProtokollBeginnen(A, Konsole)) return false;
-  Konsole.Arbeitet(B.Datei != nullptr ? A.Datei : A.Koordinaten);
+  Konsole.Arbeitet(Arbeitsdatei(B, A));
   // After a failure the table may be half done: the file stays as it is.
   return B.Tun(A, U) && !Konsole.Mißlungen() && Speichern(A, Konsole);
 }

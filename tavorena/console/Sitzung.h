@@ -34,12 +34,17 @@ struct Aufruf {
   }
 };
 
+/// What a file of an option is to its command.
+enum class Dateirolle { Keine, Eingabe, Ausgabe };
+
 /// An option that one command has.
 struct Angabe {
   const char* Name;          ///< such as "--fs"
   const char* Art;           ///< what its value is, for --help; nullptr: a switch
   const char* Beschreibung;  ///< for --help
   bool Nötig = false;
+  Dateirolle Rolle = Dateirolle::Keine;  ///< an output must not be a file that is read or written besides
+  const char* Statt = nullptr;           ///< another option that can not be given with it
 };
 
 /// Where results and messages go, and the folder of the executable.
@@ -47,6 +52,14 @@ struct Umfeld {
   std::ostream& Ausgabe;
   std::ostream& Meldungen;
   std::string Programmordner;
+};
+
+/// A file that a command takes beside the common ones.
+struct Dateioption {
+  const char* Name;  ///< "--lesen"
+  const char* Beschreibung;
+  bool Ausgabe;                 ///< is written, and must not be a file that is read or written besides
+  const char* Statt = nullptr;  ///< another option that can not be given with it
 };
 
 /// A command of the program. Its source defines it, Kommandozeile.cpp lists it.
