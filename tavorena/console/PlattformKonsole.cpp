@@ -42,7 +42,7 @@ void PlattformKonsole::Melden(const std::string& Text) {
   while (Leser.Nächste(Stück)) {
     Stück = TrimmenSicht(Stück);
     if (Stück.empty() || (ImStapel && Stück == Zeile)) continue;
-    const bool Eigene = std::any_of(A.Dateien.begin(), A.Dateien.end(),
+    const bool Eigene = std::any_of(A.Werte.begin(), A.Werte.end(),
                                     [Stück](const auto& Option) { return Option.second == Stück; });
     if (Eigene || Stück == A.Koordinaten || Stück == A.Protokoll || Stück == A.Speichern ||
         Stück == A.Datei) {
