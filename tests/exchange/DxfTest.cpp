@@ -146,6 +146,7 @@ TEST_F(DxfTest, ScannerNachSeinenRegeln) {
       {"SECTION|ENTITIES|0|POLYLINE|66|1|10|1|20|2|0|VERTEX|11|3|21|4", "L 1 2 3 4", true},
       {"SECTION|ENTITIES|0|LINE|10|1e400|20|2|11|3|21|4|0|LINE|10|1|20|2|11|3|21|nan", "L 1 2 3 0", false},
       {"SECTION|LINE|10|1|20|2|11|3|21|4|ENDSEC", "", false},
+      {"SECTION|ENTITIES|0|LINE|10|1|20|2|11|3|21|4|0|EOF||||", "L 1 2 3 4", false},  // empty lines behind
   };
   for (const Fall& F : Fälle) {
     SCOPED_TRACE(F.Text);
