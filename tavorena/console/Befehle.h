@@ -22,4 +22,12 @@ namespace tavorena {
 /// "dxf": reads free lines and arcs from a DXF file and writes DXF files, with the points of the table too.
 [[nodiscard]] Konsolenbefehl DxfBefehl();
 
+/// @name What changes points; each is one deed, wholly done or not at all
+/// @{
+[[nodiscard]] Konsolenbefehl LöschBefehl();            ///< "loeschen --nummer NR" or "--bereich VON,BIS"
+[[nodiscard]] Konsolenbefehl UmnumerierBefehl();       ///< "umnumerieren --alt NR --neu NR" or a range
+[[nodiscard]] Konsolenbefehl DoppelteMittelnBefehl();  ///< "doppelte-mitteln"
+[[nodiscard]] Konsolenbefehl MittelBefehl();           ///< "mitteln --art L --neu NR --alt NR,NR,..."
+/// @}
+
 }  // namespace tavorena

@@ -2,6 +2,7 @@
 #include "Testhilfe.h"
 
 #include <cstdlib>
+#include <sstream>
 #include <sys/wait.h>
 
 namespace tavorena::test {
@@ -80,6 +81,15 @@ TEST_F(Programm, Rückgabewerte) {
       {"quasi --koordinaten a.kor --fs nan", 1, "a.kor: Fehler aufgetreten: --fs nan"},
       {"belegung --koordinaten a.kor --bereich 7", 1, "a.kor: Fehler aufgetreten: --bereich 7"},
       {"belegung --koordinaten a.kor --bereich 7,8A", 1, "a.kor: Fehler aufgetreten: --bereich 7,8A"},
+      {"loeschen --koordinaten a.kor", 1, "a.kor: Fehler aufgetreten: entweder --nummer oder"},
+      {"loeschen --koordinaten a.kor --nummer 7 --speichern c.kor", 1, "a.kor: Fehler aufgetreten: Punkt 7"},
+      {"umnumerieren --koordinaten a.kor --alt 1001 --neu 1002", 1, "a.kor: Punkt 1002schon vorhanden"},
+      {"umnumerieren --koordinaten a.kor --bereich 1001,1002 --start 2002", 1,
+       "a.kor: Punkt 2003schon vorhanden"},
+      {"doppelte-mitteln --koordinaten a.kor", 1, "a.kor: Keine doppelten Punkte vorhanden"},
+      {"mitteln --koordinaten a.kor --art X --neu 1 --alt 1,2", 1, "a.kor: Fehler aufgetreten: --art X"},
+      {"mitteln --koordinaten a.kor --art L --neu 2003 --alt 1001,1002 --vorhanden abbruch", 1,
+       "a.kor: Punkt 2003schon vorhanden"},
       {"--koordinaten a.kor --fs 1 a.sta", 2, "tavorena-stapel: unbekannte Angabe: --fs"},
       {"menue a.sta", 2, "tavorena-stapel: unbekannte Angabe: a.sta"},
       {"menue --speichern b.kor", 2, "tavorena-stapel: --speichern braucht"},
@@ -180,6 +190,31 @@ TEST_F(Programm, Punktlisten) {
        }) {
     EXPECT_EQ(Laufen(TAVORENA_STAPEL, F.Worte + std::string(" --koordinaten a.kor")), 0) << Meldungen;
     EXPECT_EQ(Aus, F.Ausgabe);
+  }
+}
+
+TEST_F(Programm, PunkteÄndern) {
+  Schreibe(Ordner.Pfad("d.kor"), "1 3500100 5600200\r\n1 3500100.02 5600200\r\n2 3500130 5600230\r\n");
+  struct Fall {
+    const char *Worte, *Nummern, *Protokoll;
+  };
+  for (const Fall& F : {
+           Fall{"loeschen --bereich 0,1", "2 ", "VR 25.08"},
+           {"umnumerieren --bereich 1,2 --start 2", "2 2 3 ", "***bericht. alt:       2"},
+           {"doppelte-mitteln", "1 2 ", "1 ***Mittel"},
+           {"mitteln --art S --neu 7 --alt 1,2", "1 1 2 7 ", "7 ***Mittel (S)"},
+       }) {
+    fs::remove(Ordner.Pfad("a.dru"));
+    const std::string Dateien = " --koordinaten d.kor --protokoll a.dru --speichern b.kor";
+    EXPECT_EQ(Laufen(TAVORENA_STAPEL, F.Worte + Dateien), 0) << Meldungen;
+    std::istringstream Leser(Inhalt(Ordner.Pfad("b.kor")));
+    std::string Nummern, Wort;
+    for (std::string Zeile; std::getline(Leser, Zeile);) {
+      std::istringstream(Zeile) >> Wort;
+      Nummern += Wort + " ";
+    }
+    EXPECT_EQ(Nummern, F.Nummern) << F.Worte;
+    EXPECT_NE(Inhalt(Ordner.Pfad("a.dru")).find(F.Protokoll), std::string::npos) << F.Worte;
   }
 }
 
