@@ -28,6 +28,7 @@ namespace tavorena {
 [[nodiscard]] Konsolenbefehl UmnumerierBefehl();       ///< "umnumerieren --alt NR --neu NR" or a range
 [[nodiscard]] Konsolenbefehl DoppelteMittelnBefehl();  ///< "doppelte-mitteln"
 [[nodiscard]] Konsolenbefehl MittelBefehl();           ///< "mitteln --art L --neu NR --alt NR,NR,..."
+[[nodiscard]] Konsolenbefehl VerschiebeBefehl();       ///< "verschieben [--tauschen] [--versatz dR,dH,dZ]"
 /// @}
 
 }  // namespace tavorena

@@ -74,6 +74,20 @@ bool Mitteln(const Aufruf& A, const Umfeld& U) {
   return Bericht(U, Ergebnis == 0);
 }
 
+bool Verschieben(const Aufruf& A, const Umfeld& U) {
+  if (Leer()) return false;
+  const bool Tauschen = !A.Wert("--tauschen").empty();
+  const std::string Text = A.Wert("--versatz");
+  double d[3] = {0, 0, 0};
+  if (Text.empty() && !Tauschen) {
+    FehlerMeldung("--tauschen oder --versatz fehlt");
+    return false;
+  }
+  if (!Text.empty() && !LängenLesen(Text, "--versatz", d)) return false;
+  Rücknahme R;
+  return Bericht(U, TabelleVerschieben(R, {d[0], d[1], d[2]}, Tauschen) == 0);
+}
+
 constexpr const char* Thema = "Punkte ändern";
 constexpr Angabe Bereich = {"--bereich", "VON,BIS", "erste und letzte Nummer"};
 
@@ -100,6 +114,17 @@ Konsolenbefehl UmnumerierBefehl() {
            {"--neu", "NR", "ihre neue"},
            Bereich,
            {"--start", "NR", "neue Nummer der ersten im Bereich, die anderen zählen weiter"}}};
+}
+
+Konsolenbefehl VerschiebeBefehl() {
+  return {"verschieben",
+          Thema,
+          "verschiebt alle Punkte, danach tauscht es Rechts und Hoch",
+          nullptr,
+          true,
+          Verschieben,
+          {{"--tauschen", nullptr, "Rechts und Hoch tauschen"},
+           {"--versatz", "dR,dH,dZ", "was zu Rechts, Hoch und Höhe kommt, in m"}}};
 }
 
 Konsolenbefehl DoppelteMittelnBefehl() {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include <tavorena/console/Worte.h>
@@ -33,6 +34,17 @@ bool LängeLesen(std::string_view Text, const char* Option, double& Länge) {
   if (Länge >= 0 && std::isfinite(Länge)) return true;
   FehlerMeldung(std::string(Option) + " " + std::string(Text) + ": eine Länge in m, 0 oder mehr");
   return false;
+}
+
+bool LängenLesen(std::string_view Text, const char* Option, std::span<double> Längen) {
+  const std::vector<std::string> Worte = Wortliste(Text);
+  if (Worte.size() != Längen.size() || !std::all_of(Worte.begin(), Worte.end(), IstZahlwort)) {
+    FehlerMeldung(std::string(Option) + " " + std::string(Text) + ": " + std::to_string(Längen.size()) +
+                  " Zahlen, durch Kommas getrennt");
+    return false;
+  }
+  std::transform(Worte.begin(), Worte.end(), Längen.begin(), ZahlAusText);
+  return true;
 }
 
 }  // namespace tavorena

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,5 +18,8 @@ namespace tavorena {
 
 /// A length of 0 or more [m], with point or comma. @return false with a message
 [[nodiscard]] bool LängeLesen(std::string_view Text, const char* Option, double& Länge);
+
+/// So many lengths [m] with decimal points. @return false with a message
+[[nodiscard]] bool LängenLesen(std::string_view Text, const char* Option, std::span<double> Längen);
 
 }  // namespace tavorena

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <iterator>
 #include <string_view>
@@ -305,6 +306,18 @@ int PunkteMitteln(Rücknahme& R, const Mittelauftrag& M) {
     if (Ersetzt) Tat.BeiRücknahme.push_back({TitelEingabe, ImBlock(Alte)});
     Tat.BeiRücknahme.push_back({TitelLöschen, {ImBlock(Mittel, " ***gelöscht")}});
     return Eintragen(Mitteleintrag(Alte, Mittel, Ersetzt ? " ***Mittel (L)" : " ***Mittel (S)"));
+  });
+}
+
+int TabelleVerschieben(Rücknahme& R, const Versatz& d, bool Tauschen) {
+  if (!std::isfinite(d.Rechts) || !std::isfinite(d.Hoch) || !std::isfinite(d.Hoehe)) {
+    FehlerMeldung("Der Versatz ist nicht endlich.");
+    return -1;
+  }
+  Punkttat Tat{"Verschiebe " + Anzahltext(KorAnzahl, "Punkt", "Punkte"), {}};
+  return R.Ausführen(Tat, [&] {
+    KorVerschieben(d.Rechts, d.Hoch, d.Hoehe, 0, 0, 0, Tauschen ? 1 : 0);
+    return 0;
   });
 }
 

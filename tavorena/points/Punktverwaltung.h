@@ -57,4 +57,13 @@ struct Mittelauftrag {
 /// @return 0; -1 with a message; -2: that question was broken off, or the mean was not to be stored
 [[nodiscard]] int PunkteMitteln(Rücknahme& R, const Mittelauftrag& M);
 
+/// Shifts along the three axes [m].
+struct Versatz {
+  double Rechts = 0, Hoch = 0, Hoehe = 0;
+};
+
+/// Shifts all points, then exchanges Rechts and Hoch where that is asked for. No entry in the protocol.
+/// @return 0; -1 with a message: a shift is not finite
+[[nodiscard]] int TabelleVerschieben(Rücknahme& R, const Versatz& d, bool Tauschen);
+
 }  // namespace tavorena

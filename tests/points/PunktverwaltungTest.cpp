@@ -96,10 +96,14 @@ TEST_F(Punktverwaltung, MittelDoppelter) {
   EXPECT_EQ(Protokoll(), "2 ***gelöscht\n");
   // Nine of one number: the first eight, then their mean and the ninth.
   KorLeeren();
+  Zeile("9", 1, 2);  // not in order, and so it comes back
   for (int i = 0; i < 9; ++i) Zeile("5", i < 8 ? i : 13.5, 0);
+  Zeile("3", 1, 2);
   Vorher = Tabelle();
+  EXPECT_EQ(PunkteLöschen(R, {10}), 0);
   EXPECT_EQ(DoppelteMitteln(R, Doppelgruppen()), 0);
-  EXPECT_TRUE(Gleich(KorAnzahl, 1, KorRechts[0], 8.5, Anzahl(Protokoll(), "***Mittel"), 2));
+  EXPECT_TRUE(Gleich(KorAnzahl, 2, KorRechts[0], 8.5, Anzahl(Protokoll(), "***Mittel"), 2));
+  EXPECT_EQ(R.Zurück(), 0);
   NimmZurück();
 }
 
@@ -173,6 +177,15 @@ TEST_F(Punktverwaltung, WasNichtGeht) {
                            }),
                std::bad_alloc);
   EXPECT_TRUE(Gleich(Tabelle() == Vorher, true, R.Leer(), true, KoordinatenGeaendert, false));
+}
+
+TEST_F(Punktverwaltung, GanzeTabelle) {
+  EXPECT_EQ(TabelleVerschieben(R, {1, 2, 3}, true), 0);
+  EXPECT_TRUE(Gleich(KorRechts[0], 202, KorHoch[0], 101, KorHoehe[0], 13));
+  NimmZurück();
+  Skript.Erwarte("nicht endlich");
+  EXPECT_EQ(TabelleVerschieben(R, {0, std::numeric_limits<double>::infinity(), 0}, false), -1);
+  EXPECT_EQ(Tabelle(), Vorher);
 }
 
 // Two forms at work: each takes back its own, as far as the other left it.
