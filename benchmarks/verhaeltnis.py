@@ -12,6 +12,7 @@ PAARE = (
     ("KorLesen/gemischt", ("NurZahlen/gemischt",), 5.0),
     ("KorLesen/unix", ("KorLesen/geordnet",), 1.1),
     ("KorText", ("FmtText",), 3.0),
+    ("DxfPunkte/20000", ("FmtDxf/20000",), 3.0),
     ("KorSuche/letzte", ("StdFind/letzte",), 3.0),
     ("KorSuche/fehlt", ("StdFind/fehlt",), 3.0),
     ("Neupunkt", ("AnhaengenUndSortieren",), 0.05),
