@@ -38,7 +38,8 @@ void Gemeinsames(CLI::App& App, Aufruf& A) {
   App.add_option("--protokoll", A.Protokoll, "Protokolldatei (*.dru); eine vorhandene wird fortgeschrieben")
       ->type_name("DATEI");
   App.add_option("--vorhanden", A.Vorhanden,
-                 "wenn eine Punktnummer schon vergeben ist: abbruch, alt-loeschen, mittel, neu-loeschen")
+                 "wenn eine Punktnummer schon vergeben ist: abbruch, alt-loeschen, mittel, neu-loeschen, "
+                 "alt-umnumerieren=NR, neu-umnumerieren=NR (die nächste freie ab NR)")
       ->type_name("ANTWORT");
   App.add_option("--speichern", A.Speichern, "Datei für die Koordinaten danach")->type_name("DATEI");
   App.add_flag("--trotzdem", A.Trotzdem, "Ja auf Fragen, die vor einem Verlust warnen")

@@ -9,6 +9,7 @@
 #include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/points/Punktgruppen.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Koordinatendatei.h>
@@ -22,6 +23,26 @@ const std::map<std::string, Konfliktwort> Antworten = {{"abbruch", Konfliktwort:
                                                        {"alt-loeschen", Konfliktwort::AltenErsetzen},
                                                        {"mittel", Konfliktwort::Mitteln},
                                                        {"neu-loeschen", Konfliktwort::NeuenVerwerfen}};
+// These take a number behind "=".
+const std::map<std::string, Konfliktwort> Zähler = {{"alt-umnumerieren", Konfliktwort::AltenNeunum},
+                                                    {"neu-umnumerieren", Konfliktwort::NeuenNeunum}};
+
+// The answers that the option asks for; empty if it says nothing that there is.
+std::function<Konfliktantwort(const Konflikt&)> Antwortgeber(const std::string& Vorhanden) {
+  if (const auto Antwort = Antworten.find(Vorhanden); Antwort != Antworten.end())
+    return [Wort = Antwort->second](const Konflikt&) { return Konfliktantwort{Wort, ""}; };
+  const std::size_t Gleich = Vorhanden.find('=');
+  const auto Antwort = Zähler.find(Vorhanden.substr(0, Gleich));
+  std::int64_t Nummer = 0;
+  if (Gleich == std::string::npos || Antwort == Zähler.end() ||
+      !GanzePunktnummer(std::string_view(Vorhanden).substr(Gleich + 1), Nummer))
+    return {};
+  // The next free number.
+  return [Wort = Antwort->second, Nummer](const Konflikt&) mutable {
+    while (KorSuche(std::string_view(std::to_string(Nummer))) >= 0) ++Nummer;
+    return Konfliktantwort{Wort, std::to_string(Nummer)};
+  };
+}
 
 // What is wrong with the call; "" if nothing is.
 std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
@@ -32,9 +53,10 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   for (const Angabe& G : B.Angaben) {
     if (G.Nötig && A.Wert(G.Name).empty()) return Ich + G.Name + " fehlt";
   }
-  if (!A.Vorhanden.empty() && !Antworten.contains(A.Vorhanden)) {
+  if (!A.Vorhanden.empty() && !Antwortgeber(A.Vorhanden)) {
     std::string Worte;
     for (const auto& [Wort, Bedeutung] : Antworten) Worte += (Worte.empty() ? "" : ", ") + Wort;
+    for (const auto& [Wort, Bedeutung] : Zähler) Worte += ", " + Wort + "=NR";
     return Ich + "--vorhanden " + A.Vorhanden + " gibt es nicht, nur " + Worte;
   }
   if (!A.Speichern.empty() && A.Koordinaten.empty()) return Ich + "--speichern braucht --koordinaten";
@@ -101,11 +123,7 @@ bool Arbeiten(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U, Plattfo
   HauptAnschließen();
   HauptInitialisierung();
   DateinameProtokollTemp.clear();  // nothing is printed afterwards
-  if (const auto Antwort = Antworten.find(A.Vorhanden); Antwort != Antworten.end()) {
-    Haken.PunktVorhandenBehandeln = [Wort = Antwort->second](const Konflikt&) {
-      return Konfliktantwort{Wort, ""};
-    };
-  }
+  if (auto Antwort = Antwortgeber(A.Vorhanden)) Haken.PunktVorhandenBehandeln = std::move(Antwort);
   if (!Lesen(A, Konsole) || !ProtokollBeginnen(A, Konsole)) return false;
   Konsole.Arbeitet(Arbeitsdatei(B, A));
   // After a failure the table may be half done: the file stays as it is.

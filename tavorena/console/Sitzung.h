@@ -21,7 +21,8 @@ enum Rückgabe : int {
 struct Aufruf {
   std::string Koordinaten;
   std::string Protokoll;  ///< an existing file is extended
-  std::string Vorhanden;  ///< answer to a taken number: abbruch, alt-loeschen, mittel, neu-loeschen
+  std::string Vorhanden;  ///< answer to a taken number: abbruch, alt-loeschen, mittel, neu-loeschen,
+                          ///< alt-umnumerieren=NR, neu-umnumerieren=NR: the next free number from NR on
   std::string Speichern;  ///< file for the table afterwards
   bool Trotzdem = false;  ///< "Ja" to the questions that warn of a loss
   std::string Datei;      ///< the file that the command itself works on

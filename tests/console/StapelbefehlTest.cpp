@@ -61,6 +61,14 @@ TEST_F(StapelbefehlTest, AntwortAufVergebeneNummer) {
   Auftrag.Vorhanden = "mittel";
   Laufen(Gut);
   EXPECT_EQ(Haken.PunktVorhandenBehandeln({}).Wort, Konfliktwort::Mitteln);
+  Auftrag.Vorhanden = "neu-umnumerieren=1001";  // 1001 and 1002 are taken
+  Laufen(Gut);
+  const Konfliktantwort Antwort = Haken.PunktVorhandenBehandeln({});
+  EXPECT_TRUE(Antwort.Wort == Konfliktwort::NeuenNeunum && Antwort.NeuePnr == "1003") << Antwort.NeuePnr;
+  for (const char* Falsch : {"alt-umnumerieren", "alt-umnumerieren=07", "mittel=7"}) {
+    Auftrag.Vorhanden = Falsch;
+    EXPECT_EQ(Laufen(Gut), FalscherAufruf) << Falsch;
+  }
 }
 
 // A question that warns of a loss, as the shell asks it before saving.
