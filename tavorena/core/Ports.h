@@ -24,6 +24,7 @@ struct Dateiauftrag {
   bool NurVorhandene = true;   ///< the file must exist
   std::string Zusatz;          ///< caption of a check box below the list; none if empty
   bool ZusatzGewählt = false;  ///< out: the check box was set
+  bool ZusatzIstWahl = false;  ///< it says something about the file; else it stands for no file at all
 };
 
 /// Questions to the user. Silent: every one is broken off.

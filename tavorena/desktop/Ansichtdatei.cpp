@@ -95,9 +95,7 @@ void AnsichtSpeichern() {
   const std::string Name = FragenPort().DateiWählen(Auftrag);
   if (Name.empty()) return;
   VerzeichnisMerken(Name);
-  if (DateiVorhanden(Name) && FrageJaNein("Die Datei ist schon vorhanden. Überschreiben ?\n\n" + Name,
-                                          "Tavorena", KnopfNein) != KnopfJa)
-    return;
+  if (!ÜberschreibenFragen(Name)) return;
   if (AnsichtSchreiben(Name) == 0) StatusHilfeSetzen("Ansicht gespeichert: " + Name);
 }
 

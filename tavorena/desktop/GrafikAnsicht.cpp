@@ -12,6 +12,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
@@ -22,6 +23,7 @@
 #include <tavorena/graphics/GrafDesign.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
+#include <tavorena/shell/Grafikbefehle.h>
 
 namespace tavorena {
 namespace {
@@ -289,6 +291,10 @@ void GrafikAnsicht::BefehleAnlegen() {
   Schalter("GrafFreistellen", "Nummern ohne Überdeckung", "Frei", GrafikWahl.Freistellen);
   Schalter("GrafMaßstabsleiste", "Maßstabsleiste", "Maßstab", GrafikWahl.Maßstabsleiste);
   Leiste->addSeparator();
+  Befehl("GrafDXFSpeichern", "DXF speichern ...", "DXF →",
+         [] { static_cast<void>(Geschützt("Grafik.DXFSpeichern", [] { GrafDXFSpeichern(); })); });
+  Befehl("GrafDXFLesen", "DXF lesen ...", "DXF ←",
+         [] { static_cast<void>(Geschützt("Grafik.DXFLesen", GrafDXFLesen)); });
   Befehl("GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
 }
 

@@ -174,11 +174,12 @@ std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
     Zusatz = new QCheckBox(Q(Auftrag.Zusatz), &Dialog);
     if (auto* Platz = qobject_cast<QGridLayout*>(Dialog.layout()))
       Platz->addWidget(Zusatz, Platz->rowCount(), 0, 1, -1);
-    QObject::connect(Zusatz, &QCheckBox::toggled, &Dialog, &QDialog::accept);
+    if (!Auftrag.ZusatzIstWahl) QObject::connect(Zusatz, &QCheckBox::toggled, &Dialog, &QDialog::accept);
   }
   const bool Gewählt = Dialog.exec() == QDialog::Accepted;
   Auftrag.ZusatzGewählt = Zusatz != nullptr && Zusatz->isChecked();
-  if (!Gewählt || Auftrag.ZusatzGewählt || Dialog.selectedFiles().isEmpty()) return {};
+  if (!Gewählt || (Auftrag.ZusatzGewählt && !Auftrag.ZusatzIstWahl) || Dialog.selectedFiles().isEmpty())
+    return {};
   return Dialog.selectedFiles().constFirst().toStdString();
 }
 

@@ -90,4 +90,9 @@ int ProtokollWahl(std::string& Name, const std::string& Ordner) {
   return Dialogergebnis = 0;
 }
 
+bool ÜberschreibenFragen(const std::string& Name) {
+  return !DateiVorhanden(Name) || FrageJaNein("Die Datei ist schon vorhanden. Überschreiben ?\n\n" + Name,
+                                              "Tavorena", KnopfNein) == KnopfJa;
+}
+
 }  // namespace tavorena

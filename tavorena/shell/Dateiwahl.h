@@ -22,6 +22,9 @@ inline const char* const FilterEdbs = "EDBS- Dateien |*.ed?";
 /// Folder in which a file dialog starts.
 [[nodiscard]] std::string Startordner();
 
+/// Asks before a file that is there is replaced, default "Nein". @return whether it may be
+[[nodiscard]] bool ÜberschreibenFragen(const std::string& Name);
+
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
 [[nodiscard]] int ProtokollWahl(std::string& Name, const std::string& Ordner = Startordner());
 

@@ -22,6 +22,7 @@
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Grafikbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/TVHauptmodul.h>
@@ -140,6 +141,7 @@ int HauptKoordinatendateiWechseln(bool Nachfragen) {
     if (Antwort != KnopfJa && Antwort != KnopfNein) return -1;
     if (Antwort == KnopfJa && HauptDateiSpeichern() < 0) return -1;
   }
+  if (Nachfragen && GrafikSichern() < 0) return -1;
   BlätterSchließen();
   OhnePunkte();
   KoordinatendateiName.clear();

@@ -505,8 +505,12 @@ class FensterTest : public QObject {
     const QImage Ohne = Bild->grab().toImage();
     QCOMPARE(KorZeileSetzen(0, {"1001", 3500120, 5600260, 0, "", nullptr}), 0);
     QTRY_VERIFY(Bild->grab().toImage() != Ohne);
+    // The line is in no file: asked, and written on the way out.
     Antworte(Qt::Key_N);
+    Antworte(Qt::Key_J);
+    Wähle(Pfad("a.dxf"));
     Menü("MenüDateiSchließen");
+    QVERIFY(Inhalt(Pfad("a.dxf")).contains("LINE"));
     QVERIFY(!Bild->isVisible() && GrafikFreieLinien().empty());
   }
 
