@@ -212,6 +212,7 @@ GrafikAnsicht::GrafikAnsicht(QWidget* Eltern)
     : QWidget(Eltern),
       Gemälde(new GrafikBild(this)),
       Leiste(new QToolBar(this)),
+      Zeichenleiste(new QToolBar(this)),
       GrafikHScroll(new QScrollBar(Qt::Horizontal, this)),
       GrafikVScroll(new QScrollBar(Qt::Vertical, this)) {
   GrafikHScroll->setObjectName("GrafikHScroll");
@@ -220,10 +221,11 @@ GrafikAnsicht::GrafikAnsicht(QWidget* Eltern)
   Platz->setContentsMargins(0, 0, 0, 0);
   Platz->setSpacing(0);
   Platz->addWidget(Leiste, 0, 0, 1, 2);
-  Platz->addWidget(Gemälde, 1, 0);
-  Platz->addWidget(GrafikVScroll, 1, 1);
-  Platz->addWidget(GrafikHScroll, 2, 0);
-  Platz->setRowStretch(1, 1);
+  Platz->addWidget(Zeichenleiste, 1, 0, 1, 2);
+  Platz->addWidget(Gemälde, 2, 0);
+  Platz->addWidget(GrafikVScroll, 2, 1);
+  Platz->addWidget(GrafikHScroll, 3, 0);
+  Platz->setRowStretch(2, 1);
   Platz->setColumnStretch(0, 1);
   for (QScrollBar* Balken : {GrafikHScroll, GrafikVScroll}) {
     Balken->setFocusPolicy(Qt::NoFocus);
@@ -233,6 +235,8 @@ GrafikAnsicht::GrafikAnsicht(QWidget* Eltern)
   Gemälde->BeiMenü = [this] {
     QMenu Menü(this);
     Menü.addActions(Leiste->actions());
+    Menü.addSeparator();
+    Menü.addActions(Zeichenleiste->actions());
     Menü.exec(QCursor::pos());
   };
   Gemälde->BeiEnde = [this] { Box->setChecked(false); };
@@ -247,39 +251,43 @@ GrafikAnsicht::~GrafikAnsicht() {
   GrafikFenster.GrafikOffen = false;
 }
 
-QAction* GrafikAnsicht::Befehl(const char* Name, const char* Text, const char* Zeichen,
+QAction* GrafikAnsicht::Befehl(QToolBar& In, const char* Name, const char* Text, const char* Zeichen,
                                std::function<void()> Tun) {
-  QAction* A = Leiste->addAction(Text);
+  QAction* A = In.addAction(Text);
   A->setObjectName(Name);
   A->setIconText(Zeichen);
   A->setToolTip(QString(Text).remove('&'));
-  connect(A, &QAction::triggered, this, std::move(Tun));
-  connect(A, &QAction::hovered, this, [A] { StatusHilfeSetzen(A->toolTip().toStdString()); });
+  connect(A, &QAction::triggered, &In, std::move(Tun));
+  connect(A, &QAction::hovered, &In, [A] { StatusHilfeSetzen(A->toolTip().toStdString()); });
   return A;
 }
 
 void GrafikAnsicht::BefehleAnlegen() {
-  Leiste->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  Leiste->setFocusPolicy(Qt::NoFocus);
-  Befehl("GrafikZoomAnpa", "Alles zeigen", "Alles", GrafikZoomAnpassen);
-  Befehl("GrafZoomneu", "Neu zeichnen", "Neu", GrafikNeuZeichnen);
-  Befehl("GrafZoomin", "Vergrößern", "+", GrafZoomin);
-  Befehl("GrafZoomout", "Verkleinern", "−", GrafZoomout);
-  Befehl("GrafZoomlinks", "Nach links", "←", GrafZoomlinks);
-  Befehl("GrafZoomrechts", "Nach rechts", "→", GrafZoomrechts);
-  Befehl("GrafZoomoben", "Nach oben", "↑", GrafZoomoben);
-  Befehl("GrafZoomunten", "Nach unten", "↓", GrafZoomunten);
-  Box = Befehl("GrafikGummibox", "Ausschnitt aufziehen", "Box", [] {});
+  for (QToolBar* L : {Leiste, Zeichenleiste}) {
+    L->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    L->setFocusPolicy(Qt::NoFocus);
+  }
+  Befehl(*Leiste, "GrafikZoomAnpa", "Alles zeigen", "Alles", GrafikZoomAnpassen);
+  Befehl(*Leiste, "GrafZoomneu", "Neu zeichnen", "Neu", GrafikNeuZeichnen);
+  Befehl(*Leiste, "GrafZoomin", "Vergrößern", "+", GrafZoomin);
+  Befehl(*Leiste, "GrafZoomout", "Verkleinern", "−", GrafZoomout);
+  Befehl(*Leiste, "GrafZoomlinks", "Nach links", "←", GrafZoomlinks);
+  Befehl(*Leiste, "GrafZoomrechts", "Nach rechts", "→", GrafZoomrechts);
+  Befehl(*Leiste, "GrafZoomoben", "Nach oben", "↑", GrafZoomoben);
+  Befehl(*Leiste, "GrafZoomunten", "Nach unten", "↓", GrafZoomunten);
+  Box = Befehl(*Leiste, "GrafikGummibox", "Ausschnitt aufziehen", "Box", [] {});
   Box->setCheckable(true);
   connect(Box, &QAction::toggled, this, [this](bool An) { Gemälde->GummiboxSetzen(An); });
-  Leiste->addSeparator();
-  Befehl("GrafDesign(0)", "Linie zeichnen", "Linie", [] { GrafDesign(Zeichenbefehl::Linie); });
-  Befehl("GrafDesign(1)", "Polygon zeichnen", "Polygon", [] { GrafDesign(Zeichenbefehl::Polygon); });
-  Befehl("GrafDesign(2)", "Bogen zeichnen", "Bogen", [] { GrafDesign(Zeichenbefehl::Bogen); });
-  Befehl("GrafDesign(3)", "Linie oder Bogen löschen", "Löschen", [] { GrafDesign(Zeichenbefehl::Löschen); });
-  Leiste->addSeparator();
+  Befehl(*Zeichenleiste, "GrafDesign(0)", "Linie zeichnen", "Linie",
+         [] { GrafDesign(Zeichenbefehl::Linie); });
+  Befehl(*Zeichenleiste, "GrafDesign(1)", "Polygon zeichnen", "Polygon",
+         [] { GrafDesign(Zeichenbefehl::Polygon); });
+  Befehl(*Zeichenleiste, "GrafDesign(2)", "Bogen zeichnen", "Bogen",
+         [] { GrafDesign(Zeichenbefehl::Bogen); });
+  Befehl(*Zeichenleiste, "GrafDesign(3)", "Linie oder Bogen löschen", "Löschen",
+         [] { GrafDesign(Zeichenbefehl::Löschen); });
   const auto Schalter = [this](const char* Name, const char* Text, const char* Zeichen, bool& Wahl) {
-    QAction* A = Befehl(Name, Text, Zeichen, [] {});
+    QAction* A = Befehl(*Leiste, Name, Text, Zeichen, [] {});
     A->setCheckable(true);
     A->setChecked(Wahl);
     connect(A, &QAction::toggled, this, [&Wahl](bool An) {
@@ -287,15 +295,16 @@ void GrafikAnsicht::BefehleAnlegen() {
       GrafikNeuZeichnen();
     });
   };
+  Leiste->addSeparator();
   Schalter("GrafNummern", "Punktnummern", "Nr.", GrafikWahl.Nummern);
   Schalter("GrafFreistellen", "Nummern ohne Überdeckung", "Frei", GrafikWahl.Freistellen);
   Schalter("GrafMaßstabsleiste", "Maßstabsleiste", "Maßstab", GrafikWahl.Maßstabsleiste);
-  Leiste->addSeparator();
-  Befehl("GrafDXFSpeichern", "DXF speichern ...", "DXF →",
+  Zeichenleiste->addSeparator();
+  Befehl(*Zeichenleiste, "GrafDXFSpeichern", "DXF speichern ...", "DXF →",
          [] { static_cast<void>(Geschützt("Grafik.DXFSpeichern", [] { GrafDXFSpeichern(); })); });
-  Befehl("GrafDXFLesen", "DXF lesen ...", "DXF ←",
+  Befehl(*Zeichenleiste, "GrafDXFLesen", "DXF lesen ...", "DXF ←",
          [] { static_cast<void>(Geschützt("Grafik.DXFLesen", GrafDXFLesen)); });
-  Befehl("GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
+  Befehl(*Zeichenleiste, "GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
 }
 
 void GrafikAnsicht::Nachsehen() {

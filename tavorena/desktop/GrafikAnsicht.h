@@ -75,12 +75,13 @@ class GrafikAnsicht final : public QWidget {
 
  private:
   void BefehleAnlegen();
-  QAction* Befehl(const char* Name, const char* Text, const char* Zeichen, std::function<void()> Tun);
+  static QAction* Befehl(QToolBar& In, const char* Name, const char* Text, const char* Zeichen,
+                         std::function<void()> Tun);
   void BalkenStellen();
   void BalkenGerückt();
 
   GrafikBild* Gemälde;
-  QToolBar* Leiste;
+  QToolBar *Leiste, *Zeichenleiste;
   QScrollBar *GrafikHScroll, *GrafikVScroll;
   QAction* Box = nullptr;
   std::uint64_t Stand = 0;
