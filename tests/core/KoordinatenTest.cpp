@@ -20,8 +20,8 @@ void Ordnen(std::vector<std::string>& Nr, std::vector<int>& Begleiter) {
   });
 }
 
-// Nearly all distinct, many duplicates (0, -0 and others below it among them), mixed with letters, with commas and letters, long ones
-// that begin alike.
+// Nearly all distinct, many duplicates (0, -0 and others below it among them), mixed with letters, with
+// commas and letters, long ones that begin alike.
 std::string Zufallsnummer(std::mt19937& Zufall, int Art) {
   const auto n = static_cast<int>(Zufall() % 40);
   const std::string Zahl = std::to_string(n);
