@@ -233,8 +233,8 @@ void Hauptfenster::GrafikBauen() {
   Grafikrahmen->setWidget(Grafik);
   addDockWidget(Qt::RightDockWidgetArea, Grafikrahmen);
   Grafikrahmen->hide();
-  connect(Grafikrahmen, &QDockWidget::visibilityChanged, Flaeche, [this](bool An) {
-    if (!An) Flaeche->show();  // what filled the work area gives it back
+  connect(Grafikrahmen, &QDockWidget::visibilityChanged, Flaeche, [Arbeit = Flaeche](bool An) {
+    if (!An) Arbeit->show();  // what filled the work area gives it back
   });
   Grafik->Bild().BeiPunkt = [](const std::string& Pnr) {
     QWidget* W = QApplication::focusWidget();
