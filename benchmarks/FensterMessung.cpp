@@ -64,6 +64,7 @@ void FensterMessen(benchmark::State& Stand, bool MitProtokoll) {
     unlink(Protokoll.c_str());
     HauptInitialisierung();
     Optionen.ProtokollfensterAn = MitProtokoll;
+    Optionen.GrafikfensterAn = false;
     Fenster.Auffrischen();
     Ausklingen();
     const double Ab = Prozessorzeit();

@@ -18,17 +18,19 @@ class Atempause {
   /// @param[in] Sekunden  at least so long from one look to the next
   explicit Atempause(double Sekunden) : Abstand(Sekunden) {}
 
-  /// It is time for a look; the next one counts from here.
+  /// It is time for a look. The next one counts from the end of this one: a slow redraw costs no more than
+  /// its share.
   [[nodiscard]] bool Fällig() {
     const double Jetzt = AblaufPort().Zeitgeber();
-    if (Jetzt - Zuletzt < Abstand) return false;
-    Zuletzt = Jetzt;
-    return true;
+    if (Geschaut) Zuletzt = Jetzt;
+    Geschaut = Jetzt - Zuletzt >= Abstand;
+    return Geschaut;
   }
 
  private:
   double Abstand;
   double Zuletzt = AblaufPort().Zeitgeber();
+  bool Geschaut = false;
 };
 
 /// Long work runs while this lives: busy pointer, everything but the stop button locked.

@@ -23,13 +23,16 @@
 #include <tavorena/graphics/GrafDesign.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
+#include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Grafikbefehle.h>
+#include <tavorena/shell/TVKernMDIForm.h>
 
 namespace tavorena {
 namespace {
 
 constexpr double Radfaktor = 1.25;  // of a notch of the wheel
 constexpr int Balkenschritte = 10000;
+constexpr int Maltakt = 1000;  // ms from picture to picture while something long runs
 
 double Twips(double Pixel) { return Pixel * TwipsJePixel; }
 
@@ -62,11 +65,16 @@ GrafikBild::GrafikBild(QWidget* Eltern) : QWidget(Eltern) {
   setMinimumSize(120, 120);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setCursor(Qt::CrossCursor);
+  Maluhr.setSingleShot(true);
+  Maluhr.setInterval(Maltakt);
+  connect(&Maluhr, &QTimer::timeout, this, qOverload<>(&QWidget::update));
 }
 
+// While something long runs a picture now and then is enough: it must not take the time of the work.
 void GrafikBild::Veralten() {
   Veraltet = true;
-  update();
+  if (!Stapel.RechnetZeilen && !TVKernMDIForm::Fenster().IstBeschäftigt()) return update();
+  if (!Maluhr.isActive()) Maluhr.start();
 }
 
 void GrafikBild::GummiboxSetzen(bool An) {

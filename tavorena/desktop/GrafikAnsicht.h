@@ -6,6 +6,7 @@
 
 #include <QPixmap>
 #include <QPoint>
+#include <QTimer>
 #include <QWidget>
 
 class QAction;
@@ -52,6 +53,7 @@ class GrafikBild final : public QWidget {
 
   QPixmap Gemaltes;
   bool Veraltet = true;
+  QTimer Maluhr;  // of the next picture while something long runs
   bool MitGummibox = false;
   Zug Gezogen = Zug::Keiner;
   QPointF Anfang, Zuletzt;

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Geschuetzt.h>
 
 namespace tavorena::test {
@@ -29,6 +30,16 @@ TEST(Geschützt, MeldetDieArtDesFehlers) {
   }
   EXPECT_EQ(Skript.Titel.back(), "Tavorena Fehlermeldung");
   EXPECT_EQ(Geschützt("A.B", [] {}), 0);
+}
+
+// The clock of the script goes on by a second with each look: a look that takes long is not followed by one
+// at once.
+TEST(Atempause, ZähltVomEndeDesBlicks) {
+  const PlattformSkript Skript;
+  Atempause Pause(1.5);
+  std::string Fällig;
+  for (int i = 0; i < 7; ++i) Fällig += Pause.Fällig() ? 'x' : '-';
+  EXPECT_EQ(Fällig, "-x--x--");
 }
 
 }  // namespace
