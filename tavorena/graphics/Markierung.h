@@ -18,8 +18,8 @@ class Markierung {
     return *this;
   }
 
-  void Punkt(const GrafikMarke& M) { Elemente.push_back({Art::Marke, GrafikMarkeHinzu(M)}); }
-  void Linie(const GrafikLinie& L) { Elemente.push_back({Art::Linie, GrafikLinieHinzu(L)}); }
+  void Punkt(const GrafikMarke& M) { Merken({Art::Marke, GrafikMarkeHinzu(M)}); }
+  void Linie(const GrafikLinie& L) { Merken({Art::Linie, GrafikLinieHinzu(L)}); }
   void Löschen() {
     for (const Stück& S : Elemente) S.Was == Art::Marke ? GrafikMarkeWeg(S.Handle) : GrafikLinieWeg(S.Handle);
     Elemente.clear();
@@ -31,6 +31,10 @@ class Markierung {
     Art Was;
     int Handle;
   };
+  void Merken(Stück S) {
+    if (Elemente.empty()) Elemente.reserve(2);  // a row has a line and a point
+    Elemente.push_back(S);
+  }
   std::vector<Stück> Elemente;
 };
 

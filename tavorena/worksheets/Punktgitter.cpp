@@ -108,7 +108,6 @@ int Punktgitter::GitterEinzel(int z) {
   if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return -1;
   LetztePunktnummer = Neu.Pnr;
   Reihe(z) = std::move(Neu);
-  Markieren(z, FarbeBlau);
   ZeileZeigen(z);
   return 0;
 }
@@ -116,9 +115,9 @@ int Punktgitter::GitterEinzel(int z) {
 // The end of a row: protocol and batch file.
 int Punktgitter::GitterEnde(int z) {
   Punktzeile& Z = Reihe(z);
-  if (Blatt.Akten.Zeile(Kunde.Protokollieren(Z, ""), LinelSatz(Z.Pnr), Z.Wo) < 0) return -1;
-  Markieren(z, FarbeRot);
-  return 0;
+  const int Ergebnis = Blatt.Akten.Zeile(Kunde.Protokollieren(Z, ""), LinelSatz(Z.Pnr), Z.Wo);
+  Markieren(z, Ergebnis == 0 ? FarbeRot : FarbeBlau);
+  return Ergebnis;
 }
 
 // The row under work is blue, the committed one red with its number.
@@ -202,8 +201,12 @@ std::string Punktgitter::Nummer(int z) const { return Trimmen(Zellen.Inhalt(z, 0
 void Punktgitter::ZeileZeigen(int z) {
   const Punktzeile& Z = Reihe(z);
   Zellen.InhaltSetzen(z, 0, Z.Pnr);
-  std::vector<std::string> Texte(Zellen.Spalten.size() - 1);
-  if (!Z.Pnr.empty()) Texte = Kunde.Zellen(Z);
+  std::vector<std::string> Texte;
+  if (Z.Pnr.empty()) {
+    Texte.resize(Zellen.Spalten.size() - 1);
+  } else {
+    Texte = Kunde.Zellen(Z);
+  }
   for (int s = 0; s < std::ssize(Texte); ++s)
     Zellen.InhaltSetzen(z, s + 1, Texte[static_cast<std::size_t>(s)]);
 }
@@ -216,7 +219,8 @@ bool Punktgitter::ZelleVerlassen() {
   if (Reihe(z).Wo.Geschrieben) {
     ZeileZeigen(z);
   } else if (!Nummer(z).empty() && Nummer(z) != Reihe(z).Pnr) {
-    return GitterEinzel(z) == 0;
+    if (GitterEinzel(z) < 0) return false;
+    Markieren(z, FarbeBlau);
   }
   return true;
 }

@@ -89,10 +89,10 @@ Zeilenkunde TVLinelForm::Kunde() {
                                                                  Werte.AbweichungZulaessig});
         V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), a, Kopf.End.Nummer(), e);
       },
-      [this](const Punktzeile& Z) {
-        Lage Fuß = Z.Ort;
-        static_cast<void>(Fusspunkt(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Fuß));  // they are apart
-        return Fuß;
+      [this](const Punktzeile& Z) {  // the foot point
+        const double Teil = Z.Wert1 / Werte.EntfGerechnet;
+        const Lage Von = Kopf.Anf.Ort(), Bis = Kopf.End.Ort();
+        return Lage{Von.RW + Teil * (Bis.RW - Von.RW), Von.HW + Teil * (Bis.HW - Von.HW)};
       },
   };
 }

@@ -526,8 +526,8 @@ TEST_F(BlattTest, MarkenInDerGrafik) {
   Drücke(*L, "LinelDelete");
   EXPECT_EQ(Neues(), Anschluß);
   Tippe(*L, "LinelPnrvon", "2003\n2004\n7\n");
-  EXPECT_EQ(Neues()[1], "Strichlinie 111 388 231 228 f255");
-  EXPECT_EQ(Neues()[2], "Strichlinie 89 372 209 212 f255");
+  EXPECT_EQ(Neues()[1], "Strichlinie 89 372 209 212 f255");
+  EXPECT_EQ(Neues()[2], "Strichlinie 111 388 231 228 f255");
   EXPECT_EQ(Neues().size(), Anschluß.size() + 2 + 4);
   Drücke(*L, "LinelEnd10");
   EXPECT_EQ(Neues(), Anschluß);
