@@ -76,8 +76,9 @@ int AnsichtSchreiben(const std::string& Name) {
   QBuffer Puffer(&Bytes);
   Puffer.open(QIODevice::WriteOnly);
   Schreiben(Puffer, Größe);
-  std::string Grund;
-  if (DateiErsetzen(Name, std::string_view(Bytes.constData(), static_cast<std::size_t>(Bytes.size())),
+  std::string Grund = "zu groß";
+  if (!Bytes.isEmpty() &&
+      DateiErsetzen(Name, std::string_view(Bytes.constData(), static_cast<std::size_t>(Bytes.size())),
                     &Grund) == 0)
     return 0;
   FehlerMeldung("Die Ansicht läßt sich nicht schreiben (" + Grund + "):\n" + Name);

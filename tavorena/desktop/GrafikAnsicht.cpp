@@ -248,9 +248,11 @@ GrafikAnsicht::GrafikAnsicht(QWidget* Eltern)
     Menü.exec(QCursor::pos());
   };
   Gemälde->BeiEnde = [this] { Box->setChecked(false); };
+  Balkenuhr.setSingleShot(true);
+  connect(&Balkenuhr, &QTimer::timeout, this, &GrafikAnsicht::BalkenStellen);
   GrafikBeiÄnderung = [this] {
     Gemälde->Veralten();
-    BalkenStellen();
+    if (!Balkenuhr.isActive()) Balkenuhr.start();
   };
 }
 
@@ -265,7 +267,9 @@ QAction* GrafikAnsicht::Befehl(QToolBar& In, const char* Name, const char* Text,
   A->setObjectName(Name);
   A->setIconText(Zeichen);
   A->setToolTip(QString(Text).remove('&'));
-  connect(A, &QAction::triggered, &In, std::move(Tun));
+  connect(A, &QAction::triggered, &In, [Name, Tun = std::move(Tun)] {
+    static_cast<void>(Geschützt(std::string("TVKernGrafikform.") + Name, Tun));  // the message is the answer
+  });
   connect(A, &QAction::hovered, &In, [A] { StatusHilfeSetzen(A->toolTip().toStdString()); });
   return A;
 }
@@ -308,10 +312,8 @@ void GrafikAnsicht::BefehleAnlegen() {
   Schalter("GrafFreistellen", "Nummern ohne Überdeckung", "Frei", GrafikWahl.Freistellen);
   Schalter("GrafMaßstabsleiste", "Maßstabsleiste", "Maßstab", GrafikWahl.Maßstabsleiste);
   Zeichenleiste->addSeparator();
-  Befehl(*Zeichenleiste, "GrafDXFSpeichern", "DXF speichern ...", "DXF →",
-         [] { static_cast<void>(Geschützt("Grafik.DXFSpeichern", [] { GrafDXFSpeichern(); })); });
-  Befehl(*Zeichenleiste, "GrafDXFLesen", "DXF lesen ...", "DXF ←",
-         [] { static_cast<void>(Geschützt("Grafik.DXFLesen", GrafDXFLesen)); });
+  Befehl(*Zeichenleiste, "GrafDXFSpeichern", "DXF speichern ...", "DXF →", [] { GrafDXFSpeichern(); });
+  Befehl(*Zeichenleiste, "GrafDXFLesen", "DXF lesen ...", "DXF ←", GrafDXFLesen);
   Befehl(*Zeichenleiste, "GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
 }
 

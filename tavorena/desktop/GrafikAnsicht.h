@@ -86,6 +86,7 @@ class GrafikAnsicht final : public QWidget {
   QToolBar *Leiste, *Zeichenleiste;
   QScrollBar *GrafikHScroll, *GrafikVScroll;
   QAction* Box = nullptr;
+  QTimer Balkenuhr;  // the bars follow once, however much changes at a time
   std::uint64_t Stand = 0;
   bool WarLeer = true;
   bool Stellt = false;  // the bars follow the window, and not the other way round

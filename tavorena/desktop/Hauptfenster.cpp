@@ -278,12 +278,12 @@ void Hauptfenster::GrafikZeigen() {
 
 void Hauptfenster::GrafikÖffnenSchließen(bool Offen) {
   const bool Neu = Offen && Grafikrahmen->isHidden();
+  const bool Anpassen = !GrafikFenster.Gemerkt;  // opening uses up what was kept
   Grafikrahmen->setVisible(Offen);
   if (!Neu) return;
   if (Fensterplatz().Bytes("Hauptfenster/Leisten").isEmpty())
     resizeDocks({Grafikrahmen}, {width() * 3 / 8}, Qt::Horizontal);
   // It fits when the docks have found their places.
-  const bool Anpassen = GrafikFenster.Massstab == 0 || !GrafikFenster.Gemerkt;
   if (Anpassen) QTimer::singleShot(0, Grafik, GrafikZoomAnpassen);
 }
 

@@ -6,7 +6,6 @@
 #include <QTranslator>
 
 #include <tavorena/core/Geschuetzt.h>
-#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Ansichtdatei.h>
 #include <tavorena/desktop/Aussehen.h>
@@ -14,6 +13,7 @@
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/Konfiguration.h>
+#include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/TVHauptmodul.h>
 
 using namespace tavorena;
@@ -82,7 +82,9 @@ int AnsichtAusgeben(const std::string& Koordinaten, QSize Größe, const std::st
   int Ergebnis = -1;
   const auto Tun = [&] {
     OptionenLesen();
-    if (KorLesen(Koordinaten, Lesemodus::Ersetzen, FormatNachEndung(Koordinaten)) < 0) return;
+    KoordinatendateiName = Koordinaten;
+    Koordinatendateiformat = FormatNachEndung(Koordinaten);
+    if (KoordinatendateiLesen() < 0) return;
     GrafikÖffnen(Größe.width() * TwipsJePixel, Größe.height() * TwipsJePixel);
     Ergebnis = AnsichtSchreiben(Ziel);
   };

@@ -33,6 +33,13 @@ struct {
 } Bild;
 
 template <typename Element>
+int Hinzu(Elementspeicher<Element>& Speicher, const Element& Neu) {
+  const int Handle = Speicher.Hinzu(Neu);
+  GrafikNeuZeichnen();
+  return Handle;
+}
+
+template <typename Element>
 int FreiHinzu(Elementspeicher<Element>& Speicher, const Element& Neu) {
   if (Neu.Frei) {
     int Anzahl = 0;
@@ -40,8 +47,7 @@ int FreiHinzu(Elementspeicher<Element>& Speicher, const Element& Neu) {
     if (Anzahl >= GrafikFreieGrenze) return -1;
     GrafikUngesichert = true;
   }
-  GrafikNeuZeichnen();
-  return Speicher.Hinzu(Neu);
+  return Hinzu(Speicher, Neu);
 }
 
 template <typename Element>
@@ -151,16 +157,8 @@ void LeisteZeichnen(Zeichenfläche& Auf) {
 
 int GrafikLinieHinzu(const GrafikLinie& Linie) { return FreiHinzu(Bild.Linien, Linie); }
 int GrafikBogenHinzu(const GrafikBogen& Bogen) { return FreiHinzu(Bild.Bogen, Bogen); }
-
-int GrafikTextHinzu(const GrafikText& Text) {
-  GrafikNeuZeichnen();
-  return Bild.Texte.Hinzu(Text);
-}
-
-int GrafikMarkeHinzu(const GrafikMarke& Marke) {
-  GrafikNeuZeichnen();
-  return Bild.Marken.Hinzu(Marke);
-}
+int GrafikTextHinzu(const GrafikText& Text) { return Hinzu(Bild.Texte, Text); }
+int GrafikMarkeHinzu(const GrafikMarke& Marke) { return Hinzu(Bild.Marken, Marke); }
 
 void GrafikLinieWeg(int Handle) { Weg(Bild.Linien, Handle); }
 void GrafikBogenWeg(int Handle) { Weg(Bild.Bogen, Handle); }

@@ -153,6 +153,7 @@ TEST_F(Programm, AnsichtOhneBildschirm) {
                {"a.kor --ansicht aus.bmp", "", "", 1},
                {"fehlt.kor --ansicht aus.svg", "", "", 1},
                {"a.kor --ansicht fehlt/aus.svg", "", "", 1},
+               {"a.sta --ansicht aus.svg", "", "", 1},
                {"--ansicht aus.svg", "", "", 2},
                {"a.kor --ansicht aus.svg --groesse 800", "", "", 2}};
   for (const auto& F : Fälle) {

@@ -501,6 +501,16 @@ class FensterTest : public QObject {
     QVERIFY(qFuzzyCompare(GrafikFenster.Massstab, 2 * Massstab));
     Drücke(Qt::Key_F6);
     QCOMPARE(FokusName(), QString("LinelGitterFeld"));
+    // Closed and opened again, by the menu that next gives it the whole work area and then takes that back.
+    auto* Arbeit = Fenster->findChild<QMdiArea*>();
+    const double Vergrößert = GrafikFenster.Massstab;
+    Bild->window()->findChild<QDockWidget*>("TVKernGrafikform")->close();
+    for (const bool Mit : {true, false, true}) {
+      Menü("MenüAnsichtGrafik(1)");
+      QTest::qWait(20);
+      QVERIFY(Bild->isVisible() && Arbeit->isVisible() == Mit);
+      QVERIFY(qFuzzyCompare(GrafikFenster.Massstab, Vergrößert));
+    }
     // A point that comes is seen, closing the file closes the view.
     const QImage Ohne = Bild->grab().toImage();
     QCOMPARE(KorZeileSetzen(0, {"1001", 3500120, 5600260, 0, "", nullptr}), 0);
