@@ -1,0 +1,235 @@
+// What is around the work: texts, boxes, places of windows, help, options and menus.
+#include "Fenstertest.h"
+
+using namespace tavorena;
+using namespace tavorena::test;
+
+class RahmenTest final : public Fensterumgebung {
+  Q_OBJECT
+
+ private slots:
+  // A name from a file is no markup.
+  void textIstKeineAuszeichnung() {
+    const char* const Name = "<b>a</b>&amp;";
+    Dialoge.push_back([&] {
+      const auto* Text = QApplication::activeModalWidget()->findChild<QLabel*>("qt_msgbox_label");
+      QVERIFY(Text->text() == Name && Text->textFormat() == Qt::PlainText);
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    });
+    Hinweis(Name);
+    StatusHilfeSetzen(Name);
+    bool Gezeigt = false;
+    for (const auto* Text : Fenster->statusBar()->findChildren<QLabel*>()) {
+      Gezeigt = Gezeigt || Text->text().contains(Name);
+      QCOMPARE(Text->textFormat(), Qt::PlainText);
+    }
+    QVERIFY(Gezeigt);
+  }
+
+  void langeTexteUndUndZeichen() {
+    Öffne();
+    const QString Riss = "Fortführungsriß 12/2026 der Gemarkung Musterdorf";
+    Optionen.AbfrageRiss = true;
+    Dialoge.push_back([&] {
+      qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(Riss);
+      Tippe("\n3\n");
+    });
+    Menü("MenüKatasterLinel");
+    Tippe("1001\n1002\n0\n0\n2003\n");
+    const auto* Feld = Fenster->findChild<QLineEdit*>("LinelRi_bez");
+    QVERIFY(Feld->text().endsWith(u'…') && Riss.startsWith(Feld->text().chopped(1)));
+    QVERIFY(Feld->fontMetrics().horizontalAdvance(Feld->text()) < Feld->width());
+    QCOMPARE(Feld->toolTip(), Riss);
+    auto* Tabelle = Fenster->findChild<QTableView*>("LinelGitter");
+    const QModelIndex Zelle = Tabelle->model()->index(0, 1);
+    QVERIFY(Zelle.data(Qt::ToolTipRole).isNull() && Tabelle->textElideMode() == Qt::ElideRight);
+    Tabelle->setColumnWidth(1, 40);
+    QCOMPARE(Zelle.data(Qt::ToolTipRole).toString(), QString("3500130.000"));
+
+    HauptHistSchreiben("/daten/Müller & Söhne.kor", Dateiformat::Kor);
+    KoordinatendateiName.clear();
+    BlätterSchließen();
+    TVKernMDIForm::Fenster().OhneKoordinaten();
+    Fenster->Auffrischen();
+    const QAction* Letzte = Fenster->findChild<QAction*>("MenüDateiHist(1)");
+    QVERIFY(Letzte->isVisible());
+    QCOMPARE(Letzte->text(), QString("/daten/Müller && Söhne.kor"));
+  }
+
+  // An empty box is as clear against the window as a text.
+  void kaestchenSindHellUndDunkelZuSehen() {
+    for (const Helligkeit Wahl : {Helligkeit::Dunkel, Helligkeit::Hell}) {
+      AussehenSetzen(*qApp, Wahl);
+      QCheckBox Kasten;
+      QRadioButton Option;
+      for (QWidget* W : {static_cast<QWidget*>(&Kasten), static_cast<QWidget*>(&Option)}) {
+        W->resize(W->sizeHint());
+        const QImage Bild = W->grab().toImage();
+        const int Grund = W->palette().color(QPalette::Window).lightness();
+        int Abstand = 0;
+        for (int x = 0; x < Bild.width(); ++x) {
+          const int Hier = Bild.pixelColor(x, Bild.height() / 2).lightness();
+          Abstand = std::max(Abstand, std::abs(Hier - Grund));
+        }
+        QVERIFY2(Abstand > 60, qPrintable(QString::number(Abstand)));
+      }
+    }
+  }
+
+  void fensterUndProtokollKommenWieder() {
+    const QString Ablage = Pfad("app/TavorenaFenster.ini");
+    QFile::remove(Ablage);
+    Öffne("MenüKatasterLinel");
+    Optionen.ProtokollfensterAn = true;
+    Fenster->Auffrischen();
+    QVERIFY(!QFile::exists(Ablage));  // the start makes none
+    auto* Linel = Fenster->findChild<QMdiSubWindow*>();
+    QCOMPARE(Linel->pos(), QPoint(0, 0));  // not cut at the side that is typed into
+    auto* Gitter = Fenster->findChild<QTableView*>("LinelGitter");
+    Gitter->setColumnWidth(3, 201);
+    Linel->resize(Linel->width() + 31, Linel->height() - 57);
+    const QSize Größe = Linel->size();
+    Menü("MenüKatasterPolel");  // both are to be seen
+    const auto Blätter = Fenster->findChildren<QMdiSubWindow*>();
+    QCOMPARE(Blätter.size(), 2);
+    QVERIFY(!Blätter[0]->geometry().intersects(Blätter[1]->geometry()));
+    for (const QMdiSubWindow* F : Blätter)
+      QVERIFY(F->y() + F->height() <= Linel->mdiArea()->viewport()->height());
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    Linel->resize(Größe);
+    QTRY_COMPARE(Linel->mdiArea()->subWindowList().size(), 1);
+    Linel->close();
+    QTRY_VERIFY(!BlätterOffen());
+    auto* Protokoll = Fenster->findChild<QDockWidget*>();
+    Fenster->resizeDocks({Protokoll}, {333}, Qt::Horizontal);
+    QCoreApplication::processEvents();
+    QCOMPARE(Protokoll->width(), 333);
+    const QSize Haupt(1211, 777);
+    Fenster->resize(Haupt);
+    KoordinatendateiName.clear();
+    Antworte(Qt::Key_J);
+    QVERIFY(Fenster->close());
+
+    cleanup();
+    init();
+    Fenster->PlatzLesen();
+    QCOMPARE(Fenster->size(), Haupt);
+    QByteArray Altes = "      erste\r\n\f";
+    for (int i = 0; i < 3000; ++i) Altes += "      Zeile " + QByteArray::number(i) + "\r\n";
+    Schreibe(Pfad("a.dru"), Altes);
+    Wähle(Pfad("a.kor"));
+    Antworte(Qt::Key_N);  // "Anhängen"
+    Menü("MenüDateiLesen(0)");
+    Optionen.ProtokollfensterAn = true;
+    Fenster->Auffrischen();
+    const auto* Text = Fenster->findChild<QPlainTextEdit*>();
+    QTRY_VERIFY(Text->toPlainText().endsWith("\nZeile 2999\n") && Text->toPlainText().startsWith("Zeile"));
+    Optionen.AbfrageRiss = false;
+    Menü("MenüKatasterLinel");
+    QCOMPARE(Fenster->findChild<QMdiSubWindow*>()->size(), Größe);
+    QCOMPARE(Fenster->findChild<QTableView*>("LinelGitter")->columnWidth(3), 201);
+    QTRY_COMPARE(Fenster->findChild<QDockWidget*>()->width(), 333);
+  }
+
+  void langesLesenLaesstSichAnhalten() {
+    Öffne();
+    QByteArray Gross;
+    for (int i = 0; i < 5000; ++i) Gross += QString("%1 1.0 2.0\r\n").arg(10000 + i).toUtf8();
+    Schreibe(Pfad("gross.kor"), Gross);
+    Plattform->StopDrücken = true;
+    Wähle(Pfad("gross.kor"));
+    Menü("MenüDateiHinzuLesenKomplett");
+    QCOMPARE(KorAnzahl, 5);
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+    QVERIFY(Fenster->findChild<QAction*>("MenüKatasterLinel")->isEnabled());
+  }
+
+  void hilfeOptionenUndEnde() {
+    Öffne("MenüKatasterPolel");
+    HandbuchZeigen(0);
+    QCoreApplication::processEvents();
+    QVERIFY(handbuch()->width() <= Fenster->screen()->availableSize().width());
+    QCOMPARE(handbuch()->findChild<QTextBrowser*>()->horizontalScrollBar()->maximum(), 0);
+    handbuch()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTRY_VERIFY(Fenster->isActiveWindow());
+    Drücke(Qt::Key_F1);
+    QWidget* Rahmen = handbuch();
+    auto* Handbuch = Rahmen->findChild<QTextBrowser*>();
+    QCOMPARE(Handbuch->source().fileName(), QString("polarelemente.md"));
+    QVERIFY(Handbuch->toPlainText().contains("Polarelemente"));
+    auto* Verzeichnis = Rahmen->findChild<QListWidget*>();
+    QVERIFY(Verzeichnis->count() > 12 && Verzeichnis->item(1)->text() == "Die erste Viertelstunde");
+    QTest::keyClicks(Rahmen->findChild<QLineEdit*>(), "alt+links");
+    QCOMPARE(Verzeichnis->count(), 1);
+    QTest::keyClick(Rahmen->findChild<QLineEdit*>(), Qt::Key_Return);
+    QCOMPARE(Handbuch->source().fileName(), QString("tasten.md"));
+    for (const int Breite : {700, 1100}) {  // the pictures of the first page go with the window
+      Rahmen->resize(Breite, 700);
+      Handbuch->setSource(QUrl("qrc:/handbuch/index.md"), QTextDocument::MarkdownResource);
+      QCOMPARE(Handbuch->horizontalScrollBar()->maximum(), 0);
+    }
+    Handbuch->backward();
+    QCOMPARE(Handbuch->source().fileName(), QString("tasten.md"));
+    Rahmen->close();
+    Dialoge.push_back([] {  // also inside a dialog
+      QWidget* Dialog = QApplication::activeModalWidget();
+      QTest::keyClick(Dialog, Qt::Key_F1);
+      QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("optionen.md"));
+      QCOMPARE(Dialog->windowModality(), Qt::WindowModal);  // it can be read beside it
+      handbuch()->close();
+      QTest::keyClick(Dialog, Qt::Key_Escape);
+    });
+    Menü("MenüOptionenOptionen");
+    QVERIFY(Dialoge.empty());
+    static const QRegularExpression Verweis("\\]\\(([^)]+)\\)");
+    for (int Nummer = 0; Nummer < 9000; Nummer += 10) {
+      const QByteArray Seite = Inhalt(":/handbuch/" + Handbuchseite(Nummer));
+      QVERIFY2(!Seite.isEmpty(), qPrintable(Handbuchseite(Nummer)));
+      for (const auto& Treffer : Verweis.globalMatch(QString::fromUtf8(Seite))) {
+        QVERIFY2(QFile::exists(":/handbuch/" + Treffer.captured(1)), qPrintable(Treffer.captured(1)));
+      }
+    }
+    Antworte(Qt::Key_Escape, Qt::NoModifier);
+    Menü("MenüOptionenOptionen");
+    Antworte(Qt::Key_N);
+    QVERIFY(!Fenster->close());  // "Tavorena beenden ?" No
+    QVERIFY(BlätterOffen());
+    Antworte(Qt::Key_J);
+    Antworte(Qt::Key_A);
+    QVERIFY(!Fenster->close());  // the save question was cancelled
+    QCOMPARE(KorAnzahl, 5);
+    Antworte(Qt::Key_J);
+    Antworte(Qt::Key_N);
+    QVERIFY(Fenster->close());
+  }
+
+  void musterWaehltDenFilter() {
+    for (const auto& [Eintrag, Filter] : {std::pair{"MenüDateiLesen(0)", "CADdy (*.kor *.KOR)"},
+                                          std::pair{"MenüDateiLesen(2)", "ALK (*.alk *.ALK)"}}) {
+      Dialoge.push_back([Erwartet = QString(Filter)] {
+        auto* Dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(Dialog != nullptr);
+        Dialog->close();
+        QCOMPARE(Dialog->selectedNameFilter(), Erwartet);
+      });
+      Menü(Eintrag);
+    }
+  }
+
+  void jederEintragIstImMenue() {
+    for (const Menüeintrag& E : Menübaum()) QVERIFY2(Fenster->findChild<QAction*>(E.Name) != nullptr, E.Name);
+    for (const Werkzeug& W : Symbolleiste()) {
+      auto* A = Fenster->findChild<QAction*>(W.Name);
+      QVERIFY2(A != nullptr && !A->icon().isNull(), W.Name);
+      const QImage Bild = A->icon().pixmap(24).toImage();
+      QImage Leer(Bild.size(), Bild.format());
+      Leer.fill(Qt::transparent);
+      QVERIFY2(!Bild.isNull() && Bild != Leer, W.Name);
+    }
+    QVERIFY(!Fenster->findChild<QAction*>("MenüKatasterLinel")->isEnabled());
+  }
+};
+
+QTEST_MAIN(RahmenTest)
+#include "RahmenTest.moc"
