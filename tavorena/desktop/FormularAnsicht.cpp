@@ -29,8 +29,9 @@ namespace {
 QString Q(const std::string& Text) { return QString::fromStdString(Text); }
 
 // The keys that a form looks at. "+" and "-" of the number pad always step a point number; those of the
-// main keyboard only where they can not belong to the number: in an empty or wholly selected field.
-std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang) {
+// main keyboard only where they can not belong to the number: in an empty or wholly selected field. The space
+// bar is a key where rows are chosen.
+std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang, bool InGitter) {
   const bool Zählt = Anfang || E.modifiers().testFlag(Qt::KeypadModifier);
   switch (E.key()) {
     case Qt::Key_Return:
@@ -42,6 +43,8 @@ std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang) {
       return Taste::Auf;
     case Qt::Key_Down:
       return Taste::Ab;
+    case Qt::Key_Space:
+      return InGitter ? std::optional(Taste::Leer) : std::nullopt;
     case Qt::Key_Plus:
       return Zählt ? std::optional(Taste::Plus) : std::nullopt;
     case Qt::Key_Minus:
@@ -154,8 +157,16 @@ FormularAnsicht::Bild FormularAnsicht::GitterErzeugen(Gitter& G) {
     if (Modell == nullptr) return;
     FokusMelden(G);
     const bool Eingabe = G.Spalten[static_cast<std::size_t>(Spalte)].Eingabe;
-    Modell->ZelleWechseln(G, Zeile, Eingabe ? Spalte : *G.Spalte);
+    const bool Bereich = QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+    if (G.Markenspalte < 0 || !Bereich) Modell->ZelleWechseln(G, Zeile, Eingabe ? Spalte : *G.Spalte);
+    if (Modell != nullptr && G.Markenspalte >= 0 && !Eingabe) Modell->Markieren(G, Zeile, Bereich);
     FokusZeigen();
+  };
+  // The first of two clicks chose the row, or left it out: that was not meant.
+  Tabelle->BeiDoppelklick = [this, &G](int Zeile) {
+    if (Modell == nullptr || !G.BeiDoppelklick) return;
+    if (G.Markenspalte >= 0) Modell->Markieren(G, Zeile, false);
+    Modell->Doppelklicken(G, Zeile);
   };
   Tabelle->BeiEinfügen = [this, &G, Zelle] {
     if (Modell == nullptr) return;
@@ -240,7 +251,10 @@ void FormularAnsicht::FokusMelden(Steuerelement& S) {
 bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(S));
   const bool Anfang = Zeile != nullptr && (Zeile->text().isEmpty() || Zeile->selectedText() == Zeile->text());
-  const std::optional<Taste> T = TasteVon(Ereignis, Anfang);
+  auto* Markengitter = dynamic_cast<Gitter*>(&S);
+  if (Markengitter != nullptr && Markengitter->Markenspalte < 0) Markengitter = nullptr;
+  const std::optional<Taste> T = TasteVon(Ereignis, Anfang, Markengitter != nullptr);
+  if (Markengitter != nullptr && MarkenZiehen(*Markengitter, Ereignis)) return true;
   if (Kopieren(S, Ereignis)) return true;
   FokusMelden(S);
   const bool IstEingabe = dynamic_cast<const Eingabeelement*>(&S) != nullptr;
@@ -256,6 +270,14 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   } else {
     FokusMarkieren();
   }
+  return true;
+}
+
+// Shift and an arrow draw the choice of rows.
+bool FormularAnsicht::MarkenZiehen(Gitter& G, const QKeyEvent& Ereignis) {
+  const bool Auf = Ereignis.key() == Qt::Key_Up, Ab = Ereignis.key() == Qt::Key_Down;
+  if (Modell == nullptr || (!Auf && !Ab) || !Ereignis.modifiers().testFlag(Qt::ShiftModifier)) return false;
+  Modell->Markieren(G, G.Zeile + (Auf ? -1 : 1), true);
   return true;
 }
 

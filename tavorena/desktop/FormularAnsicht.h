@@ -63,6 +63,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   void FeldAnschließen(Eingabefeld& Zeile, Eingabeelement& E);
   void RahmenZeigen(const std::string& Titel);
   [[nodiscard]] bool TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis);
+  [[nodiscard]] bool MarkenZiehen(Gitter& G, const QKeyEvent& Ereignis);
   [[nodiscard]] bool Kopieren(const Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool Einfügen(Gitter& G, const QString& Text);
   [[nodiscard]] Gitteransicht& Tabelle(const Gitter& G) const;

@@ -37,6 +37,7 @@ class Gittermodell final : public QAbstractTableModel {
     if (Rolle == Qt::DisplayRole) return QString::fromStdString(Daten->Inhalt(Zelle.row(), Zelle.column()));
     if (Rolle == Qt::TextAlignmentRole) return Bündig(Zelle.column());
     if (Rolle == Qt::ToolTipRole) return Gekürztes(Zelle);
+    if (Rolle == Qt::BackgroundRole && Daten->Markenspalte >= 0) return Zeilenfarbe(Zelle.row());
     return {};
   }
   [[nodiscard]] QVariant headerData(int Spalte, Qt::Orientation Richtung, int Rolle) const override {
@@ -71,6 +72,15 @@ class Gittermodell final : public QAbstractTableModel {
     return QVariant::fromValue(Qt::Alignment((Rechts ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
   }
 
+  // Rows that are chosen are tinted, the current one more than the others.
+  [[nodiscard]] QVariant Zeilenfarbe(int Zeile) const {
+    const bool Aktuell = Zeile == Daten->Zeile;
+    if (!Aktuell && !Daten->Markiert(Zeile)) return {};
+    QColor Farbe = Ansicht->palette().color(QPalette::Highlight);
+    Farbe.setAlpha(Aktuell ? 120 : 50);
+    return QBrush(Farbe);
+  }
+
   // A text that the column shows only in part.
   [[nodiscard]] QVariant Gekürztes(const QModelIndex& Zelle) const {
     const QString Text = data(Zelle, Qt::DisplayRole).toString();
@@ -89,7 +99,7 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   setModel(Modell);
   setFont(Zahlenschrift());
   setEditTriggers(NoEditTriggers);
-  setSelectionMode(ContiguousSelection);
+  setSelectionMode(Daten.Markenspalte >= 0 ? NoSelection : ContiguousSelection);
   setTabKeyNavigation(false);
   setAlternatingRowColors(true);
   setShowGrid(false);
@@ -110,6 +120,9 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Gitteransicht::FeldRücken);
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& Zelle) {
     if (BeiZelle) BeiZelle(Zelle.row(), Zelle.column());
+  });
+  connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& Zelle) {
+    if (BeiDoppelklick) BeiDoppelklick(Zelle.row());
   });
 }
 
@@ -147,6 +160,7 @@ void Gitteransicht::FeldSetzen() {
     const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
     if (Daten.NurLesen) selectionModel()->setCurrentIndex(Zelle, QItemSelectionModel::NoUpdate);
     if (Daten.NurLesen) ZelleZeigen(Zelle);
+    if (Daten.Markenspalte >= 0) viewport()->update();  // the row that was the current one is no more
     return;
   }
   const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
@@ -230,16 +244,19 @@ void Gitteransicht::ZeilenMarkieren(int Von, int Bis) {
       QItemSelectionModel::ClearAndSelect);
 }
 
+QString Gitteransicht::Zeilentext(int Zeile, int Von, int Bis) const {
+  QStringList Zellen;
+  for (int s = Von; s <= Bis; ++s) {
+    if (!isColumnHidden(s)) Zellen << Modell->index(Zeile, s).data().toString();
+  }
+  return Zellen.join('\t');
+}
+
 QString Gitteransicht::Auswahltext() const {
   QStringList Zeilen;
+  for (const int z : Daten.Markierte()) Zeilen << Zeilentext(z, 0, Modell->columnCount() - 1);
   for (const QItemSelectionRange& Block : selectionModel()->selection()) {
-    for (int z = Block.top(); z <= Block.bottom(); ++z) {
-      QStringList Zellen;
-      for (int s = Block.left(); s <= Block.right(); ++s) {
-        if (!isColumnHidden(s)) Zellen << Modell->index(z, s).data().toString();
-      }
-      Zeilen << Zellen.join('\t');
-    }
+    for (int z = Block.top(); z <= Block.bottom(); ++z) Zeilen << Zeilentext(z, Block.left(), Block.right());
   }
   return Zeilen.join('\n');
 }

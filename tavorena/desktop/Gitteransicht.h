@@ -37,7 +37,8 @@ class Gitteransicht final : public QTableView {
   void Lösen();
 
   std::function<void(int Zeile, int Spalte)> BeiZelle;  ///< the user clicked a cell
-  std::function<void()> BeiEinfügen;                    ///< the user wants the clipboard as rows
+  std::function<void(int Zeile)> BeiDoppelklick;
+  std::function<void()> BeiEinfügen;  ///< the user wants the clipboard as rows
 
  protected:
   void contextMenuEvent(QContextMenuEvent* Ereignis) override;
@@ -50,6 +51,7 @@ class Gitteransicht final : public QTableView {
  private:
   void SpaltenZeigen();
   void ZeilenMarkieren(int Von, int Bis);
+  [[nodiscard]] QString Zeilentext(int Zeile, int Von, int Bis) const;
   void FeldSetzen();
   void ZelleZeigen(const QModelIndex& Zelle);
   void FeldZeigen();

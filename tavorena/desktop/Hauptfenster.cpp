@@ -19,6 +19,7 @@
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
@@ -27,6 +28,7 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/graphics/Grafikfenster.h>
+#include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
@@ -241,10 +243,11 @@ void Hauptfenster::GrafikBauen() {
     while (W != nullptr && dynamic_cast<FormularAnsicht*>(W) == nullptr) W = W->parentWidget();
     if (auto* Ansicht = dynamic_cast<FormularAnsicht*>(W)) Ansicht->PunktNehmen(Pnr);
   };
-  // Between two events the view takes over what became of the table.
+  // Between two events view and forms take over what became of the table.
   for (const auto Signal : {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
     connect(QAbstractEventDispatcher::instance(), Signal, Grafik, [this] {
       if (Grafik->isVisible()) Grafik->Nachsehen();
+      TabelleNachsehen();
     });
   }
   const auto Taste = [this](const QKeySequence& Folge, void (*Tun)()) {
@@ -256,6 +259,19 @@ void Hauptfenster::GrafikBauen() {
   Taste(Qt::CTRL | Qt::Key_Minus, GrafZoomout);
   Taste(Qt::CTRL | Qt::Key_0, GrafikZoomAnpassen);
   connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, Grafik, [this] { FokusTauschen(); });
+}
+
+// A list of 20,000 rows must not take the time of what runs: it follows behind it.
+void Hauptfenster::TabelleNachsehen() {
+  if (Tabellenstand == KorStand || Stapel.RechnetZeilen || Kern().IstBeschäftigt()) return;
+  std::uint64_t Gesehen = KorStand;
+  for (QWidget* W : findChildren<QWidget*>()) {
+    const auto* Ansicht = dynamic_cast<FormularAnsicht*>(W);
+    if (Ansicht == nullptr || Ansicht->Form() == nullptr) continue;
+    Ansicht->Form()->Nachsehen();
+    if (Ansicht->Form()->InArbeit()) Gesehen = Tabellenstand;  // it asks something: once more behind it
+  }
+  Tabellenstand = Gesehen;
 }
 
 // F6 leads into the view and back to where the focus was.

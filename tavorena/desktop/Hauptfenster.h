@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <vector>
 
@@ -62,6 +63,7 @@ class Hauptfenster final : public QMainWindow {
   void ProtokollfensterBauen();
   void GrafikBauen();
   void FokusTauschen();
+  void TabelleNachsehen();
   void ProtokollZeigen();
   void ProtokollNachziehen();
   void PlatzSchreiben() const;
@@ -75,8 +77,9 @@ class Hauptfenster final : public QMainWindow {
   QPlainTextEdit* Protokolltext = nullptr;
   QDockWidget* Grafikrahmen = nullptr;
   GrafikAnsicht* Grafik = nullptr;
-  QPointer<QWidget> Vorheriger;  // had the focus before the view
-  Fensterstand Protokollstand;   // of the protocol that Protokolltext shows
+  QPointer<QWidget> Vorheriger;     // had the focus before the view
+  Fensterstand Protokollstand;      // of the protocol that Protokolltext shows
+  std::uint64_t Tabellenstand = 0;  // that view and forms have seen
   QTimer TerminatorTimer;
   QTimer Uhr;
   QTimer Protokolluhr;

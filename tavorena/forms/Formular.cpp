@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/forms/Formular.h>
 
 namespace tavorena {
@@ -161,6 +162,7 @@ bool Formular::Verlassen() {
 
 void Formular::Öffnen() {
   IstOffen = true;
+  Stand = KorStand;
   Ausführen([&] {
     const auto Erstes =
         std::find_if(Liste.begin(), Liste.end(), [](const auto& S) { return NimmtFokus(*S); });
@@ -206,8 +208,13 @@ bool Formular::TasteDrücken(Taste T) {
   return Genommen;
 }
 
-// A grid that is only looked at knows the arrows alone.
+// A grid that is only looked at knows the arrows alone, and the keys of the marks.
 bool Formular::GitterTaste(Gitter& G, Taste T) {
+  if (G.Markenspalte >= 0 && (T == Taste::Leer || T == Taste::Return) && !G.ZelleOffen()) {
+    Markieren(G, G.Zeile, false);
+    if (T == Taste::Return) ZelleWechseln(G, G.Zeile + 1, G.Spalte);
+    return true;
+  }
   if (!G.NurLesen) return G.BeiTaste && G.BeiTaste(T);
   if (T == Taste::Auf || T == Taste::Ab) ZelleWechseln(G, G.Zeile + (T == Taste::Auf ? -1 : 1), G.Spalte);
   return T != Taste::Escape;
@@ -266,6 +273,35 @@ void Formular::ZelleWechseln(Gitter& G, int Zeile, int Spalte) {
     G.Zeile = std::min(Zeile, G.Zeilen() - 1);
     G.Spalte = Spalte;
   });
+}
+
+void Formular::Markieren(Gitter& G, int Zeile, bool Bereich) {
+  if (!NimmtFokus(G) || Zeile < 0 || Zeile >= G.Zeilen()) return;
+  Ausführen([&] {
+    if (Bereich) {
+      G.MarkenBis(Zeile);
+    } else {
+      G.MarkeSetzen(Zeile, !G.Markiert(Zeile));
+    }
+    if (G.BeiMarke) G.BeiMarke();
+  });
+}
+
+void Formular::Doppelklicken(Gitter& G, int Zeile) {
+  if (!NimmtFokus(G) || !G.BeiDoppelklick || Zeile < 0 || Zeile >= G.Zeilen()) return;
+  Ausführen([&] { G.BeiDoppelklick(Zeile); });
+}
+
+bool Formular::RücknahmeVerlangen() {
+  bool Getan = false;
+  Ausführen([&] { Getan = IstOffen && Zurücknehmen(); });
+  return Getan;
+}
+
+void Formular::Nachsehen() {
+  if (!IstOffen || InArbeit() || Stand == KorStand) return;
+  Stand = KorStand;
+  Ausführen([&] { BeiTabelle(); });
 }
 
 void Formular::SchließenVerlangen() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -105,6 +106,12 @@ class Formular {
   void Wählen(Auswahl& A, const std::string& Eintrag, bool An);
   /// The user moved to another cell of a grid.
   void ZelleWechseln(Gitter& G, int Zeile, int Spalte);
+  /// The user clicked the mark of a row, or with Bereich drew the choice up to it.
+  void Markieren(Gitter& G, int Zeile, bool Bereich);
+  /// The user clicked a row twice.
+  void Doppelklicken(Gitter& G, int Zeile);
+  /// The user takes the last thing back that the form did. @return false: there is none
+  bool RücknahmeVerlangen();
   /// The user closes the window.
   void SchließenVerlangen();
 
@@ -113,6 +120,8 @@ class Formular {
   [[nodiscard]] virtual bool OffenesKlären() { return true; }
   /// Closes the form without a question.
   void Schließen();
+  /// Between two events: lets the form follow what became of the point table.
+  void Nachsehen();
 
   /// An event that came in from outside, such as a replay: runs Tun, shows what it changed.
   template <typename Arbeit>
@@ -127,6 +136,10 @@ class Formular {
   /// @return false: the form stays open
   virtual bool DarfSchließen() { return true; }
   virtual void BeiSchließen() {}
+  /// The point table changed, by this form or another one.
+  virtual void BeiTabelle() {}
+  /// Takes the last thing back. @return false: there is none
+  virtual bool Zurücknehmen() { return false; }
   /// Shows what a long event has done so far.
   void Zwischenstand();
 
@@ -146,7 +159,8 @@ class Formular {
   Steuerelement* Aktuell = nullptr;
   FormularBeobachter* Beobachter = nullptr;
   bool IstOffen = false;
-  int Tiefe = 0;  // events running inside each other
+  int Tiefe = 0;            // events running inside each other
+  std::uint64_t Stand = 0;  // of the point table that BeiTabelle knows
 };
 
 template <typename Arbeit>

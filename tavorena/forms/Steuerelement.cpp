@@ -25,7 +25,35 @@ bool Auswahl::Abholen() {
   return Steuerelement::Abholen() || Neu;
 }
 
-const std::string& Gitter::Inhalt(int z, int s) const { return Zellen.at(Stelle(z)).at(Stelle(s)); }
+const std::string& Gitter::Inhalt(int z, int s) const {
+  static const std::string Marke = "*";
+  return s == Markenspalte && Markiert(z) ? Marke : Zellen.at(Stelle(z)).at(Stelle(s));
+}
+
+bool Gitter::Markiert(int z) const { return Stelle(z) < Marken.size() && Marken[Stelle(z)]; }
+
+void Gitter::MarkeSetzen(int z, bool An) {
+  Anker = z;
+  if (z < 0 || z >= Zeilen() || Markiert(z) == An || (An && Markierbar && !Markierbar(z))) return;
+  Marken.resize(Zellen.size());
+  Marken[Stelle(z)] = An;
+  Merken(z, z + 1);
+}
+
+std::vector<int> Gitter::Markierte() const {
+  std::vector<int> Alle;
+  for (int z = 0; z < Zeilen(); ++z) {
+    if (Markiert(z)) Alle.push_back(z);
+  }
+  return Alle;
+}
+
+void Gitter::MarkenBis(int z) {
+  const int Von = std::clamp(Anker, 0, std::max(Zeilen() - 1, 0));
+  for (int i = std::min(Von, z); i <= std::max(Von, z); ++i) MarkeSetzen(i, true);
+  Anker = Von;
+  Zeile = z;
+}
 
 void Gitter::InhaltSetzen(int z, int s, std::string Neu) {
   std::string& Zelle = Zellen.at(Stelle(z)).at(Stelle(s));
@@ -43,6 +71,7 @@ void Gitter::ZeileAnhängen() {
 void Gitter::ZeileLöschen(int z) {
   if (z < 0 || z >= Zeilen()) return;
   Zellen.erase(Zellen.begin() + z);
+  if (Stelle(z) < Marken.size()) Marken.erase(Marken.begin() + z);
   Neues.Zeilenzahl = true;
   Merken(z, Zeilen());
   Zeile = std::clamp(*Zeile, 0, std::max(Zeilen() - 1, 0));
@@ -50,6 +79,7 @@ void Gitter::ZeileLöschen(int z) {
 
 void Gitter::Leeren(int ZeilenDanach) {
   Zellen.assign(Stelle(ZeilenDanach), std::vector<std::string>(Spalten.size()));
+  Marken.clear();
   Neues.Zeilenzahl = true;
   Merken(0, ZeilenDanach);
   Zeile = Spalte = 0;

@@ -11,8 +11,9 @@
 
 namespace tavorena {
 
-/// The keys a form looks at; all others belong to the text of the field.
-enum class Taste { Return, Escape, Plus, Minus, Auf, Ab };
+/// The keys a form looks at; all others belong to the text of the field. Leer, the space bar, only comes
+/// where rows are chosen.
+enum class Taste { Return, Escape, Plus, Minus, Auf, Ab, Leer };
 
 /// Place of a control inside its frame, counted in rows and columns of that frame.
 struct Platz {
@@ -105,11 +106,16 @@ struct Gitteränderung {
   [[nodiscard]] bool Etwas() const { return Von < Bis || Zeilenzahl || Zelle || Spalten; }
 };
 
-/// A grid of texts with one current cell. Rows and columns count from 0.
+/// A grid of texts with one current cell. Rows and columns count from 0. Where it has a column of marks, rows
+/// can be chosen: such a row shows "*" there in place of its text.
 struct Gitter final : Eingabeelement {
   std::vector<Gitterspalte> Spalten;
-  Gezeigt<int> Zeile, Spalte;           ///< the current cell
-  std::function<bool(Taste)> BeiTaste;  ///< true: the key is done with
+  Gezeigt<int> Zeile, Spalte;                     ///< the current cell
+  std::function<bool(Taste)> BeiTaste;            ///< true: the key is done with
+  int Markenspalte = -1;                          ///< column of the marks; -1: there are none
+  std::function<bool(int Zeile)> Markierbar;      ///< which rows can be chosen; empty: all
+  std::function<void()> BeiMarke;                 ///< the user chose other rows
+  std::function<void(int Zeile)> BeiDoppelklick;  ///< the user clicked a row twice
 
   [[nodiscard]] int Zeilen() const { return static_cast<int>(Zellen.size()); }
   [[nodiscard]] const std::string& Inhalt(int z, int s) const;
@@ -118,6 +124,13 @@ struct Gitter final : Eingabeelement {
   void ZeileLöschen(int z);
   /// Empties the grid cell by cell and leaves that many rows.
   void Leeren(int ZeilenDanach);
+  [[nodiscard]] bool Markiert(int z) const;
+  /// Chooses a row, or no more; one that can not be chosen never is.
+  void MarkeSetzen(int z, bool An);
+  /// The rows that are chosen, rising.
+  [[nodiscard]] std::vector<int> Markierte() const;
+  /// Chooses the rows from the one that was last chosen, or left, to this one, which becomes the current one.
+  void MarkenBis(int z);
   /// The user can type into the current cell.
   [[nodiscard]] bool ZelleOffen() const;
 
@@ -129,6 +142,8 @@ struct Gitter final : Eingabeelement {
   void Merken(int Von, int Bis);
 
   std::vector<std::vector<std::string>> Zellen;
+  std::vector<bool> Marken;
+  int Anker = 0;  // row from which MarkenBis goes
   Gitteränderung Neues;
 };
 

@@ -18,6 +18,7 @@
 #include <tavorena/shell/Dateiwahl.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
+#include <tavorena/shell/Punktbefehle.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
 #include <tavorena/shell/TVPSelectForm.h>
@@ -208,10 +209,10 @@ const Befehl Befehle[] = {
     {"MenüDateiProtokoll", true, ProtokollWechseln},
     {"MenüDateiSchließen", true, DateiSchließen},
     {"MenüDateiBeenden", false, Beenden},
-    {"MenüDateiHinzuLesenKomplett", true, HinzuKomplett},
-    {"MenüDateiHinzuLesenNurNeue", true, HinzuNurNeue},
-    {"MenüDateiHinzuLesenPunktbereich", true, HinzuPunktbereich},
-    {"MenüDateiHinzuLesenPunktselektion", true, HinzuPunktselektion},
+    {"MenüDateiHinzuLesenKomplett", true, HinzuKomplett, true},
+    {"MenüDateiHinzuLesenNurNeue", true, HinzuNurNeue, true},
+    {"MenüDateiHinzuLesenPunktbereich", true, HinzuPunktbereich, true},
+    {"MenüDateiHinzuLesenPunktselektion", true, HinzuPunktselektion, true},
     {"MenüAnsichtGrafik(1)", true, [] { AnzeigePort().GrafikZeigen(); }},
     {"MenüAnsichtTextPad(0)", true, AnsichtProtokoll},
     {"MenüAnsichtTextPad(1)", true, AnsichtStapel},
@@ -232,9 +233,10 @@ const Befehl Befehle[] = {
 }  // namespace
 
 const Befehl* BefehlFinden(std::string_view Eintrag) {
-  // Besides the commands of the table each kind of worksheet has one.
+  // Besides the commands of the tables each kind of worksheet has one.
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
+    for (const Befehl& P : Punktbefehle()) B.push_back(P);
     for (const Blattart& Art : Blattarten()) B.push_back({Art.Menü, true, [&Art] { BlattÖffnen(Art); }});
     return B;
   }();

@@ -10,7 +10,15 @@ struct Befehl {
   const char* Eintrag;
   bool MitDatei;  ///< needs an open file
   std::function<void()> Tun;
+  bool Ändert = false;               ///< the table, which is that of the replay while one runs
+  const char* OhnePunkte = nullptr;  ///< what is said where the table is empty; nullptr: it works there too
 };
+
+/// @{
+/// What a command that needs points says without them.
+inline constexpr const char* NichtEingelesen = "Noch keine Koordinaten eingelesen !";  ///< in the views
+inline constexpr const char* NichtVorhanden = "Noch keine Koordinaten vorhanden !";
+/// @}
 
 /// The command of an entry, nullptr if its function does not exist (yet).
 const Befehl* BefehlFinden(std::string_view Eintrag);

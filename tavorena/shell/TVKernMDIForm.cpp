@@ -3,6 +3,7 @@
 #include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -125,7 +126,11 @@ void TVKernMDIForm::Ausführen(std::string_view Name) {
   if (E == nullptr || !Aktiv(*E)) return;
   const auto Tun = [&] {
     if (IstHist(*E)) return HistorieÖffnen(HistIndex(IndexVon(Name)));
-    if (const Befehl* B = BefehlFinden(Name)) B->Tun();
+    const Befehl* B = BefehlFinden(Name);
+    if (B == nullptr) return;
+    if (B->Ändert && StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
+    if (B->OhnePunkte != nullptr && KorAnzahl == 0) return tavorena::Hinweis(B->OhnePunkte);
+    B->Tun();
   };
   static_cast<void>(Geschützt("TVKernMDIForm." + std::string(Name), Tun));  // the message is the answer
 }

@@ -248,6 +248,7 @@ bool Punktgitter::TasteNehmen(Taste T) {
       return true;
     case Taste::Plus:
     case Taste::Minus:
+    case Taste::Leer:
       break;
   }
   return false;

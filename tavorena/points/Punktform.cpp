@@ -1,0 +1,30 @@
+#include <utility>
+
+#include <tavorena/points/Punktform.h>
+
+namespace tavorena {
+
+Knopf& Punktform::RückgängigAnlegen(std::string Name, Platz Ort) {
+  Rückgängig = &KnopfAnlegen(
+      std::move(Name), "&Rückgängig", [this] { static_cast<void>(Zurücknehmen()); }, Ort);
+  Rückgängig->OhnePrüfung = true;
+  Rückgängig->Aktiv = false;
+  return *Rückgängig;
+}
+
+int Punktform::Getan(int Ergebnis) {
+  if (Rückgängig != nullptr) {
+    Rückgängig->Text = R.Leer() ? "&Rückgängig" : "&Rückgängig: " + R.Name();
+    Rückgängig->Aktiv = !R.Leer();
+  }
+  NachTat();
+  return Ergebnis;
+}
+
+bool Punktform::Zurücknehmen() {
+  if (R.Leer()) return false;
+  static_cast<void>(Getan(R.Zurück()));  // what hinders it is told
+  return true;
+}
+
+}  // namespace tavorena
