@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Ports.h>
@@ -13,22 +14,32 @@ namespace {
 
 class Wertform final : public Dialogform {
  public:
-  Wertform(const std::string& FormTitel, std::span<Wertfeld> Gefragt)
-      : Dialogform("TVWertform", FormTitel), Werte(Gefragt) {
+  Wertform(const std::string& FormTitel, std::span<Wertfeld> Gefragt, Wahlpaar* Wahl)
+      : Dialogform("TVWertform", FormTitel), Werte(Gefragt), Paar(Wahl) {
     int Zeile = 0;
     for (const Wertfeld& W : Werte) {
       BeschriftungAnlegen(W.Label, {Zeile, 0});
       Feld& F = FeldAnlegen("Wert(" + std::to_string(Zeile) + ")", {Zeile, 1}, "", 20);
-      F.Rechtsbündig = W.Nachkomma >= 0;
+      F.Rechtsbündig = W.Nachkomma >= 0 || W.AbNull;
       F.Text = W.Wert;
+      if (W.AbNull) F.BeiVerlassen = [&F] { return IstAbNull(Trimmen(*F.Text)); };
       if (W.Nachkomma >= 0) F.BeiVerlassen = [&F, &W] { return ZahlLesen(F, W); };
       Felder.push_back(&F);
       ++Zeile;
+    }
+    if (Paar != nullptr) {
+      OptionAnlegen("Wahl(0)", Paar->Erste, {Zeile, 0, 2}).Gewählt = !Paar->ZweiteGewählt;
+      Zweite = &OptionAnlegen("Wahl(1)", Paar->Zweite, {Zeile + 1, 0, 2});
+      Zweite->Gewählt = Paar->ZweiteGewählt;
     }
     OkUndAbbruch([this] { Übernehmen(); });
   }
 
  private:
+  static bool IstAbNull(const std::string& Text) {
+    return IstZahlwort(Text) && ZahlAusText(Text) >= 0 && std::isfinite(ZahlAusText(Text));
+  }
+
   static bool ZahlLesen(Feld& F, const Wertfeld& W) {
     if (!IstZahlText(*F.Text)) return false;
     F.Text = Trimmen(ZahlFormat(*F.Text, W.Vorkomma, W.Nachkomma));
@@ -37,11 +48,14 @@ class Wertform final : public Dialogform {
 
   void Übernehmen() {
     for (std::size_t i = 0; i < Werte.size(); ++i) Werte[i].Wert = Trimmen(*Felder[i]->Text);
+    if (Paar != nullptr) Paar->ZweiteGewählt = Zweite->Gewählt;
     Fertig(0);
   }
 
   std::span<Wertfeld> Werte;
   std::vector<Feld*> Felder;
+  Wahlpaar* Paar;
+  Auswahl* Zweite = nullptr;
 };
 
 class Knopfform final : public Dialogform {
@@ -139,14 +153,18 @@ int Knopffrage(const std::string& Titel, const std::string& Text, const std::vec
 
 }  // namespace
 
-int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder) {
-  return Wertform(Titel, Felder).Zeigen();
+int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder, Wahlpaar* Wahl) {
+  return Wertform(Titel, Felder, Wahl).Zeigen();
+}
+
+int EinWert(const std::string& Titel, Wertfeld& Feld, Wahlpaar* Wahl) {
+  return Wertdialog(Titel, std::span(&Feld, 1), Wahl);
 }
 
 int EinWert(const std::string& Titel, const std::string& Label, std::string& Wert) {
-  Wertfeld F[] = {{Label, Wert}};
-  const int Ergebnis = Wertdialog(Titel, F);
-  Wert = F[0].Wert;
+  Wertfeld F{Label, Wert};
+  const int Ergebnis = EinWert(Titel, F);
+  Wert = F.Wert;
   return Ergebnis;
 }
 

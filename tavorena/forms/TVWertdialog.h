@@ -9,16 +9,24 @@ namespace tavorena {
 /// One line of a value dialog.
 struct Wertfeld {
   std::string Label;
-  std::string Wert;    ///< default on call, what the user typed on return
-  int Vorkomma = -1;   ///< number format that a number is brought into when the field is left
-  int Nachkomma = -1;  ///< below 0: the field is a text
+  std::string Wert;     ///< default on call, what the user typed on return
+  int Vorkomma = -1;    ///< number format that a number is brought into when the field is left
+  int Nachkomma = -1;   ///< below 0: the field is a text
+  bool AbNull = false;  ///< the text is a number of 0 or more, and stays as it was typed
+};
+
+/// Two choices below the values, one of which holds.
+struct Wahlpaar {
+  const char *Erste, *Zweite;
+  bool ZweiteGewählt = false;  ///< on call and on return
 };
 
 /// Asks for up to as many values as there are fields, modal. Escape and "Abbrechen" cancel.
 /// @return 0; -1 if cancelled, the fields are then as they were (also left in Dialogergebnis)
-[[nodiscard]] int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder);
+[[nodiscard]] int Wertdialog(const std::string& Titel, std::span<Wertfeld> Felder, Wahlpaar* Wahl = nullptr);
 
 [[nodiscard]] int EinWert(const std::string& Titel, const std::string& Label, std::string& Wert);
+[[nodiscard]] int EinWert(const std::string& Titel, Wertfeld& Feld, Wahlpaar* Wahl = nullptr);
 [[nodiscard]] int ZweiWerte(const std::string& Titel, const std::string& Label1, std::string& Wert1,
                             const std::string& Label2, std::string& Wert2);
 [[nodiscard]] int DreiWerte(const std::string& Titel, std::span<Wertfeld, 3> Felder);

@@ -434,6 +434,20 @@ TEST_F(Haupt, AllgemeineDialoge) {
   std::string Wert = "0.01", Verzeichnis = Ordner.Pfad("");
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "9"}, {"Abbrechen", ""}}));
   EXPECT_TRUE(Gleich(EinWert("T", "fs:", Wert), -1, Wert, "0.01"));
+  Skript.Formulare.push_back([](Formular& Form) {
+    Form.Öffnen();
+    for (const char* Keins : {"", "-0.01", "0.01x", "1e999"}) {
+      Form.Tippen(Feld(Form, "Wert(0)"), Keins);
+      Drücke(Form, "OK");
+      EXPECT_TRUE(Form.Offen()) << Keins;
+    }
+    Tippe(Form, "Wert(0)", "0,005\n");
+    Form.Wählen(Element<Auswahl>(Form, "Wahl(1)"), "", true);
+    Drücke(Form, "OK");
+  });
+  Wertfeld fs{"fs:", "0.01", -1, -1, true};
+  Wahlpaar Paar{"a", "b"};
+  EXPECT_TRUE(Gleich(EinWert("T", fs, &Paar), 0, fs.Wert, "0,005", Paar.ZweiteGewählt, true));
   Skript.Formulare.push_back(Bediene({{"OK", ""}}));
   EXPECT_EQ(AuswahlListe("T", {"Koordinaten in [mm]", "Koordinaten in [mm] / 10"}), 0);
   Wertfeld Felder[] = {{"a", "", 7, 2}, {"b", "", 7, 3}, {"c", ""}};
