@@ -49,6 +49,19 @@ std::vector<Listenzeile> DoppelteListe() {
                                           : Vergleich(z, Erster.Rechts, Erster.Hoch, Erster.Hoehe));
     }
   }
+  std::vector<int> Index;
+  int Anzahl = 0;
+  DoppeltePunkteSuchen(Index, Anzahl);
+  for (Listenzeile& L : Liste) {
+    L.Index = static_cast<int>(std::lower_bound(Index.begin(), Index.end(), L.Zeile) - Index.begin());
+  }
+  return Liste;
+}
+
+std::vector<Listenzeile> AlleListe() {
+  std::vector<Listenzeile> Liste(static_cast<std::size_t>(KorAnzahl));
+  for (int z = 0; z < KorAnzahl; ++z) Liste[static_cast<std::size_t>(z)].Zeile = z;
+  for (const Listenzeile& L : DoppelteListe()) Liste[static_cast<std::size_t>(L.Zeile)] = L;
   return Liste;
 }
 

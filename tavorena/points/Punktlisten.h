@@ -22,10 +22,14 @@ struct Listenzeile {
   int Zeile = -1;  ///< in the table; -1: an empty row, which closes a group
   Wert fs;         ///< planar distance to the first point or to the middle of the group [m]
   Wert dh;         ///< height difference to it, row minus that [m]; empty without one of the two heights
+  int Index = -1;  ///< place in the list of DoppeltePunkteSuchen; -1: no double point, or not asked for
 };
 
 /// Double points, group after group; the first of a group has neither distance nor height difference.
 [[nodiscard]] std::vector<Listenzeile> DoppelteListe();
+
+/// All points in table order, the double ones with what they have in DoppelteListe.
+[[nodiscard]] std::vector<Listenzeile> AlleListe();
 
 /// Quasi-identical points (see QuasiidentischePunkte) against the middle of their group, each group closed by
 /// an empty row.

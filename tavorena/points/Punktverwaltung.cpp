@@ -75,11 +75,7 @@ std::string Vergeben(const std::vector<int>& Zeilen, const std::vector<std::stri
 }
 
 // @param[in] Neue  a number for each row
-int Umnumerieren(Rücknahme& R, const std::vector<int>& Zeilen, const std::vector<std::string>& Neue) {
-  if (const std::string Pnr = Vergeben(Zeilen, Neue); !Pnr.empty()) {
-    PunktVorhandenMeldung(Pnr);
-    return -1;
-  }
+int NummernSetzen(Rücknahme& R, const std::vector<int>& Zeilen, const std::vector<std::string>& Neue) {
   const std::vector<Punktsatz> Alte = Sätze(Zeilen);
   Punkteintrag Hin{TitelBerichtigung, {}}, Her = Hin;
   const auto Text = [](const std::string& Pnr) { return " ***bericht. alt:" + PnrFormat(Pnr); };
@@ -99,6 +95,15 @@ int Umnumerieren(Rücknahme& R, const std::vector<int>& Zeilen, const std::vecto
     KorSortieren();
     return Eintragen(Hin);
   });
+}
+
+// The same if no other row has one of the numbers.
+int Umnumerieren(Rücknahme& R, const std::vector<int>& Zeilen, const std::vector<std::string>& Neue) {
+  if (const std::string Pnr = Vergeben(Zeilen, Neue); !Pnr.empty()) {
+    PunktVorhandenMeldung(Pnr);
+    return -1;
+  }
+  return NummernSetzen(R, Zeilen, Neue);
 }
 
 // ---- means -----------------------------------------------------------------------------------------
@@ -193,6 +198,36 @@ int MittelEinführen(Punktsatz& Mittel, const KorInfoSatz* Info) {
   return 0;
 }
 
+// Makes one point of each group. @param[in] Größte  most rows that go into one mean
+int Mitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen, std::size_t Größte) {
+  Punkttat Tat{Gruppen.size() == 1 ? "Mittle " + Zitat(KorPnr(Gruppen[0].front())) : "Mittle doppelte Punkte",
+               {}};
+  return R.Ausführen(Tat, [&] {
+    Punkteintrag Wieder{TitelEingabe, {}}, Fort{TitelLöschen, {}};
+    std::vector<Punkteintrag> Einträge;
+    std::vector<int> Überzählig;
+    for (const std::vector<int>& Zeilen : Gruppen) {
+      const std::vector<Punktsatz> Alle = Sätze(Zeilen);
+      Punktsatz Mittel = Alle.front();
+      for (std::size_t i = 1; i < Alle.size();) {
+        std::vector<Punktsatz> Alte = {Mittel};
+        while (i < Alle.size() && Alte.size() < Größte) Alte.push_back(Alle[i++]);
+        Mittel = MittelVon(Alte);
+        Einträge.push_back(Mitteleintrag(Alte, Mittel, " ***Mittel"));
+      }
+      if (KorZeileSetzen(Zeilen.front(), Mittel.Satz()) < 0) return -1;
+      Überzählig.insert(Überzählig.end(), Zeilen.begin() + 1, Zeilen.end());
+      for (const Punktsatz& P : Alle) Wieder.Punkte.push_back(ImBlock(P));
+      Fort.Punkte.push_back(ImBlock(Mittel, " ***gelöscht"));
+    }
+    std::sort(Überzählig.begin(), Überzählig.end());
+    ZeilenLöschen(Überzählig);
+    KorSortieren();
+    Tat.BeiRücknahme = {std::move(Wieder), std::move(Fort)};
+    return AlleEintragen(Einträge);
+  });
+}
+
 }  // namespace
 
 int NummerZeilen(const std::string& Pnr, std::vector<int>& Zeilen) {
@@ -257,32 +292,28 @@ int BereichBerichtigen(Rücknahme& R, const std::string& Von, const std::string&
 }
 
 int DoppelteMitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen) {
-  Punkttat Tat{Gruppen.size() == 1 ? "Mittle " + Zitat(KorPnr(Gruppen[0].front())) : "Mittle doppelte Punkte",
-               {}};
-  return R.Ausführen(Tat, [&] {
-    Punkteintrag Wieder{TitelEingabe, {}}, Fort{TitelLöschen, {}};
-    std::vector<Punkteintrag> Einträge;
-    std::vector<int> Überzählig;
-    for (const std::vector<int>& Zeilen : Gruppen) {
-      const std::vector<Punktsatz> Alle = Sätze(Zeilen);
-      Punktsatz Mittel = Alle.front();
-      for (std::size_t i = 1; i < Alle.size();) {
-        std::vector<Punktsatz> Alte = {Mittel};
-        while (i < Alle.size() && Alte.size() < GrößteGruppe) Alte.push_back(Alle[i++]);
-        Mittel = MittelVon(Alte);
-        Einträge.push_back(Mitteleintrag(Alte, Mittel, " ***Mittel"));
-      }
-      if (KorZeileSetzen(Zeilen.front(), Mittel.Satz()) < 0) return -1;
-      Überzählig.insert(Überzählig.end(), Zeilen.begin() + 1, Zeilen.end());
-      for (const Punktsatz& P : Alle) Wieder.Punkte.push_back(ImBlock(P));
-      Fort.Punkte.push_back(ImBlock(Mittel, " ***gelöscht"));
-    }
-    std::sort(Überzählig.begin(), Überzählig.end());
-    ZeilenLöschen(Überzählig);
-    KorSortieren();
-    Tat.BeiRücknahme = {std::move(Wieder), std::move(Fort)};
-    return AlleEintragen(Einträge);
-  });
+  return Mitteln(R, Gruppen, GrößteGruppe);
+}
+
+int ZeilenMitteln(Rücknahme& R, const std::vector<int>& Zeilen) {
+  return Mitteln(R, {Zeilen}, Zeilen.size());
+}
+
+int NummerGeben(Rücknahme& R, std::vector<int> Zeilen, const std::string& Neu) {
+  if (!NummerTaugt(Neu)) return -1;
+  std::sort(Zeilen.begin(), Zeilen.end());
+  const bool Eigene = std::erase_if(Zeilen, [&](int z) { return TrimmenSicht(KorPnr(z)) == Neu; }) > 0;
+  const std::vector<std::string> Neue(Zeilen.size(), Neu);
+  if (Zeilen.empty()) return 0;
+  return Eigene ? NummernSetzen(R, Zeilen, Neue) : Umnumerieren(R, Zeilen, Neue);
+}
+
+std::string Nummernliste(const std::vector<int>& Zeilen) {
+  constexpr std::size_t Genannt = 20;
+  std::string Liste;
+  for (std::size_t i = 0; i < std::min(Zeilen.size(), Genannt); ++i)
+    Liste += (i > 0 ? ", " : "") + Zitat(KorPnr(Zeilen[i]));
+  return Zeilen.size() > Genannt ? Liste + ", ..." : Liste;
 }
 
 int PunkteMitteln(Rücknahme& R, const Mittelauftrag& M) {

@@ -40,6 +40,17 @@ namespace tavorena {
 /// The table is sorted. Entries VR 25.50. @return 0; -1: the protocol could not be written
 [[nodiscard]] int DoppelteMitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen);
 
+/// As DoppelteMitteln for rows with any numbers, as many as there are, in one mean.
+/// @param[in] Zeilen  two or more, each once and in the table; the first gives number and attributes
+[[nodiscard]] int ZeilenMitteln(Rücknahme& R, const std::vector<int>& Zeilen);
+
+/// Gives rows a number; entry VR 25.07.
+/// @return 0; -1 with a message: it is empty or holds a blank; none of these rows has it, but another one
+[[nodiscard]] int NummerGeben(Rücknahme& R, std::vector<int> Zeilen, const std::string& Neu);
+
+/// The numbers of rows for a question, separated by ", "; of more than 20 the first 20 and "...".
+[[nodiscard]] std::string Nummernliste(const std::vector<int>& Zeilen);
+
 /// Whether the mean replaces its points or stands beside them.
 enum class Mittelart { Ersetzen, Schwerpunkt };
 

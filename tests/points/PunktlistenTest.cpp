@@ -79,6 +79,9 @@ TEST_F(Punktlisten, DoppelteAuchGetrennt) {
   DoppeltePunkteSuchen(Index, Anzahl);
   EXPECT_TRUE(Gleich(Index, std::vector{0, 1, 2, 4, 5}, Anzahl, 5));
   EXPECT_EQ(Doppelgruppen(), (Zeilengruppen{{0, 2, 5}, {1, 4}}));
+  std::vector<int> Plätze;
+  for (const Listenzeile& L : AlleListe()) Plätze.push_back(L.Index);
+  EXPECT_EQ(Plätze, (std::vector{0, 1, 2, -1, 3, 4}));
 }
 
 TEST_F(Punktlisten, Belegung) {

@@ -134,6 +134,23 @@ TEST_F(Punktverwaltung, MittelVerschiedener) {
   }
 }
 
+TEST_F(Punktverwaltung, EinzelneZeilen) {
+  EXPECT_EQ(ZeilenMitteln(R, {3, 0}), 0);
+  EXPECT_EQ(Nummern(), "2 2 3 8A ");
+  EXPECT_EQ(PunktsatzVon(2), (Punktsatz{"3", 110, 200, 10, "015", Vorher[3].Info}));
+  NimmZurück();
+  Protokoll();
+  // A number of one of the rows, whoever else has it.
+  EXPECT_EQ(NummerGeben(R, {3, 1, 0}, "2"), 0);
+  EXPECT_EQ(Nummern(), "2 2 2 2 8A ");
+  EXPECT_EQ(Protokoll(), "2 ***bericht. alt:       1\n2 ***bericht. alt:       3\n");
+  NimmZurück();
+  EXPECT_EQ(NummerGeben(R, {1}, "2"), 0);
+  EXPECT_TRUE(R.Leer());
+  EXPECT_EQ(Nummernliste(std::vector<int>(20, 4)).size(), 78);
+  EXPECT_TRUE(Nummernliste(std::vector<int>(21, 4)).ends_with(" 8A, ..."));
+}
+
 TEST_F(Punktverwaltung, WasNichtGeht) {
   std::vector<int> Zeilen;
   const std::pair<const char*, std::function<int()>> Fälle[] = {
@@ -146,6 +163,11 @@ TEST_F(Punktverwaltung, WasNichtGeht) {
       {"Punkt 1schon vorhanden", [&] { return NummerBerichtigen(R, "1", "1"); }},
       {"Punkt 2schon vorhanden", [&] { return NummerBerichtigen(R, "1", "2"); }},
       {"Punkt 3schon vorhanden", [&] { return BereichBerichtigen(R, "1", "2", "2"); }},
+      {"Punkt 2schon vorhanden",
+       [&] {
+         return NummerGeben(R, {0, 3}, "2");
+       }},
+      {"Leerzeichen", [&] { return NummerGeben(R, {0}, "9 9"); }},
       {"keine ganze Zahl", [&] { return BereichBerichtigen(R, "1", "2", "07"); }},
       {"2 bis 8",
        [&] {
