@@ -31,21 +31,9 @@ std::string TitelFür(Dateisorte Sorte, Wahlmodus Modus) {
   return "Neue Koordinatendatei angeben";
 }
 
-// A name typed without an ending gets the one of the default, "*.kor".
-void EndungErgänzen(std::string& Name, const std::string& Vorgabe) {
-  const std::string Endung = DateinameZerlegen(Vorgabe).Endung;
-  if (DateinameZerlegen(Name).Endung.empty() && !Endung.empty()) Name += "." + Endung;
-}
-
 int Abbruch() { return Dialogergebnis = -1; }
 
 }  // namespace
-
-std::string Startordner() {
-  if (Optionen.VerzeichnisLetztes == "c:\\") return UmgebungPort().Heimordner();
-  return OrdnerVorhanden(Optionen.VerzeichnisLetztes) ? Optionen.VerzeichnisLetztes
-                                                      : UmgebungPort().Dokumentordner();
-}
 
 void VerzeichnisMerken(const std::string& Name) {
   const std::string Ordner = DateinameZerlegen(Name).Ordner;
@@ -88,11 +76,6 @@ int ProtokollWahl(std::string& Name, const std::string& Ordner) {
   Name = Gewählt;
   VerzeichnisMerken(Name);
   return Dialogergebnis = 0;
-}
-
-bool ÜberschreibenFragen(const std::string& Name) {
-  return !DateiVorhanden(Name) || FrageJaNein("Die Datei ist schon vorhanden. Überschreiben ?\n\n" + Name,
-                                              "Tavorena", KnopfNein) == KnopfJa;
 }
 
 }  // namespace tavorena

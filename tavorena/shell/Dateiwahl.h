@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include <tavorena/forms/Dateifrage.h>
+
 namespace tavorena {
 
 enum class Dateisorte { Kor, Dru, Sta };
@@ -18,12 +20,6 @@ inline const char* const FilterEdbs = "EDBS- Dateien |*.ed?";
 /// @return 0; -1 if cancelled (also left in Dialogergebnis)
 [[nodiscard]] int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter,
                             const std::string& Vorgabe, std::string& Name, bool* Anhängen = nullptr);
-
-/// Folder in which a file dialog starts.
-[[nodiscard]] std::string Startordner();
-
-/// Asks before a file that is there is replaced, default "Nein". @return whether it may be
-[[nodiscard]] bool ÜberschreibenFragen(const std::string& Name);
 
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
 [[nodiscard]] int ProtokollWahl(std::string& Name, const std::string& Ordner = Startordner());

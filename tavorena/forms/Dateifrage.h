@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+// The chooser of files that are no coordinate files, and what all choosers share.
+
+namespace tavorena {
+
+/// Folder in which a file dialog starts.
+[[nodiscard]] std::string Startordner();
+
+/// A name without an ending gets the one of the default, such as "*.kor".
+void EndungErgänzen(std::string& Name, const std::string& Vorgabe);
+
+/// Asks before a file that is there is replaced, default "Nein". @return whether it may be
+[[nodiscard]] bool ÜberschreibenFragen(const std::string& Name);
+
+/// Asks for a file, and keeps its folder for the next dialog. With Schreiben the ending is added where it was
+/// not typed, and a file that is there is asked about. @return its name; "" if cancelled
+[[nodiscard]] std::string DateiFragen(const std::string& Titel, const std::string& Filter,
+                                      const std::string& Vorgabe, bool Schreiben);
+
+}  // namespace tavorena
