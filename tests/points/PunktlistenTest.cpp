@@ -4,6 +4,7 @@
 
 #include <tavorena/core/Winkel.h>
 #include <tavorena/points/Punktlisten.h>
+#include <tavorena/points/Selektion.h>
 
 namespace tavorena::test {
 namespace {
@@ -131,6 +132,24 @@ TEST_F(Punktlisten, SeitenMitKopfUndNummer) {
     return Soll + std::string(33, ' ') + Nummer + "\r\n\f";
   };
   EXPECT_EQ(Text, Seite(52, "- 1 -") + Seite(2, "- 2 -"));
+}
+
+TEST_F(Punktlisten, Selektion) {
+  const std::string Sel = Ordner.Pfad("a.sel");
+  std::vector<std::string> Nummern;
+  Schreibe(Sel, " 8A \n\n3,5\nfehlt\n8A\n9 9\nM\xE4rz");  // in Windows-1252
+  EXPECT_EQ(SelektionLesen(Sel, Nummern), 0);
+  int Fremde = 0;
+  EXPECT_EQ(SelektionZeilen(Nummern, {"1", "8A", "3.5", " 8A", "März"}, Fremde), (std::vector{1, 2, 3, 4}));
+  EXPECT_EQ(Fremde, 2);
+  EXPECT_EQ(SelektionSchreiben(Sel, Nummern), 0);
+  EXPECT_EQ(Inhalt(Sel), "8A\r\n3,5\r\nfehlt\r\n9 9\r\nMärz\r\n");
+  for (const char* Name : {"", "nicht/da.sel"}) {
+    Skript.Erwarte(*Name == '\0' ? "Fehler 70" : "Fehler 76");
+    EXPECT_EQ(SelektionSchreiben(Ordner.Pfad(Name), Nummern), -1);
+    Skript.Erwarte(*Name == '\0' ? "Fehler 70" : "Fehler 53");
+    EXPECT_EQ(SelektionLesen(Ordner.Pfad(Name), Nummern), -1);
+  }
 }
 
 }  // namespace
