@@ -85,7 +85,7 @@ bool Verschieben(const Aufruf& A, const Umfeld& U) {
   }
   if (!Text.empty() && !LängenLesen(Text, "--versatz", d)) return false;
   Rücknahme R;
-  return Bericht(U, TabelleVerschieben(R, {d[0], d[1], d[2]}, Tauschen) == 0);
+  return Bericht(U, TabelleVerschieben(R, "Verschieben", {d[0], d[1], d[2]}, Tauschen) == 0);
 }
 
 constexpr const char* Thema = "Punkte ändern";

@@ -9,6 +9,7 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
 #include <tavorena/points/Punktgruppen.h>
+#include <tavorena/points/Punktraster.h>
 
 namespace tavorena {
 namespace {
@@ -24,49 +25,6 @@ Nummernzeilen ZeilenJeNummer() {
   for (int z = 0; z < KorAnzahl; ++z) Zeilen[TrimmenSicht(KorPnr(z))].push_back(z);
   return Zeilen;
 }
-
-// The points in square cells four times as wide as the search, so that most searches stay in one cell.
-class Punktraster {
- public:
-  explicit Punktraster(double Suchweite) : Weite(Suchweite), Zelle(4 * Suchweite) {
-    while (Köpfe.size() < 2 * Stelle(KorAnzahl)) Köpfe.resize(2 * Köpfe.size(), -1);
-    Nächste.resize(Stelle(KorAnzahl));
-    for (int z = KorAnzahl - 1; z >= 0; --z) {  // backwards: each chain is then in table order
-      int& Kopf = Köpfe[Fach(Nummer(KorRechts[Stelle(z)]), Nummer(KorHoch[Stelle(z)]))];
-      Nächste[Stelle(z)] = std::exchange(Kopf, z);
-    }
-  }
-
-  // Hands out each row that may lie within the search of a place once.
-  template <typename Aufnahme>
-  void Umkreis(double R, double H, const Aufnahme& Nimm) const {
-    const std::int64_t LinksUnten[] = {Nummer(R - Weite), Nummer(H - Weite)},
-                       RechtsOben[] = {Nummer(R + Weite), Nummer(H + Weite)};
-    for (std::int64_t r = LinksUnten[0]; r <= RechtsOben[0]; ++r) {
-      for (std::int64_t h = LinksUnten[1]; h <= RechtsOben[1]; ++h) {
-        for (int z = Köpfe[Fach(r, h)]; z >= 0; z = Nächste[Stelle(z)]) {
-          // Cells may share a drawer.
-          if (Nummer(KorRechts[Stelle(z)]) == r && Nummer(KorHoch[Stelle(z)]) == h) Nimm(z);
-        }
-      }
-    }
-  }
-
- private:
-  // Rises with x, also where it is cut off: points near each other never lie more than a search apart.
-  [[nodiscard]] std::int64_t Nummer(double x) const {
-    return static_cast<std::int64_t>(std::clamp(std::floor(x / Zelle), -4e18, 4e18));
-  }
-  [[nodiscard]] std::size_t Fach(std::int64_t r, std::int64_t h) const {
-    std::uint64_t Streu = static_cast<std::uint64_t>(r) * 0x9E3779B97F4A7C15U;
-    Streu = (Streu ^ (Streu >> 32) ^ static_cast<std::uint64_t>(h)) * 0xD6E8FEB86659FD93U;
-    return static_cast<std::size_t>(Streu >> 32) & (Köpfe.size() - 1);
-  }
-
-  double Weite, Zelle;
-  std::vector<int> Köpfe = std::vector<int>(64, -1);  // a power of two
-  std::vector<int> Nächste;
-};
 
 }  // namespace
 
@@ -107,15 +65,16 @@ Punktgruppe GruppeMitMitte(std::vector<int> Zeilen) {
 std::vector<Punktgruppe> QuasiidentischePunkte(double Radius, bool MitEinzelpunkten) {
   std::vector<Punktgruppe> Gruppen;
   if (!(Radius >= 0)) return Gruppen;
-  // Wider than what PunktIstNah takes for near, rounding included.
-  const Punktraster Raster(std::min(Radius, 1e300) * (1 + 1e-12) + 1e-8);
-  std::vector<bool> Vergeben(Stelle(KorAnzahl));
+  const auto Zeilen = Stelle(KorAnzahl);
+  const Punktraster Raster(Suchweite(Radius), {KorRechts.data(), Zeilen}, {KorHoch.data(), Zeilen});
+  std::vector<bool> Vergeben(Zeilen);
   for (int i = 0; i < KorAnzahl; ++i) {
     const double R = KorRechts[Stelle(i)], H = KorHoch[Stelle(i)];
     if (Vergeben[Stelle(i)] || !std::isfinite(R) || !std::isfinite(H)) continue;
     std::vector<int> Nahe;
     Raster.Umkreis(R, H, [&](int j) {
       if (PunktIstNah(R, H, KorRechts[Stelle(j)], KorHoch[Stelle(j)], Radius) != 0) Nahe.push_back(j);
+      return true;
     });
     if (Nahe.size() < (MitEinzelpunkten ? 1 : 2)) continue;
     std::sort(Nahe.begin(), Nahe.end());

@@ -340,12 +340,12 @@ int PunkteMitteln(Rücknahme& R, const Mittelauftrag& M) {
   });
 }
 
-int TabelleVerschieben(Rücknahme& R, const Versatz& d, bool Tauschen) {
+int TabelleVerschieben(Rücknahme& R, const std::string& Name, const Versatz& d, bool Tauschen) {
   if (!std::isfinite(d.Rechts) || !std::isfinite(d.Hoch) || !std::isfinite(d.Hoehe)) {
     FehlerMeldung("Der Versatz ist nicht endlich.");
     return -1;
   }
-  Punkttat Tat{"Verschiebe " + Anzahltext(KorAnzahl, "Punkt", "Punkte"), {}};
+  Punkttat Tat{Name, {}};
   return R.Ausführen(Tat, [&] {
     KorVerschieben(d.Rechts, d.Hoch, d.Hoehe, 0, 0, 0, Tauschen ? 1 : 0);
     return 0;

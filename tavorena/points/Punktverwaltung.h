@@ -74,7 +74,8 @@ struct Versatz {
 };
 
 /// Shifts all points, then exchanges Rechts and Hoch where that is asked for. No entry in the protocol.
+/// @param[in] Name  of the deed
 /// @return 0; -1 with a message: a shift is not finite
-[[nodiscard]] int TabelleVerschieben(Rücknahme& R, const Versatz& d, bool Tauschen);
+[[nodiscard]] int TabelleVerschieben(Rücknahme& R, const std::string& Name, const Versatz& d, bool Tauschen);
 
 }  // namespace tavorena

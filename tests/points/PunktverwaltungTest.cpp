@@ -1,8 +1,11 @@
 #include "Aktentest.h"
 
+#include <sstream>
+
 #include <tavorena/core/Text.h>
 #include <tavorena/points/Punktgruppen.h>
 #include <tavorena/points/Punktverwaltung.h>
+#include <tavorena/points/Uebernahme.h>
 
 namespace tavorena::test {
 namespace {
@@ -202,12 +205,57 @@ TEST_F(Punktverwaltung, WasNichtGeht) {
 }
 
 TEST_F(Punktverwaltung, GanzeTabelle) {
-  EXPECT_EQ(TabelleVerschieben(R, {1, 2, 3}, true), 0);
+  EXPECT_EQ(TabelleVerschieben(R, "Versatz", {1, 2, 3}, true), 0);
   EXPECT_TRUE(Gleich(KorRechts[0], 202, KorHoch[0], 101, KorHoehe[0], 13));
   NimmZurück();
   Skript.Erwarte("nicht endlich");
-  EXPECT_EQ(TabelleVerschieben(R, {0, std::numeric_limits<double>::infinity(), 0}, false), -1);
+  EXPECT_EQ(TabelleVerschieben(R, "Versatz", {0, std::numeric_limits<double>::infinity(), 0}, false), -1);
   EXPECT_EQ(Tabelle(), Vorher);
+}
+
+TEST_F(Punktverwaltung, AusAndererDatei) {
+  using enum Übernahme;
+  struct Fall {
+    Übernahme Art;
+    const char *Datei, *Text;  // of the file, and what is told
+    int Anzahl;
+    const char* Tabelle;  // afterwards: number, Rechts and height of each row
+  };
+  for (const Fall& F : {
+           // The first of a number counts, for all its rows; what is no point is counted.
+           Fall{Koordinaten, "Kopf\n2 1 2\n2 3 4\n8A 130 200\n1 1e999 5\n9 5 5\n",
+                "2 Zeilen der Datei sind keine Punkte", 2, "1 100 10, 2 1 12.5, 2 1 0, 3 120 0, 8A 130 0, "},
+           Fall{Höhen, "1 0 0 0\n2 0 0 7,5\n3 0 0\n", "", 2,
+                "1 100 10, 2 110.062 7.5, 2 110 7.5, 3 120 0, 8A 130 0, "},
+           Fall{Höhenliste, "3 99.5 x y\n1 0\n8,A\n", "1 Zeile der Datei ist kein Punkt", 1,
+                "1 100 10, 2 110.062 12.5, 2 110 0, 3 120 99.5, 8A 130 0, "},
+           // Just near, the one that is nearer, two near ones, a taken number (twice), just not near.
+           Fall{Punktnummern,
+                "4 100.03 200\n5 110 200\n6 110.0625 200.0625\n7 110.0625 200.07\n8A 120 200\n9 130.0300001 "
+                "200",
+                "1 Punktnummer ist vergeben und bleibt aus", 2,
+                "2 110.062 12.5, 3 120 0, 4 100 10, 5 110 0, 8A 130 0, "},
+           Fall{Versatz, "1 101 202\n3 121.5 202\n2 0 0\n8A 0 0\n8A 0 0\n",
+                "2 gleiche Punktnummern\ndRechts: 1.250\ndHoch: 2.000\ngrößte Restabweichung: 0.250", 5,
+                "1 101.25 10, 2 111.312 12.5, 2 111.25 0, 3 121.25 0, 8A 131.25 0, "},
+       }) {
+    SCOPED_TRACE(Übernahmename(F.Art));
+    Schreibe(Ordner.Pfad("b.kor"), F.Datei);
+    Übernahmeplan Plan;
+    ASSERT_EQ(ÜbernahmePlanen(F.Art, Ordner.Pfad("b.kor"), 0.03, Plan), 0);
+    EXPECT_TRUE(Gleich(ÜbernahmeText(Plan), F.Text, Plan.Anzahl(), F.Anzahl, Tabelle() == Vorher, true));
+    const std::string Alt = Inhalt(Prot.Datei);
+    EXPECT_EQ(ÜbernahmeAusführen(R, Plan), 0);
+    std::ostringstream Neu;
+    for (const Punktsatz& P : Tabelle()) Neu << P.Pnr << ' ' << P.Rechts << ' ' << P.Hoehe << ", ";
+    EXPECT_EQ(Neu.str(), F.Tabelle);
+    EXPECT_EQ(Anzahl(Inhalt(Prot.Datei).substr(Alt.size()), "Soll-Ist\r\n"),
+              F.Art == Versatz ? 0 : F.Anzahl + 1);
+    NimmZurück();
+    Schreibe(Ordner.Pfad("b.kor"), "99 1 2 3\n");
+    Skript.Erwarte("Kein Punkt ist zu ändern");
+    EXPECT_EQ(ÜbernahmePlanen(F.Art, Ordner.Pfad("b.kor"), 0.03, Plan), -1);
+  }
 }
 
 // Two forms at work: each takes back its own, as far as the other left it.

@@ -5,6 +5,7 @@
 #include <tavorena/records/Neupunktblock.h>
 #include <tavorena/records/Polel.h>
 #include <tavorena/records/Tabellenkopf.h>
+#include <tavorena/records/Vergleichsblock.h>
 
 namespace tavorena::test {
 namespace {
@@ -68,6 +69,18 @@ TEST_F(ProtokollTest, SpaltenWandernNichtMitDenDezimalen) {
   }
   EXPECT_EQ(LinelAnschluss(6, Anschluss({}, {}, {}, {}, 0)).Zeilen,
             std::vector<std::string>{"      #Fehler: Zu viele Nachkommastellen#"});
+}
+
+TEST(Vergleichsblock, SollIstUndDifferenz) {
+  const std::vector<Vergleichspaar> Paare = {
+      {{"1001", 3500100.01, 5600200.02, 123.45}, {"1001", 3500100.03, 5600200, 123.44}}};
+  EXPECT_EQ(Vergleichsblock(3, Paare, false).Zeilen,
+            (std::vector<std::string>{
+                "      3500100.010  5600200.020     123.450                    1001 Soll",
+                "      3500100.030  5600200.000     123.440                    1001 Ist",
+                "           -0.020        0.020       0.010      0.028              Soll-Ist"}));
+  EXPECT_EQ(Vergleichsblock(4, Paare, true).Zeilen[2],
+            "                                     0.0100                        Soll-Ist");
 }
 
 TEST_F(ProtokollTest, SeiteBrichtNach50Zeilen) {
