@@ -51,7 +51,8 @@ std::vector<std::vector<int>> Doppelgruppen() {
 
 Punktgruppe GruppeMitMitte(std::vector<int> Zeilen) {
   Punktgruppe G{std::move(Zeilen)};
-  std::vector<double> R, H, Z;
+  static std::vector<double> R, H, Z;  // kept between calls: there may be a group for each point
+  for (auto* Spalte : {&R, &H, &Z}) Spalte->clear();
   for (const int z : G.Zeilen) {
     R.push_back(KorRechts[Stelle(z)]);
     H.push_back(KorHoch[Stelle(z)]);

@@ -14,6 +14,7 @@
 #include <tavorena/points/Punktgruppen.h>
 #include <tavorena/points/Punktlisten.h>
 #include <tavorena/points/Punktverwaltung.h>
+#include <tavorena/records/Protokoll.h>
 
 namespace tavorena {
 namespace {
@@ -41,10 +42,28 @@ int AlleEintragen(const std::vector<Punkteintrag>& Einträge) {
                                                                                                         : -1;
 }
 
-std::string Tatname(const char* Wort, const std::vector<Punktsatz>& Punkte) {
-  return std::string(Wort) + " " +
-         (Punkte.size() == 1 ? Zitat(Punkte[0].Pnr)
-                             : Anzahltext(static_cast<int>(Punkte.size()), "Punkt", "Punkte"));
+// A deed that is named after its rows; taken back it tells of them under a title.
+Punkttat Zeilentat(const char* Wort, const std::vector<int>& Zeilen, const char* Titel) {
+  Punkttat Tat{std::string(Wort) + " " +
+                   (Zeilen.size() == 1 ? Zitat(KorPnr(Zeilen[0]))
+                                       : Anzahltext(static_cast<int>(Zeilen.size()), "Punkt", "Punkte")),
+               {}};
+  std::vector<Blockpunkt>& Punkte = Tat.BeiRücknahme.emplace_back(Punkteintrag{Titel, {}}).Punkte;
+  Punkte.reserve(Zeilen.size());
+  for (const int z : Zeilen) {
+    const KorSatz S = KorPunkt(z);
+    Punkte.push_back({{S.Rechts, S.Hoch, std::string(S.Pnr)}, {}});
+  }
+  return Tat;
+}
+
+// The same points with another remark, and with another number if there is one; for the protocol alone.
+template <typename Änderung>
+int Umgeschrieben(const char* Titel, const std::vector<Blockpunkt>& Punkte, Änderung Ändere) {
+  if (Prot.Datei.empty()) return 0;
+  Punkteintrag E{Titel, Punkte};
+  for (Blockpunkt& P : E.Punkte) Ändere(P);
+  return Eintragen(E);
 }
 
 // ---- new numbers -----------------------------------------------------------------------------------
@@ -66,6 +85,7 @@ std::string Vergeben(const std::vector<int>& Zeilen, const std::vector<std::stri
       Andere.insert(TrimmenSicht(KorPnr(z)));
     }
   }
+  if (Andere.empty()) return "";
   for (const std::string& Pnr : Neue) {
     std::string MitPunkt = Pnr;
     ZeichenErsetzen(MitPunkt, ',', '.');
@@ -76,16 +96,9 @@ std::string Vergeben(const std::vector<int>& Zeilen, const std::vector<std::stri
 
 // @param[in] Neue  a number for each row
 int NummernSetzen(Rücknahme& R, const std::vector<int>& Zeilen, const std::vector<std::string>& Neue) {
-  const std::vector<Punktsatz> Alte = Sätze(Zeilen);
-  Punkteintrag Hin{TitelBerichtigung, {}}, Her = Hin;
-  const auto Text = [](const std::string& Pnr) { return " ***bericht. alt:" + PnrFormat(Pnr); };
-  for (std::size_t i = 0; i < Zeilen.size(); ++i) {
-    Punktsatz Neuer = Alte[i];
-    Neuer.Pnr = Neue[i];
-    Hin.Punkte.push_back(ImBlock(Neuer, Text(Alte[i].Pnr)));
-    Her.Punkte.push_back(ImBlock(Alte[i], Text(Neuer.Pnr)));
-  }
-  Punkttat Tat{Tatname("Numeriere", Alte), {std::move(Her)}};
+  Punkttat Tat = Zeilentat("Numeriere", Zeilen, TitelBerichtigung);
+  std::vector<Blockpunkt>& Alte = Tat.BeiRücknahme.front().Punkte;
+  for (std::size_t i = 0; i < Alte.size(); ++i) Alte[i].Alt = Neue[i];
   return R.Ausführen(Tat, [&] {
     for (std::size_t i = 0; i < Zeilen.size(); ++i) {
       KorSatz Satz = KorPunkt(Zeilen[i]);
@@ -93,7 +106,7 @@ int NummernSetzen(Rücknahme& R, const std::vector<int>& Zeilen, const std::vect
       if (KorZeileSetzen(Zeilen[i], Satz) < 0) return -1;
     }
     KorSortieren();
-    return Eintragen(Hin);
+    return Umgeschrieben(TitelBerichtigung, Alte, [](Blockpunkt& P) { std::swap(P.Punkt.Pnr, P.Alt); });
   });
 }
 
@@ -243,22 +256,23 @@ int NummerZeilen(const std::string& Pnr, std::vector<int>& Zeilen) {
 
 int BereichZeilen(const std::string& Von, const std::string& Bis, std::vector<int>& Zeilen) {
   const std::string Bereich = "Punktbereich " + Zitat(Von) + " - " + Zitat(Bis) + ": ";
-  if (Wert(Von).Zahl() > Wert(Bis).Zahl()) {
+  const Wert Unten(Wert(Von).Zahl()), Oben(Wert(Bis).Zahl());
+  if (Unten.Zahl() > Oben.Zahl()) {
     FehlerMeldung(Bereich + "die erste Nummer ist größer als die letzte");
     return -1;
   }
-  for (int z = -1; (z = KorBereichSuche(Von, Bis, z)) >= 0;) Zeilen.push_back(z);
+  for (int z = -1; (z = KorBereichSuche(Unten, Oben, z)) >= 0;) Zeilen.push_back(z);
   if (!Zeilen.empty()) return 0;
   FehlerMeldung(Bereich + "keine Punkte vorhanden");
   return -1;
 }
 
 int PunkteLöschen(Rücknahme& R, const std::vector<int>& Zeilen) {
-  const std::vector<Punktsatz> Alte = Sätze(Zeilen);
-  Punkttat Tat{Tatname("Lösche", Alte), {{TitelEingabe, ImBlock(Alte)}}};
+  Punkttat Tat = Zeilentat("Lösche", Zeilen, TitelEingabe);
   return R.Ausführen(Tat, [&] {
     ZeilenLöschen(Zeilen);
-    return Eintragen({TitelLöschen, ImBlock(Alte, " ***gelöscht")});
+    return Umgeschrieben(TitelLöschen, Tat.BeiRücknahme.front().Punkte,
+                         [](Blockpunkt& P) { P.Marke = " ***gelöscht"; });
   });
 }
 
@@ -283,7 +297,13 @@ int BereichBerichtigen(Rücknahme& R, const std::string& Von, const std::string&
   if (BereichZeilen(Von, Bis, Zeilen) < 0) return -1;
   std::unordered_map<std::string_view, std::string> NeueNummer;
   std::vector<std::string> Neue;
+  Neue.reserve(Zeilen.size());
+  const bool Einzeln = !DoppelteVorhanden();
   for (const int z : Zeilen) {
+    if (Einzeln) {
+      Neue.push_back(std::to_string(Nächste++));
+      continue;
+    }
     std::string& Neu = NeueNummer[TrimmenSicht(KorPnr(z))];
     if (Neu.empty()) Neu = std::to_string(Nächste++);
     Neue.push_back(Neu);

@@ -25,6 +25,7 @@ class Wache {
   Wache() : Vorige(Haken.VorÄnderung), Stand(KorStand), Geändert(KoordinatenGeaendert) {
     Haken.VorÄnderung = [this](const KorÄnderung& Neue) {
       if (KorStand == Stand) {
+        Vorher.reserve(Stelle(KorAnzahl));
         for (int z = 0; z < KorAnzahl; ++z) Vorher.push_back(PunktsatzVon(z));
       }
       if (Vorige) Vorige(Neue);
@@ -117,7 +118,7 @@ void ZeilenLöschen(const std::vector<int>& Zeilen) {
 }
 
 int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
-  const Wache W;
+  Wache W;
   const auto Verwerfen = [&W] {
     if (!W.Verändert()) return;
     ZeilenErsetzen(0, KorAnzahl, W.Vorher);
@@ -141,33 +142,37 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
          Gleich(W.Vorher[Stelle(Vorher - 1 - Hinten)].Satz(), KorPunkt(KorAnzahl - 1 - Hinten)))
     ++Hinten;
   if (Von + Hinten == Vorher && Von + Hinten == KorAnzahl) return Ergebnis;
-  Eintrag E{std::move(Tat), Von, {}, KorAnzahl - Hinten - Von, {}, {}, W.Stand, KorStand};
-  E.Vorher.assign(W.Vorher.begin() + Von, W.Vorher.end() - Hinten);
-  const auto Alter = [&E](int i) { return E.Vorher[Stelle(i)].Satz(); };
-  Satzsuche Alte;
-  for (std::size_t i = 0; i < E.Vorher.size(); ++i) Alte.Aufnehmen(E.Vorher[i].Satz(), static_cast<int>(i));
-  for (int z = Von; z < Von + E.Länge; ++z) {
-    if (Alte.Nehmen(KorPunkt(z), Alter) < 0) E.Neu.push_back(PunktsatzVon(z));
+  Eintrag E{std::move(Tat), Von, std::move(W.Vorher), {}, W.Stand, KorStand};
+  if (Von + Hinten > 0) {  // a large table is moved, of a small deed no more is kept than it needs
+    E.Vorher.erase(E.Vorher.end() - Hinten, E.Vorher.end());
+    E.Vorher.erase(E.Vorher.begin(), E.Vorher.begin() + Von);
+    E.Vorher.shrink_to_fit();
   }
-  for (const int i : Alte.Rest()) E.Weg.push_back(E.Vorher[Stelle(i)]);
+  E.Nachher.reserve(Stelle(KorAnzahl - Hinten - Von));
+  for (int z = Von; z < KorAnzahl - Hinten; ++z) E.Nachher.push_back(PunktsatzVon(z));
   Taten.push_back(std::move(E));
   return Ergebnis;
 }
 
+// In place of the rows that only came with the deed the ones that went come back.
 int Rücknahme::Zurücktauschen(const Eintrag& E) {
-  if (KorAnzahl - static_cast<int>(E.Neu.size()) + static_cast<int>(E.Weg.size()) > KorZeilen) return -1;
-  Satzsuche Jetzige;
+  const auto Alter = [&E](int i) { return E.Vorher[Stelle(i)].Satz(); };
+  Satzsuche Alte, Jetzige;
+  for (std::size_t i = 0; i < E.Vorher.size(); ++i) Alte.Aufnehmen(E.Vorher[i].Satz(), static_cast<int>(i));
   for (int z = 0; z < KorAnzahl; ++z) Jetzige.Aufnehmen(KorPunkt(z), z);
   std::vector<int> Zeilen;
-  for (const Punktsatz& P : E.Neu) {
+  for (const Punktsatz& P : E.Nachher) {
+    if (Alte.Nehmen(P.Satz(), Alter) >= 0) continue;
     const int z = Jetzige.Nehmen(P.Satz(), KorPunkt);
     if (z < 0) return -1;
     Zeilen.push_back(z);
   }
+  const std::vector<int> Weg = Alte.Rest();
+  if (KorAnzahl - static_cast<int>(Zeilen.size()) + static_cast<int>(Weg.size()) > KorZeilen) return -1;
   std::sort(Zeilen.begin(), Zeilen.end());
-  const std::size_t Paare = std::min(Zeilen.size(), E.Weg.size());
-  for (std::size_t i = 0; i < Paare; ++i) static_cast<void>(KorZeileSetzen(Zeilen[i], E.Weg[i].Satz()));
-  for (std::size_t i = Paare; i < E.Weg.size(); ++i) static_cast<void>(KorAnhängen(E.Weg[i].Satz()));
+  const std::size_t Paare = std::min(Zeilen.size(), Weg.size());
+  for (std::size_t i = 0; i < Paare; ++i) static_cast<void>(KorZeileSetzen(Zeilen[i], Alter(Weg[i])));
+  for (std::size_t i = Paare; i < Weg.size(); ++i) static_cast<void>(KorAnhängen(Alter(Weg[i])));
   ZeilenLöschen({Zeilen.begin() + static_cast<std::ptrdiff_t>(Paare), Zeilen.end()});
   KorSortieren();
   KorAnzahlAnzeigen();
@@ -179,7 +184,7 @@ int Rücknahme::Zurück() {
   const Eintrag& E = Taten.back();
   const bool Unberührt = KorStand == E.Stand;
   if (Unberührt) {
-    ZeilenErsetzen(E.Von, E.Länge, E.Vorher);
+    ZeilenErsetzen(E.Von, static_cast<int>(E.Nachher.size()), E.Vorher);
   } else if (Zurücktauschen(E) < 0) {
     FehlerMeldung("Die Punkte wurden inzwischen geändert: " + E.Tat.Name);
     return -1;

@@ -61,10 +61,8 @@ class Rücknahme {
  private:
   struct Eintrag {
     Punkttat Tat;
-    int Von = 0;                      // first row that differs
-    std::vector<Punktsatz> Vorher;    // the rows from there on that differ
-    int Länge = 0;                    // number of rows in their place afterwards
-    std::vector<Punktsatz> Weg, Neu;  // rows that the table had before only, and has afterwards only
+    int Von = 0;                             // first row that differs
+    std::vector<Punktsatz> Vorher, Nachher;  // the rows from there on that differ
     std::uint64_t StandVorher = 0, Stand = 0;
   };
   [[nodiscard]] static int Zurücktauschen(const Eintrag& E);

@@ -3,6 +3,7 @@
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Punktblock.h>
 #include <tavorena/records/Tabellenkopf.h>
@@ -12,7 +13,10 @@ namespace tavorena {
 Block Punktblock(int Nachkomma, const std::vector<Blockpunkt>& Punkte, int Marken) {
   const Spalten S(Nachkomma);
   std::vector<std::string> Zeilen = {KopfPunkte};
-  for (const Blockpunkt& P : Punkte) Zeilen.push_back(S.Punkt(P.Punkt, Leerzeichen(26), P.Marke));
+  for (const Blockpunkt& P : Punkte) {
+    Zeilen.push_back(S.Punkt(P.Punkt, Leerzeichen(26), P.Marke));
+    if (!P.Alt.empty()) Zeilen.back() += " ***bericht. alt:" + PnrFormat(P.Alt);
+  }
   return Zahlenblock(Nachkomma, std::move(Zeilen), Marken);
 }
 
@@ -20,8 +24,11 @@ int Eintragen(const Punkteintrag& E) {
   Verbindung V;
   V.Titel = E.Titel;
   V.Riß = LetzterPlan;
-  const Block B = Punktblock(Optionen.OptNachkommastellen, E.Punkte, E.Marken);
-  if (Schreiben(Prot, std::make_shared<const Verbindung>(std::move(V)), B) < 0) return -1;
+  const auto Darüber = std::make_shared<const Verbindung>(std::move(V));
+  // A large entry takes its time: without a protocol its lines are not made.
+  if (!Prot.Datei.empty() &&
+      Schreiben(Prot, Darüber, Punktblock(Optionen.OptNachkommastellen, E.Punkte, E.Marken)) < 0)
+    return -1;
   Prot.Marken += E.Marken;
   return 0;
 }

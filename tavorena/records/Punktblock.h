@@ -22,6 +22,7 @@ inline constexpr const char *TitelBerichtigung = "VR 25.07 Berichtigung von Punk
 struct Blockpunkt {
   Protpunkt Punkt;
   std::string Marke;
+  std::string Alt = {};  ///< number that it had before, if the remark is to say so
 };
 
 /// Points below the head that such blocks have.
