@@ -10,6 +10,7 @@ namespace tavorena {
 namespace {
 
 std::string TitelFür(Dateisorte Sorte, Wahlmodus Modus) {
+  if (Sorte == Dateisorte::Hli) return "Höhenliste zum Lesen auswählen";
   if (Sorte == Dateisorte::Dru) {
     return Modus == Wahlmodus::Lesen ? "Protokolldatei auswählen" : "Protokolldatei zum Schreiben auswählen";
   }

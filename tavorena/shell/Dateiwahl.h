@@ -6,7 +6,7 @@
 
 namespace tavorena {
 
-enum class Dateisorte { Kor, Dru, Sta };
+enum class Dateisorte { Kor, Dru, Sta, Hli };
 
 /// "r" read an existing file, "w" write, "a" append, "n" a new one.
 enum class Wahlmodus : char { Lesen = 'r', Schreiben = 'w', Anhängen = 'a', Neu = 'n' };

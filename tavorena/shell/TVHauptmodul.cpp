@@ -28,6 +28,7 @@
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 #include <tavorena/shell/TVOptionenform.h>
+#include <tavorena/shell/Tabellenbefehle.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
@@ -113,6 +114,7 @@ void HauptAnschließen() {
 void HauptInitialisierung() {
   DateinamenAbleiten();
   KorLeeren();
+  TabellenRücknahme = {};
   ProtokollNehmen("");
   Protokollfenster.Leeren();
   StapelDatei = {};

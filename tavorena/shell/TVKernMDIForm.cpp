@@ -12,6 +12,7 @@
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVKernMDIForm.h>
+#include <tavorena/shell/Tabellenbefehle.h>
 
 namespace tavorena {
 namespace {
@@ -24,6 +25,7 @@ int IndexVon(std::string_view Name) {
 
 constexpr std::string_view OhneDatei = "keine Koordinatendatei offen";
 constexpr std::string_view Fehlt = "noch nicht vorhanden";
+constexpr std::string_view Rücknahmebefehl = "MenüBearbeitenRück";
 
 bool IstHist(const Menüeintrag& E) { return std::string_view(E.Name).starts_with("MenüDateiHist("); }
 
@@ -80,6 +82,7 @@ std::string_view TVKernMDIForm::Grund(const Menüeintrag& E) const {
   }
   if (IstHist(E))
     return HistIndex(IndexVon(Name)) < 0 ? "kein Eintrag" : Offen ? "Koordinatendatei offen" : "";
+  if (Offen && Name == Rücknahmebefehl && TabellenRücknahme.Leer()) return "nichts zurückzunehmen";
   if (const Befehl* B = BefehlFinden(Name)) return Offen || !B->MitDatei ? "" : OhneDatei;
   // A submenu can be opened when one of its entries can be used; else what helps most is told.
   std::string_view Warum = Fehlt;
@@ -93,6 +96,8 @@ std::string_view TVKernMDIForm::Grund(const Menüeintrag& E) const {
 }
 
 std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
+  if (E.Name == Rücknahmebefehl && !TabellenRücknahme.Leer())
+    return std::string(E.Titel) + ": " + TabellenRücknahme.Name();
   if (!IstHist(E)) return E.Titel;
   const int i = HistIndex(IndexVon(E.Name));
   std::string Name = i >= 0 ? Historie[static_cast<std::size_t>(i)].Dateiname : "";

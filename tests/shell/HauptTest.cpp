@@ -1,6 +1,7 @@
 #include "Shelltest.h"
 
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Koordinatendatei.h>
 
 namespace tavorena::test {
@@ -328,6 +329,55 @@ TEST_F(HauptOffen, Hinzulesen) {
   Skript.Formulare.push_back(Bediene({{"PSelectGitter", "\n"}, {"OK", ""}}));
   Befehl("MenüDateiHinzuLesenPunktselektion", Datei);
   EXPECT_EQ(KorPnr(0), "4.5");
+}
+
+TEST_F(HauptOffen, GanzeTabelleUndZurück) {
+  const char* const Rück = "MenüBearbeitenRück";
+  const auto Titel = [&] { return TVKernMDIForm::Fenster().Titel(*MenüFinden(Rück)); };
+  Schreibe(Ordner.Pfad("b.kor"), "A 3500100.03 5600200 1\n2003 3500131 5600230 9\n");
+  Skript.Erwarte("3 Punkte ändern ?", KnopfNein);
+  Befehl("MenüBearbeitenTauschen(0)");
+  EXPECT_TRUE(Gleich(KorRechts[0], 3500100, Grund(Rück), "nichts zurückzunehmen", Titel(), "&Rückgängig"));
+  Skript.Erwarte("3 Punkte ändern ?", KnopfJa);
+  Befehl("MenüBearbeitenTauschen(0)");
+  EXPECT_TRUE(Gleich(KorRechts[0], 5600200, Grund(Rück), "", Titel(), "&Rückgängig: Koordinaten tauschen"));
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "x\n"}, {"Wert(0)", "1,5"}, {"Wert(2)", "-2.5\n"}}));
+  Skript.Erwarte("3 Punkte ändern ?", KnopfJa);
+  Befehl("MenüBearbeitenTauschen(2)");
+  EXPECT_TRUE(Gleich(KorHoch[0], 5600201.5, KorRechts[0], 3500100, KorHoehe[0], 10));
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "-99999999999\n\n\n"}}));
+  Skript.Erwarte("dRechts: zu groß");
+  Befehl("MenüBearbeitenTauschen(1)");
+  Befehl(Rück);
+  EXPECT_TRUE(Gleich(KorRechts[0], 5600200, Titel(), "&Rückgängig: Koordinaten tauschen"));
+  Befehl(Rück);
+  EXPECT_TRUE(Gleich(KorHoehe[0], 12.5, KorRechts[0], 3500100, Aktiv(Rück), false));
+  Skript.Erwarte("KOR-Dateien");
+  Befehl("MenüBearbeitenKBericht(1)", Ordner.Pfad("b.lt4"));
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "-1\n"}}));  // comes again
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "0.03\n"}}));
+  Skript.Erwarte("1 Punkt ändern ?", KnopfJa);
+  Befehl("MenüBearbeitenPBericht", Ordner.Pfad("b.kor"));
+  EXPECT_EQ(KorSuche(Wert("1001")), -1);
+  // A replay has the table to itself.
+  Stapel.Aktiv = true;
+  const std::uint64_t Stand = KorStand;
+  int Gesperrt = 0;
+  for (const Menüeintrag& E : Menübaum()) {
+    const tavorena::Befehl* B = BefehlFinden(E.Name);
+    if (B == nullptr || !B->Ändert) continue;
+    Skript.Status[4].clear();
+    Befehl(E.Name);
+    EXPECT_EQ(Skript.Status[4], "   Stapel noch nicht abgeschlossen   ") << E.Name;
+    ++Gesperrt;
+  }
+  EXPECT_TRUE(Gleich(KorStand, Stand, Gesperrt >= 13, true));
+  Stapel = {};
+  Skript.Erwarte("speichern ? ", KnopfNein);
+  Befehl("MenüDateiSchließen");
+  fs::remove(A_dru);
+  Öffne();
+  EXPECT_FALSE(Aktiv(Rück));
 }
 
 TEST_F(HauptOffen, StapelÜberDasMenü) {

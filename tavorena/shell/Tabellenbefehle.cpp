@@ -1,0 +1,96 @@
+#include <cmath>
+
+#include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Menuebaum.h>
+#include <tavorena/shell/TVHauptmodul.h>
+#include <tavorena/shell/TVKernMDIForm.h>
+#include <tavorena/shell/Tabellenbefehle.h>
+
+namespace tavorena {
+
+Rücknahme TabellenRücknahme;
+
+namespace {
+
+bool Fragen(const std::string& Text, int Anzahl) {
+  const std::string Frage = Anzahltext(Anzahl, "Punkt", "Punkte") + " ändern ?";
+  return FrageJaNein(Text.empty() ? Frage : Text + "\n\n" + Frage) == KnopfJa;
+}
+
+// Behind a deed: the entry that takes it back bears its name.
+void Berichten(int Ergebnis, const std::string& Text) {
+  AnzeigePort().HauptfensterGeändert();
+  if (Ergebnis == 0) StatusHilfeSetzen(Text);
+}
+
+void Ändern(int Anzahl, const std::string& Text, const std::function<int()>& Tun) {
+  if (Fragen(Text, Anzahl)) Berichten(Tun(), Anzahltext(Anzahl, "Punkt", "Punkte") + " geändert");
+}
+
+bool VersatzFragen(const std::string& Name, Versatz& d) {
+  Wertfeld Felder[] = {{"dRechts:", "0", 10, 5}, {"dHoch:", "0", 10, 5}, {"dHöhe:", "0", 10, 5}};
+  if (DreiWerte("Tavorena " + Name, Felder) < 0) return false;
+  double* const Ziele[] = {&d.Rechts, &d.Hoch, &d.Hoehe};
+  for (std::size_t i = 0; i < 3; ++i) {
+    if (!IstZahlwort(Felder[i].Wert)) {  // the field overflowed
+      FehlerMeldung(Felder[i].Label + " zu groß");
+      return false;
+    }
+    *Ziele[i] = ZahlAusText(Felder[i].Wert);
+  }
+  return true;
+}
+
+// Asks until it is a length.
+bool AbstandFragen(const std::string& Name, double& fs) {
+  std::string Text = "0.03";
+  do {
+    if (EinWert("Tavorena " + Name, "fs:", Text) < 0) return false;
+    fs = IstZahlwort(Text) ? ZahlAusText(Text) : -1;
+  } while (!(fs >= 0) || !std::isfinite(fs));
+  return true;
+}
+
+}  // namespace
+
+void TabelleTauschen(bool Tauschen, bool MitVersatz) {
+  const std::string Name = !MitVersatz ? "Koordinaten tauschen"
+                           : Tauschen  ? "Koordinaten tauschen mit Koordinatenoffset"
+                                       : "Koordinatenoffset";
+  Versatz d;
+  if (MitVersatz && !VersatzFragen(Name, d)) return;
+  Ändern(KorAnzahl, "", [&] { return TabelleVerschieben(TabellenRücknahme, Name, d, Tauschen); });
+}
+
+void TabelleÜbernehmen(Übernahme Art) {
+  const bool Höhenliste = Art == Übernahme::Höhenliste;
+  std::string Datei;
+  if (DateiWahl(Höhenliste ? Dateisorte::Hli : Dateisorte::Kor, Wahlmodus::Lesen,
+                Höhenliste ? "Höhenliste (*.hli)|*.hli" : "CADdy (*.kor)|*.kor",
+                Höhenliste ? "*.hli" : "*.kor", Datei) < 0 ||
+      !IstVergleichsdatei(Art, Datei))
+    return;
+  double fs = 0;
+  if (Art == Übernahme::Punktnummern && !AbstandFragen(Übernahmename(Art), fs)) return;
+  Übernahmeplan Plan;
+  if (ÜbernahmePlanen(Art, Datei, fs, Plan) < 0) return;
+  Ändern(Plan.Anzahl(), ÜbernahmeText(Plan), [&] { return ÜbernahmeAusführen(TabellenRücknahme, Plan); });
+}
+
+void TabelleZurücknehmen() {
+  const std::string Name = TabellenRücknahme.Name();
+  Berichten(TabellenRücknahme.Zurück(), "Zurückgenommen: " + Name);
+}
+
+bool IstVergleichsdatei(Übernahme Art, const std::string& Datei) {
+  if (Art == Übernahme::Höhenliste || FormatNachEndung(Datei) == Dateiformat::Kor) return true;
+  FehlerMeldung("Verglichen wird nur mit KOR-Dateien:\n" + Datei);
+  return false;
+}
+
+}  // namespace tavorena
