@@ -58,6 +58,14 @@ void Eingabefeld::focusInEvent(QFocusEvent* Ereignis) {
   if (BeiFokus) BeiFokus();
 }
 
+// What was typed before the field was left is not to be undone any more.
+void Eingabefeld::focusOutEvent(QFocusEvent* Ereignis) {
+  QLineEdit::focusOutEvent(Ereignis);
+  const bool Kommtwieder =
+      Ereignis->reason() == Qt::PopupFocusReason || Ereignis->reason() == Qt::ActiveWindowFocusReason;
+  if (!Kommtwieder && isUndoAvailable()) setText(text());
+}
+
 bool Eingabefeld::focusNextPrevChild(bool Vor) {
   return (BeiTab && BeiTab(Vor)) || QLineEdit::focusNextPrevChild(Vor);
 }

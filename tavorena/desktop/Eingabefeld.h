@@ -28,6 +28,7 @@ class Eingabefeld final : public QLineEdit {
  protected:
   void keyPressEvent(QKeyEvent* Ereignis) override;
   void focusInEvent(QFocusEvent* Ereignis) override;
+  void focusOutEvent(QFocusEvent* Ereignis) override;
   bool focusNextPrevChild(bool Vor) override;
 
  private:

@@ -22,6 +22,7 @@
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/graphics/Abgriff.h>
+#include <tavorena/shell/TVKernMDIForm.h>
 
 namespace tavorena {
 namespace {
@@ -262,6 +263,7 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   if (Modell == nullptr || Modell->Fokus() != &S) return true;  // the focus went back: the key is void
   if (auto* G = dynamic_cast<Gitter*>(&S); G != nullptr && Ereignis.matches(QKeySequence::Paste))
     return Einfügen(*G, QApplication::clipboard()->text());
+  if (Ereignis.matches(QKeySequence::Undo)) return Zurücknehmen(Zeile);
   if (ZeileWechseln(S, Ereignis)) return true;
   if (!T || !Modell->TasteDrücken(*T)) return false;
   FokusZeigen();
@@ -269,6 +271,18 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
     Zeile->end(false);
   } else {
     FokusMarkieren();
+  }
+  return true;
+}
+
+// Ctrl+Z belongs to the text being typed, then to the form, then to the commands on the whole table.
+bool FormularAnsicht::Zurücknehmen(const QLineEdit* Zeile) {
+  if (Zeile != nullptr && Zeile->isUndoAvailable()) return false;
+  if (Modell->RücknahmeVerlangen()) {
+    FokusZeigen();
+    FokusMarkieren();
+  } else if (QApplication::activeModalWidget() == nullptr) {
+    TVKernMDIForm::Fenster().Ausführen("MenüBearbeitenRück");
   }
   return true;
 }
@@ -411,6 +425,16 @@ void FormularAnsicht::FormularGeschlossen() {
   }
   Modell = nullptr;
   if (BeiGeschlossen) BeiGeschlossen();
+}
+
+bool FormularAnsicht::event(QEvent* Ereignis) {
+  // Ctrl+Z comes as a key, see Zurücknehmen, and not as the shortcut of the menu.
+  if (Ereignis->type() == QEvent::ShortcutOverride &&
+      static_cast<const QKeyEvent&>(*Ereignis).matches(QKeySequence::Undo)) {
+    Ereignis->accept();
+    return true;
+  }
+  return QWidget::event(Ereignis);
 }
 
 bool FormularAnsicht::eventFilter(QObject* Objekt, QEvent* Ereignis) {

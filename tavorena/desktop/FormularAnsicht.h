@@ -8,6 +8,7 @@
 
 class QGridLayout;
 class QHBoxLayout;
+class QLineEdit;
 class QVBoxLayout;
 
 namespace tavorena {
@@ -41,6 +42,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   std::function<void()> BeiGeschlossen;
 
  protected:
+  bool event(QEvent* Ereignis) override;
   bool eventFilter(QObject* Objekt, QEvent* Ereignis) override;
 
  private:
@@ -64,6 +66,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   void RahmenZeigen(const std::string& Titel);
   [[nodiscard]] bool TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool MarkenZiehen(Gitter& G, const QKeyEvent& Ereignis);
+  [[nodiscard]] bool Zurücknehmen(const QLineEdit* Zeile);
   [[nodiscard]] bool Kopieren(const Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool Einfügen(Gitter& G, const QString& Text);
   [[nodiscard]] Gitteransicht& Tabelle(const Gitter& G) const;

@@ -46,6 +46,7 @@ QKeySequence Kurztaste(std::string_view Name) {
   if (Name == "MenüDateiLesen(0)") return QKeySequence::Open;
   if (Name == "MenüDateiSpeichern(0)") return QKeySequence::Save;
   if (Name == "MenüDateiBeenden") return QKeySequence::Quit;
+  if (Name == "MenüBearbeitenRück") return QKeySequence::Undo;
   if (Name == "MenüInfoHandbuch") return Qt::Key_F1;
   return {};
 }

@@ -195,6 +195,34 @@ class FensterTest final : public Fensterumgebung {
     QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 6);
   }
 
+  // Ctrl+Z: first the text that is typed, then the form, then the whole table.
+  void zurueckNimmtDasNaechste() {
+    struct Probe final : Formular {
+      Probe() : Formular("Probe") { FeldAnlegen("Wert", {0, 0}); }
+      bool Zurücknehmen() override { return Taten-- > 0; }
+      int Taten = 1;
+    };
+    Öffne();
+    Antworte(Qt::Key_J);
+    Menü("MenüBearbeitenTauschen(0)");
+    auto Blatt = std::make_unique<Probe>();
+    Probe& Form = *Blatt;
+    BlattZeigen(std::move(Blatt));
+    Tippe("12");
+    for (const auto& [Taten, Rechts] : {std::pair{1, 5600200}, {0, 5600200}, {-1, 3500100}}) {
+      Drücke(Qt::Key_Z, Qt::ControlModifier);
+      QCOMPARE(Feldtext(), QString());
+      QCOMPARE(Form.Taten, Taten);
+      QCOMPARE(KorRechts[0], Rechts);
+    }
+    Form.SchließenVerlangen();
+    Antworte(Qt::Key_J);
+    Menü("MenüBearbeitenTauschen(0)");
+    QTRY_VERIFY(Fenster->isActiveWindow());
+    QTest::keyClick(Fenster.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(KorRechts[0], 3500100);
+  }
+
   void stapelLaesstSichAnhalten() {
     Öffne();
     QByteArray Sta;
