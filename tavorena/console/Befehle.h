@@ -29,6 +29,7 @@ namespace tavorena {
 [[nodiscard]] Konsolenbefehl DoppelteMittelnBefehl();  ///< "doppelte-mitteln"
 [[nodiscard]] Konsolenbefehl MittelBefehl();           ///< "mitteln --art L --neu NR --alt NR,NR,..."
 [[nodiscard]] Konsolenbefehl VerschiebeBefehl();       ///< "verschieben [--tauschen] [--versatz dR,dH,dZ]"
+[[nodiscard]] Konsolenbefehl ÜbernahmeBefehl();        ///< "uebernehmen --aus b.kor --was koordinaten"
 /// @}
 
 }  // namespace tavorena

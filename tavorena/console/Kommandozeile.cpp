@@ -81,7 +81,7 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
   const Konsolenbefehl Befehle[] = {
       Stapelbefehl(),   Menübefehl(),       DoppelteBefehl(),   QuasiBefehl(),
       BelegungBefehl(), LöschBefehl(),      UmnumerierBefehl(), DoppelteMittelnBefehl(),
-      MittelBefehl(),   VerschiebeBefehl(), DxfBefehl()};
+      MittelBefehl(),   VerschiebeBefehl(), ÜbernahmeBefehl(),  DxfBefehl()};
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");
   Eindeutschen(App);

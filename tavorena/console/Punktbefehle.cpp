@@ -1,11 +1,17 @@
+#include <algorithm>
+#include <iterator>
 #include <ostream>
+#include <utility>
 
 #include <tavorena/console/Befehle.h>
 #include <tavorena/console/Worte.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/points/Punktgruppen.h>
 #include <tavorena/points/Punktverwaltung.h>
+#include <tavorena/points/Uebernahme.h>
+#include <tavorena/shell/Tabellenbefehle.h>
 
 namespace tavorena {
 namespace {
@@ -88,6 +94,38 @@ bool Verschieben(const Aufruf& A, const Umfeld& U) {
   return Bericht(U, TabelleVerschieben(R, "Verschieben", {d[0], d[1], d[2]}, Tauschen) == 0);
 }
 
+constexpr std::pair<const char*, Übernahme> Übernahmen[] = {{"punktnummern", Übernahme::Punktnummern},
+                                                            {"koordinaten", Übernahme::Koordinaten},
+                                                            {"hoehen", Übernahme::Höhen},
+                                                            {"hoehenliste", Übernahme::Höhenliste},
+                                                            {"versatz", Übernahme::Versatz}};
+
+bool Übernehmen(const Aufruf& A, const Umfeld& U) {
+  if (Leer()) return false;
+  const std::string Was = A.Wert("--was"), Datei = A.Wert("--aus"), fsText = A.Wert("--fs");
+  const auto i = std::find_if(std::begin(Übernahmen), std::end(Übernahmen),
+                              [&](const auto& Ü) { return Ü.first == Was; });
+  if (i == std::end(Übernahmen)) {
+    FehlerMeldung("--was " + Was +
+                  " gibt es nicht, nur punktnummern, koordinaten, hoehen, hoehenliste, versatz");
+    return false;
+  }
+  const Übernahme Art = i->second;
+  double fs = 0.03;
+  if (!fsText.empty() && Art != Übernahme::Punktnummern) {
+    FehlerMeldung("--fs gehört zu --was punktnummern");
+    return false;
+  }
+  if (!fsText.empty() && !LängeLesen(fsText, "--fs", fs)) return false;
+  Übernahmeplan Plan;
+  if (!IstVergleichsdatei(Art, Datei) || ÜbernahmePlanen(Art, Datei, fs, Plan) < 0) return false;
+  if (const std::string Text = ÜbernahmeText(Plan); !Text.empty()) U.Ausgabe << Text << '\n';
+  Rücknahme R;
+  if (ÜbernahmeAusführen(R, Plan) < 0) return false;
+  U.Ausgabe << Anzahltext(Plan.Anzahl(), "Punkt", "Punkte") << " geändert\n";
+  return true;
+}
+
 constexpr const char* Thema = "Punkte ändern";
 constexpr Angabe Bereich = {"--bereich", "VON,BIS", "erste und letzte Nummer"};
 
@@ -125,6 +163,22 @@ Konsolenbefehl VerschiebeBefehl() {
           Verschieben,
           {{"--tauschen", nullptr, "Rechts und Hoch tauschen"},
            {"--versatz", "dR,dH,dZ", "was zu Rechts, Hoch und Höhe kommt, in m"}}};
+}
+
+Konsolenbefehl ÜbernahmeBefehl() {
+  return {
+      "uebernehmen",
+      Thema,
+      "übernimmt etwas aus einer anderen Datei",
+      nullptr,
+      true,
+      Übernehmen,
+      {{"--aus", "DATEI", "KOR-Datei oder Höhenliste (*.hli)", true, Dateirolle::Eingabe},
+       {"--was", "WAS",
+        "punktnummern (des einen Punktes nahebei), koordinaten, hoehen oder hoehenliste (gleicher Nummern), "
+        "versatz (die mittlere Differenz gleicher Nummern, für alle Punkte)",
+        true},
+       {"--fs", "METER", "größter Abstand für punktnummern, sonst 0.03"}}};
 }
 
 Konsolenbefehl DoppelteMittelnBefehl() {
