@@ -1,4 +1,4 @@
-#include <cmath>
+#include <functional>
 
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
@@ -6,9 +6,7 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/shell/Dateiwahl.h>
-#include <tavorena/shell/Menuebaum.h>
 #include <tavorena/shell/TVHauptmodul.h>
-#include <tavorena/shell/TVKernMDIForm.h>
 #include <tavorena/shell/Tabellenbefehle.h>
 
 namespace tavorena {
@@ -46,13 +44,10 @@ bool VersatzFragen(const std::string& Name, Versatz& d) {
   return true;
 }
 
-// Asks until it is a length.
 bool AbstandFragen(const std::string& Name, double& fs) {
-  std::string Text = "0.03";
-  do {
-    if (EinWert("Tavorena " + Name, "fs:", Text) < 0) return false;
-    fs = IstZahlwort(Text) ? ZahlAusText(Text) : -1;
-  } while (!(fs >= 0) || !std::isfinite(fs));
+  Wertfeld Feld{"fs:", "0.03", -1, -1, true};
+  if (EinWert("Tavorena " + Name, Feld) < 0) return false;
+  fs = ZahlAusText(Feld.Wert);
   return true;
 }
 

@@ -354,7 +354,6 @@ TEST_F(HauptOffen, GanzeTabelleUndZurück) {
   EXPECT_TRUE(Gleich(KorHoehe[0], 12.5, KorRechts[0], 3500100, Aktiv(Rück), false));
   Skript.Erwarte("KOR-Dateien");
   Befehl("MenüBearbeitenKBericht(1)", Ordner.Pfad("b.lt4"));
-  Skript.Formulare.push_back(Bediene({{"Wert(0)", "-1\n"}}));  // comes again
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "0.03\n"}}));
   Skript.Erwarte("1 Punkt ändern ?", KnopfJa);
   Befehl("MenüBearbeitenPBericht", Ordner.Pfad("b.kor"));
