@@ -1,6 +1,8 @@
 #include <utility>
 
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/points/Punktform.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena {
 
@@ -10,6 +12,11 @@ Knopf& Punktform::RückgängigAnlegen(std::string Name, Platz Ort) {
   Rückgängig->OhnePrüfung = true;
   Rückgängig->Aktiv = false;
   return *Rückgängig;
+}
+
+bool Punktform::DarfÄndern() {
+  if (Stapel.Läuft()) StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
+  return !Stapel.Läuft();
 }
 
 int Punktform::Getan(int Ergebnis) {
@@ -23,6 +30,7 @@ int Punktform::Getan(int Ergebnis) {
 
 bool Punktform::Zurücknehmen() {
   if (R.Leer()) return false;
+  if (!DarfÄndern()) return true;
   static_cast<void>(Getan(R.Zurück()));  // what hinders it is told
   return true;
 }

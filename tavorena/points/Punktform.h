@@ -17,6 +17,8 @@ class Punktform : public Formular {
 
   /// The button that takes the last deed back and names it.
   Knopf& RückgängigAnlegen(std::string Name, Platz Ort);
+  /// Before each deed: while a replay runs, the table is its own, and that is told.
+  [[nodiscard]] static bool DarfÄndern();
   /// Behind each deed: its result is handed through.
   int Getan(int Ergebnis);
   /// The form did something to the table, or took it back.
