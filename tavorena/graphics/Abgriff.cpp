@@ -8,12 +8,13 @@ namespace tavorena {
 namespace {
 
 // The forms that take points from the view.
-constexpr std::array<std::string_view, 20> Formen{"tvausgleichform",
+constexpr std::array<std::string_view, 21> Formen{"tvausgleichform",
                                                   "tvdreidform",
                                                   "tvkernkoordinateneditor",
                                                   "tvberichform",
                                                   "tvpmittform",
                                                   "tvploeschform",
+                                                  "tvpselectform",
                                                   "tvlinelform",
                                                   "tvpolelform",
                                                   "tvdisform",

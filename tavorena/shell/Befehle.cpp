@@ -10,6 +10,7 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/points/TVPSelectForm.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
@@ -21,7 +22,6 @@
 #include <tavorena/shell/Punktbefehle.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
-#include <tavorena/shell/TVPSelectForm.h>
 #include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
@@ -128,8 +128,10 @@ void HinzuPunktselektion() {
   if (FormatNachEndung(Name) != Dateiformat::Kor)
     return FehlerMeldung("Punkte werden nur aus KOR-Dateien ausgewählt:\n" + Name);
   if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
+  std::vector<int> Zeilen;
+  if (PunkteAuswählen(Listen, Zeilen) < 0) return;
   std::vector<std::string> Gewählt;
-  if (PunkteAuswählen(Listen, Gewählt) < 0) return;
+  for (const int z : Zeilen) Gewählt.push_back(Listen.Pnr[static_cast<std::size_t>(z)]);
   std::sort(Gewählt.begin(), Gewählt.end());
   KoordinatenHinzulesen(Name, Lesemodus::Alle, FormatNachEndung(Name), [&](std::string_view Pnr) {
     const auto Dabei = [&](std::string_view N) {
