@@ -40,6 +40,11 @@ const char* Abstandsmarke(double fs) {
   return fs > GrenzeMaximum ? "******W>D(max)" : fs > GrenzeWarnung ? "***W>D" : "";
 }
 
+std::string Abstandswort(double fs) {
+  const std::string Marke = Abstandsmarke(fs);
+  return Marke.substr(std::min(Marke.find_first_not_of('*'), Marke.size()));
+}
+
 std::vector<Listenzeile> DoppelteListe() {
   std::vector<Listenzeile> Liste;
   for (const std::vector<int>& Gruppe : Doppelgruppen()) {

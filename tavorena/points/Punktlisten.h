@@ -17,6 +17,9 @@ inline constexpr double GrenzeWarnung = 0.03, GrenzeMaximum = 0.06;
 /// "***W>D" for a distance over 0.03 m, "******W>D(max)" for one over 0.06 m, otherwise "".
 [[nodiscard]] const char* Abstandsmarke(double fs);
 
+/// The same without the stars, as the forms show it.
+[[nodiscard]] std::string Abstandswort(double fs);
+
 /// A row of a list of double or quasi-identical points.
 struct Listenzeile {
   int Zeile = -1;  ///< in the table; -1: an empty row, which closes a group

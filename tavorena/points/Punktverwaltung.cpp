@@ -134,21 +134,6 @@ Punkteintrag Mitteleintrag(const std::vector<Punktsatz>& Alte, const Punktsatz& 
   return E;
 }
 
-Punktsatz MittelVon(const std::vector<Punktsatz>& Alte) {
-  Punktsatz M = Alte.front();
-  std::vector<double> R, H, Z;
-  for (const Punktsatz& P : Alte) {
-    R.push_back(P.Rechts);
-    H.push_back(P.Hoch);
-    Z.push_back(P.Hoehe);
-    if (M.Symbol.empty()) M.Symbol = P.Symbol;
-  }
-  const auto n = static_cast<int>(Alte.size());
-  static_cast<void>(Schwerpunkt(R, H, n, M.Rechts, M.Hoch));
-  static_cast<void>(MittelOhneNull(Z, n, M.Hoehe));
-  return M;
-}
-
 // The rows of the old points; a missing point is asked for. @return 0; -1 with a message
 int AlteSuchen(const std::vector<std::string>& Nummern, std::vector<int>& Zeilen) {
   if (Nummern.size() < 2 || Nummern.size() > GrößteGruppe) {
@@ -267,6 +252,14 @@ int BereichZeilen(const std::string& Von, const std::string& Bis, std::vector<in
   return -1;
 }
 
+bool NeueNummerFrei(const std::string& Pnr) {
+  Wert Nummer(Pnr);
+  if (!NummerTaugt(Pnr)) return false;
+  if (KorSucheMitPunkt(Nummer) < 0) return true;
+  PunktVorhandenMeldung(Pnr);
+  return false;
+}
+
 int PunkteLöschen(Rücknahme& R, const std::vector<int>& Zeilen) {
   Punkttat Tat = Zeilentat("Lösche", Zeilen, TitelEingabe);
   return R.Ausführen(Tat, [&] {
@@ -288,13 +281,16 @@ int NummerBerichtigen(Rücknahme& R, const std::string& Alt, const std::string& 
 
 int BereichBerichtigen(Rücknahme& R, const std::string& Von, const std::string& Bis,
                        const std::string& Start) {
+  std::vector<int> Zeilen;
+  return BereichZeilen(Von, Bis, Zeilen) < 0 ? -1 : ReiheBerichtigen(R, Zeilen, Start);
+}
+
+int ReiheBerichtigen(Rücknahme& R, const std::vector<int>& Zeilen, const std::string& Start) {
   std::int64_t Nächste = 0;
   if (!GanzePunktnummer(Start, Nächste)) {
     FehlerMeldung("Punktnummer \"" + Zitat(Start) + "\": keine ganze Zahl");
     return -1;
   }
-  std::vector<int> Zeilen;
-  if (BereichZeilen(Von, Bis, Zeilen) < 0) return -1;
   std::unordered_map<std::string_view, std::string> NeueNummer;
   std::vector<std::string> Neue;
   Neue.reserve(Zeilen.size());
@@ -309,6 +305,21 @@ int BereichBerichtigen(Rücknahme& R, const std::string& Von, const std::string&
     Neue.push_back(Neu);
   }
   return Umnumerieren(R, Zeilen, Neue);
+}
+
+Punktsatz MittelVon(const std::vector<Punktsatz>& Alte) {
+  Punktsatz M = Alte.front();
+  std::vector<double> R, H, Z;
+  for (const Punktsatz& P : Alte) {
+    R.push_back(P.Rechts);
+    H.push_back(P.Hoch);
+    Z.push_back(P.Hoehe);
+    if (M.Symbol.empty()) M.Symbol = P.Symbol;
+  }
+  const auto n = static_cast<int>(Alte.size());
+  static_cast<void>(Schwerpunkt(R, H, n, M.Rechts, M.Hoch));
+  static_cast<void>(MittelOhneNull(Z, n, M.Hoehe));
+  return M;
 }
 
 int DoppelteMitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen) {

@@ -17,6 +17,9 @@ namespace tavorena {
 /// @return 0; -1 with a message: upside down, or there is none
 [[nodiscard]] int BereichZeilen(const std::string& Von, const std::string& Bis, std::vector<int>& Zeilen);
 
+/// Whether a number can be given to a point: not empty, without blanks, free. @return false with a message
+[[nodiscard]] bool NeueNummerFrei(const std::string& Pnr);
+
 /// Deletes points, the others keep their order; entry VR 25.08.
 /// @param[in] Zeilen  rising, each in the table
 /// @return 0; -1: the protocol could not be written
@@ -27,6 +30,10 @@ namespace tavorena {
 ///         taken
 [[nodiscard]] int NummerBerichtigen(Rücknahme& R, const std::string& Alt, const std::string& Neu);
 
+/// As BereichBerichtigen for rows that were chosen.
+/// @param[in] Zeilen  rising, each in the table
+[[nodiscard]] int ReiheBerichtigen(Rücknahme& R, const std::vector<int>& Zeilen, const std::string& Start);
+
 /// Gives the numbers of a range, in table order, the numbers Start, Start + 1 and so on, all at once: the old
 /// and the new range may overlap. All rows of one number keep one number. Entry VR 25.07.
 /// @return 0; -1 with a message: as BereichZeilen; Start is no number of digits; a point outside the range
@@ -35,9 +42,12 @@ namespace tavorena {
 [[nodiscard]] int BereichBerichtigen(Rücknahme& R, const std::string& Von, const std::string& Bis,
                                      const std::string& Start);
 
-/// Makes one point of each group of rows: Rechts and Hoch the mean, the height that of the heights there are,
-/// number and attributes of the first row, the first symbol. More than eight rows become one eight at a time.
-/// The table is sorted. Entries VR 25.50. @return 0; -1: the protocol could not be written
+/// The mean of points: Rechts and Hoch of all, the height of those that have one, number and attributes of
+/// the first, the first symbol. @param[in] Alte  at least one
+[[nodiscard]] Punktsatz MittelVon(const std::vector<Punktsatz>& Alte);
+
+/// Makes one point of each group of rows, see MittelVon. More than eight rows become one eight at a time. The
+/// table is sorted. Entries VR 25.50. @return 0; -1: the protocol could not be written
 [[nodiscard]] int DoppelteMitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen);
 
 /// As DoppelteMitteln for rows with any numbers, as many as there are, in one mean.

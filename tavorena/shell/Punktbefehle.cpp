@@ -1,5 +1,13 @@
+#include <memory>
 #include <vector>
 
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/points/Punktgruppen.h>
+#include <tavorena/points/TVBerichForm.h>
+#include <tavorena/points/TVDMittForm.h>
+#include <tavorena/points/TVPLoeschForm.h>
+#include <tavorena/points/TVPMittForm.h>
+#include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Punktbefehle.h>
 #include <tavorena/shell/Tabellenbefehle.h>
 
@@ -9,6 +17,13 @@ namespace {
 Befehl Übernahmebefehl(const char* Eintrag, Übernahme Art) {
   return {Eintrag, true, [Art] { TabelleÜbernehmen(Art); }, true, NichtVorhanden};
 }
+
+void DoppelteMittelnZeigen() {
+  if (Doppelgruppen().empty()) return Hinweis("Keine doppelten Punkte vorhanden !");
+  BlattZeigen(std::make_unique<TVDMittForm>());
+}
+
+void MittelnZeigen(Mittelart Art) { BlattZeigen(std::make_unique<TVPMittForm>(Art)); }
 
 }  // namespace
 
@@ -23,6 +38,13 @@ std::span<const Befehl> Punktbefehle() {
       Übernahmebefehl("MenüBearbeitenKBericht(2)", Übernahme::Höhenliste),
       Übernahmebefehl("MenüBearbeitenDxDy", Übernahme::Versatz),
       {"MenüBearbeitenRück", true, TabelleZurücknehmen, true},
+      {"MenüKatasterBerpunkt", true, [] { BlattZeigen(std::make_unique<TVBerichForm>()); }, true,
+       NichtVorhanden},
+      {"MenüKatasterSchwerpunkt", true, [] { MittelnZeigen(Mittelart::Schwerpunkt); }, true, NichtVorhanden},
+      {"MenüKatasterPMitt", true, [] { MittelnZeigen(Mittelart::Ersetzen); }, true, NichtVorhanden},
+      {"MenüKatasterDMitt", true, DoppelteMittelnZeigen, true, NichtVorhanden},
+      {"MenüKatasterPunktLöschen", true, [] { BlattZeigen(std::make_unique<TVPLoeschForm>()); }, true,
+       NichtVorhanden},
   };
   return Alle;
 }
