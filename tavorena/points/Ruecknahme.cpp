@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <iterator>
+#include <map>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -19,15 +21,13 @@ bool Gleich(const KorSatz& A, const KorSatz& B) {
          A.Symbol == B.Symbol && *A.Info == *B.Info;
 }
 
-// Listens at the door: before the first change it copies the table.
+// Listens at the door. A few rows that are only written it copies one by one, as in an editor each cell does;
+// before any other change it copies the table.
 class Wache {
  public:
   Wache() : Vorige(Haken.VorÄnderung), Stand(KorStand), Geändert(KoordinatenGeaendert) {
     Haken.VorÄnderung = [this](const KorÄnderung& Neue) {
-      if (KorStand == Stand) {
-        Vorher.reserve(Stelle(KorAnzahl));
-        for (int z = 0; z < KorAnzahl; ++z) Vorher.push_back(PunktsatzVon(z));
-      }
+      if (!Ganz) Kopieren(Neue);
       if (Vorige) Vorige(Neue);
     };
   }
@@ -36,23 +36,56 @@ class Wache {
   Wache& operator=(const Wache&) = delete;
 
   [[nodiscard]] bool Verändert() const { return KorStand != Stand; }
+  /// The rows that can differ now: the first one, what stood there, and how many they are.
+  struct Ausschnitt {
+    int Von = 0;
+    std::vector<Punktsatz> Vorher;
+    int Länge = 0;
+  };
+  [[nodiscard]] Ausschnitt Berührt() {
+    if (Ganz) return {0, std::move(Alle), KorAnzahl};
+    const int Von = Einzelne.begin()->first, Bis = Einzelne.rbegin()->first + 1;
+    Ausschnitt A{Von, {}, Bis - Von};
+    for (int z = Von; z < Bis; ++z) A.Vorher.push_back(Einzelne.contains(z) ? Einzelne[z] : PunktsatzVon(z));
+    return A;
+  }
 
   std::function<void(const KorÄnderung&)> Vorige;
   std::uint64_t Stand;
   bool Geändert;
-  std::vector<Punktsatz> Vorher;
+
+ private:
+  void Kopieren(const KorÄnderung& Neue) {
+    constexpr std::size_t Wenige = 16;
+    if (Neue.Tat == KorTat::Setzen && Einzelne.size() < Wenige) {
+      for (int z = Neue.Von; z < Neue.Bis; ++z) Einzelne.try_emplace(z, PunktsatzVon(z));
+      return;
+    }
+    Ganz = true;
+    Alle.reserve(Stelle(KorAnzahl));
+    for (int z = 0; z < KorAnzahl; ++z) Alle.push_back(PunktsatzVon(z));
+    for (auto& [z, P] : Einzelne) Alle[Stelle(z)] = std::move(P);
+  }
+
+  bool Ganz = false;
+  std::vector<Punktsatz> Alle;
+  std::map<int, Punktsatz> Einzelne;
 };
 
 // Writes Neue in place of the rows Von to Von + Länge - 1. What only moves is always in its old or its new
 // row.
 void ZeilenErsetzen(int Von, int Länge, const std::vector<Punktsatz>& Neue) {
   std::vector<Punktsatz> Alle = Neue;
-  for (int z = Von + Länge; z < KorAnzahl; ++z) Alle.push_back(PunktsatzVon(z));
-  const int Alt = KorAnzahl, Anzahl = Von + static_cast<int>(Alle.size());
   const auto Setzen = [&](int z) {
     const KorSatz Satz = Alle[Stelle(z - Von)].Satz();
     if (!Gleich(Satz, KorPunkt(z))) static_cast<void>(KorZeileSetzen(z, Satz));
   };
+  if (Länge == std::ssize(Neue)) {
+    for (int z = Von; z < Von + Länge; ++z) Setzen(z);
+    return;
+  }
+  for (int z = Von + Länge; z < KorAnzahl; ++z) Alle.push_back(PunktsatzVon(z));
+  const int Alt = KorAnzahl, Anzahl = Von + static_cast<int>(Alle.size());
   for (int z = Alt; z < Anzahl; ++z) static_cast<void>(KorAnhängen(Alle[Stelle(z - Von)].Satz()));
   if (Anzahl > Alt) {
     for (int z = Alt - 1; z >= Von; --z) Setzen(z);
@@ -121,7 +154,8 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
   Wache W;
   const auto Verwerfen = [&W] {
     if (!W.Verändert()) return;
-    ZeilenErsetzen(0, KorAnzahl, W.Vorher);
+    const auto [Von, Vorher, Länge] = W.Berührt();
+    ZeilenErsetzen(Von, Länge, Vorher);
     KorGeaendertSetzen(W.Geändert);
   };
   int Ergebnis = -1;
@@ -134,22 +168,24 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
   if (Ergebnis < 0) Verwerfen();
   if (Ergebnis < 0 || !W.Verändert()) return Ergebnis;
   // Only the rows between those that are alike at both ends are kept.
-  const auto Vorher = static_cast<int>(W.Vorher.size());
-  int Von = 0, Hinten = 0;
-  const int Kürzer = std::min(Vorher, KorAnzahl);
-  while (Von < Kürzer && Gleich(W.Vorher[Stelle(Von)].Satz(), KorPunkt(Von))) ++Von;
-  while (Hinten < Kürzer - Von &&
-         Gleich(W.Vorher[Stelle(Vorher - 1 - Hinten)].Satz(), KorPunkt(KorAnzahl - 1 - Hinten)))
+  Wache::Ausschnitt A = W.Berührt();
+  const auto Vorher = static_cast<int>(A.Vorher.size());
+  int Vorn = 0, Hinten = 0;
+  const int Kürzer = std::min(Vorher, A.Länge);
+  while (Vorn < Kürzer && Gleich(A.Vorher[Stelle(Vorn)].Satz(), KorPunkt(A.Von + Vorn))) ++Vorn;
+  while (Hinten < Kürzer - Vorn &&
+         Gleich(A.Vorher[Stelle(Vorher - 1 - Hinten)].Satz(), KorPunkt(A.Von + A.Länge - 1 - Hinten)))
     ++Hinten;
-  if (Von + Hinten == Vorher && Von + Hinten == KorAnzahl) return Ergebnis;
-  Eintrag E{std::move(Tat), Von, std::move(W.Vorher), {}, W.Stand, KorStand};
-  if (Von + Hinten > 0) {  // a large table is moved, of a small deed no more is kept than it needs
+  if (Vorn + Hinten == Vorher && Vorn + Hinten == A.Länge) return Ergebnis;
+  const int Von = A.Von + Vorn, Bis = A.Von + A.Länge - Hinten;
+  Eintrag E{std::move(Tat), Von, std::move(A.Vorher), {}, W.Stand, KorStand};
+  if (Vorn + Hinten > 0) {  // a large table is moved, of a small deed no more is kept than it needs
     E.Vorher.erase(E.Vorher.end() - Hinten, E.Vorher.end());
-    E.Vorher.erase(E.Vorher.begin(), E.Vorher.begin() + Von);
+    E.Vorher.erase(E.Vorher.begin(), E.Vorher.begin() + Vorn);
     E.Vorher.shrink_to_fit();
   }
-  E.Nachher.reserve(Stelle(KorAnzahl - Hinten - Von));
-  for (int z = Von; z < KorAnzahl - Hinten; ++z) E.Nachher.push_back(PunktsatzVon(z));
+  E.Nachher.reserve(Stelle(Bis - Von));
+  for (int z = Von; z < Bis; ++z) E.Nachher.push_back(PunktsatzVon(z));
   Taten.push_back(std::move(E));
   return Ergebnis;
 }

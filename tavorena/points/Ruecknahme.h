@@ -51,6 +51,8 @@ class Rücknahme {
   [[nodiscard]] bool Leer() const { return Taten.empty(); }
   /// Name of the last deed; only if there is one.
   [[nodiscard]] const std::string& Name() const { return Taten.back().Tat.Name; }
+  /// First row that the last deed changed, where nothing else happened since; only if there is one.
+  [[nodiscard]] int Zeile() const { return Taten.back().Von; }
 
   /// Takes the last deed back. If nothing else happened to the table since, it is as it was, order included;
   /// otherwise the rows that went come back in place of those that came, and the table is sorted.
