@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/forms/Formular.h>
@@ -269,9 +270,13 @@ void Formular::Wählen(Auswahl& A, const std::string& Eintrag, bool An) {
 void Formular::ZelleWechseln(Gitter& G, int Zeile, int Spalte) {
   if (!NimmtFokus(G) || Zeile < 0 || Zeile >= G.Zeilen() || (Zeile == G.Zeile && Spalte == G.Spalte)) return;
   Ausführen([&] {
-    if (!Lesen(G)) return;
-    G.Zeile = std::min(Zeile, G.Zeilen() - 1);
+    G.Ziel = Zeile;
+    const bool Gut = Lesen(G);
+    const int Neue = std::exchange(G.Ziel, -1);  // reading may have moved the rows
+    if (!Gut) return;
+    G.Zeile = std::clamp(Neue, 0, std::max(G.Zeilen() - 1, 0));
     G.Spalte = Spalte;
+    if (G.BeiZelle) G.BeiZelle();
   });
 }
 

@@ -25,9 +25,10 @@ bool Auswahl::Abholen() {
   return Steuerelement::Abholen() || Neu;
 }
 
-const std::string& Gitter::Inhalt(int z, int s) const {
-  static const std::string Marke = "*";
-  return s == Markenspalte && Markiert(z) ? Marke : Zellen.at(Stelle(z)).at(Stelle(s));
+std::string Gitter::Inhalt(int z, int s) const {
+  if (s == Markenspalte && Markiert(z)) return "*";
+  if (Quelle && z != Entwurfzeile) return Quelle(z, s);
+  return Zellen.at(Quelle ? 0 : Stelle(z)).at(Stelle(s));
 }
 
 bool Gitter::Markiert(int z) const { return Stelle(z) < Marken.size() && Marken[Stelle(z)]; }
@@ -35,14 +36,14 @@ bool Gitter::Markiert(int z) const { return Stelle(z) < Marken.size() && Marken[
 void Gitter::MarkeSetzen(int z, bool An) {
   Anker = z;
   if (z < 0 || z >= Zeilen() || Markiert(z) == An || (An && Markierbar && !Markierbar(z))) return;
-  Marken.resize(Zellen.size());
+  Marken.resize(Stelle(Zeilen()));
   Marken[Stelle(z)] = An;
   Merken(z, z + 1);
 }
 
 std::vector<int> Gitter::Markierte() const {
   std::vector<int> Alle;
-  for (int z = 0; z < Zeilen(); ++z) {
+  for (int z = 0; z < std::ssize(Marken); ++z) {
     if (Markiert(z)) Alle.push_back(z);
   }
   return Alle;
@@ -56,10 +57,41 @@ void Gitter::MarkenBis(int z) {
 }
 
 void Gitter::InhaltSetzen(int z, int s, std::string Neu) {
-  std::string& Zelle = Zellen.at(Stelle(z)).at(Stelle(s));
+  if (Quelle && z != Entwurfzeile) {
+    if (Quelle(z, s) == Neu) return;
+    EntwurfVerwerfen();
+    Zellen.assign(1, {});
+    for (int i = 0; i < std::ssize(Spalten); ++i) Zellen[0].push_back(Quelle(z, i));
+    Entwurfzeile = z;
+  }
+  std::string& Zelle = Zellen.at(Quelle ? 0 : Stelle(z)).at(Stelle(s));
   if (Zelle == Neu) return;
   Zelle = std::move(Neu);
   Merken(z, z + 1);
+}
+
+void Gitter::ZeilenSetzen(int Anzahl) {
+  Neues.Zeilenzahl = Neues.Zeilenzahl || Anzahl != Quellzeilen;
+  Quellzeilen = Anzahl;
+  Merken(0, Anzahl);
+  if (Entwurfzeile >= Anzahl) Entwurfzeile = -1;
+  Zeile = std::clamp(*Zeile, 0, std::max(Anzahl - 1, 0));
+}
+
+void Gitter::ZeileUmziehen(int Von, int Nach) {
+  const auto Neu = [&](int z) {
+    if (z == Von) return Nach;
+    return Von < z && z <= Nach ? z - 1 : Nach <= z && z < Von ? z + 1 : z;
+  };
+  Zeile = Neu(Zeile);
+  Ziel = Neu(Ziel);
+  Entwurfzeile = Neu(Entwurfzeile);
+  Merken(std::min(Von, Nach), std::max(Von, Nach) + 1);
+}
+
+void Gitter::EntwurfVerwerfen() {
+  const int z = std::exchange(Entwurfzeile, -1);
+  if (z >= 0) Merken(z, z + 1);
 }
 
 void Gitter::ZeileAnhängen() {

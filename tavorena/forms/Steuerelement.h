@@ -59,6 +59,8 @@ struct Eingabeelement : Steuerelement {
   std::function<void()> BeiText;  ///< the user changed the text
   /// Reads the value when the control, or the current cell, is left. @return false: it failed and stays
   std::function<bool()> BeiVerlassen;
+  /// Takes a point that was clicked in the graphics view; empty: its number is typed, with Return behind it
+  std::function<void(const std::string& Pnr)> BeiAbgriff;
 
   [[nodiscard]] bool Abholen() override;
 };
@@ -107,23 +109,41 @@ struct Gitteränderung {
 };
 
 /// A grid of texts with one current cell. Rows and columns count from 0. Where it has a column of marks, rows
-/// can be chosen: such a row shows "*" there in place of its text.
+/// can be chosen: such a row shows "*" there in place of its text. The texts of a long list need not be kept
+/// twice: with a Quelle only a row that is typed into, the draft, has texts of its own.
 struct Gitter final : Eingabeelement {
   std::vector<Gitterspalte> Spalten;
-  Gezeigt<int> Zeile, Spalte;                     ///< the current cell
-  std::function<bool(Taste)> BeiTaste;            ///< true: the key is done with
-  int Markenspalte = -1;                          ///< column of the marks; -1: there are none
+  Gezeigt<int> Zeile, Spalte;                                ///< the current cell
+  std::function<bool(Taste)> BeiTaste;                       ///< true: the key is done with
+  std::function<void()> BeiZelle;                            ///< the user came to another cell
+  std::function<std::string(int Zeile, int Spalte)> Quelle;  ///< of the texts; empty: the grid keeps them
+  int Ziel = -1;            ///< row that the user is on his way to while the current cell is read; else -1
+  bool NimmtZeilen = true;  ///< rows of the clipboard are taken as if they had been typed
+  int Markenspalte = -1;    ///< column of the marks; -1: there are none
   std::function<bool(int Zeile)> Markierbar;      ///< which rows can be chosen; empty: all
   std::function<void()> BeiMarke;                 ///< the user chose other rows
   std::function<void(int Zeile)> BeiDoppelklick;  ///< the user clicked a row twice
 
-  [[nodiscard]] int Zeilen() const { return static_cast<int>(Zellen.size()); }
-  [[nodiscard]] const std::string& Inhalt(int z, int s) const;
+  [[nodiscard]] int Zeilen() const { return Quelle ? Quellzeilen : static_cast<int>(Zellen.size()); }
+  [[nodiscard]] std::string Inhalt(int z, int s) const;
   void InhaltSetzen(int z, int s, std::string Neu);
   void ZeileAnhängen();
   void ZeileLöschen(int z);
   /// Empties the grid cell by cell and leaves that many rows.
   void Leeren(int ZeilenDanach);
+
+  /// @name Rows of a Quelle
+  /// @{
+  /// There are that many rows, and all texts are new.
+  void ZeilenSetzen(int Anzahl);
+  /// A row stands elsewhere now; current row, Ziel and draft go with their rows.
+  void ZeileUmziehen(int Von, int Nach);
+  /// The row that is typed into, -1: none.
+  [[nodiscard]] int Entwurf() const { return Entwurfzeile; }
+  /// The draft shows again what its source says.
+  void EntwurfVerwerfen();
+  /// @}
+
   [[nodiscard]] bool Markiert(int z) const;
   /// Chooses a row, or no more; one that can not be chosen never is.
   void MarkeSetzen(int z, bool An);
@@ -141,7 +161,8 @@ struct Gitter final : Eingabeelement {
  private:
   void Merken(int Von, int Bis);
 
-  std::vector<std::vector<std::string>> Zellen;
+  std::vector<std::vector<std::string>> Zellen;  // with a Quelle the draft alone
+  int Quellzeilen = 0, Entwurfzeile = -1;
   std::vector<bool> Marken;
   int Anker = 0;  // row from which MarkenBis goes
   Gitteränderung Neues;

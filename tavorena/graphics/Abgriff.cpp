@@ -40,6 +40,7 @@ std::string Kleintext(std::string Text) {
 
 bool NimmtAbgriff(const Formular& Form, const Steuerelement& S) {
   if (std::find(Formen.begin(), Formen.end(), Kleintext(Form.FormName)) == Formen.end()) return false;
+  if (const auto* E = dynamic_cast<const Eingabeelement*>(&S); E != nullptr && E->BeiAbgriff) return true;
   if (const auto* G = dynamic_cast<const Gitter*>(&S)) return G->IstPnr && !G->NurLesen && G->Zeilen() > 0;
   const std::string_view Name = std::string_view(S.Name).substr(0, S.Name.find('('));
   return dynamic_cast<const Feld*>(&S) != nullptr &&
@@ -49,9 +50,14 @@ bool NimmtAbgriff(const Formular& Form, const Steuerelement& S) {
 bool AbgriffNehmen(Formular& Form, const std::string& Pnr) {
   Steuerelement* const S = Form.Fokus();
   if (S == nullptr || !Formular::NimmtFokus(*S) || !NimmtAbgriff(Form, *S)) return false;
+  auto& Ziel = dynamic_cast<Eingabeelement&>(*S);
+  if (Ziel.BeiAbgriff) {
+    Form.Ereignis([&] { Ziel.BeiAbgriff(Pnr); });
+    return true;
+  }
   if (auto* G = dynamic_cast<Gitter*>(S); G != nullptr && !G->ZelleOffen())
     Form.ZelleWechseln(*G, G->Zeile, 0);
-  Form.Tippen(dynamic_cast<Eingabeelement&>(*S), Pnr);
+  Form.Tippen(Ziel, Pnr);
   Form.TasteDrücken(Taste::Return);
   return true;
 }
