@@ -14,12 +14,12 @@ std::vector<std::unique_ptr<Formular>> Blätter;
 
 }  // namespace
 
-void BlattZeigen(std::unique_ptr<Formular> Blatt) {
+void BlattZeigen(std::unique_ptr<Formular> Blatt, bool Modal) {
   // A closed worksheet goes here, when none of its events is running any more.
   std::erase_if(Blätter, [](const auto& B) { return !B->Offen() && !B->InArbeit(); });
   Formular& Form = *Blätter.emplace_back(std::move(Blatt));
   Form.NachSchließen = [] { AnzeigePort().HauptfensterGeändert(); };
-  AnzeigePort().FormularZeigen(Form, false);
+  AnzeigePort().FormularZeigen(Form, Modal);
   AnzeigePort().HauptfensterGeändert();
 }
 

@@ -10,8 +10,8 @@
 
 namespace tavorena {
 
-/// Shows a new worksheet and keeps it until it is closed.
-void BlattZeigen(std::unique_ptr<Formular> Blatt);
+/// Shows a new worksheet and keeps it until it is closed; with Modal it returns then.
+void BlattZeigen(std::unique_ptr<Formular> Blatt, bool Modal = false);
 
 /// A worksheet is open.
 bool BlätterOffen();

@@ -5,6 +5,7 @@
 #include <tavorena/points/Punktgruppen.h>
 #include <tavorena/points/TVBerichForm.h>
 #include <tavorena/points/TVDMittForm.h>
+#include <tavorena/points/TVKernKoordinatenEditor.h>
 #include <tavorena/points/TVPLoeschForm.h>
 #include <tavorena/points/TVPMittForm.h>
 #include <tavorena/shell/Blaetter.h>
@@ -24,6 +25,9 @@ void DoppelteMittelnZeigen() {
 }
 
 void MittelnZeigen(Mittelart Art) { BlattZeigen(std::make_unique<TVPMittForm>(Art)); }
+void Eingeben() { BlattZeigen(std::make_unique<TVKernKoordinatenEditor>(Editormodus::Eingabe)); }
+
+void Editieren() { BlattZeigen(std::make_unique<TVKernKoordinatenEditor>(Editormodus::Bearbeiten), true); }
 
 }  // namespace
 
@@ -45,6 +49,8 @@ std::span<const Befehl> Punktbefehle() {
       {"MenüKatasterDMitt", true, DoppelteMittelnZeigen, true, NichtVorhanden},
       {"MenüKatasterPunktLöschen", true, [] { BlattZeigen(std::make_unique<TVPLoeschForm>()); }, true,
        NichtVorhanden},
+      {"MenüKatasterKorein", true, Eingeben, true},
+      {"MenüBearbeitenEditieren", true, Editieren, true, NichtVorhanden},
   };
   return Alle;
 }
