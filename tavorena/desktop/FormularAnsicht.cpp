@@ -376,7 +376,15 @@ void FormularAnsicht::FokusMarkieren() {
   if (auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(*Modell->Fokus()))) Zeile->selectAll();
 }
 
-bool FormularAnsicht::TabWeiter(const Steuerelement& S, bool Vor) {
+bool FormularAnsicht::TabWeiter(Steuerelement& S, bool Vor) {
+  // From typed cell to typed cell first.
+  if (auto* G = dynamic_cast<Gitter*>(&S);
+      G != nullptr && G->ZelleOffen() && G->Eingabespalte(Vor ? 1 : -1) >= 0) {
+    Modell->ZelleWechseln(*G, G->Zeile, G->Eingabespalte(Vor ? 1 : -1));
+    FokusZeigen();
+    FokusMarkieren();
+    return true;
+  }
   const Steuerelement* N = Modell != nullptr ? Modell->Nachbar(S, Vor) : nullptr;
   if (N == nullptr) return false;
   FokusWidget(*N)->setFocus(Vor ? Qt::TabFocusReason : Qt::BacktabFocusReason);

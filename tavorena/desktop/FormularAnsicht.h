@@ -71,7 +71,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   [[nodiscard]] bool Einfügen(Gitter& G, const QString& Text);
   [[nodiscard]] Gitteransicht& Tabelle(const Gitter& G) const;
   [[nodiscard]] bool ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis);
-  [[nodiscard]] bool TabWeiter(const Steuerelement& S, bool Vor);
+  [[nodiscard]] bool TabWeiter(Steuerelement& S, bool Vor);
   void FokusMelden(Steuerelement& S);
   void FokusMarkieren();
   [[nodiscard]] QWidget* FokusWidget(const Steuerelement& S) const;

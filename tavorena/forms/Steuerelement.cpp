@@ -121,6 +121,20 @@ bool Gitter::ZelleOffen() const {
   return !NurLesen && Zeile < Zeilen() && Spalten.at(Stelle(Spalte)).Eingabe;
 }
 
+int Gitter::Nummernspalte() const {
+  const auto Nummern = [](const Gitterspalte& S) { return S.IstPnr; };
+  if (Nummern(Spalten.at(Stelle(Spalte)))) return Spalte;
+  const auto i = std::find_if(Spalten.begin(), Spalten.end(), Nummern);
+  return i == Spalten.end() ? 0 : static_cast<int>(i - Spalten.begin());
+}
+
+int Gitter::Eingabespalte(int Schritt) const {
+  for (int s = Spalte + Schritt; s >= 0 && s < std::ssize(Spalten); s += Schritt) {
+    if (Spalten[Stelle(s)].Eingabe && Spalten[Stelle(s)].Sichtbar) return s;
+  }
+  return -1;
+}
+
 void Gitter::Merken(int Von, int Bis) {
   if (Von >= Bis) return;
   const bool Erstes = Neues.Von >= Neues.Bis;

@@ -95,6 +95,7 @@ struct Gitterspalte {
   int Zeichen = 12;
   bool Eingabe = false;  ///< the user types here
   bool Rechtsbündig = true;
+  bool IstPnr = false;  ///< of point numbers; where no column says so, the first one is
   Gezeigt<bool> Sichtbar{true};
 };
 
@@ -153,6 +154,10 @@ struct Gitter final : Eingabeelement {
   void MarkenBis(int z);
   /// The user can type into the current cell.
   [[nodiscard]] bool ZelleOffen() const;
+  /// The column of point numbers: that of the current cell, if it is one, or the first.
+  [[nodiscard]] int Nummernspalte() const;
+  /// Next column that is typed into, before the current one with Schritt -1; -1 if there is none.
+  [[nodiscard]] int Eingabespalte(int Schritt) const;
 
   /// What changed in cells, rows and columns since the last call. A row that went from the middle is told as
   /// new texts behind it and one row less.

@@ -29,7 +29,7 @@ constexpr std::array<std::string_view, 21> Formen{"tvausgleichform",
                                                   "tvvorwaertsschnittform",
                                                   "tvrueckwaertsschnittform",
                                                   "tvpolygonform"};
-constexpr std::array<std::string_view, 5> Endungen{"Pnr", "Pnr1", "Pnr2", "Pnrvon", "Pnrbis"};
+constexpr std::array<std::string_view, 6> Endungen{"Pnr", "Pnr1", "Pnr2", "Pnr3", "Pnrvon", "Pnrbis"};
 
 std::string Kleintext(std::string Text) {
   for (char& c : Text) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -55,8 +55,7 @@ bool AbgriffNehmen(Formular& Form, const std::string& Pnr) {
     Form.Ereignis([&] { Ziel.BeiAbgriff(Pnr); });
     return true;
   }
-  if (auto* G = dynamic_cast<Gitter*>(S); G != nullptr && !G->ZelleOffen())
-    Form.ZelleWechseln(*G, G->Zeile, 0);
+  if (auto* G = dynamic_cast<Gitter*>(S)) Form.ZelleWechseln(*G, G->Zeile, G->Nummernspalte());
   Form.Tippen(Ziel, Pnr);
   Form.TasteDrücken(Taste::Return);
   return true;

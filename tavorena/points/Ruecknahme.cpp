@@ -150,6 +150,30 @@ void ZeilenLöschen(const std::vector<int>& Zeilen) {
   KorAnzahlAnzeigen();
 }
 
+int ZeilenTauschen(const std::vector<Punktsatz>& Weg, const std::vector<Punktsatz>& Kommen) {
+  const auto Alter = [&Kommen](int i) { return Kommen[Stelle(i)].Satz(); };
+  Satzsuche Alte, Jetzige;
+  for (std::size_t i = 0; i < Kommen.size(); ++i) Alte.Aufnehmen(Kommen[i].Satz(), static_cast<int>(i));
+  for (int z = 0; z < KorAnzahl; ++z) Jetzige.Aufnehmen(KorPunkt(z), z);
+  std::vector<int> Zeilen;
+  for (const Punktsatz& P : Weg) {
+    if (Alte.Nehmen(P.Satz(), Alter) >= 0) continue;
+    const int z = Jetzige.Nehmen(P.Satz(), KorPunkt);
+    if (z < 0) return -1;
+    Zeilen.push_back(z);
+  }
+  const std::vector<int> Neue = Alte.Rest();
+  if (KorAnzahl - static_cast<int>(Zeilen.size()) + static_cast<int>(Neue.size()) > KorZeilen) return -1;
+  std::sort(Zeilen.begin(), Zeilen.end());
+  const std::size_t Paare = std::min(Zeilen.size(), Neue.size());
+  for (std::size_t i = 0; i < Paare; ++i) static_cast<void>(KorZeileSetzen(Zeilen[i], Alter(Neue[i])));
+  for (std::size_t i = Paare; i < Neue.size(); ++i) static_cast<void>(KorAnhängen(Alter(Neue[i])));
+  ZeilenLöschen({Zeilen.begin() + static_cast<std::ptrdiff_t>(Paare), Zeilen.end()});
+  KorSortieren();
+  KorAnzahlAnzeigen();
+  return 0;
+}
+
 int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
   Wache W;
   const auto Verwerfen = [&W] {
@@ -190,38 +214,13 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
   return Ergebnis;
 }
 
-// In place of the rows that only came with the deed the ones that went come back.
-int Rücknahme::Zurücktauschen(const Eintrag& E) {
-  const auto Alter = [&E](int i) { return E.Vorher[Stelle(i)].Satz(); };
-  Satzsuche Alte, Jetzige;
-  for (std::size_t i = 0; i < E.Vorher.size(); ++i) Alte.Aufnehmen(E.Vorher[i].Satz(), static_cast<int>(i));
-  for (int z = 0; z < KorAnzahl; ++z) Jetzige.Aufnehmen(KorPunkt(z), z);
-  std::vector<int> Zeilen;
-  for (const Punktsatz& P : E.Nachher) {
-    if (Alte.Nehmen(P.Satz(), Alter) >= 0) continue;
-    const int z = Jetzige.Nehmen(P.Satz(), KorPunkt);
-    if (z < 0) return -1;
-    Zeilen.push_back(z);
-  }
-  const std::vector<int> Weg = Alte.Rest();
-  if (KorAnzahl - static_cast<int>(Zeilen.size()) + static_cast<int>(Weg.size()) > KorZeilen) return -1;
-  std::sort(Zeilen.begin(), Zeilen.end());
-  const std::size_t Paare = std::min(Zeilen.size(), Weg.size());
-  for (std::size_t i = 0; i < Paare; ++i) static_cast<void>(KorZeileSetzen(Zeilen[i], Alter(Weg[i])));
-  for (std::size_t i = Paare; i < Weg.size(); ++i) static_cast<void>(KorAnhängen(Alter(Weg[i])));
-  ZeilenLöschen({Zeilen.begin() + static_cast<std::ptrdiff_t>(Paare), Zeilen.end()});
-  KorSortieren();
-  KorAnzahlAnzeigen();
-  return 0;
-}
-
 int Rücknahme::Zurück() {
   if (Taten.empty()) return -1;
   const Eintrag& E = Taten.back();
   const bool Unberührt = KorStand == E.Stand;
   if (Unberührt) {
     ZeilenErsetzen(E.Von, static_cast<int>(E.Nachher.size()), E.Vorher);
-  } else if (Zurücktauschen(E) < 0) {
+  } else if (ZeilenTauschen(E.Nachher, E.Vorher) < 0) {
     FehlerMeldung("Die Punkte wurden inzwischen geändert: " + E.Tat.Name);
     return -1;
   }

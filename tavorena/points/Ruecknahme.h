@@ -31,6 +31,11 @@ struct Punktsatz {
 /// @param[in] Zeilen  rising, each in the table
 void ZeilenLöschen(const std::vector<int>& Zeilen);
 
+/// Puts rows in place of others, which are found by all they hold; those that are in both stay. The table is
+/// then sorted.
+/// @return 0; -1: one of Weg is not in the table, or there is no room; the table stays
+[[nodiscard]] int ZeilenTauschen(const std::vector<Punktsatz>& Weg, const std::vector<Punktsatz>& Kommen);
+
 /// Something that was done to the table.
 struct Punkttat {
   std::string Name;                        ///< such as "Lösche 1001"
@@ -67,8 +72,6 @@ class Rücknahme {
     std::vector<Punktsatz> Vorher, Nachher;  // the rows from there on that differ
     std::uint64_t StandVorher = 0, Stand = 0;
   };
-  [[nodiscard]] static int Zurücktauschen(const Eintrag& E);
-
   std::vector<Eintrag> Taten;
 };
 

@@ -45,8 +45,9 @@ int Aufzeichnung::Protokollieren(const Block& Zeile) {
 }
 
 int Aufzeichnung::Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo) {
-  Wo = {};
+  Wo.Geschrieben = false;
   const bool MitProtokoll = !Prot.Datei.empty(), MitStapel = !ImNachlauf && !StapelDatei.Name.empty();
+  if (!MitStapel) Wo.Griff = -1;
   const bool ImStapel = MitStapel && Sätze.Anfügen(Satz, Wo.Griff) == 0;
   const bool ImProtokoll = MitProtokoll && Protokollieren(Zeile) == 0;
   Wo.Geschrieben = ImStapel || ImProtokoll || (!MitProtokoll && !MitStapel);
@@ -57,10 +58,11 @@ int Aufzeichnung::Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo) {
   return 0;
 }
 
-int Aufzeichnung::Streichen(const Block& Gestrichen, const Spur& Wo) {
+int Aufzeichnung::Streichen(const Block& Gestrichen, Spur& Wo) {
   if (Wo.Griff >= 0 && Stapelblock::Entfernen(Wo.Griff) < 0) return -1;
   // A protocol that can not be written was told; what is not calculated again is struck all the same.
   static_cast<void>(Protokollieren(Gestrichen));
+  Wo.Geschrieben = false;
   return 0;
 }
 

@@ -16,7 +16,7 @@ class Aufzeichnung {
   /// Where a row was written.
   struct Spur {
     bool Geschrieben = false;  ///< it reached a file, or there was none to reach
-    int Griff = -1;            ///< its record in the batch file; -1 none
+    int Griff = -1;            ///< its record in the batch file, or the place of the one struck; -1 none
   };
 
   Aufzeichnung() = default;
@@ -35,8 +35,12 @@ class Aufzeichnung {
   /// The batch block stands open: the next row needs no new head.
   [[nodiscard]] bool BlockOffen() const { return Sätze.Offen(); }
 
+  /// Writes what stands above the next row into the protocol, before an entry of somebody else.
+  /// @return 0; -1 if it can not be written
+  [[nodiscard]] int KopfSchreiben() { return Protokollieren({}); }
+
   /// Writes a row below its connection into every file that is wanted. It counts as written when it reached
-  /// one of them, or when none is wanted.
+  /// one of them, or when none is wanted. The record of one that was struck before stands where that stood.
   /// @param[in] Zeile  its lines in the protocol
   /// @param[in] Satz   its record in the batch file; "": the head of its block says it all
   /// @return 0; -1: not written, with a message
@@ -45,7 +49,7 @@ class Aufzeichnung {
   /// Takes a written row back: its record goes out of the batch file, and Gestrichen, the same row with its
   /// mark, stands behind it in the protocol.
   /// @return 0; -1: the record can not be taken out, the row stays as it was
-  [[nodiscard]] int Streichen(const Block& Gestrichen, const Spur& Wo);
+  [[nodiscard]] int Streichen(const Block& Gestrichen, Spur& Wo);
 
   /// The connection is done: its batch block is ended. @return 0; -1 with a message
   [[nodiscard]] int Beenden();

@@ -26,7 +26,7 @@ std::string Zusammen(const std::vector<std::string>& Zeilen) {
 void OhneStapel() {
   StapelDatei.Name.clear();
   StapelDatei.Offen.reset();
-  for (std::string& Stück : StapelDatei.Stücke) Stück.clear();
+  StapelDatei.Fremde = StapelDatei.Stücke.size();
 }
 
 // Appends a piece. Pieces from before somebody else changed the file can not be taken out any more.
@@ -35,7 +35,7 @@ int Schreiben(const std::string& Text, const char* Routine) {
   if (D.Name.empty()) return 0;
   const Dateistand Jetzt = DateistandVon(D.Name);
   if (D.Stücke.empty() || Jetzt != D.Stand) {
-    for (std::string& Stück : D.Stücke) Stück.clear();
+    D.Fremde = D.Stücke.size();
     D.Ab = Jetzt.Länge;
   }
   std::string Grund;
@@ -47,6 +47,30 @@ int Schreiben(const std::string& Text, const char* Routine) {
     return 0;
   }
   D.Stücke.push_back(Text);
+  return 0;
+}
+
+// Writes another text in the place of a piece. Only what was written here is ours; somebody may have edited
+// the file meanwhile. @return 0; -1: it is left alone
+int StückSetzen(int Griff, const std::string& Neu) {
+  Stapeldatei& D = StapelDatei;
+  if (Griff < 0 || Griff >= std::ssize(D.Stücke) || static_cast<std::size_t>(Griff) < D.Fremde) return -1;
+  std::string& Stück = D.Stücke[static_cast<std::size_t>(Griff)];
+  std::string Inhalt, Alles, Danach;
+  if (Stück.empty() == Neu.empty() || DateiLesen(D.Name, Inhalt) < 0) return -1;
+  for (std::size_t i = D.Fremde; i < D.Stücke.size(); ++i) {
+    Alles += D.Stücke[i];
+    Danach += static_cast<int>(i) == Griff ? Neu : D.Stücke[i];
+  }
+  // The file keeps the coding that it has.
+  if (!IstUtf8(Inhalt)) {
+    Alles = NachWindows1252(Alles);
+    Danach = NachWindows1252(Danach);
+  }
+  if (Inhalt.size() != D.Ab + Alles.size() || !Inhalt.ends_with(Alles)) return -1;
+  if (DateiErsetzen(D.Name, Inhalt.substr(0, D.Ab) + Danach) < 0) return -1;
+  Stück = Neu;
+  D.Stand = DateistandVon(D.Name);
   return 0;
 }
 
@@ -81,8 +105,12 @@ int Stapelblock::Beginnen(std::shared_ptr<const Verbindung> Neue) {
 }
 
 int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
-  Griff = -1;
+  const int Platz = std::exchange(Griff, -1);
   if (StapelDatei.Name.empty()) return 0;
+  if (Platz >= 0 && StückSetzen(Platz, Satz + "\r\n") == 0) {
+    Griff = Platz;
+    return 0;
+  }
   // Of a file that was emptied or taken away meanwhile the head has gone as well.
   if (Offen() && DateistandVon(StapelDatei.Name).Länge < StapelDatei.Stand.Länge) StapelDatei.Offen.reset();
   if (!Offen() && StapelKopf(Über) < 0) return -1;
@@ -93,28 +121,7 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
   return 0;
 }
 
-int Stapelblock::Entfernen(int Griff) {
-  Stapeldatei& D = StapelDatei;
-  if (D.Name.empty()) return 0;
-  if (Griff < 0 || Griff >= std::ssize(D.Stücke)) return -1;
-  std::string Inhalt, Alles, Übrig;
-  if (D.Stücke[static_cast<std::size_t>(Griff)].empty() || DateiLesen(D.Name, Inhalt) < 0) return -1;
-  for (std::size_t i = 0; i < D.Stücke.size(); ++i) {
-    Alles += D.Stücke[i];
-    if (static_cast<int>(i) != Griff) Übrig += D.Stücke[i];
-  }
-  // The file keeps the coding that it has.
-  if (!IstUtf8(Inhalt)) {
-    Alles = NachWindows1252(Alles);
-    Übrig = NachWindows1252(Übrig);
-  }
-  // Only what was written here is ours; somebody may have edited the file meanwhile.
-  if (Inhalt.size() != D.Ab + Alles.size() || !Inhalt.ends_with(Alles)) return -1;
-  if (DateiErsetzen(D.Name, Inhalt.substr(0, D.Ab) + Übrig) < 0) return -1;
-  D.Stücke[static_cast<std::size_t>(Griff)].clear();
-  D.Stand = DateistandVon(D.Name);
-  return 0;
-}
+int Stapelblock::Entfernen(int Griff) { return StapelDatei.Name.empty() ? 0 : StückSetzen(Griff, ""); }
 
 int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
 

@@ -20,6 +20,7 @@ struct Stapeldatei {
   std::shared_ptr<const Verbindung> Offen;  ///< whose block stands open at its end; null: none
   std::uintmax_t Ab = 0;                    ///< size of the file before the first of Stücke [bytes]
   std::vector<std::string> Stücke;  ///< what was appended since, piece by piece; "" was taken out again
+  std::size_t Fremde = 0;           ///< so many of Stücke are out of reach: somebody else changed the file
   Dateistand Stand;                 ///< of the file after the last piece
 };
 
@@ -37,13 +38,15 @@ class Stapelblock {
 
   /// Appends a record, below its connection; the block of another worksheet is ended first. An empty record
   /// opens the block alone. Nothing happens without a file.
-  /// @param[out] Griff  what Entfernen takes; -1 if nothing was appended
+  /// @param[in,out] Griff  -1, or the place of a record that was taken out: the new one then stands there
+  ///                       if that is still to be reached; out: what Entfernen takes, -1 if nothing was
+  ///                       written
   /// A file that can not be written is asked for: again, or without it until another one is taken.
   /// @return 0; -1 if the file could not be written and the question was broken off
   [[nodiscard]] int Anfügen(const std::string& Satz, int& Griff);
 
   /// Takes a record out of the file, wherever it stands: a row that the surveyor corrected or deleted must
-  /// not be calculated again.
+  /// not be calculated again. Its place is kept for the record that corrects it.
   /// @return 0, also without a file; -1 if it can not be written, or somebody else changed it: it is then
   /// left
   ///         alone

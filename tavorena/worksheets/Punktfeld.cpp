@@ -28,6 +28,7 @@ void Punktfeld::Leeren() {
 void Punktfeld::Nehmen(int Zeile) {
   const KorSatz P = KorPunkt(Zeile);
   Punkt = {P.Rechts, P.Hoch};
+  Höhe = P.Hoehe;
   Stand = KorStand;
   Rechts.Text = Längentext(P.Rechts);
   Hoch.Text = Längentext(P.Hoch);

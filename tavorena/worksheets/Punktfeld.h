@@ -37,6 +37,7 @@ class Punktfeld {
   [[nodiscard]] const std::string& Nummer() const { return Gesucht; }
   [[nodiscard]] const std::string& Vorher() const { return Alter; }
   [[nodiscard]] Lage Ort() const { return Punkt; }
+  [[nodiscard]] double Hoehe() const { return Höhe; }  ///< [m]; 0: none
   [[nodiscard]] Protpunkt AlsProtpunkt() const { return {Punkt.RW, Punkt.HW, Gesucht}; }
 
  private:
@@ -46,6 +47,7 @@ class Punktfeld {
   std::string Gesucht;      // the number that was looked up; "" none
   std::string Alter;        // the one that was set before
   Lage Punkt;               // [m]
+  double Höhe = 0;          // [m]
   std::uint64_t Stand = 0;  // of the table when it was looked up
 };
 

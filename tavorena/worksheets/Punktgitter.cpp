@@ -1,23 +1,44 @@
 #include <utility>
 
+#include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
-#include <tavorena/records/Linel.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Neupunktblock.h>
+#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Punktgitter.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
 
-Punktgitter::Punktgitter(Rechenblatt& Für, Anschluss& Von, std::vector<Gitterspalte> Spalten,
+namespace {
+
+std::vector<Gitterspalte> Gitterspalten(const std::vector<Zeilenspalte>& Spalten) {
+  std::vector<Gitterspalte> Alle;
+  for (const Zeilenspalte& S : Spalten)
+    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis, S.Art != Zellart::Symbol,
+                    S.Art == Zellart::Nummer, Gezeigt<bool>(S.Sichtbar)});
+  return Alle;
+}
+
+}  // namespace
+
+Punktgitter::Punktgitter(Rechenblatt& Für, Anschluss& Von, const std::vector<Zeilenspalte>& Spalten,
                          Zeilenkunde Wissen)
-    : Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), std::move(Spalten), {0, 0}, "Zeilen")),
+    : Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), Gitterspalten(Spalten), {0, 0}, "Zeilen")),
       Blatt(Für),
       Kopf(Von),
       Kunde(std::move(Wissen)) {
+  for (const Zeilenspalte& S : Spalten) {
+    if (S.Art == Zellart::Maß) Rechenspalte = static_cast<int>(Arten.size());
+    Arten.push_back(S.Art);
+  }
   Zellen.IstPnr = true;
-  Zellen.Hilfe = "Punktnummer, Return rechnet und schreibt die Zeile";
+  Zellen.Hilfe = Rechenspalte == 0
+                     ? "Punktnummer, Return rechnet und schreibt die Zeile"
+                     : "Return führt von Zelle zu Zelle und schreibt hinter der letzten die Zeile";
   Zellen.BeiTaste = [this](Taste T) { return TasteNehmen(T); };
   Zellen.BeiVerlassen = [this] { return ZelleVerlassen(); };
   Zellen.BeiText = [this] { TextGeändert(); };
@@ -77,47 +98,145 @@ void Punktgitter::AnschlussSchließen() {
 
 // ---- what a row goes through -----------------------------------------------------------------------
 
-// Return in the number column: commits the row and goes on to the next one.
-void Punktgitter::GitterPunktnummer() {
-  const int z = Zellen.Zeile;
-  if (Nummer(z).empty()) {
+// Return: on to the next typed cell, and behind the last one the row is committed.
+void Punktgitter::GitterReturn() {
+  const int z = Zellen.Zeile, Nächste = Zellen.Eingabespalte(1);
+  if (!HatEingabe(z)) {
     if (z + 1 == Zellen.Zeilen()) Blatt.FokusSetzen(*KnopfEnd10);
     return;
   }
-  if (Reihe(z).Wo.Geschrieben && Nummer(z) == Reihe(z).Pnr) {
+  if (Nächste >= 0) return Blatt.ZelleWechseln(Zellen, z, Nächste);
+  Zeileneingabe E;
+  if (Reihe(z).Wo.Geschrieben && EingabeLesen(z, E) && E == static_cast<Zeileneingabe&>(Reihe(z))) {
     ZeileZeigen(z);
-  } else if (GitterEinzel(z) < 0 || GitterEnde(z) < 0) {
+  } else if (ZeileSchreiben(z) < 0) {
     return;
   }
   if (z + 1 == Zellen.Zeilen()) return GitterInkrement();
   Zellen.Zeile = z + 1;
+  Zellen.Spalte = 0;
 }
 
-// The point of a row: looked up, or asked for; computed; shown. What was written under another number in
-// this row is taken back.
-int Punktgitter::GitterEinzel(int z) {
-  Wert Gesucht(Nummer(z));
-  const int Tabellenzeile = KorFind(Gesucht);
-  Zellen.Fehlerhaft = Tabellenzeile < 0;
-  if (Tabellenzeile < 0) return -1;
+// Brings what was typed into its normal form. @return false: it can not be read
+bool Punktgitter::ZelleLesen(int z, int s) {
+  std::string Text = Trimmen(Zellen.Inhalt(z, s));
+  double Zahl = 0;
+  if (Art(s) == Zellart::Maß && !Text.empty() && !MesswertLesen(Text, Zahl)) {
+    StatusHilfeSetzen("Zahl erwartet");
+    return false;
+  }
+  if (Art(s) == Zellart::Maß && !StapelZahlPaßt(Zahl)) {
+    StatusHilfeSetzen("Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen");
+    return false;
+  }
+  if (Art(s) != Zellart::Maß && Text.find_first_of(" \t") != std::string::npos) {
+    StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
+    return false;
+  }
+  Zellen.InhaltSetzen(z, s, Art(s) == Zellart::Maß ? Messwerttext(Zahl) : Text);
+  return true;
+}
+
+bool Punktgitter::EingabeLesen(int z, Zeileneingabe& E) {
+  for (int s = 0; s < std::ssize(Arten); ++s) {
+    if (Art(s) == Zellart::Ergebnis) continue;
+    if (!ZelleLesen(z, s)) {
+      Zellen.Spalte = s;
+      return false;
+    }
+    const std::string& Text = Zellen.Inhalt(z, s);
+    if (Art(s) == Zellart::Nummer) E.Pnr = Text;
+    if (Art(s) == Zellart::Symbol) E.Symbol = Text;
+    if (Art(s) == Zellart::Maß) E.Maße.push_back(ZahlAusText(Text));
+  }
+  return true;
+}
+
+// A row as it is typed: a known point is looked up, or asked for. @return 0; -1: it can not be computed
+int Punktgitter::Berechnen(int z, Punktzeile& Neu) {
+  Zellen.Fehlerhaft = true;
+  if (!EingabeLesen(z, Neu)) return -1;
+  if (Neu.Pnr.empty()) {
+    StatusHilfeSetzen("Punktnummer fehlt");
+    Zellen.Spalte = 0;
+    return -1;
+  }
+  Wert Gesucht(Neu.Pnr);
+  const int Tabellenzeile = Kunde.NeuePunkte ? -1 : KorFind(Gesucht);
+  if (!Kunde.NeuePunkte && Tabellenzeile < 0) return -1;
+  Zellen.Fehlerhaft = false;
   // Where a point of the connection was moved meanwhile, the rows from here on have another head.
   if (Kopf.Nachsehen() && Verbinden() < 0) return -1;
-  const auto P = KorPunkt(Tabellenzeile);
-  Punktzeile Neu{Trimmen(Gesucht), {P.Rechts, P.Hoch}, 0, 0, {}, {}};
-  if (Kunde.Rechnen(Neu) < 0) return -1;
-  if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return -1;
+  if (Tabellenzeile >= 0) {
+    const KorSatz P = KorPunkt(Tabellenzeile);
+    Neu.Pnr = Trimmen(Gesucht);
+    Neu.Ort = {P.Rechts, P.Hoch};
+  }
+  return Kunde.Rechnen(Neu);
+}
+
+// Computes and shows a row that is typed; it waits for Return.
+int Punktgitter::GitterEinzel(int z) {
+  Punktzeile Neu;
+  if (Berechnen(z, Neu) < 0) return -1;
   LetztePunktnummer = Neu.Pnr;
+  if (Reihe(z).Wo.Geschrieben) {
+    EingabeZeigen(z, Neu);
+    ZeigeErgebnisse(z, Neu);
+    return 0;
+  }
+  PunktZurück(Reihe(z));
+  Neu.Wo = Reihe(z).Wo;
   Reihe(z) = std::move(Neu);
   ZeileZeigen(z);
+  Markieren(z, FarbeBlau);
   return 0;
 }
 
-// The end of a row: protocol and batch file.
+// Commits a row; what was written in it before is taken back.
+// @return 0; -1: no such point, or not to be computed; -2: not written; -3: not to be stored
+int Punktgitter::ZeileSchreiben(int z) {
+  Punktzeile Neu;
+  if (Berechnen(z, Neu) < 0) return -1;
+  if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return -1;
+  PunktZurück(Reihe(z));
+  Reihe(z).Bild.Löschen();
+  Neu.Wo = Reihe(z).Wo;
+  Reihe(z) = std::move(Neu);
+  const int Ergebnis = GitterEnde(z);
+  LetztePunktnummer = Reihe(z).Pnr;
+  ZeileZeigen(z);
+  return Ergebnis;
+}
+
+// The end of a row: table, protocol and batch file. @return as ZeileSchreiben
 int Punktgitter::GitterEnde(int z) {
   Punktzeile& Z = Reihe(z);
-  const int Ergebnis = Blatt.Akten.Zeile(Kunde.Protokollieren(Z, ""), LinelSatz(Z.Pnr), Z.Wo);
-  Markieren(z, Ergebnis == 0 ? FarbeRot : FarbeBlau);
-  return Ergebnis;
+  if (Kunde.NeuePunkte) {
+    Markieren(z, FarbeBlau);
+    if (PunktEintragen(Z) < 0) return -3;
+  }
+  Block B = Kunde.Protokollieren(Z, "");
+  if (Kunde.NeuePunkte) {
+    const Punktnotiz& N = Z.Ablage.Notiz();
+    const Block Notiz =
+        Bearbeitungsnotiz(Optionen.OptNachkommastellen, N.Code, N.Nummer, N.DeltaRechts, N.DeltaHoch);
+    B.Zeilen.insert(B.Zeilen.end(), Notiz.Zeilen.begin(), Notiz.Zeilen.end());
+  }
+  const bool Geschrieben = Blatt.Akten.Zeile(B, Kunde.Satz(Z), Z.Wo) == 0;
+  Markieren(z, Geschrieben ? FarbeRot : FarbeBlau);
+  return Geschrieben ? 0 : -2;
+}
+
+// A number that is taken leads to a question, and perhaps to the entry of a mean: the head stands above it.
+int Punktgitter::PunktEintragen(Punktzeile& Z) {
+  Wert Nummer(Z.Pnr);
+  if (KorSucheMitPunkt(Nummer) >= 0 && Blatt.Akten.KopfSchreiben() < 0) return -1;
+  return Z.Ablage.Eintragen(Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol);
+}
+
+void Punktgitter::PunktZurück(Punktzeile& Z) {
+  if (Z.Ablage.Zurück() < 0) StatusHilfeSetzen("Punkt " + Z.Pnr + " bleibt: inzwischen geändert");
 }
 
 // The row under work is blue, the committed one red with its number.
@@ -134,35 +253,43 @@ void Punktgitter::GrafikKleinpunktLöschen() {
   for (Punktzeile& Z : Reihen) Z.Bild.Löschen();
 }
 
+// The symbol of the row above stands in the new one.
 void Punktgitter::GitterInkrement() {
   Zellen.ZeileAnhängen();
   Reihen.emplace_back();
-  Zellen.Zeile = Zellen.Zeilen() - 1;
+  const int z = Zellen.Zeilen() - 1;
+  Zellen.Zeile = z;
   Zellen.Spalte = 0;
+  for (int s = 0; s < std::ssize(Arten); ++s) {
+    if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, Reihe(z - 1).Symbol);
+  }
 }
 
-int Punktgitter::Eintragen(const std::string& Gesucht) {
+int Punktgitter::Eintragen(const Zeileneingabe& E) {
   const int z = Zellen.Zeilen() - 1;
-  Zellen.InhaltSetzen(z, 0, Gesucht);
-  if (GitterEinzel(z) < 0) {
+  EingabeZeigen(z, E);
+  const int Ergebnis = ZeileSchreiben(z);
+  if (Ergebnis == -2) return -2;
+  if (Ergebnis < 0) {
+    Reihe(z) = {};
     ZeileZeigen(z);
     return -1;
   }
-  if (GitterEnde(z) < 0) return -2;
   GitterInkrement();
   return 0;
 }
 
 int Punktgitter::StapelZeile() {
-  std::string Gelesen;
-  const int Ergebnis = StapelLeseLinel(Gelesen);
+  Zeileneingabe E;
+  const int Ergebnis = Kunde.Lesen(E);
   if (Ergebnis < 0) return Ergebnis;
-  // A point that the user does not supply drops its row, the replay goes on.
-  const int Eingetragen = Eintragen(Gelesen);
+  // A row that can not be had is dropped, the replay goes on.
+  const int Eingetragen = Eintragen(E);
   if (Eingetragen == 0) ++Stapel.Bilanz.Zeilen;
   if (Eingetragen == -1)
-    StapelAuslassen("Punkt " + Zitat(Gelesen) +
-                    (KorSuche(std::string_view(Gelesen)) < 0 ? " fehlt" : " ist nicht zu rechnen"));
+    StapelAuslassen(
+        "Punkt " + Zitat(E.Pnr) +
+        (!Kunde.NeuePunkte && KorSuche(std::string_view(E.Pnr)) < 0 ? " fehlt" : " ist nicht zu rechnen"));
   if (Eingetragen != -2) return 0;
   StapelFehlerMeldung("Zeile nicht geschrieben");
   return -1;
@@ -175,7 +302,7 @@ int Punktgitter::Streichen(int z) {
     ZeileZeigen(z);
     return -1;
   }
-  Z.Wo = {};
+  PunktZurück(Z);
   Z.Bild.Löschen();
   return 0;
 }
@@ -198,37 +325,65 @@ void Punktgitter::Delete() {
 
 std::string Punktgitter::Nummer(int z) const { return Trimmen(Zellen.Inhalt(z, 0)); }
 
-void Punktgitter::ZeileZeigen(int z) {
-  const Punktzeile& Z = Reihe(z);
-  Zellen.InhaltSetzen(z, 0, Z.Pnr);
-  std::vector<std::string> Texte;
-  if (Z.Pnr.empty()) {
-    Texte.resize(Zellen.Spalten.size() - 1);
-  } else {
-    Texte = Kunde.Zellen(Z);
+bool Punktgitter::HatEingabe(int z) const {
+  for (int s = 0; s < std::ssize(Arten); ++s) {
+    const bool Zählt = Art(s) == Zellart::Nummer || Art(s) == Zellart::Maß;
+    if (Zählt && !TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return true;
   }
-  for (int s = 0; s < std::ssize(Texte); ++s)
-    Zellen.InhaltSetzen(z, s + 1, Texte[static_cast<std::size_t>(s)]);
+  return false;
 }
 
-// What stands in the grid is what was written: a committed row that was not confirmed shows its number
-// again, a new row is computed and waits for Return.
-bool Punktgitter::ZelleVerlassen() {
-  const int z = Zellen.Zeile;
-  if (z >= std::ssize(Reihen)) return true;
-  if (Reihe(z).Wo.Geschrieben) {
-    ZeileZeigen(z);
-  } else if (!Nummer(z).empty() && Nummer(z) != Reihe(z).Pnr) {
-    if (GitterEinzel(z) < 0) return false;
-    Markieren(z, FarbeBlau);
+bool Punktgitter::Vollständig(int z) const {
+  for (int s = 0; s <= Rechenspalte; ++s) {
+    if (Art(s) != Zellart::Ergebnis && TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return false;
   }
   return true;
 }
 
+void Punktgitter::EingabeZeigen(int z, const Zeileneingabe& E) {
+  auto Maß = E.Maße.begin();
+  for (int s = 0; s < std::ssize(Arten); ++s) {
+    if (Art(s) == Zellart::Nummer) Zellen.InhaltSetzen(z, s, E.Pnr);
+    if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, E.Symbol);
+    if (Art(s) == Zellart::Maß) Zellen.InhaltSetzen(z, s, Maß == E.Maße.end() ? "" : Messwerttext(*Maß++));
+  }
+}
+
+void Punktgitter::ZeigeErgebnisse(int z, const Punktzeile& Z) {
+  const std::vector<std::string> Texte = Z.Pnr.empty() ? std::vector<std::string>() : Kunde.Zellen(Z);
+  auto Text = Texte.begin();
+  for (int s = 0; s < std::ssize(Arten); ++s) {
+    if (Art(s) == Zellart::Ergebnis) Zellen.InhaltSetzen(z, s, Text == Texte.end() ? "" : *Text++);
+  }
+}
+
+void Punktgitter::ZeileZeigen(int z) {
+  EingabeZeigen(z, Reihe(z));
+  ZeigeErgebnisse(z, Reihe(z));
+}
+
+// What stands in the grid is what was written: a committed row that was not confirmed shows what it holds
+// again, a new row that is complete is computed and waits for Return.
+bool Punktgitter::ZelleVerlassen() {
+  const int z = Zellen.Zeile, s = Zellen.Spalte;
+  if (z >= std::ssize(Reihen)) return true;
+  const bool Bleibt = Zellen.Ziel == z;  // for another cell of the row
+  if (Reihe(z).Wo.Geschrieben && !Bleibt) {
+    ZeileZeigen(z);
+    return true;
+  }
+  if (!HatEingabe(z)) return true;
+  if (!ZelleLesen(z, s)) return false;
+  const bool Fertig = Vollständig(z) && (s == Rechenspalte || !Bleibt);
+  return !Fertig || !Reihe(z).Pnr.empty() || GitterEinzel(z) == 0;
+}
+
+// Results that do not belong to what was typed would mislead.
 void Punktgitter::TextGeändert() {
-  // Results that do not belong to the number above them would mislead.
-  for (int s = 1; s < std::ssize(Zellen.Spalten); ++s) Zellen.InhaltSetzen(Zellen.Zeile, s, "");
-  Punktzeile& Z = Reihe(Zellen.Zeile);
+  const int z = Zellen.Zeile;
+  if (Art(Zellen.Spalte) == Zellart::Symbol) return;
+  if (!Kunde.NeuePunkte || Art(Zellen.Spalte) != Zellart::Nummer) ZeigeErgebnisse(z, {});
+  Punktzeile& Z = Reihe(z);
   if (Z.Wo.Geschrieben) return;
   Z.Pnr.clear();
   Z.Bild.Löschen();
@@ -237,14 +392,14 @@ void Punktgitter::TextGeändert() {
 bool Punktgitter::TasteNehmen(Taste T) {
   switch (T) {
     case Taste::Return:
-      GitterPunktnummer();
+      GitterReturn();
       return true;
     case Taste::Escape:
       ZeileZeigen(Zellen.Zeile);
       return true;
     case Taste::Auf:
     case Taste::Ab:
-      Blatt.ZelleWechseln(Zellen, Zellen.Zeile + (T == Taste::Auf ? -1 : 1), 0);
+      Blatt.ZelleWechseln(Zellen, Zellen.Zeile + (T == Taste::Auf ? -1 : 1), Zellen.Spalte);
       return true;
     case Taste::Plus:
     case Taste::Minus:
@@ -258,9 +413,9 @@ bool Punktgitter::TasteNehmen(Taste T) {
 
 bool Punktgitter::OffeneZeileSchreiben() {
   const int z = Zellen.Zeilen() - 1;
-  if (Nummer(z).empty() || Reihe(z).Wo.Geschrieben) return true;
+  if (!HatEingabe(z) || Reihe(z).Wo.Geschrieben) return true;
   Zellen.Zeile = z;
-  if (GitterEinzel(z) < 0 || GitterEnde(z) < 0) {
+  if (ZeileSchreiben(z) < 0) {
     Blatt.FokusSetzen(Zellen);
     return false;
   }
@@ -270,15 +425,16 @@ bool Punktgitter::OffeneZeileSchreiben() {
 
 bool Punktgitter::HatOffenes() const {
   for (int z = 0; Offen() && z < std::ssize(Reihen); ++z) {
-    if (!Reihen[static_cast<std::size_t>(z)].Wo.Geschrieben && !Nummer(z).empty()) return true;
+    if (!Reihe(z).Wo.Geschrieben && HatEingabe(z)) return true;
   }
   return false;
 }
 
 bool Punktgitter::OffenesSchreiben() {
   for (int z = 0; z < std::ssize(Reihen); ++z) {
-    if (Reihe(z).Wo.Geschrieben || Nummer(z).empty()) continue;
-    if (GitterEinzel(z) < 0 || GitterEnde(z) < 0) return false;
+    if (Reihe(z).Wo.Geschrieben || !HatEingabe(z)) continue;
+    Zellen.Zeile = z;
+    if (ZeileSchreiben(z) < 0) return false;
   }
   return true;
 }

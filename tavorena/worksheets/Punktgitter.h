@@ -6,39 +6,66 @@
 #include <vector>
 
 #include <tavorena/worksheets/Anschluss.h>
+#include <tavorena/worksheets/Punktablage.h>
 
 namespace tavorena {
 
-/// A row of a Punktgitter: the known point and the two values computed for it.
-struct Punktzeile {
-  std::string Pnr;  ///< "" while the row is empty or its number is not looked up
-  Lage Ort;         ///< [m]
+/// What stands in a column of rows. All but results are typed.
+enum class Zellart { Nummer, Ergebnis, Maß, Symbol };
+
+/// A column of rows.
+struct Zeilenspalte {
+  const char* Titel;
+  int Zeichen;
+  Zellart Art = Zellart::Ergebnis;
+  bool Sichtbar = true;
+};
+
+/// What is typed in a row.
+struct Zeileneingabe {
+  std::string Pnr;           ///< "" while the row is empty or its number is not looked up
+  std::vector<double> Maße;  ///< measured values, in the order of their columns
+  std::string Symbol;
+  bool operator==(const Zeileneingabe&) const = default;
+};
+
+/// A row of a Punktgitter: what was typed, the point that is known or comes of it, and what is computed
+/// besides.
+struct Punktzeile : Zeileneingabe {
+  Lage Ort;    ///< [m]
+  Wert Hoehe;  ///< of a computed point [m]; not given: none
   double Wert1 = 0, Wert2 = 0;
   Aufzeichnung::Spur Wo;
+  Punktablage Ablage;
   Markierung Bild;  ///< in the graphics view
 };
 
 /// What a worksheet knows of its rows.
 struct Zeilenkunde {
-  /// Computes Wert1 and Wert2 of a point. @return 0 or -1
+  bool NeuePunkte = false;  ///< the rows are computed points, which are stored; else known ones
+  /// Computes a row from its point or its measures. @return 0; -1: it can not be computed
   std::function<int(Punktzeile&)> Rechnen;
-  /// The cells behind the point number.
+  /// The texts of its results, column by column.
   std::function<std::vector<std::string>(const Punktzeile&)> Zellen;
-  /// Its lines in the protocol, Marke at their end.
+  /// Its lines in the protocol; a Marke that is not empty stands at their end in place of the flags.
   std::function<Block(const Punktzeile&, const std::string& Marke)> Protokollieren;
+  /// Its record in the batch file, and how one is read: 0, -1 error, -2 end of the block.
+  std::function<std::string(const Punktzeile&)> Satz;
+  std::function<int(Zeileneingabe&)> Lesen;
   /// Completes what stands above the rows.
   std::function<void(Verbindung&)> Verbinden;
   /// Where the line in the graphics view comes from that leads to the point of a row [m].
   std::function<Lage(const Punktzeile&)> Herkunft;
 };
 
-/// The rows of a worksheet whose rows are known points seen from a connection. A row is typed as one point
-/// number, and Return commits it to protocol and batch file. A committed row that is typed anew or deleted is
-/// struck in the protocol by a line with " ***gelöscht" and taken out of the batch file, which holds what is
-/// to be calculated again.
+/// The rows of a worksheet, seen from a connection. Return leads from typed cell to typed cell; behind the
+/// last measure the row is computed, behind the last cell it is committed: a computed point is stored, and
+/// the row written to protocol and batch file. A committed row that is typed anew or deleted is struck in the
+/// protocol by a line with " ***gelöscht", its point taken back, and its record replaced or taken out of the
+/// batch file, which holds what is to be calculated again.
 class Punktgitter {
  public:
-  Punktgitter(Rechenblatt& Für, Anschluss& Von, std::vector<Gitterspalte> Spalten, Zeilenkunde Wissen);
+  Punktgitter(Rechenblatt& Für, Anschluss& Von, const std::vector<Zeilenspalte>& Spalten, Zeilenkunde Wissen);
   Punktgitter(const Punktgitter&) = delete;
   Punktgitter& operator=(const Punktgitter&) = delete;
 
@@ -58,9 +85,11 @@ class Punktgitter {
   void GrafikKleinpunktLöschen();
   [[nodiscard]] bool Offen() const { return Anschlussan; }
 
-  /// Takes a point number into the last row, computes and commits it.
-  /// @return 0; -1: no such point, or it can not be computed, the row is then empty again; -2: not written
-  [[nodiscard]] int Eintragen(const std::string& Nummer);
+  /// Takes what would be typed into the last row, computes and commits it.
+  /// @return 0; -1: no such point, it can not be computed or was not to be stored, the row is then empty
+  /// again;
+  ///         -2: not written
+  [[nodiscard]] int Eintragen(const Zeileneingabe& E);
   /// Takes the next row of a batch block. @return 0; -1 error; -2 end of the block
   [[nodiscard]] int StapelZeile();
 
@@ -71,24 +100,38 @@ class Punktgitter {
 
  private:
   [[nodiscard]] int Verbinden();
+  [[nodiscard]] bool ZelleLesen(int z, int s);
+  [[nodiscard]] bool EingabeLesen(int z, Zeileneingabe& E);
+  void EingabeZeigen(int z, const Zeileneingabe& E);
+  [[nodiscard]] int Berechnen(int z, Punktzeile& Neu);
   [[nodiscard]] int GitterEinzel(int z);
   [[nodiscard]] int GitterEnde(int z);
+  [[nodiscard]] int ZeileSchreiben(int z);
+  [[nodiscard]] int PunktEintragen(Punktzeile& Z);
+  static void PunktZurück(Punktzeile& Z);
   void GitterInkrement();
-  void GitterPunktnummer();
+  void GitterReturn();
   [[nodiscard]] bool TasteNehmen(Taste T);
   [[nodiscard]] bool ZelleVerlassen();
   void TextGeändert();
+  void ZeigeErgebnisse(int z, const Punktzeile& Z);
   void ZeileZeigen(int z);
   void Markieren(int z, int Farbe);
   void Delete();
   [[nodiscard]] int Streichen(int z);
   void AnschlussAnAus(bool An);
   [[nodiscard]] std::string Nummer(int z) const;
+  [[nodiscard]] bool HatEingabe(int z) const;
+  [[nodiscard]] bool Vollständig(int z) const;
   Punktzeile& Reihe(int z) { return Reihen[static_cast<std::size_t>(z)]; }
+  [[nodiscard]] const Punktzeile& Reihe(int z) const { return Reihen[static_cast<std::size_t>(z)]; }
+  [[nodiscard]] Zellart Art(int s) const { return Arten[static_cast<std::size_t>(s)]; }
 
   Rechenblatt& Blatt;
   Anschluss& Kopf;
   Zeilenkunde Kunde;
+  std::vector<Zellart> Arten;  // of the columns
+  int Rechenspalte = 0;        // the last one that the results depend on
   std::vector<Punktzeile> Reihen;
   std::vector<Steuerelement*> Offene;  // controls that work while the connection is on
   bool Anschlussan = false;

@@ -176,6 +176,8 @@ bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
   }
   auto* const E = dynamic_cast<Eingabeelement*>(&S);
   if (E == nullptr || !E->IstPnr || E->NurLesen || (T != Taste::Plus && T != Taste::Minus)) return false;
+  if (const auto* G = dynamic_cast<const Gitter*>(E); G != nullptr && *G->Spalte != G->Nummernspalte())
+    return false;
   const std::string Neu = PunktnummerSchritt(T == Taste::Plus ? 1 : -1);
   if (Neu.empty()) return false;
   LetztePunktnummer = Neu;

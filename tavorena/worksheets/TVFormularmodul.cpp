@@ -41,6 +41,8 @@ bool MesswertLesen(std::string& Text, double& Zahl) {
 int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
                       const KorInfoSatz* Info, Punktnotiz& Notiz) {
   Notiz = {};
+  Notiz.Rechts = Rechts;
+  Notiz.Hoch = Hoch;
   const int Zeile = KorSucheMitPunkt(Pnr);
   if (Zeile >= 0) {
     const auto z = static_cast<std::size_t>(Zeile);
@@ -54,6 +56,8 @@ int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, 
   Notiz.Nummer = Notiz.Code == NeupunktCode::NeuerNeunum ? Ergebnis.Pnr : Ergebnis.AlterPnr;
   Notiz.DeltaRechts = Ergebnis.DeltaRechts;
   Notiz.DeltaHoch = Ergebnis.DeltaHoch;
+  Notiz.Rechts = Ergebnis.Rechts;
+  Notiz.Hoch = Ergebnis.Hoch;
   return KorSuche(Pnr);
 }
 

@@ -36,6 +36,7 @@ struct Punktnotiz {
   NeupunktCode Code = NeupunktCode::Neu;
   std::string Nummer;  ///< AlterNeunum: new number of the old point; NeuerNeunum: number of the new point
   double DeltaRechts = 0, DeltaHoch = 0;  ///< new minus old [m]
+  double Rechts = 0, Hoch = 0;  ///< what the records show: the mean, or those of an old point that stays
 };
 
 /// Stores the point of a worksheet. A point that is there already with the same coordinates (rounded to

@@ -40,13 +40,13 @@ TVLinelForm::TVLinelForm(const Blattart& BlattArt)
       Pnrbis(Streifenfeld(*this, "Bis Punktnr.:", "Pnrbis", 2, PnrZeichen)),
       Breite(Streifenfeld(*this, "Breite (0 = alle):", "Streifen", 4, 8)),
       Zeilen(*this, Kopf,
-             {{"Punktnr.", PnrZeichen, true},
+             {{"Punktnr.", PnrZeichen, Zellart::Nummer},
               {"Rechts", Längenbreite(8)},
               {"Hoch", Längenbreite(8)},
               {"Linie", Längenbreite(6)},
               {"Seitw.", Längenbreite(6)},
-              {"S-red", Längenbreite(6), false, true, false},
-              {"A-red", Längenbreite(6), false, true, false}},
+              {"S-red", Längenbreite(6), Zellart::Ergebnis, false},
+              {"A-red", Längenbreite(6), Zellart::Ergebnis, false}},
              Kunde()) {
   Endmass.BeiReturn = [this] { AnschlussÖffnen(); };
   Pnrvon.IstPnr = Pnrbis.IstPnr = true;
@@ -60,6 +60,7 @@ TVLinelForm::TVLinelForm(const Blattart& BlattArt)
 
 Zeilenkunde TVLinelForm::Kunde() {
   return {
+      false,
       [this](Punktzeile& Z) {
         return Linienelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Z.Wert1, Z.Wert2);
       },
@@ -78,6 +79,8 @@ Zeilenkunde TVLinelForm::Kunde() {
         return LinelZeile(Optionen.OptNachkommastellen, {Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Wert1, Z.Wert2,
                           LinieRed, SeitwRed, Marke);
       },
+      [](const Punktzeile& Z) { return LinelSatz(Z.Pnr); },
+      [](Zeileneingabe& Zeile) { return StapelLeseLinel(Zeile.Pnr); },
       [this](Verbindung& V) {
         V.Zeilen = LinelAnschluss(Optionen.OptNachkommastellen, {Kopf.Anf.AlsProtpunkt(),
                                                                  Kopf.End.AlsProtpunkt(),
@@ -174,7 +177,7 @@ int TVLinelForm::StreifenAufnehmen(double Grenze) {
     if (Linienelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), {P.Rechts, P.Hoch}, Linie, Seitwaerts) < 0 ||
         (Grenze != 0 && std::fabs(Seitwaerts) > Grenze))
       continue;
-    const int Ergebnis = Zeilen.Eintragen(KorPnr(z));
+    const int Ergebnis = Zeilen.Eintragen({KorPnr(z), {}, ""});
     if (Ergebnis == -2) break;  // it reached no file, nor would the next one
     if (Ergebnis == 0) ++Anzahl;
     if (!Pause.Fällig()) continue;

@@ -2,6 +2,7 @@
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Linel.h>
 #include <tavorena/records/Polel.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -24,7 +25,7 @@ TVPolelForm::TVPolelForm(const Blattart& BlattArt)
       D(Kopf.Ergebnis("D", "D:", 4)),
       Ws(Kopf.Ergebnis("Ws", "WS:", 6)),
       Zeilen(*this, Kopf,
-             {{"Punktnr.", PnrZeichen, true},
+             {{"Punktnr.", PnrZeichen, Zellart::Nummer},
               {"Rechts", Längenbreite(8)},
               {"Hoch", Längenbreite(8)},
               {"Richtung", 12},
@@ -37,6 +38,7 @@ TVPolelForm::TVPolelForm(const Blattart& BlattArt)
 
 Zeilenkunde TVPolelForm::Kunde() {
   return {
+      false,
       [this](Punktzeile& Z) {
         double Nordrichtung = 0;
         return Polarelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Ablesung, Z.Wert1, Z.Wert2, Nordrichtung);
@@ -47,6 +49,8 @@ Zeilenkunde TVPolelForm::Kunde() {
       [](const Punktzeile& Z, const std::string& Marke) {
         return PolelZeile(Optionen.OptNachkommastellen, {Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Wert1, Z.Wert2, Marke);
       },
+      [](const Punktzeile& Z) { return LinelSatz(Z.Pnr); },
+      [](Zeileneingabe& Zeile) { return StapelLeseLinel(Zeile.Pnr); },
       [this](Verbindung& V) {
         V.Zeilen = PolelAnschluss(
             Optionen.OptNachkommastellen,

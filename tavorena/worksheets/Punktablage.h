@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <tavorena/calc/Lage.h>
+#include <tavorena/points/Ruecknahme.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+
+/// A computed point on its way into the table, and what that did there: enough to take it back.
+class Punktablage {
+ public:
+  /// Stores the point (see NeupunktEintragen); Notiz tells what became of it.
+  /// @param[in,out] Pnr, Ort  afterwards what the records show
+  /// @param[in] Hoehe         [m]; not given: none
+  /// @return 0; -1: the surveyor broke off, nothing was stored
+  [[nodiscard]] int Eintragen(std::string& Pnr, Lage& Ort, const Wert& Hoehe, const std::string& Symbol);
+
+  [[nodiscard]] const Punktnotiz& Notiz() const { return Getan; }
+
+  /// Takes it back where the rows are as they were left. @return 0, also if nothing was stored; -1: they were
+  /// changed since, the table stays
+  [[nodiscard]] int Zurück();
+
+ private:
+  Punktnotiz Getan;
+  std::vector<Punktsatz> Vorher, Nachher;  // rows that went, and that came in their place
+};
+
+}  // namespace tavorena
