@@ -88,4 +88,10 @@ int SchreibfehlerFrage(const std::string& Datei, const std::string& Grund, const
                               Knöpfe::NochmalsOhneStapel, Fehlertitel, KnopfNochmals);
 }
 
+void SpeicherfehlerMelden(const std::string& Datei, const std::string& Grund, const std::string& Ort) {
+  const bool MitOrdner = OrdnerVorhanden(DateinameZerlegen(GanzerName(Datei)).Ordner);
+  LaufzeitFehlerMeldung(MitOrdner ? Laufzeitfehler::Zugriff : Laufzeitfehler::Pfad, Ort,
+                        Datei + "\n" + (Grund.empty() ? "" : Grund + "\n"));
+}
+
 }  // namespace tavorena

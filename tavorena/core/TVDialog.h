@@ -56,4 +56,7 @@ std::string InKlammern(const std::string& Grund);
 /// stands in front of all.
 void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort, const std::string& Vorspann = "");
 
+/// A file could not be written: its name and the reason, and number 70, or 76 where its folder is missing.
+void SpeicherfehlerMelden(const std::string& Datei, const std::string& Grund, const std::string& Ort);
+
 }  // namespace tavorena

@@ -170,9 +170,7 @@ int DxfSpeichern(const std::string& Datei, bool MitPunkten) {
   std::string Text, Grund;
   if ((MitPunkten ? DxfPunkteText(Text) : DxfText(Text)) < 0) return -1;
   if (DateiErsetzen(Datei, Text, &Grund) < 0) {
-    const bool MitOrdner = OrdnerVorhanden(DateinameZerlegen(GanzerName(Datei)).Ordner);
-    LaufzeitFehlerMeldung(MitOrdner ? Laufzeitfehler::Zugriff : Laufzeitfehler::Pfad, "DXFModul.Speichern",
-                          Vorspann(Datei, Grund));
+    SpeicherfehlerMelden(Datei, Grund, "DXFModul.Speichern");
     return -1;
   }
   GrafikUngesichert = false;

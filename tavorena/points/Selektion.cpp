@@ -9,19 +9,12 @@
 #include <tavorena/points/Selektion.h>
 
 namespace tavorena {
-namespace {
-
-std::string Vorspann(const std::string& Datei, const std::string& Grund) {
-  return Datei + "\n" + (Grund.empty() ? "" : Grund + "\n");
-}
-
-}  // namespace
 
 int SelektionLesen(const std::string& Datei, std::vector<std::string>& Nummern) {
   std::string Text, Grund;
   if (TextdateiLesen(Datei, Text, &Grund) < 0) {
     LaufzeitFehlerMeldung(Grund.empty() ? Laufzeitfehler::DateiNichtGefunden : Laufzeitfehler::Zugriff,
-                          "Selektion.Lesen", Vorspann(Datei, Grund));
+                          "Selektion.Lesen", Datei + "\n" + (Grund.empty() ? "" : Grund + "\n"));
     return -1;
   }
   Nummern.clear();
@@ -40,9 +33,7 @@ int SelektionSchreiben(const std::string& Datei, const std::vector<std::string>&
     if (!Pnr.empty() && Geschrieben.insert(Pnr).second) Text.append(Pnr) += "\r\n";
   }
   if (DateiErsetzen(Datei, Text, &Grund) == 0) return 0;
-  const bool MitOrdner = OrdnerVorhanden(DateinameZerlegen(GanzerName(Datei)).Ordner);
-  LaufzeitFehlerMeldung(MitOrdner ? Laufzeitfehler::Zugriff : Laufzeitfehler::Pfad, "Selektion.Speichern",
-                        Vorspann(Datei, Grund));
+  SpeicherfehlerMelden(Datei, Grund, "Selektion.Speichern");
   return -1;
 }
 
