@@ -61,6 +61,8 @@ class Anzeige {
   virtual void HandbuchZeigen() {}
   /// The graphics view: opens it, or lets it fill the work area, or gives that back.
   virtual void GrafikZeigen() {}
+  /// Brings a place [m] into the middle of the graphics view, which opens where it is closed.
+  virtual void GrafikPunktZeigen(double /*Rechts*/, double /*Hoch*/) {}
   /// A file was opened that the graphics view is to show, or is closed.
   virtual void GrafikMitDatei(bool /*Offen*/) {}
   /// Size of the main window [pixels].

@@ -293,6 +293,12 @@ void Hauptfenster::GrafikZeigen() {
   Flaeche->setVisible(!Flaeche->isVisible());
 }
 
+void Hauptfenster::GrafikPunktZeigen(double Rechts, double Hoch) {
+  if (Grafikrahmen->isVisible()) return GrafikMitte(Rechts, Hoch);
+  GrafikÖffnenSchließen(true);
+  QTimer::singleShot(0, Grafik, [=] { GrafikMitte(Rechts, Hoch); });  // behind the first fit
+}
+
 void Hauptfenster::GrafikÖffnenSchließen(bool Offen) {
   const bool Neu = Offen && Grafikrahmen->isHidden();
   const bool Anpassen = !GrafikFenster.Gemerkt;  // opening uses up what was kept

@@ -47,6 +47,8 @@ class Hauptfenster final : public QMainWindow {
   void HilfeZeigen();
   /// Opens the graphics view, or lets it fill the work area, or gives that back.
   void GrafikZeigen();
+  /// Brings a place [m] into the middle of the view, which opens where it is closed.
+  void GrafikPunktZeigen(double Rechts, double Hoch);
   void GrafikÖffnenSchließen(bool Offen);
   /// Ends the program when the event that runs is done.
   void Beenden();

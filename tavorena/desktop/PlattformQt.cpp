@@ -205,6 +205,7 @@ void PlattformQt::ProtokollGeändert() { Fenster.ProtokollSpäterZeigen(); }
 
 void PlattformQt::HandbuchZeigen() { Fenster.HilfeZeigen(); }
 void PlattformQt::GrafikZeigen() { Fenster.GrafikZeigen(); }
+void PlattformQt::GrafikPunktZeigen(double Rechts, double Hoch) { Fenster.GrafikPunktZeigen(Rechts, Hoch); }
 void PlattformQt::GrafikMitDatei(bool Offen) { Fenster.GrafikÖffnenSchließen(Offen); }
 
 void PlattformQt::HauptfensterGröße(int& Breite, int& Hoehe) {

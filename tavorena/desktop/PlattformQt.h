@@ -22,6 +22,7 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
   void ProtokollGeändert() override;
   void HandbuchZeigen() override;
   void GrafikZeigen() override;
+  void GrafikPunktZeigen(double Rechts, double Hoch) override;
   void GrafikMitDatei(bool Offen) override;
   void HauptfensterGröße(int& Breite, int& Hoehe) override;
   void BildschirmGröße(int& Breite, int& Hoehe) override;
