@@ -94,8 +94,10 @@ void Gitter::EntwurfVerwerfen() {
   if (z >= 0) Merken(z, z + 1);
 }
 
-void Gitter::ZeileAnhängen() {
-  Zellen.emplace_back(Spalten.size());
+void Gitter::ZeileAnhängen() { ZeileAnhängen(std::vector<std::string>(Spalten.size())); }
+
+void Gitter::ZeileAnhängen(std::vector<std::string> Texte) {
+  Zellen.push_back(std::move(Texte));
   Neues.Zeilenzahl = true;
   Merken(Zeilen() - 1, Zeilen());
 }

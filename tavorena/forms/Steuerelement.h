@@ -129,6 +129,8 @@ struct Gitter final : Eingabeelement {
   [[nodiscard]] std::string Inhalt(int z, int s) const;
   void InhaltSetzen(int z, int s, std::string Neu);
   void ZeileAnhängen();
+  /// With a text for each column.
+  void ZeileAnhängen(std::vector<std::string> Texte);
   void ZeileLöschen(int z);
   /// Empties the grid cell by cell and leaves that many rows.
   void Leeren(int ZeilenDanach);

@@ -3,23 +3,17 @@
 #include <functional>
 #include <iterator>
 #include <map>
-#include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/points/Ruecknahme.h>
+#include <tavorena/points/Satzsuche.h>
 
 namespace tavorena {
 namespace {
 
 std::size_t Stelle(int i) { return static_cast<std::size_t>(i); }
-
-bool Gleich(const KorSatz& A, const KorSatz& B) {
-  return A.Pnr == B.Pnr && A.Rechts == B.Rechts && A.Hoch == B.Hoch && A.Hoehe == B.Hoehe &&
-         A.Symbol == B.Symbol && *A.Info == *B.Info;
-}
 
 // Listens at the door. A few rows that are only written it copies one by one, as in an editor each cell does;
 // before any other change it copies the table.
@@ -78,7 +72,7 @@ void ZeilenErsetzen(int Von, int Länge, const std::vector<Punktsatz>& Neue) {
   std::vector<Punktsatz> Alle = Neue;
   const auto Setzen = [&](int z) {
     const KorSatz Satz = Alle[Stelle(z - Von)].Satz();
-    if (!Gleich(Satz, KorPunkt(z))) static_cast<void>(KorZeileSetzen(z, Satz));
+    if (!SatzGleich(Satz, KorPunkt(z))) static_cast<void>(KorZeileSetzen(z, Satz));
   };
   if (Länge == std::ssize(Neue)) {
     for (int z = Von; z < Von + Länge; ++z) Setzen(z);
@@ -95,38 +89,6 @@ void ZeilenErsetzen(int Von, int Länge, const std::vector<Punktsatz>& Neue) {
   }
   KorAnzahlAnzeigen();
 }
-
-// Finds rows by all they hold, each once.
-class Satzsuche {
- public:
-  void Aufnehmen(const KorSatz& Satz, int Nummer) { Nummern.emplace(Streuwert(Satz), Nummer); }
-  // @param[in] Von  gives the row of a number @return a number, which is then taken out; -1
-  template <typename Quelle>
-  int Nehmen(const KorSatz& Satz, const Quelle& Von) {
-    const auto [Ab, Bis] = Nummern.equal_range(Streuwert(Satz));
-    for (auto i = Ab; i != Bis; ++i) {
-      const int Nummer = i->second;
-      if (!Gleich(Satz, Von(Nummer))) continue;
-      Nummern.erase(i);
-      return Nummer;
-    }
-    return -1;
-  }
-  [[nodiscard]] std::vector<int> Rest() const {
-    std::vector<int> Übrige;
-    for (const auto& [Wert, Nummer] : Nummern) Übrige.push_back(Nummer);
-    std::sort(Übrige.begin(), Übrige.end());
-    return Übrige;
-  }
-
- private:
-  static std::size_t Streuwert(const KorSatz& S) {
-    std::size_t Streu = std::hash<std::string_view>{}(S.Pnr) ^ std::hash<std::string_view>{}(S.Symbol);
-    for (const double x : {S.Rechts, S.Hoch, S.Hoehe}) Streu = Streu * 31 + std::hash<double>{}(x);
-    return Streu;
-  }
-  std::unordered_multimap<std::size_t, int> Nummern;
-};
 
 }  // namespace
 
@@ -196,9 +158,9 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
   const auto Vorher = static_cast<int>(A.Vorher.size());
   int Vorn = 0, Hinten = 0;
   const int Kürzer = std::min(Vorher, A.Länge);
-  while (Vorn < Kürzer && Gleich(A.Vorher[Stelle(Vorn)].Satz(), KorPunkt(A.Von + Vorn))) ++Vorn;
+  while (Vorn < Kürzer && SatzGleich(A.Vorher[Stelle(Vorn)].Satz(), KorPunkt(A.Von + Vorn))) ++Vorn;
   while (Hinten < Kürzer - Vorn &&
-         Gleich(A.Vorher[Stelle(Vorher - 1 - Hinten)].Satz(), KorPunkt(A.Von + A.Länge - 1 - Hinten)))
+         SatzGleich(A.Vorher[Stelle(Vorher - 1 - Hinten)].Satz(), KorPunkt(A.Von + A.Länge - 1 - Hinten)))
     ++Hinten;
   if (Vorn + Hinten == Vorher && Vorn + Hinten == A.Länge) return Ergebnis;
   const int Von = A.Von + Vorn, Bis = A.Von + A.Länge - Hinten;

@@ -1,4 +1,5 @@
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <tavorena/core/TVDialog.h>
@@ -6,6 +7,7 @@
 #include <tavorena/points/TVBerichForm.h>
 #include <tavorena/points/TVDMittForm.h>
 #include <tavorena/points/TVKernKoordinatenEditor.h>
+#include <tavorena/points/TVKerntextForm.h>
 #include <tavorena/points/TVPLoeschForm.h>
 #include <tavorena/points/TVPMittForm.h>
 #include <tavorena/shell/Blaetter.h>
@@ -29,10 +31,22 @@ void Eingeben() { BlattZeigen(std::make_unique<TVKernKoordinatenEditor>(Editormo
 
 void Editieren() { BlattZeigen(std::make_unique<TVKernKoordinatenEditor>(Editormodus::Bearbeiten), true); }
 
+// The command that shows a list.
+std::function<void()> Liste(Textart Art) {
+  return [Art] {
+    if (auto Form = KerntextErfragen(Art)) BlattZeigen(std::move(Form));
+  };
+}
+
 }  // namespace
 
 std::span<const Befehl> Punktbefehle() {
   static const std::vector<Befehl> Alle = {
+      {"MenüAnsichtKoordinaten", true, Liste(Textart::Koordinaten), false, NichtEingelesen},
+      {"MenüAnsichtDoppelte", true, Liste(Textart::Doppelte), false, NichtEingelesen},
+      {"MenüAnsichtMitDoppelten", true, Liste(Textart::MitDoppelten), false, NichtEingelesen},
+      {"MenüAnsichtQuasi", true, Liste(Textart::Quasi), false, NichtEingelesen},
+      {"MenüAnsichtBelegung", true, Liste(Textart::Belegung), false, NichtEingelesen},
       {"MenüBearbeitenTauschen(0)", true, [] { TabelleTauschen(true, false); }, true, NichtVorhanden},
       {"MenüBearbeitenTauschen(1)", true, [] { TabelleTauschen(false, true); }, true, NichtVorhanden},
       {"MenüBearbeitenTauschen(2)", true, [] { TabelleTauschen(true, true); }, true, NichtVorhanden},
