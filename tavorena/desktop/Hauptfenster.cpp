@@ -21,6 +21,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Betrachtung.h>
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
@@ -308,6 +309,13 @@ void Hauptfenster::GrafikÖffnenSchließen(bool Offen) {
     resizeDocks({Grafikrahmen}, {width() * 3 / 8}, Qt::Horizontal);
   // It fits when the docks have found their places.
   if (Anpassen) QTimer::singleShot(0, Grafik, GrafikZoomAnpassen);
+}
+
+void Hauptfenster::GrafikAnsehen() {
+  if (!Grafik->isVisible()) return;
+  Grafikrahmen->raise();
+  if (Grafikrahmen->isFloating()) Grafikrahmen->activateWindow();
+  Betrachtung(Grafik->Bild()).Abwarten();
 }
 
 void Hauptfenster::ProtokollZeigen() {

@@ -50,6 +50,8 @@ class Hauptfenster final : public QMainWindow {
   /// Brings a place [m] into the middle of the view, which opens where it is closed.
   void GrafikPunktZeigen(double Rechts, double Hoch);
   void GrafikÖffnenSchließen(bool Offen);
+  /// Brings the graphics view, if it is open, to the front until the user has seen it.
+  void GrafikAnsehen();
   /// Ends the program when the event that runs is done.
   void Beenden();
 

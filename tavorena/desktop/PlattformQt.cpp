@@ -12,8 +12,10 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -23,6 +25,7 @@
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/desktop/Tastensperre.h>
+#include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
 namespace tavorena {
@@ -62,6 +65,16 @@ class Dialogfenster final : public QDialog {
   Formular& Form;
   FormularAnsicht* Ansicht;
 };
+
+// Puts a dialog at its own place, as far as the screen has it; wider only where its fields need it.
+void Stellen(QDialog& Dialog, const Dialogplatz& Platz, const QWidget& Fenster) {
+  const auto Pixel = [](double Twips) { return qRound(Twips / TwipsJePixel); };
+  Dialog.resize(QSize(Pixel(Platz.Breite), 0).expandedTo(Dialog.sizeHint()));
+  const QRect Schirm = Fenster.screen()->availableGeometry();
+  const QPoint Ort = Fenster.pos() + QPoint(Pixel(Platz.Links), Pixel(Platz.Oben));
+  Dialog.move(std::max(Schirm.left(), std::min(Ort.x(), Schirm.right() - Dialog.width())),
+              std::max(Schirm.top(), std::min(Ort.y(), Schirm.bottom() - Dialog.height())));
+}
 
 // "text|pattern|text|pattern" as Qt takes it.
 QString QtFilter(const std::string& Filter) {
@@ -156,6 +169,12 @@ void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   if (!Modal) return Fenster.BlattZeigen(Form);
   Dialogfenster Dialog(Form, Davor(Fenster));
   if (Form.Ungefragt) new Tastensperre(Dialog);
+  if (!Form.Fest) return Dialog.Zeigen();
+  Stellen(Dialog, *Form.Fest, Fenster);
+  auto* Leiste = Fenster.findChild<QToolBar*>("Symbolleiste");
+  const bool WarZuSehen = Leiste->isVisible();
+  const auto Wieder = qScopeGuard([=] { Leiste->setVisible(WarZuSehen); });
+  Leiste->hide();
   Dialog.Zeigen();
 }
 
@@ -207,6 +226,7 @@ void PlattformQt::HandbuchZeigen() { Fenster.HilfeZeigen(); }
 void PlattformQt::GrafikZeigen() { Fenster.GrafikZeigen(); }
 void PlattformQt::GrafikPunktZeigen(double Rechts, double Hoch) { Fenster.GrafikPunktZeigen(Rechts, Hoch); }
 void PlattformQt::GrafikMitDatei(bool Offen) { Fenster.GrafikÖffnenSchließen(Offen); }
+void PlattformQt::GrafikAnsehen() { Fenster.GrafikAnsehen(); }
 
 void PlattformQt::HauptfensterGröße(int& Breite, int& Hoehe) {
   Breite = Fenster.width();

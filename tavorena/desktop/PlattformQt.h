@@ -24,6 +24,7 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
   void GrafikZeigen() override;
   void GrafikPunktZeigen(double Rechts, double Hoch) override;
   void GrafikMitDatei(bool Offen) override;
+  void GrafikAnsehen() override;
   void HauptfensterGröße(int& Breite, int& Hoehe) override;
   void BildschirmGröße(int& Breite, int& Hoehe) override;
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;

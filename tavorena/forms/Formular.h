@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,11 @@ class FormularBeobachter {
   virtual void FormularGeschlossen() = 0;
 };
 
+/// Where a dialog stands, in twips from the upper left of the main window.
+struct Dialogplatz {
+  double Links = 0, Oben = 0, Breite = 0;
+};
+
 /// A form as a model: named controls, one of them with the focus, and the events of the user. The window,
 /// a test and a replay enter through the same functions; none of them needs a screen. What a control does
 /// stands in the control itself.
@@ -38,6 +44,7 @@ class Formular {
   const std::string FormName;  ///< name of the class, and of the one running window
   Gezeigt<std::string> Titel;
   int Hilfenummer = 0;     ///< page of the handbook
+  std::optional<Dialogplatz> Fest;  ///< a dialog of its own place, while which the tool bar is hidden
   bool Ungefragt = false;  ///< a row opens it by itself: keys that were typed ahead are not meant for it
 
   [[nodiscard]] const std::vector<std::unique_ptr<Steuerelement>>& Steuerelemente() const { return Liste; }

@@ -148,6 +148,8 @@ void GrafikMitte(double Rechts, double Hoch) {
   FensterSetzen(Rechts - G.FensterBreite / 2, Hoch - G.FensterHoehe / 2, G.FensterBreite);
 }
 
+void GrafikFensterSetzen(double Rechts, double Hoch, double Breite) { FensterSetzen(Rechts, Hoch, Breite); }
+
 double GrafikToleranz() { return GrafikFenster.Massstab == 0 ? 0 : Fangradius / GrafikFenster.Massstab; }
 
 }  // namespace tavorena

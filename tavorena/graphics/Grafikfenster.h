@@ -64,6 +64,10 @@ void GrafikZoomBei(double x, double y, double Faktor);
 /// Moves the picture by twips: what was seen at (x, y) is seen at (x + dx, y + dy).
 void GrafikSchieben(double dx, double dy);
 
+/// Shows a part of the world from its lower left corner on; its height follows from the form of the picture.
+/// A width that is not above 0 does nothing.
+void GrafikFensterSetzen(double Rechts, double Hoch, double Breite);
+
 /// Brings a place into the middle of the window.
 void GrafikMitte(double Rechts, double Hoch);
 

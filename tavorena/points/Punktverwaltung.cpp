@@ -68,12 +68,6 @@ int Umgeschrieben(const char* Titel, const std::vector<Blockpunkt>& Punkte, Änd
 
 // ---- new numbers -----------------------------------------------------------------------------------
 
-bool NummerTaugt(const std::string& Pnr) {
-  if (!Pnr.empty() && Pnr.find_first_of(" \t") == std::string::npos) return true;
-  FehlerMeldung("Punktnummer \"" + Zitat(Pnr) + "\": leer oder mit Leerzeichen");
-  return false;
-}
-
 // The first of the new numbers that a point outside the rows has; "" if none.
 std::string Vergeben(const std::vector<int>& Zeilen, const std::vector<std::string>& Neue) {
   std::unordered_set<std::string_view> Andere;
@@ -227,6 +221,12 @@ int Mitteln(Rücknahme& R, const std::vector<std::vector<int>>& Gruppen, std::si
 }
 
 }  // namespace
+
+bool NummerTaugt(const std::string& Pnr) {
+  if (!Pnr.empty() && Pnr.find_first_of(" \t") == std::string::npos) return true;
+  FehlerMeldung("Punktnummer \"" + Zitat(Pnr) + "\": leer oder mit Leerzeichen");
+  return false;
+}
 
 int NummerZeilen(const std::string& Pnr, std::vector<int>& Zeilen) {
   Wert Gesucht(Pnr);

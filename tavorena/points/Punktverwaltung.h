@@ -10,6 +10,9 @@
 
 namespace tavorena {
 
+/// Whether a point can bear that number. @return false with a message: it is empty or holds a blank
+[[nodiscard]] bool NummerTaugt(const std::string& Pnr);
+
 /// All rows of a point number. @return 0; -1 with a message: there is none
 [[nodiscard]] int NummerZeilen(const std::string& Pnr, std::vector<int>& Zeilen);
 

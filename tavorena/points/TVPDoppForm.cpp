@@ -1,26 +1,58 @@
+#include <algorithm>
+#include <cmath>
+
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
 #include <tavorena/core/Zahlen.h>
-#include <tavorena/forms/Formular.h>
+#include <tavorena/forms/Dialogform.h>
+#include <tavorena/graphics/Grafikfenster.h>
+#include <tavorena/graphics/Markierung.h>
+#include <tavorena/points/Punktverwaltung.h>
 #include <tavorena/points/TVPDoppForm.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena {
+
+std::string PDoppErgebnis;
+
 namespace {
 
 constexpr double Grenze = 0.06;  // dS above it is red [m]
+
+const char* Kürzel(Konfliktwort Wort) {
+  switch (Wort) {
+    case Konfliktwort::AltenErsetzen:
+      return "ALÖ";
+    case Konfliktwort::Mitteln:
+      return "MIT";
+    case Konfliktwort::AltenNeunum:
+      return "ANN";
+    case Konfliktwort::NeuenVerwerfen:
+      return "NLÖ";
+    case Konfliktwort::NeuenNeunum:
+      return "NNN";
+    case Konfliktwort::Nochmal:
+      return "RÜC";
+    case Konfliktwort::Abbrechen:
+      break;
+  }
+  return "ABB";
+}
 
 std::string Zahlentext(const Wert& Zahl) {
   return Trimmen(ZahlFormat(Zahl, 7, Optionen.OptNachkommastellen));
 }
 
-class TVPDoppForm final : public Formular {
+class TVPDoppForm final : public Dialogform {
  public:
-  explicit TVPDoppForm(const Konflikt& Frage) : Formular("TVPDoppForm"), Nummer(Frage.Pnr) {
-    Titel = "Tavorena Punkt vorhanden";
+  explicit TVPDoppForm(const Konflikt& Frage)
+      : Dialogform("TVPDoppForm", "Tavorena Punkt vorhanden"), Nummer(Frage.Pnr) {
+    Hilfenummer = 4020;
     Ungefragt = true;
+    Fest = {1000, 1000, 9600};
     const auto z = static_cast<std::size_t>(Frage.Zeile);
     const char* const Spalten[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
     for (int i = 0; i < 5; ++i) BeschriftungAnlegen(Spalten[i], {0, i + 1}).Rechtsbündig = i < 4;
@@ -29,27 +61,20 @@ class TVPDoppForm final : public Formular {
     NeuerPnr = &Punktzeile("Neuer Punkt:", "NeuerPunkt", 2, Frage.Pnr, Frage.Rechts, Frage.Hoch, Frage.Hoehe,
                            Frage.Symbol);
     BeschriftungAnlegen("Abweichungen (alt minus neu):", {3, 0, 2});
-    const double dR = KorRechts[z] - Frage.Rechts, dH = KorHoch[z] - Frage.Hoch;
+    const double dR = AchtStellen(KorRechts[z] - Frage.Rechts), dH = AchtStellen(KorHoch[z] - Frage.Hoch);
     const bool MitHoehe = KorHoehe[z] != 0 && Frage.Hoehe.Zahl() != 0;
     ErgebnisfeldAnlegen("DeltaRechts", {3, 2}, "", PnrZeichen).Text = Zahlentext(dR);
     ErgebnisfeldAnlegen("DeltaHoch", {3, 3}, "", PnrZeichen).Text = Zahlentext(dH);
     ErgebnisfeldAnlegen("DeltaHöhe", {3, 4}, "", 11).Text =
-        MitHoehe ? Zahlentext(KorHoehe[z] - Frage.Hoehe.Zahl()) : "";
+        MitHoehe ? Zahlentext(AchtStellen(KorHoehe[z] - Frage.Hoehe.Zahl())) : "";
     BeschriftungAnlegen("dS:", {4, 2});
-    const double dS = Strecke(0, 0, dR, dH);
+    const double dS = AchtStellen(Strecke(0, 0, dR, dH));
     Feld& DeltaS = ErgebnisfeldAnlegen("DeltaS", {4, 3}, "", PnrZeichen);
     DeltaS.Text = Zahlentext(dS);
     DeltaS.Fehlerhaft = dS > Grenze;
-    Antwortknopf("PDoppAltenLöschen", "&Alten löschen", Konfliktwort::AltenErsetzen, {0, 0});
-    Antwortknopf("PDoppNeuenLöschen", "&Neuen löschen", Konfliktwort::NeuenVerwerfen, {0, 1});
-    Antwortknopf("PDoppMitteln", "&Mitteln", Konfliktwort::Mitteln, {0, 2});
-    AltenNeunum = &Antwortknopf("PDoppAltenNeunum", "A&lten neu numerieren", Konfliktwort::AltenNeunum,
-                                {1, 0}, AlterPnr);
-    NeuenNeunum = &Antwortknopf("PDoppNeuenNeunum", "Ne&uen neu numerieren", Konfliktwort::NeuenNeunum,
-                                {1, 1}, NeuerPnr);
-    AltenNeunum->Aktiv = NeuenNeunum->Aktiv = false;
-    Antwortknopf("PDoppRückgängig", "&Rückgängig", Konfliktwort::Nochmal, {1, 2}).OhnePrüfung = true;
-    Abbrechen = &AbbruchAnlegen("PDoppAbbruch", "- A&bbrechen -", {1, 3});
+    if (Stapel.Läuft())
+      FürAlle = &KästchenAnlegen("PDoppFürAlle", "&für alle weiteren Punkte dieses Stapels", {5, 0, 6});
+    KnöpfeAnlegen();
   }
 
   Konfliktantwort Antwort;
@@ -76,6 +101,19 @@ class TVPDoppForm final : public Formular {
     return F;
   }
 
+  void KnöpfeAnlegen() {
+    Antwortknopf("PDoppAltenLöschen", "&Alten Punkt löschen", Konfliktwort::AltenErsetzen, {0, 0});
+    Antwortknopf("PDoppNeuenLöschen", "&Neuen Punkt löschen", Konfliktwort::NeuenVerwerfen, {0, 1});
+    Antwortknopf("PDoppMitteln", "&Mitteln", Konfliktwort::Mitteln, {0, 2});
+    AltenNeunum = &Antwortknopf("PDoppAltenNeunum", "Alten Punkt &umnumerieren", Konfliktwort::AltenNeunum,
+                                {1, 0}, AlterPnr);
+    NeuenNeunum = &Antwortknopf("PDoppNeuenNeunum", "Neuen &Punkt umnumerieren", Konfliktwort::NeuenNeunum,
+                                {1, 1}, NeuerPnr);
+    AltenNeunum->Aktiv = NeuenNeunum->Aktiv = false;
+    Antwortknopf("PDoppRückgängig", "&Rückgängig", Konfliktwort::Nochmal, {1, 2}).OhnePrüfung = true;
+    Abbrechen = &AbbruchAnlegen("PDoppAbbruch", "- A&bbrechen -", {1, 3});
+  }
+
   // A button that ends the question with its word, and with the number in a field.
   Knopf& Antwortknopf(const char* Name, const char* Text, Konfliktwort Wort, Platz Ort,
                       const Feld* NeueNummer = nullptr) {
@@ -83,15 +121,21 @@ class TVPDoppForm final : public Formular {
         Name, Text,
         [this, Wort, NeueNummer] {
           Antwort = {Wort, NeueNummer != nullptr ? *NeueNummer->Text : ""};
-          Schließen();
+          if (FürAlle != nullptr && FürAlle->Gewählt && GiltFürAlle(Wort)) Stapel.FürAlle = Wort;
+          Fertig(0);
         },
         Ort);
+  }
+
+  static bool GiltFürAlle(Konfliktwort Wort) {
+    return Wort == Konfliktwort::AltenErsetzen || Wort == Konfliktwort::Mitteln ||
+           Wort == Konfliktwort::NeuenVerwerfen;
   }
 
   // A new number must differ from the taken one and be free.
   bool NummerLesen(Feld& F) const {
     F.Text = Trimmen(*F.Text);
-    if (F.Text->empty() || F.Text->find_first_of(" \t") != std::string::npos) return false;
+    if (!NummerTaugt(F.Text)) return false;
     Wert Neue(*F.Text);
     if (F.Text == Trimmen(Nummer) || KorSucheMitPunkt(Neue) < 0) return true;
     PunktVorhandenMeldung(F.Text);
@@ -116,14 +160,49 @@ class TVPDoppForm final : public Formular {
   std::string Nummer;
   Feld *AlterPnr = nullptr, *NeuerPnr = nullptr;
   Knopf *AltenNeunum = nullptr, *NeuenNeunum = nullptr, *Abbrechen = nullptr;
+  Auswahl* FürAlle = nullptr;  // only within a replay
 };
+
+// Has the view show both places, at least a third of the picture apart.
+void FensterUmBeide(const KorSatz& Alter, const Konflikt& Frage) {
+  const Grafikzustand& G = GrafikFenster;
+  const double dR = std::abs(Alter.Rechts - Frage.Rechts), dH = std::abs(Alter.Hoch - Frage.Hoch);
+  const double Breite = std::max({3 * dR, 3 * dH * G.BildBreite / G.BildHoehe, 0.01});
+  GrafikFensterSetzen(Frage.Rechts, Frage.Hoch, Breite);
+  GrafikMitte((Alter.Rechts + Frage.Rechts) / 2, (Alter.Hoch + Frage.Hoch) / 2);
+}
+
+// A view that is open shows both places and the line between them until the user has seen them.
+void OrteAnsehen(const Konflikt& Frage) {
+  const Grafikzustand Vorher = GrafikFenster;
+  if (!Vorher.GrafikOffen || Vorher.Massstab == 0) return;
+  const KorSatz Alter = KorPunkt(Frage.Zeile);
+  Markierung Beide;
+  Beide.Linie({Alter.Rechts, Alter.Hoch, Frage.Rechts, Frage.Hoch, FarbeBlau});
+  Beide.Punkt({"", Alter.Rechts, Alter.Hoch, "MARK", FarbeRot});
+  Beide.Punkt({Frage.Pnr + " (neu)", Frage.Rechts, Frage.Hoch, "MARK", FarbeBlau});
+  FensterUmBeide(Alter, Frage);
+  StatusHilfeSetzen("Alter Punkt rot, neuer Punkt blau: weiter mit Klick in die Grafik oder Esc");
+  AnzeigePort().GrafikAnsehen();
+  StatusHilfeSetzen("");
+  GrafikFensterSetzen(Vorher.FensterRechts, Vorher.FensterHoch, Vorher.FensterBreite);
+}
 
 }  // namespace
 
 Konfliktantwort PunktVorhandenBehandeln(const Konflikt& Frage) {
-  TVPDoppForm Form(Frage);
-  AnzeigePort().FormularZeigen(Form, true);
-  return Form.Antwort;
+  Konfliktantwort Antwort;
+  if (Stapel.Läuft() && Stapel.FürAlle) {
+    Antwort.Wort = *Stapel.FürAlle;
+    Dialogergebnis = 0;
+  } else {
+    TVPDoppForm Form(Frage);
+    static_cast<void>(Form.Zeigen());  // what was broken off has its word
+    Antwort = Form.Antwort;
+  }
+  PDoppErgebnis = Kürzel(Antwort.Wort);
+  if (Antwort.Wort == Konfliktwort::Nochmal) OrteAnsehen(Frage);
+  return Antwort;
 }
 
 }  // namespace tavorena

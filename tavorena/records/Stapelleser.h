@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include <tavorena/core/TVKoordinatenmodul.h>
 
 // Replay of a batch file: block by block the worksheet of the kind is shown, which fills itself from the
 // records. A replay never writes to the batch file.
@@ -40,6 +43,7 @@ struct Nachlauf {
   int Block = 0, Blöcke = 0;        ///< its place among all blocks of the file, from 1
   bool Halten = true;               ///< each worksheet shows its connection and waits
   bool Zerrissen = false;           ///< the block that runs broke off at the head of the next one
+  std::optional<Konfliktwort> FürAlle;  ///< answer to all taken numbers that come
   StapelBilanz Bilanz;
   Nachlaufblatt Blatt;                        ///< stays when the replay has ended, to be read
   bool ImVerteiler = false, Nochmal = false;  ///< StapelWeiter runs; it was called again meanwhile

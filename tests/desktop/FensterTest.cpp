@@ -196,6 +196,45 @@ class FensterTest final : public Fensterumgebung {
     QCOMPARE(Inhalt(Pfad("a.sta")).count("\nNR  "), 6);
   }
 
+  // At its place, without the tool bar; the view shows both places until a click, and nothing else works
+  // then.
+  void punktVorhandenUndDieOrte() {
+    Öffne();
+    auto* Bild = Fenster->findChild<QWidget*>("GrafBild");
+    QTRY_VERIFY(GrafikFenster.Massstab > 0);
+    const auto* Leiste = Fenster->findChild<QToolBar*>("Symbolleiste");
+    const double Breite = GrafikFenster.FensterBreite;
+    int Angesehen = 0;
+    Plattform->BeiGrafik = [&] {
+      QTest::keyClick(Fenster.get(), Qt::Key_O, Qt::ControlModifier);
+      double x[2], y[2];
+      GrafikPixelAusWelt(3500100, 5600200, x[0], y[0]);
+      GrafikPixelAusWelt(3500100.02, 5600200, x[1], y[1]);
+      QVERIFY(x[0] > 0 && x[1] < GrafikFenster.BildBreite && x[1] - x[0] > GrafikFenster.BildBreite / 4);
+      QVERIFY(!Leiste->isHidden());
+      if (++Angesehen == 1) return QTest::mouseClick(Bild, Qt::LeftButton);
+      QTest::keyClick(Fenster.get(), Qt::Key_Escape);
+    };
+    for (const Qt::Key Taste : {Qt::Key_R, Qt::Key_R, Qt::Key_B}) {
+      Dialoge.push_back([=, this] {
+        QWidget* Dialog = QApplication::activeModalWidget();
+        QCOMPARE(Dialog->pos() - Fenster->pos(), QPoint(67, 67));
+        QVERIFY(Dialog->width() >= 640 && Leiste->isHidden());
+        auto* Feld = Dialog->findChild<QLineEdit*>("NeuerPunktPnr");
+        QCOMPARE(Feld->text(), QString("1001"));
+        Feld->setFocus();
+        Tippe("7");
+        QTest::keyClick(Dialog, Taste, Qt::AltModifier);
+      });
+    }
+    Wert Pnr("1001");
+    NeupunktErgebnis E;
+    const std::uint64_t Stand = KorStand;
+    QVERIFY(Neupunkt(Pnr, 3500100.02, 5600200, Wert(), "", nullptr, E) == NeupunktCode::Nichts);
+    QVERIFY(Angesehen == 2 && KorStand == Stand && !Leiste->isHidden());
+    QCOMPARE(GrafikFenster.FensterBreite, Breite);
+  }
+
   // Ctrl+Z: first the text that is typed, then the form, then the whole table.
   void zurueckNimmtDasNaechste() {
     struct Probe final : Formular {

@@ -39,7 +39,12 @@ class Testplattform final : public PlattformQt {
     if (StopDrücken) QTest::keyClick(&Fenster, Qt::Key_Escape);
     PlattformQt::EreignisseAbarbeiten();
   }
+  void GrafikAnsehen() override {
+    QTimer::singleShot(50, BeiGrafik);
+    PlattformQt::GrafikAnsehen();
+  }
   bool StopDrücken = false;
+  std::function<void()> BeiGrafik;  // what is done while the view is looked at
 
  private:
   Hauptfenster& Fenster;

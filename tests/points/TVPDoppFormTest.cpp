@@ -1,6 +1,8 @@
 #include "Formulartest.h"
 
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/points/TVPDoppForm.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena::test {
 namespace {
@@ -56,15 +58,52 @@ TEST_F(TVPDoppFormTest, NeueNummerMussFreiSein) {
 }
 
 TEST_F(TVPDoppFormTest, JedeAntwortWirkt) {
-  Skript.Formulare.push_back(Bediene({{"NeuerPunktPnr", "77"}, {"PDoppRückgängig", ""}}));
-  EXPECT_EQ(Rechne(Bediene({{"NeuerPunktPnr", " 77"}, {"PDoppNeuenNeunum", ""}})), 13);
+  const std::uint64_t Stand = KorStand;
+  const auto Antwort = [&](const char* Knopf, int Code, const char* Wort,
+                           std::vector<Handgriff> Vorher = {}) {
+    Vorher.push_back({Knopf, ""});
+    Pnr = Wert("5");
+    EXPECT_TRUE(
+        Gleich(Rechne(Bediene(Vorher)), Code, PDoppErgebnis, Wort, Dialogergebnis, Code < 0 ? -1 : 0));
+  };
+  Antwort("PDoppAbbruch", -1, "ABB");
+  EXPECT_EQ(KorStand, Stand);
+  Skript.Formulare.push_back([](Formular& Form) {
+    Bediene({{"NeuerPunktPnr", "77"}, {"PDoppRückgängig", ""}})(Form);
+    EXPECT_EQ(PDoppErgebnis, "ABB");
+  });
+  Antwort("PDoppNeuenNeunum", 13, "NNN", {{"NeuerPunktPnr", " 77"}});
   EXPECT_EQ(Pnr, Wert("77"));
-  Pnr = Wert("5");
-  EXPECT_EQ(Rechne(Bediene({{"AlterPunktPnr", "8"}, {"PDoppAltenNeunum", ""}})), 3);
+  Antwort("PDoppAltenNeunum", 3, "ANN", {{"AlterPunktPnr", "8"}});
   EXPECT_EQ(KorPunkt(KorSuche(Wert("8"))).Rechts, 100);
-  EXPECT_EQ(Rechne(Bediene({{"PDoppNeuenLöschen", ""}})), 11);
-  EXPECT_EQ(Rechne(Bediene({{"PDoppMitteln", ""}})), 2);
-  EXPECT_EQ(Rechne(Bediene({{"PDoppAltenLöschen", ""}})), 1);
+  Antwort("PDoppNeuenLöschen", 11, "NLÖ");
+  Antwort("PDoppMitteln", 2, "MIT");
+  Antwort("PDoppAltenLöschen", 1, "ALÖ");
+}
+
+// Within a replay an answer holds for all points to come, until it ends; a new number does not.
+TEST_F(TVPDoppFormTest, EineAntwortFürDenStapel) {
+  Stapel = {};
+  Stapel.Aktiv = true;
+  const auto FürAlle = [](const std::vector<Handgriff>& Griffe) {
+    return [=](Formular& Form) {
+      Form.Wählen(Element<Auswahl>(Form, "PDoppFürAlle"), "", true);
+      Bediene(Griffe)(Form);
+    };
+  };
+  EXPECT_EQ(Rechne(FürAlle({{"NeuerPunktPnr", "7"}, {"PDoppNeuenNeunum", ""}})), 13);
+  Pnr = Wert("5");
+  EXPECT_EQ(Rechne(FürAlle({{"PDoppMitteln", ""}})), 2);
+  EXPECT_EQ(KorRechts[0], 102);
+  PDoppErgebnis = "";
+  EXPECT_EQ(static_cast<int>(Neupunkt(Pnr, 104, 197, 12.5, "020", nullptr, E)), 2);
+  EXPECT_TRUE(Gleich(KorRechts[0], 103, PDoppErgebnis, "MIT"));
+  StapelAnhalten();
+  EXPECT_EQ(Rechne([](Formular& Form) {
+              EXPECT_EQ(Form.Finde("PDoppFürAlle"), nullptr);
+              Bediene({{"PDoppAbbruch", ""}})(Form);
+            }),
+            -1);
 }
 
 }  // namespace
