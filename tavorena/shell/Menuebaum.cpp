@@ -124,7 +124,7 @@ constexpr Menüeintrag Baum[] = {
     {"MenüMain(4)", "Be&rechnungen", 4000, Bar},
     {"MenüKatasterKorein", "&Koordinateneingabe", 4010, Berechnungen},
     {"MenüKatasterBerpunkt", "&Berichtigung von Punktnummern", 4030, Berechnungen},
-    {"MenüKatasterSchwerpunkt", "&Schwerpunktermittlung", 0, Berechnungen},
+    {"MenüKatasterSchwerpunkt", "&Schwerpunktermittlung", 4040, Berechnungen},
     {"MenüKatasterPMitt", "&Mittelbildung von Koordinaten", 4040, Berechnungen},
     {"MenüKatasterDMitt", "Mittelbildung &doppelter Punkte", 4050, Berechnungen},
     {"MenüKatasterPunktLöschen", "&Löschen von Punkten", 4060, Berechnungen},
