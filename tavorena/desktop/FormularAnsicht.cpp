@@ -82,6 +82,9 @@ void FormularAnsicht::Aufbauen() {
     Elemente[B.Widget] = S.get();
     B.Widget->setObjectName(Q(S->Name));
     B.Widget->installEventFilter(this);
+    QSizePolicy Regel = B.Widget->sizePolicy();
+    Regel.setRetainSizeWhenHidden(S->PlatzHalten);
+    B.Widget->setSizePolicy(Regel);
     Einsetzen(*S, B.Widget);
   }
   for (const auto& [Titel, Platz] : Rahmen) Platz->setColumnStretch(Platz->columnCount(), 1);

@@ -22,6 +22,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/FormularAnsicht.h>
+#include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/desktop/Tastensperre.h>
@@ -48,6 +49,9 @@ class Dialogfenster final : public QDialog {
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
     Ansicht->BeiGeschlossen = [this] { QDialog::accept(); };
+    // A list is to be seen in more than a few rows.
+    if (findChild<Gitteransicht*>() != nullptr)
+      resize(sizeHint().width(), std::max(sizeHint().height(), Eltern->window()->height() * 3 / 4));
   }
 
   void Zeigen() {

@@ -39,6 +39,7 @@ struct Steuerelement {
   Platz Ort;
   int Zeichen = 12;           ///< width in characters
   std::string Hilfe;          ///< text for the status bar
+  bool PlatzHalten = false;   ///< its room stays while it is not visible: nothing moves when it comes
   std::string Tipp;           ///< tool tip, such as why the control is closed
   Gezeigt<std::string> Text;  ///< caption ("&" marks the key) or contents; of a list the chosen entry
   Gezeigt<bool> Aktiv{true}, Sichtbar{true};

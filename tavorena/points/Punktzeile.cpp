@@ -16,6 +16,9 @@ std::size_t Schlüssel(const KorSatz& P) {
   return std::hash<std::string_view>()(P.Pnr) ^ (31 * Zahl(P.Rechts)) ^ (961 * Zahl(P.Hoch));
 }
 
+// Width of a field with so many integer places, the sign included [characters].
+int Breite(int Vorkomma) { return Vorkomma + 1 + Optionen.OptNachkommastellen; }
+
 }  // namespace
 
 std::string Koordinatentext(double Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommastellen); }
@@ -25,9 +28,10 @@ std::string Hoehentext(double Zahl) { return Zahl == 0 ? "" : Koordinatentext(Za
 Punktzeile::Punktzeile(Formular& Form, const std::string& Name, const std::string& Index, Platz Ort,
                        const std::string& Rahmen, const std::string& Symbolname)
     : Pnr(Form.ZahlenfeldAnlegen(Name + "Pnr" + Index, Ort, Rahmen, PnrZeichen)),
-      Rechts(Form.ErgebnisfeldAnlegen(Name + "Rechts" + Index, {Ort.Zeile, Ort.Spalte + 1}, Rahmen, 13)),
-      Hoch(Form.ErgebnisfeldAnlegen(Name + "Hoch" + Index, {Ort.Zeile, Ort.Spalte + 2}, Rahmen, 13)),
-      Hoehe(Form.ErgebnisfeldAnlegen(Name + "Höhe" + Index, {Ort.Zeile, Ort.Spalte + 3}, Rahmen, 10)),
+      Rechts(
+          Form.ErgebnisfeldAnlegen(Name + "Rechts" + Index, {Ort.Zeile, Ort.Spalte + 1}, Rahmen, Breite(8))),
+      Hoch(Form.ErgebnisfeldAnlegen(Name + "Hoch" + Index, {Ort.Zeile, Ort.Spalte + 2}, Rahmen, Breite(8))),
+      Hoehe(Form.ErgebnisfeldAnlegen(Name + "Höhe" + Index, {Ort.Zeile, Ort.Spalte + 3}, Rahmen, Breite(5))),
       Sym(Form.ErgebnisfeldAnlegen(Name + Symbolname + Index, {Ort.Zeile, Ort.Spalte + 4}, Rahmen, 5)) {
   Pnr.IstPnr = true;
   Sym.Rechtsbündig = false;
@@ -48,6 +52,10 @@ void Punktzeile::Leeren() {
 
 void Punktzeile::SichtbarSetzen(bool An) {
   for (Feld* F : {&Pnr, &Rechts, &Hoch, &Hoehe, &Sym}) F->Sichtbar = An;
+}
+
+void Punktzeile::PlatzHalten() {
+  for (Feld* F : {&Pnr, &Rechts, &Hoch, &Hoehe, &Sym}) F->PlatzHalten = true;
 }
 
 void PunktzeileKopf(Formular& Form, Platz Ort, const std::string& Rahmen) {

@@ -28,6 +28,8 @@ struct Punktzeile {
   void Zeigen(const Punktsatz& P);
   void Leeren();
   void SichtbarSetzen(bool An);
+  /// Their room stays while they are not visible.
+  void PlatzHalten();
 };
 
 /// Headings above such rows, from this place on.

@@ -46,9 +46,9 @@ TVBerichForm::TVBerichForm()
   KnopfAnlegen(
       "BerichPunkt", "&Umnumerieren", [this] { PunktBerichtigen(); }, {2, 5}, RahmenPunkt);
   KnopfAnlegen(
-      "BerichSelektion", "Pu&nktselektion ...", [this] { SelektionWählen(); }, {0, 4}, RahmenMehrere);
+      "BerichSelektion", "&Punktselektion ...", [this] { SelektionWählen(); }, {0, 4}, RahmenMehrere);
   KnopfAnlegen(
-      "BerichMehrere", "Um&numerieren", [this] { MehrereBerichtigen(); }, {1, 4}, RahmenMehrere);
+      "BerichMehrere", "U&mnumerieren", [this] { MehrereBerichtigen(); }, {1, 4}, RahmenMehrere);
   RückgängigAnlegen("BerichRückgängig", {0, 0});
   KnopfAnlegen("BerichEnd", "&Schließen", [this] { SchließenVerlangen(); }, {0, 1}).OhnePrüfung = true;
 }

@@ -27,6 +27,7 @@ TVDMittForm::TVDMittForm() : Punktform("TVDMittForm") {
     const std::string Index = "(" + std::to_string(i) + ")";
     Alte.push_back({Punktzeile(*this, "AlterPunkt", Index, {i + 1, 0}, RahmenAlte),
                     ErgebnisfeldAnlegen("AlterPunktBem" + Index, {i + 1, 5}, RahmenAlte, 9)});
+    Alte.back().Zeile.PlatzHalten();
     Alte.back().Bem.Rechtsbündig = false;
   }
   // Behind all numbers, so that Tab leads from number to number.
@@ -38,6 +39,7 @@ TVDMittForm::TVDMittForm() : Punktform("TVDMittForm") {
     A.Löschen = &KnopfAnlegen(
         "AlterPunktLöschen(" + std::to_string(i) + ")", "Löschen", [this, i] { AlterPunktLöschen(i); },
         {static_cast<int>(i) + 1, 6}, RahmenAlte);
+    A.Löschen->PlatzHalten = true;
   }
   Weitere = &BeschriftungAnlegen("", {GrößteGruppe + 1, 0, 5}, RahmenAlte);
   Neuer.emplace(*this, "NeuerPunkt", "", Platz{0, 0}, RahmenNeuer, "Symbol");

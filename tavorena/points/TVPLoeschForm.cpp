@@ -47,7 +47,7 @@ TVPLoeschForm::TVPLoeschForm()
   KnopfAnlegen(
       "LoeschBereichHinzu", "Bereich hin&zu", [this] { BereichHinzu(); }, {1, 4}, RahmenPunkt);
   KnopfAnlegen(
-      "LoeschSelektion", "P&unktselektion ...", [this] { SelektionHinzu(); }, {0, 5}, RahmenPunkt);
+      "LoeschSelektion", "&Punktselektion ...", [this] { SelektionHinzu(); }, {0, 5}, RahmenPunkt);
   Liste.Markenspalte = 0;
   Liste.NurLesen = true;
   Liste.Hilfe = "Leertaste, Return und Klick wählen: nur Punkte mit \"*\" werden gelöscht";

@@ -33,8 +33,9 @@ TVPMittForm::TVPMittForm(Mittelart Welche) : Punktform("TVPMittForm"), Art(Welch
   for (int i = 0; i < GrößteGruppe; ++i) {
     const std::string Index = "(" + std::to_string(i) + ")";
     Alte.push_back({Punktzeile(*this, "AlterPunkt", Index, {i + 1, 0}, RahmenAlte),
-                    ErgebnisfeldAnlegen("AlterPunktDs" + Index, {i + 1, 5}, RahmenAlte, 9),
-                    ErgebnisfeldAnlegen("AlterPunktBem" + Index, {i + 1, 6}, RahmenAlte, 9)});
+                    ErgebnisfeldAnlegen("AlterPunktDs" + Index, {i + 1, 5}, RahmenAlte, 8),
+                    ErgebnisfeldAnlegen("AlterPunktBem" + Index, {i + 1, 6}, RahmenAlte, 8)});
+    Alte.back().Zeile.PlatzHalten();
     Alte.back().Bem.Rechtsbündig = false;
   }
   NeuenPunktAnlegen();
@@ -47,6 +48,7 @@ TVPMittForm::TVPMittForm(Mittelart Welche) : Punktform("TVPMittForm"), Art(Welch
     A.Wegnehmen = &KnopfAnlegen(
         "AlterPunktWegnehmen(" + std::to_string(i) + ")", "Wegnehmen", [this, i] { pmittwegnehmen(i); },
         {static_cast<int>(i) + 1, 7}, RahmenAlte);
+    A.Wegnehmen->PlatzHalten = true;
   }
   KnopfAnlegen("PunktErzeugen", "&Punkt erzeugen", [this] { PunktErzeugen(); });
   RückgängigAnlegen("PMittRückgängig", {0, 1});
