@@ -324,29 +324,50 @@ bool FormularAnsicht::Kopieren(const Steuerelement& S, const QKeyEvent& Ereignis
   return IstKopieren && !Text.isEmpty();
 }
 
-// The first column of each line becomes a row, taken as if it had been typed; the first that is refused ends
-// it. A single line is only typed.
+// Each line becomes a row, its words taken as if they had been typed, with Return behind each; the first that
+// is refused ends it. Where one column alone is typed into, only the first word counts. A single word is only
+// typed.
 bool FormularAnsicht::Einfügen(Gitter& G, const QString& Text) {
-  QStringList Nummern;
+  const auto Eingaben =
+      std::count_if(G.Spalten.begin(), G.Spalten.end(), [](const auto& S) { return S.Eingabe; });
+  QList<QStringList> Zeilen;
   for (const QString& Zeile : Text.split('\n')) {
-    const QString Nummer = Zeile.section('\t', 0, 0).trimmed();
-    if (!Nummer.isEmpty()) Nummern << Nummer;
+    const bool Worte = Eingaben > 1 && !Zeile.contains('\t');
+    const QStringList Teile = Worte ? Zeile.simplified().split(' ') : Zeile.split('\t');
+    if (!Teile.first().trimmed().isEmpty())
+      Zeilen << Teile.first(std::min(Teile.size(), qsizetype(Eingaben)));
   }
-  if (Nummern.size() < 2 && !Text.contains('\t')) return false;
+  const bool Mehrere = Zeilen.size() > 1 || Text.contains('\t');
+  if (!Mehrere && (Zeilen.isEmpty() || Zeilen[0].size() < 2 || !G.NimmtZeilen)) return false;
+  if (!G.NimmtZeilen) {
+    StatusHilfeSetzen("Hier werden keine Zeilen eingefügt");
+    return true;
+  }
+  if (Eingaben == 1 && Zeilen.size() == 1) {
+    Modell->Tippen(G, Zeilen[0][0].trimmed().toStdString());
+    return true;
+  }
+  if (Eingaben > 1) Modell->ZelleWechseln(G, G.Zeilen() - 1, 0);  // what stands above is not typed over
   int Anzahl = 0;
-  for (const QString& Nummer : Nummern) {
-    if (Modell == nullptr || Modell->Fokus() != &G) break;
-    const int Vorher = G.Zeile;
-    Modell->Tippen(G, Nummer.toStdString());
-    if (Nummern.size() == 1) return true;
-    Modell->TasteDrücken(Taste::Return);
-    if (G.Zeile == Vorher) break;
-    ++Anzahl;
-  }
+  while (Anzahl < Zeilen.size() && ZeileTippen(G, Zeilen[Anzahl])) ++Anzahl;
   FokusZeigen();
   FokusMarkieren();
   StatusHilfeSetzen(Anzahl == 1 ? "1 Zeile eingefügt" : std::to_string(Anzahl) + " Zeilen eingefügt");
   return true;
+}
+
+// @return false: one of the words, or the row, was refused
+bool FormularAnsicht::ZeileTippen(Gitter& G, const QStringList& Worte) {
+  const int Zeile = G.Zeile;
+  for (qsizetype i = 0; Modell != nullptr && Modell->Fokus() == &G; ++i) {
+    const QString Wort = i < Worte.size() ? Worte[i].trimmed() : "";
+    if (!Wort.isEmpty()) Modell->Tippen(G, Wort.toStdString());
+    const int Spalte = G.Spalte;
+    Modell->TasteDrücken(Taste::Return);
+    if (G.Zeile != Zeile) return true;
+    if (G.Spalte <= Spalte) return false;
+  }
+  return false;
 }
 
 void FormularAnsicht::PunktNehmen(const std::string& Pnr) {
@@ -379,11 +400,14 @@ void FormularAnsicht::FokusMarkieren() {
   if (auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(*Modell->Fokus()))) Zeile->selectAll();
 }
 
+// In a row it leads through the cells that are typed into, then out of the grid.
 bool FormularAnsicht::TabWeiter(Steuerelement& S, bool Vor) {
-  // From typed cell to typed cell first.
-  if (auto* G = dynamic_cast<Gitter*>(&S);
-      G != nullptr && G->ZelleOffen() && G->Eingabespalte(Vor ? 1 : -1) >= 0) {
-    Modell->ZelleWechseln(*G, G->Zeile, G->Eingabespalte(Vor ? 1 : -1));
+  auto* G = dynamic_cast<Gitter*>(&S);
+  const int Spalte =
+      G != nullptr && Modell != nullptr && G->ZelleOffen() ? G->Eingabespalte(Vor ? 1 : -1) : -1;
+  if (Spalte >= 0) {
+    const QScopedValueRollback Liest(Lesetiefe, Lesetiefe + 1);
+    Modell->ZelleWechseln(*G, G->Zeile, Spalte);
     FokusZeigen();
     FokusMarkieren();
     return true;

@@ -69,6 +69,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   [[nodiscard]] bool Zurücknehmen(const QLineEdit* Zeile);
   [[nodiscard]] bool Kopieren(const Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool Einfügen(Gitter& G, const QString& Text);
+  [[nodiscard]] bool ZeileTippen(Gitter& G, const QStringList& Worte);
   [[nodiscard]] Gitteransicht& Tabelle(const Gitter& G) const;
   [[nodiscard]] bool ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool TabWeiter(Steuerelement& S, bool Vor);

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -21,6 +22,7 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Hauptfenster.h>
@@ -48,13 +50,15 @@ class Dialogfenster final : public QDialog {
     setMinimumWidth(Zeichenbreite(font(), 45));  // the title is to be read
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
-    Ansicht->BeiGeschlossen = [this] { QDialog::accept(); };
-    // A list is to be seen in more than a few rows.
-    if (findChild<Gitteransicht*>() != nullptr)
-      resize(sizeHint().width(), std::max(sizeHint().height(), Eltern->window()->height() * 3 / 4));
+    setObjectName(Ansicht->objectName() + "Fenster");
+    Ansicht->BeiGeschlossen = [this] {
+      PlatzMerken();
+      QDialog::accept();
+    };
   }
 
   void Zeigen() {
+    PlatzNehmen();
     show();
     Form.Öffnen();
     Ansicht->FokusZeigen();
@@ -66,6 +70,29 @@ class Dialogfenster final : public QDialog {
   }
 
  private:
+  // A dialog with a grid stands over the work area, beside the graphics view, and keeps its size.
+  void PlatzNehmen() {
+    auto* Gitter = Ansicht->findChild<Gitteransicht*>();
+    const auto* Fenster = qobject_cast<QMainWindow*>(parentWidget());
+    if (Gitter == nullptr || Fenster == nullptr) return;
+    const Fensterplatz Platz;
+    const QString Name = objectName();
+    const QSize Letzte = Platz.Größe(Name + "/Größe");
+    const int Titelhöhe = 40;
+    const QSize Wunsch(sizeHint().width(), Fenster->centralWidget()->height() - Titelhöhe);
+    resize((Letzte.isEmpty() ? Wunsch : Letzte).boundedTo(screen()->availableSize() - QSize(20, 60)));
+    move(Fenster->centralWidget()->mapToGlobal(QPoint(0, 0)));
+    Gitter->BreitenSetzen(Platz.Zahlen(Name + "/Spalten"));
+  }
+
+  void PlatzMerken() const {
+    const auto* Gitter = Ansicht->findChild<Gitteransicht*>();
+    if (Gitter == nullptr) return;
+    Fensterplatz Platz;
+    Platz.Merken(objectName() + "/Größe", size());
+    Platz.Merken(objectName() + "/Spalten", Gitter->Breiten());
+  }
+
   Formular& Form;
   FormularAnsicht* Ansicht;
 };

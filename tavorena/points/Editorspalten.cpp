@@ -46,13 +46,13 @@ std::string NummerNehmen(const std::string& Text, Punktsatz& P) {
 }
 
 Editorspalte Längenspalte(const char* Titel, int Zeichen, double Punktsatz::*Wert, double KorSatz::*Gezeigt) {
-  return {Titel, Zeichen, true, [Gezeigt](const KorSatz& S) { return Längentext(S.*Gezeigt); },
+  return {Titel, Zeichen, [Gezeigt](const KorSatz& S) { return Längentext(S.*Gezeigt); },
           [Wert](const std::string& Text, Punktsatz& P) { return LängeNehmen(Text, P.*Wert); }};
 }
 
 // @param[in] Größte  that the file has room for
 Editorspalte Zahlspalte(const char* Titel, std::int16_t KorInfoSatz::*Wert, int Größte) {
-  return {Titel, 10, true, [Wert](const KorSatz& S) { return std::to_string(S.Info->*Wert); },
+  return {Titel, 10, [Wert](const KorSatz& S) { return std::to_string(S.Info->*Wert); },
           [Wert, Größte](const std::string& Text, Punktsatz& P) -> std::string {
             const bool Ziffern =
                 std::all_of(Text.begin(), Text.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -65,7 +65,7 @@ Editorspalte Zahlspalte(const char* Titel, std::int16_t KorInfoSatz::*Wert, int 
 
 // @param[in] Zeichen  that the file has room for
 Editorspalte Wortspalte(const char* Titel, std::string KorInfoSatz::*Wert, std::size_t Zeichen) {
-  return {Titel, 10, false, [Wert](const KorSatz& S) { return S.Info->*Wert; },
+  return {Titel, 10, [Wert](const KorSatz& S) { return S.Info->*Wert; },
           [Wert, Zeichen](const std::string& Text, Punktsatz& P) -> std::string {
             if (!IstWort(Text)) return "mit Leerzeichen";
             if (ZeichenAnzahl(Text) > Zeichen) return "höchstens " + std::to_string(Zeichen) + " Zeichen";
@@ -89,7 +89,7 @@ Editorspalte Punktartspalte() {
 }
 
 Editorspalte Bemerkungsspalte() {
-  return {"Bem.zur Verm.", 14, true, [](const KorSatz& S) { return ZahlNachText(S.Info->BemZurVerm).Text(); },
+  return {"Bem.zur Verm.", 14, [](const KorSatz& S) { return ZahlNachText(S.Info->BemZurVerm).Text(); },
           [](const std::string& Text, Punktsatz& P) -> std::string {
             const double Zahl = ZahlAusText(Text);
             if ((!Text.empty() && !IstZahlwort(Text)) || !std::isfinite(Zahl)) return "keine Zahl";
@@ -103,12 +103,12 @@ Editorspalte Bemerkungsspalte() {
 std::vector<Editorspalte> Editorspalten(Dateiformat Format) {
   const int Breite = Vorkomma + Nachkomma() + 3;
   std::vector<Editorspalte> Alle = {
-      {"Punktnr.", PnrZeichen, true, [](const KorSatz& S) { return std::string(TrimmenSicht(S.Pnr)); },
+      {"Punktnr.", PnrZeichen, [](const KorSatz& S) { return std::string(TrimmenSicht(S.Pnr)); },
        NummerNehmen},
       Längenspalte("Rechts", Breite, &Punktsatz::Rechts, &KorSatz::Rechts),
       Längenspalte("Hoch", Breite, &Punktsatz::Hoch, &KorSatz::Hoch),
       Längenspalte("Höhe", Breite - 2, &Punktsatz::Hoehe, &KorSatz::Hoehe),
-      {"Symbol", 8, false, [](const KorSatz& S) { return std::string(S.Symbol); }, SymbolNehmen},
+      {"Symbol", 8, [](const KorSatz& S) { return std::string(S.Symbol); }, SymbolNehmen},
   };
   Alle[EditorHoehe].Text = [](const KorSatz& S) { return S.Hoehe == 0 ? "" : Längentext(S.Hoehe); };
   Alle[EditorHoehe].Nehmen = [](const std::string& Text, Punktsatz& P) {

@@ -13,7 +13,6 @@ namespace tavorena {
 struct Editorspalte {
   const char* Titel;
   int Zeichen;
-  bool Rechtsbündig;
   std::function<std::string(const KorSatz&)> Text;
   /// Takes a text, trimmed, into the point. @return "" or, where the point stays as it was, what is wrong
   std::function<std::string(const std::string& Text, Punktsatz& P)> Nehmen;

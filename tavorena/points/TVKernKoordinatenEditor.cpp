@@ -43,7 +43,7 @@ TVKernKoordinatenEditor::TVKernKoordinatenEditor(Editormodus Wie)
     Such->BeiReturn = [this] { GeheZu(Trimmen(*Such->Text)); };
   }
   std::vector<Gitterspalte> Köpfe;
-  for (const Editorspalte& S : Spalten) Köpfe.push_back({S.Titel, S.Zeichen, true, S.Rechtsbündig});
+  for (const Editorspalte& S : Spalten) Köpfe.push_back({S.Titel, S.Zeichen, true});
   Zellen = &GitterAnlegen("EditorGitter", std::move(Köpfe), {1, 0}, "Punkte");
   Zellen->IstPnr = true;
   Zellen->NurLesen = Modus == Editormodus::Ansicht;

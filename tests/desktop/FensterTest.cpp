@@ -445,6 +445,44 @@ class FensterTest final : public Fensterumgebung {
     QCOMPARE(Ablage->text(), QString("-45.000"));
     zelleSteht(1);
   }
+
+  // New points typed and pasted, then one of them found and changed; what was open meanwhile is closed again.
+  void koordinatenEingebenUndEditieren() {
+    Öffne();
+    Menü("MenüKatasterKorein");
+    QTRY_COMPARE(FokusName(), QString("EditorGitterFeld"));
+    Tippe("3001\n3500110\n");
+    Drücke(Qt::Key_Tab);
+    Drücke(Qt::Key_Backtab, Qt::ShiftModifier);
+    Tippe("5600210\n\n015\n");
+    QApplication::clipboard()->setText(
+        "3002\t3500111\t5600211\t12.5\t\r\n  3003   3500112.000   5600212.000\r\n"
+        "3004 x 5600213\r\n3005 3500114 5600214\r\n");
+    Antworte(Qt::Key_O);
+    Drücke(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(KorAnzahl, 8);
+    QTRY_COMPARE(FokusName(), QString("EditorGitterFeld"));
+    QCOMPARE(Feldtext(), QString("x"));  // refused: it stays, and what is behind it stays away
+    Drücke(Qt::Key_L, Qt::AltModifier);
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
+    auto* Lesen = Fenster->findChild<QAction*>("ImageOptionen");
+    Dialoge.push_back([&] {
+      QTRY_COMPARE(FokusName(), QString("EditorGitterFeld"));
+      QVERIFY(!Lesen->isEnabled());
+      Drücke(Qt::Key_E, Qt::AltModifier);
+      Tippe("3002\n");
+      QTRY_COMPARE(Feldtext(), QString("3002"));
+      Drücke(Qt::Key_Tab);
+      Tippe("3500120\n");
+      Drücke(Qt::Key_End, Qt::ControlModifier);
+      Drücke(Qt::Key_S, Qt::AltModifier);
+    });
+    Menü("MenüBearbeitenEditieren");
+    QTRY_VERIFY(Dialoge.empty() && Lesen->isEnabled());
+    QCOMPARE(KorRechts[static_cast<std::size_t>(KorSuche(std::string_view("3002")))], 3500120.0);
+    QCOMPARE(Inhalt(Pfad("a.dru")).count("VR 25.10"), 1);
+  }
 };
 
 QTEST_MAIN(FensterTest)
