@@ -71,10 +71,20 @@ GrafikBild::GrafikBild(QWidget* Eltern) : QWidget(Eltern) {
 }
 
 // While something long runs a picture now and then is enough: it must not take the time of the work.
-void GrafikBild::Veralten() {
-  Veraltet = true;
-  if (!Stapel.RechnetZeilen && !TVKernMDIForm::Fenster().IstBeschäftigt()) return update();
+void GrafikBild::SpäterMalen(const QRect& Wo) {
+  if (!Stapel.RechnetZeilen && !TVKernMDIForm::Fenster().IstBeschäftigt()) return update(Wo);
   if (!Maluhr.isActive()) Maluhr.start();
+}
+
+void GrafikBild::Veralten(const std::optional<Grafikregion>& Wo) {
+  if (Wo) return SpäterMalen(Kacheln.Veralten(*Wo).toAlignedRect());
+  Kacheln.Veralten();
+  SpäterMalen(rect());
+}
+
+void GrafikBild::TabelleGeändert() {
+  Kacheln.Nachsehen();
+  SpäterMalen(rect());
 }
 
 void GrafikBild::GummiboxSetzen(bool An) {
@@ -83,20 +93,13 @@ void GrafikBild::GummiboxSetzen(bool An) {
   update();
 }
 
-void GrafikBild::paintEvent(QPaintEvent*) {
-  const QSize Größe = size() * devicePixelRatioF();
-  if (Gemaltes.size() != Größe) Veraltet = true;
-  if (Veraltet) {
-    Gemaltes = QPixmap(Größe);
-    Gemaltes.setDevicePixelRatio(devicePixelRatioF());
-    Gemaltes.fill(palette().color(QPalette::Base));
-    QPainter Maler(&Gemaltes);
-    Malfläche Fläche(Maler, palette());
-    GrafikZeichnen(Fläche);
-    Veraltet = false;
-  }
+void GrafikBild::paintEvent(QPaintEvent* Ereignis) {
   QPainter Maler(this);
-  Maler.drawPixmap(0, 0, Gemaltes);
+  Kacheln.Malen(Maler, Ereignis->rect(), devicePixelRatioF(), palette());
+  if (GrafikWahl.Maßstabsleiste) {
+    Malfläche Fläche(Maler, palette());
+    GrafikLeisteZeichnen(Fläche, GrafikFensterAusschnitt());
+  }
   if (Gezogen == Zug::Kasten) {
     Maler.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DashLine));
     Maler.drawRect(QRectF(Anfang, Zuletzt).normalized());
@@ -108,7 +111,7 @@ void GrafikBild::resizeEvent(QResizeEvent*) {
 }
 
 void GrafikBild::changeEvent(QEvent* Ereignis) {
-  if (Ereignis->type() == QEvent::PaletteChange || Ereignis->type() == QEvent::FontChange) Veralten();
+  if (Ereignis->type() == QEvent::PaletteChange || Ereignis->type() == QEvent::FontChange) Veralten({});
   QWidget::changeEvent(Ereignis);
 }
 
@@ -150,9 +153,14 @@ void GrafikBild::mousePressEvent(QMouseEvent* Ereignis) {
 }
 
 void GrafikBild::mouseMoveEvent(QMouseEvent* Ereignis) {
-  const QPointF Jetzt = Ereignis->position(), Weg = Jetzt - Zuletzt;
+  const QPointF Jetzt = Ereignis->position();
+  if (Gezogen == Zug::Schieben) {
+    // In whole pixels of the screen: the picture that is there moves.
+    const auto Ganz = [d = devicePixelRatioF()](double Weg) { return Twips(std::round(Weg * d) / d); };
+    const QPointF Weg = Jetzt - Anfang, Bisher = Zuletzt - Anfang;
+    GrafikSchieben(Ganz(Weg.x()) - Ganz(Bisher.x()), Ganz(Weg.y()) - Ganz(Bisher.y()));
+  }
   Zuletzt = Jetzt;
-  if (Gezogen == Zug::Schieben) GrafikSchieben(Twips(Weg.x()), Twips(Weg.y()));
   if (Gezogen == Zug::Kasten) update();
   double Rechts = 0, Hoch = 0;
   if (Welt(Jetzt, Rechts, Hoch)) StatusHilfeSetzen(GrafikOrtstext(Rechts, Hoch));
@@ -250,14 +258,16 @@ GrafikAnsicht::GrafikAnsicht(QWidget* Eltern)
   Gemälde->BeiEnde = [this] { Box->setChecked(false); };
   Balkenuhr.setSingleShot(true);
   connect(&Balkenuhr, &QTimer::timeout, this, &GrafikAnsicht::BalkenStellen);
-  GrafikBeiÄnderung = [this] {
-    Gemälde->Veralten();
+  GrafikBeiÄnderung = [this](const std::optional<Grafikregion>& Wo) { Gemälde->Veralten(Wo); };
+  GrafikBeiFenster = [this] {
+    Gemälde->SpäterMalen(Gemälde->rect());
     if (!Balkenuhr.isActive()) Balkenuhr.start();
   };
 }
 
 GrafikAnsicht::~GrafikAnsicht() {
   GrafikBeiÄnderung = {};
+  GrafikBeiFenster = {};
   GrafikFenster.GrafikOffen = false;
 }
 
@@ -321,7 +331,7 @@ void GrafikAnsicht::Nachsehen() {
   if (Stand == KorStand) return;
   Stand = KorStand;
   if (std::exchange(WarLeer, KorAnzahl == 0) && KorAnzahl > 0) GrafikZoomAnpassen();
-  Gemälde->Veralten();
+  Gemälde->TabelleGeändert();
 }
 
 bool GrafikAnsicht::Verlassen() {

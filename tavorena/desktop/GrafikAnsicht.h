@@ -2,12 +2,14 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
-#include <QPixmap>
 #include <QPoint>
 #include <QTimer>
 #include <QWidget>
+
+#include <tavorena/desktop/Bildkacheln.h>
 
 class QAction;
 class QScrollBar;
@@ -29,8 +31,11 @@ class GrafikBild final : public QWidget {
   /// The next left drag spans a rubber box.
   void GummiboxSetzen(bool An);
   [[nodiscard]] bool Gummibox() const { return MitGummibox; }
-  /// The model, the table or the palette changed.
-  void Veralten();
+  /// Elements or the palette changed: in a region, or everywhere.
+  void Veralten(const std::optional<Grafikregion>& Wo);
+  void TabelleGeändert();
+  /// Shows a part of the picture anew with what is drawn of it.
+  void SpäterMalen(const QRect& Wo);
 
  protected:
   void paintEvent(QPaintEvent* Ereignis) override;
@@ -51,8 +56,7 @@ class GrafikBild final : public QWidget {
   void Klicken(QPointF Stelle);
   [[nodiscard]] bool TippZeigen(QPoint Stelle, QPoint Global);
 
-  QPixmap Gemaltes;
-  bool Veraltet = true;
+  Bildkacheln Kacheln;
   QTimer Maluhr;  // of the next picture while something long runs
   bool MitGummibox = false;
   Zug Gezogen = Zug::Keiner;

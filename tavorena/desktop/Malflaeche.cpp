@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include <QPainter>
 #include <QPainterPath>
@@ -36,8 +37,10 @@ void Malfläche::StiftSetzen(int Farbe, Strich Stil) {
   if (Farbe == LetzteFarbe && Stil == LetzterStil) return;
   LetzteFarbe = Farbe;
   LetzterStil = Stil;
-  Maler.setPen(
-      QPen(FarbeVon(Farbe), Strichbreite, Stil == Strich::Gestrichelt ? Qt::DashLine : Qt::SolidLine));
+  QPen Stift(FarbeVon(Farbe), Strichbreite);
+  if (Stil == Strich::Gestrichelt)  // in widths of the pen
+    Stift.setDashPattern({Einheit(Strichlänge) / Strichbreite, Einheit(Strichlücke) / Strichbreite});
+  Maler.setPen(Stift);
 }
 
 void Malfläche::Linie(double x1, double y1, double x2, double y2, int Farbe, Strich Stil) {
@@ -69,10 +72,19 @@ void Malfläche::Text(double x, double y, std::string_view Inhalt, int Schriftgr
     Schrift.setPointSize(Schriftgrad);
     Maler.setFont(Schrift);
     LetzterGrad = Schriftgrad;
+    const QFontMetricsF Maß = Maler.fontMetrics();
+    Tiefe = (Maß.ascent() - Maß.descent()) / 2;
   }
-  const QFontMetricsF Maß = Maler.fontMetrics();
-  Maler.drawText(QPointF(Einheit(x), Einheit(y) + (Maß.ascent() - Maß.descent()) / 2),
+  // On whole pixels, and surely not a rounding below them: sharp, and the same wherever it is drawn again.
+  const QTransform& T = Maler.deviceTransform();
+  const auto Ganz = [](double Stelle, double Maß) { return (std::floor(Stelle * Maß + 0.5) + 0.01) / Maß; };
+  Maler.drawText(QPointF(Ganz(Einheit(x), T.m11()), Ganz(Einheit(y) + Tiefe, T.m22())),
                  QString::fromUtf8(Inhalt.data(), static_cast<qsizetype>(Inhalt.size())));
+}
+
+void Malfläche::Begrenzen(double x, double y, double Breite, double Hoehe) {
+  if (Breite == 0) return Maler.setClipping(false);
+  Maler.setClipRect(QRectF(Einheit(x), Einheit(y), Einheit(Breite), Einheit(Hoehe)));
 }
 
 }  // namespace tavorena

@@ -20,6 +20,7 @@ class Malfläche final : public Zeichenfläche {
   void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe) override;
   void Scheibe(double x, double y, double Radius, int Farbe) override;
   void Text(double x, double y, std::string_view Inhalt, int Schriftgrad, int Farbe) override;
+  void Begrenzen(double x, double y, double Breite, double Hoehe) override;
 
  private:
   [[nodiscard]] QColor FarbeVon(int Farbe) const;
@@ -28,6 +29,7 @@ class Malfläche final : public Zeichenfläche {
   QPainter& Maler;
   QColor Vordergrund, Hintergrund;
   int LetzteFarbe = -1, LetzterGrad = 0;
+  double Tiefe = 0;  // of the line of the letters below the middle, in the last font
   Strich LetzterStil = Strich::Durchgezogen;
 };
 

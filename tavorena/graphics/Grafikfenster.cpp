@@ -3,15 +3,19 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/graphics/Grafikfenster.h>
-#include <tavorena/graphics/Grafikmodul.h>
 
 namespace tavorena {
 
 Grafikzustand GrafikFenster;
+std::function<void()> GrafikBeiFenster;
 
 namespace {
 
 constexpr double Fangradius = 100;  // twips
+
+void FensterMelden() {
+  if (GrafikBeiFenster) GrafikBeiFenster();
+}
 
 // Takes a window over; its height follows from the form of the picture.
 void FensterSetzen(double Rechts, double Hoch, double Breite) {
@@ -22,7 +26,7 @@ void FensterSetzen(double Rechts, double Hoch, double Breite) {
   G.FensterBreite = Breite;
   G.Massstab = G.BildBreite / Breite;
   G.FensterHoehe = G.BildHoehe / G.Massstab;
-  GrafikNeuZeichnen();
+  FensterMelden();
 }
 
 // The window between two corners of the picture that have its form.
@@ -49,6 +53,11 @@ void AchseAnpassen(double& Von, double& Bis) {
 
 }  // namespace
 
+Bildausschnitt GrafikFensterAusschnitt() {
+  const Grafikzustand& G = GrafikFenster;
+  return {G.FensterRechts, G.FensterHoch, G.Massstab, G.BildBreite, G.BildHoehe};
+}
+
 void GrafikFensterMerken() { GrafikFenster.Gemerkt = GrafikFenster.Massstab != 0; }
 
 void GrafikÖffnen(double Breite, double Hoehe) {
@@ -67,7 +76,7 @@ void GrafikGrößeSetzen(double Breite, double Hoehe) {
   if (G.Massstab == 0) return GrafikZoomAnpassen();
   G.FensterBreite = Breite / G.Massstab;
   G.FensterHoehe = Hoehe / G.Massstab;
-  GrafikNeuZeichnen();
+  FensterMelden();
 }
 
 void GrafikSchließen() { GrafikFenster.GrafikOffen = false; }
@@ -95,7 +104,7 @@ void GrafikZoomAnpassen() {
   G.Massstab = Massstab;
   G.FensterBreite = G.BildBreite / Massstab;
   G.FensterHoehe = G.BildHoehe / Massstab;
-  GrafikNeuZeichnen();
+  FensterMelden();
 }
 
 void GrafikWeltAusPixel(double x, double y, double& Rechts, double& Hoch) {

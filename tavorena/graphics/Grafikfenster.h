@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 // The window of the graphics view: which part of the world it shows, and at which scale. World coordinates in
 // metres, Rechts = east, Hoch = north; picture units are twips, 15 to a logical pixel, y downwards.
 
@@ -13,6 +15,22 @@ struct Weltfenster {
   double Breite = 0, Höhe = 0;
 };
 
+/// A part of the world in a rectangle of what is drawn upon: the window, a piece of it, or the map of a page.
+struct Bildausschnitt {
+  double Rechts = 0, Hoch = 0;   ///< the world at its lower left corner, before it is moved [m]
+  double Massstab = 0;           ///< twips per metre
+  double Breite = 0, Hoehe = 0;  ///< [twips]
+  double Links = 0, Oben = 0;    ///< its upper left corner [twips]
+  /// The world moved in it, to the right and downwards [twips]: exactly the same picture elsewhere, which
+  /// another corner would not be.
+  double SchubX = 0, SchubY = 0;
+
+  [[nodiscard]] double x(double R) const { return Links + SchubX + (R - Rechts) * Massstab; }
+  [[nodiscard]] double y(double H) const { return Oben + Hoehe + SchubY - (H - Hoch) * Massstab; }
+  [[nodiscard]] double RechtsVon() const { return Rechts - SchubX / Massstab; }
+  [[nodiscard]] double HochVon() const { return Hoch + SchubY / Massstab; }
+};
+
 /// State of the view. Start value: {}.
 struct Grafikzustand {
   bool GrafikOffen = false;              ///< somebody shows the view
@@ -24,6 +42,12 @@ struct Grafikzustand {
   bool Gemerkt = false;  ///< the window is to come back when the view opens again
 };
 extern Grafikzustand GrafikFenster;
+
+/// What the window shows, as it stands in its picture.
+[[nodiscard]] Bildausschnitt GrafikFensterAusschnitt();
+
+/// Whoever shows the view: its window shows another part of the world, or has another size.
+extern std::function<void()> GrafikBeiFenster;
 
 /// Keeps the window for the next time that the view opens.
 void GrafikFensterMerken();

@@ -1,41 +1,47 @@
 #include <algorithm>
 #include <cmath>
 
-#include <tavorena/core/Geschuetzt.h>
-#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Winkel.h>
-#include <tavorena/core/Zahlen.h>
-#include <tavorena/graphics/Grafikfenster.h>
+#include <tavorena/graphics/Grafikinhalt.h>
 #include <tavorena/graphics/Grafikmodul.h>
-#include <tavorena/graphics/Nummernwahl.h>
-#include <tavorena/graphics/Punktindex.h>
 #include <tavorena/graphics/Punktzeichen.h>
 
 namespace tavorena {
 
 bool GrafikUngesichert = false;
 Grafikwahl GrafikWahl;
-std::function<void()> GrafikBeiÄnderung;
+std::function<void(const std::optional<Grafikregion>& Wo)> GrafikBeiÄnderung;
+Grafikinhalt Grafikbestand;
 
 namespace {
 
-constexpr int Schriftgrad = 8;         // points
-constexpr double Leistenlänge = 2400;  // twips that the scale bar may take
-constexpr double Leistenrand = 300;    // twips from the corner
+// Where an element is drawn.
+Grafikregion Region(const GrafikLinie& L) {
+  return {std::min(L.Rechts1, L.Rechts2), std::min(L.Hoch1, L.Hoch2), std::max(L.Rechts1, L.Rechts2),
+          std::max(L.Hoch1, L.Hoch2), Zeichenradius};
+}
+Grafikregion Region(const GrafikBogen& B) {
+  const double r = std::fabs(B.Radius);
+  return {B.Rechts - r, B.Hoch - r, B.Rechts + r, B.Hoch + r, Zeichenradius};
+}
+Grafikregion Region(const GrafikText& T) {
+  return {
+      T.Rechts, T.Hoch, T.Rechts, T.Hoch, Textreichweite(T.Schriftgrad), Textbreite(T.Text, T.Schriftgrad)};
+}
+Grafikregion Region(const GrafikMarke& M) {
+  return {
+      M.Rechts, M.Hoch, M.Rechts, M.Hoch, Nummernreichweite, Nummernabstand + Textbreite(M.Pnr, Nummerngrad)};
+}
 
-struct {
-  Elementspeicher<GrafikLinie> Linien;
-  Elementspeicher<GrafikBogen> Bogen;
-  Elementspeicher<GrafikText> Texte;
-  Elementspeicher<GrafikMarke> Marken;
-  Punktindex Index;
-  Nummernwahl Wahl;
-} Bild;
+template <typename Element>
+void Melden(const Element& E) {
+  if (GrafikBeiÄnderung) GrafikBeiÄnderung(Region(E));
+}
 
 template <typename Element>
 int Hinzu(Elementspeicher<Element>& Speicher, const Element& Neu) {
   const int Handle = Speicher.Hinzu(Neu);
-  GrafikNeuZeichnen();
+  Melden(Neu);
   return Handle;
 }
 
@@ -52,7 +58,11 @@ int FreiHinzu(Elementspeicher<Element>& Speicher, const Element& Neu) {
 
 template <typename Element>
 void Weg(Elementspeicher<Element>& Speicher, int Handle) {
-  if (Speicher.Weg(Handle) == 0) GrafikNeuZeichnen();
+  const Element* const Altes = Speicher.Finde(Handle);
+  if (Altes == nullptr) return;
+  const Element Kopie = *Altes;
+  static_cast<void>(Speicher.Weg(Handle));
+  Melden(Kopie);
 }
 
 template <typename Element>
@@ -82,102 +92,31 @@ double AbstandBogen(const GrafikBogen& B, double R, double H) {
   return std::min(Zu(B.Anfang), Zu(B.Ende));
 }
 
-// Cuts a line to the picture, whose painter would walk along all of it. @return false: nothing is left
-bool Stutzen(double& x1, double& y1, double& x2, double& y2) {
-  const double dx = x2 - x1, dy = y2 - y1;
-  const double Weg[] = {-dx, dx, -dy, dy};
-  const double Platz[] = {x1 + Zeichenradius, GrafikFenster.BildBreite + Zeichenradius - x1,
-                          y1 + Zeichenradius, GrafikFenster.BildHoehe + Zeichenradius - y1};
-  double Von = 0, Bis = 1;
-  for (int i = 0; i < 4; ++i) {
-    if (Weg[i] == 0 && Platz[i] < 0) return false;
-    if (Weg[i] < 0) Von = std::max(Von, Platz[i] / Weg[i]);
-    if (Weg[i] > 0) Bis = std::min(Bis, Platz[i] / Weg[i]);
-  }
-  if (!(Von <= Bis)) return false;
-  x2 = x1 + Bis * dx;
-  y2 = y1 + Bis * dy;
-  x1 += Von * dx;
-  y1 += Von * dy;
-  return true;
-}
-
-void LinieZeichnen(Zeichenfläche& Auf, const GrafikLinie& L) {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-  GrafikPixelAusWelt(L.Rechts1, L.Hoch1, x1, y1);
-  GrafikPixelAusWelt(L.Rechts2, L.Hoch2, x2, y2);
-  if (Stutzen(x1, y1, x2, y2)) Auf.Linie(x1, y1, x2, y2, L.Farbe, L.Stil);
-}
-
-void BogenZeichnen(Zeichenfläche& Auf, const GrafikBogen& B) {
-  double x = 0, y = 0;
-  GrafikPixelAusWelt(B.Rechts, B.Hoch, x, y);
-  const Grafikzustand& G = GrafikFenster;
-  const double r = B.Radius * G.Massstab;
-  if (x + r < 0 || x - r > G.BildBreite || y + r < 0 || y - r > G.BildHoehe) return;
-  Auf.Bogen(x, y, r, B.Anfang, B.Ende, B.Farbe);
-}
-
-void TextZeichnen(Zeichenfläche& Auf, const GrafikText& T) {
-  double x = 0, y = 0;
-  GrafikPixelAusWelt(T.Rechts, T.Hoch, x, y);
-  Auf.Text(x, y, T.Text, T.Schriftgrad, T.Farbe);
-}
-
-// The points of the table that the window shows. The longest number reaches in from the left.
-void PunkteZeichnen(Zeichenfläche& Auf) {
-  const Grafikzustand& G = GrafikFenster;
-  const double Rand = Zeichenradius / G.Massstab,
-               Links = GrafikWahl.Nummern ? (Nummernabstand + 20 * Nummernzeichen) / G.Massstab : Rand;
-  std::vector<int> Zeilen;
-  Bild.Index.Im(G.FensterRechts - Links, G.FensterHoch - Rand, G.FensterRechts + G.FensterBreite + Rand,
-                G.FensterHoch + G.FensterHoehe + Rand, Zeilen);
-  const std::vector<char>* const Frei =
-      GrafikWahl.Freistellen && GrafikWahl.Nummern ? &Bild.Wahl.Bei(G.Massstab) : nullptr;
-  for (const int z : Zeilen) {
-    const auto i = static_cast<std::size_t>(z);
-    const bool MitNummer = Frei == nullptr || (*Frei)[i] != 0;
-    GrafikPunktZeichnen(Auf, MitNummer ? KorPnr(z) : "", KorRechts[i], KorHoch[i], KorSymbol[i],
-                        FarbeSchwarz);
-  }
-}
-
-void LeisteZeichnen(Zeichenfläche& Auf) {
-  const double Länge = GrafikMaßstabslänge();
-  if (!GrafikWahl.Maßstabsleiste || Länge == 0) return;
-  const double x1 = Leistenrand, x2 = x1 + Länge * GrafikFenster.Massstab,
-               y = GrafikFenster.BildHoehe - Leistenrand;
-  for (const double x : {x1, x2}) Auf.Linie(x, y - Zeichenradius, x, y, FarbeSchwarz, Strich::Durchgezogen);
-  Auf.Linie(x1, y, x2, y, FarbeSchwarz, Strich::Durchgezogen);
-  const int Stellen = Länge < 1 ? static_cast<int>(std::ceil(-std::log10(Länge) - 1e-9)) : 0;
-  Auf.Text(x2 + Nummernabstand, y, ZahlFormat(Länge, -1, Stellen) + " m", Schriftgrad, FarbeSchwarz);
-}
-
 }  // namespace
 
-int GrafikLinieHinzu(const GrafikLinie& Linie) { return FreiHinzu(Bild.Linien, Linie); }
-int GrafikBogenHinzu(const GrafikBogen& Bogen) { return FreiHinzu(Bild.Bogen, Bogen); }
-int GrafikTextHinzu(const GrafikText& Text) { return Hinzu(Bild.Texte, Text); }
-int GrafikMarkeHinzu(const GrafikMarke& Marke) { return Hinzu(Bild.Marken, Marke); }
+int GrafikLinieHinzu(const GrafikLinie& Linie) { return FreiHinzu(Grafikbestand.Linien, Linie); }
+int GrafikBogenHinzu(const GrafikBogen& Bogen) { return FreiHinzu(Grafikbestand.Bogen, Bogen); }
+int GrafikTextHinzu(const GrafikText& Text) { return Hinzu(Grafikbestand.Texte, Text); }
+int GrafikMarkeHinzu(const GrafikMarke& Marke) { return Hinzu(Grafikbestand.Marken, Marke); }
 
-void GrafikLinieWeg(int Handle) { Weg(Bild.Linien, Handle); }
-void GrafikBogenWeg(int Handle) { Weg(Bild.Bogen, Handle); }
-void GrafikTextWeg(int Handle) { Weg(Bild.Texte, Handle); }
-void GrafikMarkeWeg(int Handle) { Weg(Bild.Marken, Handle); }
+void GrafikLinieWeg(int Handle) { Weg(Grafikbestand.Linien, Handle); }
+void GrafikBogenWeg(int Handle) { Weg(Grafikbestand.Bogen, Handle); }
+void GrafikTextWeg(int Handle) { Weg(Grafikbestand.Texte, Handle); }
+void GrafikMarkeWeg(int Handle) { Weg(Grafikbestand.Marken, Handle); }
 
-std::vector<GrafikLinie> GrafikFreieLinien() { return Freie(Bild.Linien); }
-std::vector<GrafikBogen> GrafikFreieBogen() { return Freie(Bild.Bogen); }
+std::vector<GrafikLinie> GrafikFreieLinien() { return Freie(Grafikbestand.Linien); }
+std::vector<GrafikBogen> GrafikFreieBogen() { return Freie(Grafikbestand.Bogen); }
 
 int GrafikFreiesWeg(double Rechts, double Hoch, double Toleranz) {
   int Linie = -1, Bogen = -1;
   double Nächster = Toleranz;
-  Bild.Linien.Jedes([&](int Handle, const GrafikLinie& L) {
+  Grafikbestand.Linien.Jedes([&](int Handle, const GrafikLinie& L) {
     const double Abstand = L.Frei ? AbstandStrecke(L, Rechts, Hoch) : Toleranz + 1;
     if (Abstand > Nächster || (Linie >= 0 && Abstand == Nächster)) return;
     Nächster = Abstand;
     Linie = Handle;
   });
-  Bild.Bogen.Jedes([&](int Handle, const GrafikBogen& B) {
+  Grafikbestand.Bogen.Jedes([&](int Handle, const GrafikBogen& B) {
     const double Abstand = B.Frei ? AbstandBogen(B, Rechts, Hoch) : Toleranz + 1;
     if (Abstand > Nächster || ((Linie >= 0 || Bogen >= 0) && Abstand == Nächster)) return;
     Nächster = Abstand;
@@ -194,60 +133,20 @@ int GrafikFreiesWeg(double Rechts, double Hoch, double Toleranz) {
 }
 
 void GrafikLeeren() {
-  Bild.Linien = {};
-  Bild.Bogen = {};
-  Bild.Texte = {};
-  Bild.Marken = {};
+  Grafikbestand.Linien = {};
+  Grafikbestand.Bogen = {};
+  Grafikbestand.Texte = {};
+  Grafikbestand.Marken = {};
   GrafikUngesichert = false;
   GrafikNeuZeichnen();
 }
 
-void GrafikPunktZeichnen(Zeichenfläche& Auf, const std::string& Pnr, double Rechts, double Hoch,
-                         const std::string& Symbol, int Farbe) {
-  const Grafikzustand& G = GrafikFenster;
-  if (G.Massstab == 0) return;
-  double x = 0, y = 0;
-  GrafikPixelAusWelt(Rechts, Hoch, x, y);
-  const bool MitNummer = GrafikWahl.Nummern && !Pnr.empty();
-  const double Reicht =
-      MitNummer ? Nummernabstand + static_cast<double>(Pnr.size()) * Nummernzeichen : Zeichenradius;
-  if (x + Reicht < 0 || x - Zeichenradius > G.BildBreite || y + Zeichenradius < 0 ||
-      y - Zeichenradius > G.BildHoehe)
-    return;
-  PunktzeichenZeichnen(Auf, x, y, Symbol, Farbe);
-  if (MitNummer) Auf.Text(x + Nummernabstand, y, Pnr, Schriftgrad, Farbe);
-}
-
-void GrafikZeichnen(Zeichenfläche& Auf) {
-  if (GrafikFenster.Massstab == 0) return;
-  static_cast<void>(Geschützt("Grafikmodul.GrafikPunktZeichnen", [&] {
-    Bild.Texte.Jedes([&](int, const GrafikText& T) { TextZeichnen(Auf, T); });
-    Bild.Linien.Jedes([&](int, const GrafikLinie& L) { LinieZeichnen(Auf, L); });
-    PunkteZeichnen(Auf);
-    Bild.Bogen.Jedes([&](int, const GrafikBogen& B) { BogenZeichnen(Auf, B); });
-    Bild.Marken.Jedes([&](int, const GrafikMarke& M) {
-      GrafikPunktZeichnen(Auf, M.Pnr, M.Rechts, M.Hoch, M.Symbol, M.Farbe);
-    });
-    LeisteZeichnen(Auf);
-  }));
-}
-
 void GrafikNeuZeichnen() {
-  if (GrafikBeiÄnderung) GrafikBeiÄnderung();
-}
-
-double GrafikMaßstabslänge() {
-  const double Höchstens = GrafikFenster.Massstab == 0 ? 0 : Leistenlänge / GrafikFenster.Massstab;
-  if (!(Höchstens > 0) || !std::isfinite(Höchstens)) return 0;
-  const double Zehner = std::pow(10, std::floor(std::log10(Höchstens)));
-  for (const double Faktor : {5.0, 2.0}) {
-    if (Faktor * Zehner <= Höchstens) return Faktor * Zehner;
-  }
-  return Zehner;
+  if (GrafikBeiÄnderung) GrafikBeiÄnderung({});
 }
 
 int GrafikPunktSuchen(double Rechts, double Hoch, double Toleranz) {
-  return Bild.Index.Erster(Rechts, Hoch, Toleranz);
+  return Grafikbestand.Index.Erster(Rechts, Hoch, Toleranz);
 }
 
 }  // namespace tavorena

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <tavorena/graphics/Elemente.h>
+#include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Zeichenflaeche.h>
 
 // What the view shows, and how it is drawn. Worksheets mark here what they do, whether somebody looks or not:
@@ -53,21 +55,36 @@ struct Grafikwahl {
 };
 extern Grafikwahl GrafikWahl;
 
-/// Draws one point: its sign, and its number to the right. One that reaches into the window nowhere is passed
-/// over.
-void GrafikPunktZeichnen(Zeichenfläche& Auf, const std::string& Pnr, double Rechts, double Hoch,
-                         const std::string& Symbol, int Farbe);
+/// Draws one point: its sign, and its number to the right. One that reaches nowhere into the part of the
+/// world that is drawn is passed over.
+void GrafikPunktZeichnen(Zeichenfläche& Auf, const Bildausschnitt& In, const std::string& Pnr, double Rechts,
+                         double Hoch, const std::string& Symbol, int Farbe);
 
-/// Draws all that the window shows, in this order: texts, lines, points, arcs, marks; the scale bar last.
+/// Draws what reaches into a part of the world, in this order: texts, lines, points, arcs, marks. What hangs
+/// over its edges is not cut there.
+void GrafikZeichnen(Zeichenfläche& Auf, const Bildausschnitt& In);
+
+/// Draws the scale bar at the lower left of a part of the world.
+void GrafikLeisteZeichnen(Zeichenfläche& Auf, const Bildausschnitt& In);
+
+/// Draws all that the window shows, the scale bar last, if it is wanted.
 void GrafikZeichnen(Zeichenfläche& Auf);
 
-/// Has the view drawn anew by whoever shows it.
+/// Where the drawing changed: a part of the world, and how far signs and numbers reach beyond it [twips].
+struct Grafikregion {
+  double RechtsVon = 0, HochVon = 0, RechtsBis = 0, HochBis = 0;
+  double Rand = 0;        ///< to all sides
+  double NachRechts = 0;  ///< to the right
+};
+
+/// Has everything drawn anew by whoever shows the view.
 void GrafikNeuZeichnen();
 
-/// Whoever shows the view: it is to be drawn anew.
-extern std::function<void()> GrafikBeiÄnderung;
+/// Whoever shows the view: a region of it is to be drawn anew, without one everything.
+extern std::function<void(const std::optional<Grafikregion>& Wo)> GrafikBeiÄnderung;
 
 /// Length of the scale bar [m], 1, 2 or 5 times a power of ten; 0 without a scale.
-[[nodiscard]] double GrafikMaßstabslänge();
+/// @param[in] Massstab  twips per metre
+[[nodiscard]] double GrafikMaßstabslänge(double Massstab);
 
 }  // namespace tavorena

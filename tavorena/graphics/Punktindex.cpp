@@ -9,7 +9,7 @@
 namespace tavorena {
 namespace {
 
-constexpr int Blattgröße = 16;
+constexpr int Blattgröße = 32;
 // A box is sure to lie inside or outside a circle only by more than what rounding moves a distance.
 constexpr double Sicherheit = 1e-8;
 
@@ -59,6 +59,7 @@ void Punktindex::Nachführen() {
   Gebaut = true;
   Folge.clear();
   Baum.clear();
+  Folge.reserve(Stelle(KorAnzahl));
   for (int z = 0; z < KorAnzahl; ++z) {
     const double R = KorRechts[Stelle(z)], H = KorHoch[Stelle(z)];
     if (std::isfinite(R) && std::isfinite(H)) Folge.push_back({R, H, z});

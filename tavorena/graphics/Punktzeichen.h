@@ -14,6 +14,9 @@ inline constexpr double Markenradius = 50;
 /// [twips].
 inline constexpr double Nummernabstand = 90, Nummernzeichen = 105, Nummernhöhe = 180;
 
+/// How far a number reaches above and below its middle at most, accents included, at 8 points [twips].
+inline constexpr double Nummernreichweite = 105;
+
 /// The sign of a symbol, its centre at the place: "MARK" a disc, "2" and "02" a small triangle, "25" and
 /// "025" a double circle; other codes by their number modulo 5 a circle, square, triangle, diamond or cross;
 /// a code without a number a cross.

@@ -339,6 +339,9 @@ class FensterTest final : public Fensterumgebung {
     QTest::mouseMove(Bild, Vorher + QPoint(20, -10));
     QTest::mouseRelease(Bild, Qt::MiddleButton, {}, Vorher + QPoint(20, -10));
     QVERIFY((Ort("2003") - Vorher - QPoint(20, -10)).manhattanLength() <= 1);
+    const QImage Verschoben = Bild->grab().toImage();  // the scale bar, too, as if it were drawn anew
+    Fenster->findChild<QAction*>("GrafZoomneu")->trigger();
+    QVERIFY(Bild->grab().toImage() == Verschoben);
     Drücke(Qt::Key_0, Qt::ControlModifier);
     QCOMPARE(Ort("2003"), Vorher);
     QTest::mousePress(Bild, Qt::LeftButton, Qt::ShiftModifier, QPoint(20, 20));
@@ -385,6 +388,53 @@ class FensterTest final : public Fensterumgebung {
     Menü("MenüDateiSchließen");
     QVERIFY(Inhalt(Pfad("a.dxf")).contains("LINE"));
     QVERIFY(!Bild->isVisible() && GrafikFreieLinien().empty());
+  }
+
+  // What was drawn before and only moved or mended looks as if all were drawn anew, on every screen.
+  void grafikBleibtPixelgleich() {
+    Öffne();
+    GrafikWahl.Nummern = true;
+    GrafikLinieHinzu({3499000, 5600000, 3501000, 5600700, FarbeRot, Strich::Gestrichelt, false});
+    GrafikLinieHinzu({3500000, 5600100, 3500230, 5600390, FarbeBlau, Strich::Durchgezogen, false});
+    GrafikBogenHinzu({3500150, 5600280, 71.3, 20, 310, FarbeSchwarz, false});
+    GrafikTextHinzu({3500110, 5600300, "Ägidienstraße", 14, FarbeBlau});
+    GrafikZoomAnpassen();
+    for (const double Dichte : {1.0, 1.25, 2.0}) {
+      const QRect Fläche(0, 0, 601, 401);
+      const auto Malen = [&](Bildkacheln& K) {
+        QImage Bild(Fläche.size() * Dichte, QImage::Format_RGB32);
+        Bild.setDevicePixelRatio(Dichte);
+        QPainter Maler(&Bild);
+        K.Malen(Maler, Fläche, Dichte, Fenster->palette());
+        return Bild;
+      };
+      const auto Gleich = [&](Bildkacheln& K) {
+        const QImage Bisher = Malen(K);
+        K.Veralten();
+        return Malen(K) == Bisher;
+      };
+      GrafikGrößeSetzen(Fläche.width() * TwipsJePixel, Fläche.height() * TwipsJePixel);
+      Bildkacheln K;
+      QImage Zuvor = Malen(K);
+      GrafikBeiÄnderung = [&](const std::optional<Grafikregion>& Wo) { K.Veralten(*Wo); };
+      for (int Schritt = 0; Schritt < 12; ++Schritt) {
+        GrafikSchieben((Schritt * 7 % 90 - 40) / Dichte * TwipsJePixel,
+                       (Schritt * 11 % 70 - 30) / Dichte * TwipsJePixel);
+        QVERIFY2(Gleich(K), qPrintable(QString("%1 %2").arg(Dichte).arg(Schritt)));
+        const int Marke = GrafikMarkeHinzu({"20" + std::to_string(Schritt), 3500040 + Schritt * 17.3,
+                                            5600200 + Schritt * 4.1, "", FarbeRot});
+        QVERIFY(std::exchange(Zuvor, Malen(K)) != Zuvor);
+        QVERIFY(Gleich(K));
+        if (Schritt % 2 == 0) GrafikMarkeWeg(Marke);
+        QVERIFY(Gleich(K));
+        if (Schritt % 10 == 9)
+          QCOMPARE(KorZeileSetzen(1, {"7", 3500100.0 + Schritt, 5600333, 0, "", nullptr}), 0);
+        K.Nachsehen();
+        QVERIFY(Gleich(K));
+      }
+      GrafikBeiÄnderung = {};
+    }
+    KoordinatendateiName.clear();
   }
 
   void protokollDasSichNichtSchreibenLaesst() {

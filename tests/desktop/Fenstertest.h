@@ -10,6 +10,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Bildkacheln.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Handbuch.h>

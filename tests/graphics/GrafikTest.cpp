@@ -145,6 +145,8 @@ TEST_F(GrafikTest, ZeichnetInDerRichtigenFolge) {
   GrafikFenster.GrafikOffen = true;
   GrafikFenster = {true, 1500, 750, 1, 0, 0, 1500, 750, 0, 0, 0, 0, false};
   GrafikBogenHinzu({500, 500, 100, 0, 90, FarbeBlau, true});
+  for (const double Radius : {0.0, -5.0, std::nan("")}) GrafikBogenHinzu({700, 500, Radius, 0, 90, FarbeBlau, true});
+  GrafikBogenHinzu({700, 300, 2000, 0, 360, FarbeBlau, false});  // around the whole window
   const int Marke = GrafikMarkeHinzu({"2", 1000, 500, "MARK", FarbeRot});
   const int Linie = GrafikLinieHinzu({0, 0, 1000, 500, FarbeRot, Strich::Gestrichelt, false});
   GrafikLinieHinzu({-100, 0, -100, 500});  // outside
@@ -169,13 +171,16 @@ TEST_F(GrafikTest, ZeichnetInDerRichtigenFolge) {
   EXPECT_TRUE(Gezeichnet().empty());
 }
 
-// A sign that hangs over the edge of the window is drawn, and a number that reaches in.
+// A sign or number that hangs over the edge of the window is drawn, and a number that reaches in.
 TEST_F(GrafikTest, RandWirdMitgezeichnet) {
   Punkt("1234", -300, 100);
-  Punkt("2", 100, -59);
-  Punkt("3", 100, -61);
+  Punkt("2", 100, -104);
+  Punkt("3", 100, -106);
   Punkt("4", -600, 100);
+  // Dashes stay where they are when the window moves.
+  GrafikLinieHinzu({-1000, 300, 4000, 300, FarbeRot, Strich::Gestrichelt, false});
   GrafikFenster = {true, 1500, 750, 1, 0, 0, 1500, 750, 0, 0, 0, 0, false};
+  EXPECT_EQ(Gezeichnet()[0], "Strichlinie -136 450 1560 450 f255");  // 8 dashes and gaps further on
   int Texte = 0;
   for (const std::string& Z : Gezeichnet()) Texte += Z.starts_with("Text") ? 1 : 0;
   EXPECT_EQ(Texte, 2);

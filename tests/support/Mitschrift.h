@@ -22,6 +22,9 @@ class Mitschrift final : public Zeichenfläche {
   void Text(double x, double y, std::string_view Inhalt, int, int Farbe) override {
     Schreibe("Text " + std::string(Inhalt), {x, y}, Farbe);
   }
+  void Begrenzen(double x, double y, double Breite, double Hoehe) override {
+    Schreibe("Grenze", {x, y, Breite, Hoehe}, 0);
+  }
 
   std::vector<std::string> Liste;
 
