@@ -1,6 +1,5 @@
 #include <tavorena/records/Dis.h>
-#include <tavorena/records/Stapelblock.h>
-#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/Stapelsatz.h>
 
 namespace tavorena {
 
@@ -13,7 +12,7 @@ Block DisZeile(int Nachkomma, const Protanschluss& A, bool Gemessen) {
 }
 
 std::string DisSatz(const std::string& AnfPnr, const std::string& EndPnr, double Gemessen) {
-  return StapelPunktzeile("NND ", AnfPnr, {EndPnr, Gemessen});
+  return StapelZweiPnr("NND ", AnfPnr, EndPnr, Gemessen);
 }
 
 int StapelLeseDis(std::string& AnfPnr, std::string& EndPnr, double& Gemessen) {

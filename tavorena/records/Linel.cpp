@@ -1,7 +1,6 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Linel.h>
-#include <tavorena/records/Stapelblock.h>
-#include <tavorena/records/Stapelleser.h>
+#include <tavorena/records/Stapelsatz.h>
 
 namespace tavorena {
 
@@ -22,7 +21,7 @@ Block LinelZeile(int Nachkomma, const Protpunkt& P, double Linie, double Seitwae
   return Zahlenblock(Nachkomma, std::move(Zeilen));
 }
 
-std::string LinelSatz(const std::string& Pnr) { return StapelPunktzeile("NR  ", Pnr); }
+std::string LinelSatz(const std::string& Pnr) { return StapelPnr("NR  ", Pnr); }
 
 int StapelLeseLinel(std::string& Pnr) { return StapelLesePnr("NR", Pnr); }
 

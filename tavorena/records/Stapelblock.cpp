@@ -4,7 +4,6 @@
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
-#include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelblock.h>
 
@@ -13,8 +12,6 @@ namespace tavorena {
 Stapeldatei StapelDatei;
 
 namespace {
-
-std::string StapelZahl(const Wert& Zahl) { return ZahlFormat(Zahl, 7, 4); }
 
 std::string Zusammen(const std::vector<std::string>& Zeilen) {
   std::string Text;
@@ -124,24 +121,5 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
 int Stapelblock::Entfernen(int Griff) { return StapelDatei.Name.empty() ? 0 : StückSetzen(Griff, ""); }
 
 int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
-
-bool StapelZahlPaßt(double Zahl) { return StapelZahl(Zahl).find('*') == std::string::npos; }
-
-std::vector<std::string> StapelKopfLinie(const std::string& AnfPnr, double AnfWert, const std::string& EndPnr,
-                                         double EndWert) {
-  return {StapelPunktzeile("PAN ", AnfPnr, {AnfWert}), StapelPunktzeile("PEN ", EndPnr, {EndWert})};
-}
-
-std::string StapelPunktzeile(const std::string& Schlüssel, const std::string& Pnr,
-                             const std::vector<Wert>& Werte) {
-  std::string Zeile = Schlüssel + PnrFormat(Pnr);
-  for (const Wert& Zahl : Werte) Zeile += "  " + (Zahl.IstText() ? PnrFormat(Zahl) : StapelZahl(Zahl));
-  return Zeile;
-}
-
-std::string StapelNeupunkt(const std::string& Pnr, const std::string& Symbol) {
-  if (Pnr.empty()) return "NEUPUNKT          0  -   -";
-  return "NEUPUNKT   " + PnrFormat(Pnr) + "  " + (Symbol.empty() ? "-" : Symbol);
-}
 
 }  // namespace tavorena

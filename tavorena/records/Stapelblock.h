@@ -6,8 +6,8 @@
 #include <vector>
 
 #include <tavorena/core/Datei.h>
-#include <tavorena/core/Wert.h>
 #include <tavorena/records/Block.h>
+#include <tavorena/records/Stapelsatz.h>
 
 // The batch file (.sta): what to type in again. A sequence of blocks in the order of work, each holding the
 // input of one calculation; every record is appended as it is made.
@@ -58,21 +58,5 @@ class Stapelblock {
  private:
   std::shared_ptr<const Verbindung> Über;
 };
-
-// ---- records as lines; numbers with 7 integer places and 4 decimals
-
-/// The number can be written in a record without becoming stars.
-[[nodiscard]] bool StapelZahlPaßt(double Zahl);
-
-/// "PAN" and "PEN" of a connection: numbers of start and end, and the values on them.
-[[nodiscard]] std::vector<std::string> StapelKopfLinie(const std::string& AnfPnr, double AnfWert,
-                                                       const std::string& EndPnr, double EndWert);
-
-/// Keyword with its blanks, point number and values; a text among the values is a point number.
-[[nodiscard]] std::string StapelPunktzeile(const std::string& Schlüssel, const std::string& Pnr,
-                                           const std::vector<Wert>& Werte = {});
-
-/// "NEUPUNKT": a missing symbol is written "-", no number at all as "0  -   -".
-[[nodiscard]] std::string StapelNeupunkt(const std::string& Pnr, const std::string& Symbol);
 
 }  // namespace tavorena

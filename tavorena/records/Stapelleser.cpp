@@ -20,49 +20,24 @@ namespace {
 
 constexpr int StapelGrenze = 10001;
 
-// A record: keyword in upper case and the rest of its line.
-struct Satz {
-  std::string Schlüssel;
-  std::string_view Rest;
-  std::string_view Zeile;
-};
-
-bool NächsteZeile(Satz& S) {
+bool NächsteZeile(Stapelzeile& Z) {
   if (Stapel.Zeiger >= Stapel.Anzahl()) return false;
-  S.Zeile = S.Rest = Stapel.Zeilen[static_cast<std::size_t>(Stapel.Zeiger++)];
+  Z.Zeile = Z.Rest = Stapel.Zeilen[static_cast<std::size_t>(Stapel.Zeiger++)];
   ++Stapel.Zeilennummer;
-  S.Schlüssel = Großtext(Wortnehmen(S.Rest));
+  Z.Schlüssel = Großtext(Wortnehmen(Z.Rest));
   return true;
 }
 
-bool IstKommentar(const Satz& S) {
-  return S.Schlüssel.empty() || S.Schlüssel == "C" || S.Zeile.starts_with('C');
+bool IstKommentar(const Stapelzeile& Z) {
+  return Z.Schlüssel.empty() || Z.Schlüssel == "C" || Z.Zeile.starts_with('C');
 }
-bool IstEnde(const Satz& S) { return S.Schlüssel == "E" || S.Schlüssel == "EM"; }
-
-bool RissNehmen(const Satz& S) {
-  if (S.Schlüssel != "RISS" && S.Schlüssel != "BERNR") return false;
-  (S.Schlüssel == "RISS" ? LetzterPlan.Riss : LetzterPlan.BerNr) = TrimmenSicht(S.Rest);
-  return true;
-}
+bool IstEnde(const Stapelzeile& Z) { return Z.Schlüssel == "E" || Z.Schlüssel == "EM"; }
 
 std::string InZeile() { return "Zeile " + std::to_string(Stapel.Zeilennummer); }
 
 void OhneEndeMerken() {
   Stapel.Bilanz.OhneEnde.push_back("Block " + std::to_string(Stapel.Block) + ", " + Stapel.Art + ", " +
                                    InZeile());
-}
-
-// The next record that is no comment; -1 with a message at the end of the file, -2 at the end of the block.
-int NächsterSatz(Satz& S) {
-  do {
-    if (!NächsteZeile(S)) {
-      OhneEndeMerken();
-      StapelFehlerMeldung("Unerwartetes Dateiende");
-      return -1;
-    }
-  } while (IstKommentar(S));
-  return IstEnde(S) ? -2 : 0;
 }
 
 void Beenden() {
@@ -83,35 +58,12 @@ void ZeileZurück() {
   --Stapel.Zeilennummer;
 }
 
-// A record that does not belong here. Where it is the head of the next block, the run goes on with that.
-int Ablehnen(const Satz& S) {
-  Hinweis("Fehler " + std::to_string(Stapel.Zeilennummer) + " beim Lesen der Stapeldatei:\n" +
-          std::string(S.Zeile));
-  if (S.Schlüssel != "M") {
-    Abbrechen();
-    return -1;
-  }
-  OhneEndeMerken();
-  Stapel.Bilanz.Fehler = Stapel.Zerrissen = true;
-  ZeileZurück();
-  return -1;
-}
-
-int SatzLesen(const std::string& Schlüssel, Satz& S) {
-  const int Ergebnis = NächsterSatz(S);
-  if (Ergebnis < 0) return Ergebnis;
-  return S.Schlüssel == Schlüssel ? 0 : Ablehnen(S);
-}
-
-std::string PnrNehmen(Satz& S) { return std::string(Wortnehmen(S.Rest)); }
-double ZahlNehmen(Satz& S) { return ZahlAusText(Wortnehmen(S.Rest)); }
-
 // A block that no worksheet takes is passed over up to its end, or to the next head.
 void BlockÜbergehen() {
-  Satz S;
-  while (NächsteZeile(S)) {
-    if (!IstKommentar(S) && IstEnde(S)) return;
-    if (S.Schlüssel != "M") continue;
+  Stapelzeile Z;
+  while (NächsteZeile(Z)) {
+    if (!IstKommentar(Z) && IstEnde(Z)) return;
+    if (Z.Schlüssel != "M") continue;
     return ZeileZurück();
   }
 }
@@ -237,15 +189,15 @@ void StapelFehlerMeldung(const std::string& Text) {
 
 int StapelLeseKopf(std::string& Kennung) {
   Kennung.clear();
-  Satz S;
-  while (NächsteZeile(S)) {
-    if (IstKommentar(S)) continue;
-    if (S.Schlüssel == "E") return -2;
-    if (S.Schlüssel != "M") continue;  // lines between blocks
+  Stapelzeile Z;
+  while (NächsteZeile(Z)) {
+    if (IstKommentar(Z)) continue;
+    if (Z.Schlüssel == "E") return -2;
+    if (Z.Schlüssel != "M") continue;  // lines between blocks
     ++Stapel.Block;
-    Stapel.Art = TrimmenSicht(S.Rest);
-    const std::string Art = Großtext(Wortnehmen(S.Rest));
-    Kennung = Großtext(Wortnehmen(S.Rest));
+    Stapel.Art = TrimmenSicht(Z.Rest);
+    const std::string Art = Großtext(Wortnehmen(Z.Rest));
+    Kennung = Großtext(Wortnehmen(Z.Rest));
     if (Art == "VR") return 0;
     if (Art == "3D") return 1;
     if (Kennung.empty()) Kennung = "?";
@@ -254,58 +206,44 @@ int StapelLeseKopf(std::string& Kennung) {
   return -1;
 }
 
-int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& EndPnr, double& EndWert) {
-  bool MitAnfang = false, MitEnde = false;
-  while (!MitAnfang || !MitEnde) {
-    Satz S;
-    const int Ergebnis = NächsterSatz(S);
-    if (Ergebnis < 0) return Ergebnis;
-    if (RissNehmen(S)) continue;
-    if (S.Schlüssel != "PAN" && S.Schlüssel != "PEN") return Ablehnen(S);
-    const bool Anfang = S.Schlüssel == "PAN";
-    (Anfang ? AnfPnr : EndPnr) = PnrNehmen(S);
-    (Anfang ? AnfWert : EndWert) = ZahlNehmen(S);
-    (Anfang ? MitAnfang : MitEnde) = true;
-  }
-  return 0;
-}
-
 int StapelLeseRisszeilen() {
-  Satz S;
-  while (NächsteZeile(S)) {
-    if (IstKommentar(S) || RissNehmen(S)) continue;
+  Stapelzeile Z;
+  while (NächsteZeile(Z)) {
+    if (IstKommentar(Z) || StapelRissNehmen(Z)) continue;
     ZeileZurück();
     return 0;
   }
   return -1;
 }
 
-int StapelLesePnr(const std::string& Schlüssel, std::string& Pnr) {
-  Satz S;
-  const int Ergebnis = SatzLesen(Schlüssel, S);
-  if (Ergebnis == 0) Pnr = PnrNehmen(S);
-  return Ergebnis;
+int StapelNächsterSatz(Stapelzeile& Z) {
+  do {
+    if (!NächsteZeile(Z)) {
+      OhneEndeMerken();
+      StapelFehlerMeldung("Unerwartetes Dateiende");
+      return -1;
+    }
+  } while (IstKommentar(Z));
+  return IstEnde(Z) ? -2 : 0;
 }
 
-int StapelLeseZweiPnr(const std::string& Schlüssel, std::string& Pnr1, std::string& Pnr2, double& Wert) {
-  Satz S;
-  const int Ergebnis = SatzLesen(Schlüssel, S);
-  if (Ergebnis < 0) return Ergebnis;
-  Pnr1 = PnrNehmen(S);
-  Pnr2 = PnrNehmen(S);
-  Wert = ZahlNehmen(S);
-  return 0;
+bool StapelRissNehmen(const Stapelzeile& Z) {
+  if (Z.Schlüssel != "RISS" && Z.Schlüssel != "BERNR") return false;
+  (Z.Schlüssel == "RISS" ? LetzterPlan.Riss : LetzterPlan.BerNr) = TrimmenSicht(Z.Rest);
+  return true;
 }
 
-int StapelLeseNeupunkt(std::string& Pnr, std::string& Symbol) {
-  Satz S;
-  const int Ergebnis = SatzLesen("NEUPUNKT", S);
-  if (Ergebnis < 0) return Ergebnis;
-  Pnr = PnrNehmen(S);
-  Symbol = Wortnehmen(S.Rest);
-  if (Symbol == "-") Symbol.clear();
-  if (Pnr == "0") Pnr.clear();
-  return 0;
+int StapelAblehnen(const Stapelzeile& Z) {
+  Hinweis("Fehler " + std::to_string(Stapel.Zeilennummer) + " beim Lesen der Stapeldatei:\n" +
+          std::string(Z.Zeile));
+  if (Z.Schlüssel != "M") {
+    Abbrechen();
+    return -1;
+  }
+  OhneEndeMerken();
+  Stapel.Bilanz.Fehler = Stapel.Zerrissen = true;
+  ZeileZurück();
+  return -1;
 }
 
 }  // namespace tavorena

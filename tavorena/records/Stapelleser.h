@@ -3,9 +3,11 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/records/Stapelsatz.h>
 
 // Replay of a batch file: block by block the worksheet of the kind is shown, which fills itself from the
 // records. A replay never writes to the batch file.
@@ -87,27 +89,31 @@ void StapelAuslassen(const std::string& Grund);
 /// A failure of the replay: box with file and line, then the replay is over.
 void StapelFehlerMeldung(const std::string& Text);
 
-// ---- readers; all give 0 a record was read, -1 error or end of the file (already told), -2 end of block
+// ---- what readers are made of; all give 0 a record was read, -1 error or end of the file (already told), -2
+// end of block
 
 /// The next module head. Stapel.Art becomes the title behind the "M".
 /// @param[out] Kennung  upper case
 /// @return 0 "VR", 1 "3D", -1 end of the file or faulty head, -2 a lone "E"
 [[nodiscard]] int StapelLeseKopf(std::string& Kennung);
 
-/// The "PAN" and "PEN" records of a connection; takes plan name and calculation number on the way.
-[[nodiscard]] int StapelLesenPnrMitWerte(std::string& AnfPnr, double& AnfWert, std::string& EndPnr,
-                                         double& EndWert);
-
 /// Takes the "RISS" and "BERNR" lines that come next, if any. @return 0; -1 at the end of the file
 [[nodiscard]] int StapelLeseRisszeilen();
 
-/// One point record with that keyword.
-[[nodiscard]] int StapelLesePnr(const std::string& Schlüssel, std::string& Pnr);
-/// One record of two point numbers and a value, such as "NND".
-[[nodiscard]] int StapelLeseZweiPnr(const std::string& Schlüssel, std::string& Pnr1, std::string& Pnr2,
-                                    double& Wert);
+/// A line of the file, as the readers of the kinds take it.
+struct Stapelzeile {
+  std::string Schlüssel;  ///< its first word in upper case
+  std::string_view Rest, Zeile;
+};
 
-/// One "NEUPUNKT" record; "0  -   -" gives an empty number, "-" an empty symbol.
-[[nodiscard]] int StapelLeseNeupunkt(std::string& Pnr, std::string& Symbol);
+/// The next record that is no comment. @return 0; -1 at the end of the file, which is told; -2
+[[nodiscard]] int StapelNächsterSatz(Stapelzeile& Z);
+
+/// Takes plan name or calculation number. @return false: the record is another one
+[[nodiscard]] bool StapelRissNehmen(const Stapelzeile& Z);
+
+/// A record that does not belong here: box with the line, then the replay is over; or, where it is the head
+/// of the next block, goes on with that. @return -1
+[[nodiscard]] int StapelAblehnen(const Stapelzeile& Z);
 
 }  // namespace tavorena
