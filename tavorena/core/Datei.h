@@ -81,6 +81,10 @@ bool IstUtf8(std::string_view Text);
 std::string AusWindows1252(std::string_view Bytes);
 /// Characters without a place in Windows-1252 become "?".
 std::string NachWindows1252(std::string_view Text);
+/// The code page of DOS, for files in its look.
+std::string AusCodepage850(std::string_view Bytes);
+/// Characters without a place in it become "?".
+std::string NachCodepage850(std::string_view Text);
 
 /// Cuts a text into lines. Carriage return, line feed or both end a line. From the first line feed without
 /// carriage return on, the file counts as one with Unix line ends, and a code 0 ends a line as well.

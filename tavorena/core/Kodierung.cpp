@@ -11,6 +11,18 @@ constexpr std::array<char16_t, 32> Oben1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+constexpr std::array<char16_t, 128> Oben850 = {
+    0x00C7, 0x00FC, 0x00E9, 0x00E2, 0x00E4, 0x00E0, 0x00E5, 0x00E7, 0x00EA, 0x00EB, 0x00E8, 0x00EF, 0x00EE,
+    0x00EC, 0x00C4, 0x00C5, 0x00C9, 0x00E6, 0x00C6, 0x00F4, 0x00F6, 0x00F2, 0x00FB, 0x00F9, 0x00FF, 0x00D6,
+    0x00DC, 0x00F8, 0x00A3, 0x00D8, 0x00D7, 0x0192, 0x00E1, 0x00ED, 0x00F3, 0x00FA, 0x00F1, 0x00D1, 0x00AA,
+    0x00BA, 0x00BF, 0x00AE, 0x00AC, 0x00BD, 0x00BC, 0x00A1, 0x00AB, 0x00BB, 0x2591, 0x2592, 0x2593, 0x2502,
+    0x2524, 0x00C1, 0x00C2, 0x00C0, 0x00A9, 0x2563, 0x2551, 0x2557, 0x255D, 0x00A2, 0x00A5, 0x2510, 0x2514,
+    0x2534, 0x252C, 0x251C, 0x2500, 0x253C, 0x00E3, 0x00C3, 0x255A, 0x2554, 0x2569, 0x2566, 0x2560, 0x2550,
+    0x256C, 0x00A4, 0x00F0, 0x00D0, 0x00CA, 0x00CB, 0x00C8, 0x0131, 0x00CD, 0x00CE, 0x00CF, 0x2518, 0x250C,
+    0x2588, 0x2584, 0x00A6, 0x00CC, 0x2580, 0x00D3, 0x00DF, 0x00D4, 0x00D2, 0x00F5, 0x00D5, 0x00B5, 0x00FE,
+    0x00DE, 0x00DA, 0x00DB, 0x00D9, 0x00FD, 0x00DD, 0x00AF, 0x00B4, 0x00AD, 0x00B1, 0x2017, 0x00BE, 0x00B6,
+    0x00A7, 0x00F7, 0x00B8, 0x00B0, 0x00A8, 0x00B7, 0x00B9, 0x00B3, 0x00B2, 0x25A0, 0x00A0};
+
 // One character of valid UTF-8; i is advanced behind it.
 char32_t ZeichenLesen(std::string_view Text, std::size_t& i) {
   const auto Byte = [&] { return static_cast<unsigned char>(Text[i++]); };
@@ -43,6 +55,50 @@ bool MehrbytezeichenGültig(std::string_view Text, std::size_t& i) {
   return Zeichen >= Kleinstes && Zeichen <= 0x10FFFF && (Zeichen < 0xD800 || Zeichen > 0xDFFF);
 }
 
+void ZeichenAnfügen(std::string& Text, unsigned Zeichen) {
+  if (Zeichen < 0x80) {
+    Text += static_cast<char>(Zeichen);
+    return;
+  }
+  if (Zeichen < 0x800) {
+    Text += static_cast<char>(0xC0U | (Zeichen >> 6U));
+  } else {
+    Text += static_cast<char>(0xE0U | (Zeichen >> 12U));
+    Text += static_cast<char>(0x80U | ((Zeichen >> 6U) & 0x3FU));
+  }
+  Text += static_cast<char>(0x80U | (Zeichen & 0x3FU));
+}
+
+// The n bytes from 0x80 on are looked up in a code page, all others are the characters of the same number.
+template <std::size_t n>
+std::string AusSeite(std::string_view Bytes, const std::array<char16_t, n>& Seite) {
+  std::string Text;
+  Text.reserve(Bytes.size() + Bytes.size() / 8);
+  for (const char z : Bytes) {
+    const auto b = static_cast<unsigned char>(z);
+    ZeichenAnfügen(Text, b >= 0x80U && b - 0x80U < n ? Seite[b - 0x80U] : b);
+  }
+  return Text;
+}
+
+template <std::size_t n>
+std::string NachSeite(std::string_view Text, const std::array<char16_t, n>& Seite) {
+  std::string Bytes;
+  for (std::size_t i = 0; i < Text.size();) {
+    const char32_t Zeichen = ZeichenLesen(Text, i);
+    if (Zeichen < 0x80 || (Zeichen >= 0x80 + n && Zeichen <= 0xFF)) {
+      Bytes += static_cast<char>(Zeichen);
+      continue;
+    }
+    char Ersatz = '?';
+    for (std::size_t k = 0; k < n; ++k) {
+      if (Seite[k] == Zeichen) Ersatz = static_cast<char>(0x80U + k);
+    }
+    Bytes += Ersatz;
+  }
+  return Bytes;
+}
+
 }  // namespace
 
 bool IstUtf8(std::string_view Text) {
@@ -65,42 +121,10 @@ bool IstUtf8(std::string_view Text) {
   return true;
 }
 
-std::string AusWindows1252(std::string_view Bytes) {
-  std::string Text;
-  Text.reserve(Bytes.size() + Bytes.size() / 8);
-  for (const char z : Bytes) {
-    const auto b = static_cast<unsigned char>(z);
-    if (b < 0x80) {
-      Text += z;
-      continue;
-    }
-    const unsigned Zeichen = b < 0xA0 ? Oben1252[b - 0x80U] : b;
-    if (Zeichen < 0x800) {
-      Text += static_cast<char>(0xC0U | (Zeichen >> 6U));
-    } else {
-      Text += static_cast<char>(0xE0U | (Zeichen >> 12U));
-      Text += static_cast<char>(0x80U | ((Zeichen >> 6U) & 0x3FU));
-    }
-    Text += static_cast<char>(0x80U | (Zeichen & 0x3FU));
-  }
-  return Text;
-}
+std::string AusWindows1252(std::string_view Bytes) { return AusSeite(Bytes, Oben1252); }
+std::string NachWindows1252(std::string_view Text) { return NachSeite(Text, Oben1252); }
 
-std::string NachWindows1252(std::string_view Text) {
-  std::string Bytes;
-  for (std::size_t i = 0; i < Text.size();) {
-    const char32_t Zeichen = ZeichenLesen(Text, i);
-    if (Zeichen < 0x80 || (Zeichen >= 0xA0 && Zeichen <= 0xFF)) {
-      Bytes += static_cast<char>(Zeichen);
-      continue;
-    }
-    char Ersatz = '?';
-    for (std::size_t k = 0; k < Oben1252.size(); ++k) {
-      if (Oben1252[k] == Zeichen) Ersatz = static_cast<char>(0x80U + k);
-    }
-    Bytes += Ersatz;
-  }
-  return Bytes;
-}
+std::string AusCodepage850(std::string_view Bytes) { return AusSeite(Bytes, Oben850); }
+std::string NachCodepage850(std::string_view Text) { return NachSeite(Text, Oben850); }
 
 }  // namespace tavorena

@@ -163,17 +163,6 @@ class Lesung {
   Atempause Pause{0.5};
 };
 
-void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
-                      std::string_view Symbol, int Nachkomma) {
-  Ziel.append(6, ' ').append(PnrFormat(Pnr)).append(3, ' ');
-  ZahlFormatAnhängen(Ziel, Rechts, 7, Nachkomma);
-  Ziel.append(3, ' ');
-  ZahlFormatAnhängen(Ziel, Hoch, 7, Nachkomma);
-  Ziel += ' ';
-  ZahlFormatAnhängen(Ziel, Hoehe, 7, Nachkomma);
-  Ziel.append(2, ' ').append(Symbol);
-}
-
 // The key of an LT4 line: the fixed area key of the format and the point number as it stands, its blanks too.
 std::string Lt4Schlüssel(const std::string& Pnr) {
   const std::size_t L = ZeichenAnzahl(Pnr);
@@ -202,6 +191,17 @@ int KorZeileLesen(std::string_view Zeile, std::string& Pnr, double& Rechts, doub
   Hoehe = S.Hoehe;
   Symbol = S.Symbol;
   return 0;
+}
+
+void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
+                      std::string_view Symbol, int Nachkomma) {
+  Ziel.append(6, ' ').append(PnrFormat(Pnr)).append(3, ' ');
+  ZahlFormatAnhängen(Ziel, Rechts, 7, Nachkomma);
+  Ziel.append(3, ' ');
+  ZahlFormatAnhängen(Ziel, Hoch, 7, Nachkomma);
+  Ziel += ' ';
+  ZahlFormatAnhängen(Ziel, Hoehe, 7, Nachkomma);
+  Ziel.append(2, ' ').append(Symbol);
 }
 
 void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,

@@ -21,6 +21,10 @@ namespace tavorena {
 void KorZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, double Hoehe, std::string_view Symbol,
                        std::string& Zeile);
 
+/// Appends one KOR line with Nachkomma decimals.
+void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double Hoch, double Hoehe,
+                      std::string_view Symbol, int Nachkomma);
+
 /// Cuts one LT4 line. The format has no height; the symbol is "2" for every point.
 /// @return 0; -1 for a comment ("#") and for a line shorter than 64 characters, the outputs are then
 /// untouched
