@@ -28,14 +28,33 @@ std::string Spalten::Gonpunkt(const Protpunkt& P, const Wert& Richtung, const We
   return Punkt(P, Gonspalte(Richtung) + Spalte(v4), Marke);
 }
 
+// No row has both: with 5 decimals the length takes the first blank of the angle.
+std::string Spalten::Lange(const Wert& Meter, const Wert& Gon) const {
+  if (Gon.IstGegeben()) return Leerzeichen(12) + ZahlFormat(Gon, 3, 4) + Leerzeichen(6);
+  return FeldLinks(Zahl(Meter, 7), 26);
+}
+
+std::string Spalten::Richtung(const Protpunkt& P, const Wert& Gon, const std::string& Marke) const {
+  return Punkt(P, Leerzeichen(14) + ZahlFormat(Gon, 3, 4) + Leerzeichen(4), Marke);
+}
+
 std::string Spalten::Summe(const Protanschluss& A) const {
   return Leerzeichen(29) + "WS=" + Spalte(A.Abweichung) + "D=" + Zahl(A.AbweichungZulaessig, 5) +
          AnschlussMarke(A);
 }
 
+Warnung Grenzwarnung(double x, double Grenze, int Warnstufe) {
+  const double Betrag = std::fabs(x);
+  if (Betrag > std::fabs(Grenze)) return Warnung::Voll;
+  return Warnstufe > 1 && Betrag > std::fabs(Grenze) / 3 ? Warnung::Früh : Warnung::Keine;
+}
+
+std::string Sterne(Warnung W) { return W == Warnung::Voll ? "******" : W == Warnung::Früh ? "***" : ""; }
+
 std::string AnschlussMarke(const Protanschluss& A) {
-  const double WS = std::fabs(A.Abweichung), D = std::fabs(A.AbweichungZulaessig);
-  return WS > D ? " ******(>D)" : WS > D / 3 ? " ***(>1/3D)" : "";
+  const Warnung W = Grenzwarnung(A.Abweichung, A.AbweichungZulaessig, 2);  // whatever the level
+  if (W == Warnung::Keine) return "";
+  return " " + Sterne(W) + (W == Warnung::Voll ? "(>D)" : "(>1/3D)");
 }
 
 }  // namespace tavorena

@@ -25,6 +25,19 @@ struct Protanschluss {
   double AbweichungZulaessig = 0;  ///< D [m]
 };
 
+/// How far a limit is passed.
+enum class Warnung { Keine, Früh, Voll };
+
+/// Voll above the limit, Früh above a third of it; the signs do not count.
+/// @param[in] Warnstufe  the early mark is left out up to 1
+[[nodiscard]] Warnung Grenzwarnung(double x, double Grenze, int Warnstufe);
+
+/// "******" for Voll, "***" for Früh, else "".
+[[nodiscard]] std::string Sterne(Warnung W);
+
+/// What stands behind a row that is struck, in place of its flags.
+inline constexpr const char* MarkeGelöscht = " ***gelöscht";
+
 /// Lines with numbers of so many decimals.
 class Spalten {
  public:
@@ -46,6 +59,10 @@ class Spalten {
   /// The same, the first column being a direction.
   [[nodiscard]] std::string Gonpunkt(const Protpunkt& P, const Wert& Richtung, const Wert& v4,
                                      const std::string& Marke) const;
+  /// A length or an angle [gon] in the same place, which is as wide for 0 to 5 decimals.
+  [[nodiscard]] std::string Lange(const Wert& Meter, const Wert& Gon) const;
+  /// Margin, coordinates, a direction [gon], point number, mark: a row of an intersection by directions.
+  [[nodiscard]] std::string Richtung(const Protpunkt& P, const Wert& Gon, const std::string& Marke) const;
   /// "WS=" and "D=" of a connection with their mark.
   [[nodiscard]] std::string Summe(const Protanschluss& A) const;
 

@@ -120,7 +120,7 @@ std::vector<std::string> Satzfolge::Zeilen() const {
       continue;
     }
     const auto& Felder = P.Satz.Form().Felder;
-    if (P.Art == Bedarf::Pflicht || (P.An != nullptr ? *P.An : Felder.front().Gefüllt()))
+    if (P.Art != Bedarf::Wahl || (P.An != nullptr ? *P.An : Felder.front().Gefüllt()))
       Ziel.push_back(SatzZeile(P.Satz));
   }
   return Ziel;

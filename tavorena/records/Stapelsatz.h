@@ -98,6 +98,8 @@ class Satzfolge {
  public:
   /// Stands in every block.
   void Pflicht(Stapelsatz S) { Plätze.push_back({std::move(S), Bedarf::Pflicht, nullptr, {}, {}}); }
+  /// Is written in every block, but may be missing in one that is read.
+  void Entbehrlich(Stapelsatz S) { Plätze.push_back({std::move(S), Bedarf::Entbehrlich, nullptr, {}, {}}); }
   /// Is left out while its first place is not filled.
   void Wahl(Stapelsatz S) { Plätze.push_back({std::move(S), Bedarf::Wahl, nullptr, {}, {}}); }
   /// A keyword alone, left out while An is false.
@@ -128,7 +130,7 @@ class Satzfolge {
   [[nodiscard]] int BlockLesen();
 
  private:
-  enum class Bedarf { Pflicht, Wahl, Liste };
+  enum class Bedarf { Pflicht, Entbehrlich, Wahl, Liste };
   struct Platz {
     Stapelsatz Satz;
     Bedarf Art;
