@@ -1,0 +1,117 @@
+#include <cmath>
+
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Pol.h>
+
+namespace tavorena {
+namespace {
+
+constexpr int ZeilenJeSeite = 60;
+constexpr int BreiteRahmen = 66;
+
+using Zeilen = std::vector<std::string>;
+
+std::string Rahmenlinie(const char* Ecke) {
+  std::string Linie = std::string("      ") + Ecke;
+  for (int i = 0; i < BreiteRahmen; ++i) Linie += "─";
+  return Linie;
+}
+
+Zeilen Seitenkopf(const Polnachweis& N, int Seite) {
+  return {Leerzeichen(33) + "- Seite" + ZahlFeld(Seite, 3) + " -",
+          Rahmenlinie("┌"),
+          "      │             F l ä c h e n n a c h w e i s",
+          "      │ Name:   " + N.Name + (Seite > N.Seite ? " (Fortsetzung)" : ""),
+          "      │ Bem.:   " + N.Bemerkung,
+          "      │ Fläche: " + ZahlFormat(N.Flaeche, 9, N.NachkommaFlaeche) + " m²",
+          Rahmenlinie("└"),
+          "        Punktnummer     Rechtswert       Hochwert        Grenzlänge"};
+}
+
+Zeilen Kantenzeilen(const Polkante& K, int NK) {
+  const bool Bogen = K.Art != Kantenart::Linie,
+             Innen = K.Art == Kantenart::Innen || K.Art == Kantenart::InnenLang;
+  Zeilen Ziel = {Leerzeichen(8) + FeldRechts(K.Punkt.Pnr, 11) + Leerzeichen(5) +
+                 ZahlFormat(K.Punkt.Rechts, 7, NK) + Leerzeichen(3) + ZahlFormat(K.Punkt.Hoch, 7, NK) +
+                 Leerzeichen(6) + ZahlFormat(K.Laenge, 5, NK) + Leerzeichen(3) + (Bogen ? "BOGEN" : "LINIE")};
+  if (Bogen) {
+    const double Radius = std::fabs(K.Radius);
+    Ziel.push_back(Leerzeichen(24) + "    mx=" + ZahlFormat(K.MitteHoch, 7, NK) + " my=" +
+                   ZahlFormat(K.MitteRechts, 7, NK) + "    r=" + ZahlFormat(Innen ? -Radius : Radius, 5, NK) +
+                   (IstLang(K.Art) ? "G" : "") + "    s=" + ZahlFormat(K.Sehne, 5, NK));
+  }
+  return Ziel;
+}
+
+// @return false: the line is no row
+bool ZeileNehmen(std::string_view Zeile, Polkante& K) {
+  K = {};
+  K.Punkt.Pnr = Wortnehmen(Zeile);
+  const std::string_view Rechts = Wortnehmen(Zeile), Hoch = Wortnehmen(Zeile);
+  if (!IstZahlwort(Rechts) || !IstZahlwort(Hoch)) return false;
+  K.Punkt.Rechts = ZahlAusText(Rechts);
+  K.Punkt.Hoch = ZahlAusText(Hoch);
+  K.Laenge = ZahlAusText(Wortnehmen(Zeile));
+  // Upper case alone: the rows of a protocol end in "Linie".
+  const std::string_view Art = Wortnehmen(Zeile);
+  K.Art = Art == "BOGEN" ? Kantenart::Außen : Kantenart::Linie;
+  return Art == "BOGEN" || Art == "LINIE";
+}
+
+// The line behind an arc: "r=", the radius, "G" for the long arc.
+void RadiusNehmen(std::string_view Zeile, Polkante& K) {
+  const std::size_t Ab = Zeile.find(" r=");
+  if (K.Art == Kantenart::Linie || K.Radius != 0 || Ab == std::string_view::npos) return;
+  Zeile.remove_prefix(Ab + 3);
+  const std::string_view Wort = Wortnehmen(Zeile);
+  const double Radius = ZahlAusText(Wort);
+  const bool Lang = Wort.ends_with('G') || Wort.ends_with('g');
+  K.Radius = std::fabs(Radius);
+  if (Radius < 0) {
+    K.Art = Lang ? Kantenart::InnenLang : Kantenart::Innen;
+  } else {
+    K.Art = Lang ? Kantenart::AußenLang : Kantenart::Außen;
+  }
+}
+
+}  // namespace
+
+std::string PolText(const Polnachweis& N) {
+  std::string Text;
+  int Seite = N.Seite, Frei = 0;
+  const auto Schreiben = [&](const Zeilen& Neue) {
+    for (const std::string& Zeile : Neue) Text += Zeile + "\r\n";
+    Frei -= static_cast<int>(Neue.size());
+  };
+  for (const Polkante& K : N.Kanten) {
+    const Zeilen Neue = Kantenzeilen(K, N.NachkommaKoordinaten);
+    if (Frei < std::ssize(Neue)) {  // an arc is not torn
+      if (!Text.empty()) Text += '\f';
+      Frei = ZeilenJeSeite;
+      Schreiben(Seitenkopf(N, Seite++));
+    }
+    Schreiben(Neue);
+  }
+  if (!Text.empty()) Text += '\f';
+  return NachCodepage850(Text);
+}
+
+std::vector<Polkante> PolLesen(std::string_view Bytes) {
+  const std::string Text = IstUtf8(Bytes) ? std::string(Bytes) : AusCodepage850(Bytes);
+  std::vector<Polkante> Kanten;
+  Zeilenleser Leser(Text);
+  std::string_view Zeile;
+  Polkante K;
+  while (Leser.Nächste(Zeile)) {
+    if (ZeileNehmen(Zeile, K)) {
+      Kanten.push_back(K);
+    } else if (!Kanten.empty()) {
+      RadiusNehmen(Zeile, Kanten.back());
+    }
+  }
+  return Kanten;
+}
+
+}  // namespace tavorena
