@@ -122,4 +122,9 @@ int Stapelblock::Entfernen(int Griff) { return StapelDatei.Name.empty() ? 0 : St
 
 int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
 
+int StapelKommentar(const std::string& Text) {
+  if (StapelEnde() < 0) return -1;
+  return Schreiben("C  " + Text + "\r\n", "StapelKommentar");
+}
+
 }  // namespace tavorena

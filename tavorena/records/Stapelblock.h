@@ -59,4 +59,8 @@ class Stapelblock {
   std::shared_ptr<const Verbindung> Über;
 };
 
+/// Writes a comment between blocks; an open block is ended first. Nothing happens without a file.
+/// @return 0; -1 as Stapelblock::Anfügen
+[[nodiscard]] int StapelKommentar(const std::string& Text);
+
 }  // namespace tavorena
