@@ -1,0 +1,351 @@
+#include "Aktentest.h"
+
+#include <tavorena/records/Ausgleichblock.h>
+#include <tavorena/records/DreiD.h>
+#include <tavorena/records/Kreismitte.h>
+#include <tavorena/records/Messlinie.h>
+#include <tavorena/records/Pol.h>
+#include <tavorena/records/Polar.h>
+#include <tavorena/records/Polel.h>
+#include <tavorena/records/Rueckwaerts.h>
+#include <tavorena/records/Schnitte.h>
+#include <tavorena/records/Transformation.h>
+#include <tavorena/records/Vorwaerts.h>
+#include <tavorena/records/Zug.h>
+
+// The lines of all kinds of calculations in the protocol.
+
+namespace tavorena::test {
+namespace {
+
+const Protpunkt A{3500100, 5600200, "1001"}, E{3500160, 5600280, "1002"}, B{3500200, 5600300, "1008"};
+
+Prothelmert Helmert(bool Rechenachse) {
+  Prothelmert H;
+  H.Passung = {3500100, 5600200, 2500100, 5600300, {{0.012, -0.004, 0.013, "1001"}}, 0.007, 0.01};
+  H.Rechenachse = H.MasstabFest = Rechenachse;
+  H.Epsilon = 12.5;
+  H.a = 0.98;
+  H.b = 0.19;
+  H.WS = 0.5;
+  H.D = 0.2;
+  return H;
+}
+
+Protaffin Affin(bool AufGerader) {
+  Protaffin T;
+  T.Passung = Helmert(false).Passung;
+  T.Passung.MK = T.Passung.ML = Wert();
+  T.AufGerader = AufGerader;
+  T.a10 = -12.5;
+  T.a11 = T.a22 = 1;
+  return T;
+}
+
+Protzug Zug(bool Ganz) {
+  Protzug Z;
+  Z.Nummer = "7";
+  Z.Anschluss = Z.Abschluss = Z.WinkelVerteilt = Ganz;
+  Z.RingUnverteilt = Z.FreiesEnde = !Ganz;
+  Z.PFA = {3499900, 5600300, "1030"};
+  Z.PA = {{3500100, 5600200, "1031"}, 127.5291, 128.082, {}};
+  Z.Neue = {{{3500200.003, 5600280.001, "2021"}, 267.1799, 107.713, {"      *** Notiz"}},
+            {{3500299.999, 5600240.001, "2022"}, 141.3728, 116.634, {}}};
+  Z.PE = {{3500400, 5600300, "1032"}, 171.8376, {}, {}};
+  Z.PFE = {3500600, 5600600, "1033"};
+  Z.S = 316.228;
+  Z.SummeS = 352.429;
+  Z.FW = {-0.0027, 0.01};
+  Z.FL = {-0.04, 0.139};
+  Z.FQ = {0.001, 0.139};
+  return Z;
+}
+
+Protflaeche Flaeche() {
+  Protflaeche F{"Flurstück 12/3", "Ost", {}, 146.365, 279.56, 1479.56, 1479.56};
+  const Protpunkt P{3500100, 5600230, "1002"};
+  F.Kanten = {{A, 30, Kantenart::Linie, 0, false, 30.02, -0.02, 0.103},
+              {P, 46.365, Kantenart::Außen, 25, false, {}, {}, {}},
+              {P, 46.365, Kantenart::InnenLang, -25, false, 46.6, -0.235, 0.118},
+              {P, 0, Kantenart::Innen, 5, true, {}, {}, {}}};
+  return F;
+}
+
+using Schreiber = std::function<Block(int)>;
+
+// Each kind as it is printed most fully.
+const std::vector<Schreiber>& Gemeinsame() {
+  static const std::vector<Schreiber> Alle = {
+      [](int n) {
+        return MesslinieAnschluss(n, {A, E, 0.0, {}, 99.93, {}, 0.07, 0.16});
+      },
+      [](int n) {
+        return MesslinieZeile(n, {3500151.036, 5600343.1, "2002"}, 145, -45,
+                              MesslinieMarken(0, 145, -45, 100, 2));
+      },
+      [](int n) {
+        return GeradenschnittBlock(n, {A, E, Linienart::Abstand, 2.5, {}}, {A, E, Linienart::Parallele, 0, B},
+                                   {3500131.563, 5600237.917, "2006"}, 81.9331, 3);
+      },
+      [](int n) {
+        return GeradenschnittBlock(n, {A, E, Linienart::Senkrechte, 0, B}, {A, E, Linienart::Original, 0, {}},
+                                   {3500131.25, 5600241.5, "2007"}, 7.3211, 3);
+      },
+      [](int n) {
+        return KreisGeradeBlock(n, {A, 80.5, E}, {A, E, Linienart::Original, 0, {}},
+                                {{3500131.25, 5600241.5, "2007"}, {3500131.25, 5600241.5, "0"}}, 0.3125, 3);
+      },
+      [](int n) {
+        return BogenschnittBlock(n, {A, 80, {}}, {E, 50, {}},
+                                 {{3500131, 5600241, ""}, {3500132, 5600242, "2008"}}, 2, 3);
+      },
+      [](int n) {
+        const Protbogenpunkt P{{3500102.322, 5600237.678, "1011"}, 25.001};
+        return KreismitteBlock(n, {P, P, P}, {3500119.999, 5600219.999, "2011"}, 3, 0);
+      },
+      [](int n) {
+        return KreismitteZeile(n, {3500119.999, 5600219.999, "2011"}, 69.997, "");
+      },
+      [](int n) {
+        return VorwaertsBlock(n,
+                              {{{3500100, 5600200, "1001"}, 39.5167, {3500100, 5600300, "1006"}, 10},
+                               {{3500160, 5600200, "1007"}, 366.2595, B, 20},
+                               {3500130, 5600260, "2012"},
+                               59.0334,
+                               211.234,
+                               0.013},
+                              3);
+      },
+      [](int n) {
+        return RueckwaertsBlock(n, {false,
+                                    {{{{3500000, 5600300, "1021"}, 305.5502},
+                                      {{3500120, 5600350, "1022"}, 362.4604},
+                                      {{3500300, 5600290, "1023"}, 38.9988}}},
+                                    154.3835,
+                                    87.8321,
+                                    {3500130, 5600210, "2013"}});
+      },
+      [](int n) {
+        return RueckwaertsBlock(n, {true, {{{A, 300}, {E, 10}, {B, 211}}}, 12, 3, A});
+      },
+      [](int n) { return ZugBlock(n, Zug(true), 3); },
+      [](int n) { return ZugBlock(n, Zug(false), 3); },
+      [](int n) {
+        Protzug Z = Zug(true);
+        Z.WinkelVerteilt = false;
+        Z.FW.Ist = 1;
+        Z.FL.Zulaessig = Z.FQ.Zulaessig = Wert();
+        return ZugBlock(n, Z, 3);
+      },
+      [](int n) {
+        Protzug Z = Zug(true);
+        Z.Abschluss = false;
+        Z.Neue.clear();
+        return ZugBlock(n, Z, 3);
+      },
+      [](int n) { return FlaechenBlock(n, Flaeche(), 3); },
+      [](int n) {
+        return AusgleichBlock(n, {false,
+                                  {3500100, 5600200, "2041"},
+                                  {3500160, 5600280, "2042"},
+                                  0,
+                                  {{{3500130.004, 5600239.99, "1003"}, 0.009}}});
+      },
+      [](int n) {
+        return AusgleichBlock(n,
+                              {true, {3500100, 5600200, ""}, {3500100, 5600225, "2042"}, 25, {{E, -0.02}}});
+      },
+  };
+  return Alle;
+}
+
+// Those whose columns are their own, or move with the decimals.
+const std::vector<Schreiber>& Eigene() {
+  static const std::vector<Schreiber> Alle = {
+      [](int n) {
+        return PolelAnschluss(n, {A, E, 40.96655, 100.0, 12.5, 99.98, 0.02, 0.16});
+      },
+      [](int n) {
+        return PolarZeile(n, {{3500169.359, 5600190.444, "2004"}, 212.259, 80.25, 98.4, 70, 0},
+                          PolarMarke(70, 100, 2));
+      },
+      [](int n) {
+        return PolarZeile(n, {{3500079.644, 5600215.367, "2005"}, {}, 312.7, 0, 25.5, 6}, "",
+                          PolarVersatzmarke(6, 2));
+      },
+      [](int n) { return HelmertBlock(n, Helmert(false)); },
+      [](int n) { return HelmertBlock(n, Helmert(true)); },
+      [](int n) { return AffinBlock(n, Affin(false)); },
+      [](int n) { return AffinBlock(n, Affin(true)); },
+      [](int n) {
+        return TransformationListe(n, {{3500100.1234, 5600200.5678, "1001", false, 1, 0, 0},
+                                       {3500900.1234, 5600200.5678, "2001", true, 0, 0, 0}});
+      },
+      [](int n) {
+        return AnpassungListe(n, {{3500100.1234, 5600200.5678, "1001", false, 1, 0.004, -0.002},
+                                  {3500900.1234, 5600200.5678, "2001", true, 0, 0, 0}});
+      },
+      [](int n) {
+        return DreiDBlock(
+            n, {DreiDArt::Raumstrecke,
+                {{"1001", 3500100, 5600200, 123.45, "015"}, {"1002", 3500160, 5600280, 124.45, ""}},
+                {100.005, 100, 1, 40.9666, 99.3634},
+                {}});
+      },
+      [](int n) {
+        return DreiDBlock(n, {DreiDArt::Lotabstand, {}, {12.5}, Raumpunkt{"", 3500100, 5600200, 123.45, ""}});
+      },
+  };
+  return Alle;
+}
+
+std::string Zusammen(const std::vector<Schreiber>& Alle, int& Marken) {
+  std::string Text;
+  for (const Schreiber& S : Alle) {
+    const Block Alles = S(3);
+    Marken += Alles.Marken;
+    for (const std::string& Zeile : Alles.Zeilen) Text += Zeile + "\r\n";
+  }
+  return Text;
+}
+
+TEST(Artenblock, JedeArtWieGedruckt) {
+  int Marken = 0;
+  std::string Text = Zusammen(Gemeinsame(), Marken);
+  EXPECT_EQ(Marken, 15);
+  Text += Zusammen(Eigene(), Marken = 0);
+  EXPECT_EQ(Marken, 6);
+  Polnachweis N{"Flurstück 12/3", "Ost", 1479.56, {}, 4, 3, 0};
+  N.Kanten = {{A, 30, Kantenart::Linie, 0, 0, 0, 0},
+              {E, 46.365, Kantenart::InnenLang, 25, 3500170, 5600270, 40}};
+  Text += AusCodepage850(PolText(N));
+  EXPECT_TRUE(GleichSoll(Text, "records/soll/arten.dru"));
+}
+
+TEST(Artenblock, NummernStehenUntereinander) {
+  for (const Schreiber& S : Gemeinsame()) {
+    const Block Drei = S(3);
+    for (const int n : {0, 2, 4, 5}) {
+      const Block Andere = S(n);
+      ASSERT_EQ(Andere.Zeilen.size(), Drei.Zeilen.size());
+      for (std::size_t i = 0; i < Drei.Zeilen.size(); ++i) {
+        const std::string &Soll = Drei.Zeilen[i], &Ist = Andere.Zeilen[i];
+        for (const char* Pnr : {"    1", "    2"}) {
+          const std::size_t Ab = Soll.rfind(Pnr);
+          if (Ab < 50 || Ab > 60) continue;
+          EXPECT_EQ(Ist.substr(Ab, 8), Soll.substr(Ab, 8)) << n << "\n" << Ist << "\n" << Soll;
+        }
+      }
+    }
+  }
+  for (const auto* Alle : {&Gemeinsame(), &Eigene()}) {
+    for (const Schreiber& S : *Alle)
+      EXPECT_EQ(S(6).Zeilen, std::vector<std::string>{"      #Fehler: Zu viele Nachkommastellen#"});
+  }
+}
+
+std::string Alle(const std::vector<std::string>& Texte) {
+  std::string Text;
+  for (const std::string& T : Texte) Text += T + ";";
+  return Text;
+}
+
+// Every mark on both sides of its limit; behind it the warning level.
+TEST(Artenblock, MarkenAnIhrenGrenzen) {
+  const auto Lage = [](double Tau, bool KreisGerade, int Stufe) {
+    return std::string(1, "gfvb"[static_cast<int>(SchnittlageVon(Tau, KreisGerade, Stufe))]);
+  };
+  const auto Zwei = [](double t1, double t2, double r3) {
+    const Rueckwaertsurteil U = RueckwaertsUrteil({false, {{{A, 300}, {E, 0}, {B, r3}}}, t1, t2, A});
+    return Alle(U.Texte) + Sterne(U.Marke);
+  };
+  const auto Kante = [](double WS, int Stufe) {
+    return FlaechenMarke({A, 30, Kantenart::Linie, 0, false, 30.0, WS, 0.3}, Stufe);
+  };
+  const std::string Verteilung = " ungünstige Verteilung der Anschlußpunkte ", Kreis = " Gefährlicher Kreis ",
+                    Winkel = "      ****** Beobachtete Winkel > 200 gon ******;", s6 = "******", s3 = "***",
+                    L = "      ";
+  const struct {
+    std::string Ist;
+    const std::string Soll;
+  } Fälle[] = {
+      {Alle(MesslinieMarken(5, 145.001, 10, 100, 2)), "***Vrl>0.4S;"},
+      {Alle(MesslinieMarken(5, 145, 10, 100, 3)), ""},
+      {Alle(MesslinieMarken(5, -999, -10.001, 25.0025, 3)), "***Seitw>10m;"},
+      {Alle(MesslinieMarken(0, 0, -10.001, 25.0024, 3)), "***Seitw>0.4S;***Seitw>10m;"},
+      {Alle(MesslinieMarken(0, 0, 25, 1000, 2)), "***Seitw>10m;"},
+      {Alle(MesslinieMarken(0, 0, -25.001, 1000, 2)), "***Seitw>10m;******Sw>25m;"},
+      {Alle(MesslinieMarken(0, 9000, 9000, 100, 1)), ""},
+      {PolarMarke(66.001, 99, 2), " ***Entf>2/3S"},
+      {PolarMarke(66, 99, 2), ""},
+      {PolarMarke(99, 99, 2), " ***Entf>2/3S"},
+      {PolarMarke(99.001, 99, 2), " ******Entf>S"},
+      {PolarMarke(999, 99, 1), ""},
+      {PolarVersatzmarke(5, 2), ""},
+      {PolarVersatzmarke(-5.001, 2), "             Seitw.>5M"},
+      {PolarVersatzmarke(7.5, 2), "             Seitw.>5M"},
+      {PolarVersatzmarke(-7.501, 2), "            Seitw.>7.5M"},
+      {PolarVersatzmarke(9, 1), ""},
+      {Lage(0, false, 2) + Lage(5, false, 2) + Lage(5.001, false, 2) + Lage(20, false, 2), "vvff"},
+      {Lage(20.001, false, 2) + Lage(179.999, false, 2) + Lage(180, false, 2), "ggf"},
+      {Lage(194.999, false, 2) + Lage(195, false, 2) + Lage(0, false, 1) + Lage(0, true, 1), "fvgg"},
+      {Lage(0.499, true, 2) + Lage(0.5, true, 2) + Lage(2.5, true, 2) + Lage(2.501, true, 2), "bvvf"},
+      {Lage(10, true, 2) + Lage(10.001, true, 2) + Lage(189.999, true, 2) + Lage(190, true, 2), "fggf"},
+      {Lage(197.499, true, 2) + Lage(197.5, true, 2), "fv"},
+      {Sterne(KreismitteWarnung(4.999, 0)) + Sterne(KreismitteWarnung(195.001, 1)), s6 + s6},
+      {Sterne(KreismitteWarnung(5, 2)) + Sterne(KreismitteWarnung(19.999, 2)), s3 + s3},
+      {Sterne(KreismitteWarnung(180.001, 2)) + Sterne(KreismitteWarnung(195, 2)), s3 + s3},
+      {Sterne(KreismitteWarnung(20, 2)) + Sterne(KreismitteWarnung(180, 2)), ""},
+      {Sterne(KreismitteWarnung(5, 1)) + Sterne(KreismitteWarnung(181, 1)), ""},
+      {Sterne(VorwaertsWarnung(-4.999, 2)) + Sterne(VorwaertsWarnung(195.001, 2)), s6 + s6},
+      {Sterne(VorwaertsWarnung(5, 2)) + Sterne(VorwaertsWarnung(19.999, 2)), s3 + s3},
+      {Sterne(VorwaertsWarnung(-180.001, 2)) + Sterne(VorwaertsWarnung(195, 2)), s3 + s3},
+      {Sterne(VorwaertsWarnung(20, 2)) + Sterne(VorwaertsWarnung(180, 2)) + Sterne(VorwaertsWarnung(1, 1)),
+       ""},
+      {Zwei(20, 20, 200), ""},
+      {Zwei(180, 20, 200.001), Winkel + s6},
+      {Zwei(19.999, 20, 9), L + s3 + Verteilung + s3 + ";" + s3},
+      {Zwei(180.001, 20, 9), L + s3 + Verteilung + s3 + ";" + s3},
+      {Zwei(195.001, 19.999, 9), L + s6 + Verteilung + s6 + ";" + L + s3 + Kreis + s3 + ";" + s3},
+      {Zwei(4.999, 5, 9), L + s6 + Verteilung + s6 + ";" + L + s3 + Kreis + s3 + ";" + s3},
+      {Zwei(5, 4.999, 9), L + s3 + Verteilung + s3 + ";" + L + s6 + Kreis + s6 + ";" + s6},
+      {ZugMarke("FW", {-0.301, 0.3}, 0), "******>FW(zul)"},
+      {ZugMarke("FL", {0.3, 0.3}, 2), "***>1/3FL(zul)"},
+      {ZugMarke("FQ", {-0.101, 0.3}, 2), "***>1/3FQ(zul)"},
+      {ZugMarke("FQ", {0.0999, 0.3}, 2) + ZugMarke("FQ", {0.3, 0.3}, 1) + ZugMarke("FQ", {9, {}}, 3), ""},
+      {Kante(-0.301, 0), "******WS>D"},
+      {Kante(0.3, 2) + Kante(-0.101, 2), "***WS>D/3***WS>D/3"},
+      {Kante(0.0999, 2) + Kante(0.3, 1), ""},
+      {RestklaffenMarke({0.0106, -0.0106, 0, ""}, 0.007), "  ***VY>1.5MK  ***VX>1.5MK"},
+      {RestklaffenMarke({0.0104, -0.0104, 0, ""}, 0.007) + RestklaffenMarke({9, 9, 0, ""}, {}), ""},
+  };
+  for (const auto& F : Fälle) EXPECT_EQ(F.Ist, F.Soll) << "row " << &F - Fälle;
+}
+
+TEST(Artenblock, NachweisLiestSichZurück) {
+  Polnachweis N{"N", "", 1, {}, 1, 3, 2};
+  using enum Kantenart;
+  for (int i = 0; i < 100; ++i) {
+    const Kantenart Art =
+        std::array{Linie, Außen, Innen, AußenLang, InnenLang}[static_cast<std::size_t>(i % 5)];
+    N.Kanten.push_back(
+        {{3500000.0 + i, 5600000, "ä" + std::to_string(i)}, 12, Art, Art == Linie ? 0 : 20.5, 1, 2, 3});
+  }
+  const std::string Text = PolText(N);
+  EXPECT_NE(Text.find("\x84\x30"), std::string::npos);
+  int Zeilen = 0;
+  for (const char z : Text) {
+    Zeilen = z == '\f' ? 0 : Zeilen + (z == '\n' ? 1 : 0);
+    EXPECT_LE(Zeilen, 60);
+  }
+  Polnachweis Zurück = N;
+  Zurück.Kanten = PolLesen(Text);
+  for (Polkante& K : Zurück.Kanten) {  // only printed
+    if (K.Art != Linie) K.MitteRechts = 1, K.MitteHoch = 2, K.Sehne = 3;
+  }
+  EXPECT_EQ(PolText(Zurück), Text);
+  EXPECT_TRUE(PolLesen("      3500100.000  5600230.000       46.365                   1002  Linie").empty());
+}
+
+}  // namespace
+}  // namespace tavorena::test
