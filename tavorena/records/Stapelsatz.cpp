@@ -15,13 +15,15 @@ std::string StapelLangzahl(double Zahl) { return ZahlFormat(Zahl, 10, 4); }
 int Worte(std::string_view Schlüssel, const Stapelzeile& Z, std::string_view& Rest) {
   if (Wortnehmen(Schlüssel) != Z.Schlüssel) return 0;
   Rest = Z.Rest;
-  const std::string_view Zweites = Wortnehmen(Schlüssel);
-  if (Zweites.empty()) return 1;
-  return Großtext(Wortnehmen(Rest)) == Zweites ? 2 : 0;
+  int Anzahl = 1;
+  for (std::string_view W; !(W = Wortnehmen(Schlüssel)).empty(); ++Anzahl) {
+    if (Großtext(Wortnehmen(Rest)) != W) return 0;
+  }
+  return Anzahl;
 }
 
-// Takes a line into the places of S. With several forms, and with several keywords that begin alike, the
-// longest keyword holds. @return its words; 0 if the line is another record
+// The form of S that a line is: the longest of several keywords that begin alike. @return the words of the
+// keyword; 0 if the line is another record
 int Treffer(const Stapelsatz& S, const Stapelzeile& Z, std::size_t& Form, std::string_view& Rest) {
   int Meiste = 0;
   for (std::size_t i = 0; i < S.Formen.size(); ++i) {

@@ -61,7 +61,7 @@ inline Satzfeld Text(std::string& X) { return {Satzfeld::Art::Text, X}; }
 }  // namespace satz
 /// @}
 
-/// A record: keyword with the blanks that are written behind it (it may be two words), and its places.
+/// A record: keyword with the blanks that are written behind it (it may be several words), and its places.
 struct Satzform {
   std::string_view Schlüssel;
   std::vector<Satzfeld> Felder;
