@@ -5,6 +5,7 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/Dateiwahl.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/Tabellenbefehle.h>
@@ -15,19 +16,29 @@ Rücknahme TabellenRücknahme;
 
 namespace {
 
-bool Fragen(const std::string& Text, int Anzahl) {
+bool Fragen(const std::string& Name, const std::string& Text, int Anzahl) {
   const std::string Frage = Anzahltext(Anzahl, "Punkt", "Punkte") + " ändern ?";
-  return FrageJaNein(Text.empty() ? Frage : Text + "\n\n" + Frage) == KnopfJa;
+  return FrageJaNein(Text.empty() ? Frage : Text + "\n\n" + Frage, "Tavorena " + Name) == KnopfJa;
 }
 
-// Behind a deed: the entry that takes it back bears its name.
+bool PunktZuSehen() {
+  const Grafikzustand& G = GrafikFenster;
+  for (std::size_t z = 0; z < static_cast<std::size_t>(KorAnzahl); ++z) {
+    const double R = KorRechts[z] - G.FensterRechts, H = KorHoch[z] - G.FensterHoch;
+    if (R >= 0 && R <= G.FensterBreite && H >= 0 && H <= G.FensterHoehe) return true;
+  }
+  return false;
+}
+
+// Behind a deed: the entry that takes it back bears its name, and the view goes where the points went.
 void Berichten(int Ergebnis, const std::string& Text) {
   AnzeigePort().HauptfensterGeändert();
+  if (GrafikFenster.GrafikOffen && !PunktZuSehen()) GrafikZoomAnpassen();
   if (Ergebnis == 0) StatusHilfeSetzen(Text);
 }
 
-void Ändern(int Anzahl, const std::string& Text, const std::function<int()>& Tun) {
-  if (Fragen(Text, Anzahl)) Berichten(Tun(), Anzahltext(Anzahl, "Punkt", "Punkte") + " geändert");
+void Ändern(const std::string& Name, int Anzahl, const std::string& Text, const std::function<int()>& Tun) {
+  if (Fragen(Name, Text, Anzahl)) Berichten(Tun(), Anzahltext(Anzahl, "Punkt", "Punkte") + " geändert");
 }
 
 bool VersatzFragen(const std::string& Name, Versatz& d) {
@@ -59,7 +70,7 @@ void TabelleTauschen(bool Tauschen, bool MitVersatz) {
                                        : "Koordinatenoffset";
   Versatz d;
   if (MitVersatz && !VersatzFragen(Name, d)) return;
-  Ändern(KorAnzahl, "", [&] { return TabelleVerschieben(TabellenRücknahme, Name, d, Tauschen); });
+  Ändern(Name, KorAnzahl, "", [&] { return TabelleVerschieben(TabellenRücknahme, Name, d, Tauschen); });
 }
 
 void TabelleÜbernehmen(Übernahme Art) {
@@ -74,7 +85,8 @@ void TabelleÜbernehmen(Übernahme Art) {
   if (Art == Übernahme::Punktnummern && !AbstandFragen(Übernahmename(Art), fs)) return;
   Übernahmeplan Plan;
   if (ÜbernahmePlanen(Art, Datei, fs, Plan) < 0) return;
-  Ändern(Plan.Anzahl(), ÜbernahmeText(Plan), [&] { return ÜbernahmeAusführen(TabellenRücknahme, Plan); });
+  Ändern(Übernahmename(Art), Plan.Anzahl(), ÜbernahmeText(Plan),
+         [&] { return ÜbernahmeAusführen(TabellenRücknahme, Plan); });
 }
 
 void TabelleZurücknehmen() {

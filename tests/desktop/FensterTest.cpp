@@ -245,6 +245,7 @@ class FensterTest final : public Fensterumgebung {
     Öffne();
     Antworte(Qt::Key_J);
     Menü("MenüBearbeitenTauschen(0)");
+    QVERIFY(std::abs(GrafikFenster.FensterRechts - 5600200) < 1000);  // the view went with the points
     auto Blatt = std::make_unique<Probe>();
     Probe& Form = *Blatt;
     BlattZeigen(std::move(Blatt));
