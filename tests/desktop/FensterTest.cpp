@@ -306,19 +306,49 @@ class FensterTest final : public Fensterumgebung {
              QString("2003"));
   }
 
+  // Points that are averaged, deleted and brought back by keys and clicks in the view.
+  void punkteMittelnUndLoeschen() {
+    Öffne();
+    QCOMPARE(KorAnhängen({"2004", 3500100.05, 5600275, 0, "", nullptr}), 0);
+    Menü("MenüKatasterDMitt");
+    QTRY_COMPARE(FokusName(), QString("DMittMitteln"));
+    Drücke(Qt::Key_Return);
+    QTRY_VERIFY(Fenster->findChildren<QMdiSubWindow*>().isEmpty());
+    QCOMPARE(KorAnzahl, 5);
+    QCOMPARE(Inhalt(Pfad("a.dru")).count("2004 ***Mittel"), 1);
+    Menü("MenüKatasterPMitt");
+    QTRY_COMPARE(FokusName(), QString("AlterPunktPnr(0)"));
+    for (const char* Pnr : {"1001", "1002"}) KlickeInGrafik(Pnr);
+    QCOMPARE(FokusName(), QString("AlterPunktPnr(2)"));
+    Drücke(Qt::Key_P, Qt::AltModifier);
+    QTRY_COMPARE(KorAnzahl, 4);
+    Drücke(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(KorAnzahl, 5);
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(Fenster->findChildren<QMdiSubWindow*>().isEmpty());
+    Menü("MenüKatasterPunktLöschen");
+    QTRY_COMPARE(FokusName(), QString("LoeschPnr"));
+    KlickeInGrafik("2003");
+    Tippe("1002\n");
+    Fenster->findChild<QTableView*>("LoeschGitter")->setFocus();
+    Drücke(Qt::Key_Space);  // leaves the last one out
+    Antworte(Qt::Key_J);
+    Drücke(Qt::Key_L, Qt::AltModifier);
+    QTRY_COMPARE(KorAnzahl, 4);
+    QVERIFY(KorSuche(Wert("2003")) < 0);
+    QTRY_COMPARE(FokusName(), QString("LoeschPnr"));
+    Drücke(Qt::Key_F1);
+    QTRY_COMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("loeschen.md"));
+    handbuch()->close();
+  }
+
   // Connection and rows clicked in the view; what was seen there comes and goes with the mouse and the keys.
   void punkteAusDerGrafik() {
     Öffne("MenüKatasterLinel");
     auto* Bild = Fenster->findChild<QWidget*>("GrafBild");
     QTRY_VERIFY(Bild->isVisible() && GrafikFenster.Massstab > 0);
     QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
-    const auto Ort = [](const char* Pnr) {
-      const auto z = static_cast<std::size_t>(KorSuche(std::string_view(Pnr)));
-      double x = 0, y = 0;
-      GrafikPixelAusWelt(KorRechts[z], KorHoch[z], x, y);
-      return QPoint(qRound(x / TwipsJePixel), qRound(y / TwipsJePixel));
-    };
-    const auto Klicke = [&](const char* Pnr) { QTest::mouseClick(Bild, Qt::LeftButton, {}, Ort(Pnr)); };
+    const auto Klicke = [this](const char* Pnr) { KlickeInGrafik(Pnr); };
     QTRY_VERIFY(Bild->rect().contains(Ort("1001")) && Bild->rect().contains(Ort("2005")));
     QTest::mouseClick(Bild, Qt::LeftButton, {}, QPoint(1, 1));  // no point there
     QCOMPARE(FokusName(), QString("LinelAnfPnr"));

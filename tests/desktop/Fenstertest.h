@@ -147,6 +147,16 @@ class Fensterumgebung : public QObject {
     Optionen.AbfrageRiss = false;
     Menü(Blatt);
   }
+  // Where the view shows a point.
+  static QPoint Ort(const char* Pnr) {
+    const auto z = static_cast<std::size_t>(KorSuche(std::string_view(Pnr)));
+    double x = 0, y = 0;
+    GrafikPixelAusWelt(KorRechts[z], KorHoch[z], x, y);
+    return {qRound(x / TwipsJePixel), qRound(y / TwipsJePixel)};
+  }
+  void KlickeInGrafik(const char* Pnr) const {
+    QTest::mouseClick(Fenster->findChild<QWidget*>("GrafBild"), Qt::LeftButton, {}, Ort(Pnr));
+  }
   int Zeilenhöhe() const {
     return Fenster->findChild<QTableView*>("LinelGitter")->verticalHeader()->defaultSectionSize();
   }

@@ -379,6 +379,25 @@ TEST_F(HauptOffen, GanzeTabelleUndZurück) {
   EXPECT_FALSE(Aktiv(Rück));
 }
 
+TEST_F(HauptOffen, PunktformenÜberDasMenü) {
+  Skript.Erwarte("Keine doppelten Punkte vorhanden !");
+  Befehl("MenüKatasterDMitt");
+  ASSERT_EQ(KorAnhängen({"1001", 0, 0}), 0);
+  for (const char* Name : {"MenüKatasterBerpunkt", "MenüKatasterSchwerpunkt", "MenüKatasterPMitt",
+                           "MenüKatasterDMitt", "MenüKatasterPunktLöschen"}) {
+    Befehl(Name);
+    EXPECT_TRUE(Gleich(BlätterOffen(), true, BildAktiv("ImageDateiLesen"), false)) << Name;
+    BlätterSchließen();
+  }
+  KorAbschneiden(0);
+  for (const Menüeintrag& E : Menübaum()) {
+    const tavorena::Befehl* B = BefehlFinden(E.Name);
+    if (B == nullptr || B->OhnePunkte == nullptr) continue;
+    Skript.Erwarte(B->OhnePunkte);
+    Befehl(E.Name);
+  }
+}
+
 TEST_F(HauptOffen, StapelÜberDasMenü) {
   const std::string Sta = Ordner.Pfad("lauf.sta");
   Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 65.00 x\r\nE\r\n");
