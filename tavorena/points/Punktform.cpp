@@ -8,7 +8,7 @@ namespace tavorena {
 
 Knopf& Punktform::RückgängigAnlegen(std::string Name, Platz Ort) {
   Rückgängig = &KnopfAnlegen(
-      std::move(Name), "Rückgäng&ig", [this] { static_cast<void>(Zurücknehmen()); }, Ort);
+      std::move(Name), "Rückgängig", [this] { static_cast<void>(Zurücknehmen()); }, Ort);
   Rückgängig->OhnePrüfung = true;
   Rückgängig->Aktiv = false;
   return *Rückgängig;
@@ -21,7 +21,7 @@ bool Punktform::DarfÄndern() {
 
 int Punktform::Getan(int Ergebnis) {
   if (Rückgängig != nullptr) {
-    Rückgängig->Text = R.Leer() ? "Rückgäng&ig" : "Rückgäng&ig: " + R.Name();
+    Rückgängig->Text = R.Leer() ? "Rückgängig" : "Rückgängig: " + R.Name();
     Rückgängig->Aktiv = !R.Leer();
   }
   NachTat();

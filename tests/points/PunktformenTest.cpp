@@ -65,7 +65,7 @@ TEST_F(Punktformen, Löschen) {
   Drücke(Form, "LoeschPunkte");
   EXPECT_TRUE(
       Gleich(Nummern(), "2 3 8A ", KorRechts[0], 110, Liste.Zeilen(), 1, Liste.Markierte().empty(), true));
-  EXPECT_TRUE(Gleich(Text(Form, "LoeschRückgängig"), "Rückgäng&ig: Lösche 2 Punkte"));
+  EXPECT_TRUE(Gleich(Text(Form, "LoeschRückgängig"), "Rückgängig: Lösche 2 Punkte"));
   NimmZurück(Form);
   Tippe(Form, "LoeschPnrvon", "3\n8\n");
   Skript.Formulare.push_back(Bediene({{"Alle", ""}, {"OK", ""}}));

@@ -77,7 +77,7 @@ TEST_F(TVKerntextFormTest, TatenUndZurück) {
   const Texte Anfang = Nummern();
   Öffne(Textart::Koordinaten);
   const auto Rück = [&] { return Text(*Form, "TextanzeigeRückgängig"); };
-  EXPECT_TRUE(Gleich(Rück(), "Rückgäng&ig", *Element(*Form, "TextanzeigeRückgängig").Aktiv, false));
+  EXPECT_TRUE(Gleich(Rück(), "Rückgängig", *Element(*Form, "TextanzeigeRückgängig").Aktiv, false));
   Markiere({4, 5});  // rows 3 and 4, below the warning
   Skript.Erwarte("Punkte 3, 4 mitteln ?", KnopfJa);
   Drücke(*Form, "PlustextPunktemitteln");
@@ -88,19 +88,19 @@ TEST_F(TVKerntextFormTest, TatenUndZurück) {
   Drücke(*Form, "PlustextPunktlöschen");
   Skript.Erwarte("Punkt 3 löschen ?", KnopfJa);
   Drücke(*Form, "PlustextPunktlöschen");
-  EXPECT_EQ(Rück(), "Rückgäng&ig: Lösche 3");
+  EXPECT_EQ(Rück(), "Rückgängig: Lösche 3");
   Markiere({0, 4});
   Skript.Erwarte("Punkt 2schon vorhanden !");
   Skript.Formulare = {Bediene({{"Wert(0)", "2"}, {"OK", ""}}), Bediene({{"Wert(0)", "77"}, {"OK", ""}})};
   Drücke(*Form, "PlustextPunktegleichePnr");
-  EXPECT_TRUE(Gleich(Nummern(), Texte{"2", "2", "77", "77"}, Rück(), "Rückgäng&ig: Numeriere 2 Punkte"));
+  EXPECT_TRUE(Gleich(Nummern(), Texte{"2", "2", "77", "77"}, Rück(), "Rückgängig: Numeriere 2 Punkte"));
   Stapel.Aktiv = true;  // the table belongs to the replay
   Drücke(*Form, "TextanzeigeRückgängig");
   Drücke(*Form, "PlustextPunktlöschen");
   EXPECT_TRUE(Gleich(KorAnzahl, 4, Skript.Status[4], "   Stapel noch nicht abgeschlossen   "));
   Stapel.Aktiv = false;
   for (int i = 0; i < 3; ++i) EXPECT_TRUE(Form->RücknahmeVerlangen());
-  EXPECT_TRUE(Gleich(Nummern(), Anfang, Rück(), "Rückgäng&ig", Form->RücknahmeVerlangen(), false));
+  EXPECT_TRUE(Gleich(Nummern(), Anfang, Rück(), "Rückgängig", Form->RücknahmeVerlangen(), false));
 }
 
 // Marks stay with their points, and never pass to others, whatever another form does.
