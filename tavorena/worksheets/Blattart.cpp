@@ -3,6 +3,8 @@
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVDisForm.h>
 #include <tavorena/worksheets/TVLinelForm.h>
+#include <tavorena/worksheets/TVOrthoForm.h>
+#include <tavorena/worksheets/TVPolarForm.h>
 #include <tavorena/worksheets/TVPolelForm.h>
 
 namespace tavorena {
@@ -45,6 +47,26 @@ constexpr Blattart Arten[] = {
      4130,
      "entfernungskontrolle.md",
      Neu<TVDisForm>},
+    {"TVOrthoForm",
+     "Ortho",
+     "VR 22.00 Meßlinie",
+     "Tavorena Meßlinie [Stapel]",
+     "Berechnung Meßlinie",
+     {"22.00", "ML"},
+     "MenüKatasterOrtho",
+     4140,
+     "messlinie.md",
+     Neu<TVOrthoForm>},
+    {"TVPolarForm",
+     "Polar",
+     "VR 19.70 Polare Punkte",
+     "Tavorena Polare Punkte [Stapel]",
+     "Berechnung Polare Punkte",
+     {"19.70", "PP"},
+     "MenüKatasterPolar",
+     4150,
+     "polarpunkte.md",
+     Neu<TVPolarForm>},
 };
 
 template <typename Test>

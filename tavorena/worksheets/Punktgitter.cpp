@@ -105,7 +105,11 @@ void Punktgitter::GitterReturn() {
     if (z + 1 == Zellen.Zeilen()) Blatt.FokusSetzen(*KnopfEnd10);
     return;
   }
-  if (Nächste >= 0) return Blatt.ZelleWechseln(Zellen, z, Nächste);
+  if (Nächste >= 0) {
+    // What can not be computed is mended here, and not behind the symbol.
+    if (Zellen.Spalte == Rechenspalte && GitterEinzel(z) < 0) return;
+    return Blatt.ZelleWechseln(Zellen, z, Nächste);
+  }
   Zeileneingabe E;
   if (Reihe(z).Wo.Geschrieben && EingabeLesen(z, E) && E == static_cast<Zeileneingabe&>(Reihe(z))) {
     ZeileZeigen(z);
@@ -363,7 +367,7 @@ void Punktgitter::ZeileZeigen(int z) {
 }
 
 // What stands in the grid is what was written: a committed row that was not confirmed shows what it holds
-// again, a new row that is complete is computed and waits for Return.
+// again, a new row that is complete is computed and waits for Return. Within a row every way is open.
 bool Punktgitter::ZelleVerlassen() {
   const int z = Zellen.Zeile, s = Zellen.Spalte;
   if (z >= std::ssize(Reihen)) return true;
@@ -375,7 +379,7 @@ bool Punktgitter::ZelleVerlassen() {
   if (!HatEingabe(z)) return true;
   if (!ZelleLesen(z, s)) return false;
   const bool Fertig = Vollständig(z) && (s == Rechenspalte || !Bleibt);
-  return !Fertig || !Reihe(z).Pnr.empty() || GitterEinzel(z) == 0;
+  return !Fertig || !Reihe(z).Pnr.empty() || GitterEinzel(z) == 0 || Bleibt;
 }
 
 // Results that do not belong to what was typed would mislead.

@@ -1,6 +1,9 @@
 #include "Blattest.h"
 #include "Mitschrift.h"
 
+#include <tavorena/core/Text.h>
+#include <tavorena/records/Neupunktblock.h>
+
 namespace tavorena::test {
 namespace {
 
@@ -63,6 +66,70 @@ TEST_F(BlattTest, EntfernungskontrollenSchreibenIhreDateien) {
   Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);  // the last check was not committed
   Drücke(*B, "DisEnd");
   PrüfeDateien("dis", 3);
+}
+
+// New points: typed cell by cell, stored, corrected and deleted. What a correction did to the table is taken
+// back.
+TEST_F(BlattTest, MeßlinieSchreibtIhreDateien) {
+  auto B = Öffne("22.00");
+  const Gitter& G = Gitterfeld(*B);
+  const auto Gib = [&](int Zeile, const char* Text) {
+    B->ZelleWechseln(Element<Gitter>(*B, "OrthoGitter"), Zeile, 0);
+    return Tippe(*B, "OrthoGitter", Text);
+  };
+  Tippe(*B, "OrthoAnfPnr", "1001\n1002\n0\n99,93\n");
+  Tippe(*B, "OrthoGitter", "3001\n30\n5\n015\n");
+  EXPECT_EQ(Gitterzeile(G, 0), (Texte{"3001", "3500122.015", "5600221.015", "30.000", "5.000", "015"}));
+  EXPECT_EQ(G.Inhalt(1, 5), "015");
+  EXPECT_EQ(KorAnzahl, 6);
+  EXPECT_EQ(Tippe(*B, "OrthoGitter", "+\n145\nx\n"), "OrthoGitter");  // no number: the cell stays
+  EXPECT_TRUE(Gleich(*G.Spalte, 4, G.Fehlerhaft, true, KorAnzahl, 6));
+  Tippe(*B, "OrthoGitter", "-45\n");
+  EXPECT_EQ(G.Inhalt(1, 1), "3500151.036");  // computed, and waits for the symbol
+  Tippe(*B, "OrthoGitter", "\n");
+  EXPECT_EQ(KorPnr(6), "3002");
+  Gib(0, "3001\n40\n");  // another measure in a row that stands
+  EXPECT_EQ(KorSuche(std::string_view("3001")) >= 0 &&
+                KorRechts[static_cast<std::size_t>(KorSuche(std::string_view("3001")))] < 3500123,
+            true);
+  Tippe(*B, "OrthoGitter", "\n\n");
+  EXPECT_NEAR(KorRechts[static_cast<std::size_t>(KorSuche(std::string_view("3001")))], 3500128.02, 0.01);
+  Gib(2, "3003\n1\n1\n\n");
+  B->ZelleWechseln(Element<Gitter>(*B, "OrthoGitter"), 2, 0);
+  Drücke(*B, "OrthoDelete");
+  EXPECT_TRUE(Gleich(KorSuche(std::string_view("3003")), -1, KorAnzahl, 7));
+  Gib(2, "3004\n2\n2\n\n");
+  Wert Nummer("3004");
+  static_cast<void>(KorZeileSetzen(KorSuche(Nummer), {"3004", 1, 2}));  // by somebody else
+  B->ZelleWechseln(Element<Gitter>(*B, "OrthoGitter"), 2, 0);
+  Drücke(*B, "OrthoDelete");
+  EXPECT_TRUE(Gleich(Trimmen(Skript.Status[4]), "Punkt 3004 bleibt: inzwischen geändert", KorAnzahl, 8));
+  Drücke(*B, "OrthoEnd");
+  EXPECT_TRUE(GleichSoll(Protokoll(), "worksheets/soll/ortho.dru"));
+  EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/ortho.sta"));
+}
+
+TEST_F(BlattTest, PolarePunkteSchreibenIhreDateien) {
+  auto B = Öffne("19.70");
+  Tippe(*B, "PolarAnfPnr", "1001\n1002\n12,5\n99,98\n");
+  Tippe(*B, "PolarGitter", "2011\n80,25\n98,4\n70\n015\n2012\n312,7\n0\n25,5\n\n");
+  EXPECT_EQ(Gitterzeile(Gitterfeld(*B), 0),
+            (Texte{"2011", "3500169.359", "5600190.444", "14.259", "80.250", "98.400", "70.000", "015"}));
+  EXPECT_EQ(Tippe(*B, "PolarGitter", "2013\n1\n0\n0\n"), "PolarGitter");
+  EXPECT_EQ(Trimmen(Skript.Status[4]), "Strecke fehlt");
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{Konfliktwort::Mitteln, ""}; };
+  Haken.MittelEintragen = [](const Mittelpunkt& M) {
+    static_cast<void>(Schreiben(Prot, nullptr, MittelBlock(3, M)));
+  };
+  B->ZelleWechseln(Element<Gitter>(*B, "PolarGitter"), 2, 0);
+  Tippe(*B, "PolarGitter", "2011\n80,25\n98,4\n70,1\n\n");
+  Drücke(*B, "PolarEnd");
+  EXPECT_TRUE(GleichSoll(Protokoll(), "worksheets/soll/polar.dru"));
+  EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/polar.sta"));
+  // The same on the table as it was gives the same again.
+  for (const char* Pnr : {"2011", "2012"}) static_cast<void>(KorLoeschen(KorSuche(std::string_view(Pnr))));
+  const std::string Dru = Protokoll();
+  EXPECT_EQ(Nachlauf(), Dru);
 }
 
 // Two worksheets typed in turn give whole blocks in the order of work, and their replay the same protocol.
