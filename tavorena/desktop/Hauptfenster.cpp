@@ -65,7 +65,7 @@ QString OhneBuchstabe(const QString& Titel) {
 }
 
 QString Schlüssel(const Formular& Form, const char* Was) {
-  return QString::fromStdString(Form.FormName) + "/" + Was;
+  return QString::fromStdString(Form.Platzname) + "/" + Was;
 }
 
 /// A worksheet in the work area; closing it asks the form first.
@@ -86,7 +86,7 @@ class Blattfenster final : public QMdiSubWindow {
     });
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowIcon(Programmsymbol());
-    Ansicht->BeiGeschlossen = [this, Name = QString::fromStdString(Zeigt->Form()->FormName)] {
+    Ansicht->BeiGeschlossen = [this, Name = QString::fromStdString(Zeigt->Form()->Platzname)] {
       PlatzMerken(Name);
       hide();
       deleteLater();

@@ -36,14 +36,15 @@ struct Dialogplatz {
 /// stands in the control itself.
 class Formular {
  public:
-  explicit Formular(std::string Objekt) : FormName(std::move(Objekt)) {}
+  explicit Formular(std::string Objekt) : FormName(std::move(Objekt)), Platzname(FormName) {}
   virtual ~Formular() = default;
   Formular(const Formular&) = delete;
   Formular& operator=(const Formular&) = delete;
 
   const std::string FormName;  ///< name of the class, and of the one running window
+  std::string Platzname;       ///< under which size and widths of its window are kept
   Gezeigt<std::string> Titel;
-  int Hilfenummer = 0;     ///< page of the handbook
+  int Hilfenummer = 0;              ///< page of the handbook
   std::optional<Dialogplatz> Fest;  ///< a dialog of its own place, while which the tool bar is hidden
   bool Ungefragt = false;  ///< a row opens it by itself: keys that were typed ahead are not meant for it
 

@@ -39,6 +39,12 @@ bool Bereichsfrage(Textauftrag& A) {
   }
 }
 
+std::string Nummernzahl(const std::vector<Nummernlauf>& Läufe) {
+  double Belegt = 0, Frei = 0;  // the free ones may be more than an integer holds
+  for (const Nummernlauf& L : Läufe) (L.Belegt ? Belegt : Frei) += static_cast<double>(L.Bis - L.Von) + 1;
+  return ZahlFeld(Belegt, 0) + " belegt, " + ZahlFeld(Frei, 0) + " frei";
+}
+
 // How many rows a list has, and in what.
 std::string Zähltext(const Textliste& Liste) {
   const auto Punkte = [&](const auto& Zählt) {
@@ -54,7 +60,7 @@ std::string Zähltext(const Textliste& Liste) {
              Anzahltext(Punkte([](const Listenzeile& L) { return L.Zeile < 0; }), "Gruppe", "Gruppen") +
              ", fs " + ZahlNachText(Liste.Auftrag.fs).Text() + " m";
     case Textart::Belegung:
-      return Anzahltext(static_cast<int>(Liste.Läufe.size()), "Lauf", "Läufe");
+      return Nummernzahl(Liste.Läufe);
     case Textart::Koordinaten:
     case Textart::MitDoppelten:
       break;
@@ -67,6 +73,7 @@ std::string Zähltext(const Textliste& Liste) {
 
 TVKerntextForm::TVKerntextForm(const Textauftrag& Was) : Punktform("TVKerntextForm") {
   Hilfenummer = Listenseite;
+  if (Was.Art == Textart::Belegung) Platzname += "Belegung";  // it is narrow
   Liste.Auftrag = Was;
   BeschriftungAnlegen("Punktnr. s&uchen:", {0, 0});
   Suche = &FeldAnlegen("TextanzeigeSuchen", {0, 1}, "", PnrZeichen);

@@ -76,7 +76,7 @@ std::vector<Gitterspalte> Textspalten(Textart Art) {
                                        {"Höhe", 10},
                                        {ZurMitte ? "fs (S)" : "fs", 8},
                                        {ZurMitte ? "dh (S)" : "dh", 8},
-                                       {"Symbol", 7, false, false},
+                                       {"Symbol", 8},
                                        {"Index", 7},
                                        {"P(i)", 7}};
   for (std::size_t s = SpalteIndex; s < Spalten.size(); ++s) Spalten[s].Sichtbar = false;
