@@ -1,9 +1,7 @@
 #include "Messdaten.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -40,16 +38,6 @@ void QuasiMessen(benchmark::State& Stand, Lage Wo) {
     Stand.SkipWithError("Die Gruppen stimmen nicht.");
 }
 
-void StdSortMessen(benchmark::State& Stand) {
-  TabelleFüllen();
-  std::vector<std::pair<double, int>> Paare(Punktzahl);
-  for (auto _ : Stand) {
-    for (std::size_t i = 0; i < Punktzahl; ++i) Paare[i] = {KorRechts[i], static_cast<int>(i)};
-    std::sort(Paare.begin(), Paare.end());
-    benchmark::DoNotOptimize(Paare.data());
-  }
-}
-
 // What is done to the whole table at once; taken back it is whole again.
 template <typename Arbeit>
 void TatMessen(benchmark::State& Stand, Arbeit Tun) {
@@ -80,7 +68,6 @@ constexpr auto ms = benchmark::kMillisecond;
 BENCHMARK_CAPTURE(QuasiMessen, verstreut, Lage::Verstreut)->Name("Quasiidentisch/20000")->Unit(ms);
 BENCHMARK_CAPTURE(QuasiMessen, fleck, Lage::Fleck)->Name("Quasiidentisch/20000/fleck")->Unit(ms);
 BENCHMARK_CAPTURE(QuasiMessen, linie, Lage::Linie)->Name("Quasiidentisch/20000/linie")->Unit(ms);
-BENCHMARK(StdSortMessen)->Name("StdSort/20000")->Unit(ms);
 BENCHMARK_CAPTURE(TatMessen, loeschen, Löschen)->Name("Loeschen/Bereich")->Unit(ms)->UseManualTime();
 BENCHMARK_CAPTURE(TatMessen, nummern, Umnumerieren)->Name("Umnumerieren/Bereich")->Unit(ms)->UseManualTime();
 

@@ -19,8 +19,6 @@
 namespace tavorena {
 namespace {
 
-constexpr int Listenseite = 3010;  // help number
-
 bool Quasifrage(Textauftrag& A) {
   Wertfeld fs{"fs:", "0.01", -1, -1, true};
   Wahlpaar Paar{"Mit Einzelpunkten", "Ohne Einzelpunkte"};

@@ -11,6 +11,9 @@
 
 namespace tavorena {
 
+/// Help number of all lists.
+inline constexpr int Listenseite = 3010;
+
 /// A list of points, or of used and free numbers. It follows the table; marked points can be averaged,
 /// deleted, given one number, and what was done so can be taken back as long as the list is open.
 class TVKerntextForm final : public Punktform {

@@ -12,6 +12,7 @@ struct Befehl {
   std::function<void()> Tun;
   bool Ändert = false;               ///< the table, which is that of the replay while one runs
   const char* OhnePunkte = nullptr;  ///< what is said where the table is empty; nullptr: it works there too
+  int Hilfe = 0;                     ///< page of the handbook, where the menu's entry names none
 };
 
 /// @{

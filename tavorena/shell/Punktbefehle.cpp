@@ -32,21 +32,22 @@ void Eingeben() { BlattZeigen(std::make_unique<TVKernKoordinatenEditor>(Editormo
 void Editieren() { BlattZeigen(std::make_unique<TVKernKoordinatenEditor>(Editormodus::Bearbeiten), true); }
 
 // The command that shows a list.
-std::function<void()> Liste(Textart Art) {
-  return [Art] {
+Befehl Listenbefehl(const char* Eintrag, Textart Art) {
+  const auto Zeigen = [Art] {
     if (auto Form = KerntextErfragen(Art)) BlattZeigen(std::move(Form));
   };
+  return {Eintrag, true, Zeigen, false, NichtEingelesen, Listenseite};
 }
 
 }  // namespace
 
 std::span<const Befehl> Punktbefehle() {
   static const std::vector<Befehl> Alle = {
-      {"MenüAnsichtKoordinaten", true, Liste(Textart::Koordinaten), false, NichtEingelesen},
-      {"MenüAnsichtDoppelte", true, Liste(Textart::Doppelte), false, NichtEingelesen},
-      {"MenüAnsichtMitDoppelten", true, Liste(Textart::MitDoppelten), false, NichtEingelesen},
-      {"MenüAnsichtQuasi", true, Liste(Textart::Quasi), false, NichtEingelesen},
-      {"MenüAnsichtBelegung", true, Liste(Textart::Belegung), false, NichtEingelesen},
+      Listenbefehl("MenüAnsichtKoordinaten", Textart::Koordinaten),
+      Listenbefehl("MenüAnsichtDoppelte", Textart::Doppelte),
+      Listenbefehl("MenüAnsichtMitDoppelten", Textart::MitDoppelten),
+      Listenbefehl("MenüAnsichtQuasi", Textart::Quasi),
+      Listenbefehl("MenüAnsichtBelegung", Textart::Belegung),
       {"MenüBearbeitenTauschen(0)", true, [] { TabelleTauschen(true, false); }, true, NichtVorhanden},
       {"MenüBearbeitenTauschen(1)", true, [] { TabelleTauschen(false, true); }, true, NichtVorhanden},
       {"MenüBearbeitenTauschen(2)", true, [] { TabelleTauschen(true, true); }, true, NichtVorhanden},

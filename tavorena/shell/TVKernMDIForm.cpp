@@ -122,6 +122,7 @@ std::string TVKernMDIForm::Hinweis(const Werkzeug& W) const {
 
 int TVKernMDIForm::Hilfe(const Menüeintrag& E) const {
   if (E.Hilfe != 0) return E.Hilfe;
+  if (const Befehl* B = BefehlFinden(E.Name); B != nullptr && B->Hilfe != 0) return B->Hilfe;
   const Menüeintrag* Eltern = MenüFinden(E.Eltern);
   return Eltern != nullptr ? Hilfe(*Eltern) : 0;
 }

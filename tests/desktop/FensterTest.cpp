@@ -564,6 +564,34 @@ class FensterTest final : public Fensterumgebung {
     QCOMPARE(KorRechts[static_cast<std::size_t>(KorSuche(std::string_view("3002")))], 3500120.0);
     QCOMPARE(Inhalt(Pfad("a.dru")).count("VR 25.10"), 1);
   }
+
+  // From the menu to the protocol and back, and to the point in the view.
+  void listeDerPunkte() {
+    Öffne("MenüAnsichtKoordinaten");
+    QTRY_COMPARE(FokusName(), QString("TextanzeigeGitter"));
+    Drücke(Qt::Key_Space);
+    Drücke(Qt::Key_Down, Qt::ShiftModifier);
+    Antworte(Qt::Key_J);
+    Drücke(Qt::Key_M, Qt::AltModifier);
+    QTRY_COMPARE(KorAnzahl, 4);
+    QVERIFY(Inhalt(Pfad("a.dru")).contains("***Mittel"));
+    QTRY_COMPARE(FokusName(), QString("TextanzeigeGitter"));
+    Drücke(Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(KorAnzahl, 5);
+    auto* Grafik = Fenster->findChild<QDockWidget*>("TVKernGrafikform");
+    auto* Tabelle = Fenster->findChild<QTableView*>("TextanzeigeGitter");
+    QTRY_COMPARE(Tabelle->model()->rowCount(), 5);
+    Grafik->hide();
+    const QPoint Letzte = Tabelle->visualRect(Tabelle->model()->index(4, 1)).center();
+    for (int i = 0; i < 2; ++i) {  // the second time it is open
+      GrafikSchieben(500, 500);
+      QTest::mouseClick(Tabelle->viewport(), Qt::LeftButton, {}, Letzte);
+      QTest::mouseDClick(Tabelle->viewport(), Qt::LeftButton, {}, Letzte);
+      QTRY_COMPARE(GrafikFenster.FensterRechts + GrafikFenster.FensterBreite / 2, 3500220.0);
+      QVERIFY(Grafik->isVisible());
+    }
+    QCOMPARE(Tabelle->model()->index(4, 0).data().toString(), QString());  // a double click marks nothing
+  }
 };
 
 QTEST_MAIN(FensterTest)

@@ -558,6 +558,7 @@ TEST(Menübaum, IstGeschlossen) {
   for (const Werkzeug& W : Symbolleiste())
     EXPECT_TRUE(*W.Eintrag == '\0' || MenüFinden(W.Eintrag) != nullptr) << W.Name;
   EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüKatasterOrtho")), 4000);
+  EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüAnsichtQuasi")), 3010);  // as the form has it
 }
 
 }  // namespace
