@@ -19,6 +19,11 @@ bool Punktform::DarfÄndern() {
   return !Stapel.Läuft();
 }
 
+void Punktform::NummerFehlt(Feld& F) {
+  StatusHilfeSetzen("Punktnummer fehlt");
+  FokusSetzen(F);
+}
+
 int Punktform::Getan(int Ergebnis) {
   if (Rückgängig != nullptr) {
     Rückgängig->Text = R.Leer() ? "Rückgängig" : "Rückgängig: " + R.Name();

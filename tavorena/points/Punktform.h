@@ -19,6 +19,8 @@ class Punktform : public Formular {
   Knopf& RückgängigAnlegen(std::string Name, Platz Ort);
   /// Before each deed: while a replay runs, the table is its own, and that is told.
   [[nodiscard]] static bool DarfÄndern();
+  /// A number that was left out is told, and the focus goes there.
+  void NummerFehlt(Feld& F);
   /// Behind each deed: its result is handed through.
   int Getan(int Ergebnis);
   /// The form did something to the table, or took it back.

@@ -89,7 +89,8 @@ void TVBerichForm::AltZeigen() {
 
 void TVBerichForm::PunktBerichtigen() {
   for (Feld* F : {&Alt.Pnr, &BerichNeuPnr}) {
-    if (!Lesen(*F) || F->Text->empty()) return FokusSetzen(*F);
+    if (!Lesen(*F)) return FokusSetzen(*F);
+    if (F->Text->empty()) return NummerFehlt(*F);
   }
   const std::string Alte = Alt.Pnr.Text, Neue = BerichNeuPnr.Text;
   if (!DarfÄndern() || Getan(NummerBerichtigen(R, Alte, Neue)) < 0) return FokusSetzen(BerichNeuPnr);
@@ -120,7 +121,7 @@ void TVBerichForm::MehrereBerichtigen() {
   const bool Gewählt = !Selektion.Punkte().empty();
   for (Feld* F : {&BerichPnrvon, &BerichPnrbis, &BerichStartPnr}) {
     F->Text = Trimmen(*F->Text);
-    if (F->Text->empty() && (!Gewählt || F == &BerichStartPnr)) return FokusSetzen(*F);
+    if (F->Text->empty() && (!Gewählt || F == &BerichStartPnr)) return NummerFehlt(*F);
   }
   std::vector<int> Zeilen;
   for (const Punktsammlung::Punkt& P : Selektion.Punkte()) Zeilen.push_back(P.Zeile);

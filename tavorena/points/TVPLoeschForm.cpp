@@ -71,19 +71,20 @@ Feld& TVPLoeschForm::NummernfeldAnlegen(const char* Name, Platz Ort, const char*
   return F;
 }
 
-// All rows of the number. The field waits for the next one.
+// All rows of the number. The field waits for the next one; Return in the empty one leads on.
 void TVPLoeschForm::NummerHinzu() {
   const std::string Pnr = Trimmen(*LoeschPnr.Text);
   std::vector<int> Zeilen;
   FokusSetzen(LoeschPnr);
-  if (Pnr.empty() || NummerZeilen(Pnr, Zeilen) < 0) return;
+  if (Pnr.empty()) return LoeschPunkte->Aktiv ? FokusSetzen(*LoeschPunkte) : NummerFehlt(LoeschPnr);
+  if (NummerZeilen(Pnr, Zeilen) < 0) return;
   Hinzu(Zeilen);
   LoeschPnr.Text = "";
 }
 
 void TVPLoeschForm::BereichHinzu() {
   for (Feld* F : {&LoeschPnrvon, &LoeschPnrbis}) {
-    if (Trimmen(*F->Text).empty()) return FokusSetzen(*F);
+    if (Trimmen(*F->Text).empty()) return NummerFehlt(*F);
   }
   FokusSetzen(LoeschPnrvon);
   std::vector<int> Zeilen;
@@ -99,7 +100,7 @@ void TVPLoeschForm::SelektionHinzu() {
 
 // What comes new is chosen.
 void TVPLoeschForm::Hinzu(const std::vector<int>& Zeilen) {
-  if (const auto Weg = Nachsehen(); !Weg.empty()) GeändertMelden(Weg.size());
+  if (const auto Weg = ListeNachsehen(); !Weg.empty()) GeändertMelden(Weg.size());
   std::vector<bool> Marken;
   for (int i = 0; i < Liste.Zeilen(); ++i) Marken.push_back(Liste.Markiert(i));
   Punkte.Hinzu(Zeilen);
@@ -108,7 +109,7 @@ void TVPLoeschForm::Hinzu(const std::vector<int>& Zeilen) {
 }
 
 // Points that are no longer there as they were leave the list; the others keep their marks.
-std::vector<std::size_t> TVPLoeschForm::Nachsehen() {
+std::vector<std::size_t> TVPLoeschForm::ListeNachsehen() {
   const std::vector<std::size_t> Weg = Punkte.Nachsehen();
   if (Weg.empty()) return Weg;
   std::vector<bool> Marken;
@@ -150,7 +151,7 @@ std::vector<int> TVPLoeschForm::Gewählte() const {
 
 void TVPLoeschForm::Löschen() {
   if (!DarfÄndern()) return;
-  if (const auto Weg = Nachsehen(); !Weg.empty()) return GeändertMelden(Weg.size());
+  if (const auto Weg = ListeNachsehen(); !Weg.empty()) return GeändertMelden(Weg.size());
   const std::vector<int> Zeilen = Gewählte();
   if (Zeilen.empty()) return;
   const std::string Frage = (Zeilen.size() == 1 ? "Punkt " : "Punkte ") + Nummernliste(Zeilen) + " löschen ?";
@@ -160,10 +161,10 @@ void TVPLoeschForm::Löschen() {
   FokusSetzen(LoeschPnr);
 }
 
-void TVPLoeschForm::NachTat() { static_cast<void>(Nachsehen()); }
+void TVPLoeschForm::NachTat() { static_cast<void>(ListeNachsehen()); }
 
 void TVPLoeschForm::BeiTabelle() {
-  if (const auto Weg = Nachsehen(); !Weg.empty()) GeändertMelden(Weg.size());
+  if (const auto Weg = ListeNachsehen(); !Weg.empty()) GeändertMelden(Weg.size());
 }
 
 bool TVPLoeschForm::OffenesKlären() {

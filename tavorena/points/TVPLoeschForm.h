@@ -25,7 +25,7 @@ class TVPLoeschForm final : public Punktform {
   void BereichHinzu();
   void SelektionHinzu();
   void Hinzu(const std::vector<int>& Zeilen);
-  [[nodiscard]] std::vector<std::size_t> Nachsehen();
+  [[nodiscard]] std::vector<std::size_t> ListeNachsehen();
   void Zeigen(const std::vector<bool>& Marken);
   void StandZeigen();
   [[nodiscard]] std::vector<int> Gewählte() const;

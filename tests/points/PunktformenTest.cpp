@@ -67,16 +67,21 @@ TEST_F(Punktformen, Löschen) {
       Gleich(Nummern(), "2 3 8A ", KorRechts[0], 110, Liste.Zeilen(), 1, Liste.Markierte().empty(), true));
   EXPECT_TRUE(Gleich(Text(Form, "LoeschRückgängig"), "Rückgängig: Lösche 2 Punkte"));
   NimmZurück(Form);
+  EXPECT_EQ(KorAnhängen(Vorher[3].Satz()), 0);  // twice the same
   Tippe(Form, "LoeschPnrvon", "3\n8\n");
   Skript.Formulare.push_back(Bediene({{"Alle", ""}, {"OK", ""}}));
   Drücke(Form, "LoeschSelektion");
-  EXPECT_EQ(Liste.Zeilen(), 5);
-  // Points that another window changed, or another deed moved, are not deleted unseen.
-  Verschiebe(3);
+  EXPECT_EQ(Liste.Zeilen(), 6);
+  // Points that another window changed or moved are not deleted unseen.
+  Verschiebe(0);
   KorSortieren();
   Drücke(Form, "LoeschPunkte");
-  EXPECT_TRUE(Gleich(Liste.Zeilen(), 4, KorAnzahl, 5));
-  Skript.Erwarte("3 gewählte Punkte sind nicht gelöscht", KnopfNein);
+  EXPECT_TRUE(Gleich(Liste.Zeilen(), 5, KorAnzahl, 6));
+  Skript.Erwarte("Punkte 2, 3, 3, 8A löschen ?", KnopfJa);
+  Drücke(Form, "LoeschPunkte");
+  EXPECT_EQ(Nummern(), "1 2 ");
+  Form.Markieren(Liste, 0, false);
+  Skript.Erwarte("1 gewählter Punkt ist nicht gelöscht", KnopfNein);
   Form.SchließenVerlangen();
   EXPECT_TRUE(Form.Offen());
 }
@@ -117,7 +122,10 @@ TEST_F(Punktformen, Umnumerieren) {
 
 TEST_F(Punktformen, MittelDoppelter) {
   for (const double R : {130.0, 130.03, 130.06}) EXPECT_EQ(KorAnhängen({"8A", R, 200}), 0);
-  for (int i = 0; i < 10; ++i) EXPECT_EQ(KorAnhängen({"20", i < 8 ? 0 : 100.0 * i, i * 0.01}), 0);
+  KorInfoSatz Info;
+  Info.Punktart = 7;
+  for (int i = 0; i < 10; ++i)
+    EXPECT_EQ(KorAnhängen({"20", i < 8 ? 0 : 100.0 * i, i * 0.01, 0, "", i < 8 ? &Info : nullptr}), 0);
   KorSortieren();
   Vorher = Tabelle();
   TVDMittForm Form;
@@ -144,11 +152,11 @@ TEST_F(Punktformen, MittelDoppelter) {
   Skript.Erwarte("Punkt 20 löschen ?", KnopfJa);
   Drücke(Form, "AlterPunktLöschen(1)");
   EXPECT_EQ(Text(Form, "AlterPunktRechts(2)"), "800.000");  // stays at its place
-  Verschiebe(KorAnzahl - 1);                                // what another window did has to be seen first
+  EXPECT_EQ(KorLoeschen(0), 0);                             // what another window did has to be seen first
   Drücke(Form, "DMittMitteln");
-  EXPECT_EQ(KorAnzahl, 9);
+  EXPECT_EQ(KorAnzahl, 8);
   Drücke(Form, "DMittMitteln");
-  EXPECT_TRUE(Gleich(KorAnzahl, 8, Form.Offen(), false));
+  EXPECT_TRUE(Gleich(Nummern(), "2 3 8A 8A 8A 8A 20 ", KorInfo[6].Punktart, 7, Form.Offen(), false));
 }
 
 TEST_F(Punktformen, MittelVerschiedener) {
