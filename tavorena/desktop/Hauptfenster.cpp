@@ -439,7 +439,7 @@ void Hauptfenster::HilfeZeigen() {
     if (Ansicht != nullptr && Ansicht->Form() != nullptr) Nummer = Ansicht->Form()->Hilfenummer;
     W = W->parentWidget();
   }
-  HandbuchZeigen(Nummer);
+  HandbuchZeigen(Nummer != 0 ? Nummer : Kern().LaufendeHilfe());
 }
 
 bool Hauptfenster::event(QEvent* Ereignis) {

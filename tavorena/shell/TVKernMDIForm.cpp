@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/Optionen.h>
@@ -138,7 +139,9 @@ void TVKernMDIForm::Ausführen(std::string_view Name) {
     if (B->OhnePunkte != nullptr && KorAnzahl == 0) return tavorena::Hinweis(B->OhnePunkte);
     B->Tun();
   };
+  const int Vorher = std::exchange(Laufend, Hilfe(*E));
   static_cast<void>(Geschützt("TVKernMDIForm." + std::string(Name), Tun));  // the message is the answer
+  Laufend = Vorher;
 }
 
 void TVKernMDIForm::WerkzeugAusführen(const Werkzeug& W) {

@@ -39,6 +39,8 @@ class TVKernMDIForm {
   [[nodiscard]] std::string Hinweis(const Werkzeug& W) const;
   /// Help number of an entry; that of its menu where it has none.
   [[nodiscard]] int Hilfe(const Menüeintrag& E) const;
+  /// Help number of the command that runs, such as one that asks something; 0: none runs.
+  [[nodiscard]] int LaufendeHilfe() const { return Laufend; }
 
   // ---- what the user does
   /// Runs the command of an entry. Errors end in the run-time message.
@@ -53,6 +55,7 @@ class TVKernMDIForm {
 
   bool Offen = false;  // a file is open
   bool Lang = false;
+  int Laufend = 0;
   std::array<int, 11> Hist{};
 };
 

@@ -243,7 +243,13 @@ class FensterTest final : public Fensterumgebung {
       int Taten = 1;
     };
     Öffne();
-    Antworte(Qt::Key_J);
+    Dialoge.push_back([this] {
+      QWidget* Frage = QApplication::activeModalWidget();
+      QTest::keyClick(Frage, Qt::Key_F1);
+      QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("tabelle.md"));
+      handbuch()->close();
+      QTest::keyClick(Frage, Qt::Key_J, Qt::AltModifier);
+    });
     Menü("MenüBearbeitenTauschen(0)");
     QVERIFY(std::abs(GrafikFenster.FensterRechts - 5600200) < 1000);  // the view went with the points
     auto Blatt = std::make_unique<Probe>();
