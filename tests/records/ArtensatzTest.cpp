@@ -260,7 +260,7 @@ TEST_F(Artensatz, KommentarStehtZwischenBlöcken) {
   Stapelblock S;
   Verbindung V;
   V.Titel = "VR 24.40 Linienelemente";
-  int Griff = 0;
+  int Griff = -1;
   ASSERT_EQ(S.Beginnen(std::make_shared<const Verbindung>(V)) + S.Anfügen("NR 1", Griff), 0);
   ASSERT_EQ(StapelKommentar("Ausgleichende Gerade: 2041 -"), 0);
   EXPECT_TRUE(Inhalt(StapelDatei.Name)
