@@ -1,5 +1,6 @@
 #include <array>
 #include <cstring>
+#include <span>
 
 #include <tavorena/core/Datei.h>
 
@@ -69,29 +70,28 @@ void ZeichenAnfügen(std::string& Text, unsigned Zeichen) {
   Text += static_cast<char>(0x80U | (Zeichen & 0x3FU));
 }
 
-// The n bytes from 0x80 on are looked up in a code page, all others are the characters of the same number.
-template <std::size_t n>
-std::string AusSeite(std::string_view Bytes, const std::array<char16_t, n>& Seite) {
+// The bytes from 0x80 on are looked up in a code page as far as it goes, all others are the characters of the
+// same number.
+std::string AusSeite(std::string_view Bytes, std::span<const char16_t> Seite) {
   std::string Text;
   Text.reserve(Bytes.size() + Bytes.size() / 8);
   for (const char z : Bytes) {
     const auto b = static_cast<unsigned char>(z);
-    ZeichenAnfügen(Text, b >= 0x80U && b - 0x80U < n ? Seite[b - 0x80U] : b);
+    ZeichenAnfügen(Text, b >= 0x80U && b - 0x80U < Seite.size() ? Seite[b - 0x80U] : b);
   }
   return Text;
 }
 
-template <std::size_t n>
-std::string NachSeite(std::string_view Text, const std::array<char16_t, n>& Seite) {
+std::string NachSeite(std::string_view Text, std::span<const char16_t> Seite) {
   std::string Bytes;
   for (std::size_t i = 0; i < Text.size();) {
     const char32_t Zeichen = ZeichenLesen(Text, i);
-    if (Zeichen < 0x80 || (Zeichen >= 0x80 + n && Zeichen <= 0xFF)) {
+    if (Zeichen < 0x80 || (Zeichen >= 0x80 + Seite.size() && Zeichen <= 0xFF)) {
       Bytes += static_cast<char>(Zeichen);
       continue;
     }
     char Ersatz = '?';
-    for (std::size_t k = 0; k < n; ++k) {
+    for (std::size_t k = 0; k < Seite.size(); ++k) {
       if (Seite[k] == Zeichen) Ersatz = static_cast<char>(0x80U + k);
     }
     Bytes += Ersatz;
