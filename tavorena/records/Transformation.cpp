@@ -56,6 +56,7 @@ int RechenachseZeigen(const Prothelmert& H, Zeilen& Ziel) {
 
 // For lists of 20000 points: no text between.
 void LageAnfügen(std::string& Zeile, const Prottransformiert& P) {
+  Zeile.reserve(80);
   Zeile.append(4, ' ');
   ZahlFormatAnhängen(Zeile, P.Y, 7, 4);
   Zeile += ' ';
