@@ -11,8 +11,9 @@
 // tokens: whatever stands in one line can be read back from it.
 //
 // A kind with rows hands its head to Verbindung::Sätze and each row to Aufzeichnung::Zeile. A case or a list
-// is one block: all its records are Verbindung::Sätze, EndeMitZeilen tells its end, Aufzeichnung::Zeile gets
-// its lines of the protocol with an empty record, and Aufzeichnung::Beenden closes it.
+// is one block: all its records are Verbindung::Sätze (EndeMitZeilen false for a case, true for a list), its
+// lines of the protocol go to Aufzeichnung::Zeile with an empty record, Aufzeichnung::Beenden closes it. In a
+// replay one call of its reader takes the block with its end.
 
 namespace tavorena {
 
