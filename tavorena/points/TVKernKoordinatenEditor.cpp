@@ -9,7 +9,6 @@
 #include <tavorena/points/Punkteingabe.h>
 #include <tavorena/points/Punktverwaltung.h>
 #include <tavorena/points/TVKernKoordinatenEditor.h>
-#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena {
 namespace {
@@ -18,12 +17,6 @@ const char* Titelwort(Editormodus Wie) {
   return Wie == Editormodus::Eingabe      ? "Tavorena Koordinateneingabe"
          : Wie == Editormodus::Bearbeiten ? "Tavorena Koordinaten editieren"
                                           : "Tavorena Koordinaten";
-}
-
-// The points belong to the replay while one runs.
-bool Gesperrt() {
-  if (Stapel.Läuft()) StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
-  return Stapel.Läuft();
 }
 
 }  // namespace
@@ -193,7 +186,7 @@ bool TVKernKoordinatenEditor::Ändern(int z) {
     Zellen->EntwurfVerwerfen();
     return true;
   }
-  if (Gesperrt()) return false;
+  if (!DarfÄndern()) return false;
   int t = Zeilen.Tabellenzeile(i);
   if (t < 0) return true;  // gone, and told between two events
   const int Vorher = t;
@@ -236,7 +229,7 @@ bool TVKernKoordinatenEditor::NeueVerlassen() {
 
 bool TVKernKoordinatenEditor::NeueSchreiben() {
   const int z = Neu;
-  if (Gesperrt()) return false;
+  if (!DarfÄndern()) return false;
   Punktsatz P;
   for (int s = 0; s < std::ssize(Spalten); ++s) {
     // Where two cells say the same, the one that was typed into counts.
@@ -307,7 +300,7 @@ void TVKernKoordinatenEditor::ReturnDrücken() {
 
 void TVKernKoordinatenEditor::Einfügen() {
   FokusSetzen(*Zellen);
-  if (Gesperrt() || (Neu >= 0 && !NeueVerlassen())) return;
+  if (!DarfÄndern() || (Neu >= 0 && !NeueVerlassen())) return;
   Neu = std::min(*Zellen->Zeile, Zeilen.Anzahl());
   ZeilenZeigen();
   ZelleSetzen(Neu, EditorPnr);
@@ -316,7 +309,7 @@ void TVKernKoordinatenEditor::Einfügen() {
 void TVKernKoordinatenEditor::Löschen() {
   const int z = Zellen->Zeile;
   FokusSetzen(*Zellen);
-  if (z >= Zellen->Zeilen() || Gesperrt()) return;
+  if (z >= Zellen->Zeilen() || !DarfÄndern()) return;
   Zellen->Fehlerhaft = false;
   Zellen->EntwurfVerwerfen();
   if (z == Neu) {
@@ -353,7 +346,7 @@ void TVKernKoordinatenEditor::Abgreifen(const std::string& Pnr) {
 // What came back is shown, unless something is being typed.
 bool TVKernKoordinatenEditor::Zurücknehmen() {
   if (R.Leer()) return false;
-  if (Gesperrt()) return true;
+  if (!DarfÄndern()) return true;
   const int Ab = R.Zeile();
   const bool Getippt = Angefangen(Zellen->Entwurf());
   if (R.Zurück() < 0) return true;
