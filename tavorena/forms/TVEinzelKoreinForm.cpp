@@ -93,17 +93,19 @@ struct Ausdehnung {
 }  // namespace
 
 bool FernpunktFrage(const std::string& Pnr, double Rechts, double Hoch) {
+  constexpr double Nähe = 10000;  // in both directions: nobody asks [m]
   Ausdehnung R, H;
   double Abstand = std::numeric_limits<double>::max();
   for (int z = 0; z < KorAnzahl; ++z) {
     const auto P = KorPunkt(z);
     if (P.Rechts == 0 && P.Hoch == 0) continue;
+    if (std::fabs(P.Rechts - Rechts) <= Nähe && std::fabs(P.Hoch - Hoch) <= Nähe) return true;
     R.Nehmen(P.Rechts, Rechts);
     H.Nehmen(P.Hoch, Hoch);
     Abstand = std::min(Abstand, Strecke(P.Rechts, P.Hoch, Rechts, Hoch));
   }
   const bool Leer = R.Bis < R.Von;
-  const double Grenze = Leer ? 0 : std::max({10000.0, 10 * (R.Bis - R.Von), 10 * (H.Bis - H.Von)});
+  const double Grenze = Leer ? 0 : std::max({Nähe, 10 * (R.Bis - R.Von), 10 * (H.Bis - H.Von)});
   if (Leer || std::max(R.Nächster, H.Nächster) <= Grenze) return true;
   const std::string Km = Trimmen(ZahlFormat(Wert(Abstand / 1000), -1, 0));
   return FrageJaNein(
