@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <functional>
 #include <iterator>
 #include <map>
@@ -164,7 +165,7 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
     ++Hinten;
   if (Vorn + Hinten == Vorher && Vorn + Hinten == A.Länge) return Ergebnis;
   const int Von = A.Von + Vorn, Bis = A.Von + A.Länge - Hinten;
-  Eintrag E{std::move(Tat), Von, std::move(A.Vorher), {}, W.Stand, KorStand};
+  Eintrag E{std::move(Tat), Von, std::move(A.Vorher), {}, W.Stand, KorStand, 0};
   if (Vorn + Hinten > 0) {  // a large table is moved, of a small deed no more is kept than it needs
     E.Vorher.erase(E.Vorher.end() - Hinten, E.Vorher.end());
     E.Vorher.erase(E.Vorher.begin(), E.Vorher.begin() + Vorn);
@@ -172,15 +173,43 @@ int Rücknahme::Ausführen(Punkttat& Tat, const std::function<int()>& Arbeit) {
   }
   E.Nachher.reserve(Stelle(Bis - Von));
   for (int z = Von; z < Bis; ++z) E.Nachher.push_back(PunktsatzVon(z));
+  Zusammenziehen(E);
   Taten.push_back(std::move(E));
   return Ergebnis;
+}
+
+// A new number moves its row past others, perhaps through the whole table: it is kept alone.
+void Rücknahme::Zusammenziehen(Eintrag& E) {
+  std::vector<Punktsatz>&V = E.Vorher, &N = E.Nachher;
+  if (V.size() < 2 || V.size() != N.size()) return;
+  const bool Hinab = std::equal(V.begin() + 1, V.end(), N.begin());
+  if (!Hinab && !std::equal(N.begin() + 1, N.end(), V.begin())) return;
+  const int Weg = static_cast<int>(V.size()) - 1;
+  E.Weg = Hinab ? Weg : -Weg;
+  V = {Hinab ? V.front() : V.back()};
+  N = {Hinab ? N.back() : N.front()};
+}
+
+// Such a row takes its values back where it stands, and moves as a whole.
+void Rücknahme::Zurückziehen(const Eintrag& E) {
+  const int Länge = std::abs(E.Weg) + 1;
+  std::vector<Punktsatz> Vorher;
+  for (int z = E.Von; z < E.Von + Länge; ++z) Vorher.push_back(PunktsatzVon(z));
+  const auto Jetzt = E.Weg > 0 ? Vorher.end() - 1 : Vorher.begin();
+  *Jetzt = E.Vorher.front();
+  static_cast<void>(KorZeileSetzen(E.Von + std::max(E.Weg, 0), Jetzt->Satz()));
+  KorSortieren();
+  std::rotate(Vorher.begin(), E.Weg > 0 ? Jetzt : Vorher.begin() + 1, Vorher.end());
+  ZeilenErsetzen(E.Von, Länge, Vorher);  // a table that was in another order
 }
 
 int Rücknahme::Zurück() {
   if (Taten.empty()) return -1;
   const Eintrag& E = Taten.back();
   const bool Unberührt = KorStand == E.Stand;
-  if (Unberührt) {
+  if (Unberührt && E.Weg != 0) {
+    Zurückziehen(E);
+  } else if (Unberührt) {
     ZeilenErsetzen(E.Von, static_cast<int>(E.Nachher.size()), E.Vorher);
   } else if (ZeilenTauschen(E.Nachher, E.Vorher) < 0) {
     FehlerMeldung("Die Punkte wurden inzwischen geändert: " + E.Tat.Name);

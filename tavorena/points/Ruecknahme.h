@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -56,8 +57,9 @@ class Rücknahme {
   [[nodiscard]] bool Leer() const { return Taten.empty(); }
   /// Name of the last deed; only if there is one.
   [[nodiscard]] const std::string& Name() const { return Taten.back().Tat.Name; }
-  /// First row that the last deed changed, where nothing else happened since; only if there is one.
-  [[nodiscard]] int Zeile() const { return Taten.back().Von; }
+  /// Row of the table where what the last deed changed stands again once it is taken back, if nothing else
+  /// happened since; only if there is one.
+  [[nodiscard]] int Zeile() const { return Taten.back().Von + std::max(-Taten.back().Weg, 0); }
 
   /// Takes the last deed back. If nothing else happened to the table since, it is as it was, order included;
   /// otherwise the rows that went come back in place of those that came, and the table is sorted.
@@ -71,7 +73,11 @@ class Rücknahme {
     int Von = 0;                             // first row that differs
     std::vector<Punktsatz> Vorher, Nachher;  // the rows from there on that differ
     std::uint64_t StandVorher = 0, Stand = 0;
+    int Weg = 0;  // of a single row that moved past others, which are not kept; negative: towards the first
   };
+  static void Zusammenziehen(Eintrag& E);
+  static void Zurückziehen(const Eintrag& E);
+
   std::vector<Eintrag> Taten;
 };
 

@@ -87,6 +87,14 @@ TEST_F(Punktverwaltung, Umnumerieren) {
   EXPECT_EQ(Nummern(), "2 3 3 4 8A ");
   EXPECT_EQ(KorRechts[0], 100);
   NimmZurück();
+  // One that moves past others, down and up.
+  EXPECT_EQ(KorLoeschen(2), 0);
+  Vorher = Tabelle();
+  for (const auto& [Alt, Neu, Zeile] : {std::tuple{"1", "5", 0}, {"8A", "1.5", 3}}) {
+    EXPECT_EQ(NummerBerichtigen(R, Alt, Neu), 0);
+    EXPECT_EQ(R.Zeile(), Zeile);
+    NimmZurück();
+  }
 }
 
 TEST_F(Punktverwaltung, MittelDoppelter) {

@@ -174,11 +174,12 @@ TEST_F(Koordinateneditor, FolgtDerTabelle) {
   Stapel = {};
   Tippe("44");
   Skript.Erwarte("aufnehmen ?", KnopfJa);
+  EXPECT_EQ(KorAnhängen({"0", 3500000, 5600000, 0}), 0);
   Form->SchließenVerlangen();
-  EXPECT_TRUE(Gleich(Form->Offen(), false, KorHoehe[2], 44));
+  EXPECT_TRUE(Gleich(Form->Offen(), false, KorHoehe[3], 44, Nummern(), "0 2 2 8A "));
   Öffne(Editormodus::Ansicht);
   Tippe("5\n");
-  EXPECT_TRUE(Gleich(Nummern(), "2 2 8A ", Form->Finde("EditorLöschen"), nullptr));
+  EXPECT_TRUE(Gleich(Nummern(), "0 2 2 8A ", Form->Finde("EditorLöschen"), nullptr));
 }
 
 TEST_F(Koordinateneditor, AttributeEinerKatasterdatei) {
