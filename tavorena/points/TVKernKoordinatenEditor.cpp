@@ -117,27 +117,28 @@ void TVKernKoordinatenEditor::BeiTabelle() {
   NachTat();
 }
 
-// Follows the table. The cell that is typed into stays with its point; where that is gone, it is told.
+// Follows the table. The cell that is typed into stays with its point; where that is another one now, it is
+// told.
 void TVKernKoordinatenEditor::NachTat() {
   const int z = Zellen->Zeile, s = Zellen->Spalte;
-  const bool Getippt = Zellen->Entwurf() >= 0, Neue = z == Neu;
-  const std::string Wort = Getippt ? Zellen->Inhalt(z, s) : "";
-  if (Neue) {
+  if (z == Neu) {
     const int Jetzt = std::min(z, Zeilen.Anzahl());
     Zellen->ZeileUmziehen(z, Jetzt);
     Neu = Jetzt;
     return ZeilenZeigen();
   }
-  const int i = Zeilen.Suchen(Hier, Platz(z));
+  const Punktsatz Vorher = Hier;
+  const bool Getippt = Angefangen(Zellen->Entwurf());
+  const std::string Wort = Getippt ? Zellen->Inhalt(z, s) : "";
+  const int i = Zeilen.Suchen(Vorher, Platz(z));
   Zellen->EntwurfVerwerfen();
   ZeilenZeigen();
-  const std::string Pnr = Zitat(Hier.Pnr);
   ZelleSetzen(i >= 0 ? i : z, s);
   if (!Getippt) return;
-  if (i >= 0) return Zellen->InhaltSetzen(i, s, Wort);
+  if (Hier == Vorher) return Zellen->InhaltSetzen(i, s, Wort);
   Zellen->Fehlerhaft = false;
-  Hinweis("Punkt " + Pnr + " gibt es nicht mehr. Verworfen: " + Spalten[static_cast<std::size_t>(s)].Titel +
-          " \"" + Zitat(Wort) + "\"");
+  Hinweis("Punkt " + Zitat(Vorher.Pnr) + " wurde inzwischen geändert oder gelöscht. Verworfen: " +
+          Spalten[static_cast<std::size_t>(s)].Titel + " \"" + Zitat(Wort) + "\"");
 }
 
 // ---- a cell is left --------------------------------------------------------------------------------

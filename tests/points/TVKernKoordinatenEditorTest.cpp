@@ -87,8 +87,9 @@ TEST_F(Koordinateneditor, EingebenBisZumGenommenenPunkt) {
   Tippe("9\n4500000\n5600100\n\n\n");
   EXPECT_EQ(Zelle(), Paar(1, 1));
   EXPECT_EQ(KorAnzahl, 6);
-  // A taken number: broken off, the row stays; then the mean of both.
-  std::deque<Konfliktwort> Antworten = {Konfliktwort::Abbrechen, Konfliktwort::Mitteln};
+  // A taken number: broken off, the row stays; then the mean of both; then the new one is dropped.
+  std::deque<Konfliktwort> Antworten = {Konfliktwort::Abbrechen, Konfliktwort::Mitteln,
+                                        Konfliktwort::NeuenVerwerfen};
   Haken.PunktVorhandenBehandeln = [&](const Konflikt& K) {
     EXPECT_EQ(K.Pnr, "1");
     return Konfliktantwort{std::exchange(Antworten, {Antworten.begin() + 1, Antworten.end()}).front(), ""};
@@ -99,6 +100,11 @@ TEST_F(Koordinateneditor, EingebenBisZumGenommenenPunkt) {
   Tippe("\n\n\n\n\n");
   EXPECT_TRUE(Gleich(Zelle(), Paar(2, 0), G->Inhalt(1, 1), "3500000.010", KorRechts[0], 3500000.01));
   EXPECT_EQ(Protokoll("*** Mittel eingeführt"), 1);
+  Gehe(0, 2);
+  EXPECT_TRUE(AbgriffNehmen(*Form, "1"));  // goes to the new row
+  EXPECT_EQ(Zelle(), Paar(2, 1));
+  Tippe("3500001\n5600001\n\n\n");
+  EXPECT_TRUE(Gleich(Zelle(), Paar(2, 0), G->Inhalt(2, 0), "", KorRechts[0], 3500000.01));
   NimmAllesZurück();
   EXPECT_TRUE(Gleich(Protokoll("***gelöscht"), 2, G->Zeilen(), 2, G->Inhalt(0, 0), "1"));
 }
@@ -153,33 +159,33 @@ TEST_F(Koordinateneditor, EditierenZelleFürZelle) {
 // Another window is at work beside the cell that is typed into.
 TEST_F(Koordinateneditor, FolgtDerTabelle) {
   Öffne(Editormodus::Bearbeiten);
-  Gehe(3, 3);
+  Gehe(2, 3);
   Tippe("44");
   EXPECT_EQ(KorLoeschen(0), 0);
   Form->Nachsehen();
-  EXPECT_TRUE(Gleich(Zelle(), Paar(2, 3), G->Inhalt(2, 3), "44", G->Zeilen(), 4, G->Inhalt(0, 0), "2"));
+  EXPECT_TRUE(Gleich(Zelle(), Paar(1, 3), G->Inhalt(1, 3), "44", G->Zeilen(), 4, G->Inhalt(0, 0), "2"));
   for (const auto& [Antwort, Bleibt] : {std::pair{KnopfAbbruch, true}, {KnopfNein, false}}) {
-    Skript.Erwarte("Änderung an Punkt 3 aufnehmen ?", Antwort);
+    Skript.Erwarte("Änderung an Punkt 2 aufnehmen ?", Antwort);
     EXPECT_EQ(Form->OffenesKlären(), !Bleibt);
     EXPECT_EQ(G->Entwurf() >= 0, Bleibt);
   }
   Tippe("44");
-  EXPECT_EQ(KorLoeschen(2), 0);
-  Skript.Erwarte("Punkt 3 gibt es nicht mehr. Verworfen: Höhe \"44\"");
+  EXPECT_EQ(KorLoeschen(1), 0);  // the other one of that number is another point
+  Skript.Erwarte("Punkt 2 wurde inzwischen geändert oder gelöscht. Verworfen: Höhe \"44\"");
   Form->Nachsehen();
-  EXPECT_TRUE(Gleich(Nummern(), "2 2 8A ", KorHoehe[2], 0, G->Entwurf(), -1));
+  EXPECT_TRUE(Gleich(Nummern(), "2 3 8A ", KorHoehe[0], 0, G->Entwurf(), -1, Zelle(), Paar(0, 3)));
   Stapel.Aktiv = true;  // the points are those of the replay
   Tippe("44\n");
-  EXPECT_TRUE(Gleich(KorHoehe[2], 0, Zelle(), Paar(2, 3)));
+  EXPECT_TRUE(Gleich(KorHoehe[0], 0, Zelle(), Paar(0, 3)));
   Stapel = {};
   Tippe("44");
   Skript.Erwarte("aufnehmen ?", KnopfJa);
   EXPECT_EQ(KorAnhängen({"0", 3500000, 5600000, 0}), 0);
   Form->SchließenVerlangen();
-  EXPECT_TRUE(Gleich(Form->Offen(), false, KorHoehe[3], 44, Nummern(), "0 2 2 8A "));
+  EXPECT_TRUE(Gleich(Form->Offen(), false, KorHoehe[1], 44, Nummern(), "0 2 3 8A "));
   Öffne(Editormodus::Ansicht);
   Tippe("5\n");
-  EXPECT_TRUE(Gleich(Nummern(), "0 2 2 8A ", Form->Finde("EditorLöschen"), nullptr));
+  EXPECT_TRUE(Gleich(Nummern(), "0 2 3 8A ", Form->Finde("EditorLöschen"), nullptr));
 }
 
 TEST_F(Koordinateneditor, AttributeEinerKatasterdatei) {
