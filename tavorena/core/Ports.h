@@ -25,6 +25,7 @@ struct Dateiauftrag {
   std::string Zusatz;          ///< caption of a check box below the list; none if empty
   bool ZusatzGewählt = false;  ///< out: the check box was set
   bool ZusatzIstWahl = false;  ///< it says something about the file; else it stands for no file at all
+  int Hilfenummer = 0;         ///< of its page in the handbook; 0: that of what is open
 };
 
 /// Questions to the user. Silent: every one is broken off.

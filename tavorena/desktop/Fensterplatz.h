@@ -17,6 +17,7 @@ class Fensterplatz {
   void Merken(const QString& Name, QSize Größe) { Ablage.setValue(Name, Größe); }
   void Merken(const QString& Name, const QList<int>& Zahlen);
 
+  [[nodiscard]] bool Hat(const QString& Name) const { return Ablage.contains(Name); }
   /// @{
   /// What was kept under a name; empty, or 0, if there is nothing.
   [[nodiscard]] QByteArray Bytes(const QString& Name) const { return Ablage.value(Name).toByteArray(); }

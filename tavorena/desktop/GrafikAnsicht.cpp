@@ -18,6 +18,8 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/desktop/Ansichtdatei.h>
+#include <tavorena/desktop/Druckvorschau.h>
+#include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/GrafikAnsicht.h>
 #include <tavorena/desktop/Malflaeche.h>
 #include <tavorena/graphics/GrafDesign.h>
@@ -272,8 +274,9 @@ GrafikAnsicht::~GrafikAnsicht() {
 }
 
 QAction* GrafikAnsicht::Befehl(QToolBar& In, const char* Name, const char* Text, const char* Zeichen,
-                               std::function<void()> Tun) {
+                               std::function<void()> Tun, int Hilfe) {
   QAction* A = In.addAction(Text);
+  A->setProperty("Hilfenummer", Hilfe);
   A->setObjectName(Name);
   A->setIconText(Zeichen);
   A->setToolTip(QString(Text).remove('&'));
@@ -316,15 +319,21 @@ void GrafikAnsicht::BefehleAnlegen() {
       Wahl = An;
       GrafikNeuZeichnen();
     });
+    Wahlen.emplace_back(Name, &Wahl);
   };
   Leiste->addSeparator();
   Schalter("GrafNummern", "Punktnummern", "Nr.", GrafikWahl.Nummern);
   Schalter("GrafFreistellen", "Nummern ohne Überdeckung", "Frei", GrafikWahl.Freistellen);
   Schalter("GrafMaßstabsleiste", "Maßstabsleiste", "Maßstab", GrafikWahl.Maßstabsleiste);
   Zeichenleiste->addSeparator();
-  Befehl(*Zeichenleiste, "GrafDXFSpeichern", "DXF speichern ...", "DXF →", [] { GrafDXFSpeichern(); });
-  Befehl(*Zeichenleiste, "GrafDXFLesen", "DXF lesen ...", "DXF ←", GrafDXFLesen);
+  Befehl(
+      *Zeichenleiste, "GrafDXFSpeichern", "DXF speichern ...", "DXF →", [] { GrafDXFSpeichern(); },
+      GrafDXFHilfe);
+  Befehl(*Zeichenleiste, "GrafDXFLesen", "DXF lesen ...", "DXF ←", GrafDXFLesen, GrafDXFHilfe);
   Befehl(*Zeichenleiste, "GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
+  Befehl(
+      *Zeichenleiste, "GrafDrucken", "Drucken ...", "Drucken", [this] { Druckvorschau(window()).exec(); },
+      GrafDruckhilfe);
 }
 
 void GrafikAnsicht::Nachsehen() {
@@ -332,6 +341,16 @@ void GrafikAnsicht::Nachsehen() {
   Stand = KorStand;
   if (std::exchange(WarLeer, KorAnzahl == 0) && KorAnzahl > 0) GrafikZoomAnpassen();
   Gemälde->TabelleGeändert();
+}
+
+void GrafikAnsicht::WahlLesen(const Fensterplatz& Platz) {
+  for (const auto& [Name, Wahl] : Wahlen) {
+    if (Platz.Hat(Name)) findChild<QAction*>(Name)->setChecked(Platz.Zahl(Name) != 0);
+  }
+}
+
+void GrafikAnsicht::WahlSchreiben(Fensterplatz& Platz) {
+  for (const auto& [Name, Wahl] : Wahlen) Platz.Merken(Name, *Wahl ? 1 : 0);
 }
 
 bool GrafikAnsicht::Verlassen() {

@@ -17,6 +17,10 @@ class QToolBar;
 
 namespace tavorena {
 
+class Fensterplatz;
+
+inline constexpr int Grafikhilfe = 3100;  ///< help number of the view and of what has none of its own
+
 /// The picture of the graphics view, from edge to edge. It shows the model and hands the mouse on; a click
 /// never takes the focus from the field that waits for a point.
 class GrafikBild final : public QWidget {
@@ -72,6 +76,11 @@ class GrafikAnsicht final : public QWidget {
   [[nodiscard]] GrafikBild& Bild() { return *Gemälde; }
   /// Takes over what the table became, and fits the view to the first point of an empty one.
   void Nachsehen();
+  /// @{
+  /// The choices of what is shown, as the last run left them.
+  void WahlLesen(const Fensterplatz& Platz);
+  void WahlSchreiben(Fensterplatz& Platz);
+  /// @}
   /// Escape: leaves a drawing command or the rubber box. @return whether there was one
   [[nodiscard]] bool Verlassen();
 
@@ -82,7 +91,7 @@ class GrafikAnsicht final : public QWidget {
  private:
   void BefehleAnlegen();
   static QAction* Befehl(QToolBar& In, const char* Name, const char* Text, const char* Zeichen,
-                         std::function<void()> Tun);
+                         std::function<void()> Tun, int Hilfe = Grafikhilfe);
   void BalkenStellen();
   void BalkenGerückt();
 
@@ -90,7 +99,8 @@ class GrafikAnsicht final : public QWidget {
   QToolBar *Leiste, *Zeichenleiste;
   QScrollBar *GrafikHScroll, *GrafikVScroll;
   QAction* Box = nullptr;
-  QTimer Balkenuhr;  // the bars follow once, however much changes at a time
+  std::vector<std::pair<const char*, bool*>> Wahlen;  // the actions that switch what is shown
+  QTimer Balkenuhr;                                   // the bars follow once, however much changes at a time
   std::uint64_t Stand = 0;
   bool WarLeer = true;
   bool Stellt = false;  // the bars follow the window, and not the other way round

@@ -37,7 +37,6 @@ namespace tavorena {
 namespace {
 
 constexpr int TerminatorFrist = 200;  // ms
-constexpr int Grafikseite = 3100;     // help number of the view
 
 TVKernMDIForm& Kern() { return TVKernMDIForm::Fenster(); }
 
@@ -144,6 +143,7 @@ void Hauptfenster::PlatzLesen() {
   restoreGeometry(Platz.Bytes("Hauptfenster/Platz"));
   restoreState(Platz.Bytes("Hauptfenster/Leisten"));
   Protokollbreite = Platz.Zahl("Protokoll/Breite");
+  Grafik->WahlLesen(Platz);
   Protokollrahmen->hide();  // whether they are shown is an option
   Grafikrahmen->hide();
 }
@@ -152,6 +152,7 @@ void Hauptfenster::PlatzSchreiben() const {
   Fensterplatz Platz;
   Platz.Merken("Hauptfenster/Platz", saveGeometry());
   Platz.Merken("Hauptfenster/Leisten", saveState());
+  Grafik->WahlSchreiben(Platz);
   if (Protokollrahmen->isVisible()) Platz.Merken("Protokoll/Breite", Protokollrahmen->width());
 }
 
@@ -428,15 +429,18 @@ void Hauptfenster::Beenden() { TerminatorTimer.start(); }
 
 void Hauptfenster::HilfeZeigen() {
   int Nummer = 0;
+  const auto* M = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
+  const QAction* Gewählt = M != nullptr ? M->activeAction() : nullptr;
+  if (Gewählt != nullptr) Nummer = Gewählt->property("Hilfenummer").toInt();
   for (const auto& [E, A] : Einträge) {
-    const auto* M = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
-    if (M != nullptr && M->activeAction() == A) Nummer = Kern().Hilfe(*E);
+    if (Gewählt == A) Nummer = Kern().Hilfe(*E);
   }
-  if (Nummer == 0 && Grafik->Bild().hasFocus()) Nummer = Grafikseite;
+  if (Nummer == 0 && Grafik->Bild().hasFocus()) Nummer = Grafikhilfe;
   const QWidget* W = QApplication::focusWidget();
   while (Nummer == 0 && W != nullptr) {
     const auto* Ansicht = dynamic_cast<const FormularAnsicht*>(W);
     if (Ansicht != nullptr && Ansicht->Form() != nullptr) Nummer = Ansicht->Form()->Hilfenummer;
+    if (Nummer == 0) Nummer = W->property("Hilfenummer").toInt();  // of a dialog without a form
     W = W->parentWidget();
   }
   HandbuchZeigen(Nummer != 0 ? Nummer : Kern().LaufendeHilfe());

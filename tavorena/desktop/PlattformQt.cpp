@@ -212,6 +212,7 @@ void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
 std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
   QFileDialog Dialog(Davor(Fenster), Q(Auftrag.Titel), Pfad(Auftrag.Ordner), QtFilter(Auftrag.Filter));
   Dialog.setWindowModality(Qt::WindowModal);
+  Dialog.setProperty("Hilfenummer", Auftrag.Hilfenummer);
   Dialog.setAcceptMode(Auftrag.NurVorhandene ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   Dialog.setFileMode(Auftrag.NurVorhandene ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   VorgabeSetzen(Dialog, Q(Auftrag.Vorgabe));

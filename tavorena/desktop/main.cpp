@@ -22,6 +22,7 @@ namespace {
 
 constexpr const char* Hilfe = R"(Aufruf: tavorena [--hell | --dunkel] [datei.kor]
         tavorena datei.kor --ansicht bild.svg [--groesse 800x600]
+        tavorena datei.kor --ansicht plan.pdf --blatt A4quer [--massstab 1000]
 
 Vermessungstechnische Berechnungen auf der Koordinatendatei datei.kor.
 
@@ -32,6 +33,8 @@ Optionen:
   --dunkel     Dunkles Aussehen; ohne Angabe das des Systems
   --ansicht    Schreibt die Grafik aller Punkte (pdf, svg oder png), ohne ein Fenster
   --groesse    Breite und Höhe der Ansicht in Bildpunkten, sonst 1200x900
+  --blatt      Auf Papier, mit Rahmen: A4, A4quer, A3 oder A3quer
+  --massstab   n des Maßstabs 1:n; ohne Angabe ein runder, in dem alles auf ein Blatt paßt
 
 Rückgabewert: 0 getan; 1 nicht getan, etwa weil das Fenster nicht gezeigt werden kann; 2 falscher Aufruf.
 )";
@@ -75,7 +78,18 @@ class Stumm final : public Rückfragen, public Umgebung {
   std::string ProgrammOrdner() override { return QCoreApplication::applicationDirPath().toStdString(); }
 };
 
-int AnsichtAusgeben(const std::string& Koordinaten, QSize Größe, const std::string& Ziel) {
+// The job of pages that was asked for. @return false: what was typed is none
+bool SeitenauftragVon(const QCommandLineParser& Zeile, Seitenauftrag& A) {
+  if (!BlattVon(Zeile.value("blatt").toStdString(), A.Papier)) return false;
+  if (!Zeile.isSet("massstab")) return true;
+  bool IstZahl = false;
+  A.Maßstabszahl = Zeile.value("massstab").toDouble(&IstZahl);
+  return IstZahl && A.Maßstabszahl > 0;
+}
+
+int AnsichtAusgeben(const QCommandLineParser& Zeile) {
+  const std::string Koordinaten = Zeile.positionalArguments().first().toStdString(),
+                    Ziel = Zeile.value("ansicht").toStdString();
   Stumm Fragen;
   PortsSetzen({&Fragen, nullptr, nullptr, &Fragen});
   DateinamenAbleiten();
@@ -85,6 +99,12 @@ int AnsichtAusgeben(const std::string& Koordinaten, QSize Größe, const std::st
     KoordinatendateiName = Koordinaten;
     Koordinatendateiformat = FormatNachEndung(Koordinaten);
     if (KoordinatendateiLesen() < 0) return;
+    if (Seitenauftrag Auftrag; SeitenauftragVon(Zeile, Auftrag)) {
+      SeitenkopfSetzen(Auftrag);
+      Ergebnis = SeitenSchreiben(Ziel, Auftrag);
+      return;
+    }
+    const QSize Größe = GrößeVon(Zeile);
     GrafikÖffnen(Größe.width() * TwipsJePixel, Größe.height() * TwipsJePixel);
     Ergebnis = AnsichtSchreiben(Ziel);
   };
@@ -93,13 +113,33 @@ int AnsichtAusgeben(const std::string& Koordinaten, QSize Größe, const std::st
   return Gut ? 0 : 1;
 }
 
+// What belongs to the view that is written, and only to it. @return as AufrufLesen
+int AnsichtLesen(const QCommandLineParser& Zeile) {
+  for (const char* Name : {"groesse", "blatt", "massstab"}) {
+    if (Zeile.isSet(Name) && !Zeile.isSet("ansicht"))
+      return Aufruffehler(QString("--%1 gehört zu --ansicht").arg(Name));
+  }
+  if (Zeile.isSet("groesse") && GrößeVon(Zeile).isEmpty())
+    return Aufruffehler("falsche Angabe: --groesse " + Zeile.value("groesse"));
+  if (Zeile.isSet("groesse") && Zeile.isSet("blatt"))
+    return Aufruffehler("--groesse und --blatt schließen sich aus");
+  if (Zeile.isSet("massstab") && !Zeile.isSet("blatt")) return Aufruffehler("--massstab braucht --blatt");
+  if (Seitenauftrag A; Zeile.isSet("blatt") && !SeitenauftragVon(Zeile, A))
+    return Aufruffehler("falsche Angabe: --blatt " + Zeile.value("blatt") +
+                        (Zeile.isSet("massstab") ? " --massstab " + Zeile.value("massstab") : ""));
+  return Zeile.positionalArguments().isEmpty() && Zeile.isSet("ansicht")
+             ? Aufruffehler("--ansicht braucht eine Koordinatendatei")
+             : -1;
+}
+
 // Looks at the command line before there is a window: help and faults need no display.
 // @return -1 to go on; else the exit status
 int AufrufLesen(QCommandLineParser& Zeile, const QStringList& Worte) {
   Zeile.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);  // as Qt writes its own
   for (const char* Name : {"hell", "dunkel", "version"}) Zeile.addOption(QCommandLineOption(Name));
   Zeile.addOption(QCommandLineOption(QStringList{"h", "help"}));
-  for (const char* Name : {"ansicht", "groesse"}) Zeile.addOption(QCommandLineOption(Name, {}, "x"));
+  for (const char* Name : {"ansicht", "groesse", "blatt", "massstab"})
+    Zeile.addOption(QCommandLineOption(Name, {}, "x"));
   for (const QString& Name : MitWert) Zeile.addOption(QCommandLineOption(Name, {}, "x"));
   for (const QString& Name : OhneWert) Zeile.addOption(QCommandLineOption(Name));
   const bool Gut = Zeile.parse(Worte);
@@ -110,11 +150,7 @@ int AufrufLesen(QCommandLineParser& Zeile, const QStringList& Worte) {
     return Aufruffehler("unbekannte Angabe: " + Zeile.positionalArguments().at(1));
   if (Zeile.isSet("help")) return std::cout << Hilfe, 0;
   if (Zeile.isSet("version")) return std::cout << "tavorena " TAVORENA_FASSUNG "\n", 0;
-  if (Zeile.isSet("groesse") && GrößeVon(Zeile).isEmpty())
-    return Aufruffehler("falsche Angabe: --groesse " + Zeile.value("groesse"));
-  if (Zeile.isSet("ansicht"))
-    return Zeile.positionalArguments().isEmpty() ? Aufruffehler("--ansicht braucht eine Koordinatendatei")
-                                                 : -1;
+  if (const int Ende = AnsichtLesen(Zeile); Ende >= 0 || Zeile.isSet("ansicht")) return Ende;
   if (MitBildschirm(Zeile)) return -1;
   std::cerr << "tavorena: kein Bildschirm; ohne Fenster rechnet tavorena-stapel\n";
   return 1;
@@ -140,9 +176,7 @@ int main(int argc, char** argv) {
   AussehenSetzen(App, Zeile.isSet("dunkel") ? Helligkeit::Dunkel
                       : Zeile.isSet("hell") ? Helligkeit::Hell
                                             : Helligkeit::System);
-  if (NurAnsicht)
-    return AnsichtAusgeben(Zeile.positionalArguments().first().toStdString(), GrößeVon(Zeile),
-                           Zeile.value("ansicht").toStdString());
+  if (NurAnsicht) return AnsichtAusgeben(Zeile);
   Hauptfenster Fenster;
   PlattformQt Qt(Fenster);
   PortsSetzen(PortsVon(Qt));

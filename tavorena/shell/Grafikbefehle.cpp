@@ -14,7 +14,8 @@ constexpr const char* Filter = "DXF (*.dxf)|*.dxf";
 
 // @return the name chosen, "" none. @param[out] Angehakt  the check box
 std::string DxfWählen(const char* Titel, bool NurVorhandene, const char* Kästchen, bool& Angehakt) {
-  Dateiauftrag Auftrag{Titel, Filter, Startordner(), "*.dxf", NurVorhandene, Kästchen, false, true};
+  Dateiauftrag Auftrag{Titel,    Filter, Startordner(), "*.dxf",     NurVorhandene,
+                       Kästchen, false,  true,          GrafDXFHilfe};
   const std::string Name = FragenPort().DateiWählen(Auftrag);
   Angehakt = Auftrag.ZusatzGewählt;
   if (!Name.empty()) VerzeichnisMerken(Name);

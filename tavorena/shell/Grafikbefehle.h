@@ -2,6 +2,8 @@
 
 namespace tavorena {
 
+inline constexpr int GrafDXFHilfe = 3110;  ///< help number of the two
+
 /// The command "DXF speichern ...": the free lines and arcs, or with its check box points and layers for CAD
 /// programs. @return 0; -1: broken off or not written, told then
 int GrafDXFSpeichern();

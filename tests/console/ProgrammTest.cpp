@@ -160,6 +160,10 @@ TEST_F(Programm, AnsichtOhneBildschirm) {
   } Fälle[] = {{"a.kor --ansicht aus.svg", "<?xml", ">1001</text>", 0},
                {"a.kor --ansicht aus.pdf --groesse 800x600", "%PDF-", "/MediaBox [0 0 600", 0},
                {"a.kor --ansicht aus.png --groesse 320x200", "\x89PNG", "IHDR", 0},
+               {"a.kor --ansicht aus.pdf --blatt A3quer --massstab 500", "%PDF-", "/MediaBox [0 0 1191", 0},
+               {"a.kor --ansicht aus.png --blatt A4 --massstab 50", "", "", 1},  // several sheets
+               {"a.kor --ansicht aus.pdf --blatt A5", "", "", 2},
+               {"a.kor --ansicht aus.pdf --massstab 500", "", "", 2},
                {"a.kor --ansicht aus.bmp", "", "", 1},
                {"fehlt.kor --ansicht aus.svg", "", "", 1},
                {"a.kor --ansicht fehlt/aus.svg", "", "", 1},

@@ -414,6 +414,22 @@ class FensterTest final : public Fensterumgebung {
       QVERIFY(Bild->isVisible() && Arbeit->isVisible() == Mit);
       QVERIFY(qFuzzyCompare(GrafikFenster.Massstab, Vergrößert));
     }
+    // Printed by the keyboard, on as many sheets as the scale asks for.
+    Dialoge.push_back([this] {
+      QWidget* Vorschau = QApplication::activeModalWidget();
+      auto* Blätter = Vorschau->findChild<QSpinBox*>("GrafSeite");
+      QVERIFY(!Blätter->isEnabled());
+      QTest::keyClick(Vorschau, Qt::Key_M, Qt::AltModifier);
+      Tippe("250");
+      QCOMPARE(Blätter->maximum(), 8);
+      const QImage Erste = Vorschau->findChild<QWidget*>("Seitenbild")->grab().toImage();
+      QTest::keyClick(Blätter, Qt::Key_Up);
+      QVERIFY(Vorschau->findChild<QWidget*>("Seitenbild")->grab().toImage() != Erste);
+      Wähle(Pfad("plan.pdf"));
+      QTest::keyClick(Vorschau, Qt::Key_P, Qt::AltModifier);
+    });
+    Fenster->findChild<QAction*>("GrafDrucken")->trigger();
+    QVERIFY(Inhalt(Pfad("plan.pdf")).contains("/Count 8"));
     // A point that comes is seen, closing the file closes the view.
     const QImage Ohne = Bild->grab().toImage();
     QCOMPARE(KorZeileSetzen(0, {"1001", 3500120, 5600260, 0, "", nullptr}), 0);

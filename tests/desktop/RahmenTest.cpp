@@ -106,14 +106,22 @@ class RahmenTest final : public Fensterumgebung {
     QCOMPARE(Protokoll->width(), 333);
     const QSize Haupt(1211, 777);
     Fenster->resize(Haupt);
+    const auto Schalte = [this] {
+      for (const char* Wahl : {"GrafFreistellen", "GrafMaßstabsleiste"})
+        Fenster->findChild<QAction*>(Wahl)->toggle();
+    };
+    Schalte();
     KoordinatendateiName.clear();
     Antworte(Qt::Key_J);
     QVERIFY(Fenster->close());
 
     cleanup();
+    GrafikWahl = {};
     init();
     Fenster->PlatzLesen();
     QCOMPARE(Fenster->size(), Haupt);
+    QVERIFY(GrafikWahl.Nummern && GrafikWahl.Freistellen && !GrafikWahl.Maßstabsleiste);
+    Schalte();
     QByteArray Altes = "      erste\r\n\f";
     for (int i = 0; i < 3000; ++i) Altes += "      Zeile " + QByteArray::number(i) + "\r\n";
     Schreibe(Pfad("a.dru"), Altes);
@@ -172,6 +180,17 @@ class RahmenTest final : public Fensterumgebung {
     Handbuch->backward();
     QCOMPARE(Handbuch->source().fileName(), QString("tasten.md"));
     Rahmen->close();
+    for (const auto& [Befehl, Seite] :
+         {std::pair{"GrafDXFLesen", "dxf.md"}, {"GrafDrucken", "grafikdruck.md"}}) {
+      Dialoge.push_back([S = Seite] {
+        QWidget* Dialog = QApplication::activeModalWidget();
+        QTest::keyClick(Dialog, Qt::Key_F1);
+        QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString(S));
+        handbuch()->close();
+        QTest::keyClick(Dialog, Qt::Key_Escape);
+      });
+      Fenster->findChild<QAction*>(Befehl)->trigger();
+    }
     Dialoge.push_back([] {  // also inside a dialog
       QWidget* Dialog = QApplication::activeModalWidget();
       QTest::keyClick(Dialog, Qt::Key_F1);

@@ -12,6 +12,7 @@
 #include <tavorena/graphics/GrafDesign.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
+#include <tavorena/graphics/Grafikseite.h>
 
 namespace tavorena::test {
 namespace {
@@ -145,7 +146,8 @@ TEST_F(GrafikTest, ZeichnetInDerRichtigenFolge) {
   GrafikFenster.GrafikOffen = true;
   GrafikFenster = {true, 1500, 750, 1, 0, 0, 1500, 750, 0, 0, 0, 0, false};
   GrafikBogenHinzu({500, 500, 100, 0, 90, FarbeBlau, true});
-  for (const double Radius : {0.0, -5.0, std::nan("")}) GrafikBogenHinzu({700, 500, Radius, 0, 90, FarbeBlau, true});
+  for (const double Radius : {0.0, -5.0, std::nan("")})
+    GrafikBogenHinzu({700, 500, Radius, 0, 90, FarbeBlau, true});
   GrafikBogenHinzu({700, 300, 2000, 0, 360, FarbeBlau, false});  // around the whole window
   const int Marke = GrafikMarkeHinzu({"2", 1000, 500, "MARK", FarbeRot});
   const int Linie = GrafikLinieHinzu({0, 0, 1000, 500, FarbeRot, Strich::Gestrichelt, false});
@@ -205,6 +207,50 @@ TEST_F(GrafikTest, NummernOhneÜberdeckung) {
   EXPECT_EQ(Nummern(515), " 1003");
   KorAbschneiden(0);
   EXPECT_EQ(Nummern(0), "");
+}
+
+// On paper: sheets that adjoin, each with its map and its strip; a round scale where none is asked for.
+TEST_F(GrafikTest, SeitenAufPapier) {
+  Seitenauftrag A{Blatt::A4, true, 0, "Flur 7", "flur7.kor", "01.02.2003   10:15"};
+  Seitenplan P;
+  std::string Grund;
+  EXPECT_EQ(SeitenPlanen(A, P, Grund), -1);
+  EXPECT_EQ(Grund, "Es ist nichts zu sehen, was gedruckt werden könnte.");
+  Punkt("1", 3500000, 5600000, 0, "015");
+  EXPECT_EQ(SeitenPlanen(A, P, Grund), 0);
+  EXPECT_EQ(P.Maßstabszahl, 150);  // 20 m around one point
+  Punkt("2", 3500300, 5600100);
+  GrafikLinieHinzu({3500000, 5600000, 3500300, 5600100, FarbeRot, Strich::Durchgezogen, true});
+  for (const auto& [Papier, Zahl] :
+       {std::pair{Blatt::A4, 2000}, {Blatt::A4quer, 1250}, {Blatt::A3quer, 1000}}) {
+    A.Papier = Papier;
+    EXPECT_EQ(SeitenPlanen(A, P, Grund), 0);
+    EXPECT_EQ(P.Maßstabszahl, Zahl);
+    EXPECT_EQ(P.Seiten(), 1);
+  }
+  A.Papier = Blatt::A4;
+  A.Maßstabszahl = 500;
+  ASSERT_EQ(SeitenPlanen(A, P, Grund), 0);
+  EXPECT_TRUE(Gleich(P.Spalten, 4, P.Zeilen, 1));
+  std::string Liste;
+  for (const int Seite : {0, 3}) {
+    Mitschrift M;
+    SeiteZeichnen(M, A, P, Seite);
+    for (const std::string& Z : M.Liste) Liste += Z + "\n";
+  }
+  EXPECT_TRUE(GleichSoll(Liste, "graphics/soll/seite.txt"));
+  A.Maßstabszahl = 10;
+  EXPECT_EQ(SeitenPlanen(A, P, Grund), 1);
+  EXPECT_EQ(Grund, "Im Maßstab 1:10 wären es 6201 Blätter, gedruckt werden höchstens 100.");
+  A.Maßstabszahl = -1;
+  EXPECT_EQ(SeitenPlanen(A, P, Grund), -1);
+  // The window on paper: its middle in the middle, and what lies around as far as there is room.
+  GrafikFenster = {true, 1500, 750, 3, 3500290, 5600090, 20, 20, 0, 0, 0, 0, false};
+  A = {Blatt::A4quer, false, 100, "", "", ""};
+  ASSERT_EQ(SeitenPlanen(A, P, Grund), 0);
+  Nahe({P.Karte.Rechts + P.Karte.Breite / P.Karte.Massstab / 2,
+        P.Karte.Hoch + 0.5 * P.Zeilen * P.Karte.Hoehe / P.Karte.Massstab},
+       {3500300, 5600100});
 }
 
 TEST_F(GrafikTest, ZeichenbefehleFragenDerReiheNach) {
