@@ -34,6 +34,7 @@ class TVKerntextForm final : public Punktform {
 
  protected:
   void BeiÖffnen() override;
+  void BeiSchließen() override { Gezeigt.Löschen(); }
   void BeiTabelle() override { Nachführen(); }
   void NachTat() override { Nachführen(); }
 

@@ -120,6 +120,12 @@ TEST_F(TVKerntextFormTest, FolgtDerTabelle) {
   EXPECT_EQ(Andere.Zurück(), 0);
   Form->Nachsehen();
   EXPECT_EQ(Tabelle().Markierte(), (std::vector{0, 2, 5}));
+  Drücke(*Form, "TextanzeigeZeigen");
+  EXPECT_EQ(GrafikMarkeHinzu({}), 1);
+  Form->SchließenVerlangen();
+  EXPECT_EQ(GrafikMarkeHinzu({}), 0);  // what the list marked is gone, though it is still there
+  GrafikLeeren();
+  Form->Öffnen();
   KorAbschneiden(0);
   Form->Nachsehen();
   Skript.BeiMeldung = [](const std::string& T) { ADD_FAILURE() << T; };
