@@ -96,7 +96,7 @@ void TVBerichForm::PunktBerichtigen() {
   if (!DarfÄndern() || Getan(NummerBerichtigen(R, Alte, Neue)) < 0) return FokusSetzen(BerichNeuPnr);
   Alt.Leeren();
   AltAnzahl.Text = BerichNeuPnr.Text = "";
-  StatusHilfeSetzen("Punkt " + Zitat(Alte) + " hat die Nummer " + Zitat(Neue));
+  StatusHilfeSetzen("Punkt " + Zitat(Alte) + " hat jetzt die Nummer " + Zitat(Neue));
   FokusSetzen(Alt.Pnr);
 }
 
