@@ -203,8 +203,7 @@ void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   if (!Form.Fest) return Dialog.Zeigen();
   Stellen(Dialog, *Form.Fest, Fenster);
   auto* Leiste = Fenster.findChild<QToolBar*>("Symbolleiste");
-  const bool WarZuSehen = Leiste->isVisible();
-  const auto Wieder = qScopeGuard([=] { Leiste->setVisible(WarZuSehen); });
+  const auto Wieder = qScopeGuard([=, War = Leiste->isHidden()] { Leiste->setHidden(War); });
   Leiste->hide();
   Dialog.Zeigen();
 }

@@ -260,6 +260,10 @@ TEST_F(Punktverwaltung, AusAndererDatei) {
     EXPECT_EQ(Anzahl(Inhalt(Prot.Datei).substr(Alt.size()), "Soll-Ist\r\n"),
               F.Art == Versatz ? 0 : F.Anzahl + 1);
     NimmZurück();
+    const std::string Wieder = F.Art == Versatz        ? ""
+                               : F.Art == Punktnummern ? "***bericht. alt:"
+                                                       : "VR 25.10  Koordinateneingabe";
+    EXPECT_TRUE(Inhalt(Prot.Datei).find(Wieder, Alt.size()) != std::string::npos);
     Schreibe(Ordner.Pfad("b.kor"), "99 1 2 3\n");
     Skript.Erwarte("Kein Punkt ist zu ändern");
     EXPECT_EQ(ÜbernahmePlanen(F.Art, Ordner.Pfad("b.kor"), 0.03, Plan), -1);
