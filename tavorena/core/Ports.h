@@ -64,7 +64,8 @@ class Anzeige {
   virtual void GrafikZeigen() {}
   /// Brings a place [m] into the middle of the graphics view, which opens where it is closed.
   virtual void GrafikPunktZeigen(double /*Rechts*/, double /*Hoch*/) {}
-  /// Brings the graphics view, where it is open, to the front until the user clicks into it or presses Escape.
+  /// Brings the graphics view, where it is open, to the front until the user clicks into it or presses
+  /// Escape.
   virtual void GrafikAnsehen() {}
   /// A file was opened that the graphics view is to show, or is closed.
   virtual void GrafikMitDatei(bool /*Offen*/) {}

@@ -36,15 +36,15 @@ struct Nachlaufblatt {
 
 /// The running replay. Start values: {}.
 struct Nachlauf {
-  std::vector<std::string> Zeilen;  ///< the whole file, at most 10001 lines
-  int Zeiger = 0;                   ///< next line to read
-  int Zeilennummer = 0;             ///< lines used in this replay, for messages
-  bool Aktiv = false;               ///< a replay runs
-  bool Ablauf = false;              ///< the worksheet has taken its block head
-  std::string Art;                  ///< title of the block that runs
-  int Block = 0, Blöcke = 0;        ///< its place among all blocks of the file, from 1
-  bool Halten = true;               ///< each worksheet shows its connection and waits
-  bool Zerrissen = false;           ///< the block that runs broke off at the head of the next one
+  std::vector<std::string> Zeilen;      ///< the whole file, at most 10001 lines
+  int Zeiger = 0;                       ///< next line to read
+  int Zeilennummer = 0;                 ///< lines used in this replay, for messages
+  bool Aktiv = false;                   ///< a replay runs
+  bool Ablauf = false;                  ///< the worksheet has taken its block head
+  std::string Art;                      ///< title of the block that runs
+  int Block = 0, Blöcke = 0;            ///< its place among all blocks of the file, from 1
+  bool Halten = true;                   ///< each worksheet shows its connection and waits
+  bool Zerrissen = false;               ///< the block that runs broke off at the head of the next one
   std::optional<Konfliktwort> FürAlle;  ///< answer to all taken numbers that come
   StapelBilanz Bilanz;
   Nachlaufblatt Blatt;                        ///< stays when the replay has ended, to be read
