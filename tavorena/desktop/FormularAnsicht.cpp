@@ -18,6 +18,7 @@
 
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Dialogvorrang.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
@@ -284,7 +285,7 @@ bool FormularAnsicht::Zurücknehmen(const QLineEdit* Zeile) {
   if (Modell->RücknahmeVerlangen()) {
     FokusZeigen();
     FokusMarkieren();
-  } else if (QApplication::activeModalWidget() == nullptr) {
+  } else if (VordererDialog() == nullptr) {
     TVKernMDIForm::Fenster().Ausführen("MenüBearbeitenRück");
   }
   return true;

@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QLabel>
@@ -22,6 +23,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Betrachtung.h>
+#include <tavorena/desktop/Dialogvorrang.h>
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
@@ -242,7 +244,8 @@ void Hauptfenster::GrafikBauen() {
     if (!An) Arbeit->show();  // what filled the work area gives it back
   });
   Grafik->Bild().BeiPunkt = [](const std::string& Pnr) {
-    QWidget* W = QApplication::focusWidget();
+    const QDialog* Dialog = Dialogvorrang::Vorderster();
+    QWidget* W = Dialog != nullptr ? Dialog->focusWidget() : QApplication::focusWidget();
     while (W != nullptr && dynamic_cast<FormularAnsicht*>(W) == nullptr) W = W->parentWidget();
     if (auto* Ansicht = dynamic_cast<FormularAnsicht*>(W)) Ansicht->PunktNehmen(Pnr);
   };
@@ -455,7 +458,7 @@ bool Hauptfenster::event(QEvent* Ereignis) {
 bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
   // A dialog or an open menu closes the shortcuts of the window: F1 works all the same.
   if (Ereignis->type() == QEvent::KeyPress &&
-      (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) &&
+      (VordererDialog() != nullptr || QApplication::activePopupWidget() != nullptr) &&
       static_cast<const QKeyEvent&>(*Ereignis).key() == Qt::Key_F1) {
     HilfeZeigen();
     return true;

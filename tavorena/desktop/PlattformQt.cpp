@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -6,6 +7,7 @@
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QDialog>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -22,12 +24,14 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/desktop/Aussehen.h>
+#include <tavorena/desktop/Dialogvorrang.h>
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/desktop/Tastensperre.h>
+#include <tavorena/graphics/Abgriff.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
@@ -62,7 +66,14 @@ class Dialogfenster final : public QDialog {
     show();
     Form.Öffnen();
     Ansicht->FokusZeigen();
-    if (Form.Offen()) exec();
+    if (!Form.Offen()) return;
+    if (isModal()) {
+      exec();
+      return;
+    }
+    QEventLoop Schleife;
+    connect(this, &QDialog::finished, &Schleife, &QEventLoop::quit);
+    Schleife.exec();
   }
 
   void reject() override {
@@ -139,7 +150,7 @@ void VorgabeSetzen(QFileDialog& Dialog, const QString& Vorgabe) {
 
 // The handbook stays usable beside a dialog: the dialog closes only what it stands before.
 QWidget* Davor(Hauptfenster& Fenster) {
-  QWidget* Dialog = QApplication::activeModalWidget();
+  QWidget* Dialog = VordererDialog();
   return Dialog != nullptr ? Dialog : &Fenster;
 }
 
@@ -199,6 +210,12 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
 void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   if (!Modal) return Fenster.BlattZeigen(Form);
   Dialogfenster Dialog(Form, Davor(Fenster));
+  std::optional<Dialogvorrang> Vorrang;
+  if (NimmtAbgriffe(Form)) {  // the view stays usable beside it
+    Dialog.setWindowModality(Qt::NonModal);
+    auto* Bild = Fenster.findChild<QWidget*>("GrafBild");
+    Vorrang.emplace(Dialog, *Bild->parentWidget(), *Bild);
+  }
   if (Form.Ungefragt) new Tastensperre(Dialog);
   if (!Form.Fest) return Dialog.Zeigen();
   Stellen(Dialog, *Form.Fest, Fenster);

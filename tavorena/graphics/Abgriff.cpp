@@ -8,13 +8,15 @@ namespace tavorena {
 namespace {
 
 // The forms that take points from the view.
-constexpr std::array<std::string_view, 21> Formen{"tvausgleichform",
+constexpr std::array<std::string_view, 23> Formen{"tvausgleichform",
                                                   "tvdreidform",
                                                   "tvkernkoordinateneditor",
                                                   "tvberichform",
                                                   "tvpmittform",
                                                   "tvploeschform",
                                                   "tvpselectform",
+                                                  "tvpdoppform",
+                                                  "tveinzelkoreinform",
                                                   "tvlinelform",
                                                   "tvpolelform",
                                                   "tvdisform",
@@ -38,8 +40,12 @@ std::string Kleintext(std::string Text) {
 
 }  // namespace
 
+bool NimmtAbgriffe(const Formular& Form) {
+  return std::find(Formen.begin(), Formen.end(), Kleintext(Form.FormName)) != Formen.end();
+}
+
 bool NimmtAbgriff(const Formular& Form, const Steuerelement& S) {
-  if (std::find(Formen.begin(), Formen.end(), Kleintext(Form.FormName)) == Formen.end()) return false;
+  if (!NimmtAbgriffe(Form)) return false;
   if (const auto* E = dynamic_cast<const Eingabeelement*>(&S); E != nullptr && E->BeiAbgriff) return true;
   if (const auto* G = dynamic_cast<const Gitter*>(&S)) return G->IstPnr && !G->NurLesen && G->Zeilen() > 0;
   const std::string_view Name = std::string_view(S.Name).substr(0, S.Name.find('('));

@@ -4,6 +4,9 @@
 
 namespace tavorena {
 
+/// Whether a form is one of those that take points from the graphics view.
+[[nodiscard]] bool NimmtAbgriffe(const Formular& Form);
+
 /// Whether a point that is clicked in the graphics view goes to this control of a form: a field for a point
 /// number, or a grid of them.
 [[nodiscard]] bool NimmtAbgriff(const Formular& Form, const Steuerelement& S);

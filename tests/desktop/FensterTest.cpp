@@ -67,6 +67,33 @@ class FensterTest final : public Fensterumgebung {
     Antworte(Qt::Key_Escape, Qt::NoModifier);
     Tippe("77\n");
     QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
+    // Beside the question the view can be used and gives its point, but nothing else of the window.
+    Dialoge.push_back([this] {
+      QWidget* Dialog = VordererDialog();
+      auto* Bild = Fenster->findChild<QWidget*>("GrafBild");
+      QWindow* Haupt = Fenster->windowHandle();
+      const auto Im = [this](const QWidget* W, QPoint Stelle) { return W->mapTo(Fenster.get(), Stelle); };
+      const double Rechts = GrafikFenster.FensterRechts;
+      QTest::mousePress(Haupt, Qt::MiddleButton, {}, Im(Bild, {50, 50}));
+      QTest::mouseMove(Haupt, Im(Bild, {70, 50}));
+      QTest::mouseRelease(Haupt, Qt::MiddleButton, {}, Im(Bild, {70, 50}));
+      QVERIFY(GrafikFenster.FensterRechts < Rechts);
+      QTest::keyClick(Dialog, Qt::Key_0, Qt::ControlModifier);
+      QCOMPARE(GrafikFenster.FensterRechts, Rechts);
+      const auto* Feld = Fenster->findChild<QWidget*>("LinelEndPnr");
+      QTest::mouseClick(Haupt, Qt::LeftButton, {}, Im(Feld, Feld->rect().center()));
+      QTest::keyClick(Fenster.get(), Qt::Key_O, Qt::ControlModifier);
+      QVERIFY(!Fenster->close());
+      auto* Nummer = Dialog->findChild<QLineEdit*>("EinzelPnr");
+      Nummer->setFocus();
+      QCoreApplication::processEvents();
+      QTest::mouseClick(Haupt, Qt::LeftButton, {}, Im(Bild, Ort("1002")));
+      QCOMPARE(Nummer->text(), QString("1002"));
+      QTest::keyClick(Dialog, Qt::Key_Escape);
+    });
+    QTRY_VERIFY(GrafikFenster.Massstab > 0);
+    Tippe("\n");
+    QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
     Antworte("3500000,5\n5600000\n\n\n");  // the number stands, Rechts has the focus
     Tippe("\n");
     QCOMPARE(KorAnzahl, 6);
@@ -217,7 +244,7 @@ class FensterTest final : public Fensterumgebung {
     };
     for (const Qt::Key Taste : {Qt::Key_R, Qt::Key_R, Qt::Key_B}) {
       Dialoge.push_back([=, this] {
-        QWidget* Dialog = QApplication::activeModalWidget();
+        QWidget* Dialog = VordererDialog();
         QCOMPARE(Dialog->pos() - Fenster->pos(), QPoint(67, 67));
         QVERIFY(Dialog->width() >= 640 && Leiste->isHidden());
         auto* Feld = Dialog->findChild<QLineEdit*>("NeuerPunktPnr");

@@ -11,6 +11,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Bildkacheln.h>
+#include <tavorena/desktop/Dialogvorrang.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Handbuch.h>
@@ -71,7 +72,7 @@ inline void TippeVoraus(
         qApp,
         [z, Danach] {
           QWidget* Ziel = QApplication::focusWidget();
-          if (Ziel == nullptr) Ziel = QApplication::activeModalWidget();
+          if (Ziel == nullptr) Ziel = VordererDialog();
           if (Ziel == nullptr) return;
           z == '\n' ? QTest::keyClick(Ziel, Qt::Key_Return) : QTest::keyClick(Ziel, z.toLatin1());
           if (z == '\n') Danach();
@@ -124,7 +125,7 @@ class Fensterumgebung : public QObject {
     });
   }
   void Antworte(Qt::Key Taste, Qt::KeyboardModifiers Mit = Qt::AltModifier) {
-    Dialoge.push_back([=] { QTest::keyClick(QApplication::activeModalWidget(), Taste, Mit); });
+    Dialoge.push_back([=] { QTest::keyClick(VordererDialog(), Taste, Mit); });
   }
   void Antworte(const char* Text) {
     Dialoge.push_back([=] { Tippe(Text); });
@@ -183,7 +184,7 @@ class Fensterumgebung : public QObject {
     qputenv("TAVORENA_ORDNER", Pfad("app").toUtf8());
     AussehenSetzen(*qApp, Helligkeit::Hell);
     connect(&Bediener, &QTimer::timeout, this, [this] {
-      QWidget* Offen = QApplication::activeModalWidget();
+      QWidget* Offen = VordererDialog();
       if (Offen == nullptr) Bedient = nullptr;
       // Nobody manages windows here: the one in front has to be made active.
       QWidget* Aktiv = QApplication::activeWindow();
