@@ -1,8 +1,10 @@
 #include <cmath>
+#include <utility>
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Formular.h>
@@ -100,7 +102,7 @@ class TVOptionenform final : public Formular {
     O.VorgabeHoch = ZahlAusText(*OptVorgabeHoch.Text);
     O.EDBSInfo = TextTeil(*OptEDBSInfo.Text, 0, 8);
     O.ProtokollfensterAn = OptProtokoll0.Gewählt;
-    O.GrafikfensterAn = OptProtokoll2.Gewählt;
+    const bool WarAn = std::exchange(O.GrafikfensterAn, *OptProtokoll2.Gewählt);
     O.CondorfensterAn = false;
     if (OptProtokoll1.Gewählt) {
       O.FormularZoomX = O.FormularZoomY = 1.0;
@@ -111,6 +113,9 @@ class TVOptionenform final : public Formular {
     if (OptionenSchreiben(&Grund) < 0)  // they hold for this run
       Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen + InKlammern(Grund));
     AnzeigePort().HauptfensterGeändert();
+    // A view that was opened by its command stays.
+    if (WarAn != O.GrafikfensterAn && !KoordinatendateiName.empty())
+      AnzeigePort().GrafikMitDatei(O.GrafikfensterAn);
     Schließen();
   }
 

@@ -211,6 +211,19 @@ class RahmenTest final : public Fensterumgebung {
     }
     Antworte(Qt::Key_Escape, Qt::NoModifier);
     Menü("MenüOptionenOptionen");
+    // The view goes with its option; one that was opened by its command stays.
+    for (const auto& [Wahl, Befehl, Offen] : {std::tuple{"OptProtokoll(1)", "", false},
+                                              {"OptProtokoll(2)", "", true},
+                                              {"OptProtokoll(0)", "", false},
+                                              {"OptProtokoll(1)", "MenüAnsichtGrafik(1)", true}}) {
+      if (*Befehl != '\0') Menü(Befehl);
+      Dialoge.push_back([W = Wahl] {
+        QTest::mouseClick(VordererDialog()->findChild<QRadioButton*>(W), Qt::LeftButton);
+        Tippe("\n");
+      });
+      Menü("MenüOptionenOptionen");
+      QCOMPARE(Fenster->findChild<QWidget*>("GrafBild")->isVisible(), Offen);
+    }
     Antworte(Qt::Key_N);
     QVERIFY(!Fenster->close());  // "Tavorena beenden ?" No
     QVERIFY(BlätterOffen());
