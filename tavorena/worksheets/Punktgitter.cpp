@@ -18,8 +18,8 @@ namespace {
 std::vector<Gitterspalte> Gitterspalten(const std::vector<Zeilenspalte>& Spalten) {
   std::vector<Gitterspalte> Alle;
   for (const Zeilenspalte& S : Spalten)
-    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis, S.Art != Zellart::Symbol,
-                    S.Art == Zellart::Nummer, Gezeigt<bool>(S.Sichtbar)});
+    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis, true, S.Art == Zellart::Nummer,
+                    Gezeigt<bool>(S.Sichtbar)});
   return Alle;
 }
 
