@@ -395,7 +395,6 @@ bool FormularAnsicht::ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis)
   return true;
 }
 
-// What is typed next replaces the text.
 void FormularAnsicht::FokusMarkieren() {
   if (Modell == nullptr || Modell->Fokus() == nullptr) return;
   if (auto* Zeile = qobject_cast<QLineEdit*>(FokusWidget(*Modell->Fokus()))) Zeile->selectAll();

@@ -32,6 +32,8 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   [[nodiscard]] Formular* Form() const { return Modell; }
   /// Gives the focus to the control that has it in the form.
   void FokusZeigen();
+  /// Selects the text in the control with the focus: what is typed next replaces it.
+  void FokusMarkieren();
 
   /// A point was clicked in the graphics view: the control with the focus takes it, if it takes points.
   void PunktNehmen(const std::string& Pnr);
@@ -74,7 +76,6 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   [[nodiscard]] bool ZeileWechseln(Steuerelement& S, const QKeyEvent& Ereignis);
   [[nodiscard]] bool TabWeiter(Steuerelement& S, bool Vor);
   void FokusMelden(Steuerelement& S);
-  void FokusMarkieren();
   [[nodiscard]] QWidget* FokusWidget(const Steuerelement& S) const;
 
   inline static int Lesetiefe = 0;  // readings that run inside each other

@@ -66,6 +66,7 @@ class Dialogfenster final : public QDialog {
     show();
     Form.Öffnen();
     Ansicht->FokusZeigen();
+    Ansicht->FokusMarkieren();  // the window becomes active later
     if (!Form.Offen()) return;
     if (isModal()) {
       exec();
@@ -90,7 +91,9 @@ class Dialogfenster final : public QDialog {
     const QString Name = objectName();
     const QSize Letzte = Platz.Größe(Name + "/Größe");
     const int Titelhöhe = 40;
-    const QSize Wunsch(sizeHint().width(), Fenster->centralWidget()->height() - Titelhöhe);
+    const QSize Fläche = Fenster->centralWidget()->size();
+    const QSize Wunsch(std::min(sizeHint().width(), std::max(Fläche.width(), 640)),
+                       Fläche.height() - Titelhöhe);
     resize((Letzte.isEmpty() ? Wunsch : Letzte).boundedTo(screen()->availableSize() - QSize(20, 60)));
     move(Fenster->centralWidget()->mapToGlobal(QPoint(0, 0)));
     Gitter->BreitenSetzen(Platz.Zahlen(Name + "/Spalten"));

@@ -78,7 +78,6 @@ Editorspalte Wortspalte(const char* Titel, std::string KorInfoSatz::*Wert, std::
 Editorspalte Punktartspalte() {
   Editorspalte S =
       Zahlspalte("Punktart(Symbol)", &KorInfoSatz::Punktart, std::numeric_limits<std::int16_t>::max());
-  S.Zeichen = 16;
   S.Nehmen = [Zahl = S.Nehmen](const std::string& Text, Punktsatz& P) {
     const std::int16_t Vorher = P.Info.Punktart;
     const std::string Fehler = Zahl(Text, P);
@@ -130,6 +129,7 @@ std::vector<Editorspalte> Editorspalten(Dateiformat Format) {
       Zahlspalte("Art d.Höhenb.", &KorInfoSatz::ArtHoehenbestimmung, Ganz),
   };
   Alle.insert(Alle.end(), Attribute.begin(), Attribute.end());
+  for (Editorspalte& S : Alle) S.Zeichen = std::max(S.Zeichen, static_cast<int>(ZeichenAnzahl(S.Titel)) + 1);
   return Alle;
 }
 

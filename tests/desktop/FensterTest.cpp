@@ -600,6 +600,7 @@ class FensterTest final : public Fensterumgebung {
     Dialoge.push_back([&] {
       QTRY_COMPARE(FokusName(), QString("EditorGitterFeld"));
       QVERIFY(!Lesen->isEnabled());
+      QCOMPARE(qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectedText(), QString("1001"));
       Drücke(Qt::Key_E, Qt::AltModifier);
       Tippe("3002\n");
       QTRY_COMPARE(Feldtext(), QString("3002"));
