@@ -1,6 +1,9 @@
 #include "Blattest.h"
 #include "Mitschrift.h"
 
+#include <set>
+
+#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Neupunktblock.h>
 
@@ -609,6 +612,37 @@ TEST_F(BlattTest, MarkenInDerGrafik) {
   EXPECT_EQ(Neues()[0], "Linie 100 380 220 220 f255");
   D->SchließenVerlangen();
   EXPECT_EQ(Gezeichnet(), Leer);
+}
+
+// The example job: what each worksheet has marked before it closes.
+TEST_F(BlattTest, MarkenDesBeispiels) {
+  const std::string Beispiel = std::string(TAVORENA_TESTS) + "/../examples/musterdorf.";
+  ASSERT_EQ(KorLesen(Beispiel + "kor", Lesemodus::Ersetzen, Dateiformat::Kor), 0);
+  GrafikLeeren();
+  GrafikWahl = {true, false, false};
+  GrafikFenster = {};
+  GrafikÖffnen(9000, 9000);
+  const auto Punkte = Gezeichnet();
+  const std::set<std::string> Leer(Punkte.begin(), Punkte.end());
+  std::vector<std::string> Vollste;
+  std::string Alle;
+  GrafikBeiÄnderung = [&](const std::optional<Grafikregion>&) {
+    std::vector<std::string> Marken;
+    for (const std::string& Z : Gezeichnet()) {
+      if (!Leer.contains(Z)) Marken.push_back(Z);
+    }
+    if (Marken.size() >= Vollste.size()) Vollste = Marken;
+    if (!Marken.empty()) return;
+    if (Vollste.size() <= 2) return;  // one end of a connection
+    for (const std::string& Z : Vollste) Alle += Z + "\n";
+    Alle += "\n";
+    Vollste.clear();
+  };
+  StapelDatei.Name = Beispiel + "sta";
+  Starten();
+  Blätter.clear();
+  GrafikBeiÄnderung = {};
+  EXPECT_TRUE(GleichSoll(Alle, "worksheets/soll/beispiel_marken.txt"));
 }
 
 // What holds for every kind of worksheet.
