@@ -15,7 +15,7 @@ struct Grafikinhalt {
   Punktindex Index;
   Nummernwahl Wahl;
 };
-extern Grafikinhalt Grafikbestand;
+extern Grafikinhalt& Grafikbestand;  ///< there to the end: worksheets that are still open go after all else
 
 /// Room that a text takes to the right, and above and below its middle [twips].
 [[nodiscard]] double Textbreite(std::string_view Text, int Schriftgrad);

@@ -11,7 +11,7 @@ namespace tavorena {
 bool GrafikUngesichert = false;
 Grafikwahl GrafikWahl;
 std::function<void(const std::optional<Grafikregion>& Wo)> GrafikBeiÄnderung;
-Grafikinhalt Grafikbestand;
+Grafikinhalt& Grafikbestand = *new Grafikinhalt;
 
 namespace {
 
