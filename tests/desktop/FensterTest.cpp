@@ -84,6 +84,9 @@ class FensterTest final : public Fensterumgebung {
       QTest::mouseClick(Haupt, Qt::LeftButton, {}, Im(Feld, Feld->rect().center()));
       QTest::keyClick(Fenster.get(), Qt::Key_O, Qt::ControlModifier);
       QVERIFY(!Fenster->close());
+      auto* Anfang = Fenster->findChild<QLineEdit*>("LinelAnfPnr");
+      QTest::keyClicks(Anfang, "5");
+      QCOMPARE(Anfang->text(), QString("77"));
       auto* Nummer = Dialog->findChild<QLineEdit*>("EinzelPnr");
       Nummer->setFocus();
       QCoreApplication::processEvents();
