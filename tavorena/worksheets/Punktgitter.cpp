@@ -157,7 +157,7 @@ bool Punktgitter::EingabeLesen(int z, Zeileneingabe& E) {
 }
 
 // A row as it is typed: a known point is looked up, or asked for. @return 0; -1: it can not be computed
-int Punktgitter::Berechnen(int z, Punktzeile& Neu) {
+int Punktgitter::Berechnen(int z, Rechenzeile& Neu) {
   Zellen.Fehlerhaft = true;
   if (!EingabeLesen(z, Neu)) return -1;
   if (Neu.Pnr.empty()) {
@@ -181,7 +181,7 @@ int Punktgitter::Berechnen(int z, Punktzeile& Neu) {
 
 // Computes and shows a row that is typed; it waits for Return.
 int Punktgitter::GitterEinzel(int z) {
-  Punktzeile Neu;
+  Rechenzeile Neu;
   if (Berechnen(z, Neu) < 0) return -1;
   LetztePunktnummer = Neu.Pnr;
   if (Reihe(z).Wo.Geschrieben) {
@@ -200,7 +200,7 @@ int Punktgitter::GitterEinzel(int z) {
 // Commits a row; what was written in it before is taken back.
 // @return 0; -1: no such point, or not to be computed; -2: not written; -3: not to be stored
 int Punktgitter::ZeileSchreiben(int z) {
-  Punktzeile Neu;
+  Rechenzeile Neu;
   if (Berechnen(z, Neu) < 0) return -1;
   if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return -1;
   PunktZurück(Reihe(z));
@@ -215,7 +215,7 @@ int Punktgitter::ZeileSchreiben(int z) {
 
 // The end of a row: table, protocol and batch file. @return as ZeileSchreiben
 int Punktgitter::GitterEnde(int z) {
-  Punktzeile& Z = Reihe(z);
+  Rechenzeile& Z = Reihe(z);
   if (Kunde.NeuePunkte) {
     Markieren(z, FarbeBlau);
     if (PunktEintragen(Z) < 0) return -3;
@@ -233,19 +233,19 @@ int Punktgitter::GitterEnde(int z) {
 }
 
 // A number that is taken leads to a question, and perhaps to the entry of a mean: the head stands above it.
-int Punktgitter::PunktEintragen(Punktzeile& Z) {
+int Punktgitter::PunktEintragen(Rechenzeile& Z) {
   Wert Nummer(Z.Pnr);
   if (KorSucheMitPunkt(Nummer) >= 0 && Blatt.Akten.KopfSchreiben() < 0) return -1;
   return Z.Ablage.Eintragen(Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol);
 }
 
-void Punktgitter::PunktZurück(Punktzeile& Z) {
+void Punktgitter::PunktZurück(Rechenzeile& Z) {
   if (Z.Ablage.Zurück() < 0) StatusHilfeSetzen("Punkt " + Z.Pnr + " bleibt: inzwischen geändert");
 }
 
 // The row under work is blue, the committed one red with its number.
 void Punktgitter::Markieren(int z, int Farbe) {
-  Punktzeile& Z = Reihe(z);
+  Rechenzeile& Z = Reihe(z);
   const Lage Von = Kunde.Herkunft(Z);
   Z.Bild.Löschen();
   Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe});
@@ -254,7 +254,7 @@ void Punktgitter::Markieren(int z, int Farbe) {
 
 void Punktgitter::GrafikKleinpunktLöschen() {
   Beiwerk.Löschen();
-  for (Punktzeile& Z : Reihen) Z.Bild.Löschen();
+  for (Rechenzeile& Z : Reihen) Z.Bild.Löschen();
 }
 
 // The symbol of the row above stands in the new one.
@@ -300,7 +300,7 @@ int Punktgitter::StapelZeile() {
 }
 
 int Punktgitter::Streichen(int z) {
-  Punktzeile& Z = Reihe(z);
+  Rechenzeile& Z = Reihe(z);
   if (Blatt.Akten.Streichen(Kunde.Protokollieren(Z, " ***gelöscht"), Z.Wo) < 0) {
     StatusHilfeSetzen("Die Zeile bleibt: die Stapeldatei wurde von anderer Seite geändert");
     ZeileZeigen(z);
@@ -353,7 +353,7 @@ void Punktgitter::EingabeZeigen(int z, const Zeileneingabe& E) {
   }
 }
 
-void Punktgitter::ZeigeErgebnisse(int z, const Punktzeile& Z) {
+void Punktgitter::ZeigeErgebnisse(int z, const Rechenzeile& Z) {
   const std::vector<std::string> Texte = Z.Pnr.empty() ? std::vector<std::string>() : Kunde.Zellen(Z);
   auto Text = Texte.begin();
   for (int s = 0; s < std::ssize(Arten); ++s) {
@@ -387,7 +387,7 @@ void Punktgitter::TextGeändert() {
   const int z = Zellen.Zeile;
   if (Art(Zellen.Spalte) == Zellart::Symbol) return;
   if (!Kunde.NeuePunkte || Art(Zellen.Spalte) != Zellart::Nummer) ZeigeErgebnisse(z, {});
-  Punktzeile& Z = Reihe(z);
+  Rechenzeile& Z = Reihe(z);
   if (Z.Wo.Geschrieben) return;
   Z.Pnr.clear();
   Z.Bild.Löschen();

@@ -31,7 +31,7 @@ struct Zeileneingabe {
 
 /// A row of a Punktgitter: what was typed, the point that is known or comes of it, and what is computed
 /// besides.
-struct Punktzeile : Zeileneingabe {
+struct Rechenzeile : Zeileneingabe {
   Lage Ort;    ///< [m]
   Wert Hoehe;  ///< of a computed point [m]; not given: none
   double Wert1 = 0, Wert2 = 0;
@@ -44,18 +44,18 @@ struct Punktzeile : Zeileneingabe {
 struct Zeilenkunde {
   bool NeuePunkte = false;  ///< the rows are computed points, which are stored; else known ones
   /// Computes a row from its point or its measures. @return 0; -1: it can not be computed
-  std::function<int(Punktzeile&)> Rechnen;
+  std::function<int(Rechenzeile&)> Rechnen;
   /// The texts of its results, column by column.
-  std::function<std::vector<std::string>(const Punktzeile&)> Zellen;
+  std::function<std::vector<std::string>(const Rechenzeile&)> Zellen;
   /// Its lines in the protocol; a Marke that is not empty stands at their end in place of the flags.
-  std::function<Block(const Punktzeile&, const std::string& Marke)> Protokollieren;
+  std::function<Block(const Rechenzeile&, const std::string& Marke)> Protokollieren;
   /// Its record in the batch file, and how one is read: 0, -1 error, -2 end of the block.
-  std::function<std::string(const Punktzeile&)> Satz;
+  std::function<std::string(const Rechenzeile&)> Satz;
   std::function<int(Zeileneingabe&)> Lesen;
   /// Completes what stands above the rows.
   std::function<void(Verbindung&)> Verbinden;
   /// Where the line in the graphics view comes from that leads to the point of a row [m].
-  std::function<Lage(const Punktzeile&)> Herkunft;
+  std::function<Lage(const Rechenzeile&)> Herkunft;
 };
 
 /// The rows of a worksheet, seen from a connection. Return leads from typed cell to typed cell; behind the
@@ -103,18 +103,18 @@ class Punktgitter {
   [[nodiscard]] bool ZelleLesen(int z, int s);
   [[nodiscard]] bool EingabeLesen(int z, Zeileneingabe& E);
   void EingabeZeigen(int z, const Zeileneingabe& E);
-  [[nodiscard]] int Berechnen(int z, Punktzeile& Neu);
+  [[nodiscard]] int Berechnen(int z, Rechenzeile& Neu);
   [[nodiscard]] int GitterEinzel(int z);
   [[nodiscard]] int GitterEnde(int z);
   [[nodiscard]] int ZeileSchreiben(int z);
-  [[nodiscard]] int PunktEintragen(Punktzeile& Z);
-  static void PunktZurück(Punktzeile& Z);
+  [[nodiscard]] int PunktEintragen(Rechenzeile& Z);
+  static void PunktZurück(Rechenzeile& Z);
   void GitterInkrement();
   void GitterReturn();
   [[nodiscard]] bool TasteNehmen(Taste T);
   [[nodiscard]] bool ZelleVerlassen();
   void TextGeändert();
-  void ZeigeErgebnisse(int z, const Punktzeile& Z);
+  void ZeigeErgebnisse(int z, const Rechenzeile& Z);
   void ZeileZeigen(int z);
   void Markieren(int z, int Farbe);
   void Delete();
@@ -123,8 +123,8 @@ class Punktgitter {
   [[nodiscard]] std::string Nummer(int z) const;
   [[nodiscard]] bool HatEingabe(int z) const;
   [[nodiscard]] bool Vollständig(int z) const;
-  Punktzeile& Reihe(int z) { return Reihen[static_cast<std::size_t>(z)]; }
-  [[nodiscard]] const Punktzeile& Reihe(int z) const { return Reihen[static_cast<std::size_t>(z)]; }
+  Rechenzeile& Reihe(int z) { return Reihen[static_cast<std::size_t>(z)]; }
+  [[nodiscard]] const Rechenzeile& Reihe(int z) const { return Reihen[static_cast<std::size_t>(z)]; }
   [[nodiscard]] Zellart Art(int s) const { return Arten[static_cast<std::size_t>(s)]; }
 
   Rechenblatt& Blatt;
@@ -132,7 +132,7 @@ class Punktgitter {
   Zeilenkunde Kunde;
   std::vector<Zellart> Arten;  // of the columns
   int Rechenspalte = 0;        // the last one that the results depend on
-  std::vector<Punktzeile> Reihen;
+  std::vector<Rechenzeile> Reihen;
   std::vector<Steuerelement*> Offene;  // controls that work while the connection is on
   bool Anschlussan = false;
   Knopf* KnopfAn = nullptr;

@@ -61,10 +61,10 @@ TVLinelForm::TVLinelForm(const Blattart& BlattArt)
 Zeilenkunde TVLinelForm::Kunde() {
   return {
       false,
-      [this](Punktzeile& Z) {
+      [this](Rechenzeile& Z) {
         return Linienelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Z.Wert1, Z.Wert2);
       },
-      [this](const Punktzeile& Z) -> std::vector<std::string> {
+      [this](const Rechenzeile& Z) -> std::vector<std::string> {
         std::vector<std::string> Texte = {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Längentext(Z.Wert1),
                                           Längentext(Z.Wert2)};
         if (MitRed()) {
@@ -73,13 +73,13 @@ Zeilenkunde TVLinelForm::Kunde() {
         }
         return Texte;
       },
-      [this](const Punktzeile& Z, const std::string& Marke) {
+      [this](const Rechenzeile& Z, const std::string& Marke) {
         const Wert LinieRed = MitRed() ? Wert(a + Red(Z.Wert1)) : Wert();
         const Wert SeitwRed = MitRed() ? Wert(Red(Z.Wert2)) : Wert();
         return LinelZeile(Optionen.OptNachkommastellen, {Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Wert1, Z.Wert2,
                           LinieRed, SeitwRed, Marke);
       },
-      [](const Punktzeile& Z) { return LinelSatz(Z.Pnr); },
+      [](const Rechenzeile& Z) { return LinelSatz(Z.Pnr); },
       [](Zeileneingabe& Zeile) { return StapelLeseLinel(Zeile.Pnr); },
       [this](Verbindung& V) {
         V.Zeilen = LinelAnschluss(Optionen.OptNachkommastellen, {Kopf.Anf.AlsProtpunkt(),
@@ -92,7 +92,7 @@ Zeilenkunde TVLinelForm::Kunde() {
                                                                  Werte.AbweichungZulaessig});
         V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), a, Kopf.End.Nummer(), e);
       },
-      [this](const Punktzeile& Z) {  // the foot point
+      [this](const Rechenzeile& Z) {  // the foot point
         const double Teil = Z.Wert1 / Werte.EntfGerechnet;
         const Lage Von = Kopf.Anf.Ort(), Bis = Kopf.End.Ort();
         return Lage{Von.RW + Teil * (Bis.RW - Von.RW), Von.HW + Teil * (Bis.HW - Von.HW)};

@@ -41,15 +41,15 @@ TVOrthoForm::TVOrthoForm(const Blattart& BlattArt)
 Zeilenkunde TVOrthoForm::Kunde() {
   return {
       true,
-      [this](Punktzeile& Z) {
+      [this](Rechenzeile& Z) {
         Z.Ort = MesslinieBerechnungPunkt(Kopf.Anf.Ort(), a, Werte, Z.Maße[0], Z.Maße[1]);
         return 0;
       },
-      [](const Punktzeile& Z) -> std::vector<std::string> {
+      [](const Rechenzeile& Z) -> std::vector<std::string> {
         return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW)};
       },
-      [this](const Punktzeile& Z, const std::string& Marke) { return Protokollieren(Z, Marke); },
-      [](const Punktzeile& Z) {
+      [this](const Rechenzeile& Z, const std::string& Marke) { return Protokollieren(Z, Marke); },
+      [](const Rechenzeile& Z) {
         return MesslinieSatz({Z.Pnr, Z.Maße[0], Z.Maße[1], Z.Symbol});
       },
       [](Zeileneingabe& Zeile) {
@@ -59,7 +59,7 @@ Zeilenkunde TVOrthoForm::Kunde() {
         return Ergebnis;
       },
       [this](Verbindung& V) { Verbinden(V); },
-      [this](const Punktzeile& Z) {
+      [this](const Rechenzeile& Z) {
         Lage Fuss = Kopf.Anf.Ort();
         static_cast<void>(Fusspunkt(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Fuss));
         return Fuss;
@@ -67,7 +67,7 @@ Zeilenkunde TVOrthoForm::Kunde() {
   };
 }
 
-Block TVOrthoForm::Protokollieren(const Punktzeile& Z, const std::string& Marke) const {
+Block TVOrthoForm::Protokollieren(const Rechenzeile& Z, const std::string& Marke) const {
   std::vector<std::string> Marken{Marke};
   if (Marke.empty())
     Marken = MesslinieMarken(a, Z.Maße[0], Z.Maße[1], Werte.EntfGerechnet, Optionen.OptWarnstufe);

@@ -25,7 +25,7 @@ class TVOrthoForm final : public Rechenblatt {
   [[nodiscard]] int AnschlussEinzel();
   void ZeigeAnschluss();
   void Verbinden(Verbindung& V) const;
-  [[nodiscard]] Block Protokollieren(const Punktzeile& Z, const std::string& Marke) const;
+  [[nodiscard]] Block Protokollieren(const Rechenzeile& Z, const std::string& Marke) const;
   [[nodiscard]] Zeilenkunde Kunde();
 
   double a = 0, e = 0;  // Anlegemass, Endmass [m]; an e of 0 is not measured

@@ -46,12 +46,12 @@ TVPolarForm::TVPolarForm(const Blattart& BlattArt)
 Zeilenkunde TVPolarForm::Kunde() {
   return {
       true,
-      [this](Punktzeile& Z) { return Rechnen(Z); },
-      [](const Punktzeile& Z) -> std::vector<std::string> {
+      [this](Rechenzeile& Z) { return Rechnen(Z); },
+      [](const Rechenzeile& Z) -> std::vector<std::string> {
         return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Längentext(Z.Hoehe)};
       },
-      [this](const Punktzeile& Z, const std::string& Marke) { return Protokollieren(Z, Marke); },
-      [](const Punktzeile& Z) {
+      [this](const Rechenzeile& Z, const std::string& Marke) { return Protokollieren(Z, Marke); },
+      [](const Rechenzeile& Z) {
         return PolarSatz({Z.Pnr, Z.Maße[MaßRichtung], Z.Maße[MaßVk], Z.Maße[MaßStrecke], Z.Symbol});
       },
       [](Zeileneingabe& Zeile) {
@@ -61,12 +61,12 @@ Zeilenkunde TVPolarForm::Kunde() {
         return Ergebnis;
       },
       [this](Verbindung& V) { Verbinden(V); },
-      [this](const Punktzeile&) { return Kopf.Anf.Ort(); },
+      [this](const Rechenzeile&) { return Kopf.Anf.Ort(); },
   };
 }
 
 // Heights are carried from a station that has one, to points whose vertical angle was measured.
-int TVPolarForm::Rechnen(Punktzeile& Z) const {
+int TVPolarForm::Rechnen(Rechenzeile& Z) const {
   if (Z.Maße[MaßStrecke] == 0) {
     StatusHilfeSetzen("Strecke fehlt");
     return -1;
@@ -77,7 +77,7 @@ int TVPolarForm::Rechnen(Punktzeile& Z) const {
                               Z.Maße[MaßStrecke], 0, GonNachGrad(Ablesung), Werte.Massstab, Z.Ort);
 }
 
-Block TVPolarForm::Protokollieren(const Punktzeile& Z, const std::string& Marke) const {
+Block TVPolarForm::Protokollieren(const Rechenzeile& Z, const std::string& Marke) const {
   return PolarZeile(
       Optionen.OptNachkommastellen,
       {{Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Hoehe, Z.Maße[MaßRichtung], Z.Maße[MaßVk], Z.Maße[MaßStrecke], 0},

@@ -25,8 +25,8 @@ class TVPolarForm final : public Rechenblatt {
   void AnschlussÖffnen();
   void ZeigeAnschluss();
   void Verbinden(Verbindung& V) const;
-  [[nodiscard]] int Rechnen(Punktzeile& Z) const;
-  [[nodiscard]] Block Protokollieren(const Punktzeile& Z, const std::string& Marke) const;
+  [[nodiscard]] int Rechnen(Rechenzeile& Z) const;
+  [[nodiscard]] Block Protokollieren(const Rechenzeile& Z, const std::string& Marke) const;
   [[nodiscard]] Zeilenkunde Kunde();
 
   double Ablesung = 0;  // circle reading on the end point [gon]

@@ -39,17 +39,17 @@ TVPolelForm::TVPolelForm(const Blattart& BlattArt)
 Zeilenkunde TVPolelForm::Kunde() {
   return {
       false,
-      [this](Punktzeile& Z) {
+      [this](Rechenzeile& Z) {
         double Nordrichtung = 0;
         return Polarelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), Z.Ort, Ablesung, Z.Wert1, Z.Wert2, Nordrichtung);
       },
-      [](const Punktzeile& Z) -> std::vector<std::string> {
+      [](const Rechenzeile& Z) -> std::vector<std::string> {
         return {Längentext(Z.Ort.RW), Längentext(Z.Ort.HW), Gontext(Z.Wert1), Längentext(Z.Wert2)};
       },
-      [](const Punktzeile& Z, const std::string& Marke) {
+      [](const Rechenzeile& Z, const std::string& Marke) {
         return PolelZeile(Optionen.OptNachkommastellen, {Z.Ort.RW, Z.Ort.HW, Z.Pnr}, Z.Wert1, Z.Wert2, Marke);
       },
-      [](const Punktzeile& Z) { return LinelSatz(Z.Pnr); },
+      [](const Rechenzeile& Z) { return LinelSatz(Z.Pnr); },
       [](Zeileneingabe& Zeile) { return StapelLeseLinel(Zeile.Pnr); },
       [this](Verbindung& V) {
         V.Zeilen = PolelAnschluss(
@@ -58,7 +58,7 @@ Zeilenkunde TVPolelForm::Kunde() {
              Gemessen != 0 ? Wert(Gemessen) : Wert(), Werte.Abweichung, Werte.AbweichungZulaessig});
         V.Sätze = StapelKopfLinie(Kopf.Anf.Nummer(), Ablesung, Kopf.End.Nummer(), Gemessen);
       },
-      [this](const Punktzeile&) { return Kopf.Anf.Ort(); },
+      [this](const Rechenzeile&) { return Kopf.Anf.Ort(); },
   };
 }
 
