@@ -171,8 +171,9 @@ int SeitenPlanen(const Seitenauftrag& A, Seitenplan& Plan, std::string& Grund) {
 
 void SeiteZeichnen(Zeichenfläche& Auf, const Seitenauftrag& A, const Seitenplan& P, int Seite) {
   Bildausschnitt Karte = P.Karte;
-  Karte.Rechts += Seite % P.Spalten * Karte.Breite / Karte.Massstab;
-  Karte.Hoch += (P.Zeilen - 1 - Seite / P.Spalten) * Karte.Hoehe / Karte.Massstab;
+  const int Spalte = Seite % P.Spalten, Zeile = P.Zeilen - 1 - Seite / P.Spalten;
+  Karte.Rechts += Spalte * Karte.Breite / Karte.Massstab;
+  Karte.Hoch += Zeile * Karte.Hoehe / Karte.Massstab;
   Auf.Begrenzen(Karte.Links, Karte.Oben, Karte.Breite, Karte.Hoehe);
   GrafikZeichnen(Auf, Karte);
   Auf.Begrenzen(0, 0, 0, 0);
