@@ -273,7 +273,7 @@ class FensterTest final : public Fensterumgebung {
       int Taten = 1;
     };
     Öffne();
-    Dialoge.push_back([this] {
+    Dialoge.push_back([] {
       QWidget* Frage = QApplication::activeModalWidget();
       QTest::keyClick(Frage, Qt::Key_F1);
       QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("tabelle.md"));
