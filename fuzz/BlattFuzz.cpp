@@ -107,6 +107,14 @@ class Bediener final : public Rückfragen, public Anzeige, public Ablauf, public
 // How often each row stands, by kind and point numbers.
 using Zählung = std::map<std::string, int>;
 
+// Takes a point number, behind which a flag may stand without a blank.
+std::string_view Vorwort(std::string_view& Rest) {
+  Rest.remove_prefix(std::min(Rest.find_first_not_of(' '), Rest.size()));
+  const std::string_view Wort = Rest.substr(0, Rest.find_first_of(" *"));
+  Rest.remove_prefix(Wort.size());
+  return Wort;
+}
+
 // The rows of a protocol that were not struck.
 void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
   constexpr std::size_t Rechts = 6, Werte = 32, Nummer = 58;  // columns
@@ -120,13 +128,17 @@ void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
     if (Zahlen.find_first_not_of(" -.*0123456789") != std::string_view::npos) continue;
     if (TrimmenSicht(Zahlen.substr(0, 13)).empty()) continue;  // the second line of an entry
     std::string_view Rest = Zeile.substr(Nummer);
-    const std::string Pnr(Wortnehmen(Rest));
+    const std::string Pnr(Vorwort(Rest));
     const std::string_view Marke = TrimmenSicht(Rest);
+    const bool Neupunkt = Art == "VR 22.00" || Art == "VR 19.70";  // flags may stand behind
     if (Marke == "PA") Anfang = Pnr;
     if (Art == "VR 22.10" && Marke == "PE") ++Zeilen[Art + " " + Anfang + " " + Pnr];
     if (Art == "VR 22.10" || TrimmenSicht(Zeile.substr(Werte, Nummer - Werte)).empty()) continue;
-    if (Marke.empty()) ++Zeilen[Art + " " + Pnr];
-    if (Marke == "***gelöscht") --Zeilen[Art + " " + Pnr];
+    if (Marke == "***gelöscht") {
+      --Zeilen[Art + " " + Pnr];
+    } else if (Marke.empty() || (Neupunkt && Marke.starts_with("***"))) {
+      ++Zeilen[Art + " " + Pnr];
+    }
   }
 }
 
@@ -142,7 +154,7 @@ Zählung StapelZählen(const std::string& Text) {
     if (Wort == "PAN") Anfang = Pnr;
     if (Wort == "PEN" && Art == "VR 22.10") ++Sätze[Art + " " + Anfang + " " + Pnr];
     if (Wort == "NND") ++Sätze[Art + " " + Pnr + " " + std::string(Wortnehmen(Rest))];
-    if (Wort == "NR") ++Sätze[Art + " " + Pnr];
+    if (Wort == "NR" || Wort == "AO" || Wort == "PWS") ++Sätze[Art + " " + Pnr];
   }
   return Sätze;
 }
@@ -196,7 +208,9 @@ void Lauf(Eingabe E) {
   const Zählung Sätze = StapelZählen(Sta);
   Prüfen(Geschrieben == Sätze, "was im Protokoll gilt, steht in der Stapeldatei, und nichts sonst");
   TabellePrüfen();
-  if (Sta.empty() || !AllePunkteVerschieden()) return;
+  // A point that a correction or an answer moved would be asked about again.
+  const bool NeuePunkte = Sta.find("\nAO ") != std::string::npos || Sta.find("\nPWS ") != std::string::npos;
+  if (Sta.empty() || NeuePunkte || !AllePunkteVerschieden()) return;
 
   ProtokollNehmen(Ordner() + "/nachlauf.dru");
   StapelStarten(StapelDatei.Name);
