@@ -157,9 +157,8 @@ bool Punktgitter::EingabeLesen(int z, Zeileneingabe& E) {
 }
 
 // A row as it is typed: a known point is looked up, or asked for. @return 0; -1: it can not be computed
-int Punktgitter::Berechnen(int z, Rechenzeile& Neu) {
+int Punktgitter::Berechnen(Rechenzeile& Neu) {
   Zellen.Fehlerhaft = true;
-  if (!EingabeLesen(z, Neu)) return -1;
   if (Neu.Pnr.empty()) {
     StatusHilfeSetzen("Punktnummer fehlt");
     Zellen.Spalte = 0;
@@ -182,7 +181,8 @@ int Punktgitter::Berechnen(int z, Rechenzeile& Neu) {
 // Computes and shows a row that is typed; it waits for Return.
 int Punktgitter::GitterEinzel(int z) {
   Rechenzeile Neu;
-  if (Berechnen(z, Neu) < 0) return -1;
+  Zellen.Fehlerhaft = true;
+  if (!EingabeLesen(z, Neu) || Berechnen(Neu) < 0) return -1;
   LetztePunktnummer = Neu.Pnr;
   if (Reihe(z).Wo.Geschrieben) {
     EingabeZeigen(z, Neu);
@@ -201,7 +201,12 @@ int Punktgitter::GitterEinzel(int z) {
 // @return 0; -1: no such point, or not to be computed; -2: not written; -3: not to be stored
 int Punktgitter::ZeileSchreiben(int z) {
   Rechenzeile Neu;
-  if (Berechnen(z, Neu) < 0) return -1;
+  Zellen.Fehlerhaft = true;
+  return EingabeLesen(z, Neu) ? ZeileSchreiben(z, std::move(Neu)) : -1;
+}
+
+int Punktgitter::ZeileSchreiben(int z, Rechenzeile Neu) {
+  if (Berechnen(Neu) < 0) return -1;
   if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return -1;
   PunktZurück(Reihe(z));
   Reihe(z).Bild.Löschen();
@@ -222,7 +227,7 @@ int Punktgitter::GitterEnde(int z) {
   }
   Block B = Kunde.Protokollieren(Z, "");
   if (Kunde.NeuePunkte) {
-    const Punktnotiz& N = Z.Ablage.Notiz();
+    const Punktnotiz& N = Z.Ablage->Notiz();
     const Block Notiz =
         Bearbeitungsnotiz(Optionen.OptNachkommastellen, N.Code, N.Nummer, N.DeltaRechts, N.DeltaHoch);
     B.Zeilen.insert(B.Zeilen.end(), Notiz.Zeilen.begin(), Notiz.Zeilen.end());
@@ -236,11 +241,13 @@ int Punktgitter::GitterEnde(int z) {
 int Punktgitter::PunktEintragen(Rechenzeile& Z) {
   Wert Nummer(Z.Pnr);
   if (KorSucheMitPunkt(Nummer) >= 0 && Blatt.Akten.KopfSchreiben() < 0) return -1;
-  return Z.Ablage.Eintragen(Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol);
+  Z.Ablage = std::make_unique<Punktablage>();
+  return Z.Ablage->Eintragen(Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol);
 }
 
 void Punktgitter::PunktZurück(Rechenzeile& Z) {
-  if (Z.Ablage.Zurück() < 0) StatusHilfeSetzen("Punkt " + Z.Pnr + " bleibt: inzwischen geändert");
+  if (Z.Ablage && Z.Ablage->Zurück() < 0)
+    StatusHilfeSetzen("Punkt " + Z.Pnr + " bleibt: inzwischen geändert");
 }
 
 // The row under work is blue, the committed one red with its number.
@@ -271,8 +278,10 @@ void Punktgitter::GitterInkrement() {
 
 int Punktgitter::Eintragen(const Zeileneingabe& E) {
   const int z = Zellen.Zeilen() - 1;
-  EingabeZeigen(z, E);
-  const int Ergebnis = ZeileSchreiben(z);
+  Zellen.InhaltSetzen(z, 0, E.Pnr);
+  Rechenzeile Neu;
+  static_cast<Zeileneingabe&>(Neu) = E;
+  const int Ergebnis = ZeileSchreiben(z, std::move(Neu));
   if (Ergebnis == -2) return -2;
   if (Ergebnis < 0) {
     Reihe(z) = {};

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -36,8 +37,8 @@ struct Rechenzeile : Zeileneingabe {
   Wert Hoehe;  ///< of a computed point [m]; not given: none
   double Wert1 = 0, Wert2 = 0;
   Aufzeichnung::Spur Wo;
-  Punktablage Ablage;
-  Markierung Bild;  ///< in the graphics view
+  std::unique_ptr<Punktablage> Ablage;  ///< what storing it did; null: it is not stored by this row
+  Markierung Bild;                      ///< in the graphics view
 };
 
 /// What a worksheet knows of its rows.
@@ -103,10 +104,11 @@ class Punktgitter {
   [[nodiscard]] bool ZelleLesen(int z, int s);
   [[nodiscard]] bool EingabeLesen(int z, Zeileneingabe& E);
   void EingabeZeigen(int z, const Zeileneingabe& E);
-  [[nodiscard]] int Berechnen(int z, Rechenzeile& Neu);
+  [[nodiscard]] int Berechnen(Rechenzeile& Neu);
   [[nodiscard]] int GitterEinzel(int z);
   [[nodiscard]] int GitterEnde(int z);
   [[nodiscard]] int ZeileSchreiben(int z);
+  [[nodiscard]] int ZeileSchreiben(int z, Rechenzeile Neu);
   [[nodiscard]] int PunktEintragen(Rechenzeile& Z);
   static void PunktZurück(Rechenzeile& Z);
   void GitterInkrement();
