@@ -232,7 +232,8 @@ int Punktgitter::GitterEnde(int z) {
         Bearbeitungsnotiz(Optionen.OptNachkommastellen, N.Code, N.Nummer, N.DeltaRechts, N.DeltaHoch);
     B.Zeilen.insert(B.Zeilen.end(), Notiz.Zeilen.begin(), Notiz.Zeilen.end());
   }
-  const bool Geschrieben = Blatt.Akten.Zeile(B, Kunde.Satz(Z), Z.Wo) == 0;
+  const std::string Satz = Blatt.ImStapel() ? "" : Kunde.Satz(Z);  // a replay records none
+  const bool Geschrieben = Blatt.Akten.Zeile(B, Satz, Z.Wo) == 0;
   Markieren(z, Geschrieben ? FarbeRot : FarbeBlau);
   return Geschrieben ? 0 : -2;
 }
