@@ -107,13 +107,8 @@ class Bediener final : public Rückfragen, public Anzeige, public Ablauf, public
 // How often each row stands, by kind and point numbers.
 using Zählung = std::map<std::string, int>;
 
-// Takes a point number, behind which a flag may stand without a blank.
-std::string_view Vorwort(std::string_view& Rest) {
-  Rest.remove_prefix(std::min(Rest.find_first_not_of(' '), Rest.size()));
-  const std::string_view Wort = Rest.substr(0, Rest.find_first_of(" *"));
-  Rest.remove_prefix(Wort.size());
-  return Wort;
-}
+// A kind whose rows are new points: long numbers run into the column before them, so that they count as such.
+bool MitNeuenPunkten(std::string_view Art) { return Art == "VR 22.00" || Art == "VR 19.70"; }
 
 // The rows of a protocol that were not struck.
 void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
@@ -128,17 +123,19 @@ void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
     if (Zahlen.find_first_not_of(" -.*0123456789") != std::string_view::npos) continue;
     if (TrimmenSicht(Zahlen.substr(0, 13)).empty()) continue;  // the second line of an entry
     std::string_view Rest = Zeile.substr(Nummer);
-    const std::string Pnr(Vorwort(Rest));
+    const std::string Pnr(Wortnehmen(Rest));
     const std::string_view Marke = TrimmenSicht(Rest);
-    const bool Neupunkt = Art == "VR 22.00" || Art == "VR 19.70";  // flags may stand behind
     if (Marke == "PA") Anfang = Pnr;
     if (Art == "VR 22.10" && Marke == "PE") ++Zeilen[Art + " " + Anfang + " " + Pnr];
     if (Art == "VR 22.10" || TrimmenSicht(Zeile.substr(Werte, Nummer - Werte)).empty()) continue;
-    if (Marke == "***gelöscht") {
-      --Zeilen[Art + " " + Pnr];
-    } else if (Marke.empty() || (Neupunkt && Marke.starts_with("***"))) {
-      ++Zeilen[Art + " " + Pnr];
+    if (MitNeuenPunkten(Art)) {
+      const std::string_view Ganz = TrimmenSicht(Zeile);
+      if (!Ganz.ends_with(" PA") && !Ganz.ends_with(" PE"))
+        Zeilen[Art] += Ganz.ends_with("***gelöscht") ? -1 : 1;
+      continue;
     }
+    if (Marke.empty()) ++Zeilen[Art + " " + Pnr];
+    if (Marke == "***gelöscht") --Zeilen[Art + " " + Pnr];
   }
 }
 
@@ -154,7 +151,8 @@ Zählung StapelZählen(const std::string& Text) {
     if (Wort == "PAN") Anfang = Pnr;
     if (Wort == "PEN" && Art == "VR 22.10") ++Sätze[Art + " " + Anfang + " " + Pnr];
     if (Wort == "NND") ++Sätze[Art + " " + Pnr + " " + std::string(Wortnehmen(Rest))];
-    if (Wort == "NR" || Wort == "AO" || Wort == "PWS") ++Sätze[Art + " " + Pnr];
+    if (Wort == "NR") ++Sätze[Art + " " + Pnr];
+    if (Wort == "AO" || Wort == "PWS") ++Sätze[Art];
   }
   return Sätze;
 }
@@ -209,8 +207,9 @@ void Lauf(Eingabe E) {
   Prüfen(Geschrieben == Sätze, "was im Protokoll gilt, steht in der Stapeldatei, und nichts sonst");
   TabellePrüfen();
   // A point that a correction or an answer moved would be asked about again.
-  const bool NeuePunkte = Sta.find("\nAO ") != std::string::npos || Sta.find("\nPWS ") != std::string::npos;
-  if (Sta.empty() || NeuePunkte || !AllePunkteVerschieden()) return;
+  const bool Neue =
+      std::any_of(Sätze.begin(), Sätze.end(), [](const auto& Z) { return MitNeuenPunkten(Z.first); });
+  if (Sta.empty() || Neue || !AllePunkteVerschieden()) return;
 
   ProtokollNehmen(Ordner() + "/nachlauf.dru");
   StapelStarten(StapelDatei.Name);
