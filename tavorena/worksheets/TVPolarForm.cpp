@@ -21,8 +21,8 @@ enum : std::size_t { MaßRichtung, MaßVk, MaßStrecke };
 TVPolarForm::TVPolarForm(const Blattart& BlattArt)
     : Rechenblatt(BlattArt),
       Kopf(*this, [this] { ZeigeAnschluss(); }),
-      Orientierung(Kopf.Messfeld("Orientierung", "Orientierung (gon)", {2, 6}, Ablesung)),
-      GemStrecke(Kopf.Messfeld("GemStrecke", "Strecke", {2, 8}, Gemessen)),
+      Orientierung(Kopf.Messfeld("Orientierung", "Orient.", {1, 6}, Ablesung)),
+      GemStrecke(Kopf.Messfeld("GemStrecke", "Strecke", {2, 6}, Gemessen)),
       L(Kopf.Ergebnis("L", "L:", 0)),
       M(Kopf.Ergebnis("M", "M:", 2)),
       D(Kopf.Ergebnis("D", "D:", 4)),
@@ -38,6 +38,7 @@ TVPolarForm::TVPolarForm(const Blattart& BlattArt)
               {"Strecke", Längenbreite(6), Zellart::Maß},
               {"Sy.", 6, Zellart::Symbol}},
              Kunde()) {
+  Orientierung.Hilfe = "Ablesung auf dem Endpunkt in gon";
   GemStrecke.BeiReturn = [this] { AnschlussÖffnen(); };
   Zeilen.KnöpfeAnlegen([this] { AnschlussÖffnen(); });
   KnöpfeAnlegen();
