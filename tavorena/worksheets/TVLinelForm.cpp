@@ -6,7 +6,6 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
-#include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Linel.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -15,7 +14,6 @@
 namespace tavorena {
 namespace {
 
-const char* const GleicheMaße = "Anlegemaß und Endmaß sind gleich";
 constexpr std::size_t SpalteRed = 5;  // first of the two grid columns with the reduced values
 
 Feld& Streifenfeld(Rechenblatt& Blatt, const char* Label, const char* Rest, int Spalte, int Zeichen) {
@@ -27,35 +25,22 @@ Feld& Streifenfeld(Rechenblatt& Blatt, const char* Label, const char* Rest, int 
 }  // namespace
 
 TVLinelForm::TVLinelForm(const Blattart& BlattArt)
-    : Rechenblatt(BlattArt),
-      Kopf(*this, [this] { ZeigeAnschluss(); }),
-      Anlegemass(Kopf.Messfeld("Anlegemass", "Anlegemaß", {1, 6}, a)),
-      Endmass(Kopf.Messfeld("Endmass", "Endmaß", {2, 6}, e)),
-      L(Kopf.Ergebnis("L", "L:", 0)),
-      E(Kopf.Ergebnis("E", "E:", 2)),
-      M(Kopf.Ergebnis("M", "M:", 4)),
-      D(Kopf.Ergebnis("D", "D:", 6)),
-      Ws(Kopf.Ergebnis("Ws", "WS:", 8)),
+    : Zeilenblatt(BlattArt, {"Anlegemass", "Anlegemaß", {1, 6}}, {"Endmass", "Endmaß", {2, 6}}, true),
       Pnrvon(Streifenfeld(*this, "Von Punktnr.:", "Pnrvon", 0, PnrZeichen)),
       Pnrbis(Streifenfeld(*this, "Bis Punktnr.:", "Pnrbis", 2, PnrZeichen)),
-      Breite(Streifenfeld(*this, "Breite (0 = alle):", "Streifen", 4, 8)),
-      Zeilen(*this, Kopf,
-             {{"Punktnr.", PnrZeichen, Zellart::Nummer},
-              {"Rechts", Längenbreite(8)},
-              {"Hoch", Längenbreite(8)},
-              {"Linie", Längenbreite(6)},
-              {"Seitw.", Längenbreite(6)},
-              {"S-red", Längenbreite(6), Zellart::Ergebnis, false},
-              {"A-red", Längenbreite(6), Zellart::Ergebnis, false}},
-             Kunde()) {
-  Endmass.BeiReturn = [this] { AnschlussÖffnen(); };
+      Breite(Streifenfeld(*this, "Breite (0 = alle):", "Streifen", 4, 8)) {
   Pnrvon.IstPnr = Pnrbis.IstPnr = true;
   Breite.Text = "0";
   Breite.Hilfe = "Return nimmt alle Punkte des Bereichs im Streifen als Zeilen auf";
   Breite.BeiReturn = [this] { Streifen(); };
-  Zeilen.MitÖffnen({&Pnrvon, &Pnrbis, &Breite});
-  Zeilen.KnöpfeAnlegen([this] { AnschlussÖffnen(); });
-  KnöpfeAnlegen();
+  ZeilenAnlegen({{"Punktnr.", PnrZeichen, Zellart::Nummer},
+                 {"Rechts", Längenbreite(8)},
+                 {"Hoch", Längenbreite(8)},
+                 {"Linie", Längenbreite(6)},
+                 {"Seitw.", Längenbreite(6)},
+                 {"S-red", Längenbreite(6), Zellart::Ergebnis, false},
+                 {"A-red", Längenbreite(6), Zellart::Ergebnis, false}},
+                Kunde(), {&Pnrvon, &Pnrbis, &Breite});
 }
 
 Zeilenkunde TVLinelForm::Kunde() {
@@ -102,41 +87,12 @@ Zeilenkunde TVLinelForm::Kunde() {
 
 void TVLinelForm::ZeigeAnschluss() {
   if (!Kopf.Gesetzt() || LinienelementeAnschluss(Kopf.Anf.Ort(), Kopf.End.Ort(), a, e, Werte) < 0) return;
-  L.Text = Längentext(Werte.EntfGerechnet);
-  E.Text = Längentext(a + Werte.EntfGerechnet);
   // The worksheet shows computed over measured, as the measured line does.
-  M.Text = Gemessen() != 0 ? ZahlFormat(Kopf.Länge() / Gemessen(), -1, 6) : "";
-  D.Text = Längentext(Werte.AbweichungZulaessig);
-  Ws.Text = e != 0 ? Längentext(Werte.Abweichung) : "";
-  Ws.Fehlerhaft = std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
+  WerteZeigen(Werte, Gemessen() != 0 ? Wert(Kopf.Länge() / Gemessen()) : Wert());
 }
 
-void TVLinelForm::AnschlussÖffnen() {
-  if (Kopf.Prüfen() && AnschlussEinzel() == 0) FokusSetzen(Zeilen.Zellen);
-}
-
-int TVLinelForm::AnschlussEinzel() {
-  if (Gemessen() == 0) {
-    Endmass.Fehlerhaft = true;
-    StatusHilfeSetzen(GleicheMaße);
-    FokusSetzen(Endmass);
-    return -1;
-  }
-  if (Zeilen.AnschlussEinzel() < 0) return -1;
-  for (const std::size_t s : {SpalteRed, SpalteRed + 1}) Zeilen.Zellen.Spalten[s].Sichtbar = MitRed();
-  return 0;
-}
-
-int TVLinelForm::StapelAnschluss() {
-  std::string AnfPnr, EndPnr;
-  double AnfWert = 0, EndWert = 0;
-  const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
-  if (Ergebnis < 0) return Ergebnis;
-  if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
-  Anschluss::MesswertSetzen(Anlegemass, AnfWert);
-  Anschluss::MesswertSetzen(Endmass, EndWert);
-  if (Gemessen() == 0) StapelFehlerMeldung(GleicheMaße);
-  return AnschlussEinzel();
+void TVLinelForm::BeiAnschluss() {
+  for (const std::size_t s : {SpalteRed, SpalteRed + 1}) Zeilen().Zellen.Spalten[s].Sichtbar = MitRed();
 }
 
 void TVLinelForm::Streifen() {
@@ -147,11 +103,11 @@ void TVLinelForm::Streifen() {
   Breite.Text = Text;
   if (Pnrvon.Text->empty()) return FokusSetzen(Pnrvon);
   if (Pnrbis.Text->empty()) Pnrbis.Text = *Pnrvon.Text;
-  if (!Zeilen.OffeneZeileSchreiben()) return;
+  if (!Zeilen().OffeneZeileSchreiben()) return;
   ParallelenMarkieren(std::fabs(Grenze));
   const int Anzahl = StreifenAufnehmen(std::fabs(Grenze));
   StatusHilfeSetzen(Anzahltext(Anzahl, "Punkt", "Punkte") + " im Streifen");
-  FokusSetzen(Zeilen.Zellen);
+  FokusSetzen(Zeilen().Zellen);
 }
 
 // The edges of the strip, as long as the base line.
@@ -160,7 +116,7 @@ void TVLinelForm::ParallelenMarkieren(double Abstand) {
   const Lage Von = Kopf.Anf.Ort(), Bis = Kopf.End.Ort();
   for (const double Seite : {-Abstand, Abstand}) {
     const double dR = (Bis.HW - Von.HW) / Kopf.Länge() * Seite, dH = (Von.RW - Bis.RW) / Kopf.Länge() * Seite;
-    Zeilen.Beiwerk.Linie(
+    Zeilen().Beiwerk.Linie(
         {Von.RW + dR, Von.HW + dH, Bis.RW + dR, Bis.HW + dH, FarbeRot, Strich::Gestrichelt, false});
   }
 }
@@ -177,7 +133,7 @@ int TVLinelForm::StreifenAufnehmen(double Grenze) {
     if (Linienelemente(Kopf.Anf.Ort(), Kopf.End.Ort(), {P.Rechts, P.Hoch}, Linie, Seitwaerts) < 0 ||
         (Grenze != 0 && std::fabs(Seitwaerts) > Grenze))
       continue;
-    const int Ergebnis = Zeilen.Eintragen({KorPnr(z), {}, ""});
+    const int Ergebnis = Zeilen().Eintragen({KorPnr(z), {}, ""});
     if (Ergebnis == -2) break;  // it reached no file, nor would the next one
     if (Ergebnis == 0) ++Anzahl;
     if (!Pause.Fällig()) continue;

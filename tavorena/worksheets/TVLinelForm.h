@@ -3,30 +3,21 @@
 #include <string>
 
 #include <tavorena/calc/TVBerechnungsmodul.h>
-#include <tavorena/worksheets/Punktgitter.h>
+#include <tavorena/worksheets/Zeilenblatt.h>
 
 namespace tavorena {
 
 /// VR 24.40 Linienelemente: distance along a base line and offset from it, for known points.
-class TVLinelForm final : public Rechenblatt {
+class TVLinelForm final : public Zeilenblatt {
  public:
   explicit TVLinelForm(const Blattart& BlattArt);
 
  protected:
-  [[nodiscard]] int StapelAnschluss() override;
-  [[nodiscard]] int StapelZeile() override { return Zeilen.StapelZeile(); }
-  [[nodiscard]] bool HatOffenes() const override { return Zeilen.HatOffenes(); }
-  [[nodiscard]] bool OffenesSchreiben() override { return Zeilen.OffenesSchreiben(); }
-  void GrafikLöschen() override {
-    Kopf.GrafikAnschlußLöschen();
-    Zeilen.GrafikKleinpunktLöschen();
-  }
+  void ZeigeAnschluss() override;
+  [[nodiscard]] const char* Hindernis() const override { return GleicheMaße(); }
+  void BeiAnschluss() override;
 
  private:
-  /// Computes the connection and opens the rows. @return 0 or -1
-  [[nodiscard]] int AnschlussEinzel();
-  void AnschlussÖffnen();
-  void ZeigeAnschluss();
   /// Every table point of the range of numbers whose offset is at most the width becomes a row.
   void Streifen();
   void ParallelenMarkieren(double Abstand);
@@ -38,13 +29,9 @@ class TVLinelForm final : public Rechenblatt {
   /// The value that a measured line with these tape readings would need.
   [[nodiscard]] double Red(double Gerechnet) const { return Gerechnet * Gemessen() / Kopf.Länge(); }
 
-  double a = 0, e = 0;  // tape readings on start and end [m]; an e of 0 means not measured
+  double &a = Maß1, &e = Maß2;  // tape readings on start and end [m]; an e of 0 is not measured
   Anschlusswerte Werte;
-  Anschluss Kopf;
-  Feld &Anlegemass, &Endmass;
-  Feld &L, &E, &M, &D, &Ws;
   Feld &Pnrvon, &Pnrbis, &Breite;
-  Punktgitter Zeilen;
 };
 
 }  // namespace tavorena

@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Winkel.h>
@@ -19,29 +17,18 @@ enum : std::size_t { MaßRichtung, MaßVk, MaßStrecke };
 }  // namespace
 
 TVPolarForm::TVPolarForm(const Blattart& BlattArt)
-    : Rechenblatt(BlattArt),
-      Kopf(*this, [this] { ZeigeAnschluss(); }),
-      Orientierung(Kopf.Messfeld("Orientierung", "Orient.", {1, 6}, Ablesung)),
-      GemStrecke(Kopf.Messfeld("GemStrecke", "Strecke", {2, 6}, Gemessen)),
-      L(Kopf.Ergebnis("L", "L:", 0)),
-      M(Kopf.Ergebnis("M", "M:", 2)),
-      D(Kopf.Ergebnis("D", "D:", 4)),
-      Ws(Kopf.Ergebnis("Ws", "WS:", 6)),
-      Vertikal(Kopf.Ergebnis("Vertikal", "Vk (gon):", 8)),
-      Zeilen(*this, Kopf,
-             {{"Punktnr.", PnrZeichen, Zellart::Nummer},
-              {"Rechts", Längenbreite(8)},
-              {"Hoch", Längenbreite(8)},
-              {"Höhe", Längenbreite(4)},
-              {"Richtung", 10, Zellart::Maß},
-              {"Vk", 10, Zellart::Maß},
-              {"Strecke", Längenbreite(6), Zellart::Maß},
-              {"Sy.", 6, Zellart::Symbol}},
-             Kunde()) {
-  Orientierung.Hilfe = "Ablesung auf dem Endpunkt in gon";
-  GemStrecke.BeiReturn = [this] { AnschlussÖffnen(); };
-  Zeilen.KnöpfeAnlegen([this] { AnschlussÖffnen(); });
-  KnöpfeAnlegen();
+    : Zeilenblatt(BlattArt, {"Orientierung", "Orient.", {1, 6}}, {"GemStrecke", "Strecke", {2, 6}}, false),
+      Vertikal(Kopf.Ergebnis("Vertikal", "Vk (gon):", 8)) {
+  Feld1.Hilfe = "Ablesung auf dem Endpunkt in gon";
+  ZeilenAnlegen({{"Punktnr.", PnrZeichen, Zellart::Nummer},
+                 {"Rechts", Längenbreite(8)},
+                 {"Hoch", Längenbreite(8)},
+                 {"Höhe", Längenbreite(4)},
+                 {"Richtung", 10, Zellart::Maß},
+                 {"Vk", 10, Zellart::Maß},
+                 {"Strecke", Längenbreite(6), Zellart::Maß},
+                 {"Sy.", 6, Zellart::Symbol}},
+                Kunde());
 }
 
 Zeilenkunde TVPolarForm::Kunde() {
@@ -97,29 +84,10 @@ void TVPolarForm::Verbinden(Verbindung& V) const {
 void TVPolarForm::ZeigeAnschluss() {
   if (!Kopf.Gesetzt() || PolarBerechnungAnschluss(Kopf.Anf.Ort(), Kopf.End.Ort(), Gemessen, Werte) < 0)
     return;
-  L.Text = Längentext(Werte.EntfGerechnet);
-  M.Text = ZahlFormat(Werte.Massstab, -1, 6);
-  D.Text = Längentext(Werte.AbweichungZulaessig);
-  Ws.Text = Gemessen != 0 ? Längentext(Werte.Abweichung) : "";
-  Ws.Fehlerhaft = std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
+  WerteZeigen(Werte, Werte.Massstab);
   const bool MitHöhen = Kopf.Anf.Hoehe() != 0 && Kopf.End.Hoehe() != 0;
   const double Winkel = PolarVertikalAnschluss(Werte.EntfGerechnet, Kopf.Anf.Hoehe(), Kopf.End.Hoehe());
   Vertikal.Text = MitHöhen ? ZahlFormat(Winkel, -1, 4) : "";
-}
-
-void TVPolarForm::AnschlussÖffnen() {
-  if (Kopf.Prüfen() && Zeilen.AnschlussEinzel() == 0) FokusSetzen(Zeilen.Zellen);
-}
-
-int TVPolarForm::StapelAnschluss() {
-  std::string AnfPnr, EndPnr;
-  double AnfWert = 0, EndWert = 0;
-  const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
-  if (Ergebnis < 0) return Ergebnis;
-  if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
-  Anschluss::MesswertSetzen(Orientierung, AnfWert);
-  Anschluss::MesswertSetzen(GemStrecke, EndWert);
-  return Zeilen.AnschlussEinzel();
 }
 
 }  // namespace tavorena

@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Linel.h>
@@ -16,24 +14,14 @@ std::string Gontext(double Gon) { return ZahlFormat(Gon, -1, 4); }
 }  // namespace
 
 TVPolelForm::TVPolelForm(const Blattart& BlattArt)
-    : Rechenblatt(BlattArt),
-      Kopf(*this, [this] { ZeigeAnschluss(); }),
-      Orientierung(Kopf.Messfeld("Orientierung", "Richtung (gon)", {2, 6}, Ablesung)),
-      Strecke(Kopf.Messfeld("Strecke", "Strecke", {2, 8}, Gemessen)),
-      L(Kopf.Ergebnis("L", "L:", 0)),
-      M(Kopf.Ergebnis("M", "M:", 2)),
-      D(Kopf.Ergebnis("D", "D:", 4)),
-      Ws(Kopf.Ergebnis("Ws", "WS:", 6)),
-      Zeilen(*this, Kopf,
-             {{"Punktnr.", PnrZeichen, Zellart::Nummer},
-              {"Rechts", Längenbreite(8)},
-              {"Hoch", Längenbreite(8)},
-              {"Richtung", 12},
-              {"Strecke", Längenbreite(6)}},
-             Kunde()) {
-  Strecke.BeiReturn = [this] { AnschlussÖffnen(); };
-  Zeilen.KnöpfeAnlegen([this] { AnschlussÖffnen(); });
-  KnöpfeAnlegen();
+    : Zeilenblatt(BlattArt, {"Orientierung", "Richtung (gon)", {2, 6}}, {"Strecke", "Strecke", {2, 8}},
+                  false) {
+  ZeilenAnlegen({{"Punktnr.", PnrZeichen, Zellart::Nummer},
+                 {"Rechts", Längenbreite(8)},
+                 {"Hoch", Längenbreite(8)},
+                 {"Richtung", 12},
+                 {"Strecke", Längenbreite(6)}},
+                Kunde());
 }
 
 Zeilenkunde TVPolelForm::Kunde() {
@@ -67,26 +55,7 @@ void TVPolelForm::ZeigeAnschluss() {
   if (!Kopf.Gesetzt() ||
       PolarelementeAnschluss(Kopf.Anf.Ort(), Kopf.End.Ort(), Gemessen, Zwischen, Nord, Werte) < 0)
     return;
-  L.Text = Längentext(Werte.EntfGerechnet);
-  M.Text = ZahlFormat(Gemessen != 0 ? Werte.EntfGerechnet / Gemessen : 1.0, -1, 6);
-  D.Text = Längentext(Werte.AbweichungZulaessig);
-  Ws.Text = Gemessen != 0 ? Längentext(Werte.Abweichung) : "";
-  Ws.Fehlerhaft = std::fabs(Werte.Abweichung) > std::fabs(Werte.AbweichungZulaessig);
-}
-
-void TVPolelForm::AnschlussÖffnen() {
-  if (Kopf.Prüfen() && Zeilen.AnschlussEinzel() == 0) FokusSetzen(Zeilen.Zellen);
-}
-
-int TVPolelForm::StapelAnschluss() {
-  std::string AnfPnr, EndPnr;
-  double AnfWert = 0, EndWert = 0;
-  const int Ergebnis = StapelLesenPnrMitWerte(AnfPnr, AnfWert, EndPnr, EndWert);
-  if (Ergebnis < 0) return Ergebnis;
-  if (Kopf.AusStapel(AnfPnr, EndPnr) < 0) return -1;
-  Anschluss::MesswertSetzen(Orientierung, AnfWert);
-  Anschluss::MesswertSetzen(Strecke, EndWert);
-  return Zeilen.AnschlussEinzel();
+  WerteZeigen(Werte, Gemessen != 0 ? Werte.EntfGerechnet / Gemessen : 1.0);
 }
 
 }  // namespace tavorena
