@@ -107,6 +107,10 @@ TEST_F(BlattTest, MeßlinieSchreibtIhreDateien) {
   B->ZelleWechseln(Element<Gitter>(*B, "OrthoGitter"), 2, 0);
   Drücke(*B, "OrthoDelete");
   EXPECT_TRUE(Gleich(Trimmen(Skript.Status[4]), "Punkt 3004 bleibt: inzwischen geändert", KorAnzahl, 8));
+  Gib(2, "1001\n0\n0\n\n");  // it was there before, at this place
+  B->ZelleWechseln(Element<Gitter>(*B, "OrthoGitter"), 2, 0);
+  Drücke(*B, "OrthoDelete");
+  EXPECT_TRUE(Gleich(KorSuche(std::string_view("1001")), 0, KorAnzahl, 8));
   Drücke(*B, "OrthoEnd");
   EXPECT_TRUE(GleichSoll(Protokoll(), "worksheets/soll/ortho.dru"));
   EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/ortho.sta"));
@@ -126,6 +130,9 @@ TEST_F(BlattTest, PolarePunkteSchreibenIhreDateien) {
   };
   B->ZelleWechseln(Element<Gitter>(*B, "PolarGitter"), 2, 0);
   Tippe(*B, "PolarGitter", "2011\n80,25\n98,4\n70,1\n\n");
+  Drücke(*B, "PolarEnd10");
+  // The mean of a first row stands below the connection.
+  Tippe(*B, "PolarAnfPnr", "1002\n1001\n0\n0\n2012\n10\n0\n112\n\n");
   Drücke(*B, "PolarEnd");
   EXPECT_TRUE(GleichSoll(Protokoll(), "worksheets/soll/polar.dru"));
   EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/polar.sta"));
