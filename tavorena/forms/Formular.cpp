@@ -123,7 +123,8 @@ bool Formular::NimmtFokus(const Steuerelement& S) {
 }
 
 void Formular::FokusSetzen(Steuerelement& S) {
-  if (NimmtFokus(S)) Aktuell = &S;
+  if (!NimmtFokus(S) || std::exchange(Aktuell, &S) == &S) return;
+  if (const auto* E = dynamic_cast<const Eingabeelement*>(&S); E != nullptr && E->BeiFokus) E->BeiFokus();
 }
 
 void Formular::FokusWeiter() {

@@ -54,10 +54,11 @@ struct Beschriftung final : Steuerelement {
 
 /// A control that is typed into.
 struct Eingabeelement : Steuerelement {
-  bool IstPnr = false;            ///< a point number: "+" and "-" step it
-  Gezeigt<bool> NurLesen;         ///< a result, or a grid to be looked at: shown, never typed into
-  Gezeigt<bool> Fehlerhaft;       ///< the value failed; shown in the warning colour
-  std::function<void()> BeiText;  ///< the user changed the text
+  bool IstPnr = false;             ///< a point number: "+" and "-" step it
+  Gezeigt<bool> NurLesen;          ///< a result, or a grid to be looked at: shown, never typed into
+  Gezeigt<bool> Fehlerhaft;        ///< the value failed; shown in the warning colour
+  std::function<void()> BeiText;   ///< the user changed the text
+  std::function<void()> BeiFokus;  ///< the focus came to it
   /// Reads the value when the control, or the current cell, is left. @return false: it failed and stays
   std::function<bool()> BeiVerlassen;
   /// Takes a point that was clicked in the graphics view; empty: its number is typed, with Return behind it

@@ -50,6 +50,7 @@ bool NimmtAbgriff(const Formular& Form, const Steuerelement& S) {
   if (const auto* G = dynamic_cast<const Gitter*>(&S)) return G->IstPnr && !G->NurLesen && G->Zeilen() > 0;
   const std::string_view Name = std::string_view(S.Name).substr(0, S.Name.find('('));
   return dynamic_cast<const Feld*>(&S) != nullptr &&
+         Name.find("Neu") == std::string_view::npos &&  // the number of a new point is typed
          std::any_of(Endungen.begin(), Endungen.end(), [&](std::string_view E) { return Name.ends_with(E); });
 }
 

@@ -20,13 +20,26 @@ class Markierung {
 
   void Punkt(const GrafikMarke& M) { Merken({Art::Marke, GrafikMarkeHinzu(M)}); }
   void Linie(const GrafikLinie& L) { Merken({Art::Linie, GrafikLinieHinzu(L)}); }
+  void Bogen(const GrafikBogen& B) { Merken({Art::Bogen, GrafikBogenHinzu(B)}); }
   void Löschen() {
-    for (const Stück& S : Elemente) S.Was == Art::Marke ? GrafikMarkeWeg(S.Handle) : GrafikLinieWeg(S.Handle);
+    for (const Stück& S : Elemente) {
+      switch (S.Was) {
+        case Art::Marke:
+          GrafikMarkeWeg(S.Handle);
+          break;
+        case Art::Linie:
+          GrafikLinieWeg(S.Handle);
+          break;
+        case Art::Bogen:
+          GrafikBogenWeg(S.Handle);
+          break;
+      }
+    }
     Elemente.clear();
   }
 
  private:
-  enum class Art { Marke, Linie };
+  enum class Art { Marke, Linie, Bogen };
   struct Stück {
     Art Was;
     int Handle;

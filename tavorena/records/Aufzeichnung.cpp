@@ -45,10 +45,21 @@ int Aufzeichnung::Protokollieren(const Block& Zeile) {
 }
 
 int Aufzeichnung::Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo) {
+  return Eintragen(Zeile, Wo, [&](int& Griff) { return Sätze.Anfügen(Satz, Griff); });
+}
+
+int Aufzeichnung::Ganzes(Verbindung Neue, const Block& Zeilen, Spur& Wo) {
+  if (Beginnen(std::move(Neue)) < 0) return -1;
+  const int Ergebnis = Eintragen(Zeilen, Wo, [&](int& Griff) { return Sätze.Ganz(Griff); });
+  if (!ImNachlauf) static_cast<void>(AktenSichern());  // a failure was told; what was written stays
+  return Ergebnis;
+}
+
+int Aufzeichnung::Eintragen(const Block& Zeile, Spur& Wo, const std::function<int(int& Griff)>& InStapel) {
   Wo.Geschrieben = false;
   const bool MitProtokoll = !Prot.Datei.empty(), MitStapel = !ImNachlauf && !StapelDatei.Name.empty();
   if (!MitStapel) Wo.Griff = -1;
-  const bool ImStapel = MitStapel && Sätze.Anfügen(Satz, Wo.Griff) == 0;
+  const bool ImStapel = MitStapel && InStapel(Wo.Griff) == 0;
   const bool ImProtokoll = MitProtokoll && Protokollieren(Zeile) == 0;
   Wo.Geschrieben = ImStapel || ImProtokoll || (!MitProtokoll && !MitStapel);
   if (!Wo.Geschrieben) return -1;
@@ -64,6 +75,14 @@ int Aufzeichnung::Streichen(const Block& Gestrichen, Spur& Wo) {
   static_cast<void>(Protokollieren(Gestrichen));
   Wo.Geschrieben = false;
   return 0;
+}
+
+int Aufzeichnung::GanzesStreichen(const Block& Gestrichen, Spur& Wo) {
+  const bool Bleibt =
+      Wo.Griff >= 0 && (!Stapelblock::AmEnde(Wo.Griff) || Stapelblock::Entfernen(Wo.Griff) < 0);
+  static_cast<void>(Protokollieren(Gestrichen));
+  Wo.Geschrieben = false;
+  return Bleibt ? 1 : 0;
 }
 
 int Aufzeichnung::Beenden() {

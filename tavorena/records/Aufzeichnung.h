@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -46,6 +47,16 @@ class Aufzeichnung {
   /// @return 0; -1: not written, with a message
   [[nodiscard]] int Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo);
 
+  /// Writes a calculation that is a block of its own: a case, or a list. What stands above it is Neue, whose
+  /// records are all there are.
+  /// @param[in] Zeilen  its lines in the protocol
+  /// @return as Zeile
+  [[nodiscard]] int Ganzes(Verbindung Neue, const Block& Zeilen, Spur& Wo);
+
+  /// Takes it back like a row; its block goes out of the batch file while nothing stands behind it.
+  /// @return 0; 1: the block stays in the batch file
+  [[nodiscard]] int GanzesStreichen(const Block& Gestrichen, Spur& Wo);
+
   /// Takes a written row back: its record goes out of the batch file, and Gestrichen, the same row with its
   /// mark, stands behind it in the protocol.
   /// @return 0; -1: the record can not be taken out, the row stays as it was
@@ -56,6 +67,7 @@ class Aufzeichnung {
 
  private:
   [[nodiscard]] int Protokollieren(const Block& Zeile);
+  [[nodiscard]] int Eintragen(const Block& Zeile, Spur& Wo, const std::function<int(int& Griff)>& InStapel);
   void EigeneDateiEntfernen();
 
   std::shared_ptr<const Verbindung> Über;

@@ -71,27 +71,34 @@ int StückSetzen(int Griff, const std::string& Neu) {
   return 0;
 }
 
+std::string Endzeilen(const Verbindung& V) {
+  return Zusammen({V.EndeMitZeilen ? "E Ende" : "E  (Ende)", "EM  (Ende Modul  " + V.Titel + ")",
+                   "C ________________________"});
+}
+
+std::string Kopfzeilen(const Verbindung& V) {
+  std::vector<std::string> Zeilen = {"M  " + V.Titel, "C  Tavorena             " + Zeitstempel(),
+                                     "C  Datei: " + KoordinatendateiName};
+  if (Optionen.AbfrageRiss) {
+    Zeilen.push_back("RISS       " + V.Riß.Riss);
+    Zeilen.push_back("BERNR      " + V.Riß.BerNr);
+  }
+  Zeilen.insert(Zeilen.end(), V.Sätze.begin(), V.Sätze.end());
+  return Zusammen(Zeilen);
+}
+
 int StapelEnde() {
   const std::shared_ptr<const Verbindung> Alt = std::exchange(StapelDatei.Offen, nullptr);
-  if (!Alt) return 0;
-  return Schreiben(Zusammen({Alt->EndeMitZeilen ? "E Ende" : "E  (Ende)",
-                             "EM  (Ende Modul  " + Alt->Titel + ")", "C ________________________"}),
-                   "StapelEnde");
+  return Alt ? Schreiben(Endzeilen(*Alt), "StapelEnde") : 0;
 }
 
 int StapelKopf(const std::shared_ptr<const Verbindung>& V) {
-  if (StapelEnde() < 0) return -1;
-  std::vector<std::string> Zeilen = {"M  " + V->Titel, "C  Tavorena             " + Zeitstempel(),
-                                     "C  Datei: " + KoordinatendateiName};
-  if (Optionen.AbfrageRiss) {
-    Zeilen.push_back("RISS       " + V->Riß.Riss);
-    Zeilen.push_back("BERNR      " + V->Riß.BerNr);
-  }
-  Zeilen.insert(Zeilen.end(), V->Sätze.begin(), V->Sätze.end());
-  if (Schreiben(Zusammen(Zeilen), "StapelKopf") < 0) return -1;
+  if (StapelEnde() < 0 || Schreiben(Kopfzeilen(*V), "StapelKopf") < 0) return -1;
   if (!StapelDatei.Name.empty()) StapelDatei.Offen = V;
   return 0;
 }
+
+int LetztesStück() { return static_cast<int>(StapelDatei.Stücke.size()) - 1; }
 
 }  // namespace
 
@@ -114,8 +121,21 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
   if (Satz.empty()) return 0;
   if (Schreiben(Satz + "\r\n", "StapelPunktzeile") < 0) return -1;
   if (StapelDatei.Name.empty()) return 0;
-  Griff = static_cast<int>(StapelDatei.Stücke.size()) - 1;
+  Griff = LetztesStück();
   return 0;
+}
+
+int Stapelblock::Ganz(int& Griff) {
+  Griff = -1;
+  if (StapelEnde() < 0 || Schreiben(Kopfzeilen(*Über) + Endzeilen(*Über), "StapelKopf") < 0) return -1;
+  if (!StapelDatei.Name.empty()) Griff = LetztesStück();
+  return 0;
+}
+
+bool Stapelblock::AmEnde(int Griff) {
+  int Letztes = LetztesStück();
+  while (Letztes >= 0 && StapelDatei.Stücke[static_cast<std::size_t>(Letztes)].empty()) --Letztes;
+  return Griff >= 0 && Griff == Letztes;
 }
 
 int Stapelblock::Entfernen(int Griff) { return StapelDatei.Name.empty() ? 0 : StückSetzen(Griff, ""); }

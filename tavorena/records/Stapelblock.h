@@ -45,6 +45,14 @@ class Stapelblock {
   /// @return 0; -1 if the file could not be written and the question was broken off
   [[nodiscard]] int Anfügen(const std::string& Satz, int& Griff);
 
+  /// Writes the block as a whole, from its head to its end: a connection that holds all there is to record.
+  /// @param[out] Griff  what Entfernen takes for the whole block, -1 if nothing was written
+  /// @return as Anfügen
+  [[nodiscard]] int Ganz(int& Griff);
+
+  /// What was written last: nothing of anybody stands behind it in the file.
+  [[nodiscard]] static bool AmEnde(int Griff);
+
   /// Takes a record out of the file, wherever it stands: a row that the surveyor corrected or deleted must
   /// not be calculated again. Its place is kept for the record that corrects it.
   /// @return 0, also without a file; -1 if it can not be written, or somebody else changed it: it is then

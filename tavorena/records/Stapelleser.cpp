@@ -33,11 +33,17 @@ bool IstKommentar(const Stapelzeile& Z) {
 }
 bool IstEnde(const Stapelzeile& Z) { return Z.Schlüssel == "E" || Z.Schlüssel == "EM"; }
 
-std::string InZeile() { return "Zeile " + std::to_string(Stapel.Zeilennummer); }
+std::string InZeile(int Nummer) { return "Zeile " + std::to_string(Nummer); }
 
 void OhneEndeMerken() {
   Stapel.Bilanz.OhneEnde.push_back("Block " + std::to_string(Stapel.Block) + ", " + Stapel.Art + ", " +
-                                   InZeile());
+                                   InZeile(Stapel.Zeilennummer));
+}
+
+void Auslassen(int Nummer, const std::string& Grund) {
+  Stapel.Bilanz.OhneErgebnis.push_back("ohne Ergebnis: " + Stapel.Art + ", " + InZeile(Nummer) + ": " +
+                                       Grund);
+  StatusHilfeSetzen(Stapel.Bilanz.OhneErgebnis.back());
 }
 
 void Beenden() {
@@ -153,17 +159,17 @@ void StapelAnhalten() {
   if (Stapel.Blatt.Anhalten) Stapel.Blatt.Anhalten();
 }
 
-void StapelAuslassen(const std::string& Grund) {
-  Stapel.Bilanz.Ausgelassen.push_back(InZeile() + ": " + Grund);
-}
+void StapelZeileAuslassen(const std::string& Grund) { Auslassen(Stapel.Zeilennummer, Grund); }
+
+void StapelFallAuslassen(const std::string& Grund) { Auslassen(Stapel.Kopfzeile, Grund); }
 
 std::string StapelStand() {
   const StapelBilanz& B = Stapel.Bilanz;
   const std::string Block = "Block " + std::to_string(Stapel.Block) + " von " + std::to_string(Stapel.Blöcke);
-  if (Stapel.Aktiv) return Block + ", " + Stapel.Art + ", " + InZeile();
+  if (Stapel.Aktiv) return Block + ", " + Stapel.Art + ", " + InZeile(Stapel.Zeilennummer);
   std::string Text = B.Abgebrochen ? "Stapel abgebrochen bei " + Block : "Stapel beendet";
   Text += ": " + Anzahltext(B.Blöcke, "Block", "Blöcke") + ", " + Anzahltext(B.Zeilen, "Zeile", "Zeilen");
-  if (!B.Ausgelassen.empty()) Text += ", " + std::to_string(B.Ausgelassen.size()) + " ausgelassen";
+  if (!B.OhneErgebnis.empty()) Text += ", " + std::to_string(B.OhneErgebnis.size()) + " ohne Ergebnis";
   Text += ", " + Anzahltext(B.Marken, "Marke", "Marken");
   if (!B.Übergangen.empty()) Text += ", übergangen: " + std::to_string(B.Übergangen.size());
   return Text;
@@ -171,8 +177,7 @@ std::string StapelStand() {
 
 std::vector<std::string> StapelBericht() {
   const StapelBilanz& B = Stapel.Bilanz;
-  std::vector<std::string> Zeilen;
-  for (const std::string& Zeile : B.Ausgelassen) Zeilen.push_back("ausgelassen: " + Zeile);
+  std::vector<std::string> Zeilen = B.OhneErgebnis;
   for (const std::string& Zeile : B.OhneEnde) Zeilen.push_back("ohne Ende: " + Zeile);
   std::map<std::string, int> Anzahl;
   for (const std::string& Kennung : B.Übergangen) ++Anzahl[Kennung];
@@ -195,6 +200,7 @@ int StapelLeseKopf(std::string& Kennung) {
     if (Z.Schlüssel == "E") return -2;
     if (Z.Schlüssel != "M") continue;  // lines between blocks
     ++Stapel.Block;
+    Stapel.Kopfzeile = Stapel.Zeilennummer;
     Stapel.Art = TrimmenSicht(Z.Rest);
     const std::string Art = Großtext(Wortnehmen(Z.Rest));
     Kennung = Großtext(Wortnehmen(Z.Rest));

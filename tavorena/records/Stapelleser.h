@@ -17,14 +17,14 @@ namespace tavorena {
 /// What came of a replay.
 struct StapelBilanz {
   std::string Datei;
-  int Blöcke = 0;                        ///< blocks that a worksheet took
-  int Zeilen = 0;                        ///< rows that were calculated
-  int Marken = 0;                        ///< tolerance marks of them
-  std::vector<std::string> Übergangen;   ///< Kennungen that no worksheet takes
-  std::vector<std::string> Ausgelassen;  ///< rows that were dropped: line of the file and reason
-  std::vector<std::string> OhneEnde;     ///< blocks without an end record: where they break off
-  bool Abgebrochen = false;              ///< stopped, or ended by an error
-  bool Fehler = false;                   ///< not all of it could be replayed
+  int Blöcke = 0;                         ///< blocks that a worksheet took
+  int Zeilen = 0;                         ///< rows that were calculated
+  int Marken = 0;                         ///< tolerance marks of them
+  std::vector<std::string> Übergangen;    ///< Kennungen that no worksheet takes
+  std::vector<std::string> OhneErgebnis;  ///< rows and cases that were left out: where, and why
+  std::vector<std::string> OhneEnde;      ///< blocks without an end record: where they break off
+  bool Abgebrochen = false;               ///< stopped, or ended by an error
+  bool Fehler = false;                    ///< not all of it could be replayed
 };
 
 /// The worksheet that a replay shows.
@@ -39,6 +39,7 @@ struct Nachlauf {
   std::vector<std::string> Zeilen;      ///< the whole file, at most 10001 lines
   int Zeiger = 0;                       ///< next line to read
   int Zeilennummer = 0;                 ///< lines used in this replay, for messages
+  int Kopfzeile = 0;                    ///< the one of them with the head of the block that runs
   bool Aktiv = false;                   ///< a replay runs
   bool Ablauf = false;                  ///< the worksheet has taken its block head
   std::string Art;                      ///< title of the block that runs
@@ -77,13 +78,18 @@ void StapelWeiter();
 /// The stop button: the replay ends after the running row.
 void StapelAnhalten();
 
-/// The row that was read last is dropped; the replay goes on and names it at its end.
-void StapelAuslassen(const std::string& Grund);
+/// @{
+/// The row that was read last, or a block that is one case, has no result: it is left out, named in the
+/// status help, and again when the replay, which goes on, has ended.
+void StapelZeileAuslassen(const std::string& Grund);
+void StapelFallAuslassen(const std::string& Grund);
+/// @}
 
 /// Where the replay is, or how it ended: "Block 3 von 11, VR 24.40 Linienelemente, Zeile 57".
 [[nodiscard]] std::string StapelStand();
 
-/// What did not go as recorded, a line each: rows dropped, blocks without an end, blocks passed over.
+/// What did not go as recorded, a line each: rows and cases without a result, blocks without an end, blocks
+/// passed over.
 [[nodiscard]] std::vector<std::string> StapelBericht();
 
 /// A failure of the replay: box with file and line, then the replay is over.

@@ -44,7 +44,7 @@ void Stapelstand(const std::string& Titel) {
   StatusHilfeSetzen(StapelStand());
   AnzeigePort().HauptfensterGeändert();
   const StapelBilanz& B = Stapel.Bilanz;
-  if (!Titel.empty() || (B.Ausgelassen.empty() && B.OhneEnde.empty())) return;
+  if (!Titel.empty() || (B.OhneErgebnis.empty() && B.OhneEnde.empty())) return;
   const std::vector<std::string> Zeilen = StapelBericht();
   std::string Text = B.Datei + "\n";
   for (std::size_t i = 0; i < std::min(Zeilen.size(), Berichtzeilen); ++i) Text += "\n" + Zeilen[i];

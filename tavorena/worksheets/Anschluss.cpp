@@ -3,7 +3,6 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
-#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Anschluss.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -30,7 +29,7 @@ Feld& Anschluss::Messfeld(const char* Rest, const char* Label, Platz Ort, double
   Blatt.BeschriftungAnlegen(Label, {Ort.Zeile, Ort.Spalte}, RahmenAnschluss);
   Feld& F = Blatt.ZahlenfeldAnlegen(Blatt.Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, RahmenAnschluss, 12);
   F.Text = Messwerttext(Zahl);
-  F.BeiVerlassen = [this, &F, &Zahl] { return MesswertNehmen(F, Zahl); };
+  F.BeiVerlassen = [this, &F, &Zahl] { return MessungNehmen(F, Zahl); };
   Messfelder.push_back({F, Zahl});
   return F;
 }
@@ -70,18 +69,12 @@ bool Anschluss::Nachsehen() {
   return true;
 }
 
-bool Anschluss::MesswertNehmen(Feld& F, double& Zahl) {
+bool Anschluss::MessungNehmen(Feld& F, double& Zahl) {
   std::string Text = F.Text;
-  double Neu = 0;
-  if (!MesswertLesen(Text, Neu)) {
-    StatusHilfeSetzen("Zahl erwartet");
+  if (const std::string Grund = MesswertNehmen(Text, Zahl); !Grund.empty()) {
+    StatusHilfeSetzen(Grund);
     return false;
   }
-  if (!StapelZahlPaßt(Neu)) {
-    StatusHilfeSetzen("Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen");
-    return false;
-  }
-  Zahl = Neu;
   F.Text = Text;
   if (!Nachsehen()) Rechnen();
   return true;

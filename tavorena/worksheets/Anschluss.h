@@ -48,7 +48,7 @@ class Anschluss {
 
   void PunktGewechselt(const Punktfeld& P);
   void Markieren();
-  [[nodiscard]] bool MesswertNehmen(Feld& F, double& Zahl);
+  [[nodiscard]] bool MessungNehmen(Feld& F, double& Zahl);
 
   Rechenblatt& Blatt;
   std::function<void()> Rechnen;

@@ -2,6 +2,7 @@
 
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVDisForm.h>
+#include <tavorena/worksheets/TVIntllForm.h>
 #include <tavorena/worksheets/TVLinelForm.h>
 #include <tavorena/worksheets/TVOrthoForm.h>
 #include <tavorena/worksheets/TVPolarForm.h>
@@ -67,6 +68,16 @@ constexpr Blattart Arten[] = {
      4150,
      "polarpunkte.md",
      Neu<TVPolarForm>},
+    {"TVIntllForm",
+     "Intll",
+     "VR 09.00 Geradenschnitt",
+     "Tavorena Geradenschnitt [Stapel]",
+     "Berechnung Geradenschnitt",
+     {"09.00", "9.00", "GS"},
+     "MenüKatasterIntll",
+     4160,
+     "geradenschnitt.md",
+     Neu<TVIntllForm>},
 };
 
 template <typename Test>

@@ -1,14 +1,18 @@
+#include <tavorena/core/Optionen.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/records/Neupunktblock.h>
 #include <tavorena/worksheets/Punktablage.h>
 
 namespace tavorena {
 
-int Punktablage::Eintragen(std::string& Pnr, Lage& Ort, const Wert& Hoehe, const std::string& Symbol) {
+int Punktablage::Eintragen(Aufzeichnung& Akten, std::string& Pnr, Lage& Ort, const Wert& Hoehe,
+                           const std::string& Symbol) {
   Vorher.clear();
   Nachher.clear();
   Wert Nummer(Pnr);
   std::vector<Punktsatz> Alte;
   if (const int z = KorSucheMitPunkt(Nummer); z >= 0) Alte.push_back(PunktsatzVon(z));
+  if (!Alte.empty() && Akten.KopfSchreiben() < 0) return -1;
   const int Zeile = NeupunktEintragen(Nummer, Ort.RW, Ort.HW, Hoehe, Symbol, nullptr, Getan);
   if (Zeile < 0) return -1;
   Pnr = Trimmen(Nummer);
@@ -35,6 +39,12 @@ int Punktablage::Eintragen(std::string& Pnr, Lage& Ort, const Wert& Hoehe, const
       break;
   }
   return 0;
+}
+
+std::vector<std::string> Punktablage::Notiz() const {
+  return Bearbeitungsnotiz(Optionen.OptNachkommastellen, Getan.Code, Getan.Nummer, Getan.DeltaRechts,
+                           Getan.DeltaHoch)
+      .Zeilen;
 }
 
 int Punktablage::Zurück() {

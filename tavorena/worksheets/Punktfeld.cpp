@@ -6,13 +6,16 @@
 namespace tavorena {
 
 Punktfeld::Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char* Label, const char* Rahmen,
-                     int Zeile)
+                     int Zeile, const std::string& Nach)
     : Pnr((Blatt.BeschriftungAnlegen(Label, {Zeile, 0}, Rahmen),
-           Blatt.ZahlenfeldAnlegen(Blatt.Mit(Welcher + "Pnr"), {Zeile, 1}, Rahmen, PnrZeichen))),
-      Rechts(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Rechts"), {Zeile, 2}, Rahmen, Längenbreite(8))),
-      Hoch(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Hoch"), {Zeile, 3}, Rahmen, Längenbreite(8))),
-      H_he(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "H_he"), {Zeile, 4}, Rahmen, Längenbreite(4))),
-      Sym(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Sym"), {Zeile, 5}, Rahmen, 5)) {
+           Blatt.ZahlenfeldAnlegen(Blatt.Mit(Welcher + "Pnr" + Nach), {Zeile, 1}, Rahmen, PnrZeichen))),
+      Rechts(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Rechts" + Nach), {Zeile, 2}, Rahmen,
+                                       Längenbreite(8))),
+      Hoch(
+          Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Hoch" + Nach), {Zeile, 3}, Rahmen, Längenbreite(8))),
+      H_he(
+          Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "H_he" + Nach), {Zeile, 4}, Rahmen, Längenbreite(4))),
+      Sym(Blatt.ErgebnisfeldAnlegen(Blatt.Mit(Welcher + "Sym" + Nach), {Zeile, 5}, Rahmen, 5)) {
   Pnr.IstPnr = true;
   Pnr.Hilfe = "Punktnummer; + und - zählen weiter";
   Pnr.BeiVerlassen = [this] { return Setzen() == 0; };

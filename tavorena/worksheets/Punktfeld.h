@@ -15,7 +15,9 @@ namespace tavorena {
 class Punktfeld {
  public:
   /// @param[in] Welcher  middle of its control names, "Anf" for "LinelAnfPnr"
-  Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char* Label, const char* Rahmen, int Zeile);
+  /// @param[in] Nach     end of them, "1" for "Kmitt_Pnr1"
+  Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char* Label, const char* Rahmen, int Zeile,
+            const std::string& Nach = "");
   Punktfeld(const Punktfeld&) = delete;
   Punktfeld& operator=(const Punktfeld&) = delete;
 

@@ -5,7 +5,6 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
-#include <tavorena/records/Neupunktblock.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Punktgitter.h>
@@ -223,27 +222,18 @@ int Punktgitter::GitterEnde(int z) {
   Rechenzeile& Z = Reihe(z);
   if (Kunde.NeuePunkte) {
     Markieren(z, FarbeBlau);
-    if (PunktEintragen(Z) < 0) return -3;
+    Z.Ablage = std::make_unique<Punktablage>();
+    if (Z.Ablage->Eintragen(Blatt.Akten, Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol) < 0) return -3;
   }
   Block B = Kunde.Protokollieren(Z, "");
   if (Kunde.NeuePunkte) {
-    const Punktnotiz& N = Z.Ablage->Notiz();
-    const Block Notiz =
-        Bearbeitungsnotiz(Optionen.OptNachkommastellen, N.Code, N.Nummer, N.DeltaRechts, N.DeltaHoch);
-    B.Zeilen.insert(B.Zeilen.end(), Notiz.Zeilen.begin(), Notiz.Zeilen.end());
+    const std::vector<std::string> Notiz = Z.Ablage->Notiz();
+    B.Zeilen.insert(B.Zeilen.end(), Notiz.begin(), Notiz.end());
   }
   const std::string Satz = Blatt.ImStapel() ? "" : Kunde.Satz(Z);  // a replay records none
   const bool Geschrieben = Blatt.Akten.Zeile(B, Satz, Z.Wo) == 0;
   Markieren(z, Geschrieben ? FarbeRot : FarbeBlau);
   return Geschrieben ? 0 : -2;
-}
-
-// A number that is taken leads to a question, and perhaps to the entry of a mean: the head stands above it.
-int Punktgitter::PunktEintragen(Rechenzeile& Z) {
-  Wert Nummer(Z.Pnr);
-  if (KorSucheMitPunkt(Nummer) >= 0 && Blatt.Akten.KopfSchreiben() < 0) return -1;
-  Z.Ablage = std::make_unique<Punktablage>();
-  return Z.Ablage->Eintragen(Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol);
 }
 
 void Punktgitter::PunktZurück(Rechenzeile& Z) {
@@ -301,7 +291,7 @@ int Punktgitter::StapelZeile() {
   const int Eingetragen = Eintragen(E);
   if (Eingetragen == 0) ++Stapel.Bilanz.Zeilen;
   if (Eingetragen == -1)
-    StapelAuslassen(
+    StapelZeileAuslassen(
         "Punkt " + Zitat(E.Pnr) +
         (!Kunde.NeuePunkte && KorSuche(std::string_view(E.Pnr)) < 0 ? " fehlt" : " ist nicht zu rechnen"));
   if (Eingetragen != -2) return 0;

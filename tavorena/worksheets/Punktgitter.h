@@ -109,7 +109,6 @@ class Punktgitter {
   [[nodiscard]] int GitterEnde(int z);
   [[nodiscard]] int ZeileSchreiben(int z);
   [[nodiscard]] int ZeileSchreiben(int z, Rechenzeile Neu);
-  [[nodiscard]] int PunktEintragen(Rechenzeile& Z);
   static void PunktZurück(Rechenzeile& Z);
   void GitterInkrement();
   void GitterReturn();

@@ -97,11 +97,11 @@ int TVDisForm::StapelZeile() {
   // A point that the user does not supply drops its check, the replay goes on.
   for (Punktfeld* P : {&Kopf.Anf, &Kopf.End}) {
     if (P->Setzen() == 0) continue;
-    StapelAuslassen("Punkt " + Zitat(*P->Pnr.Text) + " fehlt");
+    StapelZeileAuslassen("Punkt " + Zitat(*P->Pnr.Text) + " fehlt");
     return 0;
   }
   if (!Kopf.Gesetzt()) {
-    StapelAuslassen("Anfangs- und Endpunkt sind gleich");
+    StapelZeileAuslassen("Anfangs- und Endpunkt sind gleich");
     return 0;
   }
   Anschluss::MesswertSetzen(Strecke, Entfernung);

@@ -2,6 +2,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Stapelsatz.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
@@ -36,6 +37,16 @@ bool MesswertLesen(std::string& Text, double& Zahl) {
   Zahl = ZahlAusText(ZahlFormat(Text, -1, Messdezimalen));
   Text = Messwerttext(Zahl);
   return true;
+}
+
+std::string MesswertNehmen(std::string& Text, double& Zahl) {
+  std::string Form = Text;
+  double Neu = 0;
+  if (!MesswertLesen(Form, Neu)) return "Zahl erwartet";
+  if (!StapelZahlPaßt(Neu)) return "Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen";
+  Text = Form;
+  Zahl = Neu;
+  return "";
 }
 
 int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,

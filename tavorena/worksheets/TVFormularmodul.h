@@ -31,6 +31,10 @@ std::string Messwerttext(double Zahl);
 /// @return false: the text is no number; Text and Zahl are then untouched
 bool MesswertLesen(std::string& Text, double& Zahl);
 
+/// The same for what is recorded, which must fit into the records. @return why it is refused; "" if it was
+/// taken
+std::string MesswertNehmen(std::string& Text, double& Zahl);
+
 /// What NeupunktEintragen has to tell the protocol.
 struct Punktnotiz {
   NeupunktCode Code = NeupunktCode::Neu;

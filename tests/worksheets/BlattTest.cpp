@@ -478,8 +478,8 @@ TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
   EXPECT_FALSE(Stapel.Läuft());
   EXPECT_EQ(Blätter.size(), 2U);
   EXPECT_EQ(StapelStand(),
-            "Stapel abgebrochen bei Block 2 von 3: 2 Blöcke, 1 Zeile, 1 ausgelassen, 0 Marken");
-  EXPECT_EQ(StapelBericht(), std::vector<std::string>{"ausgelassen: Zeile 9: Punkt 77 fehlt"});
+            "Stapel abgebrochen bei Block 2 von 3: 2 Blöcke, 1 Zeile, 1 ohne Ergebnis, 0 Marken");
+  EXPECT_EQ(StapelBericht(), std::vector<std::string>{"ohne Ergebnis: VR 08.40 x, Zeile 9: Punkt 77 fehlt"});
   EXPECT_FALSE(Stapel.Bilanz.Fehler);
   EXPECT_TRUE(Blätter.back()->Offen());  // to be read
   // The next run takes its place. Halting is of each run's own; Escape stops, as the image does.
@@ -492,7 +492,7 @@ TEST_F(BlattTest, NachlaufLäßtSichStoppen) {
   Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
   Drücke(*Blätter[2], "LinelWeiter");
   EXPECT_EQ(Blätter.size(), 5U);
-  EXPECT_EQ(StapelStand(), "Stapel beendet: 3 Blöcke, 3 Zeilen, 1 ausgelassen, 0 Marken");
+  EXPECT_EQ(StapelStand(), "Stapel beendet: 3 Blöcke, 3 Zeilen, 1 ohne Ergebnis, 0 Marken");
   EXPECT_EQ(*Gitterfeld(*Blätter[4]).Zeile, 1);
   EXPECT_TRUE(Blätter[4]->TasteDrücken(Taste::Auf));
   EXPECT_EQ(*Gitterfeld(*Blätter[4]).Zeile, 0);
@@ -532,8 +532,8 @@ TEST_F(BlattTest, NachlaufNenntDenGrund) {
   }
   Schreibe(StapelDatei.Name, "M VR 22.10 x\r\nPAN 1001\r\nPEN 1002\r\nNND 1001 1001 0\r\nE\r\n");
   Starten();
-  EXPECT_EQ(StapelBericht(),
-            std::vector<std::string>{"ausgelassen: Zeile 4: Anfangs- und Endpunkt sind gleich"});
+  EXPECT_EQ(StapelBericht(), std::vector<std::string>{
+                                 "ohne Ergebnis: VR 22.10 x, Zeile 4: Anfangs- und Endpunkt sind gleich"});
 }
 
 TEST_F(BlattTest, NachlaufOhnePunktLäßtDieZeileAus) {
