@@ -71,10 +71,7 @@ bool Anschluss::Nachsehen() {
 
 bool Anschluss::MessungNehmen(Feld& F, double& Zahl) {
   std::string Text = F.Text;
-  if (const std::string Grund = MesswertNehmen(Text, Zahl); !Grund.empty()) {
-    StatusHilfeSetzen(Grund);
-    return false;
-  }
+  if (!MesswertPrüfen(Text, Zahl)) return false;
   F.Text = Text;
   if (!Nachsehen()) Rechnen();
   return true;
@@ -107,13 +104,7 @@ bool Anschluss::Prüfen() {
 }
 
 int Anschluss::AusStapel(const std::string& AnfPnr, const std::string& EndPnr) {
-  Anf.Pnr.Text = AnfPnr;
-  End.Pnr.Text = EndPnr;
-  for (Punktfeld* P : {&Anf, &End}) {
-    if (P->Setzen() == 0 && P->Gesetzt()) continue;
-    StapelFehlerMeldung("Anschlußpunkt " + Zitat(*P->Pnr.Text) + " fehlt");
-    return -1;
-  }
+  if (Anf.AusStapel(AnfPnr) < 0 || End.AusStapel(EndPnr) < 0) return -1;
   if (Gesetzt()) return 0;
   StapelFehlerMeldung(GleichePunkte);
   return -1;

@@ -136,7 +136,7 @@ void Fallblatt::FallAnlegen() {
 }
 
 std::vector<std::string> Fallblatt::Notiz(std::size_t Lösung) const {
-  return Lösung < Getan.size() ? Getan[Lösung].Notiz() : std::vector<std::string>();
+  return Lösung < Getan.size() ? Getan[Lösung].Notizzeilen() : std::vector<std::string>();
 }
 
 // ---- what is typed ---------------------------------------------------------------------------------

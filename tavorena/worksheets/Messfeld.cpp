@@ -1,4 +1,3 @@
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/worksheets/Messfeld.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -16,10 +15,7 @@ bool Messfeld::Nehmen() {
   std::string Text = Trimmen(*Eingabe.Text);
   if (Text == Vorher) return true;
   double Neu = 0;
-  if (const std::string Grund = Text.empty() ? "" : MesswertNehmen(Text, Neu); !Grund.empty()) {
-    StatusHilfeSetzen(Grund);
-    return false;
-  }
+  if (!Text.empty() && !MesswertPrüfen(Text, Neu)) return false;
   Eingabe.Text = Vorher = Text;
   Gelesen = Neu;
   if (BeiWechsel) BeiWechsel();

@@ -11,8 +11,10 @@ int Punktablage::Eintragen(Aufzeichnung& Akten, std::string& Pnr, Lage& Ort, con
   Nachher.clear();
   Wert Nummer(Pnr);
   std::vector<Punktsatz> Alte;
-  if (const int z = KorSucheMitPunkt(Nummer); z >= 0) Alte.push_back(PunktsatzVon(z));
-  if (!Alte.empty() && Akten.KopfSchreiben() < 0) return -1;
+  if (const int z = KorSucheMitPunkt(Nummer); z >= 0) {
+    if (Akten.KopfSchreiben() < 0) return -1;
+    Alte.push_back(PunktsatzVon(z));
+  }
   const int Zeile = NeupunktEintragen(Nummer, Ort.RW, Ort.HW, Hoehe, Symbol, nullptr, Getan);
   if (Zeile < 0) return -1;
   Pnr = Trimmen(Nummer);
@@ -41,7 +43,7 @@ int Punktablage::Eintragen(Aufzeichnung& Akten, std::string& Pnr, Lage& Ort, con
   return 0;
 }
 
-std::vector<std::string> Punktablage::Notiz() const {
+std::vector<std::string> Punktablage::Notizzeilen() const {
   return Bearbeitungsnotiz(Optionen.OptNachkommastellen, Getan.Code, Getan.Nummer, Getan.DeltaRechts,
                            Getan.DeltaHoch)
       .Zeilen;

@@ -13,16 +13,17 @@ namespace tavorena {
 /// A computed point on its way into the table, and what that did there: enough to take it back.
 class Punktablage {
  public:
-  /// Stores the point (see NeupunktEintragen). A number that is taken leads to a question, and perhaps to the
-  /// entry of a mean: the head of Akten stands above it.
+  /// Stores the point (see NeupunktEintragen); Notiz tells what became of it.
+  /// A number that is taken leads to a question, and perhaps to the entry of a mean: the head that Akten has
+  /// begun stands above it.
   /// @param[in,out] Pnr, Ort  afterwards what the records show
   /// @param[in] Hoehe         [m]; not given: none
-  /// @return 0; -1: the surveyor broke off, or the head could not be written; nothing was stored
+  /// @return 0; -1: the surveyor broke off, nothing was stored
   [[nodiscard]] int Eintragen(Aufzeichnung& Akten, std::string& Pnr, Lage& Ort, const Wert& Hoehe,
                               const std::string& Symbol);
 
-  /// What became of a number that was taken, as it stands below the row of the point.
-  [[nodiscard]] std::vector<std::string> Notiz() const;
+  /// The lines below the row of the point.
+  [[nodiscard]] std::vector<std::string> Notizzeilen() const;
 
   /// Takes it back where the rows are as they were left. @return 0, also if nothing was stored; -1: they were
   /// changed since, the table stays

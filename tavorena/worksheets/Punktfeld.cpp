@@ -1,5 +1,6 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Punktfeld.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
@@ -58,6 +59,13 @@ int Punktfeld::Setzen() {
 bool Punktfeld::Auffrischen() {
   Leeren();
   return Formular::Lesen(Pnr) && Gesetzt();
+}
+
+int Punktfeld::AusStapel(const std::string& Nummer) {
+  Pnr.Text = Nummer;
+  if (Setzen() == 0 && Gesetzt()) return 0;
+  StapelFehlerMeldung("Anschlußpunkt " + Zitat(*Pnr.Text) + " fehlt");
+  return -1;
 }
 
 bool Punktfeld::Nachsehen() {

@@ -29,6 +29,8 @@ class Punktfeld {
   [[nodiscard]] int Setzen();
   /// The same, also when the number stayed: the table may have changed. @return false: there is no point
   [[nodiscard]] bool Auffrischen();
+  /// Takes the number of a batch block. @return 0; -1 with a message: there is no point
+  [[nodiscard]] int AusStapel(const std::string& Nummer);
   /// Looks the point up again if the table has changed since; a number that is gone keeps its coordinates.
   /// @return true: it lies elsewhere now
   bool Nachsehen();

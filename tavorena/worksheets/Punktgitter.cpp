@@ -1,46 +1,32 @@
 #include <utility>
 
-#include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
-#include <tavorena/core/Zahlen.h>
-#include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Punktgitter.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
 
-namespace {
-
-std::vector<Gitterspalte> Gitterspalten(const std::vector<Zeilenspalte>& Spalten) {
-  std::vector<Gitterspalte> Alle;
-  for (const Zeilenspalte& S : Spalten)
-    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis, true, S.Art == Zellart::Nummer,
-                    Gezeigt<bool>(S.Sichtbar)});
-  return Alle;
-}
-
-}  // namespace
-
 Punktgitter::Punktgitter(Rechenblatt& Für, Anschluss& Von, const std::vector<Zeilenspalte>& Spalten,
                          Zeilenkunde Wissen)
-    : Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), Gitterspalten(Spalten), {0, 0}, "Zeilen")),
+    : Eingaben(Für, Spalten, Verhalten()),
+      Zellen(Eingaben.Zellen),
       Blatt(Für),
       Kopf(Von),
       Kunde(std::move(Wissen)) {
-  for (const Zeilenspalte& S : Spalten) {
-    if (S.Art == Zellart::Maß) Rechenspalte = static_cast<int>(Arten.size());
-    Arten.push_back(S.Art);
-  }
-  Zellen.IstPnr = true;
-  Zellen.Hilfe = Rechenspalte == 0
+  Zellen.Hilfe = Eingaben.Rechenspalte() == 0
                      ? "Punktnummer, Return rechnet und schreibt die Zeile"
                      : "Return führt von Zelle zu Zelle und schreibt hinter der letzten die Zeile";
-  Zellen.BeiTaste = [this](Taste T) { return TasteNehmen(T); };
   Zellen.BeiVerlassen = [this] { return ZelleVerlassen(); };
   Zellen.BeiText = [this] { TextGeändert(); };
+}
+
+Gitterverhalten Punktgitter::Verhalten() {
+  return {[this](int z) { return GitterEinzel(z) == 0; }, [this](int z) { return ZeileAbschließen(z); },
+          [this](int z) { ZeileZeigen(z); }, [this] { GitterInkrement(); },
+          [this] { Blatt.FokusSetzen(*KnopfEnd10); }};
 }
 
 void Punktgitter::KnöpfeAnlegen(std::function<void()> Öffnen) {
@@ -97,61 +83,12 @@ void Punktgitter::AnschlussSchließen() {
 
 // ---- what a row goes through -----------------------------------------------------------------------
 
-// Return: on to the next typed cell, and behind the last one the row is committed.
-void Punktgitter::GitterReturn() {
-  const int z = Zellen.Zeile, Nächste = Zellen.Eingabespalte(1);
-  if (!HatEingabe(z)) {
-    if (z + 1 == Zellen.Zeilen()) Blatt.FokusSetzen(*KnopfEnd10);
-    return;
-  }
-  if (Nächste >= 0) {
-    // What can not be computed is mended here, and not behind the symbol.
-    if (Zellen.Spalte == Rechenspalte && GitterEinzel(z) < 0) return;
-    return Blatt.ZelleWechseln(Zellen, z, Nächste);
-  }
+// Behind its last cell the row is committed, unless it stands as it was written.
+bool Punktgitter::ZeileAbschließen(int z) {
   Zeileneingabe E;
-  if (Reihe(z).Wo.Geschrieben && EingabeLesen(z, E) && E == static_cast<Zeileneingabe&>(Reihe(z))) {
-    ZeileZeigen(z);
-  } else if (ZeileSchreiben(z) < 0) {
-    return;
-  }
-  if (z + 1 == Zellen.Zeilen()) return GitterInkrement();
-  Zellen.Zeile = z + 1;
-  Zellen.Spalte = 0;
-}
-
-// Brings what was typed into its normal form. @return false: it can not be read
-bool Punktgitter::ZelleLesen(int z, int s) {
-  std::string Text = Trimmen(Zellen.Inhalt(z, s));
-  double Zahl = 0;
-  if (Art(s) == Zellart::Maß && !Text.empty() && !MesswertLesen(Text, Zahl)) {
-    StatusHilfeSetzen("Zahl erwartet");
-    return false;
-  }
-  if (Art(s) == Zellart::Maß && !StapelZahlPaßt(Zahl)) {
-    StatusHilfeSetzen("Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen");
-    return false;
-  }
-  if (Art(s) != Zellart::Maß && Text.find_first_of(" \t") != std::string::npos) {
-    StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
-    return false;
-  }
-  Zellen.InhaltSetzen(z, s, Art(s) == Zellart::Maß ? Messwerttext(Zahl) : Text);
-  return true;
-}
-
-bool Punktgitter::EingabeLesen(int z, Zeileneingabe& E) {
-  for (int s = 0; s < std::ssize(Arten); ++s) {
-    if (Art(s) == Zellart::Ergebnis) continue;
-    if (!ZelleLesen(z, s)) {
-      Zellen.Spalte = s;
-      return false;
-    }
-    const std::string& Text = Zellen.Inhalt(z, s);
-    if (Art(s) == Zellart::Nummer) E.Pnr = Text;
-    if (Art(s) == Zellart::Symbol) E.Symbol = Text;
-    if (Art(s) == Zellart::Maß) E.Maße.push_back(ZahlAusText(Text));
-  }
+  if (!Reihe(z).Wo.Geschrieben || !Eingaben.EingabeLesen(z, E) || E != static_cast<Zeileneingabe&>(Reihe(z)))
+    return ZeileSchreiben(z) == 0;
+  ZeileZeigen(z);
   return true;
 }
 
@@ -181,10 +118,10 @@ int Punktgitter::Berechnen(Rechenzeile& Neu) {
 int Punktgitter::GitterEinzel(int z) {
   Rechenzeile Neu;
   Zellen.Fehlerhaft = true;
-  if (!EingabeLesen(z, Neu) || Berechnen(Neu) < 0) return -1;
+  if (!Eingaben.EingabeLesen(z, Neu) || Berechnen(Neu) < 0) return -1;
   LetztePunktnummer = Neu.Pnr;
   if (Reihe(z).Wo.Geschrieben) {
-    EingabeZeigen(z, Neu);
+    Eingaben.EingabeZeigen(z, Neu);
     ZeigeErgebnisse(z, Neu);
     return 0;
   }
@@ -201,7 +138,7 @@ int Punktgitter::GitterEinzel(int z) {
 int Punktgitter::ZeileSchreiben(int z) {
   Rechenzeile Neu;
   Zellen.Fehlerhaft = true;
-  return EingabeLesen(z, Neu) ? ZeileSchreiben(z, std::move(Neu)) : -1;
+  return Eingaben.EingabeLesen(z, Neu) ? ZeileSchreiben(z, std::move(Neu)) : -1;
 }
 
 int Punktgitter::ZeileSchreiben(int z, Rechenzeile Neu) {
@@ -227,7 +164,7 @@ int Punktgitter::GitterEnde(int z) {
   }
   Block B = Kunde.Protokollieren(Z, "");
   if (Kunde.NeuePunkte) {
-    const std::vector<std::string> Notiz = Z.Ablage->Notiz();
+    const std::vector<std::string> Notiz = Z.Ablage->Notizzeilen();
     B.Zeilen.insert(B.Zeilen.end(), Notiz.begin(), Notiz.end());
   }
   const std::string Satz = Blatt.ImStapel() ? "" : Kunde.Satz(Z);  // a replay records none
@@ -255,16 +192,11 @@ void Punktgitter::GrafikKleinpunktLöschen() {
   for (Rechenzeile& Z : Reihen) Z.Bild.Löschen();
 }
 
-// The symbol of the row above stands in the new one.
 void Punktgitter::GitterInkrement() {
-  Zellen.ZeileAnhängen();
+  Eingaben.Anhängen();
   Reihen.emplace_back();
-  const int z = Zellen.Zeilen() - 1;
-  Zellen.Zeile = z;
+  Zellen.Zeile = Zellen.Zeilen() - 1;
   Zellen.Spalte = 0;
-  for (int s = 0; s < std::ssize(Arten); ++s) {
-    if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, Reihe(z - 1).Symbol);
-  }
 }
 
 int Punktgitter::Eintragen(const Zeileneingabe& E) {
@@ -327,42 +259,12 @@ void Punktgitter::Delete() {
 
 // ---- the cells -------------------------------------------------------------------------------------
 
-std::string Punktgitter::Nummer(int z) const { return Trimmen(Zellen.Inhalt(z, 0)); }
-
-bool Punktgitter::HatEingabe(int z) const {
-  for (int s = 0; s < std::ssize(Arten); ++s) {
-    const bool Zählt = Art(s) == Zellart::Nummer || Art(s) == Zellart::Maß;
-    if (Zählt && !TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return true;
-  }
-  return false;
-}
-
-bool Punktgitter::Vollständig(int z) const {
-  for (int s = 0; s <= Rechenspalte; ++s) {
-    if (Art(s) != Zellart::Ergebnis && TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return false;
-  }
-  return true;
-}
-
-void Punktgitter::EingabeZeigen(int z, const Zeileneingabe& E) {
-  auto Maß = E.Maße.begin();
-  for (int s = 0; s < std::ssize(Arten); ++s) {
-    if (Art(s) == Zellart::Nummer) Zellen.InhaltSetzen(z, s, E.Pnr);
-    if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, E.Symbol);
-    if (Art(s) == Zellart::Maß) Zellen.InhaltSetzen(z, s, Maß == E.Maße.end() ? "" : Messwerttext(*Maß++));
-  }
-}
-
 void Punktgitter::ZeigeErgebnisse(int z, const Rechenzeile& Z) {
-  const std::vector<std::string> Texte = Z.Pnr.empty() ? std::vector<std::string>() : Kunde.Zellen(Z);
-  auto Text = Texte.begin();
-  for (int s = 0; s < std::ssize(Arten); ++s) {
-    if (Art(s) == Zellart::Ergebnis) Zellen.InhaltSetzen(z, s, Text == Texte.end() ? "" : *Text++);
-  }
+  Eingaben.ErgebnisseZeigen(z, Z.Pnr.empty() ? std::vector<std::string>() : Kunde.Zellen(Z));
 }
 
 void Punktgitter::ZeileZeigen(int z) {
-  EingabeZeigen(z, Reihe(z));
+  Eingaben.EingabeZeigen(z, Reihe(z));
   ZeigeErgebnisse(z, Reihe(z));
 }
 
@@ -376,48 +278,28 @@ bool Punktgitter::ZelleVerlassen() {
     ZeileZeigen(z);
     return true;
   }
-  if (!HatEingabe(z)) return true;
-  if (!ZelleLesen(z, s)) return false;
-  const bool Fertig = Vollständig(z) && (s == Rechenspalte || !Bleibt);
+  if (!Eingaben.HatEingabe(z)) return true;
+  if (!Eingaben.ZelleLesen(z, s)) return false;
+  const bool Fertig = Eingaben.Vollständig(z) && (s == Eingaben.Rechenspalte() || !Bleibt);
   return !Fertig || !Reihe(z).Pnr.empty() || GitterEinzel(z) == 0 || Bleibt;
 }
 
 // Results that do not belong to what was typed would mislead.
 void Punktgitter::TextGeändert() {
   const int z = Zellen.Zeile;
-  if (Art(Zellen.Spalte) == Zellart::Symbol) return;
-  if (!Kunde.NeuePunkte || Art(Zellen.Spalte) != Zellart::Nummer) ZeigeErgebnisse(z, {});
+  if (Eingaben.Art(Zellen.Spalte) == Zellart::Symbol) return;
+  if (!Kunde.NeuePunkte || Eingaben.Art(Zellen.Spalte) != Zellart::Nummer) ZeigeErgebnisse(z, {});
   Rechenzeile& Z = Reihe(z);
   if (Z.Wo.Geschrieben) return;
   Z.Pnr.clear();
   Z.Bild.Löschen();
 }
 
-bool Punktgitter::TasteNehmen(Taste T) {
-  switch (T) {
-    case Taste::Return:
-      GitterReturn();
-      return true;
-    case Taste::Escape:
-      ZeileZeigen(Zellen.Zeile);
-      return true;
-    case Taste::Auf:
-    case Taste::Ab:
-      Blatt.ZelleWechseln(Zellen, Zellen.Zeile + (T == Taste::Auf ? -1 : 1), Zellen.Spalte);
-      return true;
-    case Taste::Plus:
-    case Taste::Minus:
-    case Taste::Leer:
-      break;
-  }
-  return false;
-}
-
 // ---- leaving ---------------------------------------------------------------------------------------
 
 bool Punktgitter::OffeneZeileSchreiben() {
   const int z = Zellen.Zeilen() - 1;
-  if (!HatEingabe(z) || Reihe(z).Wo.Geschrieben) return true;
+  if (!Eingaben.HatEingabe(z) || Reihe(z).Wo.Geschrieben) return true;
   Zellen.Zeile = z;
   if (ZeileSchreiben(z) < 0) {
     Blatt.FokusSetzen(Zellen);
@@ -429,14 +311,14 @@ bool Punktgitter::OffeneZeileSchreiben() {
 
 bool Punktgitter::HatOffenes() const {
   for (int z = 0; Offen() && z < std::ssize(Reihen); ++z) {
-    if (!Reihe(z).Wo.Geschrieben && HatEingabe(z)) return true;
+    if (!Reihe(z).Wo.Geschrieben && Eingaben.HatEingabe(z)) return true;
   }
   return false;
 }
 
 bool Punktgitter::OffenesSchreiben() {
   for (int z = 0; z < std::ssize(Reihen); ++z) {
-    if (Reihe(z).Wo.Geschrieben || !HatEingabe(z)) continue;
+    if (Reihe(z).Wo.Geschrieben || !Eingaben.HatEingabe(z)) continue;
     Zellen.Zeile = z;
     if (ZeileSchreiben(z) < 0) return false;
   }

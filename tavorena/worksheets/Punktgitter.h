@@ -7,28 +7,10 @@
 #include <vector>
 
 #include <tavorena/worksheets/Anschluss.h>
+#include <tavorena/worksheets/Eingabegitter.h>
 #include <tavorena/worksheets/Punktablage.h>
 
 namespace tavorena {
-
-/// What stands in a column of rows. All but results are typed.
-enum class Zellart { Nummer, Ergebnis, Maß, Symbol };
-
-/// A column of rows.
-struct Zeilenspalte {
-  const char* Titel;
-  int Zeichen;
-  Zellart Art = Zellart::Ergebnis;
-  bool Sichtbar = true;
-};
-
-/// What is typed in a row.
-struct Zeileneingabe {
-  std::string Pnr;           ///< "" while the row is empty or its number is not looked up
-  std::vector<double> Maße;  ///< measured values, in the order of their columns
-  std::string Symbol;
-  bool operator==(const Zeileneingabe&) const = default;
-};
 
 /// A row of a Punktgitter: what was typed, the point that is known or comes of it, and what is computed
 /// besides.
@@ -65,6 +47,8 @@ struct Zeilenkunde {
 /// protocol by a line with " ***gelöscht", its point taken back, and its record replaced or taken out of the
 /// batch file, which holds what is to be calculated again.
 class Punktgitter {
+  Eingabegitter Eingaben;
+
  public:
   Punktgitter(Rechenblatt& Für, Anschluss& Von, const std::vector<Zeilenspalte>& Spalten, Zeilenkunde Wissen);
   Punktgitter(const Punktgitter&) = delete;
@@ -101,9 +85,7 @@ class Punktgitter {
 
  private:
   [[nodiscard]] int Verbinden();
-  [[nodiscard]] bool ZelleLesen(int z, int s);
-  [[nodiscard]] bool EingabeLesen(int z, Zeileneingabe& E);
-  void EingabeZeigen(int z, const Zeileneingabe& E);
+  [[nodiscard]] Gitterverhalten Verhalten();
   [[nodiscard]] int Berechnen(Rechenzeile& Neu);
   [[nodiscard]] int GitterEinzel(int z);
   [[nodiscard]] int GitterEnde(int z);
@@ -111,8 +93,7 @@ class Punktgitter {
   [[nodiscard]] int ZeileSchreiben(int z, Rechenzeile Neu);
   static void PunktZurück(Rechenzeile& Z);
   void GitterInkrement();
-  void GitterReturn();
-  [[nodiscard]] bool TasteNehmen(Taste T);
+  [[nodiscard]] bool ZeileAbschließen(int z);
   [[nodiscard]] bool ZelleVerlassen();
   void TextGeändert();
   void ZeigeErgebnisse(int z, const Rechenzeile& Z);
@@ -121,18 +102,12 @@ class Punktgitter {
   void Delete();
   [[nodiscard]] int Streichen(int z);
   void AnschlussAnAus(bool An);
-  [[nodiscard]] std::string Nummer(int z) const;
-  [[nodiscard]] bool HatEingabe(int z) const;
-  [[nodiscard]] bool Vollständig(int z) const;
   Rechenzeile& Reihe(int z) { return Reihen[static_cast<std::size_t>(z)]; }
   [[nodiscard]] const Rechenzeile& Reihe(int z) const { return Reihen[static_cast<std::size_t>(z)]; }
-  [[nodiscard]] Zellart Art(int s) const { return Arten[static_cast<std::size_t>(s)]; }
 
   Rechenblatt& Blatt;
   Anschluss& Kopf;
   Zeilenkunde Kunde;
-  std::vector<Zellart> Arten;  // of the columns
-  int Rechenspalte = 0;        // the last one that the results depend on
   std::vector<Rechenzeile> Reihen;
   std::vector<Steuerelement*> Offene;  // controls that work while the connection is on
   bool Anschlussan = false;

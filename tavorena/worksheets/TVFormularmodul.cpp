@@ -1,4 +1,5 @@
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -39,14 +40,20 @@ bool MesswertLesen(std::string& Text, double& Zahl) {
   return true;
 }
 
-std::string MesswertNehmen(std::string& Text, double& Zahl) {
-  std::string Form = Text;
+bool MesswertPrüfen(std::string& Text, double& Zahl) {
+  std::string Normal = Text;
   double Neu = 0;
-  if (!MesswertLesen(Form, Neu)) return "Zahl erwartet";
-  if (!StapelZahlPaßt(Neu)) return "Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen";
-  Text = Form;
+  if (!MesswertLesen(Normal, Neu)) {
+    StatusHilfeSetzen("Zahl erwartet");
+    return false;
+  }
+  if (!StapelZahlPaßt(Neu)) {
+    StatusHilfeSetzen("Der Wert muß zwischen -999999.9999 und 9999999.9999 liegen");
+    return false;
+  }
   Zahl = Neu;
-  return "";
+  Text = Normal;
+  return true;
 }
 
 int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,

@@ -31,9 +31,9 @@ std::string Messwerttext(double Zahl);
 /// @return false: the text is no number; Text and Zahl are then untouched
 bool MesswertLesen(std::string& Text, double& Zahl);
 
-/// The same for what is recorded, which must fit into the records. @return why it is refused; "" if it was
-/// taken
-std::string MesswertNehmen(std::string& Text, double& Zahl);
+/// The same for a value that is to be recorded: what its record can not hold is refused as well.
+/// @return false with a reason in the status help
+bool MesswertPrüfen(std::string& Text, double& Zahl);
 
 /// What NeupunktEintragen has to tell the protocol.
 struct Punktnotiz {

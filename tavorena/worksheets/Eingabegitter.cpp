@@ -1,0 +1,167 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/worksheets/Eingabegitter.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+
+namespace {
+
+std::vector<Gitterspalte> Gitterspalten(const std::vector<Zeilenspalte>& Spalten) {
+  std::vector<Gitterspalte> Alle;
+  for (const Zeilenspalte& S : Spalten)
+    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis, true, S.Art == Zellart::Nummer,
+                    Gezeigt<bool>(S.Sichtbar)});
+  return Alle;
+}
+
+constexpr double KeinMaß = std::numeric_limits<double>::quiet_NaN();
+
+}  // namespace
+
+Eingabegitter::Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>& Spalten, Gitterverhalten Wie)
+    : Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), Gitterspalten(Spalten), {0, 0}, "Zeilen")),
+      Blatt(Für),
+      Verhalten(std::move(Wie)) {
+  for (const Zeilenspalte& S : Spalten) {
+    if (S.Art == Zellart::Maß) LetzteRechenspalte = static_cast<int>(Arten.size());
+    Arten.push_back(S.Art);
+  }
+  Zellen.IstPnr = true;
+  Zellen.BeiTaste = [this](Taste T) { return TasteNehmen(T); };
+}
+
+// ---- the cells -------------------------------------------------------------------------------------
+
+bool Eingabegitter::ZelleLesen(int z, int s) {
+  std::string Text = Trimmen(Zellen.Inhalt(z, s));
+  double Zahl = 0;
+  if (Art(s) == Zellart::Maß && Text.empty() && LeerIstNull) Text = "0";
+  if (Art(s) == Zellart::Maß && !Text.empty() && !MesswertPrüfen(Text, Zahl)) return false;
+  if (Art(s) != Zellart::Maß && Text.find_first_of(" \t") != std::string::npos) {
+    StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
+    return false;
+  }
+  Zellen.InhaltSetzen(z, s, Text);
+  return true;
+}
+
+Zeileneingabe Eingabegitter::Eingabe(int z) const {
+  Zeileneingabe E;
+  for (int s = 0; s < Spalten(); ++s) {
+    if (Art(s) == Zellart::Ergebnis) continue;
+    const std::string Text = Zellen.Inhalt(z, s);
+    if (Art(s) == Zellart::Nummer) E.Pnr = Text;
+    if (Art(s) == Zellart::Symbol) E.Symbol = Text;
+    if (Art(s) == Zellart::Maß) E.Maße.push_back(Text.empty() ? KeinMaß : ZahlAusText(Text));
+  }
+  return E;
+}
+
+bool Eingabegitter::EingabeLesen(int z, Zeileneingabe& E) {
+  for (int s = 0; s < Spalten(); ++s) {
+    if (Art(s) == Zellart::Ergebnis || ZelleLesen(z, s)) continue;
+    Zellen.Spalte = s;
+    return false;
+  }
+  E = Eingabe(z);
+  return true;
+}
+
+void Eingabegitter::EingabeZeigen(int z, const Zeileneingabe& E) {
+  auto Maß = E.Maße.begin();
+  for (int s = 0; s < Spalten(); ++s) {
+    if (Art(s) == Zellart::Nummer) Zellen.InhaltSetzen(z, s, E.Pnr);
+    if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, E.Symbol);
+    if (Art(s) != Zellart::Maß) continue;
+    const double Zahl = Maß == E.Maße.end() ? KeinMaß : *Maß++;
+    Zellen.InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Messwerttext(Zahl));
+  }
+}
+
+void Eingabegitter::ErgebnisseZeigen(int z, const std::vector<std::string>& Texte) {
+  auto Text = Texte.begin();
+  for (int s = 0; s < Spalten(); ++s) {
+    if (Art(s) == Zellart::Ergebnis) Zellen.InhaltSetzen(z, s, Text == Texte.end() ? "" : *Text++);
+  }
+}
+
+bool Eingabegitter::HatEingabe(int z) const {
+  for (int s = 0; s < Spalten(); ++s) {
+    const bool Zählt = Art(s) == Zellart::Nummer || Art(s) == Zellart::Maß;
+    if (Zählt && !TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return true;
+  }
+  return false;
+}
+
+bool Eingabegitter::Vollständig(int z) const {
+  for (int s = 0; s <= LetzteRechenspalte; ++s) {
+    if (Art(s) != Zellart::Ergebnis && TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return false;
+  }
+  return true;
+}
+
+void Eingabegitter::Anhängen() {
+  Zellen.ZeileAnhängen();
+  SymbolÜbernehmen(Zellen.Zeilen() - 1);
+}
+
+void Eingabegitter::SymbolÜbernehmen(int z) {
+  for (int s = 0; z > 0 && s < Spalten() && !HatEingabe(z); ++s) {
+    if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, Zellen.Inhalt(z - 1, s));
+  }
+}
+
+int Eingabegitter::ErsteSpalte() const {
+  const auto Erste =
+      std::find_if(Arten.begin(), Arten.end(), [](Zellart A) { return A != Zellart::Ergebnis; });
+  return static_cast<int>(Erste - Arten.begin());
+}
+
+// ---- the keys --------------------------------------------------------------------------------------
+
+// Return: on to the next typed cell, and behind the last one to the next row.
+void Eingabegitter::GitterReturn() {
+  const int z = Zellen.Zeile, Nächste = Zellen.Eingabespalte(1);
+  if (!HatEingabe(z)) {
+    if (z + 1 == Zellen.Zeilen()) Verhalten.Hinaus();
+    return;
+  }
+  if (Nächste >= 0) {
+    // What can not be computed is mended here, and not behind the symbol.
+    if (Zellen.Spalte == LetzteRechenspalte && Verhalten.Rechnen && !Verhalten.Rechnen(z)) return;
+    return Blatt.ZelleWechseln(Zellen, z, Nächste);
+  }
+  if (!Verhalten.Abschließen(z)) return;
+  if (z + 1 == Zellen.Zeilen()) Verhalten.Anhängen();
+  Zellen.Zeile = z + 1;
+  Zellen.Spalte = ErsteSpalte();
+}
+
+bool Eingabegitter::TasteNehmen(Taste T) {
+  switch (T) {
+    case Taste::Return:
+      GitterReturn();
+      return true;
+    case Taste::Escape:
+      Verhalten.Zeigen(Zellen.Zeile);
+      return true;
+    case Taste::Auf:
+    case Taste::Ab:
+      Blatt.ZelleWechseln(Zellen, Zellen.Zeile + (T == Taste::Auf ? -1 : 1), Zellen.Spalte);
+      return true;
+    case Taste::Plus:
+    case Taste::Minus:
+    case Taste::Leer:
+      break;
+  }
+  return false;
+}
+
+}  // namespace tavorena
