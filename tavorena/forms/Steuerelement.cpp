@@ -102,6 +102,13 @@ void Gitter::ZeileAnhängen(std::vector<std::string> Texte) {
   Merken(Zeilen() - 1, Zeilen());
 }
 
+void Gitter::ZeileEinfügen(int z) {
+  Zellen.emplace(Zellen.begin() + z, Spalten.size());
+  if (Stelle(z) < Marken.size()) Marken.insert(Marken.begin() + z, false);
+  Neues.Zeilenzahl = true;
+  Merken(z, Zeilen());
+}
+
 void Gitter::ZeileLöschen(int z) {
   if (z < 0 || z >= Zeilen()) return;
   Zellen.erase(Zellen.begin() + z);

@@ -133,6 +133,8 @@ struct Gitter final : Eingabeelement {
   void ZeileAnhängen();
   /// With a text for each column.
   void ZeileAnhängen(std::vector<std::string> Texte);
+  /// Before row z, empty.
+  void ZeileEinfügen(int z);
   void ZeileLöschen(int z);
   /// Empties the grid cell by cell and leaves that many rows.
   void Leeren(int ZeilenDanach);

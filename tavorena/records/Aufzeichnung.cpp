@@ -50,14 +50,17 @@ int Aufzeichnung::Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo) {
 
 int Aufzeichnung::Ganzes(Verbindung Neue, const Block& Zeilen, Spur& Wo) {
   if (Beginnen(std::move(Neue)) < 0) return -1;
-  const int Ergebnis = Eintragen(Zeilen, Wo, [&](int& Griff) { return Sätze.Ganz(Griff); });
+  std::function<int(int&)> InStapel;
+  if (!Über->Sätze.empty()) InStapel = [&](int& Griff) { return Sätze.Ganz(Griff); };
+  const int Ergebnis = Eintragen(Zeilen, Wo, InStapel);
   if (!ImNachlauf) static_cast<void>(AktenSichern());  // a failure was told; what was written stays
   return Ergebnis;
 }
 
 int Aufzeichnung::Eintragen(const Block& Zeile, Spur& Wo, const std::function<int(int& Griff)>& InStapel) {
   Wo.Geschrieben = false;
-  const bool MitProtokoll = !Prot.Datei.empty(), MitStapel = !ImNachlauf && !StapelDatei.Name.empty();
+  const bool MitProtokoll = !Prot.Datei.empty(),
+             MitStapel = InStapel && !ImNachlauf && !StapelDatei.Name.empty();
   if (!MitStapel) Wo.Griff = -1;
   const bool ImStapel = MitStapel && InStapel(Wo.Griff) == 0;
   const bool ImProtokoll = MitProtokoll && Protokollieren(Zeile) == 0;

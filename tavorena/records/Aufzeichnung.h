@@ -48,7 +48,7 @@ class Aufzeichnung {
   [[nodiscard]] int Zeile(const Block& Zeile, const std::string& Satz, Spur& Wo);
 
   /// Writes a calculation that is a block of its own: a case, or a list. What stands above it is Neue, whose
-  /// records are all there are.
+  /// records are all there are; without any there is no block.
   /// @param[in] Zeilen  its lines in the protocol
   /// @return as Zeile
   [[nodiscard]] int Ganzes(Verbindung Neue, const Block& Zeilen, Spur& Wo);

@@ -44,10 +44,10 @@ Rechenblatt::Rechenblatt(const Blattart& BlattArt)
 }
 
 // The keys of the buttons are those that the menu bar leaves free.
-void Rechenblatt::KnöpfeAnlegen() {
-  KnopfEnd = &KnopfAnlegen(Mit("End"), "&Schließen", [this] { SchließenVerlangen(); }, {0, 3});
-  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", [] { StapelAnhalten(); }, {0, 4});
-  KnopfWeiter = &KnopfAnlegen(Mit("Weiter"), "&Weiter", [this] { StapelZeilenRechnen(); }, {0, 5});
+void Rechenblatt::KnöpfeAnlegen(int Spalte) {
+  KnopfEnd = &KnopfAnlegen(Mit("End"), "&Schließen", [this] { SchließenVerlangen(); }, {0, Spalte});
+  KnopfStop = &KnopfAnlegen(Mit("Stop"), "- Sto&p - ", [] { StapelAnhalten(); }, {0, Spalte + 1});
+  KnopfWeiter = &KnopfAnlegen(Mit("Weiter"), "&Weiter", [this] { StapelZeilenRechnen(); }, {0, Spalte + 2});
   Stand = &BeschriftungAnlegen("", {0, 0}, RahmenStapel);
   JederBlock = &KästchenAnlegen(Mit("Halten"), "bei &jedem Block halten", {0, 1}, RahmenStapel);
   JederBlock->BeiWahl = [this] { Stapel.Halten = JederBlock->Gewählt; };

@@ -48,7 +48,8 @@ class Rechenblatt : public Formular {
   virtual void GrafikLöschen() = 0;
 
   /// The closing, stop and go-on buttons; called when all other controls are there.
-  void KnöpfeAnlegen();
+  /// @param[in] Spalte  where the first of them stands
+  void KnöpfeAnlegen(int Spalte = 3);
 
  private:
   void StapelBeginnen();

@@ -1,0 +1,305 @@
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/records/Stapelleser.h>
+#include <tavorena/worksheets/Listenblatt.h>
+#include <tavorena/worksheets/Punktablage.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+namespace {
+
+constexpr double KeinWert = std::numeric_limits<double>::quiet_NaN();
+
+// Two results that look alike; none is like none.
+bool Gleich(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+
+}  // namespace
+
+std::string Listenmangel::Meldung() const {
+  return Zeile < 0 ? Text : "Zeile " + std::to_string(Zeile + 1) + ": " + Text;
+}
+
+// ---- the controls ----------------------------------------------------------------------------------
+
+void Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const Listenart& Was) {
+  Liste = Was;
+  Eingaben.emplace(*this, Spalten,
+                   Gitterverhalten{{},
+                                   [this](int) {
+                                     Zellen().Fehlerhaft = !ZelleVerlassen();
+                                     return !Zellen().Fehlerhaft;
+                                   },
+                                   [this](int z) { Eingaben->EingabeZeigen(z, Reihe(z)); },
+                                   {},  // a row that is begun has the next one below it
+                                   [this] { FokusWeiter(); }});
+  Eingaben->LeerIstNull = false;
+  Zellen().Hilfe = "Return führt von Zelle zu Zelle und aus der leeren letzten Zeile weiter";
+  Zellen().BeiVerlassen = [this] { return ZelleVerlassen(); };
+  LeereEndzeile();
+}
+
+void Listenblatt::ListenknöpfeAnlegen(std::initializer_list<Weiterer> Weitere) {
+  int Spalte = 0;
+  const auto Neu = [&](const char* Rest, const char* Text, std::function<void()> Aktion) -> Knopf& {
+    return KnopfAnlegen(Mit(Rest), Text, std::move(Aktion), {0, Spalte++});
+  };
+  Neu(Liste.Knopfname, Liste.Knopftext, [this] { static_cast<void>(Schreiben()); }).Hilfe = Liste.Knopfhilfe;
+  for (const Weiterer& W : Weitere) Neu(W.Rest, W.Text, W.Aktion);
+  Neu("GitterInsert", "Zeile einfü&gen", [this] { GitterInsert(); }).Hilfe = "Leere Zeile vor dieser";
+  Knopf& Löschen = Neu("GitterDelete", "Zeile lösc&hen", [this] { GitterDelete(); });
+  Knopf& Clear = Neu("FelderClear", "Felder &leeren", [this] { Leeren(); });
+  Löschen.OhnePrüfung = Clear.OhnePrüfung = true;
+  Löschen.Hilfe = "Zeile aus der Liste nehmen";
+  Clear.Hilfe = "Alles leeren für die nächste Berechnung";
+  KnöpfeAnlegen(Spalte);
+}
+
+// ---- rows ------------------------------------------------------------------------------------------
+
+// One empty row stands at the end, with the symbol of the row above.
+void Listenblatt::LeereEndzeile() {
+  const auto Leer = [&](int z) { return !Eingaben->HatEingabe(z); };
+  while (Zellen().Zeilen() > 1 && Leer(Zellen().Zeilen() - 1) && Leer(Zellen().Zeilen() - 2)) {
+    Zellen().ZeileLöschen(Zellen().Zeilen() - 1);
+    Reihen.pop_back();
+  }
+  if (Zellen().Zeilen() == 0 || !Leer(Zellen().Zeilen() - 1)) {
+    Eingaben->Anhängen();
+    Reihen.emplace_back();
+  }
+  Eingaben->SymbolÜbernehmen(Anzahl());
+  static_cast<Zeileneingabe&>(Reihen.back()) = Eingaben->Eingabe(Anzahl());
+}
+
+// A point of the table, asked for where it is missing. @return 0; -1: there is none
+int Listenblatt::PunktHolen(std::string& Pnr, Lage& Ort) const {
+  Wert Gesucht(Pnr);
+  const int Tabellenzeile = KorFind(Gesucht);
+  if (Tabellenzeile < 0) return -1;
+  const KorSatz P = KorPunkt(Tabellenzeile);
+  Pnr = Trimmen(Gesucht);
+  Ort = {P.Rechts, P.Hoch};
+  return 0;
+}
+
+bool Listenblatt::ZelleVerlassen() {
+  const int z = Zellen().Zeile;
+  if (z >= std::ssize(Reihen)) return true;
+  if (!Eingaben->ZelleLesen(z, Zellen().Spalte)) return false;
+  Zeileneingabe Neu = Eingaben->Eingabe(z);
+  if (Neu == Reihe(z)) return true;
+  if (z == Anzahl() && z == Liste.Höchstzahl && Eingaben->HatEingabe(z)) {
+    StatusHilfeSetzen(Liste.Zuviel);
+    return false;
+  }
+  if (Neu.Pnr != Reihe(z).Pnr && !Neu.Pnr.empty()) {
+    if (Liste.BekanntePunkte && PunktHolen(Neu.Pnr, Eigene(z).Ort) < 0) return false;
+    LetztePunktnummer = Neu.Pnr;
+  }
+  static_cast<Zeileneingabe&>(Eigene(z)) = std::move(Neu);
+  Eingaben->EingabeZeigen(z, Reihe(z));
+  LeereEndzeile();
+  NeuRechnen();
+  return true;
+}
+
+void Listenblatt::GitterInsert() {
+  const int z = Zellen().Zeile;
+  FokusSetzen(Zellen());
+  if (Anzahl() == Liste.Höchstzahl) return StatusHilfeSetzen(Liste.Zuviel);
+  if (z == Anzahl()) return;  // it is empty
+  Reihen.emplace(Reihen.begin() + z);
+  Zellen().ZeileEinfügen(z);
+  Eingaben->SymbolÜbernehmen(z);
+  static_cast<Zeileneingabe&>(Eigene(z)) = Eingaben->Eingabe(z);
+  Zellen().Spalte = Eingaben->ErsteSpalte();
+  NeuRechnen();
+}
+
+void Listenblatt::GitterDelete() {
+  const int z = Zellen().Zeile;
+  Reihen.erase(Reihen.begin() + z);
+  Zellen().ZeileLöschen(z);
+  Zellen().Fehlerhaft = false;
+  LeereEndzeile();
+  FokusSetzen(Zellen());
+  NeuRechnen();
+}
+
+int Listenblatt::ReihenSetzen(std::vector<Zeileneingabe> Neue) {
+  if (std::ssize(Neue) > Liste.Höchstzahl) {
+    StapelFehlerMeldung(Liste.Zuviel);
+    return -1;
+  }
+  Reihen.clear();
+  Zellen().Leeren(static_cast<int>(Neue.size()));
+  for (Zeileneingabe& E : Neue) {
+    Listenzeile& Z = Reihen.emplace_back();
+    static_cast<Zeileneingabe&>(Z) = std::move(E);
+    if (Liste.BekanntePunkte && PunktHolen(Z.Pnr, Z.Ort) < 0) {
+      StapelFehlerMeldung("Punkt " + Zitat(Z.Pnr) + " fehlt");
+      return -1;
+    }
+    Eingaben->EingabeZeigen(static_cast<int>(Reihen.size()) - 1, Z);
+  }
+  LeereEndzeile();
+  return 0;
+}
+
+void Listenblatt::NummerSetzen(int z, const std::string& Pnr) {
+  Eigene(z).Pnr = Pnr;
+  Eingaben->EingabeZeigen(z, Reihe(z));
+}
+
+// ---- results ---------------------------------------------------------------------------------------
+
+void Listenblatt::NeuRechnen() {
+  Mangel = Rechnen();
+  const bool Alle = std::exchange(Nachkomma, Optionen.OptNachkommastellen) != Nachkomma;
+  for (int z = 0; z < std::ssize(Reihen); ++z) {
+    if (Alle) Eigene(z).Ergebnisse.clear();
+    ErgebnisseZeigen(z);
+  }
+  ZeigeBerechnung();
+  // Where a row is being typed there is something missing anyway.
+  if (!Mangel.Text.empty() && !Mangel.Unfertig && !ImStapel()) StatusHilfeSetzen(Mangel.Meldung());
+}
+
+// Texts are made of what is new.
+void Listenblatt::ErgebnisseZeigen(int z) {
+  Listenzeile& Z = Eigene(z);
+  Werte.clear();
+  if (z < Anzahl()) Zeilenergebnis(z, Werte);
+  auto Neu = Werte.begin();
+  auto Alt = Z.Ergebnisse.begin();
+  for (int s = 0; s < Eingaben->Spalten(); ++s) {
+    if (Eingaben->Art(s) != Zellart::Ergebnis) continue;
+    const double Zahl = Neu == Werte.end() ? KeinWert : *Neu++;
+    const double Vorige = Alt == Z.Ergebnisse.end() ? KeinWert : *Alt++;
+    if (!Gleich(Zahl, Vorige)) Zellen().InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Längentext(Zahl));
+  }
+  Z.Ergebnisse.assign(Werte.begin(), Werte.end());
+}
+
+// The table may have moved what the list stands on.
+void Listenblatt::BeiTabelle() {
+  PunkteNachsehen();
+  for (Listenzeile& Z : Reihen) {
+    const int Tabellenzeile = Liste.BekanntePunkte ? KorSuche(std::string_view(Z.Pnr)) : -1;
+    if (Tabellenzeile < 0) continue;  // a number that is gone keeps its place
+    const KorSatz P = KorPunkt(Tabellenzeile);
+    Z.Ort = {P.Rechts, P.Hoch};
+  }
+  NeuRechnen();
+}
+
+// ---- writing ---------------------------------------------------------------------------------------
+
+bool Listenblatt::IstGeschrieben() const {
+  if (!Geschrieben || !Gerechnet()) return false;
+  const Listenakte A = Akte();
+  return A.Sätze == Geschrieben->Sätze && A.Kommentar == Geschrieben->Kommentar &&
+         A.Zeilen.Zeilen == Geschrieben->Zeilen.Zeilen;
+}
+
+void Listenblatt::MangelZeigen() {
+  StatusHilfeSetzen(Mangel.Meldung());
+  Eingabeelement* Wo = Mangel.Zeile >= 0 ? &Zellen() : Mangel.Wo;
+  if (Wo == nullptr) return;
+  if (Mangel.Zeile >= 0) {
+    Zellen().Zeile = Mangel.Zeile;
+    Zellen().Spalte = Mangel.Spalte;
+  }
+  Wo->Fehlerhaft = true;
+  FokusSetzen(*Wo);
+}
+
+int Listenblatt::PunktEintragen(std::string& Pnr, Lage& Ort, const Wert& Hoehe, const std::string& Symbol,
+                                std::vector<std::string>& Notiz) {
+  Punktablage Ablage;
+  const std::string Getippt = Pnr;
+  if (Ablage.Eintragen(Akten, Pnr, Ort, Hoehe, Symbol) < 0) {
+    const std::string Grund = "Punkt " + Getippt + " nicht gespeichert";
+    ImStapel() ? StapelFallAuslassen(Grund) : StatusHilfeSetzen(Grund);
+    return -1;
+  }
+  Notiz = Ablage.Notizzeilen();
+  return 0;
+}
+
+// Table head of a new kind, points, and then all lines and the block in one piece.
+// @return 0; -1: it can not be computed, or was not written; -2: the surveyor broke off
+int Listenblatt::Schreiben() {
+  BeiTabelle();
+  if (!Gerechnet()) {
+    MangelZeigen();
+    return -1;
+  }
+  if (IstGeschrieben()) {
+    StatusHilfeSetzen("Schon geschrieben, seither ist nichts geändert");
+    return 0;
+  }
+  if (Akten.Beginnen(NeueVerbindung()) < 0) return -1;
+  Listenakte A = Akte();
+  if (PunkteEintragen(A) < 0) return -2;
+  Verbindung V = NeueVerbindung();
+  V.Sätze = A.Sätze;
+  Aufzeichnung::Spur Wo;
+  if (Akten.Ganzes(std::move(V), A.Zeilen, Wo) < 0) return -1;
+  if (!A.Kommentar.empty() && !ImStapel() && StapelKommentar(A.Kommentar) < 0) return -1;
+  NeuRechnen();
+  Geschrieben = Akte();
+  return 0;
+}
+
+void Listenblatt::Leeren() {
+  if (HatOffenes() && FrageJaNein("Felder leeren, ohne zu schreiben ? ", Titel, KnopfNein) != KnopfJa) return;
+  Reihen.clear();
+  Zellen().Leeren(0);
+  Zellen().Fehlerhaft = false;
+  LeereEndzeile();
+  FelderLeeren();
+  Geschrieben.reset();
+  NeuRechnen();
+  for (const auto& S : Steuerelemente()) {
+    if (!NimmtFokus(*S)) continue;
+    return FokusSetzen(*S);
+  }
+}
+
+bool Listenblatt::HatOffenes() const {
+  return (Anzahl() > 0 || Eingaben->HatEingabe(Anzahl())) && !IstGeschrieben();
+}
+
+bool Listenblatt::OffenesSchreiben() {
+  auto* const E = dynamic_cast<Eingabeelement*>(Fokus());
+  return (E == nullptr || Lesen(*E)) && Schreiben() == 0;
+}
+
+// ---- replay ----------------------------------------------------------------------------------------
+
+int Listenblatt::StapelAnschluss() {
+  if (BlockLesen() < 0) return -1;
+  NeuRechnen();
+  if (Gerechnet()) return 0;
+  StapelFehlerMeldung(Mangel.Meldung());
+  return -1;
+}
+
+int Listenblatt::StapelZeile() {
+  if (std::exchange(Nachgerechnet, true)) return -2;
+  const int Ergebnis = Schreiben();
+  if (Ergebnis == 0) Stapel.Bilanz.Zeilen += Anzahl();
+  if (Ergebnis == 0 || Ergebnis == -2) return 0;
+  StapelFehlerMeldung("Liste nicht geschrieben");
+  return -1;
+}
+
+}  // namespace tavorena
