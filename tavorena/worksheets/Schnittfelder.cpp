@@ -7,9 +7,12 @@ Geradenfelder::Geradenfelder(Fallblatt& Blatt, const std::string& Name, const ch
     : Anf(Blatt.PunktAnlegen(Name + "Anf", "Anf.pkt.", Rahmen, 1)),
       End(Blatt.PunktAnlegen(Name + "End", "Endpkt.", Rahmen, 2)),
       Abstand(Blatt.MaßAnlegen(Name + "Pll", "Abstand", {2, 6}, Rahmen, false)),
-      PllPunkt(Blatt.PunktAnlegen(Name + "Pll", "Parallele durch", Rahmen, 3, false)),
-      SenkPunkt(Blatt.PunktAnlegen(Name + "Senk", "Senkrechte durch", Rahmen, 4, false)) {
+      PllPunkt(Blatt.PunktAnlegen(Name + "Pll", "Parallele", Rahmen, 3, false)),
+      SenkPunkt(Blatt.PunktAnlegen(Name + "Senk", "Senkrechte", Rahmen, 4, false)) {
   PunktfeldKopf(Blatt, Rahmen);
+  Abstand.Eingabe.Zeichen = 9;
+  PllPunkt.Pnr.Hilfe = "Die Parallele durch diesen Punkt; leer: keine";
+  SenkPunkt.Pnr.Hilfe = "Die Senkrechte durch diesen Punkt; leer: keine";
   Abstand.Eingabe.Hilfe = "Abstand der Parallelen, rechts der Richtung positiv";
 }
 
