@@ -153,6 +153,31 @@ class FensterTest final : public Fensterumgebung {
     QTRY_VERIFY(!BlätterOffen());
   }
 
+  // Every kind of worksheet from its command to its record.
+  void jedesBlattWirdGetippt_data() {
+    QTest::addColumn<QString>("Tasten");
+    QTest::addColumn<QByteArray>("Satz");
+    const auto Fall = [](const char* Eintrag, const char* Tasten, const char* Satz) {
+      QTest::newRow(Eintrag) << QString(Tasten) << QByteArray(Satz);
+    };
+    Fall("MenüKatasterOrtho", "1001\n1002\n0\n0\n3001\n30\n5\n015\n",
+         "AO      3001        30.0000         5.0000         0.0000  015");
+    Fall("MenüKatasterPolar", "1001\n1002\n12,5\n0\n3001\n80,25\n98,4\n70\n\n",
+         "PWS     3001        80.2500        98.4000        70.0000  -");
+    Fall("MenüKatasterIntll", "1001\n1002\n2,5\n\n\n2003\n2005\n\n\n2004\n3001\n015\n",
+         "G2PWIN     2004\r\nNEUPUNKT       3001  015\r\nE  (Ende)");
+  }
+  void jedesBlattWirdGetippt() {
+    Öffne(QTest::currentDataTag());
+    QFETCH(const QString, Tasten);
+    QFETCH(const QByteArray, Satz);
+    Tippe(Tasten);
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
+    QVERIFY2(Inhalt(Pfad("a.sta")).contains(Satz), Inhalt(Pfad("a.sta")));
+    QVERIFY(KorSuche(std::string_view("3001")) >= 0);
+  }
+
   // Thirty rows typed faster than anything is drawn, one with an unknown number; the keys behind its Return
   // wait for nobody and must not become coordinates.
   void dreissigZeilenOhneAtempause() {

@@ -1,0 +1,75 @@
+#include "Blattest.h"
+
+#include <set>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/records/Stapelleser.h>
+
+namespace tavorena::test {
+namespace {
+
+// What is typed into a worksheet, from which field on, and the button that writes it, if there is one.
+struct Auftrag {
+  const char *Kennung, *Feld, *Tasten, *Knopf = "";
+};
+const Auftrag Aufträge[] = {
+    {"24.40", "LinelAnfPnr", "1001\n1002\n0\n99,93\n2003\n2004\n"},
+    {"08.40", "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n"},
+    {"22.10", "DisAnfPnr", "1001\n1002\n99,8\n2005\n100\n"},
+    {"22.00", "OrthoAnfPnr", "1001\n1002\n0\n99,93\n3001\n145\n-45\n015\n3002\n30,1234\n5\n\n"},
+    {"19.70", "PolarAnfPnr", "1001\n1002\n12,5\n99,98\n3001\n80,25\n98,4\n70\n015\n3002\n312,7\n0\n255\n\n"},
+    {"09.00", "IntllG1_AnfPnr",
+     "1001\n1002\n2,5\n\n\n2003\n2005\n\n\n2004\n3001\n015\n1001\n1002\n\n\n\n2003\n"
+     "2005\n\n\n\n3002\n\n"},
+};
+
+// Kind, decimals, warning level.
+using Lauf = std::tuple<Auftrag, int, int>;
+class Artentest : public Blatttest, public testing::WithParamInterface<Lauf> {};
+
+// Recorded and replayed on the same points, with any number of decimals: the same protocol, to the byte, and
+// a batch file that does not depend on what is shown.
+TEST_P(Artentest, NachlaufGleichtDerAufzeichnung) {
+  const auto& [A, Nachkomma, Warnstufe] = GetParam();
+  Optionen.OptNachkommastellen = static_cast<std::int16_t>(Nachkomma);
+  Optionen.OptWarnstufe = static_cast<std::int16_t>(Warnstufe);
+  std::set<std::string> Vorher;
+  for (int z = 0; z < KorAnzahl; ++z) Vorher.insert(KorPnr(z));
+  auto B = Öffne(A.Kennung);
+  Tippe(*B, A.Feld, A.Tasten);
+  if (*A.Knopf != 0) Drücke(*B, A.Knopf);
+  B->SchließenVerlangen();
+  ASSERT_FALSE(B->Offen());
+  const std::string Prots = Protokoll(), Sta = Stapeltext();
+  EXPECT_FALSE(Prots.empty());
+  // The table as it was.
+  for (int z = KorAnzahl - 1; z >= 0; --z) {
+    if (Vorher.count(KorPnr(z)) == 0) static_cast<void>(KorLoeschen(z));
+  }
+  EXPECT_EQ(Nachlauf(), Prots);
+  EXPECT_TRUE(
+      Gleich(StapelBericht().size(), 0U, Stapel.Bilanz.Blöcke > 0, true, Stapel.Bilanz.Fehler, false));
+  EXPECT_EQ(Stapeltext(), Sta);
+}
+
+INSTANTIATE_TEST_SUITE_P(, Artentest,
+                         testing::Combine(testing::ValuesIn(Aufträge), testing::Values(0, 2, 3, 5),
+                                          testing::Values(0, 1, 3)),
+                         [](const auto& Info) {
+                           std::string Name = std::get<0>(Info.param).Feld;
+                           std::erase(Name, '_');
+                           return Name + "_" + std::to_string(std::get<1>(Info.param)) + "_" +
+                                  std::to_string(std::get<2>(Info.param));
+                         });
+
+// There is a job for every kind that writes a block.
+TEST(Blattarten, JedeArtHatIhrenAuftrag) {
+  for (const Blattart& Art : Blattarten()) {
+    EXPECT_TRUE(std::any_of(std::begin(Aufträge), std::end(Aufträge), [&](const Auftrag& A) {
+      return BlattartVonKennung(A.Kennung) == &Art;
+    })) << Art.Formname;
+  }
+}
+
+}  // namespace
+}  // namespace tavorena::test
