@@ -55,7 +55,7 @@ QPalette Palette(const Farbsatz& F) {
   return P;
 }
 
-QString Stil(bool Dunkles) {
+QString Stil() {
   // The caption of a frame stands in its line, a result has no edge, a value that failed is told by its
   // colour.
   return QString(
@@ -68,7 +68,7 @@ QString Stil(bool Dunkles) {
              "QLineEdit:focus { border-color: palette(highlight); }"
              "QLineEdit:read-only { border-color: transparent; background: transparent; }"
              "QLineEdit[fehlerhaft=\"true\"] { color: %1; }")
-      .arg(Dunkles ? "#ff8a75" : "#b3261e");
+      .arg(Warnfarbe().name());
 }
 
 // The basic style shows the focus of buttons and boxes only after a Tab, and draws the edge of an empty box
@@ -131,9 +131,11 @@ void AussehenSetzen(QApplication& App, Helligkeit Wahl) {
   const bool Dunkles = Wahl == Helligkeit::Dunkel || (Wahl == Helligkeit::System && IstDunkel());
   QApplication::setStyle(new Grundstil);
   App.setPalette(Palette(Dunkles ? Dunkel : Hell));
-  App.setStyleSheet(Stil(Dunkles));
+  App.setStyleSheet(Stil());
   App.setWindowIcon(Programmsymbol());
 }
+
+QColor Warnfarbe() { return {IstDunkel() ? "#ff8a75" : "#b3261e"}; }
 
 QFont Zahlenschrift() {
   QFont Schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);

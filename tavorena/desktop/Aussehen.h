@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QIcon>
 #include <QString>
@@ -20,6 +21,9 @@ QFont Zahlenschrift();
 
 /// Width of that many characters [pixels].
 int Zeichenbreite(const QFont& Schrift, int Zeichen);
+
+/// The colour of what failed or passes its limit.
+QColor Warnfarbe();
 
 /// A tool bar image, drawn in the colours of the palette.
 QIcon Symbol(const QString& Name);

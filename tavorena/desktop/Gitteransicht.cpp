@@ -38,6 +38,8 @@ class Gittermodell final : public QAbstractTableModel {
     if (Rolle == Qt::TextAlignmentRole) return Bündig(Zelle.column());
     if (Rolle == Qt::ToolTipRole) return Gekürztes(Zelle);
     if (Rolle == Qt::BackgroundRole && Daten->Markenspalte >= 0) return Zeilenfarbe(Zelle.row());
+    if (Rolle == Qt::ForegroundRole && Daten->Auffällig && Daten->Auffällig(Zelle.row(), Zelle.column()))
+      return QBrush(Warnfarbe());
     return {};
   }
   [[nodiscard]] QVariant headerData(int Spalte, Qt::Orientation Richtung, int Rolle) const override {

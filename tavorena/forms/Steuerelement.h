@@ -120,6 +120,8 @@ struct Gitter final : Eingabeelement {
   std::function<bool(Taste)> BeiTaste;                       ///< true: the key is done with
   std::function<void()> BeiZelle;                            ///< the user came to another cell
   std::function<std::string(int Zeile, int Spalte)> Quelle;  ///< of the texts; empty: the grid keeps them
+  /// Which figures pass their limit: shown in the warning colour; empty: none
+  std::function<bool(int Zeile, int Spalte)> Auffällig;
   int Ziel = -1;            ///< row that the user is on his way to while the current cell is read; else -1
   bool NimmtZeilen = true;  ///< rows of the clipboard are taken as if they had been typed
   int Markenspalte = -1;    ///< column of the marks; -1: there are none
