@@ -7,6 +7,7 @@
 #include <tavorena/worksheets/TVOrthoForm.h>
 #include <tavorena/worksheets/TVPolarForm.h>
 #include <tavorena/worksheets/TVPolelForm.h>
+#include <tavorena/worksheets/TVPolygonForm.h>
 
 namespace tavorena {
 namespace {
@@ -78,6 +79,16 @@ constexpr Blattart Arten[] = {
      4160,
      "geradenschnitt.md",
      Neu<TVIntllForm>},
+    {"TVPolygonForm",
+     "Polygon",
+     "VR 19.10 Polygonzüge",
+     "Tavorena Polygonzüge [Stapel]",
+     "Berechnung Polygonzüge",
+     {"19.10", "PY", "19.10(20)"},
+     "MenüKatasterPolygon",
+     4250,
+     "polygonzug.md",
+     Neu<TVPolygonForm>},
 };
 
 template <typename Test>

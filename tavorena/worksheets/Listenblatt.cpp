@@ -28,7 +28,26 @@ std::string Listenmangel::Meldung() const {
 
 // ---- the controls ----------------------------------------------------------------------------------
 
-void Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const Listenart& Was) {
+Feld& Listenblatt::Messfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen) {
+  BeschriftungAnlegen(Label, Ort, Rahmen);
+  Feld& F = ZahlenfeldAnlegen(Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, Rahmen, 12);
+  F.BeiVerlassen = [this, &F, Vorher = std::string()]() mutable {
+    std::string Text = Trimmen(*F.Text);
+    double Zahl = 0;
+    if (!Text.empty() && !MesswertPrüfen(Text, Zahl)) return false;
+    F.Text = Text;
+    if (std::exchange(Vorher, Text) != Text) NeuRechnen();
+    return true;
+  };
+  return F;
+}
+
+Feld& Listenblatt::Ergebnisfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen) {
+  BeschriftungAnlegen(Label, Ort, Rahmen);
+  return ErgebnisfeldAnlegen(Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, Rahmen, Längenbreite(6));
+}
+
+Gitter& Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const Listenart& Was) {
   Liste = Was;
   Eingaben.emplace(*this, Spalten,
                    Gitterverhalten{{},
@@ -43,6 +62,7 @@ void Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const L
   Zellen().Hilfe = "Return führt von Zelle zu Zelle und aus der leeren letzten Zeile weiter";
   Zellen().BeiVerlassen = [this] { return ZelleVerlassen(); };
   LeereEndzeile();
+  return Zellen();
 }
 
 void Listenblatt::ListenknöpfeAnlegen(std::initializer_list<Weiterer> Weitere) {
@@ -141,7 +161,7 @@ int Listenblatt::ReihenSetzen(std::vector<Zeileneingabe> Neue) {
   Reihen.clear();
   Zellen().Leeren(static_cast<int>(Neue.size()));
   for (Zeileneingabe& E : Neue) {
-    Listenzeile& Z = Reihen.emplace_back();
+    Listenreihe& Z = Reihen.emplace_back();
     static_cast<Zeileneingabe&>(Z) = std::move(E);
     if (Liste.BekanntePunkte && PunktHolen(Z.Pnr, Z.Ort) < 0) {
       StapelFehlerMeldung("Punkt " + Zitat(Z.Pnr) + " fehlt");
@@ -161,43 +181,52 @@ void Listenblatt::NummerSetzen(int z, const std::string& Pnr) {
 // ---- results ---------------------------------------------------------------------------------------
 
 void Listenblatt::NeuRechnen() {
+  Unverändert = false;
+  Auffrischen();
+}
+
+void Listenblatt::Auffrischen() {
   Mangel = Rechnen();
   const bool Alle = std::exchange(Nachkomma, Optionen.OptNachkommastellen) != Nachkomma;
   for (int z = 0; z < std::ssize(Reihen); ++z) {
     if (Alle) Eigene(z).Ergebnisse.clear();
-    ErgebnisseZeigen(z);
+    if (ErgebnisseZeigen(z)) Unverändert = false;
   }
   ZeigeBerechnung();
   // Where a row is being typed there is something missing anyway.
   if (!Mangel.Text.empty() && !Mangel.Unfertig && !ImStapel()) StatusHilfeSetzen(Mangel.Meldung());
 }
 
-// Texts are made of what is new.
-void Listenblatt::ErgebnisseZeigen(int z) {
-  Listenzeile& Z = Eigene(z);
-  Werte.clear();
-  if (z < Anzahl()) Zeilenergebnis(z, Werte);
-  auto Neu = Werte.begin();
+// Texts are made of what is new. @return true: something is
+bool Listenblatt::ErgebnisseZeigen(int z) {
+  Listenreihe& Z = Eigene(z);
+  Zeilenwerte.clear();
+  if (z < Anzahl()) Zeilenergebnis(z, Zeilenwerte);
+  auto Neu = Zeilenwerte.begin();
   auto Alt = Z.Ergebnisse.begin();
+  bool Anders = false;
   for (int s = 0; s < Eingaben->Spalten(); ++s) {
     if (Eingaben->Art(s) != Zellart::Ergebnis) continue;
-    const double Zahl = Neu == Werte.end() ? KeinWert : *Neu++;
+    const double Zahl = Neu == Zeilenwerte.end() ? KeinWert : *Neu++;
     const double Vorige = Alt == Z.Ergebnisse.end() ? KeinWert : *Alt++;
-    if (!Gleich(Zahl, Vorige)) Zellen().InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Längentext(Zahl));
+    if (Gleich(Zahl, Vorige)) continue;
+    Zellen().InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Längentext(Zahl));
+    Anders = true;
   }
-  Z.Ergebnisse.assign(Werte.begin(), Werte.end());
+  if (Anders) Z.Ergebnisse = Zeilenwerte;
+  return Anders;
 }
 
 // The table may have moved what the list stands on.
 void Listenblatt::BeiTabelle() {
   PunkteNachsehen();
-  for (Listenzeile& Z : Reihen) {
+  for (Listenreihe& Z : Reihen) {
     const int Tabellenzeile = Liste.BekanntePunkte ? KorSuche(std::string_view(Z.Pnr)) : -1;
     if (Tabellenzeile < 0) continue;  // a number that is gone keeps its place
     const KorSatz P = KorPunkt(Tabellenzeile);
     Z.Ort = {P.Rechts, P.Hoch};
   }
-  NeuRechnen();
+  Auffrischen();
 }
 
 // ---- writing ---------------------------------------------------------------------------------------
@@ -254,7 +283,8 @@ int Listenblatt::Schreiben() {
   Aufzeichnung::Spur Wo;
   if (Akten.Ganzes(std::move(V), A.Zeilen, Wo) < 0) return -1;
   if (!A.Kommentar.empty() && !ImStapel() && StapelKommentar(A.Kommentar) < 0) return -1;
-  NeuRechnen();
+  Unverändert = true;
+  Auffrischen();
   Geschrieben = Akte();
   return 0;
 }

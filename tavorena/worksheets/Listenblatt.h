@@ -32,7 +32,7 @@ struct Listenmangel {
 };
 
 /// A row of a list.
-struct Listenzeile : Zeileneingabe {
+struct Listenreihe : Zeileneingabe {
   Lage Ort;                        ///< of a known point [m]
   std::vector<double> Ergebnisse;  ///< that are shown
 };
@@ -54,13 +54,17 @@ class Listenblatt : public Rechenblatt {
  protected:
   using Rechenblatt::Rechenblatt;
 
+  /// A number field with its label; what is typed there is computed with.
+  Feld& Messfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen);
+  /// A result with its label.
+  Feld& Ergebnisfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen);
   /// A button of the kind's own.
   struct Weiterer {
     const char *Rest, *Text;  ///< of its name; its caption
     std::function<void()> Aktion;
   };
   /// The rows. They stand where they are made among the fields.
-  void ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const Listenart& Was);
+  Gitter& ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const Listenart& Was);
   /// All buttons: the last controls.
   void ListenknöpfeAnlegen(std::initializer_list<Weiterer> Weitere = {});
 
@@ -85,8 +89,10 @@ class Listenblatt : public Rechenblatt {
   virtual void PunkteNachsehen() {}
   /// @}
 
-  /// Something changed: computes and shows all anew.
+  /// Something was changed: computes and shows all anew.
   void NeuRechnen();
+  /// What is shown was written and has not been changed since.
+  [[nodiscard]] bool Steht() const { return Unverändert; }
   /// Fills the rows from outside. @return 0; -1 with a message: too many, or a known point is missing
   [[nodiscard]] int ReihenSetzen(std::vector<Zeileneingabe> Neue);
   /// Sets the number of a row, such as the one under which its point was stored.
@@ -98,7 +104,7 @@ class Listenblatt : public Rechenblatt {
                                    std::vector<std::string>& Notiz);
 
   [[nodiscard]] int Anzahl() const { return static_cast<int>(Reihen.size()) - 1; }  ///< rows that count
-  [[nodiscard]] const Listenzeile& Reihe(int z) const { return Reihen[static_cast<std::size_t>(z)]; }
+  [[nodiscard]] const Listenreihe& Reihe(int z) const { return Reihen[static_cast<std::size_t>(z)]; }
   [[nodiscard]] Gitter& Zellen() { return Eingaben->Zellen; }
   [[nodiscard]] bool Gerechnet() const { return Mangel.Text.empty(); }
 
@@ -115,19 +121,21 @@ class Listenblatt : public Rechenblatt {
   void GitterInsert();
   void GitterDelete();
   void LeereEndzeile();
-  void ErgebnisseZeigen(int z);
+  void Auffrischen();
+  [[nodiscard]] bool ErgebnisseZeigen(int z);
   [[nodiscard]] bool ZelleVerlassen();
   [[nodiscard]] int PunktHolen(std::string& Pnr, Lage& Ort) const;
   void MangelZeigen();
-  Listenzeile& Eigene(int z) { return Reihen[static_cast<std::size_t>(z)]; }
+  Listenreihe& Eigene(int z) { return Reihen[static_cast<std::size_t>(z)]; }
 
   Listenart Liste{};
   std::optional<Eingabegitter> Eingaben;
-  std::vector<Listenzeile> Reihen;  // the empty one at the end included
+  std::vector<Listenreihe> Reihen;  // the empty one at the end included
   Listenmangel Mangel;
   std::optional<Listenakte> Geschrieben;  // as it was written last
-  std::vector<double> Werte;              // of the row that is shown
+  std::vector<double> Zeilenwerte;        // of the row that is shown
   int Nachkomma = -1;                     // decimals of the results that are shown
+  bool Unverändert = false;               // since then, as far as it is seen
   bool Nachgerechnet = false;             // a replay is done with its block
 };
 

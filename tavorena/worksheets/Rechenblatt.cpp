@@ -94,11 +94,14 @@ void Rechenblatt::StapelKnöpfe(bool Läuft) {
   for (const auto& S : Steuerelemente()) {
     if (auto* E = dynamic_cast<Eingabeelement*>(S.get())) {
       E->NurLesen = true;
+    } else if (dynamic_cast<Auswahl*>(S.get()) != nullptr) {
+      S->Aktiv = false;
     } else if (dynamic_cast<Beschriftung*>(S.get()) == nullptr) {
       S->Sichtbar = S.get() == KnopfEnd;
     }
   }
   KnopfStop->Sichtbar = KnopfWeiter->Sichtbar = JederBlock->Sichtbar = Läuft;
+  JederBlock->Aktiv = Läuft;
   JederBlock->Gewählt = Stapel.Halten;
   Stand->Sichtbar = true;
 }

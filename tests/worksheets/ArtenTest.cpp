@@ -21,6 +21,9 @@ const Auftrag Aufträge[] = {
     {"09.00", "IntllG1_AnfPnr",
      "1001\n1002\n2,5\n\n\n2003\n2005\n\n\n2004\n3001\n015\n1001\n1002\n\n\n\n2003\n"
      "2005\n\n\n\n3002\n\n"},
+    {"19.10", "PolygonZugNr",
+     "7\n2003\n1001\n120\n60\n3001\n210,1\n70\n015\n3002\n190\n65,4321\n\n\n2005\n150\n2004\n",
+     "PolygonErzeugen"},
 };
 
 // Kind, decimals, warning level.
