@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include <tavorena/calc/Lage.h>
@@ -41,6 +42,10 @@ class Punktfeld {
   [[nodiscard]] const std::string& Nummer() const { return Gesucht; }
   [[nodiscard]] const std::string& Vorher() const { return Alter; }
   [[nodiscard]] Lage Ort() const { return Punkt; }
+  /// [m]; nothing where no point is set.
+  [[nodiscard]] std::optional<Lage> OrtWenn() const {
+    return Gesetzt() ? std::optional(Punkt) : std::nullopt;
+  }
   [[nodiscard]] double Hoehe() const { return Höhe; }  ///< [m]; 0: none
   [[nodiscard]] Protpunkt AlsProtpunkt() const { return {Punkt.RW, Punkt.HW, Gesucht}; }
 

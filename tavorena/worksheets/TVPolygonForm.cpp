@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 #include <tavorena/core/Optionen.h>
@@ -33,8 +32,6 @@ constexpr struct {
 
 // What stands in a field; not a number: nothing does.
 double Zahl(const Feld& F) { return F.Text->empty() ? NAN : ZahlAusText(*F.Text); }
-
-std::optional<Lage> Ort(const Punktfeld& P) { return P.Gesetzt() ? std::optional(P.Ort()) : std::nullopt; }
 
 }  // namespace
 
@@ -94,10 +91,10 @@ void TVPolygonForm::ZielAnAus() {
   NeuRechnen();
 }
 
-void TVPolygonForm::EingabeLesen() {
+Listenmangel TVPolygonForm::Rechnen() {
   const auto Klasse =
       std::find_if(OptionKlasse.begin(), OptionKlasse.end(), [](const Auswahl* A) { return *A->Gewählt; });
-  Bekannte = {Ort(AnfZiel), Ort(Anf), Ort(End), Ort(EndZiel)};
+  Bekannte = {AnfZiel.OrtWenn(), Anf.OrtWenn(), End.OrtWenn(), EndZiel.OrtWenn()};
   Eingabe = {Trimmen(*ZugNr.Text),
              static_cast<Zugklasse>(Klasse - OptionKlasse.begin()),
              OptionAnschluss.Gewählt,
@@ -115,19 +112,11 @@ void TVPolygonForm::EingabeLesen() {
   for (int z = 0; z < Anzahl(); ++z)
     Eingabe.Zeilen.push_back(
         {Reihe(z).Pnr, Reihe(z).Maße[MaßWinkel], Reihe(z).Maße[MaßStrecke], Reihe(z).Symbol});
-}
-
-Listenmangel TVPolygonForm::Rechnen() {
-  EingabeLesen();
   ZugBereinigen(Eingabe, Bekannte);
   const Zugmangel M = ZugRechnen(Eingabe, Bekannte, Rechnung);
   Eingabeelement* const Stellen[] = {&AnfZiel.Pnr,   &Anf.Pnr, &AnfWinkel, &AnfStrecke,
                                      &PolygonGitter, &End.Pnr, &EndWinkel, &EndZiel.Pnr};
   return {M.Text, M.Zeile, M.Spalte, Stellen[static_cast<int>(M.Wo)], M.Unfertig};
-}
-
-void TVPolygonForm::PunkteNachsehen() {
-  for (Punktfeld* P : {&AnfZiel, &Anf, &End, &EndZiel}) P->Nachsehen();
 }
 
 void TVPolygonForm::Zeilenergebnis(int z, std::vector<double>& Zellwerte) const {
@@ -147,8 +136,6 @@ void TVPolygonForm::ZeigeBerechnung() {
   }
   ZugZeichnen(Eingabe, Bekannte, Rechnung, Steht(), Bild);
 }
-
-// ---- records ---------------------------------------------------------------------------------------
 
 Listenakte TVPolygonForm::Akte() const {
   return {

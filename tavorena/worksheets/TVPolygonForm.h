@@ -22,12 +22,13 @@ class TVPolygonForm final : public Listenblatt {
   [[nodiscard]] int PunkteEintragen(Listenakte& A) override;
   void FelderLeeren() override;
   [[nodiscard]] int BlockLesen() override;
-  void PunkteNachsehen() override;
+  void PunkteNachsehen() override {
+    for (Punktfeld* P : {&AnfZiel, &Anf, &End, &EndZiel}) P->Nachsehen();
+  }
   void GrafikLöschen() override { Bild.Löschen(); }
 
  private:
   void ZielAnAus();
-  void EingabeLesen();
 
   Feld& ZugNr;
   Auswahl &OptionAnschluss, &OptionAbschluss;

@@ -60,6 +60,7 @@ Zugmangel ZeilenNehmen(const Zugeingabe& E, bool FreiesEnde, PolygonZug& Zug) {
 void KetteRechnen(PolygonZug Zug, std::size_t Punkte, std::vector<Lage>& Kette) {
   if (Zug.Zeilen.size() < Punkte) Zug.Zeilen.emplace_back();
   Zug.PE = Zug.PA;
+  Zug.PolygonEndWinkel = 0;
   PolygonErgebnis E;
   if (Zug.Zeilen.empty() || PolygonCalc(Zug, true, false, false, false, E) < 0) return;
   for (std::size_t i = 0; i < Zug.Zeilen.size(); ++i) Kette.push_back(E.Seiten[i].Ende);

@@ -166,9 +166,8 @@ class FensterTest final : public Fensterumgebung {
          "PWS     3001        80.2500        98.4000        70.0000  -");
     Fall("MenüKatasterIntll", "1001\n1002\n2,5\n\n\n2003\n2005\n\n\n2004\n3001\n015\n",
          "G2PWIN     2004\r\nNEUPUNKT       3001  015\r\nE  (Ende)");
-    Fall("MenüKatasterPolygon",
-         "7\n2003\n1001\n120\n60\n3001\n210,1\n70\n015\n\n2005\n150\n2004\n\n",
-         "NEUPWS     3001      210.1000       70.0000  015\r\nABSCHLP     2005      150.0000");
+    Fall("MenüKatasterPolygon", "7\n2003\n1001\n127\n30\n3001\n267\n27\n\n\n1002\n171\n2005\n\n",
+         "NEUPWS     3001      267.0000       27.0000  -\r\nABSCHLP     1002      171.0000");
   }
   void jedesBlattWirdGetippt() {
     Öffne(QTest::currentDataTag());
