@@ -67,20 +67,12 @@ bool SegmentZeichnen(Lage P) {
   return Aufgenommen(GrafikLinieHinzu({A.RW, A.HW, P.RW, P.HW, FarbeSchwarz, Strich::Durchgezogen, true}));
 }
 
-// The arc from the first to the last of three points that runs through the second; it is kept
-// counter-clockwise.
+// The arc from the first to the last of three points that runs through the second; none through a line.
 bool BogenZeichnen(Lage P) {
-  const Lage A = Zeichnung.Punkte[0], B = Zeichnung.Punkte[1];
-  Kreismittelpunkt Kreis;
-  if (KreisMittelpunktBerechnung(A, B, P, Kreis) < 0) return true;
-  const auto Winkel = [&](Lage L) { return WinkelGrad(L.HW - Kreis.M.HW, L.RW - Kreis.M.RW); };
-  const double Anfang = Winkel(A);
-  double Mitte = Winkel(B) - Anfang, Ende = Winkel(P) - Anfang;
-  GradReduzieren(Mitte);
-  GradReduzieren(Ende);
-  const bool Links = Mitte < Ende;
-  return Aufgenommen(GrafikBogenHinzu({Kreis.M.RW, Kreis.M.HW, Kreis.Radien[0], Links ? Anfang : Winkel(P),
-                                       Links ? Winkel(P) : Anfang, FarbeSchwarz, true}));
+  GrafikBogen Bogen;
+  if (BogenDurchDrei(Zeichnung.Punkte[0], Zeichnung.Punkte[1], P, Bogen) < 0) return true;
+  Bogen.Frei = true;
+  return Aufgenommen(GrafikBogenHinzu(Bogen));
 }
 
 void PunktNehmen(Lage P) {
@@ -117,6 +109,23 @@ void PunktNehmen(Lage P) {
 std::string Zahl(double x) { return ZahlFormat(x, -1, Optionen.OptNachkommastellen); }
 
 }  // namespace
+
+int BogenDurchDrei(Lage A, Lage B, Lage E, GrafikBogen& Bogen) {
+  Kreismittelpunkt Kreis;
+  if (KreisMittelpunktBerechnung(A, B, E, Kreis) < 0) return -1;
+  const auto Winkel = [&](Lage L) { return WinkelGrad(L.HW - Kreis.M.HW, L.RW - Kreis.M.RW); };
+  const double Anfang = Winkel(A), Schluß = Winkel(E);
+  double Mitte = Winkel(B) - Anfang, Weite = Schluß - Anfang;
+  GradReduzieren(Mitte);
+  GradReduzieren(Weite);
+  const bool Links = Mitte < Weite;
+  Bogen.Rechts = Kreis.M.RW;
+  Bogen.Hoch = Kreis.M.HW;
+  Bogen.Radius = Kreis.Radien[0];
+  Bogen.Anfang = Links ? Anfang : Schluß;
+  Bogen.Ende = Links ? Schluß : Anfang;
+  return 0;
+}
 
 void GrafDesign(Zeichenbefehl Befehl) {
   constexpr std::array<Zeichenschritt, 4> Erste{LinieAnfang, PolygonAnfang, BogenAnfang, Löschen};

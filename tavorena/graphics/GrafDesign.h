@@ -2,6 +2,9 @@
 
 #include <string>
 
+#include <tavorena/calc/Lage.h>
+#include <tavorena/graphics/Elemente.h>
+
 // Drawing free lines and arcs by clicks on points, and deleting them: a small state machine that tells in
 // StatusHilfe what it wants.
 
@@ -22,6 +25,10 @@ enum class Zeichenschritt {
 
 /// What the commands of drawing can be.
 enum class Zeichenbefehl { Linie, Polygon, Bogen, Löschen };
+
+/// The arc from A to E that runs through B.
+/// @return 0; -1: they lie on one line or two of them coincide, Bogen is then untouched
+[[nodiscard]] int BogenDurchDrei(Lage A, Lage B, Lage E, GrafikBogen& Bogen);
 
 /// Begins a command, in place of the one before.
 void GrafDesign(Zeichenbefehl Befehl);
