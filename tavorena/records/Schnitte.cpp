@@ -48,9 +48,13 @@ int LösungZeigen(const Spalten& S, const Protpunkt& P, double Tau, Schnittlage 
   return 1;
 }
 
-Block Fall(int Nachkomma, Zeilen Figuren, const std::vector<Protpunkt>& Neue, double Tau, Schnittlage L) {
+Block Fall(int Nachkomma, Zeilen Figuren, const std::vector<Protpunkt>& Neue, double Tau, Schnittlage L,
+           const std::vector<Zeilen>& Notizen = {}) {
   int Marken = 0;
-  for (const Protpunkt& P : Neue) Marken += LösungZeigen(Spalten(Nachkomma), P, Tau, L, Figuren);
+  for (std::size_t i = 0; i < Neue.size(); ++i) {
+    Marken += LösungZeigen(Spalten(Nachkomma), Neue[i], Tau, L, Figuren);
+    if (i < Notizen.size()) Figuren.insert(Figuren.end(), Notizen[i].begin(), Notizen[i].end());
+  }
   return Zahlenblock(Nachkomma, std::move(Figuren), Marken);
 }
 
@@ -132,21 +136,23 @@ Block GeradenschnittBlock(int Nachkomma, const Protgerade& G1, const Protgerade&
 }
 
 Block KreisGeradeBlock(int Nachkomma, const Protkreis& K, const Protgerade& G,
-                       const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe) {
+                       const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe,
+                       const std::vector<Zeilen>& Notizen) {
   const Spalten S(Nachkomma);
   Zeilen Figuren;
   KreisZeigen(S, K, Figuren);
   GeradeZeigen(S, G, Figuren);
-  return Fall(Nachkomma, std::move(Figuren), Neue, Tau, SchnittlageVon(Tau, true, Warnstufe));
+  return Fall(Nachkomma, std::move(Figuren), Neue, Tau, SchnittlageVon(Tau, true, Warnstufe), Notizen);
 }
 
 Block BogenschnittBlock(int Nachkomma, const Protkreis& K1, const Protkreis& K2,
-                        const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe) {
+                        const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe,
+                        const std::vector<Zeilen>& Notizen) {
   const Spalten S(Nachkomma);
   Zeilen Figuren;
   KreisZeigen(S, K1, Figuren);
   KreisZeigen(S, K2, Figuren);
-  return Fall(Nachkomma, std::move(Figuren), Neue, Tau, SchnittlageVon(Tau, false, Warnstufe));
+  return Fall(Nachkomma, std::move(Figuren), Neue, Tau, SchnittlageVon(Tau, false, Warnstufe), Notizen);
 }
 
 std::vector<std::string> StapelGeradenschnitt(Geradenschnitteingabe E) { return Sätze(E).Zeilen(); }

@@ -45,13 +45,16 @@ enum class Schnittlage { Gut, Früh, Voll, Berührt };
 
 /// @name A case: the figures, then each solution below the text of its judgement
 /// A solution without number, or with "0", is left out. τ in gon.
+/// @param[in] Notizen  of each solution: what stands below its row
 /// @{
 [[nodiscard]] Block GeradenschnittBlock(int Nachkomma, const Protgerade& G1, const Protgerade& G2,
                                         const Protpunkt& Neu, double Tau, int Warnstufe);
 [[nodiscard]] Block KreisGeradeBlock(int Nachkomma, const Protkreis& K, const Protgerade& G,
-                                     const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe);
+                                     const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe,
+                                     const std::vector<std::vector<std::string>>& Notizen = {});
 [[nodiscard]] Block BogenschnittBlock(int Nachkomma, const Protkreis& K1, const Protkreis& K2,
-                                      const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe);
+                                      const std::vector<Protpunkt>& Neue, double Tau, int Warnstufe,
+                                      const std::vector<std::vector<std::string>>& Notizen = {});
 /// @}
 
 // ---- batch file; the readers take a whole block: 0, or -1 error

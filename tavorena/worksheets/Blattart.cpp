@@ -2,7 +2,10 @@
 
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVDisForm.h>
+#include <tavorena/worksheets/TVIntbbForm.h>
+#include <tavorena/worksheets/TVIntblForm.h>
 #include <tavorena/worksheets/TVIntllForm.h>
+#include <tavorena/worksheets/TVKmittForm.h>
 #include <tavorena/worksheets/TVLinelForm.h>
 #include <tavorena/worksheets/TVOrthoForm.h>
 #include <tavorena/worksheets/TVPolarForm.h>
@@ -69,6 +72,16 @@ constexpr Blattart Arten[] = {
      4150,
      "polarpunkte.md",
      Neu<TVPolarForm>},
+    {"TVKmittForm",
+     "Kmitt",
+     "VR 09.50 Kreismittelpunkt",
+     "Tavorena Kreismittelpunkt [Stapel]",
+     "Berechnung Kreismittelpunkt",
+     {"09.50", "9.50", "KM"},
+     "MenüKatasterKmitt",
+     4190,
+     "kreismittelpunkt.md",
+     Neu<TVKmittForm>},
     {"TVIntllForm",
      "Intll",
      "VR 09.00 Geradenschnitt",
@@ -79,6 +92,26 @@ constexpr Blattart Arten[] = {
      4160,
      "geradenschnitt.md",
      Neu<TVIntllForm>},
+    {"TVIntblForm",
+     "Intbl",
+     "VR 09.40 Schnitt Kreis / Gerade",
+     "Tavorena Schnitt Kreis/Gerade [Stapel]",
+     "Berechnung Schnitt Kreis / Gerade",
+     {"09.40", "9.40", "KS"},
+     "MenüKatasterIntbl",
+     4170,
+     "kreisgerade.md",
+     Neu<TVIntblForm>},
+    {"TVIntbbForm",
+     "Intbb",
+     "VR 23.10 Bogenschnitt",
+     "Tavorena Schnitt Kreis/Gerade [Stapel]",  // the same words, on purpose
+     "Berechnung Bogenschnitt",
+     {"23.10", "BS"},
+     "MenüKatasterIntbb",
+     4180,
+     "bogenschnitt.md",
+     Neu<TVIntbbForm>},
     {"TVPolygonForm",
      "Polygon",
      "VR 19.10 Polygonzüge",

@@ -48,6 +48,11 @@ void Fallpunkt::Zeigen(const char* Links, const char* Daneben) {
   Rechts.Fehlerhaft = Hoch.Fehlerhaft = true;
 }
 
+void Fallpunkt::Entfällt() {
+  Zeigen("", "");
+  Rechts.Fehlerhaft = Hoch.Fehlerhaft = false;
+}
+
 void Fallpunkt::Veraltet() {
   Gerechnet = false;
   Rechts.Fehlerhaft = Hoch.Fehlerhaft = !Rechts.Text->empty();
@@ -63,8 +68,7 @@ void Fallpunkt::Setzen(const Neupunkteingabe& E) {
 }
 
 void Fallpunkt::Leeren() {
-  Zeigen("", "");
-  Veraltet();
+  Entfällt();
   Hoehe = {};
   NeuPnr.Text = NeuSym.Text = "";
   NeuPnr.Fehlerhaft = false;
@@ -156,6 +160,7 @@ void Fallblatt::BeiTabelle() {
 }
 
 void Fallblatt::Bildzeichnen() {
+  Nachführen();
   Figurbild.Löschen();
   for (const Punktfeld& P : Punkte) {
     if (P.Gesetzt()) Figurbild.Punkt({P.Nummer(), P.Ort().RW, P.Ort().HW, "MARK", FarbeRot});
@@ -176,6 +181,7 @@ void Fallblatt::FallRechnen() {
   for (Fallpunkt& L : Lösungen) L.Veraltet();
   Neubild.Löschen();
   Grund = "Eingabe unvollständig";
+  Grundfeld = nullptr;
   if (Fehlt() == nullptr) {
     Grund = Rechnen();
   } else {
@@ -289,6 +295,7 @@ int Fallblatt::FallSchreiben() {
   }
   if (!Grund.empty()) {
     StatusHilfeSetzen(Grund);
+    if (Grundfeld != nullptr) FokusSetzen(*Grundfeld);
     return -1;
   }
   Verbindung V = NeueVerbindung();
@@ -344,7 +351,10 @@ void Fallblatt::Zurück() {
 void Fallblatt::Reset() {
   for (Messfeld& M : Maße) M.Leeren();
   for (Fallpunkt& L : Lösungen) L.Leeren();
-  for (Feld* F : Figuren) F->Text = "";
+  for (Feld* F : Figuren) {
+    F->Text = "";
+    F->Fehlerhaft = false;
+  }
   Getan.clear();
   Gerechnet = false;
   Neubild.Löschen();

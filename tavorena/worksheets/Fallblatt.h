@@ -43,6 +43,8 @@ class Fallpunkt {
   void Zeigen(Lage Wo);
   /// Shows two words where the coordinates stand: there is none.
   void Zeigen(const char* Links, const char* Rechts);
+  /// There is none, and nothing to be said of it.
+  void Entfällt();
   /// What stands there does not belong to what is typed.
   void Veraltet();
   /// Whether a number can be typed.
@@ -87,6 +89,8 @@ class Fallblatt : public Rechenblatt {
   /// Computes the case and shows its solutions; all that it needs is there.
   /// @return "" if there is something to store or to write; else why there is not
   [[nodiscard]] virtual std::string Rechnen() = 0;
+  /// The field in which the reason lies, if it is one; Rechnen sets it.
+  Feld* Grundfeld = nullptr;
   /// Something that it needs is missing.
   virtual void Unvollständig() {}
   /// Its lines in the protocol.
@@ -99,6 +103,8 @@ class Fallblatt : public Rechenblatt {
   [[nodiscard]] virtual int StapelLesen() = 0;
   /// Completes what stands above the case.
   virtual void Verbinden(Verbindung& /*V*/) {}
+  /// Shows what follows from the known points alone, such as a radius.
+  virtual void Nachführen() {}
   /// Draws what leads to the solutions; all known points are discs already.
   virtual void Zeichnen(Markierung& /*Bild*/) {}
   /// A case is written although nothing is stored.

@@ -1,3 +1,8 @@
+#include <utility>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Winkel.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/worksheets/Schnittfelder.h>
 
@@ -57,12 +62,96 @@ void Geradenfelder::Zeichnen(Markierung& Bild) const {
   if (Ergebnis == 0) Bild.Linie({G.A.RW, G.A.HW, G.B.RW, G.B.HW, FarbeRot});
 }
 
+// ---- circles ---------------------------------------------------------------------------------------
+
+Kreisfelder::Kreisfelder(Fallblatt& Blatt, const std::string& Name, const char* Rahmen)
+    : Mitte(Blatt.PunktAnlegen(Name + "Mitt", "Mittelpkt.", Rahmen, 1)),
+      Bogen(Blatt.PunktAnlegen(Name + "Bogen", "Bogenpkt.", Rahmen, 2, false)),
+      Radiusfeld(Blatt.MaßAnlegen(Name + "Radius", "Radius", {1, 6}, Rahmen, false)),
+      Pll(Blatt.MaßAnlegen(Name + "Pll", "Abstand", {2, 6}, Rahmen, false)) {
+  PunktfeldKopf(Blatt, Rahmen);
+  Radiusfeld.Eingabe.Zeichen = Pll.Eingabe.Zeichen = 9;
+  Bogen.Pnr.Hilfe = "Punkt auf dem Kreis, er gibt den Radius; leer: der Radius wird eingegeben";
+  Radiusfeld.Eingabe.Hilfe = "Radius; gibt es einen Bogenpunkt, ist es sein Abstand vom Mittelpunkt";
+  Pll.Eingabe.Hilfe = "Abstand des Parallelkreises, wird zum Radius addiert";
+  Radiusfeld.Eingabe.BeiVerlassen = [this, Lesen = Radiusfeld.Eingabe.BeiVerlassen] {
+    if (!Lesen()) return false;
+    if (Bogen.Gesetzt() || !Radiusfeld.Gegeben() || Radiusfeld.Zahl() > 0) return true;
+    StatusHilfeSetzen("Radius fehlt");
+    return false;
+  };
+}
+
+double Kreisfelder::Radius() const {
+  const double r = Bogen.Gesetzt() ? tavorena::Abstand(Mitte.Ort(), Bogen.Ort()) : Radiusfeld.Zahl();
+  return r > 0 ? r + Pll.Zahl() : 0;
+}
+
+void Kreisfelder::Nachführen() {
+  const bool Vorher = std::exchange(AusPunkt, Mitte.Gesetzt() && Bogen.Gesetzt());
+  if (AusPunkt) {
+    Radiusfeld.Setzen(Abstand(Mitte.Ort(), Bogen.Ort()));
+  } else if (Vorher) {
+    Radiusfeld.Leeren();
+  }
+}
+
+Protkreis Kreisfelder::AlsProtkreis() const {
+  Protkreis K{Mitte.AlsProtpunkt(), Radius(), {}};
+  if (Bogen.Gesetzt()) K.Bogen = Bogen.AlsProtpunkt();
+  return K;
+}
+
+Kreiseingabe Kreisfelder::Eingabe() const {
+  return {Mitte.Nummer(), Radiusfeld.Zahl(), Pll.Zahl(), Bogen.Nummer()};
+}
+
+void Kreisfelder::Setzen(const Kreiseingabe& E) {
+  Mitte.Pnr.Text = E.MittPnr;
+  Bogen.Pnr.Text = E.BogenPnr;
+  if (E.Radius != 0) Radiusfeld.Setzen(E.Radius);
+  if (E.Pll != 0) Pll.Setzen(E.Pll);
+}
+
+void Kreisfelder::Zeichnen(Markierung& Bild) const {
+  if (Mitte.Gesetzt() && Radius() > 0)
+    Bild.Bogen({Mitte.Ort().RW, Mitte.Ort().HW, Radius(), 0, 360, FarbeRot});
+}
+
+// ---- solutions -------------------------------------------------------------------------------------
+
+std::string Schnittpaar::Zeigen(int Anzahl, Lage S1, Lage S2, double Grad) {
+  Zwei.Öffnen(Anzahl == 2);
+  Zwei.Entfällt();
+  if (Anzahl == 0) {
+    Eins.Zeigen("***kein Schnitt", "***kein Schnitt");
+    TauZeigen(TauFeld, {}, KreisGerade);
+    return "kein Schnitt";
+  }
+  Eins.Zeigen(S1);
+  if (Anzahl == 2) Zwei.Zeigen(S2);
+  if (Anzahl == 3) Zwei.Zeigen("*** als", " Berührpkt.");
+  Tau = TauGefaltet(GradNachGon(Grad));
+  TauZeigen(TauFeld, Tau, KreisGerade);
+  return "";
+}
+
+void Schnittpaar::Setzen(const std::array<Neupunkteingabe, 2>& E) {
+  Eins.Setzen(E[0]);
+  Zwei.Setzen(E[1]);
+}
+
 double TauGefaltet(double Gon) {
   if (Gon >= 300) return 400 - Gon;
   if (Gon >= 200) return Gon - 200;
   return Gon >= 100 ? 200 - Gon : Gon;
 }
 
-std::string Tautext(double Gon) { return ZahlFormat(Gon, -1, 4); }
+void TauZeigen(Feld& F, std::optional<double> Tau, bool KreisGerade) {
+  F.Text = Tau ? ZahlFormat(*Tau, -1, 4) : "";
+  F.Fehlerhaft = Tau && SchnittlageVon(*Tau, KreisGerade, Optionen.OptWarnstufe) != Schnittlage::Gut;
+  if (F.Fehlerhaft)
+    StatusHilfeSetzen("Schleifender Schnitt: Tau bis " + std::string(KreisGerade ? "10" : "20") + " gon");
+}
 
 }  // namespace tavorena

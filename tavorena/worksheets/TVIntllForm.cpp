@@ -15,25 +15,27 @@ TVIntllForm::TVIntllForm(const Blattart& BlattArt)
 std::string TVIntllForm::Rechnen() {
   Lage S;
   double Winkel = 0;
-  if (G[0].Art() < 0 || G[1].Art() < 0) {
+  for (const Geradenfelder& Gerade : G) {
+    if (Gerade.Art() >= 0) continue;
     Unvollständig();
+    Grundfeld = &Gerade.Zuviel();
     return "Abstand und Punkt zugleich";
   }
   if (SchnittGeradeGeradeBerechnung(10 * G[0].Art() + G[1].Art(), G[0].Gerade(), G[1].Gerade(), S, Winkel) !=
       0) {
     Neu.Zeigen("***kein Schnitt", "***kein Schnitt");
-    TauFeld.Text = "";
+    TauZeigen(TauFeld, {}, false);
     return "kein Schnitt";
   }
   Tau = TauGefaltet(GradNachGon(Winkel));
-  TauFeld.Text = Tautext(Tau);
+  TauZeigen(TauFeld, Tau, false);
   Neu.Zeigen(S);
   return "";
 }
 
 void TVIntllForm::Unvollständig() {
   Neu.Zeigen("###Fehler", "###Fehler");
-  TauFeld.Text = "";
+  TauZeigen(TauFeld, {}, false);
 }
 
 Block TVIntllForm::Protokollieren() {
