@@ -103,6 +103,17 @@ class Grundstil final : public QProxyStyle {
     QProxyStyle::drawPrimitive(Was, &Neu, Maler, W);
   }
 
+  // The arrows at the end of a tool bar that is too long are black whatever the palette.
+  QIcon standardIcon(StandardPixmap Was, const QStyleOption* Wie, const QWidget* W) const override {
+    const QIcon Bild = QProxyStyle::standardIcon(Was, Wie, W);
+    if (Was != SP_ToolBarHorizontalExtensionButton) return Bild;
+    QPixmap Getönt = Bild.pixmap(32);
+    QPainter Maler(&Getönt);
+    Maler.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    Maler.fillRect(Getönt.rect(), qApp->palette().color(QPalette::ButtonText));
+    return Getönt;
+  }
+
  private:
   template <typename Option>
   static Option MitFokus(Option O) {
