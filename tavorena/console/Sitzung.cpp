@@ -7,6 +7,7 @@
 #include <tavorena/console/Sitzung.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Geschuetzt.h>
+#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/points/Punktgruppen.h>

@@ -313,6 +313,13 @@ int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma
   return KorText(Format, Nachkomma, Text) < 0 || DateiErsetzen(Dateiname, Text) < 0 ? -1 : KorAnzahl;
 }
 
+Dateiformat FormatNachEndung(std::string_view Name, Dateiformat Sonst) {
+  const std::string Endung = Großtext(DateinameZerlegen(Name).Endung);
+  if (Endung == "LT4" || Endung == "ALK") return Dateiformat::Lt4;
+  if (Endung.size() == 3 && Endung.starts_with("ED")) return Dateiformat::Edbs;
+  return Sonst;
+}
+
 int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,
                      bool Sortieren) {
   Anzahl = 0;

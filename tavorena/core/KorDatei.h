@@ -35,6 +35,9 @@ void KorZeileAnhängen(std::string& Ziel, const Wert& Pnr, double Rechts, double
 void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInfoSatz& Info,
                        std::string& Zeile);
 
+/// The format that the ending of a name stands for; Sonst for any other ending.
+[[nodiscard]] Dateiformat FormatNachEndung(std::string_view Name, Dateiformat Sonst = Dateiformat::Kor);
+
 /// What KorLesen does with the points of a file.
 enum class Lesemodus {
   NurNeue = -1,  ///< skips the numbers that the table holds

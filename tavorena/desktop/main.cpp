@@ -6,6 +6,7 @@
 #include <QTranslator>
 
 #include <tavorena/core/Geschuetzt.h>
+#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Ansichtdatei.h>
 #include <tavorena/desktop/Aussehen.h>

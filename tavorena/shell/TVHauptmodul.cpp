@@ -3,6 +3,7 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Geschuetzt.h>
+#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
@@ -163,13 +164,6 @@ int HauptLesenUndDateinamenSetzen(bool Nachfragen) {
   StapelDatei.Name = Stamm + ".sta";
   KorAnzahlAnzeigen();
   return ProtokollNehmenFragen(Stamm + ".dru") < 0 ? -2 : 0;
-}
-
-Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst) {
-  const std::string Endung = Großtext(DateinameZerlegen(Name).Endung);
-  if (Endung == "LT4" || Endung == "ALK") return Dateiformat::Lt4;
-  if (Endung.size() == 3 && Endung.starts_with("ED")) return Dateiformat::Edbs;
-  return Sonst;
 }
 
 int HauptDateiÖffnen(const std::string& Name, Dateiformat Format) {

@@ -31,9 +31,6 @@ int HauptDateiÖffnen(const std::string& Name, Dateiformat Format);
 /// Writes the table to KoordinatendateiName in its format. @return 0; -1 with a message
 int HauptDateiSpeichern();
 
-/// The coordinate file format that the ending of a name stands for; Sonst for any other ending.
-Dateiformat FormatNachEndung(const std::string& Name, Dateiformat Sonst = Dateiformat::Kor);
-
 /// Everything is set for work on a file: menus, last folder, history.
 void HauptDateiOffenSetzen();
 

@@ -1,5 +1,6 @@
 #include <functional>
 
+#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
