@@ -173,6 +173,9 @@ FormularAnsicht::Bild FormularAnsicht::GitterErzeugen(Gitter& G) {
     if (G.Markenspalte >= 0) Modell->Markieren(G, Zeile, false);
     Modell->Doppelklicken(G, Zeile);
   };
+  Tabelle->BeiTitel = [this, &G](int Spalte) {
+    if (Modell != nullptr) Modell->TitelKlicken(G, Spalte);
+  };
   Tabelle->BeiEinfügen = [this, &G, Zelle] {
     if (Modell == nullptr) return;
     Zelle->setFocus();

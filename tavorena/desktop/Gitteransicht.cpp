@@ -126,6 +126,10 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& Zelle) {
     if (BeiDoppelklick) BeiDoppelklick(Zelle.row());
   });
+  horizontalHeader()->setSectionsClickable(static_cast<bool>(Daten.BeiTitel));
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int Spalte) {
+    if (BeiTitel) BeiTitel(Spalte);
+  });
 }
 
 void Gitteransicht::Lösen() {

@@ -38,6 +38,7 @@ class Gitteransicht final : public QTableView {
 
   std::function<void(int Zeile, int Spalte)> BeiZelle;  ///< the user clicked a cell
   std::function<void(int Zeile)> BeiDoppelklick;
+  std::function<void(int Spalte)> BeiTitel;
   std::function<void()> BeiEinfügen;  ///< the user wants the clipboard as rows
 
  protected:

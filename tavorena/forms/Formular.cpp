@@ -298,6 +298,11 @@ void Formular::Doppelklicken(Gitter& G, int Zeile) {
   Ausführen([&] { G.BeiDoppelklick(Zeile); });
 }
 
+void Formular::TitelKlicken(Gitter& G, int Spalte) {
+  if (!NimmtFokus(G) || !G.BeiTitel) return;
+  Ausführen([&] { G.BeiTitel(Spalte); });
+}
+
 bool Formular::RücknahmeVerlangen() {
   bool Getan = false;
   Ausführen([&] { Getan = IstOffen && Zurücknehmen(); });

@@ -118,6 +118,8 @@ class Formular {
   void Markieren(Gitter& G, int Zeile, bool Bereich);
   /// The user clicked a row twice.
   void Doppelklicken(Gitter& G, int Zeile);
+  /// The user clicked the heading of a column.
+  void TitelKlicken(Gitter& G, int Spalte);
   /// The user takes the last thing back that the form did. @return false: there is none
   bool RücknahmeVerlangen();
   /// The user closes the window.

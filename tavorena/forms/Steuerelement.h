@@ -128,6 +128,7 @@ struct Gitter final : Eingabeelement {
   std::function<bool(int Zeile)> Markierbar;      ///< which rows can be chosen; empty: all
   std::function<void()> BeiMarke;                 ///< the user chose other rows
   std::function<void(int Zeile)> BeiDoppelklick;  ///< the user clicked a row twice
+  std::function<void(int Spalte)> BeiTitel;       ///< the user clicked a heading; empty: they do nothing
 
   [[nodiscard]] int Zeilen() const { return Quelle ? Quellzeilen : static_cast<int>(Zellen.size()); }
   [[nodiscard]] std::string Inhalt(int z, int s) const;
