@@ -16,7 +16,8 @@ struct Plan {
 /// The lines of one entry of the protocol.
 struct Block {
   std::vector<std::string> Zeilen;
-  int Marken = 0;  ///< tolerance marks in them
+  int Marken = 0;         ///< tolerance marks in them
+  int NeueSeiteVor = -1;  ///< line ahead of which a new page begins; -1: none
 };
 
 /// The lines of a block whose numbers were written with that many decimals. With more than 5 the columns do

@@ -96,8 +96,9 @@ class Eintrag {
   }
 
   void ProtBlock(const Block& B) {
-    for (const std::string& Zeile : B.Zeilen) {
-      ProtZeile(Zeile);
+    for (int i = 0; i < std::ssize(B.Zeilen); ++i) {
+      if (i == B.NeueSeiteVor && !Neu.SeiteFrisch) ProtNeueSeite();
+      ProtZeile(B.Zeilen[static_cast<std::size_t>(i)]);
       ProtZaehlen(1);
     }
   }
