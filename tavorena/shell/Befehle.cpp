@@ -239,7 +239,9 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
-    for (const Blattart& Art : Blattarten()) B.push_back({Art.Menü, true, [&Art] { BlattÖffnen(Art); }});
+    for (const Blattart& Art : Blattarten()) {
+      if (*Art.Menü != '\0') B.push_back({Art.Menü, true, [&Art] { BlattÖffnen(Art); }});
+    }
     return B;
   }();
   const auto i =

@@ -2,6 +2,7 @@
 
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVDisForm.h>
+#include <tavorena/worksheets/TVHelmertForm.h>
 #include <tavorena/worksheets/TVIntbbForm.h>
 #include <tavorena/worksheets/TVIntblForm.h>
 #include <tavorena/worksheets/TVIntllForm.h>
@@ -122,6 +123,26 @@ constexpr Blattart Arten[] = {
      4250,
      "polygonzug.md",
      Neu<TVPolygonForm>},
+    {"TVHelmertForm",
+     "Helmert",
+     "VR 24.00 Helmert- Transformation",
+     "Tavorena Helmert- Transformation [Stapel]",
+     "Berechnung Transformation",
+     {"24.00", "HT"},
+     "MenüKatasterHelmert",
+     4260,
+     "transformation.md",
+     Neu<TVHelmertForm>},
+    {"TVHelmertForm",
+     "Helmert",
+     "VR 24.30 Affin- Transformation",
+     "Tavorena Affin- Transformation [Stapel]",
+     "Berechnung Transformation",
+     {"24.30", "AT"},
+     "",
+     4260,
+     "transformation.md",
+     Neu<TVHelmertForm>},
 };
 
 template <typename Test>

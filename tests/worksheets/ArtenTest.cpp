@@ -1,8 +1,7 @@
 #include "Blattest.h"
 
-#include <set>
-
 #include <tavorena/core/Optionen.h>
+#include <tavorena/points/Ruecknahme.h>
 #include <tavorena/records/Stapelleser.h>
 
 namespace tavorena::test {
@@ -10,7 +9,7 @@ namespace {
 
 // What is typed into a worksheet, from which field on, and the button that writes it, if there is one.
 struct Auftrag {
-  const char *Kennung, *Feld, *Tasten, *Knopf = "";
+  const char *Kennung, *Feld, *Tasten, *Knopf = "", *Frage = "";
 };
 const Auftrag Aufträge[] = {
     {"24.40", "LinelAnfPnr", "1001\n1002\n0\n99,93\n2003\n2004\n"},
@@ -25,6 +24,8 @@ const Auftrag Aufträge[] = {
      "Zug "
      "7\n2003\n1001\n127,5291\n30\n3001\n267,1799\n27,713\n015\n3002\n141,3728\n30\n\n\n1002\n171\n2005\n",
      "PolygonErzeugen"},
+    {"24.00", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
+    {"24.30", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
 };
 
 // Kind, decimals, warning level.
@@ -37,19 +38,21 @@ TEST_P(Artentest, NachlaufGleichtDerAufzeichnung) {
   const auto& [A, Nachkomma, Warnstufe] = GetParam();
   Optionen.OptNachkommastellen = static_cast<std::int16_t>(Nachkomma);
   Optionen.OptWarnstufe = static_cast<std::int16_t>(Warnstufe);
-  std::set<std::string> Vorher;
-  for (int z = 0; z < KorAnzahl; ++z) Vorher.insert(KorPnr(z));
+  std::vector<Punktsatz> Vorher;
+  for (int z = 0; z < KorAnzahl; ++z) Vorher.push_back(PunktsatzVon(z));
+  KoordinatendateiName = Ordner.Pfad("musterdorf.kor");
+  Schreibe(Ordner.Pfad("neu.kor"),
+           "1001 0 0\r\n1002 60.01 80\r\n2003 30.1 30\r\n2004 0 75.02\r\n2005 120 160\r\n");
   auto B = Öffne(A.Kennung);
   Tippe(*B, A.Feld, A.Tasten);
+  if (*A.Frage != 0) Skript.Erwarte(A.Frage, KnopfJa);
   if (*A.Knopf != 0) Drücke(*B, A.Knopf);
   B->SchließenVerlangen();
   ASSERT_FALSE(B->Offen());
   const std::string Prots = Protokoll(), Sta = Stapeltext();
   EXPECT_FALSE(Prots.empty());
-  // The table as it was.
-  for (int z = KorAnzahl - 1; z >= 0; --z) {
-    if (Vorher.count(KorPnr(z)) == 0) static_cast<void>(KorLoeschen(z));
-  }
+  KorAbschneiden(0);
+  for (const Punktsatz& P : Vorher) ASSERT_EQ(KorAnhängen(P.Satz()), 0);
   EXPECT_EQ(Nachlauf(), Prots);
   EXPECT_TRUE(
       Gleich(StapelBericht().size(), 0U, Stapel.Bilanz.Blöcke > 0, true, Stapel.Bilanz.Fehler, false));
@@ -60,8 +63,9 @@ INSTANTIATE_TEST_SUITE_P(, Artentest,
                          testing::Combine(testing::ValuesIn(Aufträge), testing::Values(0, 2, 3, 5),
                                           testing::Values(0, 1, 3)),
                          [](const auto& Info) {
-                           std::string Name = std::get<0>(Info.param).Feld;
-                           std::erase(Name, '_');
+                           const Auftrag& A = std::get<0>(Info.param);
+                           std::string Name = std::string(A.Feld) + A.Kennung;
+                           std::erase_if(Name, [](char z) { return z == '_' || z == '.'; });
                            return Name + "_" + std::to_string(std::get<1>(Info.param)) + "_" +
                                   std::to_string(std::get<2>(Info.param));
                          });
