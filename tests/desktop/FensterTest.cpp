@@ -166,6 +166,11 @@ class FensterTest final : public Fensterumgebung {
          "PWS     3001        80.2500        98.4000        70.0000  -");
     Fall("MenüKatasterIntll", "1001\n1002\n2,5\n\n\n2003\n2005\n\n\n2004\n3001\n015\n",
          "G2PWIN     2004\r\nNEUPUNKT       3001  015\r\nE  (Ende)");
+    Fall("MenüKatasterIntbl", "1001\n2004\n\n\n2003\n2005\n\n\n\n3001\n\n3002\n015\n",
+         "NEUPUNKT       3001  -\r\nNEUPUNKT       3002  015\r\nE  (Ende)");
+    Fall("MenüKatasterIntbb", "1001\n\n80\n\n1002\n2003\n\n\n3001\n\n\n\n",
+         "NEUPUNKT       3001  -\r\nNEUPUNKT          0  -   -\r\nE  (Ende)");
+    Fall("MenüKatasterKmitt", "1001\n2004\n2005\n3001\n015\n", "K0PMN     3001  015\r\nE  (Ende)");
     Fall("MenüKatasterPolygon", "7\n2003\n1001\n127\n30\n3001\n267\n27\n\n\n1002\n171\n2005\n\n",
          "NEUPWS     3001      267.0000       27.0000  -\r\nABSCHLP     1002      171.0000");
   }
