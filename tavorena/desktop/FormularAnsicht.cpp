@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -206,6 +207,9 @@ FormularAnsicht::Bild FormularAnsicht::AuswahlErzeugen(Auswahl& A) {
   QAbstractButton* Haken = nullptr;
   if (A.Art == Auswahlart::Option) {
     Haken = new QRadioButton(this);
+    QButtonGroup*& Gruppe = Gruppen[{A.Rahmen, A.Gruppe}];
+    if (Gruppe == nullptr) Gruppe = new QButtonGroup(this);
+    Gruppe->addButton(Haken);
   } else {
     Haken = new QCheckBox(this);
   }

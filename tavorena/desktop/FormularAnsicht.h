@@ -1,11 +1,13 @@
 #pragma once
 
+#include <map>
 #include <unordered_map>
 
 #include <QWidget>
 
 #include <tavorena/forms/Formular.h>
 
+class QButtonGroup;
 class QGridLayout;
 class QHBoxLayout;
 class QLineEdit;
@@ -83,6 +85,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   std::unordered_map<const Steuerelement*, Bild> Bilder;
   std::unordered_map<const QObject*, Steuerelement*> Elemente;
   std::unordered_map<std::string, QGridLayout*> Rahmen;
+  std::map<std::pair<std::string, int>, QButtonGroup*> Gruppen;  // options by frame and group
   QVBoxLayout* Kästen;
   QGridLayout* Knöpfe = nullptr;
   bool Auffrischend = false;

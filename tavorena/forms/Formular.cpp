@@ -259,7 +259,8 @@ void Formular::Wählen(Auswahl& A, const std::string& Eintrag, bool An) {
     if (A.Art == Auswahlart::Option && An) {
       for (const auto& S : Liste) {
         auto* Andere = dynamic_cast<Auswahl*>(S.get());
-        if (Andere != nullptr && Andere->Art == Auswahlart::Option && Andere->Rahmen == A.Rahmen)
+        if (Andere != nullptr && Andere->Art == Auswahlart::Option && Andere->Rahmen == A.Rahmen &&
+            Andere->Gruppe == A.Gruppe)
           Andere->Gewählt = false;
       }
     }

@@ -85,6 +85,7 @@ enum class Auswahlart { Kästchen, Option, Liste };
 struct Auswahl final : Steuerelement {
   Auswahlart Art = Auswahlart::Kästchen;
   std::vector<std::string> Einträge;  ///< of a list
+  int Gruppe = 0;                     ///< of the options of a frame one of each group is chosen
   Gezeigt<bool> Gewählt;              ///< of a check box or an option
   std::function<void()> BeiWahl;
 

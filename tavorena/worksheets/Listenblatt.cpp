@@ -28,23 +28,9 @@ std::string Listenmangel::Meldung() const {
 
 // ---- the controls ----------------------------------------------------------------------------------
 
-Feld& Listenblatt::Messfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen) {
-  BeschriftungAnlegen(Label, Ort, Rahmen);
-  Feld& F = ZahlenfeldAnlegen(Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, Rahmen, 12);
-  F.BeiVerlassen = [this, &F, Vorher = std::string()]() mutable {
-    std::string Text = Trimmen(*F.Text);
-    double Zahl = 0;
-    if (!Text.empty() && !MesswertPrüfen(Text, Zahl)) return false;
-    F.Text = Text;
-    if (std::exchange(Vorher, Text) != Text) NeuRechnen();
-    return true;
-  };
-  return F;
-}
-
 Feld& Listenblatt::Ergebnisfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen) {
   BeschriftungAnlegen(Label, Ort, Rahmen);
-  return ErgebnisfeldAnlegen(Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, Rahmen, Längenbreite(6));
+  return ErgebnisfeldAnlegen(Mit(Rest), {Ort.Zeile, Ort.Spalte + 1}, Rahmen, Längenbreite(5));
 }
 
 Gitter& Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, const Listenart& Was) {

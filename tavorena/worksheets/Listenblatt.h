@@ -54,8 +54,6 @@ class Listenblatt : public Rechenblatt {
  protected:
   using Rechenblatt::Rechenblatt;
 
-  /// A number field with its label; what is typed there is computed with.
-  Feld& Messfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen);
   /// A result with its label.
   Feld& Ergebnisfeld(const char* Rest, const char* Label, Platz Ort, const char* Rahmen);
   /// A button of the kind's own.

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -12,8 +11,7 @@
 namespace tavorena {
 namespace {
 
-const char *const RahmenZug = "Zug", *const RahmenVerteilung = "Verteilung", *const RahmenAnfang = "Anfang",
-                  *const RahmenEnde = "Ende";
+const char *const RahmenZug = "Zug", *const RahmenAnfang = "Anfang", *const RahmenEnde = "Ende";
 
 // The measures of a row.
 enum : std::size_t { MaßWinkel, MaßStrecke };
@@ -23,61 +21,62 @@ constexpr struct {
   const char *Rest, *Label;
   Platz Ort;
 } Abweichungen[] = {
-    {"S", "S:", {0, 0}},   {"SummeS", "Summe s:", {0, 2}},
-    {"WY", "WY:", {0, 4}}, {"WX", "WX:", {0, 6}},
-    {"FW", "FW:", {1, 0}}, {"FWzul", "FW(zul):", {1, 2}},
-    {"FL", "FL:", {1, 4}}, {"FLzul", "FL(zul):", {1, 6}},
-    {"FQ", "FQ:", {1, 8}}, {"FQzul", "FQ(zul):", {1, 10}},
+    {"S", "S:", {0, 0}},           {"SummeS", "Summe s:", {1, 0}}, {"WY", "WY:", {0, 2}},
+    {"WX", "WX:", {1, 2}},         {"FW", "FW:", {0, 4}},          {"FWzul", "FW(zul):", {1, 4}},
+    {"FL", "FL:", {0, 6}},         {"FLzul", "FL(zul):", {1, 6}},  {"FQ", "FQ:", {0, 8}},
+    {"FQzul", "FQ(zul):", {1, 8}},
 };
 
 // What stands in a field; not a number: nothing does.
-double Zahl(const Feld& F) { return F.Text->empty() ? NAN : ZahlAusText(*F.Text); }
+double Zahl(const Messfeld& M) { return M.Gegeben() ? M.Zahl() : NAN; }
 
 }  // namespace
 
 TVPolygonForm::TVPolygonForm(const Blattart& BlattArt)
     : Listenblatt(BlattArt),
       ZugNr((BeschriftungAnlegen("Zug-Nr.:", {0, 0}, RahmenZug),
-             FeldAnlegen(Mit("ZugNr"), {0, 1}, RahmenZug, PnrZeichen))),
+             FeldAnlegen(Mit("ZugNr"), {0, 1}, RahmenZug, 8))),
       OptionAnschluss(KästchenAnlegen(Mit("OptionAnschluss"), "Richtungsanschluß", {0, 2}, RahmenZug)),
       OptionAbschluss(KästchenAnlegen(Mit("OptionAbschluss"), "Richtungsabschluß", {0, 3}, RahmenZug)),
       OptionKlasse{&OptionAnlegen(Mit("OptionTP"), "TP-Netz", {0, 4}, RahmenZug),
                    &OptionAnlegen(Mit("OptionNP"), "NP-Netz", {0, 5}, RahmenZug),
                    &OptionAnlegen(Mit("OptionFrei"), "freier Zug", {0, 6}, RahmenZug)},
-      OptionWinkel(KästchenAnlegen(Mit("OptionWinkelabweichungAnAus"), "Winkelabweichung verteilen", {0, 0},
-                                   RahmenVerteilung)),
-      OptionMit(
-          OptionAnlegen(Mit("OptionMitVerteilung"), "Längsabweichungen verteilen", {0, 1}, RahmenVerteilung)),
-      OptionOhne(OptionAnlegen(Mit("OptionOhneVerteilung"), "nicht verteilen", {0, 2}, RahmenVerteilung)),
+      OptionWinkel(
+          KästchenAnlegen(Mit("OptionWinkelabweichungAnAus"), "Winkel verteilen", {1, 2}, RahmenZug)),
+      OptionMit(OptionAnlegen(Mit("OptionMitVerteilung"), "Längen verteilen", {1, 4, 2}, RahmenZug)),
+      OptionOhne(OptionAnlegen(Mit("OptionOhneVerteilung"), "nicht verteilen", {1, 6}, RahmenZug)),
       AnfZiel(*this, "AnfZiel", "Zielpkt.", RahmenAnfang, 1),
       Anf(*this, "Anf", "Anf.pkt.", RahmenAnfang, 2),
-      AnfWinkel(Messfeld("AnfWinkel", "Winkel", {2, 6}, RahmenAnfang)),
-      AnfStrecke(Messfeld("AnfStrecke", "Strecke", {2, 8}, RahmenAnfang)),
+      AnfWinkel(*this, "AnfWinkel", "Winkel", {1, 6}, RahmenAnfang),
+      AnfStrecke(*this, "AnfStrecke", "Strecke", {2, 6}, RahmenAnfang),
       PolygonGitter(
           ListeAnlegen({{"Punktnr.", PnrZeichen, Zellart::Nummer},
-                        {"Brech.winkel", 12, Zellart::Maß},
-                        {"Strecke", Längenbreite(6), Zellart::Maß},
-                        {"Verbess.RW", Längenbreite(6)},
-                        {"Verbess.HW", Längenbreite(6)},
+                        {"Brech.winkel", 11, Zellart::Maß},
+                        {"Strecke", Längenbreite(5), Zellart::Maß},
+                        {"Verbess.RW", 10},
+                        {"Verbess.HW", 10},
                         {"Rechts", Längenbreite(8)},
                         {"Hoch", Längenbreite(8)},
-                        {"Symbol", 8, Zellart::Symbol}},
+                        {"Symbol", 6, Zellart::Symbol}},
                        {false, PolygonMaxSeiten - 1, "Höchstens 1000 Strecken in einem Zug", "Erzeugen",
                         "&Punkte erzeugen", "Neue Punkte speichern, Zug in Protokoll und Stapel schreiben"})),
-      End(*this, "End", "Endpkt.", RahmenEnde, 1),
-      EndWinkel(Messfeld("EndWinkel", "Winkel", {1, 6}, RahmenEnde)),
-      EndZiel(*this, "EndZiel", "Zielpkt.", RahmenEnde, 2) {
+      End(*this, "End", "Endpkt.", RahmenEnde, 0),
+      EndWinkel(*this, "EndWinkel", "Winkel", {0, 6}, RahmenEnde),
+      EndZiel(*this, "EndZiel", "Zielpkt.", RahmenEnde, 1) {
   for (const auto& A : Abweichungen)
     Ergebnisse.push_back(&Ergebnisfeld(A.Rest, A.Label, A.Ort, "Abweichungen"));
   for (Auswahl* A : {&OptionAnschluss, &OptionAbschluss, OptionKlasse[0], &OptionWinkel, &OptionMit})
     A->Gewählt = true;
+  OptionMit.Gruppe = OptionOhne.Gruppe = 1;
   for (const auto& S : Steuerelemente()) {
     if (auto* A = dynamic_cast<Auswahl*>(S.get())) A->BeiWahl = [this] { ZielAnAus(); };
   }
   for (Punktfeld* P : {&AnfZiel, &Anf, &End, &EndZiel}) P->BeiWechsel = [this] { NeuRechnen(); };
-  for (const char* Rahmen : {RahmenAnfang, RahmenEnde}) PunktfeldKopf(*this, Rahmen);
+  for (Messfeld* M : {&AnfWinkel, &AnfStrecke, &EndWinkel}) M->BeiWechsel = [this] { NeuRechnen(); };
+  PunktfeldKopf(*this, RahmenAnfang);
   ZugNr.BeiReturn = [this] { FokusSetzen(OptionAnschluss.Gewählt ? AnfZiel.Pnr : Anf.Pnr); };
-  AnfWinkel.Hilfe = EndWinkel.Hilfe = "Brechungswinkel in gon, rechtsläufig vom rückwärtigen Ziel";
+  AnfWinkel.Eingabe.Hilfe = EndWinkel.Eingabe.Hilfe =
+      "Brechungswinkel in gon, rechtsläufig vom rückwärtigen Ziel";
   ListenknöpfeAnlegen();
 }
 
@@ -86,8 +85,8 @@ void TVPolygonForm::ZielAnAus() {
   const bool Anschluss = OptionAnschluss.Gewählt;
   if (!Anschluss) OptionAbschluss.Gewählt = false;
   OptionAbschluss.Aktiv = Anschluss && !ImStapel();
-  AnfZiel.Pnr.Aktiv = AnfWinkel.Aktiv = Anschluss;
-  EndZiel.Pnr.Aktiv = EndWinkel.Aktiv = *OptionAbschluss.Gewählt;
+  AnfZiel.Pnr.Aktiv = AnfWinkel.Eingabe.Aktiv = Anschluss;
+  EndZiel.Pnr.Aktiv = EndWinkel.Eingabe.Aktiv = *OptionAbschluss.Gewählt;
   NeuRechnen();
 }
 
@@ -114,8 +113,8 @@ Listenmangel TVPolygonForm::Rechnen() {
         {Reihe(z).Pnr, Reihe(z).Maße[MaßWinkel], Reihe(z).Maße[MaßStrecke], Reihe(z).Symbol});
   ZugBereinigen(Eingabe, Bekannte);
   const Zugmangel M = ZugRechnen(Eingabe, Bekannte, Rechnung);
-  Eingabeelement* const Stellen[] = {&AnfZiel.Pnr,   &Anf.Pnr, &AnfWinkel, &AnfStrecke,
-                                     &PolygonGitter, &End.Pnr, &EndWinkel, &EndZiel.Pnr};
+  Eingabeelement* const Stellen[] = {&AnfZiel.Pnr,   &Anf.Pnr, &AnfWinkel.Eingabe, &AnfStrecke.Eingabe,
+                                     &PolygonGitter, &End.Pnr, &EndWinkel.Eingabe, &EndZiel.Pnr};
   return {M.Text, M.Zeile, M.Spalte, Stellen[static_cast<int>(M.Wo)], M.Unfertig};
 }
 
@@ -164,7 +163,8 @@ int TVPolygonForm::PunkteEintragen(Listenakte& A) {
 }
 
 void TVPolygonForm::FelderLeeren() {
-  for (Feld* F : {&ZugNr, &AnfWinkel, &AnfStrecke, &EndWinkel}) F->Text = "";
+  ZugNr.Text = "";
+  for (Messfeld* M : {&AnfWinkel, &AnfStrecke, &EndWinkel}) M->Leeren();
   for (Punktfeld* P : {&AnfZiel, &Anf, &End, &EndZiel}) {
     P->Pnr.Text = "";
     static_cast<void>(P->Setzen());  // there is none
@@ -182,9 +182,9 @@ int TVPolygonForm::BlockLesen() {
   OptionWinkel.Gewählt = E.WinkelVerteilen;
   OptionMit.Gewählt = E.LinearVerteilen;
   OptionOhne.Gewählt = !E.LinearVerteilen;
-  for (const auto& [F, x] :
-       {std::pair{&AnfWinkel, E.AnfWinkel}, {&AnfStrecke, E.AnfStrecke}, {&EndWinkel, E.EndWinkel}})
-    F->Text = Messwerttext(x);
+  AnfWinkel.Setzen(E.AnfWinkel);
+  AnfStrecke.Setzen(E.AnfStrecke);
+  EndWinkel.Setzen(E.EndWinkel);
   ZielAnAus();
   if (E.Anschluss && AnfZiel.AusStapel(E.AnfZielPnr) < 0) return -1;
   if (Anf.AusStapel(E.AnfPnr) < 0 || (!E.EndPnr.empty() && End.AusStapel(E.EndPnr) < 0)) return -1;

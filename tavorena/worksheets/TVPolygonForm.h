@@ -4,6 +4,7 @@
 
 #include <tavorena/graphics/Markierung.h>
 #include <tavorena/worksheets/Listenblatt.h>
+#include <tavorena/worksheets/Messfeld.h>
 #include <tavorena/worksheets/Zugrechnung.h>
 
 namespace tavorena {
@@ -35,10 +36,10 @@ class TVPolygonForm final : public Listenblatt {
   std::array<Auswahl*, 3> OptionKlasse;  // as Zugklasse
   Auswahl &OptionWinkel, &OptionMit, &OptionOhne;
   Punktfeld AnfZiel, Anf;
-  Feld &AnfWinkel, &AnfStrecke;
+  Messfeld AnfWinkel, AnfStrecke;
   Gitter& PolygonGitter;
   Punktfeld End;
-  Feld& EndWinkel;
+  Messfeld EndWinkel;
   Punktfeld EndZiel;
   std::vector<Feld*> Ergebnisse;
   Zugeingabe Eingabe;  // as it was computed last
