@@ -13,6 +13,7 @@
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelblock.h>
@@ -20,7 +21,6 @@
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/worksheets/Blattart.h>
-#include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena::fuzz {
 namespace {

@@ -2,7 +2,9 @@
 #include <utility>
 
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/forms/Formular.h>
+#include <tavorena/forms/Punktnummer.h>
 
 namespace tavorena {
 
@@ -157,7 +159,14 @@ bool Formular::Lesen(Eingabeelement& E) {
 // Reads the control with the focus.
 bool Formular::Verlassen() {
   auto* E = dynamic_cast<Eingabeelement*>(Aktuell);
-  return E == nullptr || Lesen(*E);
+  if (E == nullptr) return true;
+  const std::string Letzte = LetztePunktnummer;
+  // What reads the field may know the number in another form.
+  if (std::exchange(Nummernfeld, nullptr) == E && *E->Text != NummerVorher && !E->Text->empty())
+    LetztePunktnummer = Trimmen(*E->Text);
+  if (Lesen(*E)) return true;
+  LetztePunktnummer = Letzte;
+  return false;
 }
 
 // ---- what the user does -------------------------------------------------------------------------------
@@ -190,6 +199,7 @@ void Formular::Tippen(Eingabeelement& E, const std::string& Text) {
     if (G != nullptr) {
       G->InhaltSetzen(G->Zeile, G->Spalte, Text);
     } else {
+      if (E.IstPnr && std::exchange(Nummernfeld, &E) != &E) NummerVorher = *E.Text;
       E.Text = Text;
     }
     if (E.BeiText) E.BeiText();
@@ -203,11 +213,25 @@ bool Formular::TasteDrücken(Taste T) {
     if (NimmtFokus(*Aktuell)) {  // it may have been closed since
       if (TasteUnten(*Aktuell, T)) return;
       if (auto* G = dynamic_cast<Gitter*>(Aktuell); G != nullptr && GitterTaste(*G, T)) return;
+      if (NummerZählen(T)) return;
       if (T == Taste::Return) return ReturnDrücken();
     }
     Genommen = T == Taste::Escape && EscapeDrücken();
   });
   return Genommen;
+}
+
+// "+" and "-" step the number entered last, in the place of what stands in a field or column of numbers.
+bool Formular::NummerZählen(Taste T) {
+  auto* const E = dynamic_cast<Eingabeelement*>(Aktuell);
+  if (E == nullptr || !E->IstPnr || E->NurLesen || (T != Taste::Plus && T != Taste::Minus)) return false;
+  if (const auto* G = dynamic_cast<const Gitter*>(E); G != nullptr && *G->Spalte != G->Nummernspalte())
+    return false;
+  const std::string Neu = PunktnummerSchritt(T == Taste::Plus ? 1 : -1);
+  if (Neu.empty()) return false;
+  LetztePunktnummer = Neu;
+  Tippen(*E, Neu);
+  return true;
 }
 
 // A grid that is only looked at knows the arrows alone, and the keys of the marks.

@@ -160,6 +160,7 @@ class Formular {
   Art& Anlegen(std::string Name, std::string Text, Platz Ort, std::string Rahmen);
   void Melden();
   [[nodiscard]] bool Verlassen();
+  [[nodiscard]] bool NummerZählen(Taste T);
   bool GitterTaste(Gitter& G, Taste T);
   void ReturnDrücken();
   bool EscapeDrücken();
@@ -167,6 +168,8 @@ class Formular {
 
   std::vector<std::unique_ptr<Steuerelement>> Liste;
   Steuerelement* Aktuell = nullptr;
+  const Eingabeelement* Nummernfeld = nullptr;  // a number was typed into it that is not read yet
+  std::string NummerVorher;                     // what stood there
   FormularBeobachter* Beobachter = nullptr;
   bool IstOffen = false;
   int Tiefe = 0;            // events running inside each other

@@ -5,6 +5,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/points/Punkteingabe.h>
 #include <tavorena/points/Punktverwaltung.h>
@@ -250,6 +251,7 @@ bool TVKernKoordinatenEditor::NeueSchreiben() {
     Zellen->Spalte = EditorPnr;
     return false;
   }
+  LetztePunktnummer = P.Pnr;
   Zellen->EntwurfVerwerfen();
   if (Code != NeupunktCode::NeuerVerworfen) NeueGeschrieben(P);
   if (Code != NeupunktCode::Neu && Code != NeupunktCode::NeuerNeunum) Zeilen.Auffrischen();

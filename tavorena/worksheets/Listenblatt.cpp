@@ -7,6 +7,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Listenblatt.h>
 #include <tavorena/worksheets/Punktablage.h>

@@ -1,5 +1,6 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Punktfeld.h>
 #include <tavorena/worksheets/TVFormularmodul.h>

@@ -3,9 +3,9 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Punktgitter.h>
-#include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
 

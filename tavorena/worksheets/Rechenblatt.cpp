@@ -6,7 +6,6 @@
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Rechenblatt.h>
-#include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
 namespace {
@@ -172,20 +171,12 @@ void Rechenblatt::StapelBlattEnde() {
   if (Stapel.Aktiv) StapelWeiter();
 }
 
-bool Rechenblatt::TasteUnten(Steuerelement& S, Taste T) {
+bool Rechenblatt::TasteUnten(Steuerelement& /*S*/, Taste T) {
   if (T == Taste::Escape && VomStapel && Stapel.Aktiv) {
     StapelAnhalten();
     return true;
   }
-  auto* const E = dynamic_cast<Eingabeelement*>(&S);
-  if (E == nullptr || !E->IstPnr || E->NurLesen || (T != Taste::Plus && T != Taste::Minus)) return false;
-  if (const auto* G = dynamic_cast<const Gitter*>(E); G != nullptr && *G->Spalte != G->Nummernspalte())
-    return false;
-  const std::string Neu = PunktnummerSchritt(T == Taste::Plus ? 1 : -1);
-  if (Neu.empty()) return false;
-  LetztePunktnummer = Neu;
-  Tippen(*E, Neu);
-  return true;
+  return false;
 }
 
 bool Rechenblatt::DarfSchließen() {

@@ -8,8 +8,6 @@
 
 namespace tavorena {
 
-std::string LetztePunktnummer;
-
 namespace {
 
 constexpr int Messdezimalen = 4;  // decimals of a value in the batch file
@@ -17,11 +15,6 @@ constexpr int Messdezimalen = 4;  // decimals of a value in the batch file
 std::string Gespeichert(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommaSpeichern); }
 
 }  // namespace
-
-std::string PunktnummerSchritt(int Schritt) {
-  const double Letzte = ZahlAusText(LetztePunktnummer);
-  return Letzte == 0 ? std::string() : ZahlNachText(Letzte + Schritt).Text();
-}
 
 std::string Längentext(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommastellen); }
 

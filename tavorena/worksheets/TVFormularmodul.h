@@ -5,16 +5,10 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Wert.h>
 
-// What the worksheets share besides their frame: the last point number, the texts of their fields and the way
+// What the worksheets share besides their frame: the texts of their fields and the way
 // of a computed point into the table.
 
 namespace tavorena {
-
-/// The point number entered last; the keys "+" and "-" step it. Shared by all open worksheets.
-extern std::string LetztePunktnummer;
-
-/// The last point number raised by Schritt, as a plain number; "" if its numeric prefix is 0.
-std::string PunktnummerSchritt(int Schritt);
 
 /// Text of a coordinate or a computed length in a field: OptNachkommastellen decimals, no blanks.
 std::string Längentext(const Wert& Zahl);

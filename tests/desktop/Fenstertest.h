@@ -17,6 +17,7 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/graphics/GrafDesign.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
@@ -27,7 +28,6 @@
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
-#include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena::test {
 

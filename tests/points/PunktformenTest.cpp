@@ -56,7 +56,8 @@ TEST_F(Punktformen, Löschen) {
   TVPLoeschForm Form;
   Form.Öffnen();
   Gitter& Liste = Gitterfeld(Form);
-  EXPECT_EQ(Tippe(Form, "LoeschPnr", "2\n"), "LoeschPnr");
+  EXPECT_EQ(Tippe(Form, "LoeschPnr", "2\n+"), "LoeschPnr");
+  EXPECT_EQ(Text(Form, "LoeschPnr"), "3");  // behind the number entered last
   Skript.Erwarte("Punkt 9 nicht vorhanden");
   Tippe(Form, "LoeschPnr", "1\n9\n");
   Form.Markieren(Liste, 0, false);

@@ -60,6 +60,8 @@ TEST_F(Koordinateneditor, EingebenBisZumGenommenenPunkt) {
   EXPECT_TRUE(
       Gleich(Nummern(), "1 2 2 3 7 8A ", KorHoehe[4], 12.346, KorInfo[4].Punktart, 20, Zelle(), Paar(1, 0)));
   EXPECT_TRUE(Gleich(Protokoll("VR 25.10"), 1, Protokoll("5600100.500"), 1));
+  Tippe("++");
+  EXPECT_EQ(G->Inhalt(1, 0), "9");  // two behind the one that was taken
   // What can not be taken is told, and the cell stays with its text.
   const struct {
     int Spalte;

@@ -3,6 +3,7 @@
 #include "Aktentest.h"
 #include "Formulartest.h"
 
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
