@@ -3,6 +3,7 @@
 
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/graphics/Grafikfenster.h>
 
 namespace tavorena::test {
 namespace {
@@ -147,6 +148,123 @@ TEST_F(HelmertTest, SchreibtIhreDateien) {
   EXPECT_TRUE(Gleich(Tabellentext(), Nachher, Stapel.Bilanz.Fehler, false, *Blätter[0]->Titel,
                      "Tavorena Helmert- Transformation [Stapel]", *Blätter[2]->Titel,
                      "Tavorena Affin- Transformation [Stapel]"));
+}
+
+// By position, with different numbers: one point is not enough, two at one place are no choice. A stop, a
+// change of the table and a no leave nothing behind.
+TEST_F(HelmertTest, NachLageUndWasSieAufhält) {
+  const auto Status = [&] { return Trimmen(Skript.Status[4]); };
+  const auto Lage = [&](const char* Radius) {
+    Skript.Formulare.push_back(Bediene({{"Wert(0)", std::string(Radius) + "\n"}}));
+    Drücke(*B, "HelmertLage");
+  };
+  Tippe(*B, "HelmertDatei",
+        Neu("neu.kor", {{"1", 3500100.01, 5600200},
+                        {"2", 3500160, 5600280.01},
+                        {"3", 3500160.01, 5600280},
+                        {"4", 3500220, 5600360.02}}) +
+            "\n");
+  Lage("0.05");
+  EXPECT_TRUE(Gleich(Status(), "3 Paßpunkte, mehrfach und ausgelassen: 1", Gitterzeile(G, 2)[4], "4"));
+  Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
+  Lage("1");
+  EXPECT_TRUE(Gleich(Status(), "Angehalten", G.Zeilen(), 4));
+  Wähle("HelmertVerteilen");
+  const std::string Vorher = Tabellentext();
+  Transformiere();
+  EXPECT_TRUE(
+      Gleich(Status(), "Angehalten, nichts ist transformiert", Tabellentext(), Vorher, Stapeltext(), ""));
+  Skript.BeiEreignissen = [] {};
+  static_cast<void>(KorLoeschen(KorSuche(std::string_view("1002"))));
+  B->Nachsehen();
+  EXPECT_TRUE(Gleich(Status(), "1 Paßpunkt ist nicht mehr in der Tabelle", G.Zeilen(), 3));
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfJa);
+  Skript.Erwarte("Alle Koordinaten transformieren ?", KnopfNein);
+  B->SchließenVerlangen();
+  EXPECT_TRUE(Gleich(B->Offen(), true, Protokoll(), ""));
+  GrafikFenster = {true, 400, 400, 2, 3500050, 5600190, 200, 200, 0, 0, 0, 0, false};
+  const auto Scheiben = [] {
+    const Texte Bild = Gezeichnet();
+    return std::count_if(Bild.begin(), Bild.end(),
+                         [](const std::string& Z) { return Z.starts_with("Scheibe"); });
+  };
+  EXPECT_EQ(Scheiben(), 2);
+  Transformiere();
+  EXPECT_EQ(Scheiben(), 0);  // what belongs to the old system goes
+  GrafikFenster = {};
+}
+
+TEST_F(HelmertTest, SagtWasFehlt) {
+  const auto Status = [&] { return Trimmen(Skript.Status[4]); };
+  Schreibe(Ordner.Pfad("leer.kor"), "\r\n");
+  KoordinatendateiName = Neu("offen.kor", {{"1", 1, 1}});
+  for (const auto& [Datei, Meldung] : {std::pair{"fehlt.kor", "Datei nicht gefunden:"},
+                                       {"leer.kor", "Keine Punkte in"},
+                                       {"a.lt4", "nur aus KOR-Dateien"},
+                                       {"offen.kor", "die geöffnete Koordinatendatei"}}) {
+    Skript.Erwarte(Meldung);
+    EXPECT_EQ(Tippe(*B, "HelmertDatei", Ordner.Pfad(Datei) + "\n"), "HelmertDatei") << Datei;
+  }
+  // Beside the open file a name is enough.
+  Neu("neu.kor", {{"1001", 0, 0}, {"1002", 10, 10}, {"2003", 20, 20}, {"5", 5, 5}, {"-", 6, 6}});
+  EXPECT_EQ(Tippe(*B, "HelmertDatei", "neu\n"), "HelmertGleich");
+  Skript.Erwarte("Fehler bei der Transformationsberechnung:\nzu wenig Paßpunkte !");
+  EXPECT_EQ(Drücke(*B, "HelmertTransformieren"), "HelmertGitter");
+  for (const auto& [Getippt, Grund] :
+       {std::pair{"1001\n9\n", "Paßpunkt 9 fehlt im neuen System"},
+        {"1001\n1001\n1001\n\n", "Punkt 1001 steht schon in Zeile 1"},
+        {"1002\n1001\n", "Punkt 1001 des neuen Systems steht schon in Zeile 1"},
+        {"2004\n-\n", "Punktnummer mit Leerzeichen"}}) {
+    B->TasteDrücken(Taste::Escape);
+    B->ZelleWechseln(G, G.Zeilen() - 1, 1);
+    EXPECT_EQ(Tippe(*B, "HelmertGitter", Getippt), "HelmertGitter");
+    EXPECT_TRUE(Gleich(Status(), Grund, G.Fehlerhaft, true));
+  }
+  B->TasteDrücken(Taste::Escape);
+  Drücke(*B, "HelmertGleich");
+  Skript.Erwarte("Fixpunkt nicht in beiden Systemen vorhanden !");
+  EXPECT_EQ(Tippe(*B, "HelmertFixPnr", "2004\n"), "HelmertFixPnr");
+  Wähle("HelmertOptionAffin");
+  EXPECT_TRUE(
+      Gleich(Text(*B, "HelmertHinweis"), "", Text(*B, "HelmertMK"), "ohne"));  // it has no fixed point
+  B->ZelleWechseln(G, 1, 1);
+  Drücke(*B, "HelmertDelete");
+  EXPECT_TRUE(Gleich(Text(*B, "HelmertHinweis"), "Paßpunkte liegen auf einer Geraden",
+                     *Element(*B, "HelmertTransformieren").Aktiv, false));
+  Wähle("HelmertOptionHelmert");
+  B->Tippen(Feld(*B, "HelmertFixPnr"), "");
+  for (const char* Pnr : {"1001", "2003"})
+    static_cast<void>(KorZeileSetzen(KorSuche(std::string_view(Pnr)), {Pnr, 7, 7}));
+  B->Nachsehen();
+  Skript.Erwarte("Versuchte Division durch Null !\nAnzahl der Paßpunkte:  2");
+  Drücke(*B, "HelmertTransformieren");
+  EXPECT_TRUE(Gleich(Protokoll(), "", Stapeltext(), ""));
+}
+
+// A block that can not be calculated ends the run with its reason, and the table stays.
+TEST_F(HelmertTest, NachlaufNenntDenGrund) {
+  Neu("neu.kor", {{"1001", 0, 0}, {"1002", 60, 80}, {"2003", 30, 40}, {"5", 0, 75}});
+  const std::string Vorher = Tabellentext();
+  for (const auto& [Sätze, Grund] :
+       {std::pair{"NEUESSYSTEM weg.kor\nPASSP 1001\nPASSP 1002", "Neues System nicht gefunden: weg.kor"},
+        {"NEUESSYSTEM neu.kor\nPASSP 1001\nPASSP 77", "Paßpunkt 77 fehlt"},
+        {"NEUESSYSTEM neu.kor\nPASSP 1001\nPASSP 2004", "Paßpunkt 2004 fehlt im neuen System"},
+        {"NEUESSYSTEM neu.kor\nPASSP 1001\nKEINPASSP 2004 1001", "Paßpunkt 2004 steht zweimal"},
+        {"NEUESSYSTEM neu.kor\nPASSP 1001\nKEINPASSP 2004 5", "zu wenig Paßpunkte !"},
+        {"NEUESSYSTEM neu.kor\nPASSP 1001\nPASSP 1002\nPARAM FIX 2004",
+         "Fixpunkt nicht in beiden Systemen vorhanden !"},
+        {"PASSP 1001\nPASSP 1002", "NEUESSYSTEM"}}) {
+    Schreibe(StapelDatei.Name, "M  VR 24.00 Helmert- Transformation\n" + std::string(Sätze) + "\nE Ende\n");
+    Skript.Erwarte(Grund);
+    EXPECT_EQ(Nachlauf(), "") << Grund;
+    EXPECT_TRUE(Gleich(Stapel.Bilanz.Fehler, true, Tabellentext(), Vorher));
+  }
+  Schreibe(StapelDatei.Name,
+           "m vr at\nneuessystem c:\\weg\\neu.kor\npassp 1001\npassp 1002\npassp 2003\ne\n");
+  KorAbbilden([](const KorSpalten& S) { return S.Rechts[2] = 3500130, S.Hoch[2] = 5600240, 0; });
+  Skript.Erwarte("Keine Berechnung, Passpunkte liegen auf einer Geraden");
+  EXPECT_EQ(
+      Anzahl(Nachlauf(), "      ****** Keine Berechnung, Passpunkte liegen auf einer Geraden ******\r\n"), 1);
 }
 
 }  // namespace
