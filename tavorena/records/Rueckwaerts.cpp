@@ -33,14 +33,15 @@ Rueckwaertsurteil RueckwaertsUrteil(const Protrueckwaerts& R) {
   Rueckwaertsurteil U;
   const auto Sagen = [&U](Warnung W, const std::string& Text) {
     U.Texte.push_back("      " + Sterne(W) + " " + Text + " " + Sterne(W));
-    U.Marke = W;
+    return U.Marke = W;
   };
   const double t1 = R.Tau1, t2 = R.Tau2;
   if (Winkel(R.Punkte[0], R.Punkte[1]) > 200 || Winkel(R.Punkte[1], R.Punkte[2]) > 200)
     Sagen(Warnung::Voll, "Beobachtete Winkel > 200 gon");
   if (t1 < 20 || t1 > 180)
-    Sagen(t1 < 5 || t1 > 195 ? Warnung::Voll : Warnung::Früh, "ungünstige Verteilung der Anschlußpunkte");
-  if (t2 < 20) Sagen(t2 < 5 ? Warnung::Voll : Warnung::Früh, "Gefährlicher Kreis");
+    U.Verteilung =
+        Sagen(t1 < 5 || t1 > 195 ? Warnung::Voll : Warnung::Früh, "ungünstige Verteilung der Anschlußpunkte");
+  if (t2 < 20) U.Kreis = Sagen(t2 < 5 ? Warnung::Voll : Warnung::Früh, "Gefährlicher Kreis");
   return U;
 }
 

@@ -27,8 +27,9 @@ struct Protrueckwaerts {
 
 /// What is said of a resection, whatever the warning level.
 struct Rueckwaertsurteil {
-  std::vector<std::string> Texte;  ///< of all tests that fire, in their order
-  Warnung Marke = Warnung::Keine;  ///< of the last one
+  std::vector<std::string> Texte;                               ///< of all tests that fire, in their order
+  Warnung Marke = Warnung::Keine;                               ///< of the last one
+  Warnung Verteilung = Warnung::Keine, Kreis = Warnung::Keine;  ///< what τ1 and τ2 alone say
 };
 [[nodiscard]] Rueckwaertsurteil RueckwaertsUrteil(const Protrueckwaerts& R);
 

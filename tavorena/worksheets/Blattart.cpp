@@ -12,6 +12,8 @@
 #include <tavorena/worksheets/TVPolarForm.h>
 #include <tavorena/worksheets/TVPolelForm.h>
 #include <tavorena/worksheets/TVPolygonForm.h>
+#include <tavorena/worksheets/TVRueckwaertsschnittForm.h>
+#include <tavorena/worksheets/TVVorwaertsschnittForm.h>
 
 namespace tavorena {
 namespace {
@@ -113,6 +115,26 @@ constexpr Blattart Arten[] = {
      4180,
      "bogenschnitt.md",
      Neu<TVIntbbForm>},
+    {"TVVorwaertsschnittForm",
+     "Vorw",
+     "VR 10.00 Vorwärtsschnitt",
+     "Tavorena Vorwärtsschnitt [Stapel]",
+     "Berechnung Vorwärtsschnitt",
+     {"10.00", "VS"},
+     "MenüKatasterVorw",
+     4200,
+     "vorwaertsschnitt.md",
+     Neu<TVVorwaertsschnittForm>},
+    {"TVRueckwaertsschnittForm",
+     "Rueck",
+     "VR 11.00 Rückwärtsschnitt",
+     "Tavorena Rückwärtsschnitt [Stapel]",
+     "Berechnung Rückwärtsschnitt",
+     {"11.00", "RS"},
+     "MenüKatasterRueck",
+     4210,
+     "rueckwaertsschnitt.md",
+     Neu<TVRueckwaertsschnittForm>},
     {"TVPolygonForm",
      "Polygon",
      "VR 19.10 Polygonzüge",

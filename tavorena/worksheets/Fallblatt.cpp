@@ -123,9 +123,9 @@ Fallpunkt& Fallblatt::LösungAnlegen(const char* Welcher, const char* Label, boo
   return L;
 }
 
-Feld& Fallblatt::ErgebnisAnlegen(const std::string& Rest, const char* Label, int Spalte) {
-  BeschriftungAnlegen(Label, {0, Spalte}, RahmenErgebnis);
-  Feld& F = ErgebnisfeldAnlegen(Mit(Rest), {0, Spalte + 1}, RahmenErgebnis, Längenbreite(6));
+Feld& Fallblatt::ErgebnisAnlegen(const std::string& Rest, const char* Label, int Spalte, int Zeile) {
+  BeschriftungAnlegen(Label, {Zeile, Spalte}, RahmenErgebnis);
+  Feld& F = ErgebnisfeldAnlegen(Mit(Rest), {Zeile, Spalte + 1}, RahmenErgebnis, Längenbreite(6));
   Figuren.push_back(&F);
   return F;
 }
@@ -151,7 +151,12 @@ void Fallblatt::EingabeGeändert() {
   Neubild.Löschen();
   for (Fallpunkt& L : Lösungen) L.Veraltet();
   Bildzeichnen();
-  if (Lösungen.empty() && Fehlt() == nullptr) FallRechnen();
+  if (Lösungen.empty()) FallRechnen();
+}
+
+void Fallblatt::OptionGeändert() {
+  EingabeGeändert();
+  if (Fehlt() == nullptr) FallRechnen();
 }
 
 void Fallblatt::BeiTabelle() {
@@ -183,7 +188,8 @@ void Fallblatt::FallRechnen() {
   Neubild.Löschen();
   Grund = "Eingabe unvollständig";
   Grundfeld = nullptr;
-  if (Fehlt() == nullptr) {
+  const bool Ganz = Fehlt() == nullptr;
+  if (Ganz) {
     Grund = Rechnen();
   } else {
     Unvollständig();
@@ -194,7 +200,23 @@ void Fallblatt::FallRechnen() {
   for (const Fallpunkt& L : Lösungen) {
     if (L.Da()) Neubild.Punkt({L.Name, L.Ort.RW, L.Ort.HW, "", FarbeBlau});
   }
-  if (!Grund.empty()) StatusHilfeSetzen(Grund);
+  if (!Grund.empty() && (Ganz || !Schweigt())) StatusHilfeSetzen(Grund);
+}
+
+void Fallblatt::NichtsZeigen() {
+  for (Fallpunkt& L : Lösungen) L.Entfällt();
+  for (Feld* F : Figuren) {
+    F->Text = "";
+    F->Fehlerhaft = false;
+  }
+}
+
+bool Fallblatt::ErstmalsGesagt() {
+  if (ImStapel()) return false;
+  std::vector<double> Zahlen;
+  for (const Punktfeld& P : Punkte) Zahlen.insert(Zahlen.end(), {P.Ort().RW, P.Ort().HW});
+  for (const Messfeld& M : Maße) Zahlen.push_back(M.Zahl());
+  return std::exchange(Gesagt, Zahlen) != Zahlen;
 }
 
 // A number of a known point of the case, or of its other solution, would overwrite what it comes from.
@@ -324,6 +346,7 @@ void Fallblatt::Merken(Aufzeichnung::Spur Wo) {
     const Block Zeile = Streichzeile(L);
     F.Gestrichen.Zeilen.insert(F.Gestrichen.Zeilen.end(), Zeile.Zeilen.begin(), Zeile.Zeilen.end());
   }
+  if (F.Gestrichen.Zeilen.empty()) F.Gestrichen = StreichzeilenOhnePunkt();
   F.Ablagen = std::exchange(Getan, {});
   Fälle.push_back(std::move(F));
   KnopfZurück->Aktiv = true;
@@ -348,14 +371,11 @@ void Fallblatt::Zurück() {
   PunkteZurück(F.Ablagen, F.Pnr);
 }
 
-// The next case: only the known points stay.
+// The next case: only the known points stay, and what is shown of a case that stores nothing.
 void Fallblatt::Reset() {
   for (Messfeld& M : Maße) M.Leeren();
   for (Fallpunkt& L : Lösungen) L.Leeren();
-  for (Feld* F : Figuren) {
-    F->Text = "";
-    F->Fehlerhaft = false;
-  }
+  if (!Lösungen.empty()) NichtsZeigen();
   Getan.clear();
   Gerechnet = false;
   Neubild.Löschen();
@@ -368,6 +388,8 @@ void Fallblatt::FelderClear() {
     P.Pnr.Fehlerhaft = false;
     P.Leeren();
   }
+  Gesagt.clear();
+  NichtsZeigen();
   Reset();
   FokusSetzen(Punkte.front().Pnr);
 }

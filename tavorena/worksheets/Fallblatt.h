@@ -76,7 +76,7 @@ class Fallblatt : public Rechenblatt {
   /// @param[in] Welcher  end of its control names; also its name in the view
   Fallpunkt& LösungAnlegen(const char* Welcher, const char* Label, bool MitSymbol = true);
   /// A figure beside the solutions. @param[in] Rest  of its control name
-  Feld& ErgebnisAnlegen(const std::string& Rest, const char* Label, int Spalte);
+  Feld& ErgebnisAnlegen(const std::string& Rest, const char* Label, int Spalte, int Zeile = 0);
   /// The buttons: the last controls.
   void FallAnlegen();
 
@@ -93,10 +93,14 @@ class Fallblatt : public Rechenblatt {
   Feld* Grundfeld = nullptr;
   /// Something that it needs is missing.
   virtual void Unvollständig() {}
+  /// That is not even told before Return asks for it.
+  [[nodiscard]] virtual bool Schweigt() const { return false; }
   /// Its lines in the protocol.
   [[nodiscard]] virtual Block Protokollieren() = 0;
   /// The row of a solution alone, with what stands behind it: the case is taken back.
   [[nodiscard]] virtual Block Streichzeile(const Fallpunkt& L) = 0;
+  /// What is struck of a case of which nothing was stored.
+  [[nodiscard]] virtual Block StreichzeilenOhnePunkt() { return {}; }
   /// Its records.
   [[nodiscard]] virtual std::vector<std::string> Sätze() = 0;
   /// Reads the block of a case into the fields. @return 0; -1 error, already told
@@ -112,8 +116,14 @@ class Fallblatt : public Rechenblatt {
   /// The notes of the numbers that were taken, below their rows.
   [[nodiscard]] std::vector<std::string> Notiz(std::size_t Lösung) const;
 
-  /// An option was changed: the case is not computed any more.
+  /// Empties solutions and figures, but for what is typed there.
+  void NichtsZeigen();
+  /// A box about the figures as they are typed is due: once, and never in a replay.
+  [[nodiscard]] bool ErstmalsGesagt();
+  /// What is typed was changed: the case is not computed any more.
   void EingabeGeändert();
+  /// An option was changed: what is shown follows at once.
+  void OptionGeändert();
   /// Computes it anew if something has changed since.
   void FallRechnen();
 
@@ -155,6 +165,7 @@ class Fallblatt : public Rechenblatt {
   std::vector<Feld*> Figuren;      // what is shown beside the solutions
   std::string Grund;               // why there is nothing to write; "": there is
   bool Gerechnet = false;          // Grund and solutions belong to what is typed
+  std::vector<double> Gesagt;      // figures that a box told of
   std::uint64_t Stand = 0;         // of the table when it was computed
   bool StapelErledigt = false;     // the case of a replay is written or left out
   std::vector<Punktablage> Getan;  // what storing the solutions did

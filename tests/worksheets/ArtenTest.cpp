@@ -28,6 +28,10 @@ const Auftrag Aufträge[] = {
      "Zug "
      "7\n2003\n1001\n127,5291\n30\n3001\n267,1799\n27,713\n015\n3002\n141,3728\n30\n\n\n1002\n171\n2005\n",
      "PolygonErzeugen"},
+    {"10.00", "VorwFernPnr1",
+     "2004\n10\n1001\n39,5167\n98,5\n2005\n0\n1002\n45,6\n101,25\n3001\n015\n"
+     "2004\n0\n1001\n41\n\n2005\n0\n1002\n2,1\n\n3002\n\n"},
+    {"11.00", "Rueck_Pnr1", "2003\n0\n1002\n11,5\n2005\n31,1\n3001\n\n1001\n0\n1002\n4\n2005\n7\n3002\n7\n"},
     {"24.00", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
     {"24.30", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
 };

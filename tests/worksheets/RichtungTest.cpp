@@ -1,0 +1,116 @@
+#include "Blattest.h"
+
+#include <cmath>
+
+#include <tavorena/core/Optionen.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/records/Stapelleser.h>
+
+namespace tavorena::test {
+namespace {
+
+class RichtungTest : public Blatttest {
+ protected:
+  [[nodiscard]] std::string Status() const { return Trimmen(Skript.Status[4]); }
+  static KorSatz Satz(const char* Pnr) { return KorPunkt(KorSuche(std::string_view(Pnr))); }
+};
+
+// Constructed: 3500130 5600260 is seen from both stations; without all heights it gets none.
+TEST_F(RichtungTest, VorwärtsschnitteSchreibenIhreDateien) {
+  Punkt("1006", 3500100, 5600300);
+  Punkt("1007", 3500160, 5600200);
+  Punkt("1008", 3500200, 5600300);
+  Punkt("1009", 3500160, 5600200, 12.8);
+  // Published: Ghilani, Wolf: Elementary Surveying, two lines with known azimuths (feet).
+  Punkt("11", 1425.07, 1971.28);
+  Punkt("12", 1425.07, 9999);
+  Punkt("21", 7484.80, 5209.64);
+  Punkt("22", 7484.80, 9999);
+  auto B = Öffne("10.00");
+  Skript.Status[4].clear();
+  EXPECT_EQ(Tippe(*B, "VorwFernPnr1", "1006\n10\n1001\n39,5167\n95\n1008\n20\n1007\n\n95,5\n"),
+            "Vorw_NeuPnr");
+  EXPECT_TRUE(Gleich(Text(*B, "Vorw_NeuRechts"), "", Text(*B, "VorwTau"), "", Status(), ""));
+  EXPECT_EQ(Tippe(*B, "Vorw_NeuPnr", "2012\n\n"), "VorwNeuRichtung2");
+  EXPECT_EQ(Status(), "Wert fehlt");
+  Tippe(*B, "VorwNeuRichtung2", "366,2595\n\n");
+  EXPECT_TRUE(Gleich(Text(*B, "Vorw_NeuRechts"), "3500130.000", Text(*B, "Vorw_NeuHoch"), "5600260.000",
+                     Text(*B, "VorwTau"), "59.0334", Status(), "Höhe von 1007 fehlt"));
+  EXPECT_EQ(Tippe(*B, "Vorw_NeuPnr", "\n015\n"), "VorwFernPnr1");
+  EXPECT_TRUE(Gleich(Satz("2012").Hoehe, 0, Text(*B, "VorwStandPnr2"), "1007"));
+  // 67.082 m: 12.5 + 5.279 from the one station, 12.8 + 4.750 from the other
+  Tippe(*B, "VorwFernPnr1", "\n10\n\n39,5167\n95\n\n20\n1009\n366,2595\n95,5\n");
+  EXPECT_TRUE(Gleich(Text(*B, "VorwNeuHoehe"), "17.665", Text(*B, "VorwParallaxe"), "-0.230"));
+  Tippe(*B, "Vorw_NeuPnr", "2013\n\n");
+  EXPECT_NEAR(Satz("2013").Hoehe, 17.665, 1e-3);
+  Tippe(*B, "VorwFernPnr1", "12\n0\n11\n84,5259\n\n22\n0\n21\n157,2272\n\n");
+  EXPECT_EQ(Status(), "Höhe von 11, 21 fehlt");
+  Tippe(*B, "Vorw_NeuPnr", "31\n\n");
+  EXPECT_NEAR(std::hypot(Satz("31").Rechts - 8637.85, Satz("31").Hoch - 3759.83), 0, 0.02);
+  Tippe(*B, "VorwFernPnr1", "\n0\n\n84\n\n\n0\n\n94\n\n");
+  EXPECT_TRUE(Gleich(Feld(*B, "VorwTau").Fehlerhaft, true, Text(*B, "VorwTau"), "190.0000"));
+  Tippe(*B, "Vorw_NeuPnr", "32\n\n");
+  // Told in a box once, however often it is asked for.
+  Skript.Erwarte("TVVorwaertsschnittForm.VorwCalc");
+  EXPECT_EQ(Tippe(*B, "VorwFernPnr1", "\n0\n\n84\n\n\n0\n\n84\n\n33\n\n"), "VorwNeuRichtung2");
+  EXPECT_TRUE(Gleich(Status(), "Die Strahlen sind parallel", Text(*B, "VorwTau"), ""));
+  EXPECT_EQ(Tippe(*B, "VorwStandPnr2", "22\n\n\n\n\n"), "VorwStandPnr2");
+  EXPECT_TRUE(Gleich(Status(), "Fernpunkt und Standpunkt sind gleich", KorAnzahl, 17));
+  Drücke(*B, "VorwFelderClear");
+  Drücke(*B, "VorwEnd");
+  PrüfeDateien("vorw", 4);
+  Optionen.FStatMitHoehe = false;
+  fs::remove(Prot.Datei);
+  EXPECT_EQ(Nachlauf().find("Höhe="), std::string::npos);
+}
+
+// Constructed: from 3500130 5600210 the points stand at 350.5... as printed; from 3500100 5600100 at 350, 0
+// and 50 gon, where both diameters end at the same Hochwert.
+TEST_F(RichtungTest, RückwärtsschnitteSchreibenIhreDateien) {
+  Punkt("1021", 3500000, 5600300);
+  Punkt("1022", 3500120, 5600350);
+  Punkt("1023", 3500300, 5600290);
+  Punkt("1031", 3500000, 5600200);
+  Punkt("1032", 3500100, 5600200);
+  Punkt("1033", 3500200, 5600200);
+  auto B = Öffne("11.00");
+  EXPECT_EQ(B->Fokus()->Name, "Rueck_Pnr1");
+  const std::string Figur = "1021\n305,5502\n1022\n362,4604\n1023\n38,9988\n";
+  EXPECT_EQ(Tippe(*B, "Rueck_Pnr1", Figur), "Rueck_NeuPnr");
+  EXPECT_TRUE(Gleich(Text(*B, "Rueck_NeuRechts"), "3500130.000", Text(*B, "RueckTau1"), "154.3835",
+                     Text(*B, "RueckTau2"), "87.8321", Feld(*B, "RueckTau1").Fehlerhaft, false));
+  // The other method: the same point, another judgement, and nothing is stored by looking.
+  auto& Collins = Element<Auswahl>(*B, "RueckwOptionCollins");
+  auto& Cassini = Element<Auswahl>(*B, "RueckwOptionCassini");
+  B->Wählen(Collins, "", true);
+  EXPECT_TRUE(Gleich(Text(*B, "Rueck_NeuHoch"), "5600210.000", Text(*B, "RueckTau1"), "-45.6165",
+                     Feld(*B, "RueckTau1").Fehlerhaft, true, Protokoll(), "", KorAnzahl, 11));
+  Tippe(*B, "Rueck_NeuPnr", "2013\n015\n");
+  B->Wählen(Cassini, "", true);
+  Tippe(*B, "Rueck_Pnr1", Figur + "2014\n\n");
+  Skript.Erwarte("streng nach Cassini nicht möglich ! Verfälschen Sie bitte");
+  const std::string Nord = "1031\n350\n1032\n0\n1033\n50\n";
+  EXPECT_EQ(Tippe(*B, "Rueck_Pnr1", Nord + "2015\n\n"), "Rueck_NeuSym");
+  EXPECT_TRUE(Gleich(Status(), "streng nach Cassini nicht möglich", Feld(*B, "Rueck_NeuRechts").Text, ""));
+  B->Wählen(Collins, "", true);
+  EXPECT_TRUE(Gleich(Text(*B, "Rueck_NeuHoch"), "5600100.000", KorAnzahl, 13));
+  Tippe(*B, "Rueck_NeuPnr", "\n\n");
+  Skript.Erwarte("Berechnung nicht möglich: Zwei Richtungen sind gleich !");
+  Tippe(*B, "Rueck_Pnr1", "\n0\n\n400\n\n50\n2016\n\n\n");
+  Skript.Erwarte("TVRueckwaertsschnittForm.RueckCalcCollins");  // on the line of both outer points
+  Tippe(*B, "Rueck_Richtung1", "300\n\n0\n\n100\n2016\n\n");
+  EXPECT_EQ(Tippe(*B, "Rueck_Pnr3", "1031\n100\n\n\n"), "Rueck_Pnr3");
+  EXPECT_TRUE(Gleich(Status(), "Punkt 1031 steht zweimal", KorAnzahl, 14));
+  Drücke(*B, "RueckFelderClear");
+  Drücke(*B, "RueckEnd");
+  PrüfeDateien("rueck", 3);
+  // What can not be computed any more is left out without a box.
+  const int z = KorSuche(std::string_view("1022"));
+  static_cast<void>(KorZeileSetzen(z, {"1022", 3500000, 5600300}));
+  Starten();
+  EXPECT_EQ(StapelBericht().at(0),
+            "ohne Ergebnis: VR 11.00 Rückwärtsschnitt, Zeile 1: Punkt 1022 liegt auf 1021");
+}
+
+}  // namespace
+}  // namespace tavorena::test
