@@ -42,9 +42,15 @@ std::string Punktzeile(int n, const Raumpunkt& P, const std::string& Marke) {
   return Zeile + Marke;
 }
 
-std::string Wertzeile(int n, const DreiDWert& W, double Zahl) {
-  return Leerzeichen(6) + FeldLinks(W.Name, 20) + "=" +
-         (W.Gon ? ZahlFormat(Zahl, 7, 4) + " gon" : ZahlFormat(Zahl, 7, n) + " m");
+std::vector<std::string> Wertzeilen(int n, const ProtdreiD& D, const std::string& Marke) {
+  std::vector<std::string> Zeilen;
+  const std::vector<DreiDWert>& Namen = DreiDWerte(D.Art);
+  for (std::size_t i = 0; i < Namen.size() && i < D.Werte.size(); ++i) {
+    const std::string Zahl =
+        Namen[i].Gon ? ZahlFormat(D.Werte[i], 7, 4) + " gon" : ZahlFormat(D.Werte[i], 7, n) + " m";
+    Zeilen.push_back(Leerzeichen(6) + FeldLinks(Namen[i].Name, 20) + "=" + Zahl + Marke);
+  }
+  return Zeilen;
 }
 
 Satzfolge Sätze(DreiDArt Art, DreiDEingabe& E) {
@@ -65,23 +71,10 @@ int DreiDPunkte(DreiDArt Art) { return KundeVon(Art).Punkte; }
 bool DreiDMitNeupunkt(DreiDArt Art) { return KundeVon(Art).MitNeupunkt; }
 const std::vector<DreiDWert>& DreiDWerte(DreiDArt Art) { return KundeVon(Art).Werte; }
 
-std::optional<DreiDArt> DreiDVon(std::string_view Kennung) {
+std::optional<DreiDArt> DreiDVon(std::string_view Titel) {
   using enum DreiDArt;
-  // The last but one is the ß of a DOS file, seen through the code page of Windows.
-  constexpr std::pair<const char*, DreiDArt> Worte[] = {
-      {"RAUMSTRECKE", Raumstrecke},
-      {"MITTE", Mitte},
-      {"SCHWERPUNKT", Schwerpunkt},
-      {"LOTABSTAND", Lotabstand},
-      {"WINKEL", Winkel},
-      {"KANALMESSSTAB", Kanalmessstab},
-      {"KANALMESSTAB", Kanalmessstab},
-      {"KANALMESZSTAB", Kanalmessstab},
-      {"KANALMEáSTAB", Kanalmessstab},
-      {"KANALMEßSTAB", Kanalmessstab},
-  };
-  for (const auto& [Wort, Art] : Worte) {
-    if (Kennung == Wort) return Art;
+  for (const DreiDArt Art : {Raumstrecke, Mitte, Schwerpunkt, Lotabstand, Kanalmessstab, Winkel}) {
+    if (Großtext(DreiDTitel(Art)) == Großtext(Titel)) return Art;
   }
   return {};
 }
@@ -90,12 +83,14 @@ Block DreiDZeile(int Nachkomma, const Raumpunkt& P, const std::string& Marke) {
   return Zahlenblock(Nachkomma, {Punktzeile(Nachkomma, P, Marke)});
 }
 
+Block DreiDWertzeilen(int Nachkomma, const ProtdreiD& D, const std::string& Marke) {
+  return Zahlenblock(Nachkomma, Wertzeilen(Nachkomma, D, Marke));
+}
+
 Block DreiDBlock(int Nachkomma, const ProtdreiD& D) {
   std::vector<std::string> Zeilen;
   for (const Raumpunkt& P : D.Punkte) Zeilen.push_back(Punktzeile(Nachkomma, P, ""));
-  const std::vector<DreiDWert>& Namen = DreiDWerte(D.Art);
-  for (std::size_t i = 0; i < Namen.size() && i < D.Werte.size(); ++i)
-    Zeilen.push_back(Wertzeile(Nachkomma, Namen[i], D.Werte[i]));
+  for (std::string& Zeile : Wertzeilen(Nachkomma, D, "")) Zeilen.push_back(std::move(Zeile));
   if (D.Neu) Zeilen.push_back(Punktzeile(Nachkomma, *D.Neu, ""));
   return Zahlenblock(Nachkomma, std::move(Zeilen));
 }

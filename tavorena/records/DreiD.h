@@ -20,8 +20,8 @@ enum class DreiDArt { Raumstrecke, Mitte, Schwerpunkt, Lotabstand, Kanalmessstab
 [[nodiscard]] int DreiDPunkte(DreiDArt Art);
 /// It makes a point.
 [[nodiscard]] bool DreiDMitNeupunkt(DreiDArt Art);
-/// The kind of a batch block by its Kennung (upper case), older spellings too; none if it is another word.
-[[nodiscard]] std::optional<DreiDArt> DreiDVon(std::string_view Kennung);
+/// The kind of a title in any case; none if it is another one.
+[[nodiscard]] std::optional<DreiDArt> DreiDVon(std::string_view Titel);
 
 /// A point in space [m].
 struct Raumpunkt {
@@ -48,6 +48,8 @@ struct DreiDWert {
 
 /// The line of a point alone, with a mark behind it: for a case that is taken back.
 [[nodiscard]] Block DreiDZeile(int Nachkomma, const Raumpunkt& P, const std::string& Marke);
+/// The same of its values, where no point was stored.
+[[nodiscard]] Block DreiDWertzeilen(int Nachkomma, const ProtdreiD& D, const std::string& Marke);
 
 /// Given points, values, the new point.
 [[nodiscard]] Block DreiDBlock(int Nachkomma, const ProtdreiD& D);

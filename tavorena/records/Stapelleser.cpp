@@ -100,10 +100,11 @@ void NächsterBlock() {
     if (Art == -1 && !Kennung.empty()) return StapelFehlerMeldung("Modulkopf fehlerhaft");
     if (Art == -2) return VorzeitigesEnde();
     if (Art < 0) return Beenden();
-    if (Art == 0 && StapelHaken.BlattFür) {
+    if (Art == 1) Kennung.insert(0, "3D ");
+    if (StapelHaken.BlattFür) {
       if (const auto BlattZeigen = StapelHaken.BlattFür(Kennung)) return BlockZeigen(BlattZeigen);
     }
-    Stapel.Bilanz.Übergangen.push_back(Art == 1 ? "3D " + Kennung : Kennung);
+    Stapel.Bilanz.Übergangen.push_back(Kennung);
     BlockÜbergehen();
   }
 }

@@ -60,7 +60,8 @@ extern Nachlauf Stapel;
 
 /// What a replay needs from above.
 struct Nachlaufhaken {
-  /// What shows the worksheet that takes blocks of a Kennung (upper case); empty if there is none.
+  /// What shows the worksheet that takes blocks of a Kennung (upper case, "3D" before it where that stands in
+  /// place of "VR"); empty if there is none.
   std::function<std::function<void()>(const std::string& Kennung)> BlattFür;
   /// A replay begins a block (its title), or has ended (empty title).
   std::function<void(const std::string& Titel)> Schritt;

@@ -66,8 +66,8 @@ bool TVKernMDIForm::Sichtbar(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
   if (IstHist(E)) return HistIndex(IndexVon(Name)) >= 0;
   if (Name.starts_with("MenüDateiCondorLesen")) return Optionen.CondorfensterAn;
-  if (IstEinerVon(Name,
-                  {"MenüMain(5)", "MenüMain(6)", "MenüDateiImportierenMain", "MenüDateiExportierenMain"}))
+  if (IstEinerVon(Name, {"MenüMain(5)", "MenüMain(6)", "MenüDateiImportierenMain", "MenüDateiExportierenMain",
+                         "MenüBearbeiten3D"}))
     return Offen;
   return !E.Verborgen;
 }

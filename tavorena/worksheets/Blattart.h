@@ -17,7 +17,7 @@ struct Blattart {
   const char* VR;           ///< title of the worksheet and of its records, "VR 24.40 Linienelemente"
   const char* Stapeltitel;  ///< caption in a replay
   const char* Fragetitel;   ///< of the box at leaving, "Berechnung Linienelemente"
-  std::array<const char*, 3> Kennungen;  ///< of its blocks in the batch file, upper case; the rest nullptr
+  std::array<const char*, 5> Kennungen;  ///< of its blocks in the batch file, upper case; the rest nullptr
   const char* Menü;                      ///< entry that opens it, "MenüKatasterLinel"; "": another kind's
   int Hilfenummer;                       ///< its help number, from which on
   const char* Seite;                     ///< this page of the handbook tells about it

@@ -47,6 +47,7 @@ class Punktfeld {
     return Gesetzt() ? std::optional(Punkt) : std::nullopt;
   }
   [[nodiscard]] double Hoehe() const { return Höhe; }  ///< [m]; 0: none
+  [[nodiscard]] const std::string& Symbol() const { return *Sym.Text; }
   [[nodiscard]] Protpunkt AlsProtpunkt() const { return {Punkt.RW, Punkt.HW, Gesucht}; }
 
  private:

@@ -73,7 +73,7 @@ TEST_F(Haupt, Menüzustände) {
       EXPECT_EQ(Aktiv(Name), Offen) << Name;
     for (const char* Name : {"MenüDateiNeu", "MenüOptionenOptionen", "MenüOptionenDateinam"})
       EXPECT_TRUE(Aktiv(Name)) << Name;
-    for (const char* Name : {"MenüMain(5)", "MenüMain(6)", "MenüDateiImportierenMain"})
+    for (const char* Name : {"MenüMain(5)", "MenüMain(6)", "MenüDateiImportierenMain", "MenüBearbeiten3D"})
       EXPECT_EQ(Sichtbar(Name), Offen) << Name;
     EXPECT_EQ(BildAktiv("ImageVR2440"), Offen);
     EXPECT_TRUE(Gleich(Sichtbar("MenüMain(9)"), false, Sichtbar("MenüMain(18)"), true));

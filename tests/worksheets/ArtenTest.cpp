@@ -32,6 +32,12 @@ const Auftrag Aufträge[] = {
      "2004\n10\n1001\n39,5167\n98,5\n2005\n0\n1002\n45,6\n101,25\n3001\n015\n"
      "2004\n0\n1001\n41\n\n2005\n0\n1002\n2,1\n\n3002\n\n"},
     {"11.00", "Rueck_Pnr1", "2003\n0\n1002\n11,5\n2005\n31,1\n3001\n\n1001\n0\n1002\n4\n2005\n7\n3002\n7\n"},
+    {"3D RAUMSTRECKE", "DreiD_Pnr1", "1001\n1002\n1002\n1001\n"},
+    {"3D MITTE", "DreiD_Pnr1", "1001\n1002\n3001\n2003\n2004\n3002\n"},
+    {"3D SCHWERPUNKT", "DreiD_Pnr1", "1001\n1002\n2003\n3001\n"},
+    {"3D LOTABSTAND", "DreiD_Pnr1", "1001\n1002\n2003\n3001\n1001\n1002\n2004\n\n"},
+    {"3D KANALMEßSTAB", "DreiD_Pnr1", "1001\n1002\n0,85\n3001\n1001\n1002\n-1,12345\n3002\n"},
+    {"3D WINKEL", "DreiD_Pnr1", "1001\n1002\n2003\n"},
     {"24.00", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
     {"24.30", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
 };

@@ -112,5 +112,49 @@ TEST_F(RichtungTest, RückwärtsschnitteSchreibenIhreDateien) {
             "ohne Ergebnis: VR 11.00 Rückwärtsschnitt, Zeile 1: Punkt 1022 liegt auf 1021");
 }
 
+// All six in a row; what stores no point is written too, and can be taken back.
+TEST_F(RichtungTest, DreiDSchreibtSeineDateien) {
+  Punkt("1", 3500000, 5600000, 100, "015");
+  Punkt("2", 3500001, 5600002, 102);
+  Punkt("3", 3500015, 5600012, 94);
+  struct Fall {
+    const char *Kennung, *Tasten, *Neu, *Feld, *Wert;
+  };
+  for (const Fall& F : {Fall{"3D RAUMSTRECKE", "1\n2\n", "", "DreiDRaumstrecke", "3.000"},
+                        {"3D MITTE", "1\n2\n", "11", "DreiD_NeuHoehe", "101.000"},
+                        {"3D SCHWERPUNKT", "1\n2\n3\n", "12", "DreiD_NeuHoehe", "98.667"},
+                        {"3D LOTABSTAND", "1\n2\n3\n", "13", "DreiD_NeuHoehe", "106.000"},
+                        {"3D LOTABSTAND", "1\n2\n3\n", "", "DreiDLotabstand", "18.000"},
+                        {"3D KANALMESSTAB", "1\n2\n1,5\n", "14", "DreiD_NeuHoehe", "103.000"},
+                        {"3D WINKEL", "2\n1\n3\n", "", "DreiDRaumwinkel", "70.4833"}}) {
+    SCOPED_TRACE(F.Kennung);
+    auto B = Öffne(F.Kennung);
+    const std::string Fokus = Tippe(*B, "DreiD_Pnr1", F.Tasten);
+    EXPECT_EQ(Text(*B, F.Feld), F.Wert);
+    if (Fokus != "DreiD_Pnr1") {  // not yet written
+      EXPECT_EQ(Tippe(*B, Fokus, std::string(F.Neu) + "\n"), "DreiD_Pnr1");
+    }
+    if (*F.Neu != 0) {
+      EXPECT_EQ(Längentext(Satz(F.Neu).Hoehe), F.Wert);
+    }
+    Drücke(*B, "DreiDEnd");
+  }
+  const std::string Prots = Protokoll();
+  EXPECT_TRUE(GleichSoll(Prots, "worksheets/soll/dreid.dru"));
+  EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/dreid.sta"));
+  EXPECT_EQ(Nachlauf(), Prots);
+  EXPECT_TRUE(Gleich(Stapel.Bilanz.Zeilen, 7, *Blätter.back()->Titel, "Tavorena 3D Winkel [Stapel]"));
+
+  auto S = Öffne("3D RAUMSTRECKE");
+  const std::string Sta = Stapeltext();
+  Tippe(*S, "DreiD_Pnr1", "1\n3\n");
+  EXPECT_NE(Stapeltext(), Sta);
+  Drücke(*S, "DreiDZurück");
+  EXPECT_TRUE(Protokoll().ends_with("Zenitwinkel         =    119.2734 gon ***gelöscht\r\n")) << Protokoll();
+  EXPECT_EQ(Stapeltext(), Sta);
+  EXPECT_EQ(Tippe(*S, "DreiD_Pnr1", "3\n3\n"), "DreiD_Pnr2");
+  EXPECT_TRUE(Gleich(Status(), "Punkte sind gleich", Text(*S, "DreiDRaumstrecke"), "", Stapeltext(), Sta));
+}
+
 }  // namespace
 }  // namespace tavorena::test
