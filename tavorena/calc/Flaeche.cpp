@@ -14,6 +14,18 @@ bool AnzahlPasst(int Anzahl, const Liste&... Listen) {
 
 bool ArtBekannt(std::int16_t Art) { return Art >= -2 && Art <= 3; }
 
+// From the chord to the centre of its arc. @return false: the chord is longer than the diameter
+bool Mittenabstand(Lage P, Lage Q, double r, double& h) {
+  const double Halb = Abstand(P, Q) / 2;
+  // The coordinates carry no smaller difference: without this a semicircle in coordinates of millions would
+  // be refused half of the time.
+  const double Rundung = std::numeric_limits<double>::epsilon() * (std::fabs(P.RW) + std::fabs(P.HW) + r);
+  const double Rest = std::fabs(r - Halb) <= Rundung ? 0 : r - Halb;
+  if (Rest < 0) return false;
+  h = std::sqrt(Rest) * std::sqrt(r + Halb);  // root of r^2 - (s/2)^2, without overflow
+  return true;
+}
+
 Flaechenkante KanteBerechnen(Lage P, Lage Q, double Radius, std::int16_t Art) {
   Flaechenkante Kante;
   Kante.Sehne = Kante.Laenge = Abstand(P, Q);
@@ -56,12 +68,8 @@ int FlaecheGauss(std::span<const double> RW, std::span<const double> HW, int Anz
 
 int BogenElemente(Lage P, Lage Q, double Radius, Bogenwerte& Werte) {
   const double r = std::fabs(Radius), s = Abstand(P, Q), Halb = s / 2;
-  // The coordinates carry no smaller difference: without this a semicircle in coordinates of millions would
-  // be refused half of the time.
-  const double Rundung = std::numeric_limits<double>::epsilon() * (std::fabs(P.RW) + std::fabs(P.HW) + r);
-  const double Rest = std::fabs(r - Halb) <= Rundung ? 0 : r - Halb;
-  if (Rest < 0) return -1;
-  const double h = std::sqrt(Rest) * std::sqrt(r + Halb);  // root of r^2 - (s/2)^2, without overflow
+  double h = 0;
+  if (!Mittenabstand(P, Q, r, h)) return -1;
   const double w = h == 0 ? Pi() / 2 : std::atan(Halb / h);
   Werte.Sehne = s;
   Werte.Mittelpunktswinkel = 2 * w;
@@ -69,6 +77,16 @@ int BogenElemente(Lage P, Lage Q, double Radius, Bogenwerte& Werte) {
   Werte.SegmentKurz = (w - std::sin(w) * std::cos(w)) * r * r;
   Werte.LaengeLang = 2 * Pi() * r - Werte.LaengeKurz;
   Werte.SegmentLang = Pi() * r * r - Werte.SegmentKurz;
+  return 0;
+}
+
+int BogenMitte(Lage P, Lage Q, double Radius, bool Rechts, bool Lang, Lage& Mitte) {
+  const double s = Abstand(P, Q);
+  double h = 0;
+  if (s == 0 || !Mittenabstand(P, Q, std::fabs(Radius), h)) return -1;
+  // The centre of a short arc lies across the chord, that of a long one beside it.
+  const double q = (Rechts == Lang ? h : -h) / s, dR = Q.RW - P.RW, dH = Q.HW - P.HW;
+  Mitte = {P.RW + dR / 2 + q * dH, P.HW + dH / 2 - q * dR};
   return 0;
 }
 

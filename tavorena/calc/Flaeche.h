@@ -63,6 +63,16 @@ struct Flaechenwerte {
 /// Source: circular segment, any table of plane figures.
 [[nodiscard]] int BogenElemente(Lage P, Lage Q, double Radius, Bogenwerte& Werte);
 
+/// Centre of an arc over the chord P -> Q.
+/// @param[in]  P, Q    ends of the chord
+/// @param[in]  Radius  its absolute value counts [m]
+/// @param[in]  Rechts  the arc lies to the right of P -> Q: it runs counter-clockwise
+/// @param[in]  Lang    the long arc
+/// @param[out] Mitte   untouched on failure
+/// @return 0; -1 if the chord is longer than the diameter, or has no length
+/// Accuracy and source: as BogenElemente.
+[[nodiscard]] int BogenMitte(Lage P, Lage Q, double Radius, bool Rechts, bool Lang, Lage& Mitte);
+
 /// Area of a boundary of edges and arcs. Row i describes the edge from point i to point i + 1, the last row
 /// the closing edge.
 /// @param[in]  RW, HW  points in their order [m]

@@ -56,6 +56,17 @@ TEST(Flaeche, HalbkreisTrotzRundung) {
   EXPECT_TRUE(Gleich(BogenElemente({3.4e6, 5.7e6}, {3.4e6, 5700010}, 4.99999999, b), -1, b.Sehne, Nichts));
 }
 
+TEST(Flaeche, BogenMitteJederSeite) {
+  for (const auto& [Rechts, Lang, y] : {std::tuple{true, false, 4.0}, {true, true, -4}, {false, true, 4}}) {
+    Lage M;
+    ASSERT_EQ(BogenMitte({0, 0}, {6, 0}, -5, Rechts, Lang, M), 0);
+    EXPECT_TRUE(Nahe({M.RW, M.HW}, {3, y}));
+  }
+  Lage M{7, 8};
+  EXPECT_TRUE(Gleich(BogenMitte({0, 0}, {6, 0}, 2.9, true, false, M), -1,
+                     BogenMitte({1, 1}, {1, 1}, 5, true, false, M), -1, M, (Lage{7, 8})));
+}
+
 TEST(Flaeche, GaussKrueger) {
   double Reduziert = 0;
   EXPECT_EQ(FlaecheGKReduziert(Zahlen{3599000, 3601000}, Zahlen{5.7e6, 5.8e6}, 2, -1e6, Reduziert), 0);
