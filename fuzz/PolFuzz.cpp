@@ -10,18 +10,22 @@ namespace {
 
 // What was read of a print is printed and read again: the same edges.
 void Lauf(Eingabe E) {
-  Polnachweis N{"N", "B", 1, PolLesen(E.Rest()), 1, 5, 0};
-  for (const Polkante& K : N.Kanten) Prüfen(!K.Punkt.Pnr.empty(), "keine Kante ohne Nummer");
-  const std::vector<Polkante> Wieder = PolLesen(PolText(N));
-  for (const Polkante& K : N.Kanten) {
-    // Stars and cut numbers are not read back.
-    if (!(std::fabs(K.Punkt.Rechts) < 1e6 && std::fabs(K.Punkt.Hoch) < 1e6) ||
-        ZeichenAnzahl(K.Punkt.Pnr) > 11)
-      return;
+  for (Polnachweis& N : PolLesen(E.Rest())) {
+    Prüfen(!N.Kanten.empty(), "kein leerer Nachweis");
+    N.NachkommaKoordinaten = 5;
+    bool Lesbar = true;  // stars and cut numbers are not read back
+    for (const Polkante& K : N.Kanten) {
+      Prüfen(!K.Punkt.Pnr.empty(), "keine Kante ohne Nummer");
+      Lesbar = Lesbar && std::fabs(K.Punkt.Rechts) < 1e6 && std::fabs(K.Punkt.Hoch) < 1e6 &&
+               ZeichenAnzahl(K.Punkt.Pnr) <= 11;
+    }
+    const std::vector<Polnachweis> Wieder = PolLesen(PolText(N));
+    if (!Lesbar) continue;
+    Prüfen(Wieder.size() == 1 && Wieder[0].Kanten.size() == N.Kanten.size(), "jede Kante steht im Nachweis");
+    for (std::size_t i = 0; i < N.Kanten.size(); ++i)
+      Prüfen((Wieder[0].Kanten[i].Art == Kantenart::Linie) == (N.Kanten[i].Art == Kantenart::Linie),
+             "Linie oder Bogen");
   }
-  Prüfen(Wieder.size() == N.Kanten.size(), "jede Kante steht im Nachweis");
-  for (std::size_t i = 0; i < Wieder.size(); ++i)
-    Prüfen((Wieder[i].Art == Kantenart::Linie) == (N.Kanten[i].Art == Kantenart::Linie), "Linie oder Bogen");
 }
 
 }  // namespace

@@ -18,6 +18,13 @@ enum class Kantenart { Linie, Außen, Innen, AußenLang, InnenLang };
   return A == Kantenart::AußenLang || A == Kantenart::InnenLang;
 }
 
+/// The kind of an edge by its radius, which is positive outward. 0: straight
+[[nodiscard]] constexpr Kantenart KantenartVon(double Radius, bool Lang) {
+  if (Radius == 0) return Kantenart::Linie;
+  if (Radius < 0) return Lang ? Kantenart::InnenLang : Kantenart::Innen;
+  return Lang ? Kantenart::AußenLang : Kantenart::Außen;
+}
+
 /// A point and the edge to the next one.
 struct Protkante {
   Protpunkt Punkt;

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <cmath>
 
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/records/Pol.h>
@@ -10,6 +12,7 @@ namespace {
 
 constexpr int ZeilenJeSeite = 60;
 constexpr int BreiteRahmen = 66;
+const char* const Fortsetzung = " (Fortsetzung)";
 
 using Zeilen = std::vector<std::string>;
 
@@ -23,7 +26,7 @@ Zeilen Seitenkopf(const Polnachweis& N, int Seite) {
   return {Leerzeichen(33) + "- Seite" + ZahlFeld(Seite, 3) + " -",
           Rahmenlinie("┌"),
           "      │             F l ä c h e n n a c h w e i s",
-          "      │ Name:   " + N.Name + (Seite > N.Seite ? " (Fortsetzung)" : ""),
+          "      │ Name:   " + N.Name + (Seite > N.Seite ? Fortsetzung : ""),
           "      │ Bem.:   " + N.Bemerkung,
           "      │ Fläche: " + ZahlFormat(N.Flaeche, 9, N.NachkommaFlaeche) + " m²",
           Rahmenlinie("└"),
@@ -67,13 +70,18 @@ void RadiusNehmen(std::string_view Zeile, Polkante& K) {
   Zeile.remove_prefix(Ab + 3);
   const std::string_view Wort = Wortnehmen(Zeile);
   const double Radius = ZahlAusText(Wort);
+  if (Radius == 0) return;
   const bool Lang = Wort.ends_with('G') || Wort.ends_with('g');
   K.Radius = std::fabs(Radius);
-  if (Radius < 0) {
-    K.Art = Lang ? Kantenart::InnenLang : Kantenart::Innen;
-  } else {
-    K.Art = Lang ? Kantenart::AußenLang : Kantenart::Außen;
-  }
+  K.Art = KantenartVon(Radius, Lang);
+}
+
+// What stands in a line of the box behind its word.
+bool KopfNehmen(std::string_view Zeile, std::string_view Wort, std::string& Text) {
+  const std::size_t Ab = Zeile.find(Wort);
+  if (Ab == std::string_view::npos || Ab > std::string_view("      │ ").size()) return false;
+  Text = Trimmen(Zeile.substr(Ab + Wort.size()));
+  return true;
 }
 
 }  // namespace
@@ -98,20 +106,49 @@ std::string PolText(const Polnachweis& N) {
   return NachCodepage850(Text);
 }
 
-std::vector<Polkante> PolLesen(std::string_view Bytes) {
-  const std::string Text = IstUtf8(Bytes) ? std::string(Bytes) : AusCodepage850(Bytes);
-  std::vector<Polkante> Kanten;
-  Zeilenleser Leser(Text);
-  std::string_view Zeile;
+std::vector<Polnachweis> PolLesen(std::string_view Bytes) {
+  const std::string Inhalt = IstUtf8(Bytes) ? std::string(Bytes) : AusCodepage850(Bytes);
+  std::vector<Polnachweis> Alle(1);
+  Zeilenleser Leser(Inhalt);
   Polkante K;
-  while (Leser.Nächste(Zeile)) {
+  std::string Text;
+  for (std::string_view Zeile; Leser.Nächste(Zeile);) {
+    Polnachweis& N = Alle.back();
     if (ZeileNehmen(Zeile, K)) {
-      Kanten.push_back(K);
-    } else if (!Kanten.empty()) {
-      RadiusNehmen(Zeile, Kanten.back());
+      N.Kanten.push_back(K);
+    } else if (KopfNehmen(Zeile, "Name:", Text)) {
+      if (Text != Trimmen(N.Name + Fortsetzung)) Alle.emplace_back().Name = Text;
+    } else if (KopfNehmen(Zeile, "Bem.:", Text)) {
+      N.Bemerkung = Text;
+    } else if (!N.Kanten.empty()) {
+      RadiusNehmen(Zeile, N.Kanten.back());
     }
   }
-  return Kanten;
+  std::erase_if(Alle, [](const Polnachweis& N) { return N.Kanten.empty(); });
+  return Alle;
+}
+
+int PolSchreiben(const std::string& Datei, const Polnachweis& N, bool Anhängen) {
+  const std::string Seiten = PolText(N);
+  std::string Inhalt, Grund;
+  bool Gut = !Anhängen || DateiLesen(Datei, Inhalt, &Grund) == 0;
+  if (!Inhalt.empty() && !Inhalt.ends_with('\f')) Inhalt += '\f';
+  Gut = Gut && DateiErsetzen(Datei, Inhalt + Seiten, &Grund) == 0;
+  if (Gut) return static_cast<int>(std::count(Seiten.begin(), Seiten.end(), '\f'));
+  SpeicherfehlerMelden(Datei, Grund, "Flächennachweis");
+  return -1;
+}
+
+int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle) {
+  std::string Bytes, Grund;
+  if (DateiLesen(Datei, Bytes, &Grund) < 0) {
+    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+    return -1;
+  }
+  Alle = PolLesen(Bytes);
+  if (!Alle.empty()) return 0;
+  Hinweis("Kein Flächennachweis in der Datei:\n" + Datei);
+  return -1;
 }
 
 }  // namespace tavorena

@@ -33,9 +33,16 @@ struct Polnachweis {
 /// @return the bytes of a file in code page 850
 [[nodiscard]] std::string PolText(const Polnachweis& N);
 
-/// The edges of such a file, also within other text: number, coordinates, length, kind and radius. Lines
-/// that are none are passed over.
+/// The proofs that stand in such a file, also within other text: name, remark, and the edges with number,
+/// coordinates, length, kind and radius. Lines that are none are passed over.
 /// @param[in] Bytes  of the file, in code page 850 or UTF-8
-[[nodiscard]] std::vector<Polkante> PolLesen(std::string_view Bytes);
+[[nodiscard]] std::vector<Polnachweis> PolLesen(std::string_view Bytes);
+
+/// Writes the pages of a proof into a file, which is replaced as a whole. @param[in] Anhängen  behind what it
+/// holds @return number of pages; -1 with a message
+[[nodiscard]] int PolSchreiben(const std::string& Datei, const Polnachweis& N, bool Anhängen);
+
+/// Reads the proofs of a file. @return 0; -1 with a message: it can not be read, or holds none
+[[nodiscard]] int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle);
 
 }  // namespace tavorena

@@ -267,7 +267,16 @@ TEST(Artenblock, NachweisLiestSichZurück) {
     EXPECT_LE(Zeilen, 60);
   }
   Polnachweis Zurück = N;
-  Zurück.Kanten = PolLesen(Text);
+  Polnachweis Zweiter{"M", "Ost", 1, {N.Kanten[1]}, 3, 3, 2};
+  const Testordner Ordner;
+  const std::string Datei = Ordner.Pfad("a.pol");
+  EXPECT_EQ(PolSchreiben(Datei, N, false), 4);
+  EXPECT_EQ(PolSchreiben(Datei, Zweiter, true), 1);
+  std::vector<Polnachweis> Gelesen;
+  ASSERT_EQ(PolDateiLesen(Datei, Gelesen), 0);
+  ASSERT_EQ(Gelesen.size(), 2U);  // the pages of one proof, and the next one
+  EXPECT_TRUE(Gleich(Gelesen[1].Name, "M", Gelesen[1].Bemerkung, "Ost", Gelesen[1].Kanten.size(), 1U));
+  Zurück.Kanten = Gelesen[0].Kanten;
   for (Polkante& K : Zurück.Kanten) {  // only printed
     if (K.Art != Linie) K.MitteRechts = 1, K.MitteHoch = 2, K.Sehne = 3;
   }
