@@ -3,6 +3,7 @@
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/forms/Dateifrage.h>
+#include <tavorena/forms/TVWertdialog.h>
 
 namespace tavorena {
 
@@ -23,12 +24,18 @@ bool ÜberschreibenFragen(const std::string& Name) {
 }
 
 std::string DateiFragen(const std::string& Titel, const std::string& Filter, const std::string& Vorgabe,
-                        bool Schreiben) {
+                        bool Schreiben, bool* Anhängen) {
   Dateiauftrag Auftrag{Titel, Filter, Startordner(), Vorgabe, !Schreiben, "", false};
   std::string Name = FragenPort().DateiWählen(Auftrag);
   if (Name.empty()) return "";
   if (Schreiben) EndungErgänzen(Name, Vorgabe);
-  if (Schreiben && !ÜberschreibenFragen(Name)) return "";
+  if (Anhängen != nullptr) {
+    const int Antwort = DateiVorhanden(Name) ? DateiVorhandenFrage(Name) : 1;
+    if (Antwort < 0) return "";
+    *Anhängen = Antwort == 0;
+  } else if (Schreiben && !ÜberschreibenFragen(Name)) {
+    return "";
+  }
   const std::string Ordner = DateinameZerlegen(Name).Ordner;
   if (!Ordner.empty()) Optionen.VerzeichnisLetztes = Ordner;
   return Name;

@@ -16,8 +16,10 @@ void EndungErgänzen(std::string& Name, const std::string& Vorgabe);
 [[nodiscard]] bool ÜberschreibenFragen(const std::string& Name);
 
 /// Asks for a file, and keeps its folder for the next dialog. With Schreiben the ending is added where it was
-/// not typed, and a file that is there is asked about. @return its name; "" if cancelled
+/// not typed, and a file that is there is asked about.
+/// @param[out] Anhängen  the file is there and is to be extended; left out: it is only replaced
+/// @return its name; "" if cancelled
 [[nodiscard]] std::string DateiFragen(const std::string& Titel, const std::string& Filter,
-                                      const std::string& Vorgabe, bool Schreiben);
+                                      const std::string& Vorgabe, bool Schreiben, bool* Anhängen = nullptr);
 
 }  // namespace tavorena
