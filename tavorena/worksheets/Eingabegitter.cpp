@@ -31,6 +31,7 @@ Eingabegitter::Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>&
       Verhalten(std::move(Wie)) {
   for (const Zeilenspalte& S : Spalten) {
     if (S.Art == Zellart::Maß) LetzteRechenspalte = static_cast<int>(Arten.size());
+    if (S.Art == Zellart::Wort) Wortform = S.Wortform;
     Arten.push_back(S.Art);
   }
   Zellen.IstPnr = true;
@@ -44,7 +45,9 @@ bool Eingabegitter::ZelleLesen(int z, int s) {
   double Zahl = 0;
   if (Art(s) == Zellart::Maß && Text.empty() && LeerIstNull) Text = "0";
   if (Art(s) == Zellart::Maß && !Text.empty() && !MesswertPrüfen(Text, Zahl)) return false;
-  if (Art(s) != Zellart::Maß && Text.find_first_of(" \t") != std::string::npos) {
+  if (Art(s) == Zellart::Wort && !Wortform(Text)) return false;
+  const bool EinWort = Art(s) == Zellart::Nummer || Art(s) == Zellart::Symbol;
+  if (EinWort && Text.find_first_of(" \t") != std::string::npos) {
     StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
     return false;
   }
@@ -59,6 +62,7 @@ Zeileneingabe Eingabegitter::Eingabe(int z) const {
     const std::string Text = Zellen.Inhalt(z, s);
     if (Art(s) == Zellart::Nummer) E.Pnr = Text;
     if (Art(s) == Zellart::Symbol) E.Symbol = Text;
+    if (Art(s) == Zellart::Wort) E.Wort = Text;
     if (Art(s) == Zellart::Maß) E.Maße.push_back(Text.empty() ? KeinMaß : ZahlAusText(Text));
   }
   return E;
@@ -79,6 +83,7 @@ void Eingabegitter::EingabeZeigen(int z, const Zeileneingabe& E) {
   for (int s = 0; s < Spalten(); ++s) {
     if (Art(s) == Zellart::Nummer) Zellen.InhaltSetzen(z, s, E.Pnr);
     if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, E.Symbol);
+    if (Art(s) == Zellart::Wort) Zellen.InhaltSetzen(z, s, E.Wort);
     if (Art(s) != Zellart::Maß) continue;
     const double Zahl = Maß == E.Maße.end() ? KeinMaß : *Maß++;
     Zellen.InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Messwerttext(Zahl));
@@ -94,7 +99,7 @@ void Eingabegitter::ErgebnisseZeigen(int z, const std::vector<std::string>& Text
 
 bool Eingabegitter::HatEingabe(int z) const {
   for (int s = 0; s < Spalten(); ++s) {
-    const bool Zählt = Art(s) == Zellart::Nummer || Art(s) == Zellart::Maß;
+    const bool Zählt = Art(s) != Zellart::Ergebnis && Art(s) != Zellart::Symbol;
     if (Zählt && !TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return true;
   }
   return false;

@@ -9,7 +9,7 @@
 namespace tavorena {
 
 /// What stands in a column of rows. All but results are typed.
-enum class Zellart { Nummer, Ergebnis, Maß, Symbol };
+enum class Zellart { Nummer, Ergebnis, Maß, Wort, Symbol };
 
 /// A column of rows.
 struct Zeilenspalte {
@@ -17,6 +17,8 @@ struct Zeilenspalte {
   int Zeichen;
   Zellart Art = Zellart::Ergebnis;
   bool Sichtbar = true;
+  /// Of a word: brings it into its normal form. @return false with a reason: it can not be read
+  bool (*Wortform)(std::string& Text) = nullptr;
 };
 
 /// What is typed in a row.
@@ -24,6 +26,7 @@ struct Zeileneingabe {
   std::string Pnr;           ///< "" while the row is empty or its number is not looked up
   std::vector<double> Maße;  ///< measured values, in the order of their columns; not a number: none is typed
   std::string Symbol;
+  std::string Wort = {};  ///< of the one column that takes more than a number
   bool operator==(const Zeileneingabe&) const = default;
 };
 
@@ -62,7 +65,7 @@ class Eingabegitter {
   /// Column by column; those that are missing become empty.
   void ErgebnisseZeigen(int z, const std::vector<std::string>& Texte);
 
-  /// A number or a measure is typed; a symbol alone does not count.
+  /// A number, a measure or a word is typed; a symbol alone does not count.
   [[nodiscard]] bool HatEingabe(int z) const;
   /// Nothing is missing that the results depend on.
   [[nodiscard]] bool Vollständig(int z) const;
@@ -85,6 +88,7 @@ class Eingabegitter {
   Rechenblatt& Blatt;
   Gitterverhalten Verhalten;
   std::vector<Zellart> Arten;  // of the columns
+  bool (*Wortform)(std::string&) = nullptr;
   int LetzteRechenspalte = 0;
 };
 
