@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include <tavorena/worksheets/Blattart.h>
+#include <tavorena/worksheets/TVAreaForm.h>
 #include <tavorena/worksheets/TVDisForm.h>
 #include <tavorena/worksheets/TVDreiDForm.h>
 #include <tavorena/worksheets/TVHelmertForm.h>
@@ -227,6 +228,16 @@ constexpr Blattart Arten[] = {
      4260,
      "transformation.md",
      Neu<TVHelmertForm>},
+    {"TVAreaForm",
+     "Area",
+     "VR 65.00 Flächenberechnung",
+     "Tavorena Flächenberechnung [Stapel]",
+     "Berechnung Fläche",
+     {"65.00", "FB"},
+     "MenüKatasterArea",
+     4280,
+     "flaeche.md",
+     Neu<TVAreaForm>},
 };
 
 template <typename Test>

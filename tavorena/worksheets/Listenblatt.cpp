@@ -276,8 +276,12 @@ int Listenblatt::Schreiben() {
   return 0;
 }
 
+bool Listenblatt::LeerenErlaubt() {
+  return !HatOffenes() || FrageJaNein("Felder leeren, ohne zu schreiben ? ", Titel, KnopfNein) == KnopfJa;
+}
+
 void Listenblatt::Leeren() {
-  if (HatOffenes() && FrageJaNein("Felder leeren, ohne zu schreiben ? ", Titel, KnopfNein) != KnopfJa) return;
+  if (!LeerenErlaubt()) return;
   Reihen.clear();
   Zellen().Leeren(0);
   Zellen().Fehlerhaft = false;

@@ -91,6 +91,8 @@ class Listenblatt : public Rechenblatt {
   void NeuRechnen();
   /// What is shown was written and has not been changed since.
   [[nodiscard]] bool Steht() const { return Unverändert; }
+  /// What stands there is written, or may go. @return false: it stays
+  [[nodiscard]] bool LeerenErlaubt();
   /// Fills the rows from outside. @return 0; -1 with a message: too many, or a known point is missing
   [[nodiscard]] int ReihenSetzen(std::vector<Zeileneingabe> Neue);
   /// Sets the number of a row, such as the one under which its point was stored.

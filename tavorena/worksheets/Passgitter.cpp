@@ -6,6 +6,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Stapelsatz.h>
 #include <tavorena/worksheets/Passgitter.h>
 #include <tavorena/worksheets/TVFormularmodul.h>

@@ -130,10 +130,9 @@ std::string TVHelmertForm::Hindernis() const {
     case Passergebnis::ZuWenig:
       return "zu wenig Paßpunkte !";
     case Passergebnis::DivisionDurchNull:
-      return "Versuchte Division durch Null !
-          Anzahl der Paßpunkte : " + std::to_string(Fit.Anzahl());
-                                 case Passergebnis::AufGerader
-          : return Trimmen(Fit.Protokoll(Optionen.OptNachkommastellen, {}).Zeilen.front());
+      return "Versuchte Division durch Null !\nAnzahl der Paßpunkte:  " + std::to_string(Fit.Anzahl());
+    case Passergebnis::AufGerader:
+      return Trimmen(Fit.Protokoll(Optionen.OptNachkommastellen, {}).Zeilen.front());
     case Passergebnis::Gut:
       break;
   }

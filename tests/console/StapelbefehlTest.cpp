@@ -34,10 +34,10 @@ class StapelbefehlTest : public TabellenTest {
 };
 
 TEST_F(StapelbefehlTest, BerichtetJeBlock) {
-  EXPECT_EQ(Laufen(Gut + "M VR 65.00 x\r\nPN 1\r\nE\r\nM 3D KUGEL\r\nE\r\n" + Gut), 0);
+  EXPECT_EQ(Laufen(Gut + "M VR 25.10 x\r\nPN 1\r\nE\r\nM 3D KUGEL\r\nE\r\n" + Gut), 0);
   EXPECT_EQ(Aus.str(),
             "VR 24.40 Linienelemente: 2 Zeilen, 1 Marken\nVR 24.40 Linienelemente: 2 Zeilen, 1 Marken\n"
-            "übergangen: 3D KUGEL (1 mal)\nübergangen: 65.00 (1 mal)\nPunkte: 3  Zeilen: 4  Marken: 2\n");
+            "übergangen: 25.10 (1 mal)\nübergangen: 3D KUGEL (1 mal)\nPunkte: 3  Zeilen: 4  Marken: 2\n");
   EXPECT_EQ(Meldungen.str(), "");
   const std::string Gespeichert = Inhalt(Auftrag.Speichern);
   EXPECT_EQ(std::count(Gespeichert.begin(), Gespeichert.end(), '\n'), 3);

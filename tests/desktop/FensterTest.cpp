@@ -173,6 +173,8 @@ class FensterTest final : public Fensterumgebung {
     Fall("MenüKatasterKmitt", "1001\n2004\n2005\n3001\n015\n", "K0PMN     3001  015\r\nE  (Ende)");
     Fall("MenüKatasterPolygon", "7\n2003\n1001\n127\n30\n3001\n267\n27\n\n\n1002\n171\n2005\n\n",
          "NEUPWS     3001      267.0000       27.0000  -\r\nABSCHLP     1002      171.0000");
+    Fall("MenüKatasterArea", "N\n\n1001\n\n100,02\n1002\n-70g\n\n2003\n\n\n\n\n",
+         "PN        1001      100.0200\r\nPNRIG     1002       70.0000        0.0000\r\nPN        2003");
   }
   void jedesBlattWirdGetippt() {
     Öffne(QTest::currentDataTag());
@@ -182,7 +184,7 @@ class FensterTest final : public Fensterumgebung {
     Drücke(Qt::Key_S, Qt::AltModifier);
     QTRY_VERIFY(!BlätterOffen());
     QVERIFY2(Inhalt(Pfad("a.sta")).contains(Satz), Inhalt(Pfad("a.sta")));
-    QVERIFY(KorSuche(std::string_view("3001")) >= 0);
+    QVERIFY(!Tasten.contains("3001") || KorSuche(std::string_view("3001")) >= 0);
   }
 
   // Thirty rows typed faster than anything is drawn, one with an unknown number; the keys behind its Return

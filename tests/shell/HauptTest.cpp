@@ -400,7 +400,7 @@ TEST_F(HauptOffen, PunktformenÜberDasMenü) {
 
 TEST_F(HauptOffen, StapelÜberDasMenü) {
   const std::string Sta = Ordner.Pfad("lauf.sta");
-  Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 65.00 x\r\nE\r\n");
+  Schreibe(Sta, "M VR 24.40 Linienelemente\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\nM VR 25.10 x\r\nE\r\n");
   Befehl("MenüDateiStapel", Sta);
   EXPECT_TRUE(Gleich(Stapel.Aktiv, false, BlätterOffen(), true, DateiVorhanden(StapelDatei.Name), false));
   EXPECT_EQ(Skript.Status[4], "   Stapel beendet: 1 Block, 1 Zeile, 0 Marken, übergangen: 1   ");

@@ -40,6 +40,7 @@ const Auftrag Aufträge[] = {
     {"3D WINKEL", "DreiD_Pnr1", "1001\n1002\n2003\n"},
     {"24.00", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
     {"24.30", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
+    {"65.00", "AreaName", "N\nB\n1001\n-80\n103,2\n1002\n70g\n\n2003\n\n42,4\n2004\n1\n\n", "AreaSchreiben"},
 };
 
 // Kind, decimals, warning level.
@@ -79,7 +80,8 @@ INSTANTIATE_TEST_SUITE_P(, Artentest,
                          [](const auto& Info) {
                            const Auftrag& A = std::get<0>(Info.param);
                            std::string Name = std::string(A.Feld) + A.Kennung;
-                           std::erase_if(Name, [](char z) { return z == '_' || z == '.'; });
+                           std::erase_if(
+                               Name, [](char z) { return std::isalnum(static_cast<unsigned char>(z)) == 0; });
                            return Name + "_" + std::to_string(std::get<1>(Info.param)) + "_" +
                                   std::to_string(std::get<2>(Info.param));
                          });

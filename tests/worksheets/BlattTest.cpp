@@ -668,7 +668,7 @@ TEST(Blattarten, SindVollständig) {
     for (const char* Rest : {"End", "Stop", "Weiter"})
       EXPECT_NE(Blatt->Finde(Art.Präfix + std::string(Rest)), nullptr) << Rest;
   }
-  for (const char* Ähnlich : {"MITTE", "3D 24.40", "3D KANAL"})
+  for (const char* Ähnlich : {"MITTE", "3D 24.40", "3D KANAL", "25.10"})
     EXPECT_EQ(BlattartVonKennung(Ähnlich), nullptr) << Ähnlich;
 }
 

@@ -1,0 +1,93 @@
+#include <set>
+#include <string>
+#include <vector>
+
+#include <tavorena/core/Ports.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/Dateifrage.h>
+#include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/worksheets/Flaechennachweis.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
+
+namespace tavorena {
+namespace {
+
+const char* const Dateititel = "POL- Datei (Flächennachweis)";
+const char* const Filter = "POL- Datei |*.pol";
+
+bool Nehmen(const std::string& Text, int Von, int Bis, int& Zahl) {
+  const double x = ZahlAusText(Text);
+  if (!(x >= Von && x <= Bis)) return false;
+  Zahl = static_cast<int>(x);
+  return true;
+}
+
+// @return false: cancelled
+bool SeiteFragen(Polnachweis& N) {
+  Wertfeld Felder[] = {{"Start bei:", std::to_string(N.Seite), -1, 0},
+                       {"NK Koord.:", std::to_string(N.NachkommaKoordinaten), -1, 0},
+                       {"NK Fläche:", std::to_string(N.NachkommaFlaeche), -1, 0}};
+  while (DreiWerte("Start der Seitennumerierung und Nachkommastellen", Felder) == 0) {
+    if (Nehmen(Felder[0].Wert, 1, 999, N.Seite) && Nehmen(Felder[1].Wert, 0, 5, N.NachkommaKoordinaten) &&
+        Nehmen(Felder[2].Wert, 0, 5, N.NachkommaFlaeche))
+      return true;
+    Hinweis("Die erste Seite muß zwischen 1 und 999 liegen, die Nachkommastellen zwischen 0 und 5.");
+  }
+  return false;
+}
+
+}  // namespace
+
+int NachweisSchreiben(Polnachweis& N) {
+  if (!SeiteFragen(N)) return -1;
+  bool Anhängen = false;
+  const std::string Name = DateiFragen(Dateititel, Filter, "*.pol", true, &Anhängen);
+  if (Name.empty()) return -1;
+  const int Seiten = PolSchreiben(Name, N, Anhängen);
+  if (Seiten < 0) return -1;
+  N.Seite += Seiten;
+  return 0;
+}
+
+int NachweisWählen(Polnachweis& N) {
+  const std::string Name =
+      DateiFragen(Dateititel, std::string(Filter) + "|Druckdatei- Datei |*.dru", "*.pol", false);
+  std::vector<Polnachweis> Alle;
+  if (Name.empty() || PolDateiLesen(Name, Alle) < 0) return -1;
+  int Gewählt = 0;
+  if (Alle.size() > 1) {
+    std::vector<std::string> Namen;
+    for (const Polnachweis& P : Alle) Namen.push_back(std::to_string(Namen.size() + 1) + ": " + P.Name);
+    Gewählt = AuswahlListe("Flächennachweis auswählen", Namen);
+  }
+  if (Gewählt < 0) return -1;
+  N = std::move(Alle[static_cast<std::size_t>(Gewählt)]);
+  return 0;
+}
+
+int FehlendePunkteSpeichern(const Polnachweis& N, Rücknahme& R) {
+  std::vector<Protpunkt> Fehlende;
+  std::set<std::string> Nummern;
+  for (const Polkante& K : N.Kanten) {
+    if (KorSuche(std::string_view(K.Punkt.Pnr)) < 0 && Nummern.insert(K.Punkt.Pnr).second)
+      Fehlende.push_back(K.Punkt);
+  }
+  if (Fehlende.empty()) return 0;
+  const std::string Anzahl =
+      Anzahltext(static_cast<int>(Fehlende.size()), "Punkt fehlt", "Punkte fehlen") + " in der Tabelle. ";
+  if (FrageJaNein(Anzahl + "Mit den Koordinaten der Datei speichern ?") != KnopfJa) return -1;
+  Punkttat Tat{"Punkte des Flächennachweises", {}};
+  return R.Ausführen(Tat, [&] {
+    for (const Protpunkt& P : Fehlende) {
+      Wert Pnr(P.Pnr);
+      Punktnotiz Notiz;
+      if (NeupunktEintragen(Pnr, P.Rechts, P.Hoch, NullWert{}, "", nullptr, Notiz) < 0) return -1;
+    }
+    return 0;
+  });
+}
+
+}  // namespace tavorena
