@@ -18,10 +18,10 @@ constexpr double Weiteste = 1e7;  // from the anchor [pixels of the screen]: the
 class Siegelfläche final : public Zeichenfläche {
  public:
   void Linie(double x1, double y1, double x2, double y2, int Farbe, Strich Stil) override {
-    Nehmen(1, {x1, y1, x2, y2}, Farbe * 2 + (Stil == Strich::Gestrichelt ? 1 : 0));
+    Nehmen(1, {x1, y1, x2, y2}, Farbe * 3 + static_cast<int>(Stil));
   }
-  void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe) override {
-    Nehmen(2, {x, y, Radius, Anfang, Ende}, Farbe);
+  void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe, Strich Stil) override {
+    Nehmen(2, {x, y, Radius, Anfang, Ende}, Farbe * 3 + static_cast<int>(Stil));
   }
   void Scheibe(double x, double y, double Radius, int Farbe) override { Nehmen(3, {x, y, Radius}, Farbe); }
   void Text(double x, double y, std::string_view Inhalt, int Schriftgrad, int Farbe) override {

@@ -38,7 +38,7 @@ void Malfläche::StiftSetzen(int Farbe, Strich Stil) {
   if (Farbe == LetzteFarbe && Stil == LetzterStil) return;
   LetzteFarbe = Farbe;
   LetzterStil = Stil;
-  QPen Stift(FarbeVon(Farbe), Strichbreite);
+  QPen Stift(FarbeVon(Farbe), Stil == Strich::Breit ? 2 * Strichbreite : Strichbreite);
   if (Stil == Strich::Gestrichelt)  // in widths of the pen
     Stift.setDashPattern({Einheit(Strichlänge) / Strichbreite, Einheit(Strichlücke) / Strichbreite});
   Maler.setPen(Stift);
@@ -49,8 +49,8 @@ void Malfläche::Linie(double x1, double y1, double x2, double y2, int Farbe, St
   Maler.drawLine(QLineF(Einheit(x1), Einheit(y1), Einheit(x2), Einheit(y2)));
 }
 
-void Malfläche::Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe) {
-  StiftSetzen(Farbe, Strich::Durchgezogen);
+void Malfläche::Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe, Strich Stil) {
+  StiftSetzen(Farbe, Stil);
   const double r = Einheit(Radius);
   const QRectF Kasten(Einheit(x) - r, Einheit(y) - r, 2 * r, 2 * r);
   if (Ende - Anfang >= 360) return Maler.drawEllipse(Kasten);
@@ -62,7 +62,7 @@ void Malfläche::Bogen(double x, double y, double Radius, double Anfang, double 
 
 void Malfläche::Scheibe(double x, double y, double Radius, int Farbe) {
   Maler.setBrush(FarbeVon(Farbe));
-  Bogen(x, y, Radius, 0, 360, Farbe);
+  Bogen(x, y, Radius, 0, 360, Farbe, Strich::Durchgezogen);
   Maler.setBrush(Qt::NoBrush);
 }
 

@@ -17,7 +17,7 @@ class Malfläche final : public Zeichenfläche {
   Malfläche(QPainter& Mit, const QPalette& Farben);
 
   void Linie(double x1, double y1, double x2, double y2, int Farbe, Strich Stil) override;
-  void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe) override;
+  void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe, Strich Stil) override;
   void Scheibe(double x, double y, double Radius, int Farbe) override;
   void Text(double x, double y, std::string_view Inhalt, int Schriftgrad, int Farbe) override;
   void Begrenzen(double x, double y, double Breite, double Hoehe) override;

@@ -13,7 +13,7 @@ namespace tavorena {
 inline constexpr int FarbeSchwarz = 0, FarbeRot = 255, FarbeBlau = 255 * 65536;
 
 /// How a line is drawn.
-enum class Strich { Durchgezogen, Gestrichelt };
+enum class Strich { Durchgezogen, Gestrichelt, Breit };
 
 struct GrafikLinie {
   double Rechts1 = 0, Hoch1 = 0, Rechts2 = 0, Hoch2 = 0;
@@ -27,6 +27,7 @@ struct GrafikBogen {
   double Rechts = 0, Hoch = 0, Radius = 0, Anfang = 0, Ende = 360;
   int Farbe = FarbeSchwarz;
   bool Frei = false;
+  Strich Stil = Strich::Durchgezogen;  ///< or Breit
 };
 
 struct GrafikText {

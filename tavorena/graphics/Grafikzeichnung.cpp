@@ -55,7 +55,7 @@ void BogenZeichnen(Zeichenfläche& Auf, const Bildausschnitt& In, const GrafikBo
   const double Nah = std::hypot(std::max({-Links, 0.0, -Rechts}), std::max({-Oben, 0.0, -Unten})),
                Fern = std::hypot(std::max(Links, Rechts), std::max(Oben, Unten));
   if (Nah > r + Zeichenradius || Fern < r - Zeichenradius) return;
-  Auf.Bogen(x, y, r, B.Anfang, B.Ende, B.Farbe);
+  Auf.Bogen(x, y, r, B.Anfang, B.Ende, B.Farbe, B.Stil);
 }
 
 void TextZeichnen(Zeichenfläche& Auf, const Bildausschnitt& In, const GrafikText& T) {

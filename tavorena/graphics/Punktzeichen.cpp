@@ -42,7 +42,7 @@ void PunktzeichenZeichnen(Zeichenfläche& Auf, double x, double y, std::string_v
   const double r = Zeichenradius * Z.Größe;
   for (const Zug& S : Z.Züge)
     Auf.Linie(x + S.x1 * r, y + S.y1 * r, x + S.x2 * r, y + S.y2 * r, Farbe, Strich::Durchgezogen);
-  for (int i = 0; i < Z.Kreise; ++i) Auf.Bogen(x, y, r / (1 + i), 0, 360, Farbe);
+  for (int i = 0; i < Z.Kreise; ++i) Auf.Bogen(x, y, r / (1 + i), 0, 360, Farbe, Strich::Durchgezogen);
 }
 
 }  // namespace tavorena

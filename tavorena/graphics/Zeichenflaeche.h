@@ -16,7 +16,8 @@ class Zeichenfläche {
   virtual ~Zeichenfläche() = default;
   virtual void Linie(double x1, double y1, double x2, double y2, int Farbe, Strich Stil) = 0;
   /// Counter-clockwise from Anfang to Ende, in degrees from the right.
-  virtual void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe) = 0;
+  virtual void Bogen(double x, double y, double Radius, double Anfang, double Ende, int Farbe,
+                     Strich Stil) = 0;
   virtual void Scheibe(double x, double y, double Radius, int Farbe) = 0;
   /// The left end of the text's middle line stands at the place. @param[in] Schriftgrad  [points]
   virtual void Text(double x, double y, std::string_view Text, int Schriftgrad, int Farbe) = 0;

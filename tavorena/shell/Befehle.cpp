@@ -240,7 +240,9 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
     for (const Blattart& Art : Blattarten()) {
-      if (*Art.Menü != '\0') B.push_back({Art.Menü, true, [&Art] { BlattÖffnen(Art); }});
+      for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
+        if (*Menü != '\0') B.push_back({Menü, true, [&Art] { BlattÖffnen(Art); }});
+      }
     }
     return B;
   }();

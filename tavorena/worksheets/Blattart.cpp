@@ -2,6 +2,7 @@
 
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVAreaForm.h>
+#include <tavorena/worksheets/TVAusgleichForm.h>
 #include <tavorena/worksheets/TVDisForm.h>
 #include <tavorena/worksheets/TVDreiDForm.h>
 #include <tavorena/worksheets/TVHelmertForm.h>
@@ -23,6 +24,11 @@ namespace {
 template <typename Form>
 std::unique_ptr<Formular> Neu(const Blattart& Art) {
   return std::make_unique<Form>(Art);
+}
+
+template <char Modus>
+std::unique_ptr<Formular> NeuerAusgleich(const Blattart& Art) {
+  return std::make_unique<TVAusgleichForm>(Art, Modus);
 }
 
 // One line a kind.
@@ -235,9 +241,31 @@ constexpr Blattart Arten[] = {
      "Berechnung Fläche",
      {"65.00", "FB"},
      "MenüKatasterArea",
-     4280,
+     4270,
      "flaeche.md",
      Neu<TVAreaForm>},
+    {"TVAusgleichForm",
+     "Ausgleich",
+     "Ausgleichende Gerade",
+     "Tavorena Ausgleichende Gerade [Stapel]",
+     "Berechnung Ausgleichende Gerade",
+     {},
+     "MenüKatasterAusglGerade",
+     4280,
+     "ausgleichung.md",
+     NeuerAusgleich<'G'>,
+     "MenüBearbeitenAusgleichendeGerade"},
+    {"TVAusgleichForm",
+     "Ausgleich",
+     "Ausgleichender Kreis",
+     "Tavorena Ausgleichender Kreis [Stapel]",
+     "Berechnung Ausgleichender Kreis",
+     {},
+     "MenüKatasterAusglKreis",
+     4290,
+     "ausgleichung.md",
+     NeuerAusgleich<'K'>,
+     "MenüBearbeitenAusgleichendeKreis"},
 };
 
 template <typename Test>
@@ -258,7 +286,7 @@ const Blattart* BlattartVonKennung(std::string_view Kennung) {
 }
 
 const Blattart* BlattartVonMenü(std::string_view Eintrag) {
-  return Finde([&](const Blattart& B) { return B.Menü == Eintrag; });
+  return Finde([&](const Blattart& B) { return B.Menü == Eintrag || B.WeiteresMenü == Eintrag; });
 }
 
 }  // namespace tavorena

@@ -17,11 +17,13 @@ struct Blattart {
   const char* VR;           ///< title of the worksheet and of its records, "VR 24.40 Linienelemente"
   const char* Stapeltitel;  ///< caption in a replay
   const char* Fragetitel;   ///< of the box at leaving, "Berechnung Linienelemente"
-  std::array<const char*, 5> Kennungen;  ///< of its blocks in the batch file, upper case; the rest nullptr
-  const char* Menü;                      ///< entry that opens it, "MenüKatasterLinel"; "": another kind's
-  int Hilfenummer;                       ///< its help number, from which on
-  const char* Seite;                     ///< this page of the handbook tells about it
+  std::array<const char*, 5>
+      Kennungen;      ///< of its blocks in the batch file, upper case; the rest, or all, nullptr
+  const char* Menü;   ///< entry that opens it, "MenüKatasterLinel"; "": another kind's
+  int Hilfenummer;    ///< its help number, from which on
+  const char* Seite;  ///< this page of the handbook tells about it
   std::unique_ptr<Formular> (*Neu)(const Blattart&);  ///< makes the form
+  const char* WeiteresMenü = "";                      ///< another entry that opens it
 };
 
 /// All kinds, in the order of the menu.

@@ -81,8 +81,9 @@ class Listenblatt : public Rechenblatt {
   [[nodiscard]] virtual int PunkteEintragen(Listenakte& /*A*/) { return 0; }
   /// Empties the fields beside the rows.
   virtual void FelderLeeren() = 0;
-  /// Reads its batch block into fields and rows. @return 0; -1 error, already told
-  [[nodiscard]] virtual int BlockLesen() = 0;
+  /// Reads its batch block into fields and rows; a kind without a block has none.
+  /// @return 0; -1 error, already told
+  [[nodiscard]] virtual int BlockLesen() { return -1; }
   /// Looks the points in its fields up again.
   virtual void PunkteNachsehen() {}
   /// @}

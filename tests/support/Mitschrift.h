@@ -13,10 +13,13 @@ namespace tavorena::test {
 class Mitschrift final : public Zeichenfläche {
  public:
   void Linie(double x1, double y1, double x2, double y2, int Farbe, Strich Stil) override {
-    Schreibe(Stil == Strich::Durchgezogen ? "Linie" : "Strichlinie", {x1, y1, x2, y2}, Farbe);
+    Schreibe(Stil == Strich::Durchgezogen ? "Linie"
+             : Stil == Strich::Breit      ? "Breite Linie"
+                                          : "Strichlinie",
+             {x1, y1, x2, y2}, Farbe);
   }
-  void Bogen(double x, double y, double r, double Anfang, double Ende, int Farbe) override {
-    Schreibe("Bogen", {x, y, r, Anfang, Ende}, Farbe);
+  void Bogen(double x, double y, double r, double Anfang, double Ende, int Farbe, Strich Stil) override {
+    Schreibe(Stil == Strich::Breit ? "Breiter Bogen" : "Bogen", {x, y, r, Anfang, Ende}, Farbe);
   }
   void Scheibe(double x, double y, double r, int Farbe) override { Schreibe("Scheibe", {x, y, r}, Farbe); }
   void Text(double x, double y, std::string_view Inhalt, int, int Farbe) override {

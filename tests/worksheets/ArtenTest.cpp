@@ -89,6 +89,7 @@ INSTANTIATE_TEST_SUITE_P(, Artentest,
 // There is a job for every kind that writes a block.
 TEST(Blattarten, JedeArtHatIhrenAuftrag) {
   for (const Blattart& Art : Blattarten()) {
+    if (Art.Kennungen[0] == nullptr) continue;  // a replay does not repeat it
     EXPECT_TRUE(std::any_of(std::begin(Aufträge), std::end(Aufträge), [&](const Auftrag& A) {
       return BlattartVonKennung(A.Kennung) == &Art;
     })) << Art.Formname;

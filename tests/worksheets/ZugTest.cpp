@@ -166,7 +166,8 @@ TEST_F(Zugtest, NachlaufNenntDenMangel) {
   };
   for (const auto& [Text, Grund] : Fälle) {
     Schreibe(StapelDatei.Name, Text);
-    if (Text.find("ABSCHLP 77") != std::string::npos) Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+    if (Text.find("ABSCHLP 77") != std::string::npos)
+      Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
     Skript.Erwarte(Grund);
     Starten();
     EXPECT_TRUE(Gleich(Stapel.Bilanz.Fehler, true, Blätter.back()->Offen(), false, Protokoll(), ""));
