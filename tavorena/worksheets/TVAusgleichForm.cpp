@@ -51,6 +51,7 @@ TVAusgleichForm::TVAusgleichForm(const Blattart& BlattArt, char Modus)
   for (int i = 0; i < 4; ++i)
     BeschriftungAnlegen(Überschriften[i], {0, i + 1}, RahmenErgebnis).Rechtsbündig = i < 3;
   if (Kreis) Radius = &Ergebnisfeld("Radius", "Radius:", {3, 0}, RahmenErgebnis);
+  if (Kreis) Radius->Zeichen = Längenbreite(8);  // below the coordinates
   ListenknöpfeAnlegen();
 }
 
