@@ -8,6 +8,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelsatz.h>
 #include <tavorena/worksheets/TVAusgleichForm.h>
