@@ -45,6 +45,7 @@ PAARE = (
     ("Zeile/5MB", ("Zeile/leer",), 1.3),
     ("Streifen/20000", ("Streifen/2000",), 1.2),
     ("Streifen/20000", ("Konsole/mit",), 4.0),
+    ("Flaeche/1000", ("NurFlaeche/1000",), 3.0),
     ("EditorTaste/20001", ("EditorTaste/20",), 2.0),
     ("Fenster/zu", ("Fenster/Konsole",), 4.0),
     ("Fenster/offen", ("Fenster/Konsole",), 6.0),

@@ -10,8 +10,9 @@ namespace tavorena {
 /// A boundary in the graphics view: its points as discs with their numbers, its edges as they are built.
 class Flaechenbild {
  public:
-  /// Draws anew what changed since the last call.
-  void Zeigen(const Flaechengrenze& G);
+  /// Draws anew what changed since the last call. @param[in] Andere  points that are other ones, where their
+  /// number has stayed
+  void Zeigen(const Flaechengrenze& G, const std::vector<std::size_t>& Andere);
   void Löschen() { Kanten.clear(); }
 
  private:
@@ -27,9 +28,11 @@ class Flaechenbild {
     Markierung Bild;
   };
   [[nodiscard]] static Kante Aus(const Flaechengrenze& G, std::size_t i);
-  [[nodiscard]] static Markierung Zeichnen(const Kante& K);
+  [[nodiscard]] static Gezeichnet Zeichnen(Kante K);
+  void Abgleichen(const Flaechengrenze& G);
 
   std::vector<Gezeichnet> Kanten;
+  bool Rechtsum = false;  // the sense of the boundary, on which all arcs depend
 };
 
 }  // namespace tavorena

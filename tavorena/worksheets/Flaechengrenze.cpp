@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 #include <tavorena/calc/TVBerechnungsmodul.h>
 #include <tavorena/core/Optionen.h>
@@ -43,28 +45,35 @@ bool RadiusPrüfen(std::string& Text, Kantenart& Art, double& Radius) {
   return true;
 }
 
-void Flaechengrenze::Rechnen() {
-  const std::size_t n = Punkte.size();
-  for (auto* Liste : {&RW, &HW, &Radien}) Liste->resize(n);
-  Arten.resize(n);
-  for (std::size_t i = 0; i < n; ++i) {
-    RW[i] = Punkte[i].Ort.RW;
-    HW[i] = Punkte[i].Ort.HW;
-    Radien[i] = Punkte[i].Radius;
-    Arten[i] = Rechenart(Punkte[i].Art);
-  }
-  // It fails for kinds that it does not know alone.
-  static_cast<void>(FlaecheBerechnen(RW, HW, Radien, Arten, static_cast<int>(n), W));
-  Ganze = std::fabs(W.Polygonflaeche) + W.Bogenflaeche;
-  double Kleiner = 0;
-  Reduziert = FlaecheGKReduziert(RW, HW, static_cast<int>(n), Ganze, Kleiner) == 0 ? Wert(Kleiner) : Wert();
+Zeileneingabe Grenzzeile(const Kanteneingabe& K) {
+  const double Gemessen = K.Grenzlaenge == 0 ? std::numeric_limits<double>::quiet_NaN() : K.Grenzlaenge;
+  const Kantenart Art = K.Radius == 0 ? Kantenart::Linie : K.Art;
+  return {K.Pnr, {Gemessen}, "", Radiustext(Art, std::fabs(K.Radius))};
 }
 
-void Flaechengrenze::Leeren() {
-  Punkte.clear();
-  W = {};
-  Ganze = 0;
-  Reduziert = {};
+void Flaechengrenze::AnzahlSetzen(std::size_t n) {
+  Punkte.resize(n);
+  for (auto* Spalte : {&RW, &HW, &Radien, &Gemessen}) Spalte->resize(n);
+  Arten.resize(n);
+  if (n == 0) *this = {};
+}
+
+void Flaechengrenze::Setzen(std::size_t i, Lage Wo, Grenzpunkt P, double Grenzlaenge) {
+  RW[i] = Wo.RW;
+  HW[i] = Wo.HW;
+  Radien[i] = P.Radius;
+  Arten[i] = Rechenart(P.Art);
+  Gemessen[i] = Grenzlaenge;
+  Punkte[i] = std::move(P);
+}
+
+void Flaechengrenze::Rechnen() {
+  const int n = static_cast<int>(Anzahl());
+  // It fails for kinds that it does not know alone.
+  static_cast<void>(FlaecheBerechnen(RW, HW, Radien, Arten, n, W));
+  Ganze = std::fabs(W.Polygonflaeche) + W.Bogenflaeche;
+  double Kleiner = 0;
+  Reduziert = FlaecheGKReduziert(RW, HW, n, Ganze, Kleiner) == 0 ? Wert(Kleiner) : Wert();
 }
 
 bool Flaechengrenze::MitBogen() const {
@@ -72,8 +81,8 @@ bool Flaechengrenze::MitBogen() const {
 }
 
 bool Flaechengrenze::Abweichung(std::size_t i, double& WS, double& D) const {
-  if (Punkte[i].Gemessen == 0 || W.Kanten[i].SehneZuLang) return false;
-  WS = W.Kanten[i].Laenge - Punkte[i].Gemessen;
+  if (Gemessen[i] == 0 || W.Kanten[i].SehneZuLang) return false;
+  WS = W.Kanten[i].Laenge - Gemessen[i];
   D = AbweichungZulaessig(W.Kanten[i].Laenge);
   return true;
 }
@@ -84,7 +93,7 @@ bool Flaechengrenze::WeichtAb(std::size_t i) const {
 }
 
 std::string Flaechengrenze::Bogenfehler() const {
-  for (std::size_t i = 0; i < Punkte.size(); ++i) {
+  for (std::size_t i = 0; i < Anzahl(); ++i) {
     if (W.Kanten[i].SehneZuLang)
       return "Zeile " + std::to_string(i + 1) + ": Sehne länger als der Durchmesser, der Bogen zählt nicht";
   }
@@ -93,35 +102,33 @@ std::string Flaechengrenze::Bogenfehler() const {
 
 std::string Flaechengrenze::Urteil() const {
   std::string Text = Bogenfehler();
-  for (std::size_t i = 0; i < Punkte.size() && Text.empty(); ++i) {
+  for (std::size_t i = 0; i < Anzahl() && Text.empty(); ++i) {
     if (WeichtAb(i)) Text = "Zeile " + std::to_string(i + 1) + ": WS größer als D";
   }
   return Text;
 }
 
-bool Flaechengrenze::Linksherum(std::size_t i) const {
-  return IstInnen(Punkte[i].Art) == (W.Polygonflaeche < 0);
-}
+bool Flaechengrenze::Linksherum(std::size_t i) const { return IstInnen(Punkte[i].Art) == Rechtsum(); }
 
 Lage Flaechengrenze::Mitte(std::size_t i) const {
-  Lage M = Punkte[i].Ort;
+  Lage M = Ort(i);
   static_cast<void>(
-      BogenMitte(M, Punkte[Danach(i)].Ort, Punkte[i].Radius, Linksherum(i), IstLang(Punkte[i].Art), M));
+      BogenMitte(M, Ort(Danach(i)), Punkte[i].Radius, Linksherum(i), IstLang(Punkte[i].Art), M));
   return M;
 }
 
 Protflaeche Flaechengrenze::Protokoll(const std::string& Name, const std::string& Bemerkung) const {
   Protflaeche F{Name, Bemerkung, {}, W.Umring, MitBogen() ? Wert(W.Bogenflaeche) : Wert(), Ganze, {}};
   if (Optionen.GKreduzierteFlaechen) F.FlaecheGKred = Reduziert;
-  for (std::size_t i = 0; i < Punkte.size(); ++i) {
+  for (std::size_t i = 0; i < Anzahl(); ++i) {
     const Grenzpunkt& P = Punkte[i];
     Protkante& K = F.Kanten.emplace_back();
-    K.Punkt = {P.Ort.RW, P.Ort.HW, P.Pnr};
+    K.Punkt = {RW[i], HW[i], P.Pnr};
     K.Laenge = W.Kanten[i].Laenge;
     K.Art = P.Art;
     K.Radius = P.Radius;
     K.SehneZuLang = W.Kanten[i].SehneZuLang;
-    if (P.Gemessen != 0) K.Gemessen = P.Gemessen;
+    if (Gemessen[i] != 0) K.Gemessen = Gemessen[i];
     double WS = 0, D = 0;
     if (!Abweichung(i, WS, D)) continue;
     K.WS = WS;
@@ -132,15 +139,16 @@ Protflaeche Flaechengrenze::Protokoll(const std::string& Name, const std::string
 
 Flaecheneingabe Flaechengrenze::Eingabe(const std::string& Name, const std::string& Bemerkung) const {
   Flaecheneingabe E{Name, Bemerkung, {}};
-  for (const Grenzpunkt& P : Punkte) E.Kanten.push_back({P.Pnr, P.Art, P.Radius, P.Gemessen});
+  for (std::size_t i = 0; i < Anzahl(); ++i)
+    E.Kanten.push_back({Punkte[i].Pnr, Punkte[i].Art, Punkte[i].Radius, Gemessen[i]});
   return E;
 }
 
 std::vector<Polkante> Flaechengrenze::Polkanten() const {
   std::vector<Polkante> Kanten;
-  for (std::size_t i = 0; i < Punkte.size(); ++i) {
+  for (std::size_t i = 0; i < Anzahl(); ++i) {
     const Grenzpunkt& P = Punkte[i];
-    Polkante K{{P.Ort.RW, P.Ort.HW, P.Pnr}, W.Kanten[i].Laenge, P.Art, P.Radius, 0, 0, W.Kanten[i].Sehne};
+    Polkante K{{RW[i], HW[i], P.Pnr}, W.Kanten[i].Laenge, P.Art, P.Radius, 0, 0, W.Kanten[i].Sehne};
     if (P.Art != Kantenart::Linie) {
       const Lage M = Mitte(i);
       K.MitteRechts = M.RW;

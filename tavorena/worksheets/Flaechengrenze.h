@@ -6,6 +6,7 @@
 
 #include <tavorena/calc/Flaeche.h>
 #include <tavorena/records/Pol.h>
+#include <tavorena/worksheets/Eingabegitter.h>
 
 // The boundary that an area is computed of: what was typed for it, what comes of it, and what is told of it
 // in protocol, batch file and proof.
@@ -15,10 +16,8 @@ namespace tavorena {
 /// A point of the boundary and the edge to the next one, as they were typed.
 struct Grenzpunkt {
   std::string Pnr;
-  Lage Ort;  ///< [m]
   Kantenart Art = Kantenart::Linie;
   double Radius = 0;    ///< absolute [m]
-  double Gemessen = 0;  ///< boundary length [m]; 0: none
   std::string Getippt;  ///< from which kind and radius were read
 };
 
@@ -28,14 +27,22 @@ struct Grenzpunkt {
 /// Reads it and brings the text into that form. @return false with a reason in the status help
 [[nodiscard]] bool RadiusPrüfen(std::string& Text, Kantenart& Art, double& Radius);
 
+/// The row that an edge of a record is typed as.
+[[nodiscard]] Zeileneingabe Grenzzeile(const Kanteneingabe& K);
+
 class Flaechengrenze {
  public:
-  std::vector<Grenzpunkt> Punkte;
+  [[nodiscard]] std::size_t Anzahl() const { return Punkte.size(); }
+  [[nodiscard]] const Grenzpunkt& Punkt(std::size_t i) const { return Punkte[i]; }
+  [[nodiscard]] double Grenzlaenge(std::size_t i) const { return Gemessen[i]; }
+  [[nodiscard]] Lage Ort(std::size_t i) const { return {RW[i], HW[i]}; }
+  /// Points come or go at the end.
+  void AnzahlSetzen(std::size_t n);
+  /// @param[in] Grenzlaenge  of its edge, measured [m]; 0: none
+  void Setzen(std::size_t i, Lage Wo, Grenzpunkt P, double Grenzlaenge);
 
-  /// Computes all below from Punkte. A positive radius enlarges the area, whichever way round they go.
+  /// Computes all below. A positive radius enlarges the area, whichever way round the points go.
   void Rechnen();
-  /// No points, no results.
-  void Leeren();
 
   [[nodiscard]] const Flaechenwerte& Werte() const { return W; }
   [[nodiscard]] double Flaeche() const { return Ganze; }         ///< [m²]
@@ -52,6 +59,8 @@ class Flaechengrenze {
   /// The first edge at fault, in words.
   [[nodiscard]] std::string Urteil() const;
   [[nodiscard]] std::size_t Danach(std::size_t i) const { return i + 1 == Punkte.size() ? 0 : i + 1; }
+  /// The boundary runs clockwise.
+  [[nodiscard]] bool Rechtsum() const { return W.Polygonflaeche < 0; }
   /// An arc runs counter-clockwise.
   [[nodiscard]] bool Linksherum(std::size_t i) const;
   /// Its centre; of a single point the point itself.
@@ -65,7 +74,8 @@ class Flaechengrenze {
   /// @}
 
  private:
-  std::vector<double> RW, HW, Radien;  // as the calculation takes them
+  std::vector<Grenzpunkt> Punkte;
+  std::vector<double> RW, HW, Radien, Gemessen;  // of the points, as the calculation takes them
   std::vector<std::int16_t> Arten;
   Flaechenwerte W;
   double Ganze = 0;

@@ -68,6 +68,12 @@ int NachweisWählen(Polnachweis& N) {
   return 0;
 }
 
+Flaecheneingabe AlsEingabe(const Polnachweis& N) {
+  Flaecheneingabe E{N.Name, N.Bemerkung, {}};
+  for (const Polkante& K : N.Kanten) E.Kanten.push_back({K.Punkt.Pnr, K.Art, K.Radius, 0});
+  return E;
+}
+
 int FehlendePunkteSpeichern(const Polnachweis& N, Rücknahme& R) {
   std::vector<Protpunkt> Fehlende;
   std::set<std::string> Nummern;

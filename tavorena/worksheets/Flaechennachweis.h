@@ -16,6 +16,9 @@ namespace tavorena {
 /// @return 0; -1: broken off, or none with a message
 [[nodiscard]] int NachweisWählen(Polnachweis& N);
 
+/// As it would be typed; a proof has no measured lengths.
+[[nodiscard]] Flaecheneingabe AlsEingabe(const Polnachweis& N);
+
 /// Stores the points of a proof that the table lacks, with its coordinates, after a question that counts
 /// them. @param[in,out] R  takes them as one deed
 /// @return 0; -1: broken off, or they can not be stored: the table stays

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -20,6 +21,10 @@ constexpr double KeinWert = std::numeric_limits<double>::quiet_NaN();
 
 // Two results that look alike; none is like none.
 bool Gleich(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+bool Gleich(const Zeileneingabe& A, const Zeileneingabe& B) {
+  return A.Pnr == B.Pnr && A.Symbol == B.Symbol && A.Wort == B.Wort &&
+         std::ranges::equal(A.Maße, B.Maße, [](double a, double b) { return Gleich(a, b); });
+}
 
 }  // namespace
 
@@ -101,7 +106,7 @@ bool Listenblatt::ZelleVerlassen() {
   if (z >= std::ssize(Reihen)) return true;
   if (!Eingaben->ZelleLesen(z, Zellen().Spalte)) return false;
   Zeileneingabe Neu = Eingaben->Eingabe(z);
-  if (Neu == Reihe(z)) return true;
+  if (Gleich(Neu, Reihe(z))) return true;
   if (z == Anzahl() && z == Liste.Höchstzahl && Eingaben->HatEingabe(z)) {
     StatusHilfeSetzen(Liste.Zuviel);
     return false;
@@ -187,6 +192,7 @@ void Listenblatt::Auffrischen() {
 // Texts are made of what is new. @return true: something is
 bool Listenblatt::ErgebnisseZeigen(int z) {
   Listenreihe& Z = Eigene(z);
+  if (!Z.Ergebnisse.empty() && ZeileBleibt(z)) return false;
   Zeilenwerte.clear();
   if (z < Anzahl()) Zeilenergebnis(z, Zeilenwerte);
   auto Neu = Zeilenwerte.begin();

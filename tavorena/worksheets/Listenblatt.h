@@ -72,6 +72,8 @@ class Listenblatt : public Rechenblatt {
   [[nodiscard]] virtual Listenmangel Rechnen() = 0;
   /// The results of a row as lengths [m], column by column; not a number: the cell stays empty.
   virtual void Zeilenergebnis(int z, std::vector<double>& Werte) const = 0;
+  /// It knows that they are those that are shown: for lists of which only few rows change at a time.
+  [[nodiscard]] virtual bool ZeileBleibt(int /*z*/) const { return false; }
   /// Shows the results beside the rows, and all in the graphics view.
   virtual void ZeigeBerechnung() = 0;
   /// What is to be written of the list as it was computed.

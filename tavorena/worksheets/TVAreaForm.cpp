@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -75,42 +76,59 @@ Feld& TVAreaForm::Textfeld(const char* Rest, const char* Label, int Zeile) {
 // ---- the boundary ----------------------------------------------------------------------------------
 
 Listenmangel TVAreaForm::Rechnen() {
-  Grenze.Punkte.resize(Stelle(Anzahl()));
+  Grenze.AnzahlSetzen(Stelle(Anzahl()));
   Listenmangel M;
   if (Anzahl() == 0) M = {"Punkte fehlen", 0, SpaltePnr, nullptr, true};
   for (int z = 0; z < Anzahl() && M.Text.empty(); ++z) {
     const Listenreihe& Z = Reihe(z);
-    Grenzpunkt& P = Grenze.Punkte[Stelle(z)];
+    PunktNehmen(Stelle(z), Z);
     if (Z.Pnr.empty()) M = {"Punktnummer fehlt", z, SpaltePnr, nullptr, true};
-    P.Pnr = Z.Pnr;
-    P.Ort = Z.Ort;
-    P.Gemessen = std::isnan(Z.Maße[0]) ? 0 : Z.Maße[0];
-    if (P.Gemessen < 0) M = {"Grenzlänge ist negativ", z, SpalteGemessen};
-    if (P.Getippt == Z.Wort) continue;
-    P.Getippt = Z.Wort;
-    std::string Radius = Z.Wort;
-    static_cast<void>(RadiusPrüfen(Radius, P.Art, P.Radius));  // it was good when the cell was read
+    if (Z.Maße[0] < 0) M = {"Grenzlänge ist negativ", z, SpalteGemessen};
   }
   if (M.Text.empty()) {
     Grenze.Rechnen();
   } else {
-    Grenze.Leeren();
+    Grenze.AnzahlSetzen(0);
   }
   return M;
 }
 
+// A row as it is typed; most are as they were.
+void TVAreaForm::PunktNehmen(std::size_t i, const Listenreihe& Z) {
+  const Grenzpunkt& Alter = Grenze.Punkt(i);
+  const double Gemessen = std::isnan(Z.Maße[0]) ? 0 : Z.Maße[0];
+  if (Grenze.Ort(i) == Z.Ort && Grenze.Grenzlaenge(i) == Gemessen && Alter.Pnr == Z.Pnr &&
+      Alter.Getippt == Z.Wort)
+    return;
+  Grenzpunkt P{Z.Pnr, Kantenart::Linie, 0, Z.Wort};
+  std::string Radius = Z.Wort;
+  static_cast<void>(RadiusPrüfen(Radius, P.Art, P.Radius));  // it was good when the cell was read
+  Grenze.Setzen(i, Z.Ort, std::move(P), Gemessen);
+  Andere.push_back(i);
+}
+
+// An edge lies between its point and the next one.
+bool TVAreaForm::ZeileBleibt(int z) const {
+  const std::size_t i = Stelle(z);
+  const auto Anders = [&](std::size_t k) { return std::binary_search(Andere.begin(), Andere.end(), k); };
+  return i < Grenze.Anzahl() && !Anders(i) && !Anders(Grenze.Danach(i));
+}
+
 void TVAreaForm::Zeilenergebnis(int z, std::vector<double>& Ziel) const {
-  const Listenreihe& Z = Reihe(z);
-  if (Z.Pnr.empty()) return;
-  Ziel.assign({Z.Ort.RW, Z.Ort.HW});
-  if (Stelle(z) >= Grenze.Punkte.size()) return;
-  Ziel.push_back(Grenze.Werte().Kanten[Stelle(z)].Laenge);
-  double WS = 0, D = 0;
-  if (Grenze.Abweichung(Stelle(z), WS, D)) Ziel.insert(Ziel.end(), {WS, D});
+  const std::size_t i = Stelle(z);
+  if (i < Grenze.Anzahl()) {
+    Ziel.resize(5, std::numeric_limits<double>::quiet_NaN());
+    Ziel[0] = Grenze.Ort(i).RW;
+    Ziel[1] = Grenze.Ort(i).HW;
+    Ziel[2] = Grenze.Werte().Kanten[i].Laenge;
+    static_cast<void>(Grenze.Abweichung(i, Ziel[3], Ziel[4]));
+  } else if (const Listenreihe& Z = Reihe(z); !Z.Pnr.empty()) {
+    Ziel = {Z.Ort.RW, Z.Ort.HW};
+  }
 }
 
 bool TVAreaForm::Auffällig(int z, int s) const {
-  if (Stelle(z) >= Grenze.Punkte.size()) return false;
+  if (Stelle(z) >= Grenze.Anzahl()) return false;
   if (s == SpalteRadius || s == SpalteGerechnet) return Grenze.Werte().Kanten[Stelle(z)].SehneZuLang;
   return s == SpalteWS && Grenze.WeichtAb(Stelle(z));
 }
@@ -124,7 +142,8 @@ void TVAreaForm::ZeigeBerechnung() {
   if (Da && !Grenze.GKred().IstGegeben()) GKred->Text = "keine GK-Koord.";
   if (Da && Grenze.GKred().IstGegeben() && Optionen.GKreduzierteFlaechen)
     GKred->Text = Längentext(Grenze.GKred());
-  Bild.Zeigen(Grenze);
+  Bild.Zeigen(Grenze, Andere);
+  Andere.clear();
   const std::string Text = Grenze.Urteil();
   if (!ImStapel() && Text != Gemeldet) StatusHilfeSetzen(Text);
   Gemeldet = Text;
@@ -144,11 +163,7 @@ int TVAreaForm::Füllen(const Flaecheneingabe& E) {
   Name.Text = E.Name;
   Bemerkung.Text = E.Bemerkung;
   std::vector<Zeileneingabe> Zeilen;
-  for (const Kanteneingabe& K : E.Kanten) {
-    const double Gemessen = K.Grenzlaenge == 0 ? std::numeric_limits<double>::quiet_NaN() : K.Grenzlaenge;
-    const Kantenart Gebaut = K.Radius == 0 ? Kantenart::Linie : K.Art;
-    Zeilen.push_back({K.Pnr, {Gemessen}, "", Radiustext(Gebaut, std::fabs(K.Radius))});
-  }
+  for (const Kanteneingabe& K : E.Kanten) Zeilen.push_back(Grenzzeile(K));
   return ReihenSetzen(std::move(Zeilen));
 }
 
@@ -176,9 +191,7 @@ void TVAreaForm::PolLesen() {
   if (NachweisWählen(N) < 0) return;
   if (std::ssize(N.Kanten) > MeistePunkte) return StatusHilfeSetzen("Der Nachweis hat mehr als 9990 Punkte");
   if (!LeerenErlaubt() || FehlendePunkteSpeichern(N, Gespeichert) < 0) return;
-  Flaecheneingabe E{N.Name, N.Bemerkung, {}};
-  for (const Polkante& K : N.Kanten) E.Kanten.push_back({K.Punkt.Pnr, K.Art, K.Radius, 0});
-  static_cast<void>(Füllen(E));  // its points are there
+  static_cast<void>(Füllen(AlsEingabe(N)));  // its points are there
   NeuRechnen();
   FokusSetzen(Zellen());
 }

@@ -15,6 +15,7 @@ class TVAreaForm final : public Listenblatt {
  protected:
   [[nodiscard]] Listenmangel Rechnen() override;
   void Zeilenergebnis(int z, std::vector<double>& Ziel) const override;
+  [[nodiscard]] bool ZeileBleibt(int z) const override;
   void ZeigeBerechnung() override;
   [[nodiscard]] Listenakte Akte() const override;
   void FelderLeeren() override;
@@ -24,12 +25,14 @@ class TVAreaForm final : public Listenblatt {
 
  private:
   Feld& Textfeld(const char* Rest, const char* Label, int Zeile);
+  void PunktNehmen(std::size_t i, const Listenreihe& Z);
   [[nodiscard]] bool Auffällig(int z, int s) const;
   [[nodiscard]] int Füllen(const Flaecheneingabe& E);
   void Pol();
   void PolLesen();
 
   Flaechengrenze Grenze;
+  std::vector<std::size_t> Andere;  // points that were changed since it was shown, rising
   Flaechenbild Bild;
   std::string Gemeldet;   // what was told of it last
   Polnachweis Nachweis;   // with what the next one begins
