@@ -160,13 +160,13 @@ QWidget* Gitteransicht::Fokusziel() {
 
 // Puts the field of the current cell into its place.
 void Gitteransicht::FeldSetzen() {
+  if (Daten.Markenspalte >= 0) viewport()->update();  // the row that was the current one is no more
   if (!Daten.Aktiv || !Daten.ZelleOffen()) {
     Feldzelle = QModelIndex();
     Zellfeld->hide();
     const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
     if (Daten.NurLesen) selectionModel()->setCurrentIndex(Zelle, QItemSelectionModel::NoUpdate);
     if (Daten.NurLesen) ZelleZeigen(Zelle);
-    if (Daten.Markenspalte >= 0) viewport()->update();  // the row that was the current one is no more
     return;
   }
   const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);

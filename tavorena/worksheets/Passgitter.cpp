@@ -65,7 +65,7 @@ Passgitter::Passgitter(Rechenblatt& Für, const char* Rahmen, const NeuesSystem&
       Sortierung(
           Für.ListeAnlegen(Für.Mit("Sortierung"), {Titel.begin(), Titel.end()}, Titel[SPnr], {0, 3}, Rahmen)),
       Löschknopf(Für.KnopfAnlegen(
-          Für.Mit("Delete"), "Zeile lös&chen", [this] { Delete(); }, {0, 4}, Rahmen)) {
+          Für.Mit("Delete"), "Zeile lösc&hen", [this] { Delete(); }, {0, 4}, Rahmen)) {
   for (int s = 0; s < SpaltenAnzahl; ++s) {
     const bool Nummer = s == SPnr || s == SNeu;
     const int Zeichen = s == SEin ? 3 : s == SPnr ? 8 : s == SNeu ? 10 : s < SVY ? Längenbreite(6) : 6;

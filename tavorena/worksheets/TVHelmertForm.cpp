@@ -27,7 +27,7 @@ TVHelmertForm::TVHelmertForm(const Blattart& BlattArt)
             Zeilen.Setzen({});
           },
           [this] { FokusSetzen(KnopfGleich); }),
-      Helmert(OptionAnlegen(Mit("OptionHelmert"), "&Helmert", {1, 0}, RahmenArt)),
+      Helmert(OptionAnlegen(Mit("OptionHelmert"), "Helmert", {1, 0}, RahmenArt)),
       Affin(OptionAnlegen(Mit("OptionAffin"), "Affin", {1, 1}, RahmenArt)),
       MasstabFest(KästchenAnlegen(Mit("MasstabFest"), "Maßstab fest (M=1)", {1, 2}, RahmenArt)),
       Verteilen(KästchenAnlegen(Mit("Verteilen"), "Restklaffen verteilen", {1, 3}, RahmenArt)),

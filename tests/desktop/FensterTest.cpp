@@ -187,6 +187,27 @@ class FensterTest final : public Fensterumgebung {
     QVERIFY(!Tasten.contains("3001") || KorSuche(std::string_view("3001")) >= 0);
   }
 
+  // Passpoints are sorted by a heading and unticked by the space bar.
+  void passpunkteMitMausUndTastatur() {
+    Öffne("MenüKatasterHelmert");
+    Schreibe(Pfad("neu.kor"), "1001 0 0\r\n1002 60 80.01\r\n2003 30 30\r\n2004 0 75.5\r\n");
+    Tippe("neu\n\n");
+    auto* Tabelle = Fenster->findChild<QTableView*>("HelmertGitter");
+    const auto Zelle = [&](int Spalte) { return Tabelle->model()->index(0, Spalte).data().toString(); };
+    QTRY_COMPARE(Zelle(1), QString("1001"));
+    QHeaderView* Kopf = Tabelle->horizontalHeader();
+    QTest::mouseClick(Kopf->viewport(), Qt::LeftButton, {}, {Kopf->sectionViewportPosition(9) + 5, 5});
+    QCOMPARE(Zelle(1), QString("2004"));
+    Drücke(Qt::Key_Space);
+    QCOMPARE(Zelle(0), QString());
+    Antworte(Qt::Key_J);
+    Drücke(Qt::Key_M, Qt::AltModifier);
+    QTRY_VERIFY(Inhalt(Pfad("a.sta")).contains("KEINPASSP       2004\r\nPASSP       1002\r\n"));
+    QTRY_COMPARE(FokusName(), QString("HelmertZurück"));
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
+  }
+
   // Thirty rows typed faster than anything is drawn, one with an unknown number; the keys behind its Return
   // wait for nobody and must not become coordinates.
   void dreissigZeilenOhneAtempause() {
