@@ -191,6 +191,11 @@ void Fallblatt::FallRechnen() {
   const bool Ganz = Fehlt() == nullptr;
   if (Ganz) {
     Grund = Rechnen();
+    const auto Fern = [](const Fallpunkt& L) {
+      return L.Da() && !(StapelZahlPaßt(L.Ort.RW) && StapelZahlPaßt(L.Ort.HW));
+    };
+    if (Grund.empty() && std::any_of(Lösungen.begin(), Lösungen.end(), Fern))
+      Grund = "Der Punkt liegt zu fern: mehr als 7 Stellen vor dem Komma";
   } else {
     Unvollständig();
   }

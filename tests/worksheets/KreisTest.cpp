@@ -81,10 +81,13 @@ TEST_F(KreisTest, KreisUndGeradeOhneErgebnis) {
   }
   EXPECT_EQ(Gib("IntblK1_Radius", "0\n"), "IntblK1_Radius");  // refused where it is typed
   EXPECT_TRUE(Gleich(KorAnzahl, 16, Stapeltext(), ""));
+  Leere("IntblK1_Radius");
+  Gib("IntblG2_Pll", "1\n");
   const std::pair<const char*, const char*> Radien[] = {
-      {"3.01\n", "5600197.000 5.1908! Schleifender Schnitt: Tau bis 10 gon"},
-      {"3.0001\n", " Berührpkt.! 0.5198! Schleifender Schnitt: Tau bis 10 gon"},
-      {"2\n", "  kein Schnitt"},
+      {"1.01\n", "5600199.000 8.9659! Schleifender Schnitt: Tau bis 10 gon"},
+      {"1.0001\n", " 0.9003! Schleifender Schnitt: Tau bis 10 gon"},  // one point by the engine
+      {"1\n", " Berührpkt.! 0.0000! Schleifender Schnitt: Tau bis 10 gon"},
+      {"0.9\n", "  kein Schnitt"},
   };
   for (const auto& [Radius, Soll] : Radien) {
     Gib("IntblK1_Radius", Radius);
@@ -138,10 +141,16 @@ TEST_F(KreisTest, BeideLösungenMitIhrerNotiz) {
   B = Öffne("09.50");
   Gib("Kmitt_Pnr1", "45\n44\n41\n");  // clockwise
   EXPECT_TRUE(Zeigt("Bogen 200 200 100 53 270 f255"));
+  Gib("Kmitt_NeuPnr", "3001\n\n");
+  EXPECT_TRUE(Protokoll().ends_with(
+      "PM\r\n      *** Mittel eingeführt             dRw=    3.900  dHw=   -3.000\r\n"));
 }
 
 TEST_F(KreisTest, KreismittelpunkteSchreibenIhreDateien) {
-  PunkteAnlegen({{"31", 3500105, 5600240}, {"32", 3500140, 5600235}, {"33", 3500120, 5600195}});
+  PunkteAnlegen({{"31", 3500105, 5600240},
+                 {"32", 3500140, 5600235},
+                 {"33", 3500120, 5600195},
+                 {"34", 3500100, 5600200.0000001}});
   B = Öffne("09.50");
   Gib("Kmitt_Pnr1", "21\n22\n23\n");
   EXPECT_EQ(Stand({"Kmitt_NeuRechts", "Kmitt_NeuHoch", "KmittR3", "KmittTau"}),
@@ -154,6 +163,8 @@ TEST_F(KreisTest, KreismittelpunkteSchreibenIhreDateien) {
   EXPECT_EQ(Stand({"Kmitt_NeuHoch", "KmittR1"}), "5600220.000! 25.000 Punkte liegen auf einer Linie");
   Gib("Kmitt_Pnr3", "42\n");  // the first again
   EXPECT_EQ(Stand({}), "Punkte sind gleich");
+  Gib("Kmitt_Pnr3", "34\n3003\n\n");  // a centre that no file can hold
+  EXPECT_EQ(Stand({}), "Der Punkt liegt zu fern: mehr als 7 Stellen vor dem Komma");
   Drücke(*B, "KmittFelderClear");
   Drücke(*B, "KmittEnd");
   PrüfeDateien("kmitt", 2);
