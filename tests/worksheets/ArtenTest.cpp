@@ -21,7 +21,7 @@ const Auftrag Aufträge[] = {
      "1001\n1002\n2,5\n\n\n2003\n2005\n\n\n2004\n3001\n015\n1001\n1002\n\n\n\n2003\n"
      "2005\n\n\n\n3002\n\n"},
     {"09.40", "IntblK1_MittPnr",
-     "1001\n2004\n\n\n2003\n2005\n\n\n\n3001\n015\n3002\n\n1001\n2004\n\n\n1001\n1002\n75\n\n\n3003\n\n"},
+     "1001\n2004\n\n\n2003\n2005\n\n\n\n3001\n015\n3002\n020\n1001\n2004\n\n\n1001\n1002\n75\n\n\n3003\n\n"},
     {"23.10", "IntbbK1_MittPnr", "1001\n\n80\n0,5\n1002\n2003\n\n\n3001\n015\n3002\n\n"},
     {"09.50", "Kmitt_Pnr1", "1001\n2003\n2005\n3001\n015\n1001\n2004\n2005\n3002\n\n"},
     {"19.10", "PolygonZugNr",
@@ -53,8 +53,12 @@ TEST_P(Artentest, NachlaufGleichtDerAufzeichnung) {
   const auto& [A, Nachkomma, Warnstufe] = GetParam();
   Optionen.OptNachkommastellen = static_cast<std::int16_t>(Nachkomma);
   Optionen.OptWarnstufe = static_cast<std::int16_t>(Warnstufe);
-  std::vector<Punktsatz> Vorher;
-  for (int z = 0; z < KorAnzahl; ++z) Vorher.push_back(PunktsatzVon(z));
+  const auto Tabelle = [] {
+    std::vector<Punktsatz> Alle;
+    for (int z = 0; z < KorAnzahl; ++z) Alle.push_back(PunktsatzVon(z));
+    return Alle;
+  };
+  const auto Vorher = Tabelle();
   KoordinatendateiName = Ordner.Pfad("musterdorf.kor");
   Schreibe(Ordner.Pfad("neu.kor"),
            "1001 0 0\r\n1002 60.01 80\r\n2003 30.1 30\r\n2004 0 75.02\r\n2005 120 160\r\n");
@@ -66,9 +70,11 @@ TEST_P(Artentest, NachlaufGleichtDerAufzeichnung) {
   ASSERT_FALSE(B->Offen());
   const std::string Prots = Protokoll(), Sta = Stapeltext();
   EXPECT_FALSE(Prots.empty());
+  const auto Nachher = Tabelle();
   KorAbschneiden(0);
   for (const Punktsatz& P : Vorher) ASSERT_EQ(KorAnhängen(P.Satz()), 0);
   EXPECT_EQ(Nachlauf(), Prots);
+  EXPECT_EQ(Tabelle() == Nachher, true);
   EXPECT_TRUE(
       Gleich(StapelBericht().size(), 0U, Stapel.Bilanz.Blöcke > 0, true, Stapel.Bilanz.Fehler, false));
   EXPECT_EQ(Stapeltext(), Sta);
