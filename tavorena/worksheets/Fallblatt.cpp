@@ -434,10 +434,19 @@ int Fallblatt::StapelZeile() {
   if (std::exchange(StapelErledigt, true)) return -2;
   const bool AllesDa = std::all_of(Punkte.begin(), Punkte.end(),
                                    [](const Punktfeld& P) { return P.Gesetzt() || P.Pnr.Text->empty(); });
+  std::vector<std::string> Nummern;  // that the block gives
+  for (const Fallpunkt& L : Lösungen) Nummern.push_back(L.Benannt() ? *L.NeuPnr.Text : "");
   const int Ergebnis = AllesDa ? FallSchreiben() : -1;
   if (Ergebnis == 0) ++Stapel.Bilanz.Zeilen;
-  if (Ergebnis == -1) StapelFallAuslassen(Grund.empty() ? "keine Punktnummer" : Grund);
+  std::string Warum = Grund;
+  if (Warum.empty() && std::all_of(Nummern.begin(), Nummern.end(), [](const auto& N) { return N.empty(); }))
+    Warum = "keine Punktnummer";
+  if (Ergebnis == -1 && !Warum.empty()) StapelFallAuslassen(Warum);
   if (Ergebnis == -3) StapelFallAuslassen("Punkt nicht gespeichert");
+  for (std::size_t i = 0; Ergebnis >= -1 && i < Nummern.size(); ++i) {
+    if (Grund.empty() && !Nummern[i].empty() && !Lösungen[i].Gewählt())
+      StapelFallAuslassen("Punkt " + Nummern[i] + " nicht gespeichert");
+  }
   if (Ergebnis != -2) return 0;
   StapelFehlerMeldung("Zeile nicht geschrieben");
   return -1;

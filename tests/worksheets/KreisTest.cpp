@@ -2,6 +2,7 @@
 #include "Mitschrift.h"
 
 #include <tavorena/core/Text.h>
+#include <tavorena/records/Stapelleser.h>
 
 namespace tavorena::test {
 namespace {
@@ -95,6 +96,20 @@ TEST_F(KreisTest, KreisUndGeradeOhneErgebnis) {
     EXPECT_EQ(Stand({"Intbl_NeuHoch2", "IntblTau"}), Soll);
     EXPECT_EQ(Element(*B, "Intbl_NeuPnr2").Aktiv, Radius == Radien[0].first);
   }
+}
+
+// Over other coordinates the line may only touch: the point that is not there any more is named.
+TEST_F(KreisTest, NachlaufNenntDieFehlendeLösung) {
+  B = Öffne("09.40");
+  Gib("IntblK1_MittPnr", "1001\n\n5\n\n42\n43\n-3\n\n\n3001\n\n3002\n\n");
+  Gib("IntblK1_Radius", "5\n\n\n\n-3\n\n\n\n\n3003\n\n");
+  Drücke(*B, "IntblEnd");
+  static_cast<void>(KorZeileSetzen(KorSuche(std::string_view("1001")), {"1001", 3500104, 5600198}));
+  Starten();
+  const std::string Wo = "ohne Ergebnis: VR 09.40 Schnitt Kreis / Gerade, Zeile ";
+  EXPECT_EQ(StapelBericht(), (std::vector<std::string>{Wo + "1: Punkt 3002 nicht gespeichert",
+                                                       Wo + "13: Punkt 3003 nicht gespeichert"}));
+  EXPECT_TRUE(Gleich(Stapel.Bilanz.Zeilen, 1, Stapel.Bilanz.Fehler, false));
 }
 
 TEST_F(KreisTest, BogenschnitteSchreibenIhreDateien) {
