@@ -22,6 +22,7 @@ TVRueckwaertsschnittForm::TVRueckwaertsschnittForm(const Blattart& BlattArt)
       Tau2Feld(ErgebnisAnlegen("Tau2", "Tau2 (gon):", 2)) {
   Cassini.Gewählt = true;
   PunktfeldKopf(*this, RahmenPunkte);
+  BeschriftungAnlegen("Richtung", {0, 7}, RahmenPunkte).Rechtsbündig = true;
   FallAnlegen();
 }
 
@@ -32,18 +33,18 @@ Auswahl& TVRueckwaertsschnittForm::VerfahrenAnlegen(const char* Name, int Spalte
 }
 
 TVRueckwaertsschnittForm::Ziel TVRueckwaertsschnittForm::ZielAnlegen(int Nummer) {
-  constexpr const char* Namen[] = {"Punkt links", "Punkt Mitte", "Punkt rechts"};
+  constexpr const char* Namen[] = {"links", "Mitte", "rechts"};
   const std::string n = std::to_string(Nummer);
   Punktfeld& P = PunktAnlegen("_", Namen[Nummer - 1], RahmenPunkte, Nummer, true, n);
-  Messfeld& R = MaßAnlegen("_Richtung" + n, "Richtung", {Nummer, 6}, RahmenPunkte);
+  Messfeld& R = MaßAnlegen("_Richtung" + n, "", {Nummer, 6}, RahmenPunkte);
   R.Eingabe.Hilfe = "Ablesung auf dem Punkt in gon";
   return {P, R};
 }
 
 // The method stands before the points, but the work begins with them.
 void TVRueckwaertsschnittForm::BeiÖffnen() {
-  FokusSetzen(Z[0].Punkt.Pnr);
   Fallblatt::BeiÖffnen();
+  if (!ImStapel()) FokusSetzen(Z[0].Punkt.Pnr);
 }
 
 std::string TVRueckwaertsschnittForm::Doppelt() {

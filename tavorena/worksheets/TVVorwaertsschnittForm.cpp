@@ -8,12 +8,13 @@ namespace tavorena {
 
 TVVorwaertsschnittForm::Stand::Stand(TVVorwaertsschnittForm& Blatt, const std::string& Nummer,
                                      const char* Rahmen)
-    : Fern(Blatt.PunktAnlegen("Fern", "Fernpunkt", Rahmen, 1, true, Nummer)),
-      FernRichtung(Blatt.MaßAnlegen("FernRichtung" + Nummer, "Richtung", {1, 6}, Rahmen)),
-      Ort(Blatt.PunktAnlegen("Stand", "Standpunkt", Rahmen, 2, true, Nummer)),
-      NeuRichtung(Blatt.MaßAnlegen("NeuRichtung" + Nummer, "zum Neupunkt", {2, 6}, Rahmen)),
-      Vertikal(Blatt.MaßAnlegen("Vertikal" + Nummer, "Vk", {2, 8}, Rahmen, false)) {
+    : Fern(Blatt.PunktAnlegen("Fern", "Fernpkt.", Rahmen, 1, true, Nummer)),
+      FernRichtung(Blatt.MaßAnlegen("FernRichtung" + Nummer, "", {1, 6}, Rahmen)),
+      Ort(Blatt.PunktAnlegen("Stand", "Standpkt.", Rahmen, 2, true, Nummer)),
+      NeuRichtung(Blatt.MaßAnlegen("NeuRichtung" + Nummer, "Neupkt.", {2, 6}, Rahmen)),
+      Vertikal(Blatt.MaßAnlegen("Vertikal" + Nummer, "Vk", {3, 6}, Rahmen, false)) {
   PunktfeldKopf(Blatt, Rahmen);
+  Blatt.BeschriftungAnlegen("Richtung", {0, 7}, Rahmen).Rechtsbündig = true;
   FernRichtung.Eingabe.Hilfe = "Ablesung auf dem Fernpunkt in gon";
   NeuRichtung.Eingabe.Hilfe = "Ablesung auf dem Neupunkt in gon";
   Vertikal.Eingabe.Hilfe = "Zenitwinkel zum Neupunkt in gon; leer: waagerecht";

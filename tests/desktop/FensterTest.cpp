@@ -171,6 +171,12 @@ class FensterTest final : public Fensterumgebung {
     Fall("MenüKatasterIntbb", "1001\n\n80\n\n1002\n2003\n\n\n3001\n\n\n\n",
          "NEUPUNKT       3001  -\r\nNEUPUNKT          0  -   -\r\nE  (Ende)");
     Fall("MenüKatasterKmitt", "1001\n2004\n2005\n3001\n015\n", "K0PMN     3001  015\r\nE  (Ende)");
+    Fall("MenüKatasterVorw", "2004\n10\n1001\n39,5\n98,5\n2005\n0\n1002\n45,6\n\n3001\n\n",
+         "STANDP2WS     1002       45.6000        0.0000\r\nNEUPNR     3001  -\r\nE  (Ende)");
+    Fall("MenüKatasterRueck", "2003\n0\n1002\n11,5\n2005\n31,1\n3001\n7\n",
+         "PARAM CASSINI\r\nPWS     2003         0.0000");
+    Fall("MenüBearbeiten3D(4)", "1001\n1002\n0,85\n3001\n",
+         "NR3D     1001      1002      3001        0.8500");
     Fall("MenüKatasterPolygon", "7\n2003\n1001\n127\n30\n3001\n267\n27\n\n\n1002\n171\n2005\n\n",
          "NEUPWS     3001      267.0000       27.0000  -\r\nABSCHLP     1002      171.0000");
     Fall("MenüKatasterArea", "N\n\n1001\n\n100,02\n1002\n-70g\n\n2003\n\n\n\n\n",
