@@ -15,6 +15,7 @@ if [ ! -f "$beispiel/musterdorf.kor" ]; then
   mkdir -p "$beispiel"
   cp examples/musterdorf.kor "$beispiel/musterdorf.kor"
   cp examples/musterdorf.sta "$beispiel/beispiel.sta"
+  cp examples/passpunkte.kor "$beispiel/passpunkte.kor"
 fi
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

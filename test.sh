@@ -37,7 +37,7 @@ schritt "aus Python"
 export PYTHONPATH=build/headless/python MPLBACKEND=Agg
 /usr/bin/python3 -m unittest discover -s python/tests
 /usr/bin/python3 examples/python/umformen.py --bild build/headless/umformen.png \
-  examples/musterdorf.kor examples/python/passpunkte.kor build/headless/umgeformt.kor
+  examples/musterdorf.kor examples/passpunkte.kor build/headless/umgeformt.kor
 
 if [ "$streng" ]; then
   schritt "clang, clang-tidy"

@@ -3,7 +3,7 @@
 
     examples/erzeugen.py [path of tavorena-stapel]
 
-Writes musterdorf.kor and musterdorf.sta beside this file, the passpoints of python/ to a new survey, and
+Writes musterdorf.kor and musterdorf.sta beside this file, the passpoints to a new survey, and
 musterdorf.dru by replaying the batch file when the program is given. The same numbers come out every time: the measuring errors have a fixed seed.
 """
 import math
@@ -15,6 +15,7 @@ import sys
 
 HIER = pathlib.Path(__file__).resolve().parent
 ZUFALL = random.Random(19700101)
+ZUFALL_NEU = random.Random(19700102)  # of the new points
 URSPRUNG = (3456213.40, 5612387.15)  # Rechts, Hoch of the churchyard corner, zone 3
 DREHUNG = math.radians(14.3)  # of the main street against east
 STEMPEL = "21.11.2026   09:30"
@@ -128,14 +129,112 @@ def sta():
         masse = {p: round(gemessen(*p) + grob.get(i, 0), 2) for i, p in enumerate(paare)}
         zeilen += block(kontrolle, anschluss(a, 0, e, masse[(a, e)]),
                         [f"NND {p:8d}  {q:8d}  {masse[(p, q)]:12.4f}" for p, q in weitere], "E  (Ende)")
+    zeilen += neue_punkte()
     return "".join(z + "\r\n" for z in zeilen)
+
+
+# ---- the field book of the new points: one block of every kind, measured to points that are made up here
+
+
+def feld(nummer):
+    """The place of a made-up point [m, and its height]."""
+    x, y = {5001: (12.5, 1.1), 5002: (31.2, -1.4), 5003: (49.9, 3.2), 5011: (140.3, 10.8), 5012: (155.7, -6.1),
+            5013: (170.2, 8.3), 5024: (27.3, 14.9), 5030: (96.4, 30.2), 5031: (133.0, 90.4), 5041: (60.3, 40.1),
+            5042: (128.8, 31.6), 5043: (196.2, 36.9)}[nummer]
+    return (URSPRUNG[0] + x * math.cos(DREHUNG) - y * math.sin(DREHUNG),
+            URSPRUNG[1] + x * math.sin(DREHUNG) + y * math.cos(DREHUNG), 182.2 + 0.011 * x + 0.02 * y)
+
+
+def ort(n):
+    return punkte[n] if n in punkte else feld(n)
+
+
+def winkel(a, b):
+    """Bearing [gon]."""
+    p, q = ort(a), ort(b)
+    return math.atan2(q[0] - p[0], q[1] - p[1]) * 200 / math.pi % 400
+
+
+def weit(a, b):
+    return math.hypot(ort(b)[0] - ort(a)[0], ort(b)[1] - ort(a)[1])
+
+
+def richtung(a, b, orientierung=0.0):
+    """A direction that is read at a to b."""
+    return round((winkel(a, b) - orientierung + ZUFALL_NEU.gauss(0, 0.0008)) % 400, 4)
+
+
+def mass(a, b):
+    return round(weit(a, b) + ZUFALL_NEU.gauss(0, 0.008), 3)
+
+
+def zenit(a, b):
+    return round(100 - math.atan2(ort(b)[2] - ort(a)[2], weit(a, b)) * 200 / math.pi, 4)
+
+
+def linie(a, e, n):
+    """Foot and offset on a measured line."""
+    w = (winkel(a, n) - winkel(a, e)) * math.pi / 200
+    return round(weit(a, n) * math.cos(w), 2), round(weit(a, n) * math.sin(w), 2)
+
+
+def neupunkt(n, symbol="015"):
+    return f"NEUPUNKT   {n:8d}  {symbol}"
+
+
+def zug(anfziel, anf, neue, end, endziel):
+    """A traverse with its breaking angles."""
+    kette = [anfziel, anf, *neue, end, endziel]
+    brech = [round((winkel(p, n) - winkel(p, v) + ZUFALL_NEU.gauss(0, 0.001)) % 400, 4)
+             for v, p, n in zip(kette, kette[1:], kette[2:])]
+    seiten = [mass(p, n) for p, n in zip(kette[1:], kette[2:-1])]
+    return ([f"ANSCHLZP {anfziel:8d}", f"ANSCHLP {anf:8d}  {brech[0]:12.4f}  {seiten[0]:12.4f}"]
+            + [f"NEUPWS {n:8d}  {w:12.4f}  {s:12.4f}  014" for n, w, s in zip(neue, brech[1:], seiten[1:])]
+            + [f"ABSCHLP {end:8d}  {brech[-1]:12.4f}", f"ABSCHLZP {endziel:8d}"])
+
+
+def neue_punkte():
+    fall, ende = "E  (Ende)", "E Ende"
+    aufnahme = [(n, *linie(101, 102, n)) for n in (5001, 5002, 5003)]
+    zeilen = block("VR 22.00 Meßlinie", anschluss(101, 0, 102, mass(101, 102)),
+                   [f"AO  {n:8d}{l:15.4f}{s:15.4f}{0:15.4f}  014" for n, l, s in aufnahme], ende)
+    zeilen += block("VR 19.70 Polare Punkte", anschluss(103, richtung(103, 104), 104, mass(103, 104)),
+                    [f"PWS {n:8d}{richtung(103, n):15.4f}{zenit(103, n):15.4f}{mass(103, n):15.4f}  014"
+                     for n in (5011, 5012, 5013)], ende)
+    zeilen += block("VR 09.50 Kreismittelpunkt",
+                    [f"K0P{i}N {n:8d}" for i, n in enumerate((4101, 4102, 4103), 1)], ["K0PMN     5020  -"], fall)
+    zeilen += block("VR 09.00 Geradenschnitt", ["G1PAN     1003", "G1PEN     1005", f"G1DIST {2.5:12.4f}"],
+                    ["G2PAN     4001", "G2PEN     4004", "G2ORIG", neupunkt(5021)], fall)
+    zeilen += block("VR 09.40 Schnitt Kreis / Gerade", [f"K0PNR      102  {20:12.4f}  {0:12.4f}  -"],
+                    ["G0PAN     1101", "G0PEN     1115", "G0ORIG", neupunkt(5022), neupunkt(5023)], fall)
+    zeilen += block("VR 23.10 Bogenschnitt",
+                    [f"K{i}PNR {n:8d}  {mass(n, 5024):12.4f}  {0:12.4f}  -" for i, n in ((1, 102), (2, 101))],
+                    [neupunkt(5024), "NEUPUNKT          0  -   -"], fall)
+    zeilen += block("VR 10.00 Vorwärtsschnitt",
+                    [z for i, s, f in ((1, 102, 101), (2, 104, 105))
+                     for z in (f"FERNP{i}WS {f:8d}  {richtung(s, f):12.4f}",
+                               f"STANDP{i}WS {s:8d}  {richtung(s, 5030):12.4f}  {zenit(s, 5030):12.4f}")],
+                    ["NEUPNR     5030  014"], fall)
+    zeilen += block("VR 11.00 Rückwärtsschnitt", ["PARAM CASSINI"],
+                    [f"PWS {n:8d}{richtung(5031, n, 77.7):15.4f}" for n in (110, 107, 111)] + ["NEUPNR     5031  014"],
+                    fall)
+    zeilen += block("VR 19.10 Polygonzüge",
+                    ["ZUGNR 1", "PARAM TP", "PARAM ANSCHLUSSRI", "PARAM ABSCHLUSSRI", "PARAM VERTEIL",
+                     "PARAM VERTEIL WINKEL"], zug(107, 101, (5041, 5042, 5043), 105, 112), ende)
+    ecken = (1003, 1005, 1006, 1004)
+    zeilen += block("VR 65.00 Flächenberechnung", ["NAME      Flurstück 12/3"],
+                    [f"PN    {a:8d}  {mass(a, b):12.4f}" for a, b in zip(ecken, ecken[1:] + ecken[:1])], ende)
+    zeilen += block("3D Raumstrecke", [], ["NR3D      101       107"], fall)
+    zeilen += block("3D Kanalmeßstab", [], ["NR3D     5011      5013      5050        0.8500"], fall)
+    return zeilen + block("VR 24.00 Helmert- Transformation", ["NEUESSYSTEM  passpunkte.kor"],
+                          [f"{'KEIN' * (n == 110)}PASSP   {n:8d}" for n in range(101, 113)], ende)
 
 
 def main():
     punktfeld()
     (HIER / "musterdorf.kor").write_bytes(kor(punkte).encode())
     (HIER / "musterdorf.sta").write_bytes(sta().encode())
-    (HIER / "python" / "passpunkte.kor").write_bytes(kor(passpunkte()).encode())
+    (HIER / "passpunkte.kor").write_bytes(kor(passpunkte()).encode())
     if len(sys.argv) > 1:
         dru = HIER / "musterdorf.dru"
         dru.unlink(missing_ok=True)

@@ -7,7 +7,7 @@ The passpoint file holds numbers of the coordinate file with their coordinates i
 the scale at 1. Without --bild the drawing comes in a window. With the example job:
 
     PYTHONPATH=build/headless/python examples/python/umformen.py --bild /tmp/bild.png \\
-        examples/musterdorf.kor examples/python/passpunkte.kor /tmp/ziel.kor
+        examples/musterdorf.kor examples/passpunkte.kor /tmp/ziel.kor
 """
 
 import argparse

@@ -141,10 +141,10 @@ class Table(WithTa):
             target = pathlib.Path(folder) / "Straße 1.kor"
             target.write_bytes((EXAMPLES / "musterdorf.kor").read_bytes())
             r = self.ta.HelmertTransformationKoordinatendateiPasspunktdatei(
-                target, EXAMPLES / "python" / "passpunkte.kor", True)
+                target, EXAMPLES / "passpunkte.kor", True)
             self.assertEqual(r.result, enmResult.Hinweis_PunktAusserhalbDesPasspunktfeldes)
             new = target.read_text().splitlines()
-            control = (EXAMPLES / "python" / "passpunkte.kor").read_text().splitlines()
+            control = (EXAMPLES / "passpunkte.kor").read_text().splitlines()
             self.assertEqual(len(new), 292)
             for a, b in zip(new, control):  # the control points come first
                 for x, y in zip(a.split()[1:3], b.split()[1:3]):
