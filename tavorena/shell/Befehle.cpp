@@ -241,7 +241,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
-        if (*Menü != '\0') B.push_back({Menü, true, [&Art] { BlattÖffnen(Art); }});
+        if (Menü != nullptr && *Menü != '\0') B.push_back({Menü, true, [&Art] { BlattÖffnen(Art); }});
       }
     }
     return B;

@@ -286,7 +286,9 @@ const Blattart* BlattartVonKennung(std::string_view Kennung) {
 }
 
 const Blattart* BlattartVonMenü(std::string_view Eintrag) {
-  return Finde([&](const Blattart& B) { return B.Menü == Eintrag || B.WeiteresMenü == Eintrag; });
+  return Finde([&](const Blattart& B) {
+    return B.Menü == Eintrag || (B.WeiteresMenü != nullptr && B.WeiteresMenü == Eintrag);
+  });
 }
 
 }  // namespace tavorena

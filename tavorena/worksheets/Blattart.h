@@ -23,7 +23,7 @@ struct Blattart {
   int Hilfenummer;    ///< its help number, from which on
   const char* Seite;  ///< this page of the handbook tells about it
   std::unique_ptr<Formular> (*Neu)(const Blattart&);  ///< makes the form
-  const char* WeiteresMenü = "";                      ///< another entry that opens it
+  const char* WeiteresMenü = nullptr;                 ///< another entry that opens it
 };
 
 /// All kinds, in the order of the menu.
