@@ -96,4 +96,10 @@ int FehlendePunkteSpeichern(const Polnachweis& N, Rücknahme& R) {
   });
 }
 
+bool PunkteZurück(Rücknahme& R) {
+  if (R.Leer()) return false;
+  static_cast<void>(R.Zurück());
+  return true;
+}
+
 }  // namespace tavorena

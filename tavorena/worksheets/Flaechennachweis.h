@@ -24,4 +24,7 @@ namespace tavorena {
 /// @return 0; -1: broken off, or they can not be stored: the table stays
 [[nodiscard]] int FehlendePunkteSpeichern(const Polnachweis& N, Rücknahme& R);
 
+/// Takes them back; what hinders it is told. @return false: there are none
+bool PunkteZurück(Rücknahme& R);
+
 }  // namespace tavorena

@@ -6,7 +6,6 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Stapelsatz.h>
-#include <tavorena/worksheets/Flaechennachweis.h>
 #include <tavorena/worksheets/TVAreaForm.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
@@ -89,6 +88,7 @@ Listenmangel TVAreaForm::Rechnen() {
     Grenze.Rechnen();
   } else {
     Grenze.AnzahlSetzen(0);
+    Andere.clear();
   }
   return M;
 }
@@ -194,12 +194,6 @@ void TVAreaForm::PolLesen() {
   static_cast<void>(Füllen(AlsEingabe(N)));  // its points are there
   NeuRechnen();
   FokusSetzen(Zellen());
-}
-
-bool TVAreaForm::Zurücknehmen() {
-  if (Gespeichert.Leer()) return false;
-  static_cast<void>(Gespeichert.Zurück());  // what hinders it is told
-  return true;
 }
 
 }  // namespace tavorena

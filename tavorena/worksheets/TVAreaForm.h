@@ -1,7 +1,7 @@
 #pragma once
 
-#include <tavorena/points/Ruecknahme.h>
 #include <tavorena/worksheets/Flaechenbild.h>
+#include <tavorena/worksheets/Flaechennachweis.h>
 #include <tavorena/worksheets/Listenblatt.h>
 
 namespace tavorena {
@@ -21,7 +21,7 @@ class TVAreaForm final : public Listenblatt {
   void FelderLeeren() override;
   [[nodiscard]] int BlockLesen() override;
   void GrafikLöschen() override { Bild.Löschen(); }
-  bool Zurücknehmen() override;
+  bool Zurücknehmen() override { return PunkteZurück(Gespeichert); }
 
  private:
   Feld& Textfeld(const char* Rest, const char* Label, int Zeile);
