@@ -25,7 +25,7 @@ std::int16_t Rechenart(Kantenart A) {
 }  // namespace
 
 std::string Radiustext(Kantenart Art, double Radius) {
-  if (Art == Kantenart::Linie) return "";
+  if (Art == Kantenart::Linie || Radius == 0) return "";
   return Messwerttext(IstInnen(Art) ? -Radius : Radius) + (IstLang(Art) ? "G" : "");
 }
 
@@ -47,8 +47,7 @@ bool RadiusPrüfen(std::string& Text, Kantenart& Art, double& Radius) {
 
 Zeileneingabe Grenzzeile(const Kanteneingabe& K) {
   const double Gemessen = K.Grenzlaenge == 0 ? std::numeric_limits<double>::quiet_NaN() : K.Grenzlaenge;
-  const Kantenart Art = K.Radius == 0 ? Kantenart::Linie : K.Art;
-  return {K.Pnr, {Gemessen}, "", Radiustext(Art, std::fabs(K.Radius))};
+  return {K.Pnr, {Gemessen}, "", Radiustext(K.Art, std::fabs(K.Radius))};
 }
 
 void Flaechengrenze::AnzahlSetzen(std::size_t n) {

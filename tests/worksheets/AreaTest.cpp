@@ -74,17 +74,15 @@ TEST_F(Flächenblatt, NachweisHinUndZurück) {
   Tippe(*B, "AreaName", "Flurstück 12/3\n\n");
   Reihen("31\n-25\n\n32\n25G\n\n33\n\n\n34\n\n\n");
   const std::string Vorher = Summen();
-  const auto Fragen = [&](const char* Seite) {
-    Skript.Formulare.push_back(Bediene({{"Wert(0)", Seite}, {"Wert(1)", "3"}, {"OK", ""}}));
-    Skript.Dateien.push_back(Ordner.Pfad("a"));
-  };
-  Fragen("4");
-  Drücke(*B, "AreaPol");
-  Tippe(*B, "AreaName", "zweites\n");
+  Skript.Formulare = {Bediene({{"Wert(0)", "0"}, {"Wert(1)", "3"}, {"OK", ""}}),
+                      Bediene({{"Wert(0)", "4"}, {"OK", ""}})};
   Skript.Erwarte("zwischen 1 und 999");
-  Fragen("0");
-  Skript.Formulare.push_back(Bediene({{"Wert(0)", "5"}, {"OK", ""}}));
-  Skript.Formulare.push_back(Bediene({{"Knopf(0)", ""}}));  // Anhängen
+  Skript.Dateien = {Ordner.Pfad("a"), Datei};
+  Drücke(*B, "AreaPol");
+  const std::string Erster = Inhalt(Datei);
+  Schreibe(Datei, Erster.substr(0, Erster.size() - 1));  // an editor took the form feed away
+  Tippe(*B, "AreaName", "zweites\n");
+  Skript.Formulare = {Bediene({{"OK", ""}}), Bediene({{"Knopf(0)", ""}})};  // the next page, Anhängen
   Drücke(*B, "AreaPol");
   EXPECT_TRUE(GleichSoll(Inhalt(Datei), "worksheets/soll/area.pol"));
 
@@ -107,7 +105,7 @@ TEST_F(Flächenblatt, NachweisHinUndZurück) {
   EXPECT_TRUE(Gleich(Text(*B, "AreaName"), "drittes", KorAnzahl, Punkte));
   Lesen(KnopfJa, KnopfJa);
   EXPECT_TRUE(Gleich(Text(*B, "AreaName"), "zweites", KorAnzahl, Punkte + 2, G.Inhalt(1, 3), "25.000G",
-                     Summen(), Vorher));
+                     G.Inhalt(0, 5), "32.175", Summen(), Vorher));
   EXPECT_TRUE(B->RücknahmeVerlangen());
   EXPECT_EQ(KorAnzahl, Punkte);
 }
@@ -138,6 +136,21 @@ TEST_F(Flächenblatt, SagtWasFalschIst) {
   EXPECT_TRUE(Gleich(Status(), "Zeile 2: Punktnummer fehlt", *G.Zeile, 1, DateiVorhanden(Prot.Datei), false));
 }
 
+// There and back along two lines 30 m apart.
+TEST_F(Flächenblatt, FünftausendPunkte) {
+  B->Schließen();
+  constexpr int n = 5000;
+  std::string Sätze = "M VR 65.00 Fläche\r\n";
+  for (int i = 0; i < n; ++i) {
+    const std::string Pnr = std::to_string(10000 + i);
+    ASSERT_EQ(KorAnhängen({Pnr, i < n / 2 ? i : n - 1.0 - i, i < n / 2 ? 0.0 : 30}), 0);
+    Sätze += "PN " + Pnr + "\r\n";
+  }
+  Schreibe(StapelDatei.Name, Sätze + "E\r\n");
+  Starten();
+  EXPECT_TRUE(Gleich(Stapel.Bilanz.Zeilen, n, Text(*Blätter.back(), "AreaFlaeche"), "74970.000"));
+}
+
 // A full circle, and what a boundary leaves in the view while it is typed; 2 twips a metre.
 TEST_F(Flächenblatt, GrenzeInDerGrafik) {
   GrafikLeeren();
@@ -155,7 +168,18 @@ TEST_F(Flächenblatt, GrenzeInDerGrafik) {
   Reihen("31\n15\n\n");
   EXPECT_EQ(Summen().substr(0, 7), "706.858");
   EXPECT_EQ(Neues().front(), "Bogen 100 300 30 0 360 f255");
-  Reihen("32\n\n\n33\n25G\n\n34\n\n\n");  // clockwise: a semicircle to the west, a long arc to the east
+  Reihen("32\n\n\n33\n25G\n\n");
+  const auto Steht = [&](const char* Zeile) {
+    const Texte Alle = Neues();
+    return std::count(Alle.begin(), Alle.end(), Zeile) == 1;
+  };
+  EXPECT_TRUE(Steht("Bogen 140 270 50 217 37 f255"));
+  Zelle(1, 0, "2003");
+  EXPECT_TRUE(Steht("Linie 100 300 160 240 f255"));  // the edge before it, too long for its arc
+  Zelle(1, 0, "34");                                 // the other way round: all arcs turn
+  EXPECT_TRUE(Steht("Bogen 140 270 50 37 217 f255"));
+  Zelle(1, 0, "32");
+  Reihen("34\n\n\n");  // clockwise: a semicircle to the west, a long arc to the east
   const Texte Ganz = Neues();
   EXPECT_EQ(Ganz,
             (Texte{"Bogen 100 270 30 90 270 f255", "Bogen 220 270 50 217 143 f255",
