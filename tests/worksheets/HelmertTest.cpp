@@ -182,6 +182,15 @@ TEST_F(HelmertTest, NachLageUndWasSieAufhält) {
   Skript.Erwarte("Alle Koordinaten transformieren ?", KnopfNein);
   B->SchließenVerlangen();
   EXPECT_TRUE(Gleich(B->Offen(), true, Protokoll(), ""));
+  // What can not be recorded is not done.
+  const std::string Danach = Tabellentext(), Dru = std::exchange(Prot.Datei, Ordner.Pfad("fehlt/a.dru"));
+  const std::string Sta = std::exchange(StapelDatei.Name, "");
+  Skript.Erwarte("Alle Koordinaten transformieren ?", KnopfJa);
+  Skript.Erwarte("Fehler aufgetreten beim Schreiben in", KnopfAbbruch);
+  Drücke(*B, "HelmertTransformieren");
+  EXPECT_TRUE(Gleich(Tabellentext(), Danach, *Element(*B, "HelmertTransformieren").Aktiv, true));
+  Prot.Datei = Dru;
+  StapelDatei.Name = Sta;
   GrafikFenster = {true, 400, 400, 2, 3500050, 5600190, 200, 200, 0, 0, 0, 0, false};
   const auto Scheiben = [] {
     const Texte Bild = Gezeichnet();
