@@ -147,7 +147,7 @@ std::vector<std::string> Fallblatt::Notiz(std::size_t Lösung) const {
 // ---- what is typed ---------------------------------------------------------------------------------
 
 void Fallblatt::EingabeGeändert() {
-  Gerechnet = false;
+  Gerechnet = Geschrieben = false;
   Neubild.Löschen();
   for (Fallpunkt& L : Lösungen) L.Veraltet();
   Bildzeichnen();
@@ -279,8 +279,10 @@ void Fallblatt::ReturnIn(const Feld& F) {
 }
 
 void Fallblatt::FallAbschließen() {
+  if (Geschrieben) return StatusHilfeSetzen("Der Fall ist schon geschrieben");
   if (!Prüfen() || FallSchreiben() < 0) return;
   Reset();
+  Geschrieben = Lösungen.empty();
   const auto Erstes = std::find_if(Steuerelemente().begin(), Steuerelemente().end(), [](const auto& S) {
     return dynamic_cast<const Feld*>(S.get()) != nullptr && NimmtFokus(*S);
   });
@@ -370,6 +372,7 @@ void Fallblatt::Zurück() {
   if (Fälle.empty()) return;
   Fall F = std::move(Fälle.back());
   Fälle.pop_back();
+  Geschrieben = false;
   KnopfZurück->Aktiv = !Fälle.empty();
   if (Akten.GanzesStreichen(F.Gestrichen, F.Wo) > 0)
     StatusHilfeSetzen("Der Fall bleibt in der Stapeldatei: dahinter steht schon anderes");
@@ -394,6 +397,7 @@ void Fallblatt::FelderClear() {
     P.Leeren();
   }
   Gesagt.clear();
+  Geschrieben = false;
   NichtsZeigen();
   Reset();
   FokusSetzen(Punkte.front().Pnr);

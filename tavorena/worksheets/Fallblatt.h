@@ -165,6 +165,7 @@ class Fallblatt : public Rechenblatt {
   std::vector<Feld*> Figuren;      // what is shown beside the solutions
   std::string Grund;               // why there is nothing to write; "": there is
   bool Gerechnet = false;          // Grund and solutions belong to what is typed
+  bool Geschrieben = false;        // what is shown, of a case without solutions
   std::vector<double> Gesagt;      // figures that a box told of
   std::uint64_t Stand = 0;         // of the table when it was computed
   bool StapelErledigt = false;     // the case of a replay is written or left out

@@ -17,15 +17,11 @@ class RichtungTest : public Blatttest {
 
 // Constructed: 3500130 5600260 is seen from both stations; without all heights it gets none.
 TEST_F(RichtungTest, VorwärtsschnitteSchreibenIhreDateien) {
-  Punkt("1006", 3500100, 5600300);
-  Punkt("1007", 3500160, 5600200);
-  Punkt("1008", 3500200, 5600300);
+  PunkteAnlegen({{"1006", 3500100, 5600300}, {"1007", 3500160, 5600200}, {"1008", 3500200, 5600300}});
   Punkt("1009", 3500160, 5600200, 12.8);
   // Published: Ghilani, Wolf: Elementary Surveying, two lines with known azimuths (feet).
-  Punkt("11", 1425.07, 1971.28);
-  Punkt("12", 1425.07, 9999);
-  Punkt("21", 7484.80, 5209.64);
-  Punkt("22", 7484.80, 9999);
+  PunkteAnlegen(
+      {{"11", 1425.07, 1971.28}, {"12", 1425.07, 9999}, {"21", 7484.80, 5209.64}, {"22", 7484.80, 9999}});
   auto B = Öffne("10.00");
   Skript.Status[4].clear();
   EXPECT_EQ(Tippe(*B, "VorwFernPnr1", "1006\n10\n1001\n39,5167\n95\n1008\n20\n1007\n\n95,5\n"),
@@ -67,16 +63,14 @@ TEST_F(RichtungTest, VorwärtsschnitteSchreibenIhreDateien) {
 // Constructed: seen from 3500130 5600210; and from 3500100 5600100 at 350, 0 and 50 gon, where both diameters
 // end at the same Hochwert.
 TEST_F(RichtungTest, RückwärtsschnitteSchreibenIhreDateien) {
-  Punkt("1021", 3500000, 5600300);
-  Punkt("1022", 3500120, 5600350);
-  Punkt("1023", 3500300, 5600290);
-  Punkt("1031", 3500000, 5600200);
-  Punkt("1032", 3500100, 5600200);
-  Punkt("1033", 3500200, 5600200);
+  PunkteAnlegen({{"1021", 3500000, 5600300},
+                 {"1022", 3500120, 5600350},
+                 {"1023", 3500300, 5600290},
+                 {"1031", 3500000, 5600200},
+                 {"1032", 3500100, 5600200},
+                 {"1033", 3500200, 5600200}});
   // Published: Bannister, Raymond, Baker: Surveying, resection.
-  Punkt("1", 1000, 5300);
-  Punkt("2", 2200, 6300);
-  Punkt("3", 3100, 5000);
+  PunkteAnlegen({{"1", 1000, 5300}, {"2", 2200, 6300}, {"3", 3100, 5000}});
   auto B = Öffne("11.00");
   EXPECT_EQ(B->Fokus()->Name, "Rueck_Pnr1");
   const std::string Figur = "1021\n305,5502\n1022\n362,4604\n1023\n38,9988\n";
@@ -158,9 +152,12 @@ TEST_F(RichtungTest, DreiDSchreibtSeineDateien) {
   auto S = Öffne("3D RAUMSTRECKE");
   const std::string Sta = Stapeltext();
   Tippe(*S, "DreiD_Pnr1", "1\n3\n");
-  EXPECT_NE(Stapeltext(), Sta);
+  EXPECT_TRUE(Stapeltext().size() > Sta.size() && Protokoll().ends_with("119.2734 gon\r\n"));
+  const std::string Einmal = Stapeltext();
+  Tippe(*S, "DreiD_Pnr1", "\n\n");
+  EXPECT_TRUE(Gleich(Status(), "Der Fall ist schon geschrieben", Stapeltext(), Einmal));
   Drücke(*S, "DreiDZurück");
-  EXPECT_TRUE(Protokoll().ends_with("Zenitwinkel         =    119.2734 gon ***gelöscht\r\n")) << Protokoll();
+  EXPECT_TRUE(Protokoll().ends_with("119.2734 gon ***gelöscht\r\n"));
   EXPECT_EQ(Stapeltext(), Sta);
   EXPECT_EQ(Tippe(*S, "DreiD_Pnr1", "3\n3\n"), "DreiD_Pnr2");
   EXPECT_TRUE(Gleich(Status(), "Punkte sind gleich", Text(*S, "DreiDRaumstrecke"), "", Stapeltext(), Sta));
