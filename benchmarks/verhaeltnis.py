@@ -46,6 +46,7 @@ PAARE = (
     ("Streifen/20000", ("Streifen/2000",), 1.2),
     ("Streifen/20000", ("Konsole/mit",), 4.0),
     ("Flaeche/1000", ("NurFlaeche/1000",), 3.0),
+    ("Zug/1000", ("NurZug/1000",), 3.0),
     ("EditorTaste/20001", ("EditorTaste/20",), 2.0),
     ("Fenster/zu", ("Fenster/Konsole",), 4.0),
     ("Fenster/offen", ("Fenster/Konsole",), 6.0),

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <iterator>
 #include <string_view>
 #include <unordered_set>
 #include <utility>
@@ -109,15 +110,17 @@ std::vector<Zugwert> ZugWerte(const Zugeingabe& E, const Zugrechnung& R) {
   std::vector<Zugwert> Alle(10);
   if (W.Seiten.empty()) return Alle;
   const PolygonToleranzen* T = PolygonToleranz(W, static_cast<PolygonKlasse>(E.Klasse));
-  Alle = {{W.S}, {W.SummeS}, {W.WY}, {W.WX}};
-  const auto Gegen = [&](double x, double PolygonToleranzen::*Grenze, bool Gon) {
-    Alle.push_back({x, Gon, T != nullptr && std::fabs(x) > T->*Grenze});
-    Alle.push_back({T != nullptr ? Wert(T->*Grenze) : Wert(), Gon});
+  const double Vorn[] = {W.S, W.SummeS, W.WY, W.WX};
+  for (std::size_t i = 0; i < std::size(Vorn); ++i) Alle[i].Zahl = Vorn[i];
+  const auto Gegen = [&](std::size_t i, double x, double PolygonToleranzen::*Grenze) {
+    Alle[i].Zahl = x;
+    Alle[i].Über = T != nullptr && std::fabs(x) > T->*Grenze;
+    if (T != nullptr) Alle[i + 1].Zahl = T->*Grenze;
   };
-  Gegen(W.FW, &PolygonToleranzen::FW, true);
-  if (!E.Abschluss) Alle[4] = Alle[5] = {};
-  Gegen(W.FL, &PolygonToleranzen::FL, false);
-  Gegen(W.FQ, &PolygonToleranzen::FQ, false);
+  if (E.Abschluss) Gegen(4, W.FW, &PolygonToleranzen::FW);
+  Alle[4].Gon = Alle[5].Gon = true;
+  Gegen(6, W.FL, &PolygonToleranzen::FL);
+  Gegen(8, W.FQ, &PolygonToleranzen::FQ);
   return Alle;
 }
 
