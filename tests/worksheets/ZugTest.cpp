@@ -172,6 +172,13 @@ TEST_F(Zugtest, NachlaufNenntDenMangel) {
     Starten();
     EXPECT_TRUE(Gleich(Stapel.Bilanz.Fehler, true, Blätter.back()->Offen(), false, Protokoll(), ""));
   }
+  // A point that is refused is no error of the run; nothing is left of its traverse.
+  Punkt("2021", 3500000, 5600000);
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{}; };
+  Schreibe(StapelDatei.Name, Kopf + "NEUPWS 2021 200 100\r\nABSCHLP 1032\r\nE\r\n");
+  EXPECT_EQ(Anzahl(Nachlauf(), "Zug-Nr."), 0);
+  EXPECT_EQ(StapelBericht(), Texte{"ohne Ergebnis: VR 19.10(20) x, Zeile 1: Punkt 2021 nicht gespeichert"});
+  EXPECT_FALSE(Stapel.Bilanz.Fehler);
 }
 
 }  // namespace
