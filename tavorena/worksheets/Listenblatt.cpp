@@ -53,6 +53,7 @@ Gitter& Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, cons
   Eingaben->LeerIstNull = false;
   Zellen().Hilfe = "Return führt von Zelle zu Zelle und aus der leeren letzten Zeile weiter";
   Zellen().BeiVerlassen = [this] { return ZelleVerlassen(); };
+  if (Liste.BekanntePunkte) Zellen().BeiAbgriff = [this](const std::string& Pnr) { Abgreifen(Pnr); };
   LeereEndzeile();
   return Zellen();
 }
@@ -88,6 +89,16 @@ void Listenblatt::LeereEndzeile() {
   }
   Eingaben->SymbolÜbernehmen(Anzahl());
   static_cast<Zeileneingabe&>(Reihen.back()) = Eingaben->Eingabe(Anzahl());
+}
+
+// A point that is clicked goes into its row; behind the number of the last one it begins the next.
+void Listenblatt::Abgreifen(const std::string& Pnr) {
+  Gitter& G = Zellen();
+  if (G.NurLesen) return;
+  const bool Nächste = G.Spalte != G.Nummernspalte() && G.Zeile + 1 == Anzahl();
+  ZelleWechseln(G, Nächste ? Anzahl() : *G.Zeile, G.Nummernspalte());
+  Tippen(G, Pnr);
+  TasteDrücken(Taste::Return);
 }
 
 // A point of the table, asked for where it is missing. @return 0; -1: there is none

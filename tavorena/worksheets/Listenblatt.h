@@ -121,6 +121,7 @@ class Listenblatt : public Rechenblatt {
   [[nodiscard]] int Schreiben();
   [[nodiscard]] bool IstGeschrieben() const;
   void Leeren();
+  void Abgreifen(const std::string& Pnr);
   void GitterInsert();
   void GitterDelete();
   void LeereEndzeile();

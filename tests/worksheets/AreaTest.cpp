@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include <tavorena/core/Text.h>
+#include <tavorena/graphics/Abgriff.h>
 
 namespace tavorena::test {
 namespace {
@@ -165,7 +166,16 @@ TEST_F(Flächenblatt, GrenzeInDerGrafik) {
     std::sort(Rest.begin(), Rest.end());
     return Rest;
   };
-  Reihen("31\n15\n\n");
+  B->FokusWechseln(G);
+  ASSERT_TRUE(AbgriffNehmen(*B, "2003"));
+  ASSERT_TRUE(AbgriffNehmen(*B, "31"));  // the next point, not another one for the row
+  EXPECT_TRUE(Gleich(G.Zeilen(), 3, G.Inhalt(0, 0), "2003", G.Inhalt(1, 0), "31"));
+  B->ZelleWechseln(G, 0, 3);
+  ASSERT_TRUE(AbgriffNehmen(*B, "32"));  // here it is another one
+  EXPECT_TRUE(Gleich(G.Zeilen(), 3, G.Inhalt(0, 0), "32"));
+  B->ZelleWechseln(G, 0, 0);
+  Drücke(*B, "AreaGitterDelete");
+  Zelle(0, 3, "15");
   EXPECT_EQ(Summen().substr(0, 7), "706.858");
   EXPECT_EQ(Neues().front(), "Bogen 100 300 30 0 360 f255");
   Reihen("32\n\n\n33\n25G\n\n");
