@@ -73,10 +73,12 @@ std::string TVRueckwaertsschnittForm::Einschneiden() {
   }
   const bool MitBox = ErstmalsGesagt();
   if (Ergebnis == -1) {
+    Grundfeld = &Z[1].Richtung.Eingabe;
     if (MitBox) Hinweis("Berechnung nicht möglich: Zwei Richtungen sind gleich !");
     return "Zwei Richtungen sind gleich";
   }
   if (Ergebnis == -2) {
+    Grundfeld = &Z[2].Richtung.Eingabe;
     if (MitBox) {
       Hinweis(
           "Berechnung unter vorliegender Geometrie streng nach Cassini nicht möglich ! Verfälschen Sie bitte "

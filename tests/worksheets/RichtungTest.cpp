@@ -88,7 +88,7 @@ TEST_F(RichtungTest, RückwärtsschnitteSchreibenIhreDateien) {
   Tippe(*B, "Rueck_Pnr1", Figur + "2014\n\n");
   Skript.Erwarte("streng nach Cassini nicht möglich ! Verfälschen Sie bitte");
   const std::string Nord = "1031\n350\n1032\n0\n1033\n50\n";
-  EXPECT_EQ(Tippe(*B, "Rueck_Pnr1", Nord + "2015\n\n"), "Rueck_NeuSym");
+  EXPECT_EQ(Tippe(*B, "Rueck_Pnr1", Nord + "2015\n\n"), "Rueck_Richtung3");
   EXPECT_TRUE(Gleich(Status(), "streng nach Cassini nicht möglich", Feld(*B, "Rueck_NeuRechts").Text, ""));
   B->Wählen(Collins, "", true);
   EXPECT_TRUE(Gleich(Text(*B, "Rueck_NeuHoch"), "5600100.000", KorAnzahl, 16));
