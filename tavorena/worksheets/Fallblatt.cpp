@@ -161,7 +161,10 @@ void Fallblatt::OptionGeändert() {
 
 void Fallblatt::BeiTabelle() {
   bool Bewegt = false;
-  for (Punktfeld& P : Punkte) Bewegt = P.Nachsehen() || Bewegt;
+  for (Punktfeld& P : Punkte) {
+    const double Höhe = P.Hoehe();
+    Bewegt = P.Nachsehen() || P.Hoehe() != Höhe || Bewegt;
+  }
   if (Bewegt) EingabeGeändert();
 }
 

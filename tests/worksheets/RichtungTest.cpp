@@ -149,6 +149,14 @@ TEST_F(RichtungTest, DreiDSchreibtSeineDateien) {
   EXPECT_EQ(Nachlauf(), Prots);
   EXPECT_TRUE(Gleich(Stapel.Bilanz.Zeilen, 7, *Blätter.back()->Titel, "Tavorena 3D Winkel [Stapel]"));
 
+  // What stays in the table is what is shown.
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) {
+    return Konfliktantwort{Konfliktwort::NeuenVerwerfen, ""};
+  };
+  Tippe(*Öffne("3D MITTE"), "DreiD_Pnr1", "1\n3\n14\n");
+  EXPECT_NE(Protokoll().find("            14   3500001.500   5600003.000     103.000  \r\n      ***  erste"),
+            std::string::npos);
+
   auto S = Öffne("3D RAUMSTRECKE");
   const std::string Sta = Stapeltext();
   Tippe(*S, "DreiD_Pnr1", "1\n3\n");
@@ -159,6 +167,9 @@ TEST_F(RichtungTest, DreiDSchreibtSeineDateien) {
   Drücke(*S, "DreiDZurück");
   EXPECT_TRUE(Protokoll().ends_with("119.2734 gon ***gelöscht\r\n"));
   EXPECT_EQ(Stapeltext(), Sta);
+  static_cast<void>(KorZeileSetzen(KorSuche(std::string_view("3")), {"3", 3500015, 5600012, 100}));
+  S->Nachsehen();
+  EXPECT_EQ(Text(*S, "DreiDHöhenunterschied"), "0.000");
   EXPECT_EQ(Tippe(*S, "DreiD_Pnr1", "3\n3\n"), "DreiD_Pnr2");
   EXPECT_TRUE(Gleich(Status(), "Punkte sind gleich", Text(*S, "DreiDRaumstrecke"), "", Stapeltext(), Sta));
 }
