@@ -186,7 +186,7 @@ class FensterTest final : public Fensterumgebung {
     Öffne(QTest::currentDataTag());
     QFETCH(const QString, Tasten);
     QFETCH(const QByteArray, Satz);
-    Tippe(Tasten);
+    TippeVoraus(Tasten);
     Drücke(Qt::Key_S, Qt::AltModifier);
     QTRY_VERIFY(!BlätterOffen());
     QVERIFY2(Inhalt(Pfad("a.sta")).contains(Satz), Inhalt(Pfad("a.sta")));
