@@ -105,6 +105,9 @@ TEST_F(Zugtest, MangelWirdGenanntWoErIst) {
 TEST_F(Zugtest, ErgebnisseFolgenJederÄnderung) {
   Tippezug();
   const Texte Erste = Gitterzeile(G, 0), Zweite = Gitterzeile(G, 1);
+  Skript.Erwarte("Felder leeren, ohne zu schreiben ? ", KnopfNein);
+  Drücke(*B, "PolygonFelderClear");
+  EXPECT_EQ(G.Zeilen(), 3);
   B->ZelleWechseln(G, 1, 0);
   Drücke(*B, "PolygonGitterInsert");
   EXPECT_TRUE(Gleich(G.Zeilen(), 4, G.Inhalt(1, 7), "015", G.Inhalt(0, 5), "", Text(*B, "PolygonFL"), ""));
