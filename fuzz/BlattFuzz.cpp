@@ -49,7 +49,9 @@ class Bediener final : public Rückfragen, public Anzeige, public Ablauf, public
 
   int Meldung(const std::string& Text, Knöpfe Art, const std::string& /*Titel*/, int /*Vorgabe*/) override {
     Prüfen(!Stapel.Aktiv, "der Nachlauf fragt nichts");
-    Prüfen(Text.find("wurde ausgelöst") == std::string::npos, "kein Laufzeitfehler");
+    // Parallel rays are told so.
+    Prüfen(Text.find("wurde ausgelöst") == std::string::npos || Text.find("Calc") != std::string::npos,
+           "kein Laufzeitfehler");
     if (Art == Knöpfe::OK) return 1;
     constexpr int Antworten[] = {KnopfJa, KnopfNein, KnopfAbbruch};
     if (!E.Rest().empty()) return Eines(E, Antworten);
@@ -109,6 +111,10 @@ using Zählung = std::map<std::string, int>;
 
 // A kind whose rows are new points: long numbers run into the column before them, so that they count as such.
 bool MitNeuenPunkten(std::string_view Art) { return Art == "VR 22.00" || Art == "VR 19.70"; }
+// Its rows are counted, others are cases and lists.
+bool MitZeilen(std::string_view Art) {
+  return MitNeuenPunkten(Art) || Art == "VR 24.40" || Art == "VR 08.40" || Art == "VR 22.10";
+}
 
 // The rows of a protocol that were not struck.
 void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
@@ -117,7 +123,8 @@ void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
   Zeilenleser Leser(Text);
   for (std::string_view Zeile; Leser.Nächste(Zeile);) {
     if (Zeile.starts_with('\f')) Zeile.remove_prefix(1);
-    if (Zeile.starts_with("|VR")) Art = Zeile.substr(1, 8);
+    if (Zeile.starts_with('|') && Zeile.find("Seite") != std::string_view::npos) Art = Zeile.substr(1, 8);
+    if (!MitZeilen(Art)) continue;
     if (Zeile.size() <= Nummer || Zeile.find_first_not_of(' ') < Rechts) continue;
     const std::string_view Zahlen = Zeile.substr(Rechts, Nummer - Rechts);
     if (Zahlen.find_first_not_of(" -.*0123456789") != std::string_view::npos) continue;
@@ -148,6 +155,7 @@ Zählung StapelZählen(const std::string& Text) {
     const std::string_view Wort = Wortnehmen(Rest);
     if (Wort == "M") Art = TrimmenSicht(Rest).substr(0, 8);
     const std::string Pnr(Wortnehmen(Rest));
+    if (!MitZeilen(Art)) continue;
     if (Wort == "PAN") Anfang = Pnr;
     if (Wort == "PEN" && Art == "VR 22.10") ++Sätze[Art + " " + Anfang + " " + Pnr];
     if (Wort == "NND") ++Sätze[Art + " " + Pnr + " " + std::string(Wortnehmen(Rest))];
@@ -155,6 +163,17 @@ Zählung StapelZählen(const std::string& Text) {
     if (Wort == "AO" || Wort == "PWS") ++Sätze[Art];
   }
   return Sätze;
+}
+
+// A batch file of blocks that store points, or transform them.
+bool MitPunkten(const std::string& Sta) {
+  Zeilenleser Leser(Sta);
+  for (std::string_view Rest; Leser.Nächste(Rest);) {
+    if (Wortnehmen(Rest) != "M") continue;
+    const std::string_view Art = TrimmenSicht(Rest).substr(0, 8);
+    if (!MitZeilen(Art) || MitNeuenPunkten(Art)) return true;
+  }
+  return false;
 }
 
 std::string InhaltOderNichts(const std::string& Name) { return DateiVorhanden(Name) ? Inhalt(Name) : ""; }
@@ -207,9 +226,7 @@ void Lauf(Eingabe E) {
   Prüfen(Geschrieben == Sätze, "was im Protokoll gilt, steht in der Stapeldatei, und nichts sonst");
   TabellePrüfen();
   // A point that a correction or an answer moved would be asked about again.
-  const bool Neue =
-      std::any_of(Sätze.begin(), Sätze.end(), [](const auto& Z) { return MitNeuenPunkten(Z.first); });
-  if (Sta.empty() || Neue || !AllePunkteVerschieden()) return;
+  if (Sta.empty() || MitPunkten(Sta) || !AllePunkteVerschieden()) return;
 
   ProtokollNehmen(Ordner() + "/nachlauf.dru");
   StapelStarten(StapelDatei.Name);

@@ -61,6 +61,7 @@ struct Eingabeelement : Steuerelement {
   std::function<void()> BeiFokus;  ///< the focus came to it
   /// Reads the value when the control, or the current cell, is left. @return false: it failed and stays
   std::function<bool()> BeiVerlassen;
+  bool OhneAbgriff = false;  ///< a number to be given: no point of the graphics view is meant
   /// Takes a point that was clicked in the graphics view; empty: its number is typed, with Return behind it
   std::function<void(const std::string& Pnr)> BeiAbgriff;
 

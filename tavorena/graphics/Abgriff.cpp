@@ -46,12 +46,14 @@ bool NimmtAbgriffe(const Formular& Form) {
 
 bool NimmtAbgriff(const Formular& Form, const Steuerelement& S) {
   if (!NimmtAbgriffe(Form)) return false;
-  if (const auto* E = dynamic_cast<const Eingabeelement*>(&S); E != nullptr && E->BeiAbgriff) return true;
+  const auto* E = dynamic_cast<const Eingabeelement*>(&S);
+  if (E == nullptr || E->OhneAbgriff) return false;
+  if (E->BeiAbgriff) return true;
   if (const auto* G = dynamic_cast<const Gitter*>(&S)) return G->IstPnr && !G->NurLesen && G->Zeilen() > 0;
   const std::string_view Name = std::string_view(S.Name).substr(0, S.Name.find('('));
   return dynamic_cast<const Feld*>(&S) != nullptr &&
-         Name.find("Neu") == std::string_view::npos &&  // the number of a new point is typed
-         std::any_of(Endungen.begin(), Endungen.end(), [&](std::string_view E) { return Name.ends_with(E); });
+         std::any_of(Endungen.begin(), Endungen.end(),
+                     [&](std::string_view Endung) { return Name.ends_with(Endung); });
 }
 
 bool AbgriffNehmen(Formular& Form, const std::string& Pnr) {

@@ -29,7 +29,7 @@ Fallpunkt::Fallpunkt(Rechenblatt& Blatt, const std::string& Welcher, const char*
                                        Längenbreite(8))),
       Hoch(Blatt.ErgebnisfeldAnlegen(Blatt.Mit("_NeuHoch" + Welcher), {Zeile, 3}, RahmenNeu,
                                      Längenbreite(8))) {
-  NeuPnr.IstPnr = true;
+  NeuPnr.IstPnr = NeuPnr.OhneAbgriff = true;
   NeuPnr.Hilfe = "Nummer, unter der die Lösung gespeichert wird; leer: nicht speichern";
   NeuSym.Sichtbar = MitSymbol;
 }

@@ -65,7 +65,7 @@ TVAusgleichForm::Bestimmungspunkt TVAusgleichForm::PunktAnlegen(const char* Welc
                      ZahlenfeldAnlegen(Name + "Pnr", {Zeile, 3}, RahmenErgebnis, PnrZeichen),
                      FeldAnlegen(Name + "Sym", {Zeile, 4}, RahmenErgebnis, 6),
                      {}};
-  P.Pnr.IstPnr = true;
+  P.Pnr.IstPnr = P.Pnr.OhneAbgriff = true;
   P.Pnr.Hilfe = "Nummer, unter der der Punkt gespeichert wird; leer: er wird nicht gespeichert";
   Wortfeld(P.Pnr);
   Wortfeld(P.Sym);
