@@ -101,9 +101,11 @@ int TextdateiLesen(std::string_view Name, std::string& Text, std::string* Grund)
   return Gescheitert(Grund, Fehlerwort(EFBIG));
 }
 
-Dateistand DateistandVon(std::string_view Name) {
+Dateistand DateistandVon(std::string_view Name) { return DateiAnsehen(Name).Stand; }
+
+Dateiblick DateiAnsehen(std::string_view Name) {
   struct stat Stand {};
-  return stat(Systemtext(Name).c_str(), &Stand) == 0 ? DateistandAus(Stand) : Dateistand{};
+  return stat(Systemtext(Name).c_str(), &Stand) == 0 ? DateiblickAus(Stand) : Dateiblick{};
 }
 
 int DateiLöschen(std::string_view Name) {

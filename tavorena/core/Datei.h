@@ -40,6 +40,15 @@ struct Dateistand {
 };
 Dateistand DateistandVon(std::string_view Name);
 
+/// What a name leads to: the state, and which file it is. Nothing there: {}.
+struct Dateiblick {
+  Dateistand Stand;
+  std::uint64_t Gerät = 0, Nummer = 0;
+  std::uint32_t Rechte = 0;
+  bool operator==(const Dateiblick&) const = default;
+};
+Dateiblick DateiAnsehen(std::string_view Name);
+
 // The functions below answer -1 with the reason in a few words ("Datenträger voll"), where one is wanted.
 // They open regular files and nothing else: a folder, a pipe or a device is refused at once.
 
@@ -65,9 +74,10 @@ Dateistand DateistandVon(std::string_view Name);
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length.
 /// @param[out] Danach  the state in which the file is left, where it is wanted
+/// @param[in] Eben     what was seen of the file just now: it is not looked at once more
 /// @return 0 or -1
 [[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr,
-                               Dateistand* Danach = nullptr);
+                               Dateistand* Danach = nullptr, const Dateiblick* Eben = nullptr);
 
 /// What was appended so far reaches the disk.
 /// @param[out] Name  a file that did not get there

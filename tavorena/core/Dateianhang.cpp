@@ -25,21 +25,8 @@ struct Anhangspur {
   std::string Name;
   fs::path Pfad;
   Deskriptor K;  // not open: secured
-  dev_t Gerät = 0;
-  ino_t Nummer = 0;
-  mode_t Rechte = 0;
-  Dateistand Stand;
+  Dateiblick Blick;
   Kodierung Art = Kodierung::Ascii;
-
-  [[nodiscard]] bool Gilt(const struct stat& S) const {
-    return S.st_dev == Gerät && S.st_ino == Nummer && S.st_mode == Rechte && DateistandAus(S) == Stand;
-  }
-  void Merken(const struct stat& S) {
-    Gerät = S.st_dev;
-    Nummer = S.st_ino;
-    Rechte = S.st_mode;
-    Stand = DateistandAus(S);
-  }
 };
 // Never destroyed: a worksheet that is still open at the end of the program appends and removes behind main.
 auto& Spuren = *new std::vector<Anhangspur>;
@@ -64,7 +51,7 @@ Anhangspur& SpurVon(std::string_view Name) {
     Spuren.erase(Spuren.begin());
   }
   return Spuren.emplace_back(
-      Anhangspur{std::string(Name), Systempfad(Name), Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii});
+      Anhangspur{std::string(Name), Systempfad(Name), Deskriptor(), {}, Kodierung::Ascii});
 }
 
 int Öffnen(Anhangspur& Spur, std::string& Grund) {
@@ -79,45 +66,49 @@ int Öffnen(Anhangspur& Spur, std::string& Grund) {
     Grund = Fehlerwort(EROFS);
     return -1;
   }
-  if (!Spur.Gilt(Stand)) {
+  if (Spur.Blick != DateiblickAus(Stand)) {
     std::string Alt;
     if (!Auslesen(K, Alt)) {
       Grund = Fehlerwort(errno);
       return -1;
     }
     Spur.Art = KodierungVon(Alt);
-    Spur.Merken(Stand);
+    Spur.Blick = DateiblickAus(Stand);
   }
   Spur.K = std::move(K);
   return 0;
 }
 
-int Anhängen(Anhangspur& Spur, std::string_view Text, std::string& Grund) {
+int Anhängen(Anhangspur& Spur, std::string_view Text, const Dateiblick* Eben, std::string& Grund) {
   struct stat Stand {};
-  const bool Wie = Spur.K && stat(Spur.Pfad.c_str(), &Stand) == 0 && Spur.Gilt(Stand);
-  if (!Wie && Öffnen(Spur, Grund) < 0) return -1;
+  const auto WieGelassen = [&] {
+    if (Eben != nullptr) return *Eben == Spur.Blick;
+    return stat(Spur.Pfad.c_str(), &Stand) == 0 && DateiblickAus(Stand) == Spur.Blick;
+  };
+  if (!(Spur.K && WieGelassen()) && Öffnen(Spur, Grund) < 0) return -1;
   const std::string Bytes = Spur.Art == Kodierung::Windows1252 ? NachWindows1252(Text) : std::string(Text);
   if (!Ausschreiben(Spur.K, Bytes)) {
     Grund = Fehlerwort(errno);
-    static_cast<void>(ftruncate(Spur.K.Nummer(), static_cast<off_t>(Spur.Stand.Länge)) == 0);
+    static_cast<void>(ftruncate(Spur.K.Nummer(), static_cast<off_t>(Spur.Blick.Stand.Länge)) == 0);
     return -1;
   }
-  if (fstat(Spur.K.Nummer(), &Stand) == 0) Spur.Merken(Stand);
+  if (fstat(Spur.K.Nummer(), &Stand) == 0) Spur.Blick = DateiblickAus(Stand);
   if (Spur.Art == Kodierung::Ascii) Spur.Art = KodierungVon(Bytes);
   return 0;
 }
 
 }  // namespace
 
-int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund, Dateistand* Danach) {
+int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund, Dateistand* Danach,
+                 const Dateiblick* Eben) {
   if (Name.empty()) return -1;
   Anhangspur& Spur = SpurVon(Name);
   std::string Wort;
-  if (Anhängen(Spur, Text, Wort) == 0) {
-    if (Danach != nullptr) *Danach = Spur.Stand;
+  if (Anhängen(Spur, Text, Eben, Wort) == 0) {
+    if (Danach != nullptr) *Danach = Spur.Blick.Stand;
     return 0;
   }
-  Spur = Anhangspur{Spur.Name, Spur.Pfad, Deskriptor(), 0, 0, 0, {}, Kodierung::Ascii};
+  Spur = Anhangspur{Spur.Name, Spur.Pfad, Deskriptor(), {}, Kodierung::Ascii};
   if (Grund != nullptr) *Grund = Wort;
   return -1;
 }

@@ -104,9 +104,12 @@ bool VerweisInsLeere(const fs::path& Pfad) {
   return lstat(Pfad.c_str(), &Stand) == 0 && S_ISLNK(Stand.st_mode) && stat(Pfad.c_str(), &Stand) < 0;
 }
 
-Dateistand DateistandAus(const struct stat& Stand) {
-  return {static_cast<std::uintmax_t>(Stand.st_size),
-          std::int64_t{Stand.st_mtim.tv_sec} * 1'000'000'000 + Stand.st_mtim.tv_nsec};
+Dateiblick DateiblickAus(const struct stat& Stand) {
+  return {{static_cast<std::uintmax_t>(Stand.st_size),
+           std::int64_t{Stand.st_mtim.tv_sec} * 1'000'000'000 + Stand.st_mtim.tv_nsec},
+          Stand.st_dev,
+          Stand.st_ino,
+          Stand.st_mode};
 }
 
 }  // namespace tavorena

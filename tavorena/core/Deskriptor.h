@@ -59,6 +59,6 @@ Deskriptor RegulärÖffnen(const std::filesystem::path& Pfad, int Art, struct st
 /// A file that is removed is not extended any more.
 void AnhangVergessen(const std::filesystem::path& Pfad);
 
-Dateistand DateistandAus(const struct stat& Stand);
+Dateiblick DateiblickAus(const struct stat& Stand);
 
 }  // namespace tavorena

@@ -103,7 +103,7 @@ void Formular::Beobachten(FormularBeobachter* Neuer) {
 
 void Formular::Melden() {
   for (const auto& S : Liste) {
-    if (auto* G = dynamic_cast<Gitter*>(S.get())) {
+    if (Gitter* const G = S->AlsGitter()) {
       const Gitteränderung Was = G->ÄnderungAbholen();
       if (Was.Etwas() && Beobachter != nullptr) Beobachter->GitterGeändert(*G, Was);
     }

@@ -27,6 +27,8 @@ inline constexpr int PnrZeichen = 14;
 /// The frame of the buttons at the foot of a form.
 inline constexpr const char* Knopfleiste = "#";
 
+struct Gitter;
+
 /// What all controls have.
 struct Steuerelement {
   Steuerelement() = default;
@@ -46,6 +48,8 @@ struct Steuerelement {
 
   /// @return whether something that is shown was changed since the last call
   [[nodiscard]] virtual bool Abholen();
+  /// This one if it is a grid: asked after each event of each control.
+  [[nodiscard]] virtual Gitter* AlsGitter() { return nullptr; }
 };
 
 struct Beschriftung final : Steuerelement {
@@ -132,6 +136,7 @@ struct Gitter final : Eingabeelement {
   std::function<void(int Zeile)> BeiDoppelklick;  ///< the user clicked a row twice
   std::function<void(int Spalte)> BeiTitel;       ///< the user clicked a heading; empty: they do nothing
 
+  [[nodiscard]] Gitter* AlsGitter() override { return this; }
   [[nodiscard]] int Zeilen() const { return Quelle ? Quellzeilen : static_cast<int>(Zellen.size()); }
   [[nodiscard]] std::string Inhalt(int z, int s) const;
   void InhaltSetzen(int z, int s, std::string Neu);

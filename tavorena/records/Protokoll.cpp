@@ -53,7 +53,8 @@ std::vector<std::string> Kopfzeilen(const Verbindung& V, const std::string& Date
 class Eintrag {
  public:
   explicit Eintrag(Protokoll& Ziel) : Alt(Ziel), Neu(Ziel) {
-    if (!Neu.HatInhalt || DateistandVon(Neu.Datei) == Neu.Stand) return;
+    Eben = DateiAnsehen(Neu.Datei);
+    if (!Neu.HatInhalt || Eben.Stand == Neu.Stand) return;
     // Somebody else was in the file: what stands above the next line is not known any more.
     Neu.Darüber.reset();
     Fremd = true;
@@ -117,7 +118,8 @@ class Eintrag {
   [[nodiscard]] int Abschließen() {
     if (Puffer.empty()) return 0;
     std::string Grund;
-    while (TextAnhängen(Neu.Datei, Puffer, &Grund, &Neu.Stand) < 0) {
+    const Dateiblick* Blick = &Eben;
+    while (TextAnhängen(Neu.Datei, Puffer, &Grund, &Neu.Stand, std::exchange(Blick, nullptr)) < 0) {
       const int Antwort = SchreibfehlerFrage(Neu.Datei, Grund, "");
       if (Antwort == KnopfOhne) Alt.Datei.clear();
       if (Antwort != KnopfNochmals) return Antwort == KnopfOhne ? 0 : -1;
@@ -138,12 +140,11 @@ class Eintrag {
   }
 
   // No head of this protocol stands above, or nothing at all.
-  [[nodiscard]] bool IstAnfang() const {
-    return !Neu.HatKopf || (Fremd && DateistandVon(Neu.Datei).Länge == 0);
-  }
+  [[nodiscard]] bool IstAnfang() const { return !Neu.HatKopf || (Fremd && Eben.Stand.Länge == 0); }
 
   Protokoll& Alt;
   Protokoll Neu;
+  Dateiblick Eben;  // of the file before the entry
   std::string Puffer;
   std::vector<std::string> Fenster;
   bool Fremd = false;

@@ -27,16 +27,16 @@ void OhneStapel() {
 }
 
 // Appends a piece. Pieces from before somebody else changed the file can not be taken out any more.
-int Schreiben(const std::string& Text, const char* Routine) {
+int Schreiben(const std::string& Text, const char* Routine, const Dateiblick& Eben) {
   Stapeldatei& D = StapelDatei;
   if (D.Name.empty()) return 0;
-  const Dateistand Jetzt = DateistandVon(D.Name);
-  if (D.Stücke.empty() || Jetzt != D.Stand) {
+  if (D.Stücke.empty() || Eben.Stand != D.Stand) {
     D.Fremde = D.Stücke.size();
-    D.Ab = Jetzt.Länge;
+    D.Ab = Eben.Stand.Länge;
   }
   std::string Grund;
-  while (TextAnhängen(D.Name, Text, &Grund, &D.Stand) < 0) {
+  const Dateiblick* Blick = &Eben;
+  while (TextAnhängen(D.Name, Text, &Grund, &D.Stand, std::exchange(Blick, nullptr)) < 0) {
     const int Antwort = SchreibfehlerFrage(D.Name, Grund, std::string("Stapelmodul.") + Routine);
     if (Antwort == KnopfNochmals) continue;
     if (Antwort != KnopfOhne) return -1;
@@ -45,6 +45,10 @@ int Schreiben(const std::string& Text, const char* Routine) {
   }
   D.Stücke.push_back(Text);
   return 0;
+}
+
+int Schreiben(const std::string& Text, const char* Routine) {
+  return Schreiben(Text, Routine, DateiAnsehen(StapelDatei.Name));
 }
 
 // Writes another text in the place of a piece. Only what was written here is ours; somebody may have edited
@@ -116,10 +120,14 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
     return 0;
   }
   // Of a file that was emptied or taken away meanwhile the head has gone as well.
-  if (Offen() && DateistandVon(StapelDatei.Name).Länge < StapelDatei.Stand.Länge) StapelDatei.Offen.reset();
-  if (!Offen() && StapelKopf(Über) < 0) return -1;
+  Dateiblick Eben = DateiAnsehen(StapelDatei.Name);
+  if (Offen() && Eben.Stand.Länge < StapelDatei.Stand.Länge) StapelDatei.Offen.reset();
+  if (!Offen()) {
+    if (StapelKopf(Über) < 0) return -1;
+    Eben = DateiAnsehen(StapelDatei.Name);
+  }
   if (Satz.empty()) return 0;
-  if (Schreiben(Satz + "\r\n", "StapelPunktzeile") < 0) return -1;
+  if (Schreiben(Satz + "\r\n", "StapelPunktzeile", Eben) < 0) return -1;
   if (StapelDatei.Name.empty()) return 0;
   Griff = LetztesStück();
   return 0;
