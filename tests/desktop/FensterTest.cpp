@@ -505,6 +505,17 @@ class FensterTest final : public Fensterumgebung {
       QVERIFY(Bild->isVisible() && Arbeit->isVisible() == Mit);
       QVERIFY(qFuzzyCompare(GrafikFenster.Massstab, Vergrößert));
     }
+    // F1 on an entry of the menu under the mouse tells of that entry.
+    QTimer::singleShot(50, this, [this] {
+      auto* Liste = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      QVERIFY(Liste != nullptr);
+      Liste->setActiveAction(Fenster->findChild<QAction*>("GrafDXFLesen"));
+      QTest::keyClick(Liste, Qt::Key_F1);
+      Liste->close();
+    });
+    QTest::mouseClick(Bild, Qt::RightButton, {}, QPoint(9, 9));
+    QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("dxf.md"));
+    handbuch()->close();
     // Printed by the keyboard, on as many sheets as the scale asks for.
     Dialoge.push_back([this] {
       QWidget* Vorschau = QApplication::activeModalWidget();
