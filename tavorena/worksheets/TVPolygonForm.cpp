@@ -127,7 +127,7 @@ void TVPolygonForm::Zeilenergebnis(int z, std::vector<double>& Zellwerte) const 
 }
 
 void TVPolygonForm::ZeigeBerechnung() {
-  const std::vector<Zugwert> Werte = ZugWerte(Eingabe, Rechnung);
+  const std::array<Zugwert, 10> Werte = ZugWerte(Eingabe, Rechnung);
   for (std::size_t i = 0; i < Werte.size(); ++i) {
     const Zugwert& W = Werte[i];
     Ergebnisse[i]->Text = W.Gon ? ZahlFormat(W.Zahl, -1, 4) : Längentext(W.Zahl);

@@ -105,9 +105,9 @@ Zugmangel ZugRechnen(const Zugeingabe& E, const Zugpunkte& P, Zugrechnung& R) {
   return {};
 }
 
-std::vector<Zugwert> ZugWerte(const Zugeingabe& E, const Zugrechnung& R) {
+std::array<Zugwert, 10> ZugWerte(const Zugeingabe& E, const Zugrechnung& R) {
   const PolygonErgebnis& W = R.Werte;
-  std::vector<Zugwert> Alle(10);
+  std::array<Zugwert, 10> Alle;
   if (W.Seiten.empty()) return Alle;
   const PolygonToleranzen* T = PolygonToleranz(W, static_cast<PolygonKlasse>(E.Klasse));
   const double Vorn[] = {W.S, W.SummeS, W.WY, W.WX};

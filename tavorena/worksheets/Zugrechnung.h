@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,7 +53,7 @@ struct Zugwert {
   bool Über = false;  ///< it passes its tolerance
 };
 /// S, sum of the sides, WY, WX, and the misclosures FW, FL, FQ, each with its tolerance behind it.
-[[nodiscard]] std::vector<Zugwert> ZugWerte(const Zugeingabe& E, const Zugrechnung& R);
+[[nodiscard]] std::array<Zugwert, 10> ZugWerte(const Zugeingabe& E, const Zugrechnung& R);
 
 /// A traverse that was computed, for the protocol.
 [[nodiscard]] Protzug ProtzugVon(const Zugeingabe& E, const Zugpunkte& P, const Zugrechnung& R);
