@@ -68,7 +68,6 @@ TEST_F(Ausgleichblatt, GeradeUndKreisSchreibenIhreDateien) {
 // A list that is full refuses the next row where it is typed.
 TEST_F(Ausgleichblatt, GrenzenUndGrafik) {
   GrafikLeeren();
-  GrafikWahl = {true, false, false};
   GrafikFenster = {};
   GrafikÖffnen(9000, 9000);
   const auto Marken = [](const char* Stück) {

@@ -575,7 +575,6 @@ TEST_F(BlattTest, NeupunktEintragenFragtNurBeiAndererLage) {
 // away.
 TEST_F(BlattTest, MarkenInDerGrafik) {
   GrafikLeeren();
-  GrafikWahl = {true, false, false};
   GrafikFenster = {true, 400, 400, 2, 3500050, 5600190, 200, 200, 0, 0, 0, 0, false};
   const auto Leer = Gezeichnet();
   const auto Neues = [&] {  // beside the points of the table
@@ -626,7 +625,6 @@ TEST_F(BlattTest, MarkenDesBeispiels) {
   const std::string Beispiel = std::string(TAVORENA_TESTS) + "/../examples/musterdorf.";
   ASSERT_EQ(KorLesen(Beispiel + "kor", Lesemodus::Ersetzen, Dateiformat::Kor), 0);
   GrafikLeeren();
-  GrafikWahl = {true, false, false};
   GrafikFenster = {};
   GrafikÖffnen(9000, 9000);
   const auto Punkte = Gezeichnet();

@@ -5,6 +5,7 @@
 
 #include <tavorena/forms/Punktnummer.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
+#include <tavorena/graphics/Grafikmodul.h>
 #include <tavorena/worksheets/Blattart.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
@@ -15,6 +16,7 @@ class Blatttest : public Aktentest {
  protected:
   Blatttest() {
     LetztePunktnummer.clear();
+    GrafikWahl = {true, false, false};
     KoordinatendateiName = "/daten/auftrag/musterdorf.kor";
     ProtokollNehmen(Ordner.Pfad("a.dru"));
     StapelDatei.Name = Ordner.Pfad("a.sta");

@@ -135,7 +135,6 @@ TEST_F(Zugtest, ErgebnisseFolgenJederÄnderung) {
 
 TEST_F(Zugtest, KetteStehtInDerGrafik) {
   GrafikLeeren();
-  GrafikWahl = {true, false, false};
   GrafikFenster = {};
   GrafikÖffnen(9000, 9000);
   const auto Zahl = [](const std::string& Stück) {
