@@ -144,6 +144,12 @@ std::vector<std::string> Fallblatt::Notiz(std::size_t Lösung) const {
   return Lösung < Getan.size() ? Getan[Lösung].Notizzeilen() : std::vector<std::string>();
 }
 
+Block Fallblatt::MitNotiz(Block B) const {
+  const std::vector<std::string> Zeilen = Notiz(0);
+  B.Zeilen.insert(B.Zeilen.end(), Zeilen.begin(), Zeilen.end());
+  return B;
+}
+
 // ---- what is typed ---------------------------------------------------------------------------------
 
 void Fallblatt::EingabeGeändert() {

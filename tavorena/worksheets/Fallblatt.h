@@ -113,8 +113,10 @@ class Fallblatt : public Rechenblatt {
   virtual void Zeichnen(Markierung& /*Bild*/) {}
   /// A case is written although nothing is stored.
   [[nodiscard]] virtual bool OhneNummer() const { return false; }
-  /// The notes of the numbers that were taken, below their rows.
+  /// What stands below the row of a solution whose number was taken.
   [[nodiscard]] std::vector<std::string> Notiz(std::size_t Lösung) const;
+  /// Lines that end with the row of the only solution, and its note.
+  [[nodiscard]] Block MitNotiz(Block B) const;
 
   /// Empties solutions and figures, but for what is typed there.
   void NichtsZeigen();

@@ -138,10 +138,9 @@ void TVAreaForm::ZeigeBerechnung() {
   Flaeche->Text = Da ? Längentext(Grenze.Flaeche()) : "";
   Umring->Text = Da ? Längentext(Grenze.Werte().Umring) : "";
   Bogen->Text = Da && Grenze.MitBogen() ? Längentext(Grenze.Werte().Bogenflaeche) : "";
-  GKred->Text = "";
-  if (Da && !Grenze.GKred().IstGegeben()) GKred->Text = "keine GK-Koord.";
-  if (Da && Grenze.GKred().IstGegeben() && Optionen.GKreduzierteFlaechen)
-    GKred->Text = Längentext(Grenze.GKred());
+  const bool MitGK = Da && Grenze.GKred().IstGegeben();
+  GKred->Text = Da && !MitGK ? "keine GK-Koord." : "";
+  if (MitGK && Optionen.GKreduzierteFlaechen) GKred->Text = Längentext(Grenze.GKred());
   Bild.Zeigen(Grenze, Andere);
   Andere.clear();
   const std::string Text = Grenze.Urteil();

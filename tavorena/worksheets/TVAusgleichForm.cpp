@@ -21,14 +21,12 @@ const char* const RahmenErgebnis = "Ergebnis";
 constexpr int MaxPunkte = 1001;  // of a line
 
 std::vector<Zeilenspalte> Listenspalten(bool Kreis) {
-  std::vector<Zeilenspalte> S = {{"Punktnr.", PnrZeichen, Zellart::Nummer},
-                                 {"Rechts", Längenbreite(8)},
-                                 {"Hoch", Längenbreite(8)},
-                                 {"Linie", Längenbreite(6)},
-                                 {"Seitw.", Längenbreite(6)},
-                                 {"Sy.", 6}};
-  S[3].Sichtbar = !Kreis;
-  return S;
+  return {{"Punktnr.", PnrZeichen, Zellart::Nummer},
+          {"Rechts", Längenbreite(8)},
+          {"Hoch", Längenbreite(8)},
+          {"Linie", Längenbreite(6), Zellart::Ergebnis, !Kreis},
+          {"Seitw.", Längenbreite(6)},
+          {"Sy.", 6}};
 }
 
 Listenart ArtDerListe(bool Kreis) {

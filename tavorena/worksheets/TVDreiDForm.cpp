@@ -113,11 +113,7 @@ ProtdreiD TVDreiDForm::AlsProt() const {
   return D;
 }
 
-Block TVDreiDForm::Protokollieren() {
-  Block B = DreiDBlock(Optionen.OptNachkommastellen, AlsProt());
-  for (std::string& Zeile : Notiz(0)) B.Zeilen.push_back(std::move(Zeile));
-  return B;
-}
+Block TVDreiDForm::Protokollieren() { return MitNotiz(DreiDBlock(Optionen.OptNachkommastellen, AlsProt())); }
 
 Block TVDreiDForm::Streichzeile(const Fallpunkt& /*L*/) {
   return DreiDZeile(Optionen.OptNachkommastellen, NeuerPunkt(), MarkeGelöscht);

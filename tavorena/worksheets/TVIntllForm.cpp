@@ -39,10 +39,8 @@ void TVIntllForm::Unvollständig() {
 }
 
 Block TVIntllForm::Protokollieren() {
-  Block B = GeradenschnittBlock(Optionen.OptNachkommastellen, G[0].AlsProtgerade(), G[1].AlsProtgerade(),
-                                Neu.AlsProtpunkt(), Tau, Optionen.OptWarnstufe);
-  for (std::string& Zeile : Notiz(0)) B.Zeilen.push_back(std::move(Zeile));
-  return B;
+  return MitNotiz(GeradenschnittBlock(Optionen.OptNachkommastellen, G[0].AlsProtgerade(),
+                                      G[1].AlsProtgerade(), Neu.AlsProtpunkt(), Tau, Optionen.OptWarnstufe));
 }
 
 Block TVIntllForm::Streichzeile(const Fallpunkt& L) {

@@ -47,10 +47,8 @@ std::string TVKmittForm::Rechnen() {
 Block TVKmittForm::Protokollieren() {
   std::array<Protbogenpunkt, 3> Bogen;
   for (std::size_t i = 0; i < 3; ++i) Bogen[i] = {P[i]->AlsProtpunkt(), Kreis.Radien[i]};
-  Block B =
-      KreismitteBlock(Optionen.OptNachkommastellen, Bogen, Neu.AlsProtpunkt(), Tau, Optionen.OptWarnstufe);
-  for (std::string& Zeile : Notiz(0)) B.Zeilen.push_back(std::move(Zeile));
-  return B;
+  return MitNotiz(
+      KreismitteBlock(Optionen.OptNachkommastellen, Bogen, Neu.AlsProtpunkt(), Tau, Optionen.OptWarnstufe));
 }
 
 Block TVKmittForm::Streichzeile(const Fallpunkt& L) {

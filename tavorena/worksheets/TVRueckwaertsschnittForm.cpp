@@ -115,9 +115,7 @@ Protrueckwaerts TVRueckwaertsschnittForm::AlsProtrueckwaerts() const {
 }
 
 Block TVRueckwaertsschnittForm::Protokollieren() {
-  Block B = RueckwaertsBlock(Optionen.OptNachkommastellen, AlsProtrueckwaerts());
-  for (std::string& Zeile : Notiz(0)) B.Zeilen.push_back(std::move(Zeile));
-  return B;
+  return MitNotiz(RueckwaertsBlock(Optionen.OptNachkommastellen, AlsProtrueckwaerts()));
 }
 
 Block TVRueckwaertsschnittForm::Streichzeile(const Fallpunkt& L) {

@@ -99,13 +99,11 @@ void TVVorwaertsschnittForm::HöheZeigen(const VorwStation& A, const VorwStation
 
 Block TVVorwaertsschnittForm::Protokollieren() {
   const bool MitHöhe = Optionen.FStatMitHoehe;
-  Block B = VorwaertsBlock(
+  return MitNotiz(VorwaertsBlock(
       Optionen.OptNachkommastellen,
       {S[0].AlsProtstation(), S[1].AlsProtstation(), Neu.AlsProtpunkt(), Werte.TauGon,
        MitHöhe ? Wert(Werte.VorwNeuHoehe) : Wert(), MitHöhe ? Wert(Werte.VorwParallaxe) : Wert()},
-      Optionen.OptWarnstufe);
-  for (std::string& Zeile : Notiz(0)) B.Zeilen.push_back(std::move(Zeile));
-  return B;
+      Optionen.OptWarnstufe));
 }
 
 Block TVVorwaertsschnittForm::Streichzeile(const Fallpunkt& L) {
