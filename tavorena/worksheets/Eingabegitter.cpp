@@ -47,10 +47,7 @@ bool Eingabegitter::ZelleLesen(int z, int s) {
   if (Art(s) == Zellart::Maß && !Text.empty() && !MesswertPrüfen(Text, Zahl)) return false;
   if (Art(s) == Zellart::Wort && !Wortform(Text)) return false;
   const bool EinWort = Art(s) == Zellart::Nummer || Art(s) == Zellart::Symbol;
-  if (EinWort && Text.find_first_of(" \t") != std::string::npos) {
-    StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
-    return false;
-  }
+  if (EinWort && !WortPrüfen(Text)) return false;
   Zellen.InhaltSetzen(z, s, Text);
   return true;
 }

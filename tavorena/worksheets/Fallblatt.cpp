@@ -114,9 +114,7 @@ Fallpunkt& Fallblatt::LösungAnlegen(const char* Welcher, const char* Label, boo
   L.NeuPnr.BeiVerlassen = [this, &L] { return NummerNehmen(L); };
   L.NeuSym.BeiVerlassen = [&L] {
     L.NeuSym.Text = Trimmen(*L.NeuSym.Text);
-    if (StapelWortPaßt(*L.NeuSym.Text)) return true;
-    StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
-    return false;
+    return WortPrüfen(L.NeuSym.Text);
   };
   Anschließen(L.NeuPnr);
   Anschließen(L.NeuSym);
@@ -238,8 +236,8 @@ bool Fallblatt::NummerNehmen(Fallpunkt& L) {
   const std::string Pnr = Trimmen(*L.NeuPnr.Text);
   L.NeuPnr.Text = Pnr;
   if (!L.Benannt()) return true;
+  if (!WortPrüfen(Pnr)) return false;
   std::string Fehler;
-  if (!StapelWortPaßt(Pnr)) Fehler = "Punktnummer und Symbol ohne Leerzeichen";
   for (const Punktfeld& P : Punkte) {
     if (P.Gesetzt() && P.Nummer() == Pnr) Fehler = "Punkt " + Pnr + " ist ein bekannter Punkt dieses Falls";
   }

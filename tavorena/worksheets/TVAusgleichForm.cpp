@@ -73,10 +73,7 @@ TVAusgleichForm::Bestimmungspunkt TVAusgleichForm::PunktAnlegen(const char* Welc
 void TVAusgleichForm::Wortfeld(Feld& F) {
   F.BeiVerlassen = [this, &F] {
     F.Text = Trimmen(*F.Text);
-    if (!StapelWortPaßt(*F.Text)) {
-      StatusHilfeSetzen("Punktnummer und Symbol ohne Leerzeichen");
-      return false;
-    }
+    if (!WortPrüfen(F.Text)) return false;
     if (!F.IstPnr || F.Text->empty()) return true;
     for (int z = 0; z < Anzahl(); ++z) {
       if (Reihe(z).Pnr != *F.Text) continue;

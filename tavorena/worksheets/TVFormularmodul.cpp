@@ -49,6 +49,13 @@ bool MesswertPrüfen(std::string& Text, double& Zahl) {
   return true;
 }
 
+bool WortPrüfen(const std::string& Text) {
+  if (StapelWortPaßt(Text)) return true;
+  StatusHilfeSetzen(Text == "-" ? "\"-\" steht für keine Punktnummer und kein Symbol"
+                                : "Punktnummer und Symbol ohne Leerzeichen");
+  return false;
+}
+
 int NeupunktEintragen(Wert& Pnr, double Rechts, double Hoch, const Wert& Hoehe, const std::string& Symbol,
                       const KorInfoSatz* Info, Punktnotiz& Notiz) {
   Notiz = {};

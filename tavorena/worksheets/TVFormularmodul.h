@@ -29,6 +29,10 @@ bool MesswertLesen(std::string& Text, double& Zahl);
 /// @return false with a reason in the status help
 bool MesswertPrüfen(std::string& Text, double& Zahl);
 
+/// A point number or a symbol that is to be recorded must be one word, and not "-", which stands for none.
+/// @return false with a reason in the status help
+bool WortPrüfen(const std::string& Text);
+
 /// What NeupunktEintragen has to tell the protocol.
 struct Punktnotiz {
   NeupunktCode Code = NeupunktCode::Neu;

@@ -88,6 +88,9 @@ TEST_F(BlattTest, MeßlinieSchreibtIhreDateien) {
   EXPECT_EQ(Tippe(*B, "OrthoGitter", "+\n145\nx\n"), "OrthoGitter");  // no number: the cell stays
   EXPECT_TRUE(Gleich(*G.Spalte, 4, G.Fehlerhaft, true, KorAnzahl, 6));
   Tippe(*B, "OrthoGitter", "-45\n");
+  EXPECT_EQ(Tippe(*B, "OrthoGitter", "-\n"), "OrthoGitter");  // a record could not be read back
+  EXPECT_TRUE(Gleich(G.Fehlerhaft, true, KorAnzahl, 6));
+  Tippe(*B, "OrthoGitter", "015");
   EXPECT_EQ(G.Inhalt(1, 1), "3500151.036");  // computed, and waits for the symbol
   Tippe(*B, "OrthoGitter", "\n");
   EXPECT_EQ(KorPnr(6), "3002");
