@@ -46,6 +46,7 @@ PAARE = (
     ("Zeile/5MB", ("Zeile/leer",), 1.3),
     ("Return/24.40", ("Schritte/24.40",), 2.0),
     ("Return/08.40", ("Schritte/08.40",), 2.0),
+    ("Return/22.10", ("Schritte/22.10",), 2.0),
     ("Return/22.00", ("Schritte/22.00",), 2.0),
     ("Return/19.70", ("Schritte/19.70",), 2.0),
     ("Return/09.00", ("Schritte/09.00",), 2.0),

@@ -254,6 +254,7 @@ bool Fallblatt::NummerNehmen(Fallpunkt& L) {
 }
 
 bool Fallblatt::Prüfen() {
+  EingabeGeändert();  // an option may have changed since
   for (Punktfeld& P : Punkte) {
     if (TrimmenSicht(*P.Pnr.Text).empty() || P.Auffrischen()) continue;
     FokusSetzen(P.Pnr);

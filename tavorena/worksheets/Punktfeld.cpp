@@ -35,10 +35,14 @@ void Punktfeld::Nehmen(int Zeile) {
   Punkt = {P.Rechts, P.Hoch};
   Höhe = P.Hoehe;
   Stand = KorStand;
-  Rechts.Text = Längentext(P.Rechts);
-  Hoch.Text = Längentext(P.Hoch);
-  H_he.Text = P.Hoehe == 0 ? "" : Längentext(P.Hoehe);
   Sym.Text = std::string(P.Symbol);
+  Zeigen();
+}
+
+void Punktfeld::Zeigen() {
+  Rechts.Text = Längentext(Punkt.RW);
+  Hoch.Text = Längentext(Punkt.HW);
+  H_he.Text = Höhe == 0 ? "" : Längentext(Höhe);
 }
 
 int Punktfeld::Setzen() {
@@ -58,8 +62,28 @@ int Punktfeld::Setzen() {
 }
 
 bool Punktfeld::Auffrischen() {
+  if (Gesetzt() && Stand == KorStand && *Pnr.Text == Gesucht) {
+    Zeigen();  // the decimals may be other ones
+    LetztePunktnummer = Gesucht;
+    Pnr.Fehlerhaft = false;
+    return true;
+  }
   Leeren();
   return Formular::Lesen(Pnr) && Gesetzt();
+}
+
+void Punktfeld::Übernehmen(Punktfeld& Von) {
+  Leeren();
+  Pnr.Text = *Von.Pnr.Text;
+  Gesucht = LetztePunktnummer = Von.Gesucht;
+  Punkt = Von.Punkt;
+  Höhe = Von.Höhe;
+  Stand = Von.Stand;
+  Sym.Text = *Von.Sym.Text;
+  Zeigen();
+  Von.Pnr.Text = "";
+  Von.Leeren();
+  if (BeiWechsel) BeiWechsel();
 }
 
 int Punktfeld::AusStapel(const std::string& Nummer) {
@@ -71,7 +95,6 @@ int Punktfeld::AusStapel(const std::string& Nummer) {
 
 bool Punktfeld::Nachsehen() {
   if (!Gesetzt() || Stand == KorStand) return false;
-  Stand = KorStand;
   const int Zeile = KorSuche(std::string_view(Gesucht));
   if (Zeile < 0) return false;
   const Lage Vorige = Punkt;

@@ -28,13 +28,15 @@ class Punktfeld {
   /// Looks the number in the field up, unless it is the one that is set; an empty field sets no point.
   /// @return 0; -1: not found and not given, the text stays
   [[nodiscard]] int Setzen();
-  /// The same, also when the number stayed: the table may have changed. @return false: there is no point
+  /// The same, also when the number stayed and the table has changed since. @return false: there is no point
   [[nodiscard]] bool Auffrischen();
   /// Takes the number of a batch block. @return 0; -1 with a message: there is no point
   [[nodiscard]] int AusStapel(const std::string& Nummer);
   /// Looks the point up again if the table has changed since; a number that is gone keeps its coordinates.
   /// @return true: it lies elsewhere now
   bool Nachsehen();
+  /// Takes the point that is set in another field, and leaves that one empty.
+  void Übernehmen(Punktfeld& Von);
   /// Takes the point out of the results; the number typed stays.
   void Leeren();
 
@@ -52,13 +54,14 @@ class Punktfeld {
 
  private:
   void Nehmen(int Zeile);
+  void Zeigen();
 
   Feld &Rechts, &Hoch, &H_he, &Sym;
   std::string Gesucht;      // the number that was looked up; "" none
   std::string Alter;        // the one that was set before
   Lage Punkt;               // [m]
   double Höhe = 0;          // [m]
-  std::uint64_t Stand = 0;  // of the table when it was looked up
+  std::uint64_t Stand = 0;  // of the table when it was found there
 };
 
 /// Headings of the columns in which the points stand.

@@ -68,10 +68,7 @@ int TVDisForm::KontrolleSchreiben() {
 }
 
 void TVDisForm::NächsteKontrolle() {
-  Kopf.Anf.Pnr.Text = *Kopf.End.Pnr.Text;
-  Kopf.End.Pnr.Text = "";
-  Kopf.End.Leeren();
-  static_cast<void>(Kopf.Anf.Setzen());  // it was there as the end point
+  Kopf.Anf.Übernehmen(Kopf.End);
   Gemessen = 0;
   Strecke.Text = Messwerttext(0);
   FokusSetzen(Kopf.End.Pnr);

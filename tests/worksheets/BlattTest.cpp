@@ -71,6 +71,25 @@ TEST_F(BlattTest, EntfernungskontrollenSchreibenIhreDateien) {
   PrüfeDateien("dis", 3);
 }
 
+// Between the typing and Return the table becomes another one, or the decimals do.
+TEST_F(BlattTest, ReturnNimmtDieTabelleVonJetzt) {
+  auto L = Öffne("24.40"), D = Öffne("22.10");
+  Tippe(*L, "LinelAnfPnr", "1001\n1002\n0\n");
+  Optionen.OptNachkommastellen = 2;
+  Tippe(*L, "LinelEndmass", "0\n");
+  EXPECT_EQ(Text(*L, "LinelAnfHoch"), "5600200.00");
+  Tippe(*D, "DisAnfPnr", "1001\n1002\n");
+  static_cast<void>(KorZeileSetzen(0, {"1001", 3500100, 5600190}));
+  static_cast<void>(KorLoeschen(KorSuche(std::string_view("1002"))));
+  Skript.Formulare.push_back(Bediene({{"Abbrechen", ""}}));
+  EXPECT_EQ(Tippe(*D, "DisStrecke", "0\n"), "DisEndPnr");  // it is asked for, and not given
+  EXPECT_TRUE(Gleich(Text(*D, "DisAnfHoch"), "5600190.00", Protokoll(), ""));
+  Punkt("1002", 3500160, 5600270);
+  EXPECT_EQ(Tippe(*D, "DisStrecke", "0\n"), "DisEndPnr");
+  EXPECT_TRUE(Gleich(Text(*D, "DisL"), "100.00", Text(*D, "DisAnfPnr"), "1002", Text(*D, "DisAnfHoch"),
+                     "5600270.00", LetztePunktnummer, "1002"));
+}
+
 // New points: typed cell by cell, stored, corrected and deleted. What a correction did to the table is taken
 // back.
 TEST_F(BlattTest, MeßlinieSchreibtIhreDateien) {

@@ -37,6 +37,9 @@ TEST_F(RichtungTest, VorwärtsschnitteSchreibenIhreDateien) {
   // 67.082 m: 12.5 + 5.279 from the one station, 12.8 + 4.750 from the other
   Tippe(*B, "VorwFernPnr1", "\n10\n\n39,5167\n95\n\n20\n1009\n366,2595\n95,5\n");
   EXPECT_TRUE(Gleich(Text(*B, "VorwNeuHoehe"), "17.665", Text(*B, "VorwParallaxe"), "-0.230"));
+  Optionen.FStatMitHoehe = false;
+  Tippe(*B, "VorwVertikal2", "95,50\n");
+  Optionen.FStatMitHoehe = true;  // as it is when Return commits
   Tippe(*B, "Vorw_NeuPnr", "2013\n\n");
   EXPECT_NEAR(Satz("2013").Hoehe, 17.665, 1e-3);
   Tippe(*B, "VorwFernPnr1", "12\n0\n11\n84,5259\n\n22\n0\n21\n157,2272\n\n");
