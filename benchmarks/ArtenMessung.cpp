@@ -13,15 +13,15 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 
-// The Return that writes a row or a case, for each kind, beside its bare steps: the points looked up, the new
-// ones stored, the same bytes appended to the same files.
+// The Return that writes a row or a case, and the button that writes a list, for each kind, beside its bare
+// steps: the points looked up, the new ones stored, the same bytes appended to the same files.
 
 namespace tavorena::messung {
 namespace {
 
 using Worte = std::vector<std::string>;
 
-constexpr int Tabellenpunkte = 19000, Folge = 300;
+constexpr int Tabellenpunkte = 19000;
 
 std::string Alter(int i) { return Punkte().Pnr[static_cast<std::size_t>(i % Tabellenpunkte)]; }
 std::string Neuer(int i) { return std::to_string(30001 + i); }
@@ -32,7 +32,23 @@ struct Art {
   bool Fall;           // each is brought to the disk
   Worte Kopf;          // typed first
   std::function<Worte(int i)> Eingabe;
+  const char *Schreiben = nullptr, *Leeren = nullptr;  // the buttons of a list
+
+  [[nodiscard]] int Folge() const { return Fall ? 60 : 300; }
 };
+
+// Ten legs, or ten edges.
+Worte Zug(int i) {
+  Worte W = {"7", Alter(0), Alter(1), "200", "10"};
+  for (int k = 0; k < 9; ++k) W.insert(W.end(), {Neuer(9 * i + k), "200", "10", "015"});
+  W.insert(W.end(), {"", Alter(2), "200", Alter(3)});
+  return W;
+}
+Worte Grenze(int i) {
+  Worte W = {std::to_string(i), ""};
+  for (int k = 0; k < 10; ++k) W.insert(W.end(), {Alter(i * 61 + k), "", ""});
+  return W;
+}
 
 // The points of two lines or circles lie kilometres apart. Each case swaps them, so that all are looked up.
 const std::vector<Art>& Arten() {
@@ -81,6 +97,89 @@ const std::vector<Art>& Arten() {
        [](int i) {
          return Worte{Alter(i % 3), Alter((i + 1) % 3), Alter((i + 2) % 3), Neuer(i), "015"};
        }},
+      {"Return/09.40",
+       "Schritte/09.40",
+       "09.40",
+       4,
+       2,
+       true,
+       {},
+       [Im](int i) {
+         return Worte{Im(i, 0), Im(i, 3), "",           "",    Im(i, 0),         Im(i, 1), "",
+                      "",       "",       Neuer(2 * i), "015", Neuer(2 * i + 1), "015"};
+       }},
+      {"Return/23.10",
+       "Schritte/23.10",
+       "23.10",
+       4,
+       2,
+       true,
+       {},
+       [Im](int i) {
+         return Worte{Im(i, 0), Im(i, 3), "",           "",    Im(i, 3),         Im(i, 0),
+                      "",       "",       Neuer(2 * i), "015", Neuer(2 * i + 1), "015"};
+       }},
+      {"Return/10.00",
+       "Schritte/10.00",
+       "10.00",
+       4,
+       1,
+       true,
+       {},
+       [Im](int i) {
+         return Worte{Im(i, 3), "0", Im(i, 0), "350", "", Im(i, 0), "0", Im(i, 3), "60", "", Neuer(i), "015"};
+       }},
+      {"Return/11.00",
+       "Schritte/11.00",
+       "11.00",
+       3,
+       1,
+       true,
+       {},
+       [](int i) {
+         return Worte{Alter(i % 3),       "0",   Alter((i + 1) % 3), "120",
+                      Alter((i + 2) % 3), "250", Neuer(i),           "015"};
+       }},
+      {"Return/3D Raumstrecke",
+       "Schritte/3D Raumstrecke",
+       "3D RAUMSTRECKE",
+       2,
+       0,
+       true,
+       {},
+       [Im](int i) {
+         return Worte{Im(i, 0), Im(i, 3)};
+       }},
+      {"Return/3D Lotabstand",
+       "Schritte/3D Lotabstand",
+       "3D LOTABSTAND",
+       3,
+       1,
+       true,
+       {},
+       [](int i) {
+         return Worte{Alter(i % 3), Alter((i + 1) % 3), Alter((i + 2) % 3), Neuer(i)};
+       }},
+      {"Return/19.10",
+       "Schritte/19.10",
+       "19.10",
+       4,
+       9,
+       true,
+       {},
+       Zug,
+       "PolygonErzeugen",
+       "PolygonFelderClear"},
+      {"Return/65.00",
+       "Schritte/65.00",
+       "65.00",
+       10,
+       0,
+       true,
+       {},
+       Grenze,
+       "AreaSchreiben",
+       "AreaFelderClear"},
   };
   return Alle;
 }
@@ -102,9 +201,12 @@ Gang Tippen(const Art& A) {
       B.Return();
       B.Schreibe(W[k]);
     }
+    if (A.Schreiben != nullptr) B.Return();
     const double Ab = Prozessorzeit();
-    B.Return();
-    return Prozessorzeit() - Ab;
+    A.Schreiben != nullptr ? B.Drücke(A.Schreiben) : B.Return();
+    const double Zeit = Prozessorzeit() - Ab;
+    if (A.Leeren != nullptr) B.Drücke(A.Leeren);
+    return Zeit;
   };
   Zeile(0);
   Gang G;
@@ -112,10 +214,10 @@ Gang Tippen(const Art& A) {
   std::vector<std::size_t> Vorher;
   std::string Text;
   for (const std::string& D : G.Bytes) Vorher.push_back(DateiLesen(D, Text) == 0 ? Text.size() : 0);
-  for (int i = 1; i <= Folge; ++i) G.Zeit += Zeile(i) / Folge;
+  for (int i = 1; i <= A.Folge(); ++i) G.Zeit += Zeile(i) / A.Folge();
   for (std::size_t d = 0; d < G.Bytes.size(); ++d)
     G.Bytes[d] = DateiLesen(G.Bytes[d], Text) == 0 ? Text.substr(Vorher[d]) : "";
-  if (!B.Geschrieben(Folge) || KorAnzahl != Tabellenpunkte + A.Neue * (Folge + 1)) G.Bytes.clear();
+  if (!B.Geschrieben(A.Folge()) || KorAnzahl != Tabellenpunkte + A.Neue * (A.Folge() + 1)) G.Bytes.clear();
   return G;
 }
 
@@ -138,6 +240,7 @@ bool Anfügen(const std::string& Name, const std::string& Bytes, std::size_t Ab,
 
 void SchritteMessen(benchmark::State& Stand, const Art& A) {
   const Gang G = Tippen(A);
+  const auto Folge = static_cast<std::size_t>(A.Folge());
   for (auto _ : Stand) {
     TabelleFüllen();
     KorAbschneiden(Tabellenpunkte);
@@ -159,7 +262,7 @@ void SchritteMessen(benchmark::State& Stand, const Art& A) {
             Anfügen(Pfad + std::to_string(d), G.Bytes[d], n * i / Folge, n * (i + 1) / Folge, A.Fall) && Gut;
       }
     }
-    Stand.SetIterationTime((Prozessorzeit() - Ab) / Folge);
+    Stand.SetIterationTime((Prozessorzeit() - Ab) / A.Folge());
     for (std::size_t d = 0; d < G.Bytes.size(); ++d) unlink((Pfad + std::to_string(d)).c_str());
     if (!Gut) return Stand.SkipWithError("Die Grundlage stimmt nicht.");
   }

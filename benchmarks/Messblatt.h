@@ -52,6 +52,7 @@ class Messblatt {
     Schreibe(Wort);
     Return();
   }
+  void Drücke(const char* Name) { Form->Klicken(dynamic_cast<Knopf&>(*Form->Finde(Name))); }
   void Feld(const char* Name) { Form->FokusWechseln(*Form->Finde(Name)); }
 
   /// Brings all three files to a size; the rows to come go behind.
