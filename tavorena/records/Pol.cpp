@@ -79,7 +79,7 @@ void RadiusNehmen(std::string_view Zeile, Polkante& K) {
 // What stands in a line of the box behind its word.
 bool KopfNehmen(std::string_view Zeile, std::string_view Wort, std::string& Text) {
   const std::size_t Ab = Zeile.find(Wort);
-  if (Ab == std::string_view::npos || Ab > std::string_view("      │ ").size()) return false;
+  if (Ab > std::string_view("      │ ").size()) return false;  // or not at all
   Text = Trimmen(Zeile.substr(Ab + Wort.size()));
   return true;
 }
