@@ -326,6 +326,33 @@ class FensterTest final : public Fensterumgebung {
     QCOMPARE(GrafikFenster.FensterBreite, Breite);
   }
 
+  // One question in a replay answers for all blocks to come, and the next replay asks anew.
+  void eineAntwortFuerDenStapel() {
+    Öffne();
+    QByteArray Sta;
+    for (const char* Zeilen : {"AO 2003 50 0 0\r\nAO 2004 50 0 0\r\n", "AO 2005 50 0 0\r\n"})
+      Sta += QByteArray("M VR 22.00\r\nPAN 1001 0\r\nPEN 1002 0\r\n") + Zeilen + "E Ende\r\n";
+    Schreibe(Pfad("b.sta"), Sta);
+    for (const Qt::Key Taste : {Qt::Key_M, Qt::Key_N}) {  // the means stay
+      Wähle(Pfad("b.sta"));
+      Dialoge.push_back([=] {
+        auto* FürAlle = VordererDialog()->findChild<QCheckBox*>("PDoppFürAlle");
+        QVERIFY(FürAlle->isVisible() && !FürAlle->isChecked());
+        QTest::keyClick(VordererDialog(), Qt::Key_F, Qt::AltModifier);
+        QTRY_VERIFY(FürAlle->isChecked());
+        QTest::keyClick(VordererDialog(), Taste, Qt::AltModifier);
+      });
+      Menü("MenüDateiStapel");
+      QTRY_COMPARE(FokusName(), QString("OrthoWeiter"));
+      Drücke(Qt::Key_J, Qt::AltModifier);
+      Drücke(Qt::Key_W, Qt::AltModifier);
+      QTRY_VERIFY(!Stapel.Läuft());
+      QCOMPARE(Stapel.Bilanz.Zeilen, 3);
+      for (const auto& [Pnr, Hoch] : {std::pair{"2003", 5600235.0}, {"2004", 5600257.5}, {"2005", 5600300.0}})
+        QVERIFY(std::abs(KorHoch[static_cast<std::size_t>(KorSuche(std::string_view(Pnr)))] - Hoch) < 1e-6);
+    }
+  }
+
   // Ctrl+Z: first the text that is typed, then the form, then the whole table.
   void zurueckNimmtDasNaechste() {
     struct Probe final : Formular {
