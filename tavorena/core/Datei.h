@@ -64,8 +64,11 @@ Dateiblick DateiAnsehen(std::string_view Name);
 /// Replaces a file as a whole: written beside it under a name of its own, flushed to the disk, renamed over
 /// it. On any failure the old file is as it was. Links are followed, a file with several names keeps them;
 /// mode, owner and group stay where the system allows. A file that is protected against writing is refused,
-/// and so is a link without a file at its end. @return 0 or -1
-[[nodiscard]] int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund = nullptr);
+/// and so is a link without a file at its end.
+/// @param[in] Solange  what was seen of the file: one that somebody wrote since is left alone
+/// @return 0; -1; -2: it is not as in Solange any more
+[[nodiscard]] int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund = nullptr,
+                                const Dateistand* Solange = nullptr);
 
 /// Makes an empty file beside Name that nobody else has or may read.
 /// @param[in,out] Name  the name of the new file; "" if there is none @return 0 or -1

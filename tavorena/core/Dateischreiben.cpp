@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <sys/file.h>
 #include <vector>
 
 #include <tavorena/core/Deskriptor.h>
@@ -102,7 +103,16 @@ bool Daneben(std::string& Neu, const struct stat* Alt, std::string_view Inhalt) 
   return false;
 }
 
-int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, std::string& Grund) {
+// Whoever replaces a file holds it from his last look at it until the new one stands there. One that is held
+// for longer is held by another program, for a reason of its own.
+Deskriptor Festhalten(const fs::path& Ziel) {
+  Deskriptor K(open(Ziel.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  for (int i = 0; i < 100 && K && flock(K.Nummer(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK; ++i)
+    usleep(1000);
+  return K;
+}
+
+int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, const Dateistand* Solange, std::string& Grund) {
   std::error_code Unklar;
   struct stat Alt {};
   const bool War = stat(Pfad.c_str(), &Alt) == 0;
@@ -118,7 +128,14 @@ int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, std::string& Grund) 
     Grund = Fehlerwort(errno);
     return -1;
   }
+  Deskriptor Griff = War ? Festhalten(Ziel) : Deskriptor();
+  if (Solange != nullptr && DateistandVon(Pfad.string()) != *Solange) {
+    unlink(Neu.c_str());
+    Grund = "inzwischen von anderer Seite geändert";
+    return -2;
+  }
   if (!Einsetzen(Neu, Ziel, War ? &Alt : nullptr, Inhalt, Grund)) return -1;
+  Griff = Deskriptor();
   OrdnerAufPlatte(Ziel.parent_path());
   return 0;
 }
@@ -132,11 +149,12 @@ int EigeneDateiAnlegen(std::string& Name) {
   return K ? 0 : -1;
 }
 
-int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund) {
+int DateiErsetzen(std::string_view Name, std::string_view Inhalt, std::string* Grund,
+                  const Dateistand* Solange) {
   std::string Wort;
-  if (!Name.empty() && Ersetzen(Systempfad(Name), Inhalt, Wort) == 0) return 0;
-  if (Grund != nullptr) *Grund = Wort;
-  return -1;
+  const int Ergebnis = Name.empty() ? -1 : Ersetzen(Systempfad(Name), Inhalt, Solange, Wort);
+  if (Ergebnis < 0 && Grund != nullptr) *Grund = Wort;
+  return Ergebnis;
 }
 
 }  // namespace tavorena

@@ -57,6 +57,7 @@ int StückSetzen(int Griff, const std::string& Neu) {
   Stapeldatei& D = StapelDatei;
   if (Griff < 0 || Griff >= std::ssize(D.Stücke) || static_cast<std::size_t>(Griff) < D.Fremde) return -1;
   std::string& Stück = D.Stücke[static_cast<std::size_t>(Griff)];
+  const Dateistand Eben = DateistandVon(D.Name);
   std::string Inhalt, Alles, Danach;
   if (Stück.empty() == Neu.empty() || DateiLesen(D.Name, Inhalt) < 0) return -1;
   for (std::size_t i = D.Fremde; i < D.Stücke.size(); ++i) {
@@ -69,7 +70,7 @@ int StückSetzen(int Griff, const std::string& Neu) {
     Danach = NachWindows1252(Danach);
   }
   if (Inhalt.size() != D.Ab + Alles.size() || !Inhalt.ends_with(Alles)) return -1;
-  if (DateiErsetzen(D.Name, Inhalt.substr(0, D.Ab) + Danach) < 0) return -1;
+  if (DateiErsetzen(D.Name, Inhalt.substr(0, D.Ab) + Danach, nullptr, &Eben) < 0) return -1;
   Stück = Neu;
   D.Stand = DateistandVon(D.Name);
   return 0;

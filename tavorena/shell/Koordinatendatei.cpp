@@ -123,6 +123,7 @@ bool SpeichernErlaubt(const std::string& Dateiname, Dateiformat Format, bool Anh
 }
 
 int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen) {
+  const Dateistand Eben = DateistandVon(Dateiname);
   if (!SpeichernErlaubt(Dateiname, Format, Anhängen)) return -1;
   std::string Alt, Neu, Grund;
   // Whatever an option came to, coordinates are not rounded to metres by it.
@@ -131,7 +132,13 @@ int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, boo
   bool Gut = KorText(Format, Nachkomma, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
   if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
   // A file that is extended keeps the coding that it has.
-  Gut = Gut && DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu)), &Grund) == 0;
+  if (Gut) {
+    const int Ergebnis =
+        DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu)), &Grund, &Eben);
+    // Written by somebody else since the question: what it said does not hold any more.
+    if (Ergebnis == -2) return KoordinatenExportieren(Dateiname, Format, Anhängen);
+    Gut = Ergebnis == 0;
+  }
   if (!Gut) {
     Hinweis("Fehler aufgetreten beim Speichern der Datei " + Dateiname + InKlammern(Grund));
     return -1;

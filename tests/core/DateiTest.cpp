@@ -218,12 +218,28 @@ TEST_F(Datei, ZweiProgrammeSpeichernEineDatei) {
     }
     return true;
   };
+  // Whoever goes on from what he read replaces it only while it stands.
+  const auto Weiterschreiben = [this] {
+    for (int i = 0; i < 100;) {
+      const Dateistand Eben = DateistandVon(Name);
+      if (DateiErsetzen(Name, Inhalt(Name) + "a", nullptr, &Eben) == 0) ++i;
+    }
+  };
   const pid_t Kind = fork();
   if (Kind == 0) _exit(Speichern(B) ? 0 : 1);
   EXPECT_TRUE(Speichern(A));
   int Status = -1;
   waitpid(Kind, &Status, 0);
   EXPECT_EQ(Status, 0);
+  Schreibe(Name, "");
+  const pid_t Zweites = fork();
+  if (Zweites == 0) {
+    Weiterschreiben();
+    _exit(0);
+  }
+  Weiterschreiben();
+  waitpid(Zweites, &Status, 0);
+  EXPECT_EQ(Inhalt(Name).size(), 200);
 }
 
 TEST_F(Datei, AnhängenSiehtWasAndereTun) {
