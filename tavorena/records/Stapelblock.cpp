@@ -103,6 +103,17 @@ int StapelKopf(const std::shared_ptr<const Verbindung>& V) {
   return 0;
 }
 
+// The end of the file is not below the open head any more: the file was emptied or taken away, or another
+// program wrote a block behind it.
+bool KopfVerloren(const Dateistand& Jetzt) {
+  const Dateistand& Alt = StapelDatei.Stand;
+  std::string Inhalt;
+  if (Jetzt == Alt) return false;
+  if (Jetzt.Länge < Alt.Länge || DateiLesen(StapelDatei.Name, Inhalt) < 0 || Inhalt.size() < Alt.Länge)
+    return true;
+  return ("\n" + Inhalt.substr(Alt.Länge)).find("\nM ") != std::string::npos;
+}
+
 int LetztesStück() { return static_cast<int>(StapelDatei.Stücke.size()) - 1; }
 
 }  // namespace
@@ -120,9 +131,8 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
     Griff = Platz;
     return 0;
   }
-  // Of a file that was emptied or taken away meanwhile the head has gone as well.
   Dateiblick Eben = DateiAnsehen(StapelDatei.Name);
-  if (Offen() && Eben.Stand.Länge < StapelDatei.Stand.Länge) StapelDatei.Offen.reset();
+  if (Offen() && KopfVerloren(Eben.Stand)) StapelDatei.Offen.reset();
   if (!Offen()) {
     if (StapelKopf(Über) < 0) return -1;
     Eben = DateiAnsehen(StapelDatei.Name);

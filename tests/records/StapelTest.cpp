@@ -104,6 +104,9 @@ TEST_F(StapelTest, EntfernenInFremderKodierung) {
   Füge(B, LinelSatz("3"));
   EXPECT_EQ(Stapelblock::Entfernen(Zweiter), -1);
   EXPECT_EQ(Ist(), Fremd + "NR         3\r\n");
+  Schreibe(StapelDatei.Name, Ist() + "M  VR 08.40\r\nNR 7\r\n");  // another program's block: ours begins anew
+  Füge(B, LinelSatz("4"));
+  EXPECT_NE(Ist().find("NR 7\r\nM  "), std::string::npos) << Ist();
 }
 
 TEST_F(StapelTest, EntfernteDateiBeginntMitDemKopf) {
