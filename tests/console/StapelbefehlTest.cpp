@@ -109,5 +109,29 @@ TEST_F(StapelbefehlTest, BeispielGibtSeinProtokoll) {
   EXPECT_TRUE(GleichSoll(Protokoll, "../examples/musterdorf.dru"));
 }
 
+// On its own result eight of its new points lie elsewhere: every kind goes on with every answer.
+TEST_F(StapelbefehlTest, BeispielMitVergebenenNummern) {
+  const std::string Beispiel = std::string(TAVORENA_TESTS) + "/../examples/musterdorf.";
+  const std::string Ergebnis = Ordner.Pfad("ergebnis.kor");
+  for (const auto& [Antwort, Summe] : std::vector<std::pair<std::string, std::string>>{
+           {"", "Punkte: 309  Zeilen: 129"},
+           {"abbruch", "Punkte: 309  Zeilen: 121"},
+           {"alt-loeschen", "Punkte: 309  Zeilen: 129"},
+           {"mittel", "Punkte: 309  Zeilen: 129"},
+           {"neu-loeschen", "Punkte: 309  Zeilen: 129"},
+           {"alt-umnumerieren=9000", "Punkte: 317  Zeilen: 129"},
+           {"neu-umnumerieren=9000", "Punkte: 317  Zeilen: 129"}}) {
+    Auftrag = {Antwort.empty() ? Beispiel + "kor" : Ergebnis,
+               Ordner.Pfad("m.dru"),
+               Antwort,
+               Antwort.empty() ? Ergebnis : "",
+               false,
+               Beispiel + "sta"};
+    Aus.str("");
+    EXPECT_EQ(SitzungFühren(Stapelbefehl(), Auftrag, {Aus, Meldungen, ""}), 0) << Antwort << Meldungen.str();
+    EXPECT_NE(Aus.str().find(Summe), std::string::npos) << Antwort << Aus.str();
+  }
+}
+
 }  // namespace
 }  // namespace tavorena::test
