@@ -419,10 +419,12 @@ void Fallblatt::GrafikLöschen() {
 
 // ---- leaving, replay -------------------------------------------------------------------------------
 
+// A case that has its number is worth a question also while a change of its figures waits to be computed.
 bool Fallblatt::HatOffenes() const {
-  if (!Gerechnet || !Grund.empty()) return false;
-  return OhneNummer() ||
-         std::any_of(Lösungen.begin(), Lösungen.end(), [](const Fallpunkt& L) { return L.Benannt(); });
+  const bool Benannt =
+      std::any_of(Lösungen.begin(), Lösungen.end(), [](const Fallpunkt& L) { return L.Benannt(); });
+  if (!Gerechnet) return Benannt && Fehlt() == nullptr;
+  return Grund.empty() && (Benannt || OhneNummer());
 }
 
 bool Fallblatt::OffenesSchreiben() {

@@ -38,6 +38,12 @@ TEST_F(FallTest, GeradenschnitteSchreibenIhreDateien) {
   Tippe(*B, "IntllG1_AnfPnr", "1001\n1002\n\n\n\n2003\n2005\n\n\n\n3003\n\n");
   Tippe(*B, "IntllG1_AnfPnr", "1001\n1002\n\n\n\n1001\n1002\n1\n\n\n");
   EXPECT_TRUE(Gleich(Text(*B, "Intll_NeuHoch"), "***kein Schnitt", Status(), "kein Schnitt"));
+  // A case that has its number is not given up silently, although a figure was changed since.
+  Tippe(*B, "IntllG2_Pll", "\n");
+  Tippe(*B, "IntllG2_AnfPnr", "2003\n2005\n\n\n\n3009");
+  Tippe(*B, "IntllG1_Pll", "2\n");
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
+  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfJa);
   Drücke(*B, "IntllEnd");
   PrüfeDateien("intll", 3);
 }
