@@ -157,21 +157,21 @@ void Listenblatt::GitterDelete() {
 }
 
 int Listenblatt::ReihenSetzen(std::vector<Zeileneingabe> Neue) {
-  if (std::ssize(Neue) > Liste.Höchstzahl) {
-    StapelFehlerMeldung(Liste.Zuviel);
+  std::string Grund = std::ssize(Neue) > Liste.Höchstzahl ? Liste.Zuviel : "";
+  std::vector<Listenreihe> Geholte;
+  for (Zeileneingabe& E : Neue) {
+    if (!Grund.empty()) break;
+    Listenreihe& Z = Geholte.emplace_back();
+    static_cast<Zeileneingabe&>(Z) = std::move(E);
+    if (Liste.BekanntePunkte && PunktHolen(Z.Pnr, Z.Ort) < 0) Grund = "Punkt " + Zitat(Z.Pnr) + " fehlt";
+  }
+  if (!Grund.empty()) {
+    ImStapel() ? StapelFehlerMeldung(Grund) : StatusHilfeSetzen(Grund);
     return -1;
   }
-  Reihen.clear();
-  Zellen().Leeren(static_cast<int>(Neue.size()));
-  for (Zeileneingabe& E : Neue) {
-    Listenreihe& Z = Reihen.emplace_back();
-    static_cast<Zeileneingabe&>(Z) = std::move(E);
-    if (Liste.BekanntePunkte && PunktHolen(Z.Pnr, Z.Ort) < 0) {
-      StapelFehlerMeldung("Punkt " + Zitat(Z.Pnr) + " fehlt");
-      return -1;
-    }
-    Eingaben->EingabeZeigen(static_cast<int>(Reihen.size()) - 1, Z);
-  }
+  Reihen = std::move(Geholte);
+  Zellen().Leeren(Anzahl() + 1);
+  for (int z = 0; z < std::ssize(Reihen); ++z) Eingaben->EingabeZeigen(z, Reihe(z));
   LeereEndzeile();
   return 0;
 }

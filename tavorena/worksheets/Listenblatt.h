@@ -96,7 +96,8 @@ class Listenblatt : public Rechenblatt {
   [[nodiscard]] bool Steht() const { return Unverändert; }
   /// What stands there is written, or may go. @return false: it stays
   [[nodiscard]] bool LeerenErlaubt();
-  /// Fills the rows from outside. @return 0; -1 with a message: too many, or a known point is missing
+  /// Fills the rows from outside. @return 0; -1 with a message: too many, or a known point is missing; the
+  /// rows stay
   [[nodiscard]] int ReihenSetzen(std::vector<Zeileneingabe> Neue);
   /// Sets the number of a row, such as the one under which its point was stored.
   void NummerSetzen(int z, const std::string& Pnr);

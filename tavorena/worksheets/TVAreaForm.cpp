@@ -159,11 +159,12 @@ Listenakte TVAreaForm::Akte() const {
 void TVAreaForm::FelderLeeren() { Name.Text = Bemerkung.Text = ""; }
 
 int TVAreaForm::Füllen(const Flaecheneingabe& E) {
-  Name.Text = E.Name;
-  Bemerkung.Text = E.Bemerkung;
   std::vector<Zeileneingabe> Zeilen;
   for (const Kanteneingabe& K : E.Kanten) Zeilen.push_back(Grenzzeile(K));
-  return ReihenSetzen(std::move(Zeilen));
+  if (ReihenSetzen(std::move(Zeilen)) < 0) return -1;
+  Name.Text = E.Name;
+  Bemerkung.Text = E.Bemerkung;
+  return 0;
 }
 
 int TVAreaForm::BlockLesen() {
@@ -190,8 +191,7 @@ void TVAreaForm::PolLesen() {
   if (NachweisWählen(N) < 0) return;
   if (std::ssize(N.Kanten) > MeistePunkte) return StatusHilfeSetzen("Der Nachweis hat mehr als 9990 Punkte");
   if (!LeerenErlaubt() || FehlendePunkteSpeichern(N, Gespeichert) < 0) return;
-  static_cast<void>(Füllen(AlsEingabe(N)));  // its points are there
-  NeuRechnen();
+  if (Füllen(AlsEingabe(N)) == 0) NeuRechnen();
   FokusSetzen(Zellen());
 }
 

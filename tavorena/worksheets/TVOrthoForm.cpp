@@ -5,7 +5,6 @@
 #include <tavorena/worksheets/TVOrthoForm.h>
 
 namespace tavorena {
-namespace {}  // namespace
 
 TVOrthoForm::TVOrthoForm(const Blattart& BlattArt)
     : Zeilenblatt(BlattArt, {"Anlegemass", "Anlegemaß", {1, 6}}, {"Endmass", "Endmaß", {2, 6}}, true) {
