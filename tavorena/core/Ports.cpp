@@ -36,6 +36,7 @@ Rückfragen& FragenPort() { return Offen(Gesetzt.Fragen); }
 Anzeige& AnzeigePort() { return Offen(Gesetzt.Schirm); }
 Ablauf& AblaufPort() { return Offen(Gesetzt.Takt); }
 Umgebung& UmgebungPort() { return Offen(Gesetzt.Rechner); }
+Leitungen& LeitungenPort() { return Offen(Gesetzt.Draht); }
 
 Ports PortsSetzen(const Ports& Neue) { return std::exchange(Gesetzt, Neue); }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <string_view>
 
-// What the lower layers ask of the program around them: four small doors, each silent by itself. The window,
+// What the lower layers ask of the program around them: five small doors, each silent by itself. The window,
 // the console and the tests open the ones that they have an answer for.
 
 namespace tavorena {
@@ -111,12 +113,38 @@ class Umgebung {
   virtual std::string Dokumentordner() { return Heimordner(); }
 };
 
-/// The four doors in use; nullptr: the silent one.
+/// An open serial line. It ends with the object.
+class Leitung {
+ public:
+  virtual ~Leitung() = default;
+  /// Sends bytes. @return 0, or -1 when they did not go out
+  [[nodiscard]] virtual int Senden(std::string_view Bytes) = 0;
+  /// What came since the last call; never waits. "": nothing
+  virtual std::string Lesen() = 0;
+  /// False from the first failure on: the device is gone.
+  [[nodiscard]] virtual bool Offen() const = 0;
+};
+
+/// Serial lines. Silent: there is none.
+class Leitungen {
+ public:
+  virtual ~Leitungen() = default;
+  /// @param[in] Gerät          path of the device
+  /// @param[in] Einstellungen  "9600,N,8,1": baud, parity, data bits, stop bits
+  /// @return the open line; nullptr when it is missing, busy or not allowed
+  virtual std::unique_ptr<Leitung> LeitungÖffnen(const std::string& /*Gerät*/,
+                                                 const std::string& /*Einstellungen*/) {
+    return nullptr;
+  }
+};
+
+/// The doors in use; nullptr: the silent one.
 struct Ports {
   Rückfragen* Fragen = nullptr;
   Anzeige* Schirm = nullptr;
   Ablauf* Takt = nullptr;
   Umgebung* Rechner = nullptr;
+  Leitungen* Draht = nullptr;
 };
 
 /// @{
@@ -125,15 +153,16 @@ Rückfragen& FragenPort();
 Anzeige& AnzeigePort();
 Ablauf& AblaufPort();
 Umgebung& UmgebungPort();
+Leitungen& LeitungenPort();
 /// @}
 
-/// Sets all four doors and gives the ones before.
+/// Sets all doors and gives the ones before.
 Ports PortsSetzen(const Ports& Neue);
 
 /// The doors of an object that answers all of them.
 template <typename Plattform>
 Ports PortsVon(Plattform& P) {
-  return {&P, &P, &P, &P};
+  return {&P, &P, &P, &P, &P};
 }
 
 }  // namespace tavorena

@@ -7,7 +7,7 @@ namespace tavorena {
 class Hauptfenster;
 
 /// What the program asks of the window system.
-class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Umgebung {
+class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Umgebung, public Leitungen {
  public:
   explicit PlattformQt(Hauptfenster& Haupt) : Fenster(Haupt) {}
 

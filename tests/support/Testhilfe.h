@@ -56,7 +56,11 @@ template <int Nummer = 1, typename A, typename B, typename... Rest>
 
 /// Answers questions by a script and fails the test on one that nobody foresaw. The clock stands still at
 /// 01.02.2003 10:15; Zeitgeber advances by a second with each look.
-class PlattformSkript final : public Rückfragen, public Anzeige, public Ablauf, public Umgebung {
+class PlattformSkript final : public Rückfragen,
+                              public Anzeige,
+                              public Ablauf,
+                              public Umgebung,
+                              public Leitungen {
  public:
   PlattformSkript() : Vorher(PortsSetzen(PortsVon(*this))) {}
   ~PlattformSkript() override;
