@@ -148,6 +148,8 @@ class Formular {
   virtual void BeiSchließen() {}
   /// The point table changed, by this form or another one.
   virtual void BeiTabelle() {}
+  /// Tells what an event threw, while it is being handled.
+  virtual void GeworfenesZeigen() { GeworfenesMelden(FormName, ""); }
   /// Takes the last thing back. @return false: there is none
   virtual bool Zurücknehmen() { return false; }
   /// Shows what a long event has done so far.
@@ -179,7 +181,8 @@ class Formular {
 template <typename Arbeit>
 void Formular::Ausführen(Arbeit Tun) {
   ++Tiefe;
-  static_cast<void>(Geschützt(FormName, Tun));  // after its message the form goes on as it stands
+  // After its message the form goes on as it stands.
+  static_cast<void>(GeschütztMit(Tun, [this] { GeworfenesZeigen(); }));
   if (Tiefe == 1 && IstOffen) Melden();
   --Tiefe;
 }

@@ -52,6 +52,22 @@ TVAusgleichForm::TVAusgleichForm(const Blattart& BlattArt, char Modus)
   if (Kreis) Radius = &Ergebnisfeld("Radius", "Radius:", {3, 0}, RahmenErgebnis);
   if (Kreis) Radius->Zeichen = Längenbreite(8);  // below the coordinates
   ListenknöpfeAnlegen();
+  AusgleichGitter.BeiTaste = [this, Nehmen = std::move(AusgleichGitter.BeiTaste)](Taste T) {
+    Gittertaste = T;
+    const bool Genommen = Nehmen(T);
+    Gittertaste.reset();
+    return Genommen;
+  };
+}
+
+// The words are those of the line elements, on purpose.
+void TVAusgleichForm::GeworfenesZeigen() {
+  if (!Gittertaste) return Listenblatt::GeworfenesZeigen();
+  const char* const Wo =
+      *Gittertaste == Taste::Return ? "AusgleichGitterInkrement" : "AusgleichGitter_KeyDown";
+  Hinweis(std::string("Interner Fehler in '") + Wo +
+          "' ! Bitte Linienelemente- Formular verlassen und neu aufrufen");
+  Gittertaste.reset();
 }
 
 TVAusgleichForm::Bestimmungspunkt TVAusgleichForm::PunktAnlegen(const char* Welcher, const char* Label,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <tavorena/graphics/Markierung.h>
 #include <tavorena/records/Ausgleichblock.h>
 #include <tavorena/worksheets/Listenblatt.h>
@@ -21,6 +23,7 @@ class TVAusgleichForm final : public Listenblatt {
   [[nodiscard]] int PunkteEintragen(Listenakte& A) override;
   void FelderLeeren() override;
   void GrafikLöschen() override { Bild.Löschen(); }
+  void GeworfenesZeigen() override;
 
  private:
   /// A defining point: shown, and stored under the number that is typed.
@@ -34,6 +37,7 @@ class TVAusgleichForm final : public Listenblatt {
 
   const bool Kreis;
   Gitter& AusgleichGitter;
+  std::optional<Taste> Gittertaste;  // that the rows are at work on
   Bestimmungspunkt Anf, End;
   Feld* Radius = nullptr;      // of a circle
   Protausgleich Werte;         // as computed last, without numbers of its defining points

@@ -93,5 +93,17 @@ TEST_F(Ausgleichblatt, GrenzenUndGrafik) {
   EXPECT_EQ(Marken("Scheibe"), 0);
 }
 
+TEST_F(Ausgleichblatt, FehlerImGitterNenntSichUndLäßtDieZeilen) {
+  auto B = Öffnen("MenüKatasterAusglGerade");
+  Tippe(*B, "AusgleichGitter", "11\n12\n");
+  Haken.FormEinzelKorein = [](Wert&) -> int { throw std::bad_alloc(); };
+  const std::string Rat = " ! Bitte Linienelemente- Formular verlassen und neu aufrufen";
+  Skript.Erwarte("Interner Fehler in 'AusgleichGitterInkrement'" + Rat);
+  Tippe(*B, "AusgleichGitter", "99\n");
+  Skript.Erwarte("Interner Fehler in 'AusgleichGitter_KeyDown'" + Rat);
+  B->TasteDrücken(Taste::Auf);
+  EXPECT_TRUE(Gleich(Gitterfeld(*B).Zeilen(), 3, Gitterzeile(Gitterfeld(*B), 1)[0], "12"));
+}
+
 }  // namespace
 }  // namespace tavorena::test
