@@ -79,13 +79,31 @@ int Öffnen(Anhangspur& Spur, std::string& Grund) {
   return 0;
 }
 
+// Opens it where that is needed, and holds it: nobody else who asks first extends or replaces it until it is
+// let go. Two programs may write the same file.
+// @return 0; -1; -2: it is not as in Eben any more
+int Ergreifen(Anhangspur& Spur, const Dateiblick* Eben, std::string& Grund) {
+  for (int i = 0; i < 100; ++i) {
+    if (!Spur.K && Öffnen(Spur, Grund) < 0) return -1;
+    Festhalten(Spur.K);
+    struct stat Stand {};
+    const Dateiblick Jetzt =
+        stat(Spur.Pfad.c_str(), &Stand) == 0 ? DateiblickAus(Stand) : Dateiblick{};  // not that of Spur.K
+    const bool EbenGemacht = Eben != nullptr && *Eben == Dateiblick{} && Jetzt.Stand.Länge == 0;
+    if (Eben != nullptr && Jetzt != *Eben && !EbenGemacht) {
+      Loslassen(Spur.K);
+      return -2;
+    }
+    if (Jetzt == Spur.Blick) return 0;
+    Spur.K = Deskriptor();
+  }
+  Grund = "wird von anderer Seite geschrieben";
+  return -1;
+}
+
 int Anhängen(Anhangspur& Spur, std::string_view Text, const Dateiblick* Eben, std::string& Grund) {
+  if (const int Ergebnis = Ergreifen(Spur, Eben, Grund); Ergebnis < 0) return Ergebnis;
   struct stat Stand {};
-  const auto WieGelassen = [&] {
-    if (Eben != nullptr) return *Eben == Spur.Blick;
-    return stat(Spur.Pfad.c_str(), &Stand) == 0 && DateiblickAus(Stand) == Spur.Blick;
-  };
-  if (!(Spur.K && WieGelassen()) && Öffnen(Spur, Grund) < 0) return -1;
   const std::string Bytes = Spur.Art == Kodierung::Windows1252 ? NachWindows1252(Text) : std::string(Text);
   if (!Ausschreiben(Spur.K, Bytes)) {
     Grund = Fehlerwort(errno);
@@ -93,6 +111,7 @@ int Anhängen(Anhangspur& Spur, std::string_view Text, const Dateiblick* Eben, s
     return -1;
   }
   if (fstat(Spur.K.Nummer(), &Stand) == 0) Spur.Blick = DateiblickAus(Stand);
+  Loslassen(Spur.K);
   if (Spur.Art == Kodierung::Ascii) Spur.Art = KodierungVon(Bytes);
   return 0;
 }
@@ -104,10 +123,9 @@ int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Gru
   if (Name.empty()) return -1;
   Anhangspur& Spur = SpurVon(Name);
   std::string Wort;
-  if (Anhängen(Spur, Text, Eben, Wort) == 0) {
-    if (Danach != nullptr) *Danach = Spur.Blick.Stand;
-    return 0;
-  }
+  const int Ergebnis = Anhängen(Spur, Text, Eben, Wort);
+  if (Ergebnis == 0 && Danach != nullptr) *Danach = Spur.Blick.Stand;
+  if (Ergebnis != -1) return Ergebnis;
   Spur = Anhangspur{Spur.Name, Spur.Pfad, Deskriptor(), {}, Kodierung::Ascii};
   if (Grund != nullptr) *Grund = Wort;
   return -1;

@@ -2,7 +2,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <sys/file.h>
 #include <vector>
 
 #include <tavorena/core/Deskriptor.h>
@@ -103,15 +102,6 @@ bool Daneben(std::string& Neu, const struct stat* Alt, std::string_view Inhalt) 
   return false;
 }
 
-// Whoever replaces a file holds it from his last look at it until the new one stands there. One that is held
-// for longer is held by another program, for a reason of its own.
-Deskriptor Festhalten(const fs::path& Ziel) {
-  Deskriptor K(open(Ziel.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  for (int i = 0; i < 100 && K && flock(K.Nummer(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK; ++i)
-    usleep(1000);
-  return K;
-}
-
 int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, const Dateistand* Solange, std::string& Grund) {
   std::error_code Unklar;
   struct stat Alt {};
@@ -128,7 +118,8 @@ int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, const Dateistand* So
     Grund = Fehlerwort(errno);
     return -1;
   }
-  Deskriptor Griff = War ? Festhalten(Ziel) : Deskriptor();
+  Deskriptor Griff(War ? open(Ziel.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1);
+  Festhalten(Griff);
   if (Solange != nullptr && DateistandVon(Pfad.string()) != *Solange) {
     unlink(Neu.c_str());
     Grund = "inzwischen von anderer Seite geändert";

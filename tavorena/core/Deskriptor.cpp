@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cerrno>
+#include <sys/file.h>
 
 #include <tavorena/core/Deskriptor.h>
 
@@ -103,6 +104,13 @@ bool VerweisInsLeere(const fs::path& Pfad) {
   struct stat Stand {};
   return lstat(Pfad.c_str(), &Stand) == 0 && S_ISLNK(Stand.st_mode) && stat(Pfad.c_str(), &Stand) < 0;
 }
+
+void Festhalten(const Deskriptor& K) {
+  for (int i = 0; i < 100 && K && flock(K.Nummer(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK; ++i)
+    usleep(1000);
+}
+
+void Loslassen(const Deskriptor& K) { static_cast<void>(flock(K.Nummer(), LOCK_UN)); }
 
 Dateiblick DateiblickAus(const struct stat& Stand) {
   return {{static_cast<std::uintmax_t>(Stand.st_size),

@@ -50,6 +50,11 @@ Deskriptor RegulärÖffnen(const std::filesystem::path& Pfad, int Art, struct st
 /// Writes all at the place of the descriptor. @return false, errno says why
 [[nodiscard]] bool Ausschreiben(const Deskriptor& K, std::string_view Inhalt);
 
+/// Whoever replaces or extends a file holds it from his last look at it until he is done. One that is held
+/// for longer than a moment is held by another program, for a reason of its own, and nobody waits.
+void Festhalten(const Deskriptor& K);
+void Loslassen(const Deskriptor& K);
+
 /// The user may write there: also root leaves a file alone that nobody has the right to write.
 [[nodiscard]] bool Beschreibbar(const std::filesystem::path& Pfad, const struct stat& Stand);
 

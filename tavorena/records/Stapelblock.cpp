@@ -13,6 +13,8 @@ Stapeldatei StapelDatei;
 
 namespace {
 
+constexpr int MeisteVersuche = 100;  // to write at a moment when nobody else does
+
 std::string Zusammen(const std::vector<std::string>& Zeilen) {
   std::string Text;
   for (const std::string& Zeile : Zeilen) Text += Zeile + "\r\n";
@@ -24,31 +26,6 @@ void OhneStapel() {
   StapelDatei.Name.clear();
   StapelDatei.Offen.reset();
   StapelDatei.Fremde = StapelDatei.Stücke.size();
-}
-
-// Appends a piece. Pieces from before somebody else changed the file can not be taken out any more.
-int Schreiben(const std::string& Text, const char* Routine, const Dateiblick& Eben) {
-  Stapeldatei& D = StapelDatei;
-  if (D.Name.empty()) return 0;
-  if (D.Stücke.empty() || Eben.Stand != D.Stand) {
-    D.Fremde = D.Stücke.size();
-    D.Ab = Eben.Stand.Länge;
-  }
-  std::string Grund;
-  const Dateiblick* Blick = &Eben;
-  while (TextAnhängen(D.Name, Text, &Grund, &D.Stand, std::exchange(Blick, nullptr)) < 0) {
-    const int Antwort = SchreibfehlerFrage(D.Name, Grund, std::string("Stapelmodul.") + Routine);
-    if (Antwort == KnopfNochmals) continue;
-    if (Antwort != KnopfOhne) return -1;
-    OhneStapel();
-    return 0;
-  }
-  D.Stücke.push_back(Text);
-  return 0;
-}
-
-int Schreiben(const std::string& Text, const char* Routine) {
-  return Schreiben(Text, Routine, DateiAnsehen(StapelDatei.Name));
 }
 
 // Writes another text in the place of a piece. Only what was written here is ours; somebody may have edited
@@ -92,17 +69,6 @@ std::string Kopfzeilen(const Verbindung& V) {
   return Zusammen(Zeilen);
 }
 
-int StapelEnde() {
-  const std::shared_ptr<const Verbindung> Alt = std::exchange(StapelDatei.Offen, nullptr);
-  return Alt ? Schreiben(Endzeilen(*Alt), "StapelEnde") : 0;
-}
-
-int StapelKopf(const std::shared_ptr<const Verbindung>& V) {
-  if (StapelEnde() < 0 || Schreiben(Kopfzeilen(*V), "StapelKopf") < 0) return -1;
-  if (!StapelDatei.Name.empty()) StapelDatei.Offen = V;
-  return 0;
-}
-
 // The end of the file is not below the open head any more: the file was emptied or taken away, or another
 // program wrote a block behind it.
 bool KopfVerloren(const Dateistand& Jetzt) {
@@ -113,6 +79,49 @@ bool KopfVerloren(const Dateistand& Jetzt) {
     return true;
   return ("\n" + Inhalt.substr(Alt.Länge)).find("\nM ") != std::string::npos;
 }
+
+// What has to stand above a record of V with the file as it is; without V no block stands open there.
+std::vector<std::string> Darüber(const std::shared_ptr<const Verbindung>& V, const Dateistand& Jetzt) {
+  std::shared_ptr<const Verbindung>& Offen = StapelDatei.Offen;
+  std::vector<std::string> Stücke;
+  if (Offen && KopfVerloren(Jetzt)) Offen.reset();
+  if (Offen && Offen != V) Stücke.push_back(Endzeilen(*Offen));
+  if (V && Offen != V) Stücke.push_back(Kopfzeilen(*V));
+  return Stücke;
+}
+
+// Appends a text below V, or below nothing, and what has to stand above it, in one go. Another program may
+// write at the same moment: that is then thought over. Pieces from before somebody else changed the file can
+// not be taken out any more.
+int Schreiben(const std::shared_ptr<const Verbindung>& V, const std::string& Text, const char* Routine) {
+  Stapeldatei& D = StapelDatei;
+  int Ergebnis = -2;
+  for (int Versuch = 0; Ergebnis != 0 && !D.Name.empty(); ++Versuch) {
+    const Dateiblick Eben = DateiAnsehen(D.Name);
+    std::vector<std::string> Neue = Darüber(V, Eben.Stand);
+    if (!Text.empty()) Neue.push_back(Text);
+    if (Neue.empty()) return 0;
+    std::string Grund, Alles;
+    for (const std::string& Stück : Neue) Alles += Stück;
+    const bool Anders = D.Stücke.empty() || Eben.Stand != D.Stand;
+    Ergebnis = TextAnhängen(D.Name, Alles, &Grund, &D.Stand, Versuch < MeisteVersuche ? &Eben : nullptr);
+    if (Ergebnis == 0) {
+      if (Anders) D.Fremde = D.Stücke.size();
+      if (Anders) D.Ab = Eben.Stand.Länge;
+      D.Stücke.insert(D.Stücke.end(), Neue.begin(), Neue.end());
+      D.Offen = V;
+    } else if (Ergebnis == -1) {
+      const int Antwort = SchreibfehlerFrage(D.Name, Grund, std::string("Stapelmodul.") + Routine);
+      if (Antwort == KnopfOhne)
+        OhneStapel();
+      else if (Antwort != KnopfNochmals)
+        return -1;
+    }
+  }
+  return 0;
+}
+
+int StapelEnde() { return Schreiben(nullptr, "", "StapelEnde"); }
 
 int LetztesStück() { return static_cast<int>(StapelDatei.Stücke.size()) - 1; }
 
@@ -131,14 +140,9 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
     Griff = Platz;
     return 0;
   }
-  Dateiblick Eben = DateiAnsehen(StapelDatei.Name);
-  if (Offen() && KopfVerloren(Eben.Stand)) StapelDatei.Offen.reset();
-  if (!Offen()) {
-    if (StapelKopf(Über) < 0) return -1;
-    Eben = DateiAnsehen(StapelDatei.Name);
-  }
+  const std::string Zeile = Satz.empty() ? "" : Satz + "\r\n";
+  if (Schreiben(Über, Zeile, Offen() ? "StapelPunktzeile" : "StapelKopf") < 0) return -1;
   if (Satz.empty()) return 0;
-  if (Schreiben(Satz + "\r\n", "StapelPunktzeile", Eben) < 0) return -1;
   if (StapelDatei.Name.empty()) return 0;
   Griff = LetztesStück();
   return 0;
@@ -146,7 +150,7 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
 
 int Stapelblock::Ganz(int& Griff) {
   Griff = -1;
-  if (StapelEnde() < 0 || Schreiben(Kopfzeilen(*Über) + Endzeilen(*Über), "StapelKopf") < 0) return -1;
+  if (Schreiben(nullptr, Kopfzeilen(*Über) + Endzeilen(*Über), "StapelKopf") < 0) return -1;
   if (!StapelDatei.Name.empty()) Griff = LetztesStück();
   return 0;
 }
@@ -162,8 +166,7 @@ int Stapelblock::Entfernen(int Griff) { return StapelDatei.Name.empty() ? 0 : St
 int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
 
 int StapelKommentar(const std::string& Text) {
-  if (StapelEnde() < 0) return -1;
-  return Schreiben("C  " + Text + "\r\n", "StapelKommentar");
+  return Schreiben(nullptr, "C  " + Text + "\r\n", "StapelKommentar");
 }
 
 }  // namespace tavorena

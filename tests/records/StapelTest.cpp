@@ -1,5 +1,9 @@
 #include "Aktentest.h"
 
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <tavorena/records/Dis.h>
 #include <tavorena/records/Linel.h>
 
@@ -107,6 +111,27 @@ TEST_F(StapelTest, EntfernenInFremderKodierung) {
   Schreibe(StapelDatei.Name, Ist() + "M  VR 08.40\r\nNR 7\r\n");  // another program's block: ours begins anew
   Füge(B, LinelSatz("4"));
   EXPECT_NE(Ist().find("NR 7\r\nM  "), std::string::npos) << Ist();
+}
+
+// Each record stands below its own head, and none is lost.
+TEST_F(StapelTest, ZweiProgrammeSchreibenZugleich) {
+  constexpr int Sätze = 2000;
+  const pid_t Kind = fork();
+  const char* const Ich = Kind == 0 ? "7" : "8";
+  while (Kind != 0 && !DateiVorhanden(StapelDatei.Name)) {
+  }
+  Stapelblock B;
+  Beginne(B, StapelKopfLinie(Ich, 0, Ich, 0));
+  for (int i = 0; i < Sätze; ++i) Füge(B, LinelSatz(Ich));
+  if (Kind == 0) _exit(0);
+  ASSERT_EQ(waitpid(Kind, nullptr, 0), Kind);
+  int Gut = 0;
+  std::istringstream Worte(Ist());
+  for (std::string Wort, Nummer, Unter; Worte >> Wort;) {
+    if (Wort == "PAN" || Wort == "NR") Worte >> (Wort == "PAN" ? Unter : Nummer);
+    Gut += Wort == "NR" && Nummer == Unter ? 1 : 0;
+  }
+  EXPECT_EQ(Gut, 2 * Sätze);
 }
 
 TEST_F(StapelTest, EntfernteDateiBeginntMitDemKopf) {
