@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
@@ -19,6 +20,14 @@ namespace tavorena {
 std::string PDoppErgebnis;
 
 namespace {
+
+Punktreihe* Reihe = nullptr;  // the innermost one
+
+// Where an answer for all numbers to come is kept; nullptr: each one is asked.
+std::optional<Konfliktwort>* FürAlleJetzt() {
+  if (Stapel.Läuft()) return &Stapel.FürAlle;
+  return Reihe != nullptr ? &Reihe->FürAlle : nullptr;
+}
 
 constexpr double Grenze = 0.06;  // dS above it is red [m]
 
@@ -72,8 +81,11 @@ class TVPDoppForm final : public Dialogform {
     Feld& DeltaS = ErgebnisfeldAnlegen("DeltaS", {4, 3}, "", PnrZeichen);
     DeltaS.Text = Zahlentext(dS);
     DeltaS.Fehlerhaft = dS > Grenze;
-    if (Stapel.Läuft())
-      FürAlle = &KästchenAnlegen("PDoppFürAlle", "&für alle weiteren Punkte dieses Stapels", {5, 0, 6});
+    if (FürAlleJetzt() != nullptr)
+      FürAlle = &KästchenAnlegen(
+          "PDoppFürAlle",
+          std::string("&für alle weiteren Punkte") + (Stapel.Läuft() ? " dieses Stapels" : " dieses Laufs"),
+          {5, 0, 6});
     KnöpfeAnlegen();
   }
 
@@ -121,7 +133,7 @@ class TVPDoppForm final : public Dialogform {
         Name, Text,
         [this, Wort, NeueNummer] {
           Antwort = {Wort, NeueNummer != nullptr ? *NeueNummer->Text : ""};
-          if (FürAlle != nullptr && FürAlle->Gewählt && GiltFürAlle(Wort)) Stapel.FürAlle = Wort;
+          if (FürAlle != nullptr && FürAlle->Gewählt && GiltFürAlle(Wort)) *FürAlleJetzt() = Wort;
           Fertig(0);
         },
         Ort);
@@ -160,7 +172,7 @@ class TVPDoppForm final : public Dialogform {
   std::string Nummer;
   Feld *AlterPnr = nullptr, *NeuerPnr = nullptr;
   Knopf *AltenNeunum = nullptr, *NeuenNeunum = nullptr, *Abbrechen = nullptr;
-  Auswahl* FürAlle = nullptr;  // only within a replay
+  Auswahl* FürAlle = nullptr;  // only where many points come
 };
 
 // Has the view show both places, at least a third of the picture apart.
@@ -190,10 +202,13 @@ void OrteAnsehen(const Konflikt& Frage) {
 
 }  // namespace
 
+Punktreihe::Punktreihe() : Davor(std::exchange(Reihe, this)) {}
+Punktreihe::~Punktreihe() { Reihe = Davor; }
+
 Konfliktantwort PunktVorhandenBehandeln(const Konflikt& Frage) {
   Konfliktantwort Antwort;
-  if (Stapel.Läuft() && Stapel.FürAlle) {
-    Antwort.Wort = *Stapel.FürAlle;
+  if (const auto* FürAlle = FürAlleJetzt(); FürAlle != nullptr && *FürAlle) {
+    Antwort.Wort = **FürAlle;
     Dialogergebnis = 0;
   } else {
     TVPDoppForm Form(Frage);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <tavorena/core/TVKoordinatenmodul.h>
@@ -11,8 +12,23 @@ namespace tavorena {
 extern std::string PDoppErgebnis;
 
 /// The question when a calculated point meets a number that the table holds: shows both points and their
-/// differences (old minus new) and takes one of the seven answers. Within a replay an answer may be given for
-/// all numbers to come. After "RÜC" a graphics view that is open shows both places before this returns.
+/// differences (old minus new) and takes one of the seven answers. Within a replay or a Punktreihe an answer
+/// may be given for all numbers to come. After "RÜC" a graphics view that is open shows both places before
+/// this returns.
 Konfliktantwort PunktVorhandenBehandeln(const Konflikt& Frage);
+
+/// While one lives, many points are stored in one go: an answer may be given for all of them.
+class Punktreihe {
+ public:
+  Punktreihe();
+  ~Punktreihe();
+  Punktreihe(const Punktreihe&) = delete;
+  Punktreihe& operator=(const Punktreihe&) = delete;
+
+  std::optional<Konfliktwort> FürAlle;  ///< the answer that was given so
+
+ private:
+  Punktreihe* const Davor;
+};
 
 }  // namespace tavorena

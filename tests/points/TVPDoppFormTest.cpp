@@ -104,6 +104,12 @@ TEST_F(TVPDoppFormTest, EineAntwortFürDenStapel) {
               Bediene({{"PDoppAbbruch", ""}})(Form);
             }),
             -1);
+  {  // so it does where a command stores many points
+    const Punktreihe Reihe;
+    EXPECT_EQ(Rechne(FürAlle({{"PDoppNeuenLöschen", ""}})), 11);
+    EXPECT_EQ(static_cast<int>(Neupunkt(Pnr, 104, 197, 12.5, "020", nullptr, E)), 11);
+  }
+  EXPECT_EQ(Rechne(Bediene({{"PDoppAbbruch", ""}})), -1);
 }
 
 }  // namespace
