@@ -20,9 +20,9 @@ namespace tavorena {
 struct Protpolar {
   Protpunkt Punkt;
   Wert Hoehe;           ///< [m]; blank when it is not carried
-  double Richtung = 0;  ///< [gon]
+  Wert Richtung;        ///< [gon]
   double Vertikal = 0;  ///< [gon]; 0 is left blank
-  double Strecke = 0;   ///< [m]
+  Wert Strecke;         ///< [m]
   double Versatz = 0;   ///< q [m]; other than 0 it has a line of its own
 };
 

@@ -60,8 +60,8 @@ bool IstSteuerzeichen(char z) { return static_cast<unsigned char>(z) < 32 || z =
 }  // namespace
 
 void Satzfeld::Anfügen(std::string& Zeile, bool Erstes) const {
-  if (Form == Art::Langzahl) {
-    Zeile += StapelLangzahl(*Wert);
+  if (Form == Art::Messzahl || Form == Art::Langzahl) {
+    Zeile += Form == Art::Messzahl ? ZahlFormat(*Wert, 9, 4) : StapelLangzahl(*Wert);
     return;
   }
   if (Form == Art::WeiterePnr && Worte->empty()) return;

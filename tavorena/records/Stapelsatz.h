@@ -20,7 +20,7 @@ namespace tavorena {
 /// A place of a record. Behind the keyword stands the first one as it is; the others follow after two blanks.
 class Satzfeld {
  public:
-  enum class Art { Pnr, NeuePnr, WeiterePnr, Zahl, Langzahl, Wort, Text, Neupunkt };
+  enum class Art { Pnr, NeuePnr, WeiterePnr, Zahl, Messzahl, Langzahl, Wort, Text, Neupunkt };
   Satzfeld(Art WieGeschrieben, std::string& Variable, std::string* Zweite = nullptr)
       : Form(WieGeschrieben), Worte(&Variable), Symbol(Zweite) {}
   Satzfeld(Art WieGeschrieben, double& Variable) : Form(WieGeschrieben), Wert(&Variable) {}
@@ -49,6 +49,8 @@ inline Satzfeld NeuePnr(std::string& X) { return {Satzfeld::Art::NeuePnr, X}; }
 inline Satzfeld WeiterePnr(std::string& X) { return {Satzfeld::Art::WeiterePnr, X}; }
 /// A value in 7 integer places and 4 decimals.
 inline Satzfeld Zahl(double& X) { return {Satzfeld::Art::Zahl, X}; }
+/// A value in 9 integer places and 4 decimals, without blanks before it.
+inline Satzfeld Messzahl(double& X) { return {Satzfeld::Art::Messzahl, X}; }
 /// A value in 10 integer places and 4 decimals, without blanks before it.
 inline Satzfeld Langzahl(double& X) { return {Satzfeld::Art::Langzahl, X}; }
 /// A symbol, or a number as it was typed; "-" for none.
@@ -148,7 +150,7 @@ class Satzfolge {
 
 /// @name What can be read back
 /// @{
-/// The number can be written in a place of 7 integer places and 4 decimals.
+/// The number can be written in a place of 7 (or 9) integer places and 4 decimals.
 [[nodiscard]] bool StapelZahlPaßt(double Zahl);
 /// The same for 10 integer places: a blank must stay before it.
 [[nodiscard]] bool StapelLangzahlPaßt(double Zahl);

@@ -62,6 +62,10 @@ std::vector<std::string> Vergleichskopf(const std::string& SollDatei) {
 const char* const KopfPunkte =
     "       Rechts(m)       Hoch(m)                             Pkt.Nr.  Bemerkung";
 
+const std::vector<std::string>& PolarKopf(bool MitHoehen) {
+  return MitHoehen ? PolarMitHoehen : PolarOhneHoehen;
+}
+
 std::vector<std::string> Tabellenkopf(std::string_view Titel, bool MitHoehen, const std::string& SollDatei) {
   const std::string_view Schlüssel = TextTeil(Titel, 0, 8);
   if (Schlüssel == "Koordina" || Schlüssel == "Punktnum") return Vergleichskopf(SollDatei);
@@ -73,7 +77,7 @@ std::vector<std::string> Tabellenkopf(std::string_view Titel, bool MitHoehen, co
     if (Schlüssel != K.Titel) continue;
     std::vector<std::string> Zeilen = K.Zeilen;
     if (Schlüssel == "VR 19.70") {
-      const auto& Polar = MitHoehen ? PolarMitHoehen : PolarOhneHoehen;
+      const auto& Polar = PolarKopf(MitHoehen);
       Zeilen.insert(Zeilen.end(), Polar.begin(), Polar.end());
     }
     return Zeilen;

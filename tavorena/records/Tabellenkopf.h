@@ -11,6 +11,9 @@ namespace tavorena {
 /// @param[in] SollDatei  comparisons: the file compared against
 std::vector<std::string> Tabellenkopf(std::string_view Titel, bool MitHoehen, const std::string& SollDatei);
 
+/// Head of rows with direction, zenith angle and distance. @param[in] MitHoehen  heights are carried
+const std::vector<std::string>& PolarKopf(bool MitHoehen);
+
 /// Head above the blocks of VR 25.07, 25.08, 25.10 and 25.50, which their writers put there themselves.
 extern const char* const KopfPunkte;
 

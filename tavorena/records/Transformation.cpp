@@ -16,11 +16,6 @@ std::string Länge(const Wert& x) { return ZahlFormat(x, 7, 3); }
 std::string Lage(double x) { return ZahlFormat(x, 7, 4); }
 std::string Faktor(double x) { return ZahlFormat(x, 2, 10); }
 
-std::string Massstabzeile(double M, double Epsilon, const char* Achse) {
-  return "              Massstab  M =" + ZahlFormat(M, 3, 6) +
-         "      Drehwinkel  Epsilon =" + ZahlFormat(Epsilon, 3, 5) + " gon" + Achse;
-}
-
 void SchwerpunkteZeigen(const Prottransformation& T, Zeilen& Ziel) {
   Ziel.push_back("        Schwerpunkt altes System: Rechts=" + Lage(T.AltRechts) +
                  "  Hoch=" + Lage(T.AltHoch));
@@ -79,6 +74,11 @@ Satzfolge Sätze(Transformationseingabe& E) {
 
 }  // namespace
 
+std::string Massstabzeile(double M, double Epsilon, const char* Achse) {
+  return "              Massstab  M =" + ZahlFormat(M, 3, 6) +
+         "      Drehwinkel  Epsilon =" + ZahlFormat(Epsilon, 3, 5) + " gon" + Achse;
+}
+
 std::string RestklaffenMarke(const Protrestklaffe& K, const Wert& MK) {
   std::string Marke;
   if (!MK.IstGegeben()) return Marke;
@@ -91,7 +91,7 @@ std::string RestklaffenMarke(const Protrestklaffe& K, const Wert& MK) {
 Block HelmertBlock(int Nachkomma, const Prothelmert& H) {
   Zeilen Ziel;
   if (H.Rechenachse) Ziel.push_back("              *** Transformation ueber Rechenachse ***");
-  Ziel.push_back(Massstabzeile(H.Massstab, H.Epsilon, ""));
+  Ziel.push_back(Massstabzeile(H.Massstab, H.Epsilon));
   if (H.MasstabFest) Ziel.push_back("                     (gesetzt)");
   Ziel.push_back("        Transformationsparameter: a     =" + Faktor(H.a) + " b    =" + Faktor(H.b));
   SchwerpunkteZeigen(H.Passung, Ziel);

@@ -40,6 +40,9 @@ struct Protaffin {
   double a10 = 0, a11 = 0, a12 = 0, a20 = 0, a21 = 0, a22 = 0;
 };
 
+/// Scale and orientation [gon] of a fit. @param[in] Achse  text behind it
+[[nodiscard]] std::string Massstabzeile(double M, double Epsilon, const char* Achse = "");
+
 /// The flags of a residual, "  ***VY>1.5MK" and "  ***VX>1.5MK"; none while MK is not given.
 [[nodiscard]] std::string RestklaffenMarke(const Protrestklaffe& K, const Wert& MK);
 

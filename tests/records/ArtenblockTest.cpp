@@ -2,6 +2,7 @@
 
 #include <tavorena/records/Ausgleichblock.h>
 #include <tavorena/records/DreiD.h>
+#include <tavorena/records/FStat.h>
 #include <tavorena/records/Kreismitte.h>
 #include <tavorena/records/Messlinie.h>
 #include <tavorena/records/Pol.h>
@@ -46,6 +47,20 @@ Protzug Zug(bool Ganz) {
           {-0.0027, 0.01},
           {-0.04, 0.139},
           {0.001, 0.139}};
+}
+
+ProtFStat Station(bool Kongruent) {
+  ProtFStat S{Kongruent,
+              !Kongruent,
+              {{0.004, -0.002, 0.004, 0.003, {A, 210.5, 23.4567, 99.1234, 55.43, 0}}},
+              1.000021,
+              123.45678,
+              0.006,
+              0.008,
+              {3500140.123, 5600190.456, "2031"},
+              208.765};
+  if (Kongruent) S.StandHoehe = S.Punkte[0].dHo = S.Punkte[0].Messung.Hoehe = Wert();
+  return S;
 }
 
 Protflaeche Flaeche() {
@@ -121,6 +136,11 @@ std::vector<Block> Eigene(int n) {
       PolarZeile(n, {{3500169.359, 5600190.444, "2004"}, 212.259, 80.25, 98.4, 70, 0},
                  PolarMarke(70, 100, 2)),
       PolarZeile(n, {{3500079.644, 5600215.367, "2005"}, {}, 312.7, 0, 25.5, 6}, "", PolarVersatzmarke(6, 2)),
+      FStatBlock(n, Station(false)),
+      FStatBlock(n, Station(true)),
+      FStatAnschluss(n, {A, E, 20.9666, {}, 20.0, 99.985, 0.015, 0.16}, 0.012),
+      FStatAnschluss(n, {A, E, 20.9666, {}, 20.0, 99.985, 0.015, 0.16}, {}),
+      FStatPolarAnschluss(n, A, 123.45678),
       HelmertBlock(n, {Passung, false, false, 1, 12.5, 0.98, 0.19, 0, 0}),
       HelmertBlock(n, {Passung, true, true, 1, 12.5, 0.98, 0.19, 0.5, 0.2}),
       AffinBlock(n, Affin(false)),
