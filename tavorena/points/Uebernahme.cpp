@@ -13,6 +13,7 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/points/Punktraster.h>
 #include <tavorena/points/Uebernahme.h>
+#include <tavorena/rawdata/Hoehenliste.h>
 #include <tavorena/records/Punktblock.h>
 
 namespace tavorena {
@@ -32,12 +33,18 @@ Vergleichspunkt TabellenPunkt(int Zeile) {
 
 // A line without a number and all its values gives none.
 bool ZeileLesen(std::string_view Zeile, bool Höhenliste, Vergleichspunkt& P) {
+  if (Höhenliste) {
+    Höhenpunkt H;
+    if (!HöhenzeileLesen(Zeile, H)) return false;
+    P = {Nummer(H.Pnr), 0, 0, H.Höhe};
+    return true;
+  }
   P.Pnr = Nummer(Wortnehmen(Zeile));
   const std::string_view Erstes = Wortnehmen(Zeile), Zweites = Wortnehmen(Zeile), Drittes = Wortnehmen(Zeile);
-  if (P.Pnr.empty() || !IstZahlwort(Erstes) || (!Höhenliste && !IstZahlwort(Zweites))) return false;
-  P.Rechts = Höhenliste ? 0 : ZahlAusText(Erstes);
-  P.Hoch = Höhenliste ? 0 : ZahlAusText(Zweites);
-  P.Hoehe = ZahlAusText(Höhenliste ? Erstes : Drittes);
+  if (P.Pnr.empty() || !IstZahlwort(Erstes) || !IstZahlwort(Zweites)) return false;
+  P.Rechts = ZahlAusText(Erstes);
+  P.Hoch = ZahlAusText(Zweites);
+  P.Hoehe = ZahlAusText(Drittes);
   return std::isfinite(P.Rechts) && std::isfinite(P.Hoch) && std::isfinite(P.Hoehe);
 }
 
