@@ -325,7 +325,7 @@ int TheoOptionenLesen(TheoOptionen& Gelesen) {
   for (std::string* Zeile : {&Abschnitt, &Port, &Neu.Settings, &Neu.Rohdatendatei, &Reduktion}) {
     if (!K.Zeile(*Zeile)) return -1;
   }
-  Neu.Port = Port.starts_with("COM2") ? 2 : 1;
+  Neu.Port = Port.starts_with("COM1") ? 1 : 2;
   Neu.Reduktion = std::clamp<int>(KurzAusText(Reduktion), 0, 2);
   Gelesen = Neu;
   return 0;
@@ -339,6 +339,15 @@ int TheoOptionenSchreiben(const TheoOptionen& T) {
                                          "  (Serielle Schnittstelle, folgende Zeile: Settings)\r\n" +
                                          T.Settings + "\r\n" + T.Rohdatendatei + "\r\n" +
                                          Reduktionen[std::clamp(T.Reduktion, 0, 2)] + "\r\n");
+}
+
+void TheoOptionenMerken(const TheoOptionen& T) {
+  static std::string Gemeldete;
+  if (TheoOptionenSchreiben(T) == 0) {
+    Gemeldete.clear();
+  } else if (std::exchange(Gemeldete, Theodolitdatei()) != Theodolitdatei()) {
+    Hinweis("Fehler aufgetreten beim Speichern der Datei " + Theodolitdatei());
+  }
 }
 
 }  // namespace tavorena

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include <tavorena/core/Punkt.h>
+#include <tavorena/rawdata/TheoOptionen.h>
 
 // The two configuration files of the application folder. Both are line-position files: a line has its
 // meaning by its place, the words behind a value are comments for the reader. Missing or cut-off files are
@@ -54,15 +55,11 @@ void OptionenMerken();
 /// Puts a file to the front of the history, and writes it.
 void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format);
 
-/// Settings of the instrument link.
-struct TheoOptionen {
-  int Port = 1;
-  std::string Settings = "9600,N,8,1";
-  std::string Rohdatendatei;
-  int Reduktion = 0;  ///< 0 none, 1 laser points, 2 optical points
-};
-/// @return 0; -1 when the file is missing or cut off, the record is then untouched
+/// Settings of the instrument link. @return 0; -1 when the file is missing or cut off, the record is then
+/// untouched
 int TheoOptionenLesen(TheoOptionen& Gelesen);
 int TheoOptionenSchreiben(const TheoOptionen& T);
+/// The same beside other work, as OptionenMerken.
+void TheoOptionenMerken(const TheoOptionen& T);
 
 }  // namespace tavorena

@@ -110,6 +110,7 @@ void HauptAnschließen() {
   Haken.MittelEintragen = MittelEintragen;
   Haken.GeaendertGewechselt = TitelZeigen;
   StapelHaken = {BlattFür, Stapelstand};
+  TheoHaken = {TheoOptionenLesen, TheoOptionenMerken};
 }
 
 void HauptInitialisierung() {

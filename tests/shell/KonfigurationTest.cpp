@@ -148,6 +148,7 @@ TEST_F(Konfiguration, Theodolitdatei) {
   const std::string Theodolit = Ordner.Pfad("app/TavorenaTh.ini");
   TheoOptionen T{2, "4800,E,7,1", "/roh.gsi", 1}, Neu;
   EXPECT_EQ(TheoOptionenLesen(T), -1);
+  EXPECT_EQ(Neu.Port, 2);
   EXPECT_EQ(TheoOptionenSchreiben(T), 0);
   EXPECT_TRUE(GleichSoll(Inhalt(Theodolit), "shell/soll/Theodolit.ini"));
   EXPECT_EQ(TheoOptionenLesen(Neu), 0);

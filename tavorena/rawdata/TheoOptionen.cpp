@@ -1,0 +1,33 @@
+#include <cstdlib>
+
+#include <tavorena/core/Text.h>
+#include <tavorena/forms/Dateifrage.h>
+#include <tavorena/rawdata/TheoOptionen.h>
+
+namespace tavorena {
+namespace {
+
+std::string Umgebungswert(const char* Name) {
+  const char* const Wert = std::getenv(Name);
+  return Wert != nullptr ? Wert : "";
+}
+
+}  // namespace
+
+TheoAblage TheoHaken;
+
+std::string TheoStandarddatei() {
+  std::string Ordner;
+  for (const char* Name : {"temp", "TEMP", "tmp", "TMP"}) {
+    if (Ordner.empty()) Ordner = Umgebungswert(Name);
+  }
+  if (Ordner.empty()) Ordner = Startordner();
+  return PfadVerbinden(Ordner.empty() ? "c:\\" : Ordner, "\\tvtheo.gsi");
+}
+
+std::string TheoGerät(int Port) {
+  const std::string Benannt = Umgebungswert(Port == 1 ? "TAVORENA_COM1" : "TAVORENA_COM2");
+  return !Benannt.empty() ? Benannt : Port == 1 ? "/dev/ttyS0" : "/dev/ttyS1";
+}
+
+}  // namespace tavorena
