@@ -82,6 +82,9 @@ Dateiblick DateiAnsehen(std::string_view Name);
 [[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr,
                                Dateistand* Danach = nullptr, const Dateiblick* Eben = nullptr);
 
+/// The same for bytes that stay as they are, whatever the coding of the file.
+[[nodiscard]] int BytesAnhängen(std::string_view Name, std::string_view Bytes, std::string* Grund = nullptr);
+
 /// What was appended so far reaches the disk.
 /// @param[out] Name  a file that did not get there
 /// @return 0 or -1

@@ -101,10 +101,14 @@ int Ergreifen(Anhangspur& Spur, const Dateiblick* Eben, std::string& Grund) {
   return -1;
 }
 
-int Anhängen(Anhangspur& Spur, std::string_view Text, const Dateiblick* Eben, std::string& Grund) {
+enum class Umsetzung { Keine, InKodierung };
+
+int Anhängen(Anhangspur& Spur, std::string_view Text, Umsetzung Wie, const Dateiblick* Eben,
+             std::string& Grund) {
   if (const int Ergebnis = Ergreifen(Spur, Eben, Grund); Ergebnis < 0) return Ergebnis;
   struct stat Stand {};
-  const std::string Bytes = Spur.Art == Kodierung::Windows1252 ? NachWindows1252(Text) : std::string(Text);
+  const bool Umsetzen = Wie == Umsetzung::InKodierung && Spur.Art == Kodierung::Windows1252;
+  const std::string Bytes = Umsetzen ? NachWindows1252(Text) : std::string(Text);
   if (!Ausschreiben(Spur.K, Bytes)) {
     Grund = Fehlerwort(errno);
     static_cast<void>(ftruncate(Spur.K.Nummer(), static_cast<off_t>(Spur.Blick.Stand.Länge)) == 0);
@@ -116,19 +120,28 @@ int Anhängen(Anhangspur& Spur, std::string_view Text, const Dateiblick* Eben, s
   return 0;
 }
 
-}  // namespace
-
-int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund, Dateistand* Danach,
-                 const Dateiblick* Eben) {
+int AnDatei(std::string_view Name, std::string_view Text, Umsetzung Wie, std::string* Grund,
+            Dateistand* Danach, const Dateiblick* Eben) {
   if (Name.empty()) return -1;
   Anhangspur& Spur = SpurVon(Name);
   std::string Wort;
-  const int Ergebnis = Anhängen(Spur, Text, Eben, Wort);
+  const int Ergebnis = Anhängen(Spur, Text, Wie, Eben, Wort);
   if (Ergebnis == 0 && Danach != nullptr) *Danach = Spur.Blick.Stand;
   if (Ergebnis != -1) return Ergebnis;
   Spur = Anhangspur{Spur.Name, Spur.Pfad, Deskriptor(), {}, Kodierung::Ascii};
   if (Grund != nullptr) *Grund = Wort;
   return -1;
+}
+
+}  // namespace
+
+int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund, Dateistand* Danach,
+                 const Dateiblick* Eben) {
+  return AnDatei(Name, Text, Umsetzung::InKodierung, Grund, Danach, Eben);
+}
+
+int BytesAnhängen(std::string_view Name, std::string_view Bytes, std::string* Grund) {
+  return AnDatei(Name, Bytes, Umsetzung::Keine, Grund, nullptr, nullptr);
 }
 
 void AnhangVergessen(const fs::path& Pfad) {

@@ -1,5 +1,6 @@
 #include <chrono>
 #include <ctime>
+#include <thread>
 #include <utility>
 
 #include <tavorena/core/Ports.h>
@@ -30,6 +31,11 @@ Zeitpunkt Ablauf::Jetzt() {
 
 double Ablauf::Zeitgeber() {
   return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+void Ablauf::Warten(double Sekunden) {
+  EreignisseAbarbeiten();
+  std::this_thread::sleep_for(std::chrono::duration<double>(Sekunden));
 }
 
 Rückfragen& FragenPort() { return Offen(Gesetzt.Fragen); }

@@ -86,6 +86,8 @@ class Ablauf {
   virtual ~Ablauf() = default;
   /// Lets waiting events run (stop button, redraw).
   virtual void EreignisseAbarbeiten() {}
+  /// Lets events run for so long, and takes no processor time while there are none.
+  virtual void Warten(double Sekunden);
   /// Local date and time.
   virtual Zeitpunkt Jetzt();
   /// Seconds from any start; never runs back.

@@ -221,6 +221,11 @@ bool Formular::TasteDrücken(Taste T) {
   return Genommen;
 }
 
+void Formular::TasteSenden(Taste T) {
+  static_cast<void>(TasteDrücken(T));
+  if (Beobachter != nullptr) Beobachter->FokusGeändert();
+}
+
 // "+" and "-" step the number entered last, in the place of what stands in a field or column of numbers.
 bool Formular::NummerZählen(Taste T) {
   auto* const E = dynamic_cast<Eingabeelement*>(Aktuell);

@@ -23,6 +23,8 @@ class FormularBeobachter {
   /// Cells, rows or columns of a grid.
   virtual void GitterGeändert(Gitter& G, const Gitteränderung& Was) = 0;
   virtual void TitelGeändert() = 0;
+  /// A key that the program sent moved the focus, or what stands in the control with the focus.
+  virtual void FokusGeändert() {}
   virtual void FormularGeschlossen() = 0;
 };
 
@@ -46,6 +48,8 @@ class Formular {
   Gezeigt<std::string> Titel;
   int Hilfenummer = 0;              ///< page of the handbook
   std::optional<Dialogplatz> Fest;  ///< a dialog of its own place, while which the tool bar is hidden
+  bool Nebenher = false;   ///< stands beside the worksheets and leaves them the focus: a click on a button, a
+                           ///< list or a choice never takes it
   bool Ungefragt = false;  ///< a row opens it by itself: keys that were typed ahead are not meant for it
 
   [[nodiscard]] const std::vector<std::unique_ptr<Steuerelement>>& Steuerelemente() const { return Liste; }
@@ -109,6 +113,8 @@ class Formular {
   void Tippen(Eingabeelement& E, const std::string& Text);
   /// A key in the control with the focus. @return false: the key belongs to the text
   bool TasteDrücken(Taste T);
+  /// A key that the program sends, such as Return behind a measurement: the view follows it.
+  void TasteSenden(Taste T);
   void Klicken(Knopf& K);
   /// The user chose an entry of a list (Eintrag), a check box or an option (An).
   void Wählen(Auswahl& A, const std::string& Eintrag, bool An);

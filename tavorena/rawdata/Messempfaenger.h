@@ -6,6 +6,8 @@
 
 namespace tavorena {
 
+class Formular;
+
 /// Where the focus of a worksheet stands, as far as a measurement is concerned.
 enum class Messort { Außerhalb, Nummernspalte, Anschlussgitter, Polargitter, Schnurgerüst };
 
@@ -14,6 +16,8 @@ enum class Messort { Außerhalb, Nummernspalte, Anschlussgitter, Polargitter, Sc
 class Messempfänger {
  public:
   virtual ~Messempfänger() = default;
+  /// The form itself, to which "{ENTER}" is sent.
+  [[nodiscard]] virtual Formular& Blatt() = 0;
   /// Lower-case name of the form, such as "tvfstatform".
   [[nodiscard]] virtual std::string Formname() const = 0;
   [[nodiscard]] virtual Messort Fokus() const = 0;

@@ -71,6 +71,7 @@ class PlattformSkript final : public Rückfragen,
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override { BeiEreignissen(); }
+  void Warten(double /*Sekunden*/) override { BeiEreignissen(); }
   Zeitpunkt Jetzt() override { return Uhr; }
   double Zeitgeber() override { return Sekunden += 1; }
   void StatusSetzen(Statusfeld Feld, const std::string& Text) override {
