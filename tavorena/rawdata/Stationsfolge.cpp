@@ -101,7 +101,7 @@ std::vector<Rohstation> Stationsfolge(std::vector<Rohblock> Blöcke) {
       Rohstation& S = Folge.back();
       S.Getrennt = true;
       Ergänzen(S, B);
-      Umhängen(S.Anschluss, OrientierungGrenze, S.Messung);
+      Umhängen(S.Anschluss, OrientierungsGrenze, S.Messung);
       Umhängen(B.Punkte, 0, S.Messung);
       continue;
     }

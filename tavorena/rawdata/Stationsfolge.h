@@ -12,9 +12,7 @@
 
 namespace tavorena {
 
-inline constexpr std::size_t OrientierungGrenze = 100;  ///< rows of an orientation block
-inline constexpr std::size_t AnschlussGrenze = 1001;    ///< connection rows of a station
-inline constexpr std::size_t MessblockGrenze = 10000;   ///< polar rows of a station
+inline constexpr std::size_t AnschlussGrenze = 1001;  ///< connection rows of a station
 
 /// A station, or a further measurement from it.
 struct Rohstation {
@@ -31,7 +29,7 @@ struct Rohstation {
 
 /// Two blocks of one number that follow each other are orientation and measurement, every further one of it a
 /// repeated measurement; a block without rows beside others of its number is none. Rows of an orientation
-/// block beyond OrientierungGrenze are polar rows.
+/// block beyond OrientierungsGrenze are polar rows.
 [[nodiscard]] std::vector<Rohstation> Stationsfolge(std::vector<Rohblock> Blöcke);
 
 /// The rows of an only block that are no connection become polar rows, in their order; ticked ones beyond
