@@ -76,6 +76,34 @@ class RahmenTest final : public Fensterumgebung {
     }
   }
 
+  // The marks of a worksheet as they were approved, without texts: those differ with the fonts of a machine.
+  void bilderWieGebilligt() {
+    Öffne("MenüKatasterLinel");
+    Tippe("1001\n1002\n0\n0\n2003\n2004\n");
+    GrafikWahl.Nummern = GrafikWahl.Maßstabsleiste = false;
+    GrafikÖffnen(360 * TwipsJePixel, 240 * TwipsJePixel);
+    for (const auto& [Name, Wahl, Dichte] :
+         {std::tuple("dunkel1", Helligkeit::Dunkel, 1.0), std::tuple("dunkel2", Helligkeit::Dunkel, 2.0),
+          std::tuple("hell2", Helligkeit::Hell, 2.0)}) {
+      AussehenSetzen(*qApp, Wahl);
+      QImage Bild(QSize(360, 240) * Dichte, QImage::Format_RGB32);
+      Bild.setDevicePixelRatio(Dichte);
+      QPainter Maler(&Bild);
+      Bildkacheln().Malen(Maler, {0, 0, 360, 240}, Dichte, qApp->palette());
+      Maler.end();
+      const QString Datei = QString(TAVORENA_TESTS "/desktop/soll/%1.png").arg(Name);
+      if (qEnvironmentVariableIsSet("TAVORENA_SOLL_NEU")) QVERIFY(Bild.save(Datei));
+      const QImage Soll(Datei);
+      QCOMPARE(Soll.size(), Bild.size());
+      int Anders = 0;
+      for (int i = 0; i < Bild.width() * Bild.height(); ++i) {
+        const QPoint P(i % Bild.width(), i / Bild.width());
+        Anders += std::abs(Bild.pixelColor(P).lightness() - Soll.pixelColor(P).lightness()) > 24 ? 1 : 0;
+      }
+      QVERIFY2(Anders < 20, qPrintable(Datei + ": " + QString::number(Anders)));
+    }
+  }
+
   void fensterUndProtokollKommenWieder() {
     const QString Ablage = Pfad("app/TavorenaFenster.ini");
     QFile::remove(Ablage);
