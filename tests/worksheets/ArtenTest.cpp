@@ -1,5 +1,6 @@
 #include "Blattest.h"
 
+#include <tavorena/calc/Lage.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/points/Ruecknahme.h>
 #include <tavorena/records/Stapelleser.h>
@@ -99,6 +100,59 @@ TEST(Blattarten, JedeArtHatIhrenAuftrag) {
     EXPECT_TRUE(std::any_of(std::begin(Aufträge), std::end(Aufträge), [&](const Auftrag& A) {
       return BlattartVonKennung(A.Kennung) == &Art;
     })) << Art.Formname;
+  }
+}
+
+// Published examples, typed: two lines and the circle through three points of Rosetta Code, the polygon of
+// Wikipedia (Shoelace formula), the first side of the traverse of Ghilani and Wolf, Elementary Surveying.
+using Artenbeispiel = Blatttest;
+TEST_F(Artenbeispiel, WieGedruckt) {
+  struct Beispiel {
+    const char* Kennung;
+    std::vector<Lage> Punkte;  // numbered from 11
+    const char *Feld, *Tasten, *Ergebnis, *Soll;
+    Lage Neu = {};  // 31
+  };
+  const Beispiel Alle[] = {
+      {"09.00",
+       {{4, 0}, {6, 10}, {0, 3}, {10, 7}},
+       "IntllG1_AnfPnr",
+       "11\n12\n\n\n\n13\n14\n\n\n\n31\n\n",
+       "",
+       "",
+       {5, 5}},
+      {"09.50",
+       {{22.83, 2.07}, {14.39, 30.24}, {33.65, 17.31}},
+       "Kmitt_Pnr1",
+       "11\n12\n13\n31\n\n",
+       "",
+       "",
+       {18.97851566, 16.26541081}},
+      {"65.00",
+       {{1, 6}, {3, 1}, {7, 2}, {4, 4}, {8, 5}},
+       "AreaName",
+       "N\nB\n11\n\n\n12\n\n\n13\n\n\n14\n\n\n15\n\n\n",
+       "AreaFlaeche",
+       "16.500"},
+      {"19.70",
+       {{0, 0}, {0, 100}},
+       "PolarAnfPnr",
+       "11\n12\n0\n0\n31\n141,0238\n100\n647,25\n\n",
+       "",
+       "",
+       {517.451, -388.815}},
+  };
+  for (const Beispiel& E : Alle) {
+    KorAbschneiden(0);
+    for (std::size_t i = 0; i < E.Punkte.size(); ++i)
+      Punkt(std::to_string(11 + i).c_str(), E.Punkte[i].RW, E.Punkte[i].HW);
+    auto B = Öffne(E.Kennung);
+    Tippe(*B, E.Feld, E.Tasten);
+    EXPECT_EQ(*E.Ergebnis != 0 ? Text(*B, E.Ergebnis) : "", E.Soll);
+    const int z = KorSuche(std::string_view("31"));
+    ASSERT_EQ(z >= 0, *E.Ergebnis == 0) << E.Kennung;
+    const Lage Ist = z < 0 ? E.Neu : Lage{KorPunkt(z).Rechts, KorPunkt(z).Hoch};
+    EXPECT_LT(Abstand(Ist, E.Neu), 1e-3) << E.Kennung;
   }
 }
 
