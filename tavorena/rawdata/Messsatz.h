@@ -42,12 +42,18 @@ struct Messsatz {
   void Leeren();
 };
 
+/// The value that a word index stands for; nullptr for one that is none (11, 51, 71 and the unknown).
+[[nodiscard]] Messwert* MesswertVon(Messsatz& Satz, int Wort);
+[[nodiscard]] const Messwert* MesswertVon(const Messsatz& Satz, int Wort);
+
 /// A code line.
 struct Codeblock {
   std::string Nummer;                ///< block number
   std::string Wort1;                 ///< data of word 1, where some instruments put the code
   std::array<std::string, 9> Werte;  ///< data of the words from 2 on
   int Anzahl = 0;                    ///< of Werte
+
+  void Leeren();
 };
 
 }  // namespace tavorena

@@ -1,0 +1,58 @@
+#include <tavorena/rawdata/Messsatz.h>
+
+namespace tavorena {
+
+Messwert* MesswertVon(Messsatz& Satz, int Wort) {
+  switch (Wort) {
+    case 21:
+      return &Satz.Hz;
+    case 22:
+      return &Satz.V;
+    case 31:
+      return &Satz.Strecke;
+    case 32:
+      return &Satz.Horizontal;
+    case 33:
+      return &Satz.Höhenunterschied;
+    case 81:
+      return &Satz.Rechts;
+    case 82:
+      return &Satz.Hoch;
+    case 83:
+      return &Satz.Höhe;
+    case 84:
+      return &Satz.StandRechts;
+    case 85:
+      return &Satz.StandHoch;
+    case 86:
+      return &Satz.StandHöhe;
+    case 87:
+      return &Satz.Reflektorhöhe;
+    case 88:
+      return &Satz.Instrumentenhöhe;
+    default:
+      return nullptr;
+  }
+}
+
+const Messwert* MesswertVon(const Messsatz& Satz, int Wort) {
+  return MesswertVon(const_cast<Messsatz&>(Satz), Wort);
+}
+
+void Messsatz::Leeren() {
+  for (Messtext* T : {&Nummer, &Konstante, &Code}) {
+    T->Da = false;
+    T->Info = Messtext().Info;
+    T->Text.clear();
+  }
+  for (const int Wort : {21, 22, 31, 32, 33, 81, 82, 83, 84, 85, 86, 87, 88}) *MesswertVon(*this, Wort) = {};
+}
+
+void Codeblock::Leeren() {
+  Nummer.clear();
+  Wort1.clear();
+  for (std::string& W : Werte) W.clear();
+  Anzahl = 0;
+}
+
+}  // namespace tavorena

@@ -1,0 +1,76 @@
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
+#include <tavorena/rawdata/Rohzeichen.h>
+
+namespace tavorena {
+namespace {
+
+bool NurAscii(std::string_view Text) {
+  std::uint64_t Alle = 0;
+  std::size_t i = 0;
+  for (; i + sizeof Alle <= Text.size(); i += sizeof Alle) {
+    std::uint64_t Acht = 0;
+    std::memcpy(&Acht, Text.data() + i, sizeof Acht);
+    Alle |= Acht;
+  }
+  for (; i < Text.size(); ++i) Alle |= static_cast<unsigned char>(Text[i]);
+  return (Alle & 0x8080808080808080U) == 0;
+}
+
+constexpr bool IstZiffer(char c) { return c >= '0' && c <= '9'; }
+constexpr char Groß(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+}  // namespace
+
+// The places of characters are only looked up in lines that need it.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+Zeichenzeile::Zeichenzeile(std::string_view Zeile)
+    : Text(Zeile), Anzahl(Zeile.size()), Ascii(NurAscii(Zeile)) {
+  if (Ascii) return;
+  Anzahl = ZeichenAnzahl(Text);
+  std::size_t n = 0;
+  for (std::size_t i = 0; i < Text.size() && n <= Grenze; ++i) {
+    if ((static_cast<unsigned char>(Text[i]) & 0xC0U) != 0x80U || i == 0) Anfang[n++] = i;
+  }
+  while (n <= Grenze) Anfang[n++] = Text.size();
+}
+
+int Wortindex(std::string_view Wort) {
+  return Wort.size() == 2 && IstZiffer(Wort[0]) && IstZiffer(Wort[1]) ? (Wort[0] - '0') * 10 + (Wort[1] - '0')
+                                                                      : -1;
+}
+
+bool GanzesFeld(std::string_view Feld, double& Zahl) {
+  const std::string_view Ganz = TrimmenSicht(Feld);
+  const bool Negativ = Ganz.starts_with('-');
+  const char* const Ab = Ganz.data() + (Negativ || Ganz.starts_with('+') ? 1 : 0);
+  const char* const Bis = Ganz.data() + Ganz.size();
+  std::int64_t n = 0;
+  const bool Ziffern = Ab != Bis && IstZiffer(*Ab);
+  if (const auto [Ende, Fehler] = std::from_chars(Ab, Bis, n);
+      Ziffern && Fehler == std::errc() && Ende == Bis) {
+    Zahl = static_cast<double>(Negativ ? -n : n);
+    return true;
+  }
+  Zahl = ZahlAusText(Feld);
+  if (!std::isfinite(Zahl)) Zahl = 0;
+  return false;
+}
+
+std::string_view OhneFührendeNullen(std::string_view Text) {
+  const std::size_t Ab = Text.find_first_not_of(" \t+0");
+  return Ab == std::string_view::npos ? "0" : TrimmenSicht(Text.substr(Ab));
+}
+
+bool GleichesWort(std::string_view A, std::string_view B) {
+  return A.size() == B.size() &&
+         std::equal(A.begin(), A.end(), B.begin(), [](char a, char b) { return Groß(a) == Groß(b); });
+}
+
+}  // namespace tavorena
