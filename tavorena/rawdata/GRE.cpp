@@ -11,8 +11,6 @@
 namespace tavorena {
 namespace {
 
-constexpr int MaxPaare = 11;
-
 // Keys and the value that they stand for; the first one of a value is the one that is written. Vorn is what
 // the first info character of the height difference becomes, which tells the kind of a height; "." leaves it.
 struct Schlüssel {
@@ -118,6 +116,13 @@ int GREZeilenart(std::string_view Zeile) {
   return GleichesWort(Zeile.substr(0, 2), "NR") ? Messzeile : AndereZeile;
 }
 
+int GREWort(std::string_view Schlüssel) {
+  if (GleichesWort(Schlüssel, "NR")) return 11;
+  if (GleichesWort(Schlüssel, "(R")) return 51;
+  const auto* S = SchlüsselFinden(Schlüssel);
+  return S != nullptr ? S->Gruppe : -1;
+}
+
 int GREZeileLesen(std::string_view Zeile, Messsatz& Satz) {
   Satz.Leeren();
   if (const int Art = GREZeilenart(Zeile); Art != Messzeile) return Art < 0 ? Art : AndereZeile;
@@ -126,7 +131,7 @@ int GREZeileLesen(std::string_view Zeile, Messsatz& Satz) {
     Satz.Nummer.Text.assign(Text);
   };
   NummerNehmen(NachWort(Zeile, 2));
-  for (int i = 0; i < MaxPaare; ++i) {
+  for (int i = 0; i < GREPaare; ++i) {
     const std::string_view Wort = Wortnehmen(Zeile), Wert = Wortnehmen(Zeile);
     if (Wert.empty()) break;
     if (GleichesWort(Wort, "NR")) {

@@ -13,6 +13,10 @@ namespace tavorena {
 /// @return a Zeilenart; leading blanks do not count. A line of less than two characters is too short.
 [[nodiscard]] int GREZeilenart(std::string_view Zeile);
 
+/// The GSI word index that a key stands for, 11 for "NR" and 51 for "(R"; -1 for an unknown one.
+[[nodiscard]] int GREWort(std::string_view Schlüssel);
+inline constexpr int GREPaare = 11;  ///< keys behind the number that are read
+
 /// A measurement line into a record, which is emptied first: up to 11 pairs behind the number, in gon and m.
 /// A value that is no number is not `Gelesen`.
 /// @return 0; `ZuKurz` or `AndereZeile` if it is no measurement line, the record is then empty

@@ -16,6 +16,6 @@ namespace tavorena {
 /// Each line of a raw-data text as it was understood, a line each, fields separated by one tab: line number,
 /// class; of a measurement each group that is there as index:info:value; of a code block "Nr:" block number,
 /// "Anzahl:" count, and the values.
-[[nodiscard]] std::string RohdatenSatzliste(std::string_view Text, const Rohdatenwahl& Wahl);
+[[nodiscard]] std::string RohdatenSatzliste(std::string_view Text, Rohform Form, bool AlleEinheiten = false);
 
 }  // namespace tavorena

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <tavorena/core/Wert.h>
+#include <tavorena/rawdata/Messsatz.h>
 
 /// @file
 /// A raw-data file as a whole: what it is understood to hold.
@@ -95,6 +96,7 @@ struct Rohbefund {
   bool OhneStationscode = false;    ///< stations were opened by their coordinates
   bool FremdeEinheiten = false;     ///< feet, sexagesimal degrees or mil: `AlleEinheiten` makes a difference
   std::vector<Wortzählung> Wörter;  ///< by word index and digit
+  std::vector<Fundstelle> Codes;    ///< of the code lines: first value, or data of word 1
   std::vector<Fundstelle> NichtGelesen;   ///< words, units, fields and lines that were not understood
   std::vector<Fundstelle> NichtGenommen;  ///< measurements that became no row, by reason
   std::vector<Fundstelle> Auffällig;      ///< what was read and is doubtful
@@ -114,6 +116,13 @@ struct Rohdaten {
 
 /// The form that a file is read in: as chosen, or by its ending.
 [[nodiscard]] Rohform RohformVon(std::string_view Datei, Rohform Wahl);
+
+/// One line of either form: the decision about 8 or 16 digits, its class, and a measurement line into Satz or
+/// a code line into Block.
+/// @param[in] Form  not `NachEndung`
+/// @return a Zeilenart
+int RohzeileLesen(std::string_view Zeile, Rohform Form, Messsatz& Satz, Codeblock& Block,
+                  bool AlleEinheiten = false);
 
 /// Reads a whole file: blocks from one station code to the next with all their rows, the points with
 /// coordinates, and the findings for the report. Nothing is taken over that was not understood: a word with
@@ -135,6 +144,16 @@ struct Rohdaten {
 /// @return 0; -2 stopped
 [[nodiscard]] int RohtextLesen(std::string_view Text, const Rohdatenwahl& Wahl, Rohdaten& Roh);
 
+/// The station that a code line opens: its number, and its instrument height [m] where `Ihwert` names one.
+/// The code is the first value, the values being counted from it; or, if that does not hold, the data of
+/// word 1.
+/// @return false if the line opens none
+[[nodiscard]] bool StationAusCodeblock(const Codeblock& Block, const Rohdatenwahl& Wahl, std::string& Nummer,
+                                       Wert& Instrumentenhöhe);
+
+/// A number as it is taken over.
+[[nodiscard]] std::string_view Rohnummer(std::string_view Nummer, const Rohdatenwahl& Wahl);
+
 /// The orientation block of the next station: its first block. Its orientation rows are the first
 /// `OrientierungsGrenze` if a measurement block follows; otherwise all are both.
 /// @param[in,out] Block  index of the station looked at before, -1 to begin; then that of the next one
@@ -143,10 +162,6 @@ struct Rohdaten {
 
 /// What is told about results 1 (with an empty number) and 2 of `RohdatenOrientierungsblock`.
 [[nodiscard]] std::string StandpunktzeileFehlt(const Rohdaten& Roh, const std::string& Standpunkt);
-
-/// The measurement block that belongs to the orientation block: the next one of the same number.
-/// @return its index; -1 if the station has one block alone
-[[nodiscard]] int RohdatenMessblock(const Rohdaten& Roh, int Block);
 
 inline constexpr std::size_t OrientierungsGrenze = 100;  ///< rows of an orientation block
 inline constexpr std::size_t MessblockGrenze = 10000;    ///< rows of a measurement block
