@@ -35,22 +35,6 @@ std::string Artzeile(const Verbindung& V, int Seite) {
   return ProtRahmen + FeldLinks(Text, 62) + "Seite" + ZahlFeld(Seite, 3) + ProtRahmen;
 }
 
-std::vector<std::string> Kopfzeilen(const Verbindung& V, const std::string& Dateiname, int Seite) {
-  const std::string Strich(72, '-'), Stempel = Zeitstempel();
-  std::vector<std::string> Zeilen = {
-      "",
-      Strich,
-      ProtRahmen + FeldLinks("Tavorena", 29) + RechtsBündig(Stempel, 40) + " " + ProtRahmen,
-      ProtRahmen + FeldLinks(KuerzenMitPunkten(Dateiname, 70), 70) + ProtRahmen,
-      Artzeile(V, Seite),
-      Strich,
-      Leerzeichen(6),
-  };
-  for (std::string& Zeile : Tabellenkopf(V.Titel, V.HoehenRechnen, V.SollDatei))
-    Zeilen.push_back(std::move(Zeile));
-  return Zeilen;
-}
-
 // One entry: its lines are gathered, reach the file in one piece, and only then count.
 class Eintrag {
  public:
@@ -91,7 +75,7 @@ class Eintrag {
   void ProtKopf(const Verbindung& V) {
     // A fresh page has its number already: ProtNeueSeite raised it.
     const int Seite = Neu.SeiteFrisch ? Neu.Seite - 1 : Neu.Seite++;
-    for (const std::string& Zeile : Kopfzeilen(V, KoordinatendateiName, Seite)) {
+    for (const std::string& Zeile : ProtKopfzeilen(V, KoordinatendateiName, Seite)) {
       ProtZeile(Zeile);
       ++Neu.Zeilen;  // a head is never broken
     }
@@ -170,6 +154,22 @@ int Eintragen(Protokoll& P, Arbeit Tun) {
 
 }  // namespace
 
+std::vector<std::string> ProtKopfzeilen(const Verbindung& V, const std::string& Name, int Seite) {
+  const std::string Strich(72, '-'), Stempel = Zeitstempel();
+  std::vector<std::string> Zeilen = {
+      "",
+      Strich,
+      ProtRahmen + FeldLinks("Tavorena", 29) + RechtsBündig(Stempel, 40) + " " + ProtRahmen,
+      ProtRahmen + FeldLinks(KuerzenMitPunkten(Name, 70), 70) + ProtRahmen,
+      Artzeile(V, Seite),
+      Strich,
+      Leerzeichen(6),
+  };
+  for (std::string& Zeile : Tabellenkopf(V.Titel, V.HoehenRechnen, V.SollDatei))
+    Zeilen.push_back(std::move(Zeile));
+  return Zeilen;
+}
+
 void ProtokollNehmen(const std::string& Dateiname) {
   AktenSichern();
   Prot = {};
@@ -200,7 +200,7 @@ int ProtLeerzeile(Protokoll& P) {
 
 int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::string& Name) {
   std::string Text;
-  for (const std::string& Zeile : Kopfzeilen(V, Name, Prot.Seite)) Text += Zeile + "\r\n";
+  for (const std::string& Zeile : ProtKopfzeilen(V, Name, Prot.Seite)) Text += Zeile + "\r\n";
   std::string Grund;
   if (TextAnhängen(Datei, Text, &Grund) == 0) return 0;
   Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei + InKlammern(Grund));

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/records/Block.h>
@@ -62,6 +63,10 @@ std::string Zeitstempel();
 
 /// An empty line, which is not counted. @return as Schreiben
 [[nodiscard]] int ProtLeerzeile(Protokoll& P);
+
+/// The lines of a head for the coordinate file Name, table head included.
+[[nodiscard]] std::vector<std::string> ProtKopfzeilen(const Verbindung& V, const std::string& Name,
+                                                      int Seite);
 
 /// The head that the job's protocol would get, for the coordinate file Name, in front of another file.
 /// @return 0; -1 with a message

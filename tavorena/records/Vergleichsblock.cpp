@@ -17,7 +17,7 @@ struct Zeilenwerte {
   Wert Rechts, Hoch, Hoehe, fs;
 };
 
-std::string Zeile(int n, const Zeilenwerte& W, const Wert& Pnr, const char* Text) {
+std::string Zeile(int n, const Zeilenwerte& W, const Wert& Pnr, const std::string& Text) {
   const Spalten S(n);
   return Leerzeichen(6) + S.Spalte(W.Rechts) + S.Spalte(W.Hoch) + Leerzeichen(1) + S.Zahl(W.Hoehe, 5) +
          Leerzeichen(6 - n) + S.Zahl(W.fs, 4) + Leerzeichen(8 - n) + PnrFormat(Pnr) + " " + Text;
@@ -42,6 +42,14 @@ Zeilenwerte Differenz(const Vergleichspaar& P, bool NurHoehen) {
 }
 
 }  // namespace
+
+std::string Vergleichszeile(int Nachkomma, const Vergleichspunkt& P, const std::string& Text) {
+  return Zeile(Nachkomma, WerteVon(P, false), P.Pnr, Text);
+}
+
+std::string Differenzzeile(int Nachkomma, const Vergleichspaar& P) {
+  return Zeile(Nachkomma, Differenz(P, false), NullWert{}, "Soll-Ist");
+}
 
 Block Vergleichsblock(int Nachkomma, const std::vector<Vergleichspaar>& Paare, bool NurHoehen) {
   std::vector<std::string> Zeilen;

@@ -20,6 +20,12 @@ struct Vergleichspaar {
   Vergleichspunkt Soll, Ist;
 };
 
+/// A point in the columns of a comparison, with a text such as "Soll" behind it.
+[[nodiscard]] std::string Vergleichszeile(int Nachkomma, const Vergleichspunkt& P, const std::string& Text);
+
+/// Soll minus Ist and the distance; a height that one of them lacks is left blank.
+[[nodiscard]] std::string Differenzzeile(int Nachkomma, const Vergleichspaar& P);
+
 /// Three lines a pair: Soll, Ist, and Soll minus Ist with the distance.
 /// @param[in] NurHoehen  the fields of coordinates and distance are left blank
 [[nodiscard]] Block Vergleichsblock(int Nachkomma, const std::vector<Vergleichspaar>& Paare, bool NurHoehen);
