@@ -1,10 +1,14 @@
 #include <algorithm>
+#include <optional>
+#include <utility>
 
+#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/points/Punkteingabe.h>
+#include <tavorena/points/TVPDoppForm.h>
 #include <tavorena/records/Neupunktblock.h>
 #include <tavorena/records/Protokoll.h>
 
@@ -37,7 +41,95 @@ int NotizSchreiben(NeupunktCode Code, const NeupunktErgebnis& E) {
   return Notiz.Zeilen.empty() ? 0 : ProtBlock(Prot, Notiz);
 }
 
+// Points on their way into the table; their entries are written when all of them are in it.
+class Reiheneingabe {
+ public:
+  explicit Reiheneingabe(Eingabezählung& Z) : Zählung(Z) {}
+
+  // @return 0 or -1
+  int Nehmen(const Punktsatz& P) {
+    Wert Pnr(P.Pnr);
+    const int Besitzer = KorSucheMitPunkt(Pnr);
+    if (Besitzer < 0) {  // all of them are sorted at once
+      if (KorAnhängen(P.Satz()) < 0) return Voll();
+      return Merken(NeupunktCode::Neu, {0, 0, P.Pnr, P.Rechts, P.Hoch, {}}, P, P);
+    }
+    const Punktsatz Alter = PunktsatzVon(Besitzer);
+    NeupunktErgebnis E;
+    const NeupunktCode Code =
+        Neupunkt(Pnr, P.Rechts, P.Hoch, P.Hoehe != 0 ? Wert(P.Hoehe) : Wert(), P.Symbol, &P.Info, E);
+    if (Code == NeupunktCode::Nichts) return -1;
+    return Merken(Code, E, P, Alter);
+  }
+
+  int Abschließen(Punkttat& Tat) {
+    KorSortieren();
+    for (auto Z = Zurück.rbegin(); Z != Zurück.rend(); ++Z) {
+      if (Tat.BeiRücknahme.empty() || Tat.BeiRücknahme.back().Titel != Z->Titel)
+        Tat.BeiRücknahme.push_back({Z->Titel, {}});
+      Tat.BeiRücknahme.back().Punkte.push_back(std::move(Z->Punkte.front()));
+    }
+    for (const Gemerktes& G : Getan) {
+      if (Eintragen(G.Eintrag) < 0 || NotizSchreiben(G.Code, G.E) < 0) return -1;
+    }
+    return 0;
+  }
+
+ private:
+  struct Gemerktes {
+    Punkteintrag Eintrag;
+    NeupunktCode Code;
+    NeupunktErgebnis E;
+  };
+
+  static int Voll() {
+    LaufzeitFehlerMeldung(Laufzeitfehler::Index, "Punkteingabe.PunkteEingeben");
+    return -1;
+  }
+
+  int Merken(NeupunktCode Code, const NeupunktErgebnis& E, const Punktsatz& P, const Punktsatz& Alter) {
+    if (Code == NeupunktCode::NeuerVerworfen) return ++Zählung.Verworfene, 0;
+    const bool Ersetzt = Code == NeupunktCode::AlterErsetzt || Code == NeupunktCode::Gemittelt;
+    ++(Ersetzt ? Zählung.Ersetzte : Zählung.Neue);
+    Punktsatz Getippt = P;
+    Getippt.Pnr = E.Pnr;
+    // A note stands below the last point of its entry.
+    if (Getan.empty() || Getan.back().Code != NeupunktCode::Neu)
+      Getan.push_back({{TitelEingabe, {}}, Code, E});
+    Getan.back().Eintrag.Punkte.push_back({{Getippt.Rechts, Getippt.Hoch, Getippt.Pnr}, ""});
+    Getan.back().Code = Code;
+    Getan.back().E = E;
+    for (Punkteintrag& Z : Zurücknahme(Code, E, Alter, Getippt)) Zurück.push_back(std::move(Z));
+    return 0;
+  }
+
+  Eingabezählung& Zählung;
+  const Punktreihe Reihe;
+  std::optional<Beschäftigung> Lang{std::in_place};
+  std::vector<Gemerktes> Getan;
+  std::vector<Punkteintrag> Zurück;
+};
+
 }  // namespace
+
+int PunkteEingeben(Rücknahme& R, const std::string& Name, const std::vector<Punktsatz>& Neue,
+                   Eingabezählung& Zählung) {
+  Zählung = {};
+  Punkttat Tat{Name, {}};
+  return R.Ausführen(Tat, [&] {
+    Reiheneingabe Eingabe(Zählung);
+    Atempause Pause(0.5);
+    for (const Punktsatz& P : Neue) {
+      if (Eingabe.Nehmen(P) < 0) return -1;
+      if (!Pause.Fällig()) continue;
+      KorAnzahlAnzeigen();
+      AblaufPort().EreignisseAbarbeiten();
+      if (std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop) return -1;
+    }
+    KorAnzahlAnzeigen();
+    return Eingabe.Abschließen(Tat);
+  });
+}
 
 NeupunktCode PunktEingeben(Rücknahme& R, Punktsatz& P) {
   Wert Pnr(P.Pnr);

@@ -1,10 +1,13 @@
 #include "Aktentest.h"
+#include "Formulartest.h"
 
 #include <sstream>
 
 #include <tavorena/core/Text.h>
+#include <tavorena/points/Punkteingabe.h>
 #include <tavorena/points/Punktgruppen.h>
 #include <tavorena/points/Punktverwaltung.h>
+#include <tavorena/points/TVPDoppForm.h>
 #include <tavorena/points/Uebernahme.h>
 
 namespace tavorena::test {
@@ -289,6 +292,27 @@ TEST_F(Punktverwaltung, ZweiNebeneinander) {
   std::vector<int> Zeilen;
   EXPECT_EQ(NummerZeilen("1", Zeilen), 0);
   EXPECT_EQ(PunktsatzVon(Zeilen.front()), Vorher.front());
+}
+
+// Points of another file: one deed, one question for all taken numbers, the file's own repetitions too.
+TEST_F(Punktverwaltung, VielePunkteSindEineTat) {
+  const std::vector<Punktsatz> Neue = {
+      {"5,5", 1, 2, 0, ""}, {"1", 101, 201, 11, ""}, {"4", 3, 4, 0, "020"}, {"4", 5, 6, 0, ""}};
+  Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
+  Skript.Formulare.push_back(Bediene({{"PDoppAbbruch", ""}}));
+  Eingabezählung Z;
+  EXPECT_EQ(PunkteEingeben(R, "Probe", Neue, Z), -1);
+  EXPECT_TRUE(Gleich(Tabelle(), Vorher, Inhalt(Prot.Datei), ""));  // broken off: nothing has happened
+  Skript.Formulare.push_back([](Formular& Form) {
+    Form.Öffnen();
+    Form.Wählen(Element<Auswahl>(Form, "PDoppFürAlle"), "", true);
+    Drücke(Form, "PDoppAltenLöschen");
+  });
+  ASSERT_EQ(PunkteEingeben(R, "Probe", Neue, Z), 0);
+  EXPECT_TRUE(Gleich(Z.Neue, 2, Z.Ersetzte, 2, Z.Verworfene, 0, Nummern(), "1 2 2 3 4 5.5 8A ", KorRechts[0],
+                     101, KorHoch[4], 6, R.Name(), "Probe"));
+  EXPECT_EQ(R.Zurück(), 0);
+  EXPECT_EQ(Tabelle(), Vorher);
 }
 
 }  // namespace
