@@ -25,6 +25,8 @@ struct Rohdatenwahl {
   bool OhneNullen = true;      ///< numbers lose leading "+" and "0"
   bool LagenMitteln = false;   ///< both faces of a point become one row
   bool AlleEinheiten = false;  ///< feet, sexagesimal degrees and mil too
+
+  bool operator==(const Rohdatenwahl&) const = default;
 };
 
 /// A measurement that can be taken over: direction, zenith angle and distance are there and understood.

@@ -7,8 +7,6 @@
 
 namespace tavorena {
 
-struct Rohdaten;  // what the file holds
-
 /// Help number of what is said about raw data.
 inline constexpr int Rohdatenseite = 1045;
 
