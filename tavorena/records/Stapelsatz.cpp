@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -10,6 +12,10 @@ namespace {
 
 std::string StapelZahl(double Zahl) { return ZahlFormat(Zahl, 7, 4); }
 std::string StapelLangzahl(double Zahl) { return ZahlFormat(Zahl, 10, 4); }
+std::string StapelAblesung(double Zahl) {
+  constexpr int Breite = 13;
+  return std::isnan(Zahl) ? RechtsBündig("-", Breite) : ZahlFormat(Zahl, 7, 5);
+}
 
 // How many words of the line the keyword is; 0 if it does not stand there. Rest is what follows.
 int Worte(std::string_view Schlüssel, const Stapelzeile& Z, std::string_view& Rest) {
@@ -64,10 +70,12 @@ void Satzfeld::Anfügen(std::string& Zeile, bool Erstes) const {
     Zeile += Form == Art::Messzahl ? ZahlFormat(*Wert, 9, 4) : StapelLangzahl(*Wert);
     return;
   }
-  if (Form == Art::WeiterePnr && Worte->empty()) return;
+  if ((Form == Art::WeiterePnr || Form == Art::WeitererText) && Worte->empty()) return;
   if (!Erstes) Zeile += "  ";
-  if (Form == Art::Zahl) {
-    Zeile += StapelZahl(*Wert);
+  if (Wert != nullptr) {
+    Zeile += Form == Art::Zahl       ? StapelZahl(*Wert)
+             : Form == Art::Ablesung ? StapelAblesung(*Wert)
+                                     : Trimmen(*Wert);
     return;
   }
   if (Form == Art::Neupunkt) {
@@ -77,17 +85,19 @@ void Satzfeld::Anfügen(std::string& Zeile, bool Erstes) const {
   }
   const bool MitStrich = Worte->empty() && (Form == Art::Wort || Form == Art::NeuePnr);
   const std::string Text = MitStrich ? "-" : *Worte;
-  Zeile += Form == Art::Wort || Form == Art::Text ? Text : PnrFormat(Text);
+  const bool IstNummer = Form == Art::Pnr || Form == Art::NeuePnr || Form == Art::WeiterePnr;
+  Zeile += IstNummer ? PnrFormat(Text) : Text;
 }
 
 void Satzfeld::Nehmen(std::string_view& Rest) const {
-  if (Form == Art::Text) {
+  if (Form == Art::Text || Form == Art::WeitererText) {
     *Worte = TrimmenSicht(std::exchange(Rest, {}));
     return;
   }
   const std::string_view Wort = Wortnehmen(Rest);
   if (Wert != nullptr) {
-    *Wert = ZahlAusText(Wort);
+    const bool Keins = Form == Art::Ablesung && (Wort.empty() || Wort == "-");
+    *Wert = Keins ? std::numeric_limits<double>::quiet_NaN() : ZahlAusText(Wort);
     return;
   }
   const bool Keine =
@@ -184,6 +194,8 @@ int Satzfolge::BlockLesen() {
 }
 
 bool StapelZahlPaßt(double Zahl) { return StapelZahl(Zahl).find('*') == std::string::npos; }
+
+bool StapelAblesungPaßt(double Zahl) { return StapelAblesung(Zahl).find('*') == std::string::npos; }
 
 bool StapelLangzahlPaßt(double Zahl) { return StapelLangzahl(Zahl).starts_with(' '); }
 

@@ -20,7 +20,20 @@ namespace tavorena {
 /// A place of a record. Behind the keyword stands the first one as it is; the others follow after two blanks.
 class Satzfeld {
  public:
-  enum class Art { Pnr, NeuePnr, WeiterePnr, Zahl, Messzahl, Langzahl, Wort, Text, Neupunkt };
+  enum class Art {
+    Pnr,
+    NeuePnr,
+    WeiterePnr,
+    Zahl,
+    Messzahl,
+    Langzahl,
+    Kurzzahl,
+    Ablesung,
+    Wort,
+    Text,
+    WeitererText,
+    Neupunkt
+  };
   Satzfeld(Art WieGeschrieben, std::string& Variable, std::string* Zweite = nullptr)
       : Form(WieGeschrieben), Worte(&Variable), Symbol(Zweite) {}
   Satzfeld(Art WieGeschrieben, double& Variable) : Form(WieGeschrieben), Wert(&Variable) {}
@@ -53,6 +66,10 @@ inline Satzfeld Zahl(double& X) { return {Satzfeld::Art::Zahl, X}; }
 inline Satzfeld Messzahl(double& X) { return {Satzfeld::Art::Messzahl, X}; }
 /// A value in 10 integer places and 4 decimals, without blanks before it.
 inline Satzfeld Langzahl(double& X) { return {Satzfeld::Art::Langzahl, X}; }
+/// A value as short as it is.
+inline Satzfeld Kurzzahl(double& X) { return {Satzfeld::Art::Kurzzahl, X}; }
+/// A reading of a level in 7 integer places and 5 decimals; "-" for none (not a number).
+inline Satzfeld Ablesung(double& X) { return {Satzfeld::Art::Ablesung, X}; }
 /// A symbol, or a number as it was typed; "-" for none.
 inline Satzfeld Wort(std::string& X) { return {Satzfeld::Art::Wort, X}; }
 /// A number to store a point under and its symbol; "0  -   -" for no number at all.
@@ -61,6 +78,8 @@ inline Satzfeld Neupunkt(std::string& X, std::string& Symbol) {
 }
 /// The rest of the line.
 inline Satzfeld Text(std::string& X) { return {Satzfeld::Art::Text, X}; }
+/// The same, left out when it is empty.
+inline Satzfeld WeitererText(std::string& X) { return {Satzfeld::Art::WeitererText, X}; }
 }  // namespace satz
 /// @}
 
@@ -154,6 +173,8 @@ class Satzfolge {
 [[nodiscard]] bool StapelZahlPaßt(double Zahl);
 /// The same for 10 integer places: a blank must stay before it.
 [[nodiscard]] bool StapelLangzahlPaßt(double Zahl);
+/// The same for 5 decimals.
+[[nodiscard]] bool StapelAblesungPaßt(double Zahl);
 /// A point number or a symbol: one word, and not "-", which stands for none. The empty text fits.
 [[nodiscard]] bool StapelWortPaßt(std::string_view Wort);
 /// A text up to the end of its line: no character that ends it, no blank at its ends.

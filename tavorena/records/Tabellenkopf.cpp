@@ -40,6 +40,7 @@ const Kopf Köpfe[] = {
     {"VR 10.00", Einschnitt},
     {"VR 11.00", Einschnitt},
     {"VR 19.10", {"      Rechts(m)    Hoch(m)         Beta(gon)   Entf.(m)    Pkt.Nr.  Bemerkung"}},
+    {"VR NI.00", {"          Rück   Zwischen        Vor         v         Höhe    Pkt.Nr.  Bemerkung"}},
 };
 
 const std::vector<std::string> PolarMitHoehen = {

@@ -5,6 +5,7 @@
 #include <tavorena/records/FStat.h>
 #include <tavorena/records/Kreismitte.h>
 #include <tavorena/records/Messlinie.h>
+#include <tavorena/records/Nivellement.h>
 #include <tavorena/records/Pol.h>
 #include <tavorena/records/Polar.h>
 #include <tavorena/records/Polel.h>
@@ -61,6 +62,19 @@ ProtFStat Station(bool Kongruent) {
               208.765};
   if (Kongruent) S.StandHoehe = S.Punkte[0].dHo = S.Punkte[0].Messung.Hoehe = Wert();
   return S;
+}
+
+Protnivellement Niv() {
+  const Wert Ohne;
+  const Protnivlinie Linie{{{"101", 1.234, Ohne, Ohne, Ohne, 182.3051, true},
+                            {"9001", Ohne, 2.5, Ohne, Ohne, 181.0391, false, true},
+                            {"102", Ohne, Ohne, 0.98765, -0.0012, 182.5503, true}},
+                           1.234,
+                           0.98765,
+                           {{"101", "102", true, {-0.0012, 0.0034}, 0.0512}}};
+  Protnivellement N{{Linie, Linie}, {{0.0021, 0.5}}, 1.49};
+  N.Linien[1].Abschnitte = {{"101", "102", true, {0.0035, 0.0034}, 0.0512}, {"102", "7", false, {}, 12.3}};
+  return N;
 }
 
 Protflaeche Flaeche() {
@@ -141,6 +155,7 @@ std::vector<Block> Eigene(int n) {
       FStatAnschluss(n, {A, E, 20.9666, {}, 20.0, 99.985, 0.015, 0.16}, 0.012),
       FStatAnschluss(n, {A, E, 20.9666, {}, 20.0, 99.985, 0.015, 0.16}, {}),
       FStatPolarAnschluss(n, A, 123.45678),
+      NivellementBlock(n, Niv(), 3),
       HelmertBlock(n, {Passung, false, false, 1, 12.5, 0.98, 0.19, 0, 0}),
       HelmertBlock(n, {Passung, true, true, 1, 12.5, 0.98, 0.19, 0.5, 0.2}),
       AffinBlock(n, Affin(false)),
@@ -166,7 +181,7 @@ std::string Zusammen(const std::vector<Block>& Alle, int Marken) {
 }
 
 TEST(Artenblock, JedeArtWieGedruckt) {
-  std::string Text = Zusammen(Gemeinsame(3), 15) + Zusammen(Eigene(3), 6);
+  std::string Text = Zusammen(Gemeinsame(3), 15) + Zusammen(Eigene(3), 8);
   Polnachweis N{"Flurstück 12/3", "Ost", 1479.56, {}, 4, 3, 0};
   N.Kanten = {{A, 30, Kantenart::Linie, 0, 0, 0, 0},
               {E, 46.365, Kantenart::InnenLang, 25, 3500170, 5600270, 40}};

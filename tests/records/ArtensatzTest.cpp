@@ -8,6 +8,7 @@
 #include <tavorena/records/Flaeche.h>
 #include <tavorena/records/Kreismitte.h>
 #include <tavorena/records/Messlinie.h>
+#include <tavorena/records/Nivellement.h>
 #include <tavorena/records/Polar.h>
 #include <tavorena/records/Rueckwaerts.h>
 #include <tavorena/records/Schnitte.h>
@@ -67,6 +68,16 @@ Zugeingabe Zug(Wurf& W) {
   return E;
 }
 
+Niveingabe Nivellement(Wurf& W) {
+  const auto Oder = [&W] { return W.Ja() ? W.Zahl() / 10 : KeineAblesung; };
+  Niveingabe E;
+  E.Klasse = 5 * (1 + W.Aus(3));
+  for (int i = W.Aus(3); i > 0; --i) E.Feste.push_back({W.Pnr(), W.Zahl()});
+  for (int i = W.Aus(6); i > 0; --i)
+    E.Zeilen.push_back({W.Pnr(), Oder(), Oder(), Oder(), Oder(), Oder(), W.Text()});
+  return E;
+}
+
 Flaecheneingabe Flaeche(Wurf& W) {
   Flaecheneingabe E{W.Text(), W.Text(), {}};
   for (int i = W.Aus(6); i > 0; --i)
@@ -117,6 +128,7 @@ const Art Arten[] = {
     Fall(StapelVorwaertsschnitt, StapelLeseVorwaertsschnitt, Vorwaerts),
     Fall(StapelRueckwaertsschnitt, StapelLeseRueckwaertsschnitt, Rueckwaerts),
     Fall(StapelPolygon, StapelLesePolygon, Zug),
+    Fall(StapelNivellement, StapelLeseNivellement, Nivellement),
     Fall(StapelFlaeche, StapelLeseFlaeche, Flaeche),
     Fall(StapelTransformation, StapelLeseTransformation, Transformation),
     Fall([](const DreiDEingabe& E) { return StapelDreiD(DreiDArt::Lotabstand, E); },
@@ -154,7 +166,10 @@ TEST_F(Artensatz, WasGeschriebenIstLiestSichZurück) {
       ASSERT_EQ(Gelesen, Geschrieben);
       if (&A < &Arten[4]) continue;  // a row, or a head above rows: plan name and order belong to its head
       // Another order, lower case, commas, comments, plan name.
-      if (!Andere.empty() && !Andere.front().starts_with("PN"))
+      const auto Zeile = [&](const char* Satz) {
+        return !Andere.empty() && Andere.front().starts_with(Satz);
+      };
+      if (!Andere.empty() && !Zeile("PN") && !Zeile("NIV") && !Zeile("FEST"))
         std::rotate(Andere.begin(), Andere.begin() + 1, Andere.end());
       for (std::string& Z : Andere) {
         for (char& z : Z) z = z == '.' ? ',' : z >= 'A' && z <= 'Z' ? static_cast<char>(z + 32) : z;
@@ -203,6 +218,11 @@ TEST_F(Artensatz, WieGedruckt) {
            StapelRueckwaertsschnitt({true, {}, "2013", ""}),
            StapelPolygon(Z),
            StapelPolygon({"", Zugklasse::Frei, false, false, false, false, "", "1", 0, 1, {}, "", 0, ""}),
+           StapelNivellement(
+               {{{"101", 182.3051}},
+                {{"101", 1.23456, KeineAblesung, KeineAblesung, 25.3},
+                 {"9001", KeineAblesung, 2.5, KeineAblesung, KeineAblesung, KeineAblesung, "Schacht 7"}},
+                10}),
            StapelFlaeche({"Flurstück 12/3", "Ost", Kanten}),
            StapelTransformation(
                {"/daten/auftrag/neu.kor", {{false, "1002", "5002"}, {true, "1003", ""}}, "1001", true, true}),
