@@ -8,8 +8,8 @@
 
 /// @file
 /// Levelling files. NIV, the field book: a row a point with number, backsight, intermediate sight, foresight,
-/// the lengths of back- and foresight and a remark, by blanks; "-" or a row that ends stand for none, "," counts
-/// as ".". "C" begins a comment, "NIV" and a name a further line. DAT: a row a set-up.
+/// the lengths of back- and foresight and a remark, by blanks; "-" or a row that ends stand for none, ","
+/// counts as ".". "C" begins a comment, "NIV" and a name a further line. DAT: a row a set-up.
 
 namespace tavorena {
 

@@ -17,10 +17,10 @@ struct Nivfund {
   std::vector<std::string> Hinweise;  ///< what the surveyor should look at, with the line
 };
 
-/// The readings of a level as a field book: GSI words 331, 332, 333 (backsight, foresight, intermediate sight),
-/// 335 and 336 (the second back- and foresight of a set-up, whose means count; differences above 1 mm are told)
-/// with the length of their sight in word 32, and in GRE HO_RB, HO_VB, HO_ZB with HD. A backsight to another point
-/// than the last foresight, and a code block "?", begin a further line.
+/// The readings of a level as a field book: GSI words 331, 332, 333 (backsight, foresight, intermediate
+/// sight), 335 and 336 (the second back- and foresight of a set-up, whose means count; differences above 1 mm
+/// are told) with the length of their sight in word 32, and in GRE HO_RB, HO_VB, HO_ZB with HD. A backsight
+/// to another point than the last foresight, and a code block "?", begin a further line.
 /// @return 0; -1 the file can not be read, the reason is in Grund ("" if there is none)
 [[nodiscard]] int NivellementLesen(const std::string& Quelle, Rohform Form, Nivfund& F,
                                    std::string* Grund = nullptr);
