@@ -21,6 +21,8 @@ namespace tavorena {
 /// @}
 /// "dxf": reads free lines and arcs from a DXF file and writes DXF files, with the points of the table too.
 [[nodiscard]] Konsolenbefehl DxfBefehl();
+/// "gesamtdatei a.ges": adds an epoch of heights or coordinates, writes the list of movements.
+[[nodiscard]] Konsolenbefehl GesamtdateiBefehl();
 
 /// @name What changes points; each is one deed, wholly done or not at all
 /// @{

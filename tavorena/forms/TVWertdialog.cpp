@@ -101,10 +101,12 @@ class Dateiform final : public Dialogform {
   }
 
  private:
+  static bool IstAusgabe(const Dateifeld& D) { return D.Ausgabe || D.Fortgeschrieben; }
+
   static void NameWählen(Feld& F, const Dateifeld& D) {
     const Dateiname Teile = DateinameZerlegen(*F.Text);
     const std::string Vorgabe = F.Text->substr(Teile.Ordner.size());
-    Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Vorgabe, !D.Ausgabe, "", false};
+    Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Vorgabe, !IstAusgabe(D), "", false};
     const std::string Name = FragenPort().DateiWählen(Auftrag);
     if (!Name.empty()) F.Text = Name;
   }
@@ -115,7 +117,7 @@ class Dateiform final : public Dialogform {
       const std::string Name = Trimmen(*Felder[i]->Text);
       if (Name.empty()) return FokusSetzen(*Felder[i]);
       for (std::size_t k = 0; k < i; ++k) {
-        if (Dateien[i].Ausgabe == Dateien[k].Ausgabe || Name != Trimmen(*Felder[k]->Text)) continue;
+        if (IstAusgabe(Dateien[i]) == IstAusgabe(Dateien[k]) || Name != Trimmen(*Felder[k]->Text)) continue;
         Hinweis("Dateiname für Ein- und Ausgabe ist gleich:\n" + Name);
         return FokusSetzen(*Felder[i]);
       }

@@ -35,8 +35,9 @@ struct Wahlpaar {
 struct Dateifeld {
   std::string Label;
   std::string Name;
-  std::string Filter;    ///< of its file-choosing button
-  bool Ausgabe = false;  ///< an existing file is asked about; must differ from the inputs
+  std::string Filter;            ///< of its file-choosing button
+  bool Ausgabe = false;          ///< an existing file is asked about; must differ from the inputs
+  bool Fortgeschrieben = false;  ///< an output that is extended: it need not exist, and is not asked about
 };
 
 /// Asks for the file names, each with a button that chooses one. @return 0; -1 if cancelled

@@ -17,6 +17,7 @@
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Epochenbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/Punktbefehle.h>
@@ -144,11 +145,6 @@ void HinzuPunktselektion() {
   });
 }
 
-void Ansehen(const std::string& Datei) {
-  if (Datei.empty() || UmgebungPort().ProgrammStarten(Optionen.DateinameEditorNT, Datei) == 0) return;
-  LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
-}
-
 void AnsichtProtokoll() { Ansehen(Prot.Datei); }
 void AnsichtStapel() { Ansehen(StapelDatei.Name); }
 void AnsichtKoordinaten() { Ansehen(KoordinatendateiName); }
@@ -238,6 +234,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   // Besides the commands of the tables each kind of worksheet has one.
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
+    for (const Befehl& E : Epochenbefehle()) B.push_back(E);
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
@@ -249,6 +246,11 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   const auto i =
       std::find_if(Alle.begin(), Alle.end(), [&](const Befehl& B) { return B.Eintrag == Eintrag; });
   return i != Alle.end() ? &*i : nullptr;
+}
+
+void Ansehen(const std::string& Datei) {
+  if (Datei.empty() || UmgebungPort().ProgrammStarten(Optionen.DateinameEditorNT, Datei) == 0) return;
+  LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
 }
 
 void HistorieÖffnen(int Index) {

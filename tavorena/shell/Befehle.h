@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace tavorena {
@@ -23,6 +24,9 @@ inline constexpr const char* NichtVorhanden = "Noch keine Koordinaten vorhanden 
 
 /// The command of an entry, nullptr if its function does not exist (yet).
 const Befehl* BefehlFinden(std::string_view Eintrag);
+
+/// Opens a file in the text editor, with a message if that does not start. Without a name nothing happens.
+void Ansehen(const std::string& Datei);
 
 /// Opens a file of the history.
 void HistorieÖffnen(int Index);

@@ -211,6 +211,51 @@ TEST_F(Programm, Punktlisten) {
   }
 }
 
+TEST_F(Programm, Gesamtdatei) {
+  Schreibe(Ordner.Pfad("a.hli"), "10 150.1887\n12 0\nEnde\n");
+  Schreibe(Ordner.Pfad("b.hli"), "10 150.1861\n12 0.0001\n");
+  Schreibe(Ordner.Pfad("g.kor"), "1001 3500100 5600200\r\n2 3500160 5600280 7\r\n");
+  struct Fall {
+    const char* Worte;
+    int Rückgabe;
+    const char *Ausgabe, *Meldung;
+  };
+  for (const auto& [Worte, Rückgabe, Ausgabe, Meldung] :
+       {Fall{"a.ges --epoche 1.2.2003 --hoehen a.hli", 0,
+             "a.ges, 01.02.2003: 2 Punkte, davon 2 neu, 1 Zeile der Datei ohne Punkt\n", ""},
+        {"a.ges --epoche 05.06.2004 --hoehen b.hli --liste a.dru", 0,
+         "a.ges, 05.06.2004: 2 Punkte, davon 0 neu\n", ""},
+        {"a.ges --epoche 05.06.2004 --hoehen a.hli", 1, "",
+         "a.hli: Frage ohne Antwort: Die Epoche 05.06.2004"},
+        {"a.ges --epoche 05.06.2004 --hoehen b.hli --trotzdem", 0,
+         "a.ges, 05.06.2004: 2 Punkte, davon 0 neu\n", ""},
+        {"a.ges --epoche 6.7.2005 --koordinaten g.kor", 0,
+         "a.ges, 06.07.2005: 1 Punkt, davon 1 neu, 1 Punkt ohne Höhe, nicht aufgenommen\n", ""},
+        {"b.ges --epoche 31.12.2003 --koordinaten g.kor", 0,
+         "b.ges, 31.12.2003: 2 Punkte, davon 2 neu, 1 Punkt ohne Höhe\n", ""},
+        {"b.ges --epoche 31.4.2003 --koordinaten g.kor", 1, "",
+         "b.ges: Fehler aufgetreten: Kein Datum: 31.4.2003"},
+        {"b.ges --epoche 1.4.2003 --hoehen a.hli", 1, "",
+         "a.hli: Fehler aufgetreten: Die Gesamtdatei braucht"},
+        {"b.ges --epoche 1.4.2003", 1, "", "b.ges: Fehler aufgetreten: zu --epoche gehört"},
+        {"b.ges", 1, "", "b.ges: Fehler aufgetreten: --epoche oder --liste fehlt"},
+        {"fehlt.ges --liste b.dru", 1, "", "fehlt.ges: "},
+        {"a.hli --epoche 1.4.2003 --hoehen a.hli", 1, "",
+         "a.hli: Fehler aufgetreten: Dateiname für Ein- und"},
+        {"a.ges --liste a.ges", 2, "", "a.ges: die Datei von --liste ist auch"}}) {
+    EXPECT_EQ(Laufen(TAVORENA_STAPEL, std::string("gesamtdatei ") + Worte), Rückgabe) << Worte << Meldungen;
+    EXPECT_EQ(Aus, Ausgabe) << Worte;
+    EXPECT_TRUE(Meldungen.starts_with(Meldung)) << Worte << '\n' << Meldungen;
+  }
+  EXPECT_EQ(Inhalt(Ordner.Pfad("a.ges")),
+            "GES H 01.02.2003 05.06.2004 06.07.2005\r\n"
+            "      10    150.1887    150.1861           -\r\n"
+            "      12      0.0000      0.0001           -\r\n"
+            "       2           -           -      7.0000\r\n");
+  EXPECT_NE(Inhalt(Ordner.Pfad("a.dru")).find("10  05.06.2004  150.186   -2.6 ******       -2.6 ******"),
+            std::string::npos);
+}
+
 TEST_F(Programm, PunkteÄndern) {
   Schreibe(Ordner.Pfad("d.kor"), "1 3500100 5600200\r\n1 3500100.02 5600200\r\n2 3500130 5600230\r\n");
   struct Fall {

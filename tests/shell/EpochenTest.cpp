@@ -1,0 +1,48 @@
+#include "Shelltest.h"
+
+#include <tavorena/core/Text.h>
+
+namespace tavorena::test {
+namespace {
+
+// A surveyor's two epochs from the menu: files, date, list, parameters.
+TEST_F(Shelltest, SetzungsmessungÜberDasMenü) {
+  Öffne();
+  Optionen.DateinameEditorNT = "editor";
+  const std::string Ges = Ordner.Pfad("a.ges"), Hli = Ordner.Pfad("a.hli"),
+                    Ini = Ordner.Pfad("app/setzung1.txt");
+  const auto Dazu = [&](const char* Eintrag, const std::string& Datei, const std::string& Datum) {
+    Skript.Formulare.push_back(Bediene({{"Datei(0)", Datei}, {"Datei(1)", Ordner.Pfad("a")}, {"OK", ""}}));
+    Skript.Formulare.push_back([Datum](Formular& Form) {
+      Form.Öffnen();
+      EXPECT_EQ(Text(Form, "Wert(0)"), "01.02.2003") << "today";
+      if (!Datum.empty()) Tippe(Form, "Wert(0)", Datum);
+      Drücke(Form, "OK");
+    });
+    Befehl(Eintrag);
+  };
+  Schreibe(Hli, "10 150.1887\n12 150\n");
+  Dazu("MenüFunktSetzungsmessung(3)", Hli, "");
+  EXPECT_EQ(Skript.Status[4], "   01.02.2003: 2 Punkte, davon 2 neu   ");
+  Schreibe(Hli, "10 150.1861\n12 150.0001\n13 ?\n");
+  Skript.Erwarte("05.06.2004: 2 Punkte, davon 0 neu, 1 Zeile der Datei ohne Punkt");
+  Dazu("MenüFunktSetzungsmessung(3)", Hli, "5.6.2004");
+  const std::string Vorher = Inhalt(Ges);
+  Skript.Erwarte("Die Epoche 01.02.2003 ist schon vorhanden", KnopfNein);
+  Dazu("MenüFunktVerformungsmessung(0)", A_kor, "");
+  EXPECT_TRUE(Gleich(Inhalt(Ges), Vorher, Skript.LetzteVorgabe, KnopfNein));
+  Befehl("MenüFunktSetzungsmessung(6)");
+  EXPECT_TRUE(Gleich(Skript.Gestartet[0], "editor", Skript.Gestartet[1], Ordner.Pfad("app\\setzung1.txt")));
+  Schreibe(Ini, "Brücke\n0.5\n2\n12\n");
+  Befehl("MenüFunktSetzungsmessung(6)");
+  EXPECT_EQ(Inhalt(Ini), "Brücke\n0.5\n2\n12\n") << "only a missing one is written";
+  Befehl("MenüFunktSetzungsmessung(4)", Ges);
+  EXPECT_EQ(Skript.Gestartet[1], Ordner.Pfad("a-ges.dru"));
+  EXPECT_NE(Inhalt(Ordner.Pfad("a-ges.dru")).find("-2.7 ******>zul"), std::string::npos);
+  Optionen.DateinameVerformung = Ordner.Pfad("neu/v.txt");
+  Befehl("MenüFunktVerformungsmessung(3)");
+  EXPECT_TRUE(Inhalt(Optionen.DateinameVerformung).starts_with("Verformungsmessung  Titel der Liste\r\n3  "));
+}
+
+}  // namespace
+}  // namespace tavorena::test
