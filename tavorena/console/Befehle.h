@@ -24,6 +24,12 @@ namespace tavorena {
 /// "gesamtdatei a.ges": adds an epoch of heights or coordinates, writes the list of movements.
 [[nodiscard]] Konsolenbefehl GesamtdateiBefehl();
 
+/// @name Raw data
+/// @{
+[[nodiscard]] Konsolenbefehl GsiAusgabeBefehl();  ///< "gsi-ausgabe b.gsi --koordinaten a.kor --art 41"
+[[nodiscard]] Konsolenbefehl RohdatenBefehl();  ///< "rohdaten a.gsi": the report, and other forms of the file
+/// @}
+
 /// @name What changes points; each is one deed, wholly done or not at all
 /// @{
 [[nodiscard]] Konsolenbefehl LöschBefehl();            ///< "loeschen --nummer NR" or "--bereich VON,BIS"

@@ -4,9 +4,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Datei.h>
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -243,23 +241,6 @@ void Rohlesung::Ende(std::string_view Text) {
   Prüfung.Abschließen(Text);
 }
 
-// Reads all lines. @return false: the stop button
-bool Durchlesen(std::string_view Text, Rohlesung& Lesung) {
-  Atempause Pause(0.5);
-  std::string_view Zeile;
-  std::size_t Gelesen = 0, Zähler = 0;
-  for (Zeilenleser Leser(Text); Leser.Nächste(Zeile);) {
-    Lesung.Zeile(Zeile);
-    Gelesen = static_cast<std::size_t>(Zeile.data() - Text.data());
-    if (++Zähler % 256 != 0 || !Pause.Fällig()) continue;
-    StatusHilfeSetzen("Rohdaten gelesen: " + std::to_string(Gelesen / (Text.size() / 100 + 1)) + " %");
-    AblaufPort().EreignisseAbarbeiten();
-    if (std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop) return false;
-  }
-  Lesung.Ende(Text);
-  return true;
-}
-
 }  // namespace
 
 Rohform RohformVon(std::string_view Datei, Rohform Wahl) {
@@ -314,19 +295,18 @@ bool StationAusCodeblock(const Codeblock& Block, const Rohdatenwahl& Wahl, std::
 }
 
 int RohtextLesen(std::string_view Text, const Rohdatenwahl& Wahl, Rohdaten& Roh) {
-  const Beschäftigung Lang;
   const Rohform Form = RohformVon(Roh.Datei, Wahl.Form);
   const std::string Datei = Roh.Datei;
   bool Fertig = false, MitCode = false, MitKoordinaten = false;
   for (const bool NachKoordinaten : {false, true}) {
     Roh = {Datei, Form, {}, {}, {}};
     const auto Lesung = std::make_unique<Rohlesung>(Wahl, NachKoordinaten, Roh);
-    Fertig = Durchlesen(Text, *Lesung);
+    Fertig = ZeilenDurchgehen(Text, [&](std::string_view Zeile) { Lesung->Zeile(Zeile); });
+    if (Fertig) Lesung->Ende(Text);
     MitCode = Lesung->HatStationscode();
     MitKoordinaten = Lesung->HatStationskoordinaten();
     if (!Fertig || MitCode || !MitKoordinaten) break;
   }
-  StatusHilfeSetzen("");
   if (!Fertig) Roh = {Datei, Form, {}, {}, {}};
   return Fertig ? 0 : -2;
 }

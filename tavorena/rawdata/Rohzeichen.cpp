@@ -3,7 +3,13 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <string>
+#include <utility>
 
+#include <tavorena/core/Atempause.h>
+#include <tavorena/core/Datei.h>
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/rawdata/Rohzeichen.h>
@@ -30,8 +36,8 @@ constexpr char Groß(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c
 
 // The places of characters are only looked up in lines that need it.
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
-Zeichenzeile::Zeichenzeile(std::string_view Zeile)
-    : Text(Zeile), Anzahl(Zeile.size()), Ascii(NurAscii(Zeile)) {
+Zeichenzeile::Zeichenzeile(std::string_view Zeile, bool Utf8)
+    : Text(Zeile), Anzahl(Zeile.size()), Ascii(!Utf8 || NurAscii(Zeile)) {
   if (Ascii) return;
   Anzahl = ZeichenAnzahl(Text);
   std::size_t n = 0;
@@ -66,6 +72,25 @@ bool GanzesFeld(std::string_view Feld, double& Zahl) {
 std::string_view OhneFührendeNullen(std::string_view Text) {
   const std::size_t Ab = Text.find_first_not_of(" \t+0");
   return Ab == std::string_view::npos ? "0" : TrimmenSicht(Text.substr(Ab));
+}
+
+bool ZeilenDurchgehen(std::string_view Text, const std::function<void(std::string_view)>& Tun) {
+  const Beschäftigung Lang;
+  Atempause Pause(0.5);
+  bool Gezeigt = false, Weiter = true;
+  std::string_view Zeile;
+  std::size_t Zähler = 0;
+  for (Zeilenleser Leser(Text); Weiter && Leser.Nächste(Zeile);) {
+    Tun(Zeile);
+    if (++Zähler % 256 != 0 || !Pause.Fällig()) continue;
+    const auto Gelesen = static_cast<std::size_t>(Zeile.data() - Text.data());
+    StatusHilfeSetzen("Rohdaten gelesen: " + std::to_string(Gelesen / (Text.size() / 100 + 1)) + " %");
+    Gezeigt = true;
+    AblaufPort().EreignisseAbarbeiten();
+    Weiter = std::exchange(KorStop, Laufwunsch::Weiter) != Laufwunsch::Stop;
+  }
+  if (Gezeigt) StatusHilfeSetzen("");
+  return Weiter;
 }
 
 bool GleichesWort(std::string_view A, std::string_view B) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string_view>
 
 /// @file
@@ -12,15 +13,19 @@ namespace tavorena {
 /// A line by characters. Plain ASCII takes the short way; nothing is allocated.
 class Zeichenzeile {
  public:
-  explicit Zeichenzeile(std::string_view Zeile);
+  /// @param[in] Utf8  false: each byte is a character
+  explicit Zeichenzeile(std::string_view Zeile, bool Utf8 = true);
   /// Characters of the whole line.
   [[nodiscard]] std::size_t Länge() const { return Anzahl; }
-  /// Anzahl characters from the 0-based character Ab on, among the first `Grenze`.
+  /// So many characters from the 0-based character Ab on. In lines that are not plain ASCII they must be
+  /// among the first `Grenze`.
   [[nodiscard]] std::string_view Teil(std::size_t Ab, std::size_t Zeichen) const {
     if (Ascii) return Text.substr(Ab, Zeichen);
     return Text.substr(Anfang[Ab], Anfang[Ab + Zeichen] - Anfang[Ab]);
   }
-  static constexpr std::size_t Grenze = 256;
+  /// Teil can reach that far.
+  [[nodiscard]] bool Erreicht(std::size_t Bis) const { return Bis <= Anzahl && (Ascii || Bis <= Grenze); }
+  static constexpr std::size_t Grenze = 512;
 
  private:
   std::string_view Text;
@@ -63,6 +68,10 @@ inline constexpr GSIForm Form8{8, 11}, Form16{16, 9};
 
 /// Without leading blanks, "+" and "0", and without blanks behind; "0" if nothing is left.
 [[nodiscard]] std::string_view OhneFührendeNullen(std::string_view Text);
+
+/// Does something with each line of a file; shows the progress, and ends at the stop button.
+/// @return false if it was stopped
+[[nodiscard]] bool ZeilenDurchgehen(std::string_view Text, const std::function<void(std::string_view)>& Tun);
 
 /// The two texts are the same apart from the case of ASCII letters.
 [[nodiscard]] bool GleichesWort(std::string_view A, std::string_view B);
