@@ -180,7 +180,10 @@ std::string GRECodeblockSchreiben(const Codeblock& Block) {
                                                            : 0;
   std::string Zeile = " Code" + RechtsBündig(Code, 9);
   for (std::size_t i = 1; i < Werte.size(); ++i)
-    Zeile += " I" + std::to_string(i) + ' ' + (i < Meter ? MitPunkt(Werte[i]) : Werte[i]);
+    Zeile += " I" + std::to_string(i) + ' ' +
+             (Werte[i].empty() ? "-"
+              : i < Meter      ? MitPunkt(Werte[i])
+                               : Werte[i]);
   return Zeile;
 }
 

@@ -84,7 +84,7 @@ void WertLesen(int Wort, std::string_view Info, std::string_view Daten, bool All
   Ziel.Gelesen = Zahl && Bekannt;
   if (Bekannt || Wort < 87) return;
   Ziel.Wert = Feld;
-  Ziel.Gelesen = Zahl || IstZahlwort(TrimmenSicht(Daten));
+  Ziel.Gelesen = Zahl || (IstZahlwort(TrimmenSicht(Daten)) && std::isfinite(ZahlAusText(Daten)));
 }
 
 // Digits behind a sign lose their zeros, anything else stays as a whole.

@@ -128,6 +128,7 @@ std::vector<std::string> RohdatenBericht(const Rohdaten& Roh) {
   Z.push_back("Stationen: " + Zahl(B.Stationen));
   if (B.OhneStationscode)
     Z.push_back("  kein Stationscode: Zeilen mit Standpunktkoordinaten eröffnen die Stationen");
+  if (B.Stationen == 0 && B.Codezeilen > 0) Z.push_back("  keiner der Codes eröffnet einen Standpunkt");
   Stationsliste(Z, Roh);
   Z.push_back("Punkte: " + Zahl(B.Punkte));
   Wenn(Roh.Koordinaten.size(), "Koordinaten: ");

@@ -125,6 +125,7 @@ void Rohprüfung::GREWörter(std::string_view Zeile, const Messsatz& Satz) {
 
 void Rohprüfung::Nummer(std::string_view Zeile, std::string_view Nummer, std::string_view Code) {
   if (Nummer.empty()) return Melden(B.Auffällig, "Messung ohne Punktnummer");
+  if (Nummer.find(' ') != std::string_view::npos) Melden(B.Auffällig, "Punktnummer mit Leerzeichen");
   Code = Code.empty() ? Code : InZeile(Zeile, Code);
   const auto [Stelle, Neu] = Nummern.try_emplace(InZeile(Zeile, Nummer), Bekannt{Code});
   if (Neu || Code.empty() || Stelle->second.Gemeldet) return;

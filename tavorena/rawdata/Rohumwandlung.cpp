@@ -239,7 +239,9 @@ int RohdatenBasisAbziehen(const std::string& Quelle, const std::string& Ziel, in
 std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma) {
   std::string Text;
   for (const Rohkoordinate& K : Roh.Koordinaten) {
-    KorZeileAnhängen(Text, K.Nummer, K.Rechts, K.Hoch, K.Höhe.Zahl(), K.Code, Nachkomma);
+    std::string Nummer = K.Nummer;
+    ZeichenErsetzen(Nummer, ' ', '_');  // a file of words
+    KorZeileAnhängen(Text, Nummer, K.Rechts, K.Hoch, K.Höhe.Zahl(), K.Code, Nachkomma);
     Text += "\r\n";
   }
   return Text;

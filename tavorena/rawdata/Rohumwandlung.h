@@ -52,7 +52,7 @@ struct Koordinatenbasis {
                                         Rohform Form, Koordinatenbasis& Basis, Umwandlung& U,
                                         std::string* Grund = nullptr, bool Ersetzen = false);
 
-/// The coordinates of a raw-data file as the text of a KOR file.
+/// The coordinates of a raw-data file as the text of a KOR file. A blank in a number becomes "_".
 /// @param[in] Nachkomma  decimals
 [[nodiscard]] std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma);
 
