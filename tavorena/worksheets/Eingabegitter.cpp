@@ -16,8 +16,8 @@ namespace {
 std::vector<Gitterspalte> Gitterspalten(const std::vector<Zeilenspalte>& Spalten) {
   std::vector<Gitterspalte> Alle;
   for (const Zeilenspalte& S : Spalten)
-    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis, true, S.Art == Zellart::Nummer,
-                    Gezeigt<bool>(S.Sichtbar)});
+    Alle.push_back({S.Titel, S.Zeichen, S.Art != Zellart::Ergebnis && S.Art != Zellart::Marke,
+                    S.Art != Zellart::Marke, S.Art == Zellart::Nummer, Gezeigt<bool>(S.Sichtbar)});
   return Alle;
 }
 
@@ -25,12 +25,15 @@ constexpr double KeinMaß = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
 
-Eingabegitter::Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>& Spalten, Gitterverhalten Wie)
-    : Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), Gitterspalten(Spalten), {0, 0}, "Zeilen")),
+Eingabegitter::Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>& Spalten, Gitterverhalten Wie,
+                             const Gitterort& Wo)
+    : Zellen(Für.GitterAnlegen(Wo.Name.empty() ? Für.Mit("Gitter") : Wo.Name, Gitterspalten(Spalten), Wo.Ort,
+                               Wo.Rahmen)),
       Blatt(Für),
       Verhalten(std::move(Wie)) {
   for (const Zeilenspalte& S : Spalten) {
-    if (S.Art == Zellart::Maß) LetzteRechenspalte = static_cast<int>(Arten.size());
+    if (S.Art == Zellart::Maß && S.Sichtbar) LetzteRechenspalte = static_cast<int>(Arten.size());
+    if (S.Art == Zellart::Marke) Zellen.Markenspalte = static_cast<int>(Arten.size());
     if (S.Art == Zellart::Wort) Wortform = S.Wortform;
     Arten.push_back(S.Art);
   }
@@ -55,7 +58,7 @@ bool Eingabegitter::ZelleLesen(int z, int s) {
 Zeileneingabe Eingabegitter::Eingabe(int z) const {
   Zeileneingabe E;
   for (int s = 0; s < Spalten(); ++s) {
-    if (Art(s) == Zellart::Ergebnis) continue;
+    if (!Getippt(s)) continue;
     const std::string Text = Zellen.Inhalt(z, s);
     if (Art(s) == Zellart::Nummer) E.Pnr = Text;
     if (Art(s) == Zellart::Symbol) E.Symbol = Text;
@@ -67,7 +70,7 @@ Zeileneingabe Eingabegitter::Eingabe(int z) const {
 
 bool Eingabegitter::EingabeLesen(int z, Zeileneingabe& E) {
   for (int s = 0; s < Spalten(); ++s) {
-    if (Art(s) == Zellart::Ergebnis || ZelleLesen(z, s)) continue;
+    if (!Getippt(s) || ZelleLesen(z, s)) continue;
     Zellen.Spalte = s;
     return false;
   }
@@ -96,7 +99,7 @@ void Eingabegitter::ErgebnisseZeigen(int z, const std::vector<std::string>& Text
 
 bool Eingabegitter::HatEingabe(int z) const {
   for (int s = 0; s < Spalten(); ++s) {
-    const bool Zählt = Art(s) != Zellart::Ergebnis && Art(s) != Zellart::Symbol;
+    const bool Zählt = Getippt(s) && Art(s) != Zellart::Symbol;
     if (Zählt && !TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return true;
   }
   return false;
@@ -104,7 +107,7 @@ bool Eingabegitter::HatEingabe(int z) const {
 
 bool Eingabegitter::Vollständig(int z) const {
   for (int s = 0; s <= LetzteRechenspalte; ++s) {
-    if (Art(s) != Zellart::Ergebnis && TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return false;
+    if (Getippt(s) && TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return false;
   }
   return true;
 }
@@ -121,9 +124,9 @@ void Eingabegitter::SymbolÜbernehmen(int z) {
 }
 
 int Eingabegitter::ErsteSpalte() const {
-  const auto Erste =
-      std::find_if(Arten.begin(), Arten.end(), [](Zellart A) { return A != Zellart::Ergebnis; });
-  return static_cast<int>(Erste - Arten.begin());
+  int s = 0;
+  while (!Getippt(s)) ++s;
+  return s;
 }
 
 // ---- the keys --------------------------------------------------------------------------------------
@@ -158,9 +161,11 @@ bool Eingabegitter::TasteNehmen(Taste T) {
     case Taste::Ab:
       Blatt.ZelleWechseln(Zellen, Zellen.Zeile + (T == Taste::Auf ? -1 : 1), Zellen.Spalte);
       return true;
+    case Taste::Leer:
+      Blatt.Markieren(Zellen, Zellen.Zeile, false);
+      return true;
     case Taste::Plus:
     case Taste::Minus:
-    case Taste::Leer:
       break;
   }
   return false;

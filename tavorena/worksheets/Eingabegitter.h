@@ -8,8 +8,8 @@
 
 namespace tavorena {
 
-/// What stands in a column of rows. All but results are typed.
-enum class Zellart { Nummer, Ergebnis, Maß, Wort, Symbol };
+/// What stands in a column of rows. All but results and marks are typed.
+enum class Zellart { Nummer, Ergebnis, Maß, Wort, Symbol, Marke };
 
 /// A column of rows.
 struct Zeilenspalte {
@@ -44,11 +44,19 @@ struct Gitterverhalten {
   std::function<void()> Hinaus;
 };
 
+/// Where a grid stands.
+struct Gitterort {
+  std::string Name;  ///< of the control; "": that of a worksheet with one grid
+  Platz Ort = {};
+  std::string Rahmen = "Zeilen";
+};
+
 /// A grid of rows that are typed: its cells, their reading and the keys. Return leads from typed cell to
 /// typed cell and from row to row, Up and Down through the rows, Escape shows again what a row holds.
 class Eingabegitter {
  public:
-  Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>& Spalten, Gitterverhalten Wie);
+  Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>& Spalten, Gitterverhalten Wie,
+                const Gitterort& Wo = {});
   Eingabegitter(const Eingabegitter&) = delete;
   Eingabegitter& operator=(const Eingabegitter&) = delete;
 
@@ -80,6 +88,7 @@ class Eingabegitter {
   [[nodiscard]] int ErsteSpalte() const;
   [[nodiscard]] int Spalten() const { return static_cast<int>(Arten.size()); }
   [[nodiscard]] Zellart Art(int s) const { return Arten[static_cast<std::size_t>(s)]; }
+  [[nodiscard]] bool Getippt(int s) const { return Art(s) != Zellart::Ergebnis && Art(s) != Zellart::Marke; }
 
  private:
   void GitterReturn();
