@@ -37,6 +37,11 @@ int Aufzeichnung::Beginnen(Verbindung Neue) {
   return ImNachlauf ? 0 : Gesichert(Sätze.Beginnen(Über));
 }
 
+void Aufzeichnung::Fortsetzen(Verbindung Neue) {
+  Über = std::make_shared<const Verbindung>(std::move(Neue));
+  Gezählt = false;
+}
+
 int Aufzeichnung::Protokollieren(const Block& Zeile) {
   if (Prot.Datei.empty()) return 0;
   const int Ergebnis = Schreiben(Prot, Über, Zeile);

@@ -33,6 +33,10 @@ class Aufzeichnung {
   /// @return 0; -1 with a message if the batch block of the connection before could not be ended
   [[nodiscard]] int Beginnen(Verbindung Neue);
 
+  /// From now on something else stands above the rows in the protocol; their records go on in the batch block
+  /// that was begun, so those of Neue do not count.
+  void Fortsetzen(Verbindung Neue);
+
   /// The batch block stands open: the next row needs no new head.
   [[nodiscard]] bool BlockOffen() const { return Sätze.Offen(); }
 
