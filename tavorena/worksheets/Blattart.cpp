@@ -5,6 +5,7 @@
 #include <tavorena/worksheets/TVAusgleichForm.h>
 #include <tavorena/worksheets/TVDisForm.h>
 #include <tavorena/worksheets/TVDreiDForm.h>
+#include <tavorena/worksheets/TVFStatForm.h>
 #include <tavorena/worksheets/TVHelmertForm.h>
 #include <tavorena/worksheets/TVIntbbForm.h>
 #include <tavorena/worksheets/TVIntblForm.h>
@@ -204,6 +205,16 @@ constexpr Blattart Arten[] = {
      4210,
      "rueckwaertsschnitt.md",
      Neu<TVRueckwaertsschnittForm>},
+    {"TVFStatForm",
+     "Fstat",
+     "VR 19.50 Freie Stationierung",
+     "Freie Stationierung [Stapel]",
+     "Berechnung Freie Stationierung",
+     {"19.50", "FS"},
+     "MenüKatasterFStat",
+     4230,
+     "stationierung.md",
+     Neu<TVFStatForm>},
     {"TVPolygonForm",
      "Polygon",
      "VR 19.10 Polygonzüge",

@@ -289,8 +289,8 @@ TEST_F(Programm, MenüWieImFenster) {
         "MenüDateiStrich1\t\tMenüMain(1)\tStrich\t\n",
         "MenüKatasterLinel\t&Linienelemente\tMenüMain(4)\tgesperrt\tkeine Koordinatendatei offen\n",
         "MenüTestPanik\t&Panik-Exit\tMenüMain(10)\tverborgen\tnoch nicht vorhanden\n",
-        "ImageFStat\tFreie Stationierung / Polarer Anschluß\tSymbolleiste\tgesperrt\tnoch nicht "
-        "vorhanden\n"}) {
+        "ImageFStat\tFreie Stationierung / Polarer Anschluß\tSymbolleiste\tgesperrt\tkeine "
+        "Koordinatendatei offen\n"}) {
     EXPECT_NE(Aus.find(Zeile), std::string::npos) << Zeile;
   }
   EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue --koordinaten a.kor"), 0);

@@ -179,6 +179,10 @@ class FensterTest final : public Fensterumgebung {
          "NR3D     1001      1002      3001        0.8500");
     Fall("MenüKatasterPolygon", "7\n2003\n1001\n127\n30\n3001\n267\n27\n\n\n1002\n171\n2005\n\n",
          "NEUPWS     3001      267.0000       27.0000  -\r\nABSCHLP     1002      171.0000");
+    Fall("MenüKatasterFStat",
+         "2041\n\n\n\n1001\n191,4102\n97,9169\n41,2646\n\n1002\n290,4495\n98,6468\n91,7443\n\n\n\n\n"
+         "3001\n35,2217\n97,7976\n49,8716\n\n\n\n\n\n",
+         "NEUPUNKT       2041  -\r\nPWS     3001        35.2217        97.7976        49.8716");
     Fall("MenüKatasterArea", "N\n\n1001\n\n100,02\n1002\n-70g\n\n2003\n\n\n\n\n",
          "PN        1001      100.0200\r\nPNRIG     1002       70.0000        0.0000\r\nPN        2003");
   }

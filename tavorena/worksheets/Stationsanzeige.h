@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include <tavorena/worksheets/Rechenblatt.h>
+#include <tavorena/worksheets/Stationsrechnung.h>
+
+namespace tavorena {
+
+/// The result fields of a station.
+class Stationsanzeige {
+ public:
+  explicit Stationsanzeige(Rechenblatt& Blatt);
+  Stationsanzeige(const Stationsanzeige&) = delete;
+  Stationsanzeige& operator=(const Stationsanzeige&) = delete;
+
+  void Zeigen(const Stationsergebnis& E, Stationsart Art);
+  void Leeren();
+
+ private:
+  Feld &Rechts, &Hoch, &Höhe, &Artfeld, &Anzahl, &Massstab, &Drehwinkel, &MK, &ML;
+};
+
+}  // namespace tavorena
