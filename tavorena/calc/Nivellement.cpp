@@ -25,7 +25,7 @@ struct Feldbuch {
   explicit Feldbuch(const Zeilen& Alle) : Z(Alle), Rueckzeile(Alle.size(), -1) {}
 
   [[nodiscard]] const NivellementZeile& Zeile(int i) const { return Z[static_cast<std::size_t>(i)]; }
-  /// Takes all rows. @return 0, or what is wrong with a row
+  /// Takes all rows. @return 0, or a NivellementFehler with its row
   [[nodiscard]] int Lesen(int& Fehlerzeile);
 
   const Zeilen& Z;
@@ -52,7 +52,7 @@ int Feldbuch::Lesen(int& Fehlerzeile) {
     if (Fehler < 0) return Fehler;
   }
   Fehlerzeile = Genutzt() ? 0 : Offen;
-  return Genutzt() ? 0 : NivellementVorblickFehlt;
+  return Genutzt() ? 0 : NivellementVorblickOffen;
 }
 
 int Feldbuch::Nehmen(int i) {
@@ -260,8 +260,11 @@ int Netz::Rechnen(const Hoehen& Feste) {
       }
     }
   }
-  const auto Rest = std::find(Getan.begin(), Getan.end(), false);
-  return Rest == Getan.end() ? -1 : static_cast<int>(Rest - Getan.begin());
+  for (int i = 0; i < Anzahl; ++i) {
+    const NivellementLinie& L = B.E.Linien[static_cast<std::size_t>(i)];
+    if (!Getan[static_cast<std::size_t>(i)] && L.Von < L.Bis) return i;  // one that is but begun may wait
+  }
+  return -1;
 }
 
 }  // namespace
@@ -269,23 +272,24 @@ int Netz::Rechnen(const Hoehen& Feste) {
 int NivellementStaende(const Zeilen& Zeilen, std::vector<NivellementStand>& Staende, int& Zeile) {
   Feldbuch B(Zeilen);
   const int Fehler = B.Lesen(Zeile);
-  if (Fehler == 0) Staende = std::move(B.E.Staende);
+  if (Fehler >= 0) Staende = std::move(B.E.Staende);
   return Fehler;
 }
 
-int NivellementRechnen(const Zeilen& Zeilen, double k, NivellementErgebnis& Ergebnis, int& Zeile) {
+int NivellementRechnen(const Zeilen& Zeilen, double k, NivellementErgebnis& E, int& Zeile) {
   Feldbuch B(Zeilen);
-  if (const int Fehler = B.Lesen(Zeile); Fehler < 0) return Fehler;
+  const int Ergebnis = B.Lesen(Zeile), Endzeile = Zeile;
+  if (Ergebnis < 0) return Ergebnis;
   Hoehen Feste;
   if (const int Fehler = FesteSammeln(Zeilen, Feste, Zeile); Fehler < 0) return Fehler;
-  Zeile = 0;
   if (const int Linie = Netz(B, k).Rechnen(Feste); Linie >= 0) {
     Zeile = B.E.Linien[static_cast<std::size_t>(Linie)].Von;
     return NivellementFestpunktFehlt;
   }
   std::ranges::stable_sort(B.E.Abschnitte, {}, &NivellementAbschnitt::Linie);
-  Ergebnis = std::move(B.E);
-  return 0;
+  E = std::move(B.E);
+  Zeile = Endzeile;
+  return Ergebnis;
 }
 
 std::vector<NivellementPaar> NivellementPaare(const Zeilen& Zeilen, const NivellementErgebnis& E,
@@ -323,7 +327,7 @@ std::vector<NivellementPunkt> NivellementHoehen(const Zeilen& Zeilen, const Nive
   std::unordered_map<std::string_view, std::size_t> Orte;
   for (std::size_t i = 0; i < Zeilen.size(); ++i) {
     const double H = E.Zeilen[i].Hoehe;
-    if (E.Zeilen[i].Angehaengt) continue;  // it is the mean of the others
+    if (std::isnan(H) || E.Zeilen[i].Angehaengt) continue;  // it is the mean of the others
     const auto [Ort, Neu] = Orte.try_emplace(Zeilen[i].Punkt, Punkte.size());
     if (Neu) {
       Punkte.push_back({Zeilen[i].Punkt});

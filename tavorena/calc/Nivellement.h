@@ -66,8 +66,9 @@ struct NivellementErgebnis {
   std::vector<NivellementLinie> Linien;
 };
 
-/// Why a field book can not be computed; told with a row.
+/// Why a field book can not be computed, or not to its end; told with a row.
 enum NivellementFehler : int {
+  NivellementVorblickOffen = 1,     ///< the last backsight is of no use yet; all else is computed
   NivellementLeer = -1,             ///< there are no rows
   NivellementWertFalsch = -2,       ///< a value is infinite, or the length of a sight negative
   NivellementAblesungFehlt = -3,    ///< a row without a reading
@@ -80,7 +81,7 @@ enum NivellementFehler : int {
 
 /// The set-ups of a field book, heights or none.
 /// @param[out] Zeile  row at fault, from 0; 0 on success
-/// @return 0, or a NivellementFehler; Staende is then untouched
+/// @return 0, or a NivellementFehler; Staende is untouched on failure
 [[nodiscard]] int NivellementStaende(const std::vector<NivellementZeile>& Zeilen,
                                      std::vector<NivellementStand>& Staende, int& Zeile);
 
@@ -95,7 +96,7 @@ enum NivellementFehler : int {
 ///
 /// @param[in]  k         tolerance of a kilometre [mm]; FHZulaessig = k·√L with L in km, a set-up without
 ///                       lengths counting 0.08 km
-/// @param[out] Ergebnis  untouched on failure
+/// @param[out] E         untouched on failure
 /// @param[out] Zeile     row at fault, from 0; 0 on success
 /// @return 0, or a NivellementFehler
 /// Accuracy: rounding only, 1e-11 m for heights of some 100 m.
@@ -103,7 +104,7 @@ enum NivellementFehler : int {
 /// Vermessungskunde:
 ///         line levelling with distribution by length.
 [[nodiscard]] int NivellementRechnen(const std::vector<NivellementZeile>& Zeilen, double k,
-                                     NivellementErgebnis& Ergebnis, int& Zeile);
+                                     NivellementErgebnis& E, int& Zeile);
 
 /// Two sections that run between the same two points, there and back.
 struct NivellementPaar {

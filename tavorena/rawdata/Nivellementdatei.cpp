@@ -112,7 +112,7 @@ int DatSchreiben(const std::string& Datei, const std::vector<Nivzeile>& Zeilen, 
   const std::vector<NivellementZeile> Feldbuch = NivellementZeilen({{}, Zeilen});
   std::vector<NivellementStand> Stände;
   int Zeile = 0;
-  if (const int Fehler = NivellementStaende(Feldbuch, Stände, Zeile); Fehler < 0) {
+  if (const int Fehler = NivellementStaende(Feldbuch, Stände, Zeile); Fehler != 0) {
     Hinweis("Zeile " + std::to_string(Zeile + 1) + " des Nivellements: " + NivellementFehlertext(Fehler));
     return -1;
   }

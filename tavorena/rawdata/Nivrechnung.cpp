@@ -50,6 +50,7 @@ std::string NivellementFehlertext(int Fehler) {
     case NivellementRueckblickFehlt:
       return "Rückblick fehlt davor";
     case NivellementVorblickFehlt:
+    case NivellementVorblickOffen:
       return "Vorblick fehlt danach";
     case NivellementFestVerschieden:
       return "Zwei Höhen für einen Festpunkt";
@@ -71,15 +72,15 @@ Nivmangel NivRechnen(const Niveingabe& E, Nivrechnung& R) {
     return {NivellementFehlertext(NivellementFestVerschieden), z, NivellementFestVerschieden};
   std::vector<NivellementZeile> Zeilen = NivellementZeilen(E);
   M.Fehler = NivellementRechnen(Zeilen, E.Klasse, R.Werte, M.Zeile);
-  if (M.Fehler == 0) {
+  if (M.Fehler >= 0) {
     R.Paare = NivellementPaare(Zeilen, R.Werte, R.s0);
     R.Punkte = NivellementHoehen(Zeilen, R.Werte);
     R.Zeilen = std::move(Zeilen);
-    return M;
   }
+  if (M.Fehler == 0) return M;
   M.Text = NivellementFehlertext(M.Fehler);
   M.Unfertig = M.Fehler == NivellementLeer || M.Fehler == NivellementAblesungFehlt ||
-               M.Fehler == NivellementVorblickFehlt || M.Fehler == NivellementFestpunktFehlt;
+               M.Fehler == NivellementVorblickOffen || M.Fehler == NivellementFestpunktFehlt;
   return M;
 }
 

@@ -32,7 +32,8 @@ struct Nivmangel {
 /// In words what a NivellementFehler says.
 [[nodiscard]] std::string NivellementFehlertext(int Fehler);
 
-/// Computes a field book. @param[out] R  empty where there is something wrong
+/// Computes a field book.
+/// @param[out] R  empty where there is something wrong; with NivellementVorblickOffen all up to there
 [[nodiscard]] Nivmangel NivRechnen(const Niveingabe& E, Nivrechnung& R);
 
 /// As the protocol shows it.

@@ -109,7 +109,8 @@ TEST(Nivellement, HinUndRück) {
   EXPECT_EQ(NivellementRechnen(Falsch, 15, E, Zeile), NivellementZwischenAllein);
   EXPECT_EQ(Zeile, 9);
   Falsch.back().Z = N;
-  EXPECT_EQ(NivellementRechnen(Falsch, 15, E, Zeile), NivellementVorblickFehlt);
+  EXPECT_EQ(NivellementRechnen(Falsch, 15, E, Zeile), NivellementVorblickOffen);
+  EXPECT_TRUE(Zeile == 9 && E.Abschnitte.size() == 4);
   Falsch.push_back({"Z", N, 0.5});
   E = Gerechnet(Falsch);
   double s0 = 0;
@@ -138,6 +139,7 @@ TEST(Nivellement, FehlerNennenIhreZeile) {
       {{{"A", 1}, {"B", N, N, 1}, {"C", N, 1}}, NivellementRueckblickFehlt, 2},
       {{{"A", 1, N, 1}}, NivellementRueckblickFehlt, 0},
       {{{"A", 1}, {"B", 1, N, 1}, {"C", 1}, {"D", N, N, 1}}, NivellementVorblickFehlt, 1},
+      {{{"A", 1}, {"B", 1, N, 1}}, NivellementFestpunktFehlt, 0},
       {{{"A", 1, N, N, N, N, 5}, {"A", N, N, 1, N, N, 6}}, NivellementFestVerschieden, 1},
       {{{"A", 1, N, N, N, N, 5}, {"B", N, N, 1}, {"C", 1}, {"D", N, N, 1}}, NivellementFestpunktFehlt, 2},
   };
