@@ -10,7 +10,6 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/rawdata/GRE.h>
 #include <tavorena/rawdata/GSI.h>
-#include <tavorena/rawdata/Lagenmittel.h>
 #include <tavorena/rawdata/Rohdaten.h>
 #include <tavorena/rawdata/Rohpruefung.h>
 
@@ -18,7 +17,6 @@ namespace tavorena {
 namespace {
 
 constexpr double Höchste = 20;  // reflector or instrument [m]; above, a surveyor should look
-constexpr double HzSpanne = 0.01, StreckenSpanne = 0.02;  // of both faces [gon], [m]
 
 bool Gilt(const Messwert& W) { return W.Da && W.Gelesen; }
 
@@ -213,16 +211,7 @@ void Rohlesung::Punkt(std::string_view Nummer) {
 }
 
 void Rohlesung::Mitteln(Rohblock& B) {
-  if (!Wahl.LagenMitteln) return;
-  Rohbefund& F = Roh.Befund;
-  for (const Lagenpaar& P : LagenMitteln(B.Punkte)) {
-    ++F.Gemittelte;
-    F.SpanneHz = std::max(F.SpanneHz, std::abs(P.dHz));
-    F.SpanneV = std::max(F.SpanneV, std::abs(P.dV));
-    F.SpanneStrecke = std::max(F.SpanneStrecke, std::abs(P.dStrecke));
-    if (std::abs(P.dHz) > HzSpanne || std::abs(P.dStrecke) > StreckenSpanne)
-      Prüfung.MeldenAn(F.Auffällig, "Lagen weichen ab", P.Zeile);
-  }
+  if (Wahl.LagenMitteln) Prüfung.LagenZusammenfassen(B.Punkte);
 }
 
 // Rows ahead of the first station belong to none.

@@ -14,7 +14,7 @@
 
 namespace tavorena {
 
-enum class Rohform { NachEndung, GSI, GRE };
+enum class Rohform { NachEndung, GSI, GRE, M5 };
 
 /// How a raw-data file is to be understood.
 struct Rohdatenwahl {

@@ -1,15 +1,20 @@
 #include <algorithm>
 #include <cctype>
+#include <cmath>
+#include <utility>
 
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/rawdata/GRE.h>
 #include <tavorena/rawdata/GSI.h>
+#include <tavorena/rawdata/Lagenmittel.h>
 #include <tavorena/rawdata/Rohpruefung.h>
 
 namespace tavorena {
 namespace {
 
+constexpr double HzSpanne = 0.01, StreckenSpanne = 0.02;  // of both faces [gon], [m]
 constexpr std::size_t MaxArten = 60, MaxText = 200;
 
 bool HatBuchstaben(std::string_view Text) {
@@ -194,6 +199,17 @@ void Rohprüfung::TexteErgänzen(std::string_view Gesamt) {
   for (Zweifelszeile& Z : B.Zweifel) {
     while (Nr < Z.Zeile && Leser.Nächste(Zeile)) ++Nr;
     if (Z.Text.empty() && Nr == Z.Zeile) Z.Text = TextTeil(Zeile.substr(0, 4 * MaxText), 0, MaxText);
+  }
+}
+
+void Rohprüfung::LagenZusammenfassen(std::vector<Rohpunkt>& Punkte) {
+  for (const Lagenpaar& P : LagenMitteln(Punkte)) {
+    ++B.Gemittelte;
+    B.SpanneHz = std::max(B.SpanneHz, std::abs(P.dHz));
+    B.SpanneV = std::max(B.SpanneV, std::abs(P.dV));
+    B.SpanneStrecke = std::max(B.SpanneStrecke, std::abs(P.dStrecke));
+    if (std::abs(P.dHz) > HzSpanne || std::abs(P.dStrecke) > StreckenSpanne)
+      MeldenAn(B.Auffällig, "Lagen weichen ab", P.Zeile);
   }
 }
 

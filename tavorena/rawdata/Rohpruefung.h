@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -36,6 +37,8 @@ class Rohprüfung {
   void MeldenSelten(std::vector<Fundstelle>& Liste, std::string_view Was);
   /// Counts finds without calling the line in doubt.
   void Zählen(std::vector<Fundstelle>& Liste, std::string_view Was) { Eintragen(Liste, Was, Zeilennummer); }
+  /// Joins both faces of a block's rows, and counts what that did.
+  void LagenZusammenfassen(std::vector<Rohpunkt>& Punkte);
   /// At the end of the file, with all that was read.
   void Abschließen(std::string_view Gesamt);
 
