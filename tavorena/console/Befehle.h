@@ -23,6 +23,8 @@ namespace tavorena {
 [[nodiscard]] Konsolenbefehl DxfBefehl();
 /// "gesamtdatei a.ges": adds an epoch of heights or coordinates, writes the list of movements.
 [[nodiscard]] Konsolenbefehl GesamtdateiBefehl();
+/// "m5 a.m5 --punkte b.kor": the report of a file, its points.
+[[nodiscard]] Konsolenbefehl M5Befehl();
 
 /// @name Raw data
 /// @{

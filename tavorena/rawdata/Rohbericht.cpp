@@ -44,6 +44,7 @@ void Fundliste(std::vector<std::string>& Ziel, const std::string& Kopf,
 
 std::string Formtext(const Rohdaten& Roh) {
   if (Roh.Form == Rohform::GRE) return "GRE";
+  if (Roh.Form == Rohform::M5) return "M5";
   const std::size_t Alle = Roh.Befund.Messzeilen + Roh.Befund.Codezeilen, n = Roh.Befund.Sechzehner;
   if (Alle == 0) return "GSI";
   return n == 0 ? "GSI, 8 Stellen" : n == Alle ? "GSI, 16 Stellen" : "GSI, 8 und 16 Stellen gemischt";

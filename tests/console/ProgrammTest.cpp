@@ -256,6 +256,23 @@ TEST_F(Programm, Gesamtdatei) {
             std::string::npos);
 }
 
+TEST_F(Programm, M5) {
+  const std::string Vorn = "For M5|Adr 00001|PI1",
+                    Mess = "|SD         10.000 m   |Hz       100.0000 gon |V1       100.0000 gon | $\n";
+  Schreibe(Ordner.Pfad("a.m5"),
+           Vorn + "                           7" + Mess + Vorn +
+               "                           7|Y           9.997 m   |X           0.000 m   | $\n");
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "m5 a.m5 --punkte b.kor"), 0) << Meldungen;
+  EXPECT_NE(Aus.find("\nMessung: 2\n"), std::string::npos) << Aus;
+  EXPECT_TRUE(
+      Aus.ends_with("Punkt 7: Gerät minus gerechnet dR   -0.003  dH    0.000  dZ          m\n"
+                    "b.kor: 1 Punkt geschrieben\n"))
+      << Aus;
+  EXPECT_EQ(Inhalt(Ordner.Pfad("b.kor")), "             7        10.000         0.000       0.000  \r\n");
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "m5 ordner"), 1);
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "m5 a.m5 --punkte a.m5"), 2);
+}
+
 TEST_F(Programm, PunkteÄndern) {
   Schreibe(Ordner.Pfad("d.kor"), "1 3500100 5600200\r\n1 3500100.02 5600200\r\n2 3500130 5600230\r\n");
   struct Fall {
