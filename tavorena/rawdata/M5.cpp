@@ -284,7 +284,9 @@ int M5PunkteSchreiben(const Rohdaten& Roh, const std::string& Ziel, int& Anzahl)
   std::string Text, Grund;
   const std::vector<Rohkoordinate> Punkte = M5Punkte(Roh);
   for (const Rohkoordinate& K : Punkte) {
-    KorZeileAnhängen(Text, K.Nummer, K.Rechts, K.Hoch, K.Höhe.Zahl(), K.Code, Optionen.OptNachkommaSpeichern);
+    std::string Nummer = K.Nummer;
+    ZeichenErsetzen(Nummer, ' ', '_');  // a file of words
+    KorZeileAnhängen(Text, Nummer, K.Rechts, K.Hoch, K.Höhe.Zahl(), K.Code, Optionen.OptNachkommaSpeichern);
     Text += "\r\n";
   }
   Anzahl = static_cast<int>(Punkte.size());

@@ -20,6 +20,7 @@
 #include <tavorena/shell/Epochenbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
+#include <tavorena/shell/M5umformung.h>
 #include <tavorena/shell/Punktbefehle.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
@@ -219,6 +220,7 @@ const Befehl Befehle[] = {
     {"MenüAnsichtKoordinatendatei", true, AnsichtKoordinaten},
     {"MenüAnsichtProtokolldatei", true, AnsichtProtokoll},
     {"MenüAnsichtStapeldatei", true, AnsichtStapel},
+    {"MenüExtrasKlotoide", true, M5Umformen},
     {"MenüFunktErsetzen", true, TextErsetzen},
     {"MenüOptionenOptionen", false, TVOptionenformZeigen},
     {"MenüOptionenDateinamen(0)", false, TexteditorWählen},

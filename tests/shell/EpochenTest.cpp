@@ -44,5 +44,25 @@ TEST_F(Shelltest, SetzungsmessungÜberDasMenü) {
   EXPECT_TRUE(Inhalt(Optionen.DateinameVerformung).starts_with("Verformungsmessung  Titel der Liste\r\n3  "));
 }
 
+// The file beside the input, through the report; a station that the file does not place is asked for.
+TEST_F(Shelltest, M5ÜberDasMenü) {
+  Öffne();
+  const std::string M5 = Ordner.Pfad("b.m5"), Kor = Ordner.Pfad("b.kor"), Vorn = "For M5|Adr 00001|";
+  Schreibe(M5, Vorn + "TI  INPUT                      |th          1.300 m   |ih          1.500 m   |\n" +
+                   Vorn +
+                   "PI1                           7|SD         10.000 m   |Hz        90.0000 DEG |V1        "
+                   "90.0000 DEG |\n");
+  Schreibe(Kor, "alt");
+  const auto Übernehmen = Bediene({{"RohdatenÜbernehmen", ""}});
+  Skript.Formulare = {Übernehmen, Bediene({{"Abbrechen", ""}}), Übernehmen,
+                      Bediene({{"Wert(0)", "100\n200\n50\n"}})};
+  Befehl("MenüExtrasKlotoide", M5);
+  EXPECT_EQ(Inhalt(Kor), "alt");
+  Skript.Erwarte("schon vorhanden. Überschreiben ?", KnopfJa);
+  Befehl("MenüExtrasKlotoide", M5);
+  EXPECT_EQ(Inhalt(Kor), "             7       110.000       200.000      50.200  \r\n");
+  EXPECT_EQ(Skript.Status[4], "   1 Punkt in " + Kor + "   ");
+}
+
 }  // namespace
 }  // namespace tavorena::test
