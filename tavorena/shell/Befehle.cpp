@@ -11,6 +11,7 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/points/TVPSelectForm.h>
+#include <tavorena/rawdata/TVTheoForm.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
@@ -202,6 +203,7 @@ const Befehl Befehle[] = {
     {"MenüDateiNeu", false, DateiNeu},
     {"MenüDateiLesen(0)", false, [] { DateiLesenMit(Dateiformat::Kor, FilterKor, "*.kor"); }},
     {"MenüDateiLesen(2)", false, [] { DateiLesenMit(Dateiformat::Lt4, FilterEdbs, "*.alk"); }},
+    {"MenüDateiTheo", false, TheodolitZeigen, false, nullptr, 4090},
     {"MenüDateiSpeichern(0)", true, DateiSpeichern},
     {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},
     {"MenüDateiStapel", true, Stapelbearbeitung},

@@ -15,6 +15,7 @@
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
 #include <tavorena/points/TVPDoppForm.h>
+#include <tavorena/rawdata/TVTheoForm.h>
 #include <tavorena/records/Neupunktblock.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Protokollfenster.h>
@@ -198,7 +199,7 @@ int HauptDateiSpeichern() {
 int HauptBeenden() {
   if (FrageJaNein("Tavorena beenden ?") != KnopfJa) return -1;
   int Ergebnis = -1;
-  const auto Tun = [&] { Ergebnis = HauptKoordinatendateiWechseln(true); };
+  const auto Tun = [&] { Ergebnis = TheodolitSchließen() ? HauptKoordinatendateiWechseln(true) : -1; };
   return Geschützt("Haupt.Beenden", Tun, "Fehler beim Beenden: ") < 0 ? -1 : Ergebnis;
 }
 

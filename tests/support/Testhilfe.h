@@ -74,6 +74,9 @@ class PlattformSkript final : public Rückfragen,
   void Warten(double /*Sekunden*/) override { BeiEreignissen(); }
   Zeitpunkt Jetzt() override { return Uhr; }
   double Zeitgeber() override { return Sekunden += 1; }
+  std::unique_ptr<Leitung> LeitungÖffnen(const std::string& Gerät, const std::string& Settings) override {
+    return BeiLeitung(Gerät + " " + Settings);
+  }
   void StatusSetzen(Statusfeld Feld, const std::string& Text) override {
     Status.at(static_cast<std::size_t>(Feld)) = Text;
   }
@@ -94,6 +97,8 @@ class PlattformSkript final : public Rückfragen,
   std::function<void(Formular&)> BeiBlatt;               ///< what is done with a worksheet that is shown
   std::function<void(const std::string& Text)> BeiMeldung = [](const std::string&) {};
   std::function<void()> BeiEreignissen = [] {};  ///< runs when the event queue is served
+  /// What opens a device with its settings.
+  std::function<std::unique_ptr<Leitung>(const std::string&)> BeiLeitung = [](auto&) { return nullptr; };
   std::array<std::string, 8> Status;
   std::vector<std::string> Titel;
   int LetzteVorgabe = 0;  ///< default button of the last message box
