@@ -30,6 +30,7 @@ namespace tavorena {
 /// @{
 [[nodiscard]] Konsolenbefehl GsiAusgabeBefehl();  ///< "gsi-ausgabe b.gsi --koordinaten a.kor --art 41"
 [[nodiscard]] Konsolenbefehl RohdatenBefehl();  ///< "rohdaten a.gsi": the report, and other forms of the file
+[[nodiscard]] Konsolenbefehl TheoBefehl();  ///< "theo GERÄT --rohdatendatei b.gsi": measures
 /// @}
 
 /// @name What changes points; each is one deed, wholly done or not at all

@@ -2,6 +2,7 @@
 #include <ostream>
 
 #include <tavorena/console/PlattformKonsole.h>
+#include <tavorena/console/SerielleLeitung.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/Formular.h>
@@ -30,6 +31,11 @@ int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::s
 void PlattformKonsole::FormularZeigen(Formular& Form, bool Modal) {
   if (Modal) return Ohne(Form.Titel);
   Form.Öffnen();
+}
+
+std::unique_ptr<Leitung> PlattformKonsole::LeitungÖffnen(const std::string& Gerät,
+                                                         const std::string& Einstellungen) {
+  return SerielleLeitung(Gerät, Einstellungen);
 }
 
 void PlattformKonsole::Melden(const std::string& Text) {

@@ -11,7 +11,7 @@ namespace tavorena {
 
 /// The program without a screen: messages go to a stream, a line each that begins with the file it is about,
 /// and a question that the command line did not answer ends the run. Nothing waits for a key.
-class PlattformKonsole final : public Rückfragen, public Anzeige, public Umgebung {
+class PlattformKonsole final : public Rückfragen, public Anzeige, public Umgebung, public Leitungen {
  public:
   /// A message that names a file of the call is about it and tells a failure; one that can not be written
   /// ends the run.
@@ -21,6 +21,7 @@ class PlattformKonsole final : public Rückfragen, public Anzeige, public Umgebu
   int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string ProgrammOrdner() override { return Programm; }
+  std::unique_ptr<Leitung> LeitungÖffnen(const std::string& Gerät, const std::string& Einstellungen) override;
 
   /// The file that is at work from now on; "" none.
   void Arbeitet(const std::string& Datei) { AnDatei = Datei; }

@@ -139,7 +139,7 @@ Rückgabe SitzungFühren(const Konsolenbefehl& B, const Aufruf& A, const Umfeld&
     return FalscherAufruf;
   }
   PlattformKonsole Konsole(A, U.Meldungen, U.Programmordner);
-  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole});
+  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole, &Konsole});
   bool Gut = false;
   const auto Tun = [&] { Gut = Arbeiten(B, A, U, Konsole); };
   Gut = Geschützt("Konsole", Tun) == 0 && Gut && !Konsole.Mißlungen();
