@@ -187,8 +187,14 @@ FormularAnsicht::Bild FormularAnsicht::GitterErzeugen(Gitter& G) {
   return {Tabelle, [Tabelle] { Tabelle->ZustandZeigen(); }};
 }
 
+// Beside the worksheets only a field that is typed into takes the focus by a click; Tab leads everywhere.
+void FormularAnsicht::KlickOhneFokus(QWidget& W) const {
+  if (Modell->Nebenher) W.setFocusPolicy(Qt::TabFocus);
+}
+
 FormularAnsicht::Bild FormularAnsicht::KnopfErzeugen(Knopf& K) {
   auto* Druck = new QPushButton(this);
+  KlickOhneFokus(*Druck);
   Druck->setAutoDefault(false);
   Druck->setDefault(K.Vorgabe);
   if (K.Text == "...") Druck->setFixedWidth(32);
@@ -213,6 +219,7 @@ FormularAnsicht::Bild FormularAnsicht::AuswahlErzeugen(Auswahl& A) {
   } else {
     Haken = new QCheckBox(this);
   }
+  KlickOhneFokus(*Haken);
   connect(Haken, &QAbstractButton::clicked, this, [this, &A](bool An) {
     if (Modell == nullptr) return;
     if (Modell->Fokus() != &A) Modell->FokusWechseln(A);  // the arrow keys lead from option to option
@@ -228,6 +235,7 @@ FormularAnsicht::Bild FormularAnsicht::AuswahlErzeugen(Auswahl& A) {
 
 FormularAnsicht::Bild FormularAnsicht::ListeErzeugen(Auswahl& A) {
   auto* Liste = new QComboBox(this);
+  KlickOhneFokus(*Liste);
   for (const std::string& Eintrag : A.Einträge) Liste->addItem(Q(Eintrag));
   Liste->setMinimumWidth(Zeichenbreite(font(), A.Zeichen) + 40);
   connect(Liste, &QComboBox::textActivated, this, [this, &A](const QString& Text) {
@@ -431,7 +439,17 @@ QWidget* FormularAnsicht::FokusWidget(const Steuerelement& S) const {
   return Tabelle != nullptr ? Tabelle->Fokusziel() : W;
 }
 
+void FormularAnsicht::FokusGeändert() {
+  if (!isAncestorOf(QApplication::focusWidget())) return;
+  FokusZeigen();
+  FokusMarkieren();
+}
+
 void FormularAnsicht::FokusZeigen() {
+  if (Modell != nullptr && (!Modell->Nebenher || isAncestorOf(QApplication::focusWidget()))) FokusHolen();
+}
+
+void FormularAnsicht::FokusHolen() {
   if (Modell == nullptr || Modell->Fokus() == nullptr) return;
   QWidget* W = FokusWidget(*Modell->Fokus());
   if (!W->hasFocus()) W->setFocus(Qt::OtherFocusReason);

@@ -28,12 +28,16 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   void SteuerelementGeändert(Steuerelement& S) override;
   void GitterGeändert(Gitter& G, const Gitteränderung& Was) override;
   void TitelGeändert() override;
+  void FokusGeändert() override;
   void FormularGeschlossen() override;
 
   /// The form that is shown; nullptr after it was closed.
   [[nodiscard]] Formular* Form() const { return Modell; }
-  /// Gives the focus to the control that has it in the form.
+  /// Gives the focus to the control that has it in the form. A form beside the worksheets only moves the
+  /// focus that it has.
   void FokusZeigen();
+  /// The same, wherever the focus is.
+  void FokusHolen();
   /// Selects the text in the control with the focus: what is typed next replaces it.
   void FokusMarkieren();
 
@@ -79,6 +83,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   [[nodiscard]] bool TabWeiter(Steuerelement& S, bool Vor);
   void FokusMelden(Steuerelement& S);
   [[nodiscard]] QWidget* FokusWidget(const Steuerelement& S) const;
+  void KlickOhneFokus(QWidget& W) const;
 
   inline static int Lesetiefe = 0;  // readings that run inside each other
   Formular* Modell;

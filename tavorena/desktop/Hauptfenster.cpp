@@ -30,6 +30,7 @@
 #include <tavorena/desktop/GrafikAnsicht.h>
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
+#include <tavorena/desktop/Nebenfenster.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/TVHauptmodul.h>
@@ -396,6 +397,13 @@ void Hauptfenster::BlattZeigen(Formular& Form) {
     Fenster->resize(Fenster->size().expandedTo(Ansicht->sizeHint() + Rand).boundedTo(Flaeche->size()));
 }
 
+void Hauptfenster::NebenherZeigen(Formular& Form) {
+  auto* Neues = new Nebenfenster(Form, *this);
+  addDockWidget(Qt::RightDockWidgetArea, Neues);
+  if (Protokollrahmen->isVisible()) splitDockWidget(Neues, Protokollrahmen, Qt::Vertical);
+  Neues->Öffnen(Flaeche->activeSubWindow() == nullptr);
+}
+
 // A second worksheet stands beside the first one, or below it where the work area is too narrow: both are to
 // be seen.
 void Hauptfenster::BlattStellen(QMdiSubWindow& Neues, QSize Wunsch) {
@@ -425,6 +433,7 @@ void Hauptfenster::StatusSetzen(Statusfeld Feld, const QString& Text) {
 
 void Hauptfenster::Sperren(bool An) {
   Flaeche->setEnabled(!An);
+  for (Nebenfenster* Neben : Nebenfenster::Offene(*this)) Neben->setEnabled(!An);
   Auffrischen();
 }
 

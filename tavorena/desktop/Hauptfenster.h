@@ -36,6 +36,8 @@ class Hauptfenster final : public QMainWindow {
   /// Takes over menus, tool bar and protocol window.
   void Auffrischen();
   void BlattZeigen(Formular& Form);
+  /// Shows a form beside the worksheets, at the side of the window, where it leaves them the focus.
+  void NebenherZeigen(Formular& Form);
   void StatusSetzen(Statusfeld Feld, const QString& Text);
   /// Shows the lines of the protocol when a burst of them is over.
   void ProtokollSpäterZeigen() {

@@ -18,6 +18,7 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -29,6 +30,7 @@
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Hauptfenster.h>
+#include <tavorena/desktop/LeitungQt.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/desktop/Tastensperre.h>
 #include <tavorena/graphics/Abgriff.h>
@@ -211,6 +213,7 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
 }
 
 void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
+  if (Form.Nebenher) return Fenster.NebenherZeigen(Form);
   if (!Modal) return Fenster.BlattZeigen(Form);
   Dialogfenster Dialog(Form, Davor(Fenster));
   std::optional<Dialogvorrang> Vorrang;
@@ -254,6 +257,18 @@ std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
 }
 
 void PlattformQt::EreignisseAbarbeiten() { QCoreApplication::processEvents(); }
+
+// Not by processEvents: what is to be deleted later would stay while a loop waits.
+void PlattformQt::Warten(double Sekunden) {
+  QEventLoop Schleife;
+  QTimer::singleShot(qRound(Sekunden * 1000), &Schleife, &QEventLoop::quit);
+  Schleife.exec();
+}
+
+std::unique_ptr<Leitung> PlattformQt::LeitungÖffnen(const std::string& Gerät,
+                                                    const std::string& Einstellungen) {
+  return LeitungQt(Gerät, Einstellungen);
+}
 
 void PlattformQt::Beschäftigt(bool An) {
   if (An == TVKernMDIForm::Fenster().IstBeschäftigt()) return;

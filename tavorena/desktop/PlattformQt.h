@@ -15,6 +15,7 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
   void FormularZeigen(Formular& Form, bool Modal) override;
   std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override;
+  void Warten(double Sekunden) override;
   void Beschäftigt(bool An) override;
   void StatusSetzen(Statusfeld Feld, const std::string& Text) override;
   void FenstertitelSetzen(const std::string& Titel) override;
@@ -31,6 +32,7 @@ class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Um
   std::string ProgrammOrdner() override;
   std::string Heimordner() override;
   std::string Dokumentordner() override;
+  std::unique_ptr<Leitung> LeitungÖffnen(const std::string& Gerät, const std::string& Einstellungen) override;
   void ProgrammBeenden() override;
   bool StapelHält() override { return true; }
 

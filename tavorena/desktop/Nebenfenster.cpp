@@ -1,0 +1,70 @@
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMainWindow>
+#include <QScrollArea>
+#include <QShortcut>
+
+#include <tavorena/desktop/FormularAnsicht.h>
+#include <tavorena/desktop/Nebenfenster.h>
+
+namespace tavorena {
+
+Nebenfenster::Nebenfenster(Formular& Gezeigt, QMainWindow& Haupt)
+    : QDockWidget(&Haupt), Form(Gezeigt), Ansicht(new FormularAnsicht(Gezeigt)) {
+  setObjectName(Ansicht->objectName() + "Fenster");
+  setWindowTitle(Ansicht->windowTitle());
+  setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  auto* Rolle = new QScrollArea;  // on a small screen it scrolls
+  Rolle->setWidget(Ansicht);
+  Rolle->setWidgetResizable(true);
+  Rolle->setFrameShape(QFrame::NoFrame);
+  Rolle->setFocusPolicy(Qt::NoFocus);
+  Rolle->setMinimumSize(Ansicht->minimumSizeHint().boundedTo(QSize(400, 260)));
+  setWidget(Rolle);
+  Ansicht->BeiGeschlossen = [this] {
+    if (isAncestorOf(QApplication::focusWidget()) && Vorheriger != nullptr) Vorheriger->setFocus();
+    hide();
+    deleteLater();
+  };
+  connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, this, [this] { FokusTauschen(); });
+  connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, this, [this] { Drücken(); });
+}
+
+void Nebenfenster::Öffnen(bool MitFokus) {
+  show();
+  Form.Öffnen();
+  if (MitFokus) Ansicht->FokusHolen();
+}
+
+QList<Nebenfenster*> Nebenfenster::Offene(const QWidget& Haupt) {
+  QList<Nebenfenster*> Liste;
+  for (auto* Dock : Haupt.findChildren<QDockWidget*>()) {
+    if (auto* Neben = dynamic_cast<Nebenfenster*>(Dock)) Liste << Neben;
+  }
+  return Liste;
+}
+
+void Nebenfenster::FokusTauschen() {
+  if (!isAncestorOf(QApplication::focusWidget())) {
+    Vorheriger = QApplication::focusWidget();
+    Ansicht->FokusHolen();
+    Ansicht->FokusMarkieren();
+  } else if (Vorheriger != nullptr) {
+    Vorheriger->setFocus();
+  }
+}
+
+void Nebenfenster::Drücken() {
+  for (const auto& S : Form.Steuerelemente()) {
+    auto* K = dynamic_cast<Knopf*>(S.get());
+    if (K != nullptr && K->Vorgabe) return Form.Klicken(*K);
+  }
+}
+
+void Nebenfenster::closeEvent(QCloseEvent* Ereignis) {
+  if (Ansicht->Form() == nullptr) return Ereignis->accept();
+  Form.SchließenVerlangen();
+  Ereignis->ignore();  // when the form closes, the window goes with it
+}
+
+}  // namespace tavorena
