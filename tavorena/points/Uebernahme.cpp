@@ -63,6 +63,12 @@ void GleicheNummern(const Dateipunkte& Datei, Übernahmeplan& Plan, const Änder
   }
 }
 
+void Höhenvergleich(const Dateipunkte& Datei, Übernahmeplan& Plan) {
+  GleicheNummern(Datei, Plan, [](const Vergleichspunkt& Soll, const KorSatz& Ist) {
+    return Soll.Hoehe != 0 && Soll.Hoehe != Ist.Hoehe;
+  });
+}
+
 // The one point of the file near a row; nullptr if there is none or another one.
 const Vergleichspunkt* EinzigerNaher(const Dateipunkte& Datei, const Punktraster& Raster, int Zeile,
                                      double fs) {
@@ -216,9 +222,7 @@ int ÜbernahmePlanen(Übernahme Art, const std::string& Datei, double fs, Übern
       break;
     case Übernahme::Höhen:
     case Übernahme::Höhenliste:
-      GleicheNummern(Punkte, Plan, [](const Vergleichspunkt& Soll, const KorSatz& Ist) {
-        return Soll.Hoehe != 0 && Soll.Hoehe != Ist.Hoehe;
-      });
+      Höhenvergleich(Punkte, Plan);
       break;
     case Übernahme::Versatz:
       Differenzen(Punkte, Plan);
@@ -228,6 +232,14 @@ int ÜbernahmePlanen(Übernahme Art, const std::string& Datei, double fs, Übern
   const std::string Text = ÜbernahmeText(Plan);
   Hinweis("Kein Punkt ist zu ändern:\n" + Datei + (Text.empty() ? "" : "\n\n" + Text));
   return -1;
+}
+
+Übernahmeplan HöhenPlanen(const std::string& Datei, const std::vector<Vergleichspunkt>& Punkte) {
+  Übernahmeplan Plan;
+  Plan.Art = Übernahme::Höhenliste;
+  Plan.Datei = Datei;
+  Höhenvergleich(Punkte, Plan);
+  return Plan;
 }
 
 std::string ÜbernahmeText(const Übernahmeplan& Plan) {

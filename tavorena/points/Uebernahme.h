@@ -55,6 +55,9 @@ struct Übernahmeplan {
 /// @return 0; -1 with a message: the file can not be read, or there is nothing to change
 [[nodiscard]] int ÜbernahmePlanen(Übernahme Art, const std::string& Datei, double fs, Übernahmeplan& Plan);
 
+/// The plan of a Höhenliste, of which the points are known already.
+[[nodiscard]] Übernahmeplan HöhenPlanen(const std::string& Datei, const std::vector<Vergleichspunkt>& Punkte);
+
 /// What there is to know before it is done, in lines; "" if nothing.
 [[nodiscard]] std::string ÜbernahmeText(const Übernahmeplan& Plan);
 

@@ -151,6 +151,7 @@ constexpr Menüeintrag Baum[] = {
     {"MenüExtrasKlotoide", "&Trimble-M5->örtliche Koordinaten", 5030, Extras},
 
     {"MenüMain(6)", "&Funkt.", 6000, Bar, Verborgen},
+    {"MenüFunktNivellement", "&Nivellement", 6010, Funktionen},
     {"MenüFunktSetzungsmessung", "&Setzungsmessung", 0, Funktionen},
     {"MenüFunktSetzungsmessung(0)", "*.&niv->*.dat (KAFKA)", 0, "MenüFunktSetzungsmessung"},
     {"MenüFunktSetzungsmessung(1)", "*.lt5 (KAFKA) -> *.hli", 0, "MenüFunktSetzungsmessung"},

@@ -12,6 +12,7 @@
 #include <tavorena/worksheets/TVIntllForm.h>
 #include <tavorena/worksheets/TVKmittForm.h>
 #include <tavorena/worksheets/TVLinelForm.h>
+#include <tavorena/worksheets/TVNivForm.h>
 #include <tavorena/worksheets/TVOrthoForm.h>
 #include <tavorena/worksheets/TVPolarForm.h>
 #include <tavorena/worksheets/TVPolelForm.h>
@@ -277,6 +278,16 @@ constexpr Blattart Arten[] = {
      "ausgleichung.md",
      NeuerAusgleich<'K'>,
      "MenüBearbeitenAusgleichendeKreis"},
+    {"TVNivForm",
+     "Niv",
+     "VR NI.00 Nivellement",
+     "Tavorena Nivellement [Stapel]",
+     "Berechnung Nivellement",
+     {"NI.00", "NI"},
+     "MenüFunktNivellement",
+     6010,
+     "nivellement.md",
+     Neu<TVNivForm>},
 };
 
 template <typename Test>

@@ -23,6 +23,9 @@ std::vector<Gitterspalte> Gitterspalten(const std::vector<Zeilenspalte>& Spalten
 
 constexpr double KeinMaß = std::numeric_limits<double>::quiet_NaN();
 
+std::size_t Stelle(int s) { return static_cast<std::size_t>(s); }
+int Messstellen(int Dezimalen) { return Dezimalen < 0 ? Messdezimalen : Dezimalen; }
+
 }  // namespace
 
 Eingabegitter::Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>& Spalten, Gitterverhalten Wie,
@@ -36,6 +39,7 @@ Eingabegitter::Eingabegitter(Rechenblatt& Für, const std::vector<Zeilenspalte>&
     if (S.Art == Zellart::Marke) Zellen.Markenspalte = static_cast<int>(Arten.size());
     if (S.Art == Zellart::Wort) Wortform = S.Wortform;
     Arten.push_back(S.Art);
+    Stellen.push_back(S.Dezimalen);
   }
   Zellen.IstPnr = true;
   Zellen.BeiTaste = [this](Taste T) { return TasteNehmen(T); };
@@ -47,7 +51,9 @@ bool Eingabegitter::ZelleLesen(int z, int s) {
   std::string Text = Trimmen(Zellen.Inhalt(z, s));
   double Zahl = 0;
   if (Art(s) == Zellart::Maß && Text.empty() && LeerIstNull) Text = "0";
-  if (Art(s) == Zellart::Maß && !Text.empty() && !MesswertPrüfen(Text, Zahl)) return false;
+  const bool IstMaß = Art(s) == Zellart::Maß || Art(s) == Zellart::Vorgabe;
+  if (IstMaß && !Text.empty() && !MesswertPrüfen(Text, Zahl, Messstellen(Stellen[Stelle(s)]))) return false;
+  if (Art(s) == Zellart::Fest && !Text.empty()) Text = "*";
   if (Art(s) == Zellart::Wort && !Wortform(Text)) return false;
   const bool EinWort = Art(s) == Zellart::Nummer || Art(s) == Zellart::Symbol;
   if (EinWort && !WortPrüfen(Text)) return false;
@@ -63,7 +69,8 @@ Zeileneingabe Eingabegitter::Eingabe(int z) const {
     if (Art(s) == Zellart::Nummer) E.Pnr = Text;
     if (Art(s) == Zellart::Symbol) E.Symbol = Text;
     if (Art(s) == Zellart::Wort) E.Wort = Text;
-    if (Art(s) == Zellart::Maß) E.Maße.push_back(Text.empty() ? KeinMaß : ZahlAusText(Text));
+    if (Art(s) != Zellart::Maß && Art(s) != Zellart::Vorgabe) continue;
+    E.Maße.push_back(Text.empty() || ZeigtErgebnis(z, s) ? KeinMaß : ZahlAusText(Text));
   }
   return E;
 }
@@ -84,9 +91,11 @@ void Eingabegitter::EingabeZeigen(int z, const Zeileneingabe& E) {
     if (Art(s) == Zellart::Nummer) Zellen.InhaltSetzen(z, s, E.Pnr);
     if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, E.Symbol);
     if (Art(s) == Zellart::Wort) Zellen.InhaltSetzen(z, s, E.Wort);
-    if (Art(s) != Zellart::Maß) continue;
+    if (Art(s) != Zellart::Maß && Art(s) != Zellart::Vorgabe) continue;
     const double Zahl = Maß == E.Maße.end() ? KeinMaß : *Maß++;
-    Zellen.InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Messwerttext(Zahl));
+    Zellen.InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Messwerttext(Zahl, Messstellen(Stellen[Stelle(s)])));
+    if (Art(s) == Zellart::Vorgabe)
+      Zellen.InhaltSetzen(z, SpalteVon(Zellart::Fest), std::isnan(Zahl) ? "" : "*");
   }
 }
 
@@ -99,7 +108,7 @@ void Eingabegitter::ErgebnisseZeigen(int z, const std::vector<std::string>& Text
 
 bool Eingabegitter::HatEingabe(int z) const {
   for (int s = 0; s < Spalten(); ++s) {
-    const bool Zählt = Getippt(s) && Art(s) != Zellart::Symbol;
+    const bool Zählt = Art(s) == Zellart::Nummer || Art(s) == Zellart::Maß || Art(s) == Zellart::Wort;
     if (Zählt && !TrimmenSicht(Zellen.Inhalt(z, s)).empty()) return true;
   }
   return false;
@@ -121,6 +130,22 @@ void Eingabegitter::SymbolÜbernehmen(int z) {
   for (int s = 0; z > 0 && s < Spalten() && !HatEingabe(z); ++s) {
     if (Art(s) == Zellart::Symbol) Zellen.InhaltSetzen(z, s, Zellen.Inhalt(z - 1, s));
   }
+}
+
+int Eingabegitter::SpalteVon(Zellart A) const {
+  const auto i = std::find(Arten.begin(), Arten.end(), A);
+  return i == Arten.end() ? -1 : static_cast<int>(i - Arten.begin());
+}
+
+bool Eingabegitter::ZeigtErgebnis(int z, int s) const {
+  if (Art(s) != Zellart::Vorgabe) return Art(s) == Zellart::Ergebnis;
+  return TrimmenSicht(Zellen.Inhalt(z, SpalteVon(Zellart::Fest))).empty();
+}
+
+std::string Eingabegitter::Ergebnistext(int s, double Zahl) const {
+  if (std::isnan(Zahl)) return "";
+  const int Dezimalen = Stellen[Stelle(s)];
+  return Dezimalen < 0 ? Längentext(Zahl) : ZahlFormat(Zahl, -1, Dezimalen);
 }
 
 int Eingabegitter::ErsteSpalte() const {

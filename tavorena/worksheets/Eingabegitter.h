@@ -8,8 +8,9 @@
 
 namespace tavorena {
 
-/// What stands in a column of rows. All but results and marks are typed.
-enum class Zellart { Nummer, Ergebnis, Maß, Wort, Symbol, Marke };
+/// What stands in a column of rows. All but results and marks are typed. A Vorgabe is a result until its row
+/// is ticked (Fest); from then on it is a measure, the last one, and the results begin with it.
+enum class Zellart { Nummer, Ergebnis, Maß, Wort, Symbol, Marke, Fest, Vorgabe };
 
 /// A column of rows.
 struct Zeilenspalte {
@@ -19,6 +20,8 @@ struct Zeilenspalte {
   bool Sichtbar = true;
   /// Of a word: brings it into its normal form. @return false with a reason: it can not be read
   bool (*Wortform)(std::string& Text) = nullptr;
+  /// Of a measure; of a result, where it does not go by the settings. -1: 4, or the settings
+  int Dezimalen = -1;
 };
 
 /// What is typed in a row.
@@ -89,6 +92,12 @@ class Eingabegitter {
   [[nodiscard]] int Spalten() const { return static_cast<int>(Arten.size()); }
   [[nodiscard]] Zellart Art(int s) const { return Arten[static_cast<std::size_t>(s)]; }
   [[nodiscard]] bool Getippt(int s) const { return Art(s) != Zellart::Ergebnis && Art(s) != Zellart::Marke; }
+  /// The first column of a kind; -1: there is none.
+  [[nodiscard]] int SpalteVon(Zellart A) const;
+  /// The cell shows a result: that of a Vorgabe, until its row is ticked.
+  [[nodiscard]] bool ZeigtErgebnis(int z, int s) const;
+  /// A result [m] as its column shows it; not a number: "".
+  [[nodiscard]] std::string Ergebnistext(int s, double Zahl) const;
 
  private:
   void GitterReturn();
@@ -97,6 +106,7 @@ class Eingabegitter {
   Rechenblatt& Blatt;
   Gitterverhalten Verhalten;
   std::vector<Zellart> Arten;  // of the columns
+  std::vector<int> Stellen;    // their decimals, or -1
   bool (*Wortform)(std::string&) = nullptr;
   int LetzteRechenspalte = 0;
 };

@@ -8,6 +8,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Punktnummer.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Listenblatt.h>
@@ -47,7 +48,7 @@ Gitter& Listenblatt::ListeAnlegen(const std::vector<Zeilenspalte>& Spalten, cons
                                      Zellen().Fehlerhaft = !ZelleVerlassen();
                                      return !Zellen().Fehlerhaft;
                                    },
-                                   [this](int z) { Eingaben->EingabeZeigen(z, Reihe(z)); },
+                                   [this](int z) { Zurückzeigen(z); },
                                    {},  // a row that is begun has the next one below it
                                    [this] { FokusWeiter(); }});
   Eingaben->LeerIstNull = false;
@@ -116,6 +117,7 @@ bool Listenblatt::ZelleVerlassen() {
   const int z = Zellen().Zeile;
   if (z >= std::ssize(Reihen)) return true;
   if (!Eingaben->ZelleLesen(z, Zellen().Spalte)) return false;
+  VorgabeLesen(z, Zellen().Spalte);
   Zeileneingabe Neu = Eingaben->Eingabe(z);
   if (Gleich(Neu, Reihe(z))) return true;
   if (z == Anzahl() && z == Liste.Höchstzahl && Eingaben->HatEingabe(z)) {
@@ -128,9 +130,44 @@ bool Listenblatt::ZelleVerlassen() {
   }
   static_cast<Zeileneingabe&>(Eigene(z)) = std::move(Neu);
   Eingaben->EingabeZeigen(z, Reihe(z));
+  Eigene(z).Ergebnisse.clear();
   LeereEndzeile();
   NeuRechnen();
   return true;
+}
+
+double Listenblatt::VorgabeFür(const std::string& /*Pnr*/, bool /*Verlangt*/) { return KeinWert; }
+
+// A row was ticked, its number was typed, or its result was typed over, which ticks it, or emptied.
+void Listenblatt::VorgabeLesen(int z, int s) {
+  const int Marke = Eingaben->SpalteVon(Zellart::Fest), Vorgabe = Eingaben->SpalteVon(Zellart::Vorgabe);
+  if (Vorgabe < 0) return;
+  const Listenreihe& Alt = Reihe(z);
+  const auto Setzen = [&](const std::string& Neue, const std::string& Wie) {
+    Zellen().InhaltSetzen(z, Marke, Neue);
+    Zellen().InhaltSetzen(z, Vorgabe, Wie);
+  };
+  const std::string Pnr = Zellen().Inhalt(z, Zellen().Nummernspalte()), Text = Zellen().Inhalt(z, Vorgabe);
+  const bool War = !Alt.Maße.empty() && !std::isnan(Alt.Maße.back()),
+             Ist = !Eingaben->ZeigtErgebnis(z, Vorgabe);
+  const std::string Gezeigt =
+      Alt.Ergebnisse.empty() ? "" : Eingaben->Ergebnistext(Vorgabe, Alt.Ergebnisse.front());
+  const bool Verlangt = s == Marke && Ist && !War;
+  if (Verlangt || (Eingaben->Art(s) == Zellart::Nummer && Pnr != Alt.Pnr)) {
+    const double x = VorgabeFür(Pnr, Verlangt);
+    if (!std::isnan(x)) return Setzen("*", Messwerttext(x));
+    if (Verlangt) Setzen("", Gezeigt);
+  }
+  if (s != Vorgabe || (War && Ist && !Text.empty())) return;
+  if (Text.empty() || ZahlAusText(Text) == ZahlAusText(Gezeigt)) return Setzen("", War ? "" : Gezeigt);
+  Setzen("*", Text);
+}
+
+// What the row holds, in place of what was typed.
+void Listenblatt::Zurückzeigen(int z) {
+  Eingaben->EingabeZeigen(z, Reihe(z));
+  Eigene(z).Ergebnisse.clear();
+  static_cast<void>(ErgebnisseZeigen(z));
 }
 
 void Listenblatt::GitterInsert() {
@@ -210,11 +247,11 @@ bool Listenblatt::ErgebnisseZeigen(int z) {
   auto Alt = Z.Ergebnisse.begin();
   bool Anders = false;
   for (int s = 0; s < Eingaben->Spalten(); ++s) {
-    if (Eingaben->Art(s) != Zellart::Ergebnis) continue;
+    if (Eingaben->Art(s) != Zellart::Ergebnis && Eingaben->Art(s) != Zellart::Vorgabe) continue;
     const double Zahl = Neu == Zeilenwerte.end() ? KeinWert : *Neu++;
     const double Vorige = Alt == Z.Ergebnisse.end() ? KeinWert : *Alt++;
     if (Gleich(Zahl, Vorige)) continue;
-    Zellen().InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Längentext(Zahl));
+    if (Eingaben->ZeigtErgebnis(z, s)) Zellen().InhaltSetzen(z, s, Eingaben->Ergebnistext(s, Zahl));
     Anders = true;
   }
   if (Anders) Z.Ergebnisse = Zeilenwerte;

@@ -86,6 +86,9 @@ class Listenblatt : public Rechenblatt {
   /// Reads its batch block into fields and rows; a kind without a block has none.
   /// @return 0; -1 error, already told
   [[nodiscard]] virtual int BlockLesen() { return -1; }
+  /// The value that a row takes as its Vorgabe when it is ticked, or (Verlangt false) when its number was
+  /// typed; not a number: there is none, which is told if it was asked for.
+  [[nodiscard]] virtual double VorgabeFür(const std::string& Pnr, bool Verlangt);
   /// Looks the points in its fields up again.
   virtual void PunkteNachsehen() {}
   /// @}
@@ -129,6 +132,8 @@ class Listenblatt : public Rechenblatt {
   void Auffrischen();
   [[nodiscard]] bool ErgebnisseZeigen(int z);
   [[nodiscard]] bool ZelleVerlassen();
+  void VorgabeLesen(int z, int s);
+  void Zurückzeigen(int z);
   [[nodiscard]] int PunktHolen(std::string& Pnr, Lage& Ort) const;
   void MangelZeigen();
   Listenreihe& Eigene(int z) { return Reihen[static_cast<std::size_t>(z)]; }

@@ -10,8 +10,6 @@ namespace tavorena {
 
 namespace {
 
-constexpr int Messdezimalen = 4;  // decimals of a value in the batch file
-
 std::string Gespeichert(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen.OptNachkommaSpeichern); }
 
 }  // namespace
@@ -20,23 +18,23 @@ std::string Längentext(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen
 
 int Längenbreite(int Vorkomma) { return 1 + Vorkomma + 1 + Optionen.OptNachkommastellen; }
 
-std::string Messwerttext(double Zahl) {
-  std::string Text = ZahlFormat(Zahl, -1, Messdezimalen);
-  if (Optionen.OptNachkommastellen < Messdezimalen && Text.ends_with('0')) Text.pop_back();
+std::string Messwerttext(double Zahl, int Dezimalen) {
+  std::string Text = ZahlFormat(Zahl, -1, Dezimalen);
+  if (Optionen.OptNachkommastellen < Dezimalen && Text.ends_with('0')) Text.pop_back();
   return Text;
 }
 
-bool MesswertLesen(std::string& Text, double& Zahl) {
+bool MesswertLesen(std::string& Text, double& Zahl, int Dezimalen) {
   if (!IstZahlText(Text)) return false;
-  Zahl = ZahlAusText(ZahlFormat(Text, -1, Messdezimalen));
-  Text = Messwerttext(Zahl);
+  Zahl = ZahlAusText(ZahlFormat(Text, -1, Dezimalen));
+  Text = Messwerttext(Zahl, Dezimalen);
   return true;
 }
 
-bool MesswertPrüfen(std::string& Text, double& Zahl) {
+bool MesswertPrüfen(std::string& Text, double& Zahl, int Dezimalen) {
   std::string Normal = Text;
   double Neu = 0;
-  if (!MesswertLesen(Normal, Neu)) {
+  if (!MesswertLesen(Normal, Neu, Dezimalen)) {
     StatusHilfeSetzen("Zahl erwartet");
     return false;
   }

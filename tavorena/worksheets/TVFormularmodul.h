@@ -16,18 +16,21 @@ std::string Längentext(const Wert& Zahl);
 /// Width of a field of such texts with so many integer places, sign and point included [characters].
 int Längenbreite(int Vorkomma);
 
-/// Text of a measured value in a field. It is taken to 4 decimals, the precision in which the batch file
-/// keeps it, so that a replay computes with the same value; a fourth decimal of 0 is not shown with fewer
-/// decimals set.
-std::string Messwerttext(double Zahl);
+/// Decimals of a measured value in the batch file.
+inline constexpr int Messdezimalen = 4;
+
+/// Text of a measured value in a field. It is taken to 4 decimals, or those of its kind: the precision in
+/// which the batch file keeps it, so that a replay computes with the same value; a last decimal of 0 is not
+/// shown with fewer decimals set.
+std::string Messwerttext(double Zahl, int Dezimalen = Messdezimalen);
 
 /// Reads a measured value that was typed and brings the text into its normal form.
 /// @return false: the text is no number; Text and Zahl are then untouched
-bool MesswertLesen(std::string& Text, double& Zahl);
+bool MesswertLesen(std::string& Text, double& Zahl, int Dezimalen = Messdezimalen);
 
 /// The same for a value that is to be recorded: what its record can not hold is refused as well.
 /// @return false with a reason in the status help
-bool MesswertPrüfen(std::string& Text, double& Zahl);
+bool MesswertPrüfen(std::string& Text, double& Zahl, int Dezimalen = Messdezimalen);
 
 /// A point number or a symbol that is to be recorded must be one word, and not "-", which stands for none.
 /// @return false with a reason in the status help

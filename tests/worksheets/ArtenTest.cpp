@@ -45,6 +45,11 @@ const Auftrag Aufträge[] = {
     {"3D WINKEL", "DreiD_Pnr1", "1001\n1002\n2003\n"},
     {"24.00", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
     {"24.30", "HelmertDatei", "neu\n\n", "HelmertTransformieren", "Alle Koordinaten"},
+    {"NI.00", "NivGitter",
+     "1001\n1,23456\n\n\n25,3\n\nx\n\nam "
+     "Kirchhof\n9001\n\n2,5\n\n\n\n\n\n\n1002\n1,5\n\n0,98765\n30\n25,2\n\n\n\n"
+     "2003\n\n\n1,2\n\n30,1\n\n13,04\n\n2003\n1\n\n\n\n\n\n\n\n1001\n\n\n1,545\n\n\n\n\n\n",
+     "NivRechnen"},
     {"65.00", "AreaName", "N\nB\n1001\n-80\n103,2\n1002\n70g\n\n2003\n\n42,4\n2004\n1\n\n", "AreaSchreiben"},
 };
 
