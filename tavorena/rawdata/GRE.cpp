@@ -101,10 +101,19 @@ std::string_view MarkeVon(int Gruppe, const Messsatz& Satz) {
       ->Wort;
 }
 
-// A whole number of millimetres gets its point; what has one, or is no number, stays.
+// A text as one token: blanks would cut it, and nothing would take the next key for it.
+std::string Token(std::string_view Text) {
+  std::string Wort = Text.empty() ? "0" : std::string(Text);
+  std::replace_if(
+      Wort.begin(), Wort.end(),
+      [](char c) { return std::string_view(" \t\0", 3).find(c) != std::string_view::npos; }, '_');
+  return Wort;
+}
+
+// A whole number of millimetres gets its point; what has one, or is no number, stays as a token.
 std::string MitPunkt(const std::string& Wert) {
   const bool Ganz = IstZahlwort(Wert) && Wert.find_first_of(".,eE") == std::string::npos;
-  return Ganz ? ZahlFormat(ZahlAusText(Wert) / 1000, 4, 3) : Wert;
+  return Ganz ? ZahlFormat(ZahlAusText(Wert) / 1000, 4, 3) : Token(Wert);
 }
 
 }  // namespace
@@ -158,7 +167,7 @@ int GRECodeblockLesen(std::string_view Zeile, Codeblock& Block) {
 }
 
 std::string GREZeileSchreiben(const Messsatz& Satz) {
-  std::string Zeile = " Nr" + RechtsBündig(Satz.Nummer.Text, 9);
+  std::string Zeile = " Nr" + RechtsBündig(Token(Satz.Nummer.Text), 9);
   for (const int Gruppe : {21, 22, 31, 32, 33, 51, 81, 82, 83, 84, 85, 86, 88, 87}) {
     if (const Messwert* W = MesswertVon(Satz, Gruppe); W != nullptr) {
       if (W->Da && W->Gelesen)
@@ -178,12 +187,9 @@ std::string GRECodeblockSchreiben(const Codeblock& Block) {
   const std::size_t Meter = Code == "61" || Code == "62"   ? Werte.size()
                             : Code == "75" || Code == "76" ? 2
                                                            : 0;
-  std::string Zeile = " Code" + RechtsBündig(Code, 9);
+  std::string Zeile = " Code" + RechtsBündig(Token(Code), 9);
   for (std::size_t i = 1; i < Werte.size(); ++i)
-    Zeile += " I" + std::to_string(i) + ' ' +
-             (Werte[i].empty() ? "-"
-              : i < Meter      ? MitPunkt(Werte[i])
-                               : Werte[i]);
+    Zeile += " I" + std::to_string(i) + ' ' + (i < Meter ? MitPunkt(Werte[i]) : Token(Werte[i]));
   return Zeile;
 }
 

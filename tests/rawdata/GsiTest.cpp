@@ -127,6 +127,8 @@ TEST(Rohzeilen, Schreiben) {
             "410012+00000021 42....+00000062 43....+00001550 44....+0001.600 45....+0000000A ");
   B.Wort1 = "0";
   EXPECT_EQ(GRECodeblockSchreiben(B), " Code       62 I1    1.550 I2 1.600 I3 A");
+  S.Nummer.Text = "BP 4";
+  EXPECT_EQ(GREZeileSchreiben(S).substr(0, 15), " Nr     BP_4 Hz");
   B.Werte[0] = "75";
   B.Werte[2] = "1600";
   EXPECT_EQ(GRECodeblockSchreiben(B), " Code       75 I1    1.550 I2 1600 I3 A");
