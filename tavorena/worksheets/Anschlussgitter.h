@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <tavorena/rawdata/Stationsrechnung.h>
 #include <tavorena/worksheets/Eingabegitter.h>
-#include <tavorena/worksheets/Stationsrechnung.h>
 
 namespace tavorena {
 

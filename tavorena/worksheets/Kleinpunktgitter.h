@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <tavorena/rawdata/Stationsrechnung.h>
 #include <tavorena/worksheets/Punktgitter.h>
-#include <tavorena/worksheets/Stationsrechnung.h>
 
 namespace tavorena {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include <tavorena/rawdata/Stationsrechnung.h>
 #include <tavorena/records/FStat.h>
-#include <tavorena/worksheets/Stationsrechnung.h>
 
 // A station, as it was computed, for protocol and batch file.
 

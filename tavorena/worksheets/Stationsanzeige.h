@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include <tavorena/rawdata/Stationsrechnung.h>
 #include <tavorena/worksheets/Rechenblatt.h>
-#include <tavorena/worksheets/Stationsrechnung.h>
 
 namespace tavorena {
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <tavorena/rawdata/Stationsrechnung.h>
 #include <tavorena/records/Stapelsatz.h>
-#include <tavorena/worksheets/Stationsrechnung.h>
 
 namespace tavorena {
 namespace {
