@@ -121,10 +121,10 @@ class TVRohdatenForm final : public Dialogform {
     Neu.OhneNullen = Nullen->Gewählt;
     Neu.LagenMitteln = Lagen->Gewählt;
     Neu.AlleEinheiten = Einheiten->Gewählt;
-    if (Neu.Stationscodes.empty() || !WertLesen(*Nummer, 1, Neu.Stationswert) ||
+    if (Neu.Stationscodes.empty() || !WertLesen(*Nummer, 2, Neu.Stationswert) ||
         !WertLesen(*Höhe, 0, Neu.Ihwert)) {
-      StatusHilfeSetzen("Codes durch Kommas getrennt und Nummern von Werten bis " + std::to_string(MaxWert) +
-                        " erwartet");
+      StatusHilfeSetzen("erwartet: Codes durch Kommas getrennt, Nummern von Werten bis " +
+                        std::to_string(MaxWert));
       return false;
     }
     if (Neu == Wahl) return true;

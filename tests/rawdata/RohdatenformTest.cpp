@@ -49,7 +49,7 @@ TEST_F(Rohdatenform, JedeÄnderungLiestNeu) {
     EXPECT_EQ(Tippe(Form, "RohdatenStationscode", " ,\n"), "RohdatenStationscode");
     EXPECT_EQ(Tippe(Form, "RohdatenStationscode", "60, 21\n"), "RohdatenStandpunktnummer");
     EXPECT_EQ(Zählung(Form), "2 Messungen in 2 Blöcken");
-    EXPECT_EQ(Tippe(Form, "RohdatenStandpunktnummer", "0\n"), "RohdatenStandpunktnummer");
+    EXPECT_EQ(Tippe(Form, "RohdatenStandpunktnummer", "1\n"), "RohdatenStandpunktnummer");
     EXPECT_EQ(Tippe(Form, "RohdatenStandpunktnummer", "2\n"), "RohdatenInstrumentenhöhe");
     Tippe(Form, "RohdatenInstrumentenhöhe", "3\n");
     Form.Wählen(Element<Auswahl>(Form, "RohdatenWinkel"), "", true);
