@@ -71,10 +71,14 @@ int HöhenlisteLesen(const std::string& Datei, std::vector<Höhenpunkt>& Punkte,
   });
 }
 
-int HöhenlisteSchreiben(const std::string& Datei, const std::vector<Höhenpunkt>& Punkte) {
+std::string HöhenlisteText(const std::vector<Höhenpunkt>& Punkte) {
   std::string Text;
   for (const Höhenpunkt& P : Punkte) Text += Höhenzeile(P) + "\r\n";
-  return Schreiben(Datei, Text);
+  return Text;
+}
+
+int HöhenlisteSchreiben(const std::string& Datei, const std::vector<Höhenpunkt>& Punkte) {
+  return Schreiben(Datei, HöhenlisteText(Punkte));
 }
 
 int HöhenlisteAddieren(const std::string& Datei, double Wert, int& Anzahl) {

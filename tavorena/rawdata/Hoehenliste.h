@@ -26,6 +26,8 @@ struct Höhenpunkt {
 /// @return 0; -1 with a message: the file can not be read
 [[nodiscard]] int HöhenlisteLesen(const std::string& Datei, std::vector<Höhenpunkt>& Punkte, int& Andere);
 
+/// The text of a list.
+[[nodiscard]] std::string HöhenlisteText(const std::vector<Höhenpunkt>& Punkte);
 /// Writes a list, in place of a file that is there. @return 0; -1 with a message, the file is as it was
 [[nodiscard]] int HöhenlisteSchreiben(const std::string& Datei, const std::vector<Höhenpunkt>& Punkte);
 

@@ -21,7 +21,7 @@ struct Nivfund {
 /// sight), 335 and 336 (the second back- and foresight of a set-up, whose means count; differences above 1 mm
 /// are told) with the length of their sight in word 32, and in GRE HO_RB, HO_VB, HO_ZB with HD. A backsight
 /// to another point than the last foresight, and a code block "?", begin a further line.
-/// @return 0; -1 the file can not be read, the reason is in Grund ("" if there is none)
+/// @return 0; -1 the file can not be read, the reason is in Grund ("" if there is none); -2 stopped
 [[nodiscard]] int NivellementLesen(const std::string& Quelle, Rohform Form, Nivfund& F,
                                    std::string* Grund = nullptr);
 
@@ -29,9 +29,13 @@ struct Nivfund {
 [[nodiscard]] std::string NivHöhenliste(const std::string& Ziel);
 
 /// Raw data to a NIV file, and a HLI file of the same name beside it when there are heights.
-/// @return 0; -1 with the reason in Grund ("" if there is no input): it can not be read, holds no reading, or
-///         one of the outputs exists
+/// @param[in] Ersetzen  a NIV file that is there may be replaced, else it is a failure; another list of
+/// heights is
+///                      one always
+/// @return 0; -1 with the reason in Grund ("" if there is no input): it can not be read, or holds no reading,
+/// an
+///         output exists or can not be written; -2 stopped
 [[nodiscard]] int NivellementAusRohdaten(const std::string& Quelle, const std::string& Ziel, Rohform Form,
-                                         Nivfund& F, std::string* Grund = nullptr);
+                                         Nivfund& F, std::string* Grund = nullptr, bool Ersetzen = false);
 
 }  // namespace tavorena
