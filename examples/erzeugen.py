@@ -16,6 +16,7 @@ import sys
 HIER = pathlib.Path(__file__).resolve().parent
 ZUFALL = random.Random(19700101)
 ZUFALL_NEU = random.Random(19700102)  # of the new points
+ZUFALL_HOEHE = random.Random(19700103)  # of the level
 URSPRUNG = (3456213.40, 5612387.15)  # Rechts, Hoch of the churchyard corner, zone 3
 DREHUNG = math.radians(14.3)  # of the main street against east
 STEMPEL = "21.11.2026   09:30"
@@ -193,6 +194,30 @@ def zug(anfziel, anf, neue, end, endziel):
             + [f"ABSCHLP {end:8d}  {brech[-1]:12.4f}", f"ABSCHLZP {endziel:8d}"])
 
 
+def nivellement():
+    """A level line from the church to the end of the main street, with two covers beside it, and back."""
+    zeilen = []
+    for kette in ((101, 102, 103, 104, 105), (105, 104, 103, 102, 101)):
+        rueck = None  # backsight and its length at the point before
+        for i, n in enumerate(kette):
+            s = round(weit(kette[i - 1], n) / 2, 1) if i > 0 else None
+            vor = None
+            if i > 0:
+                dh = punkte[n][2] - punkte[kette[i - 1]][2] + ZUFALL_HOEHE.gauss(0, 0.0004)
+                vor = round(rueck - dh, 5)
+            letzter = i == len(kette) - 1
+            auf = None if letzter else (punkte[kette[i + 1]][2] - punkte[n][2]) / 2
+            rueck = None if letzter else round(1.6 + auf + ZUFALL_HOEHE.uniform(-0.3, 0.3), 5)
+            weite = None if letzter else round(weit(n, kette[i + 1]) / 2, 1)
+            zeilen.append((n, rueck, None, vor, weite, s, ""))
+            if n in (102, 103) and kette[0] == 101:
+                zeilen.append((6000 + n, None, round(rueck + 0.8, 4), None, None, None, "Schacht"))
+    wert = lambda x: f"{'-':>13}" if x is None else f"{x:13.5f}"
+    return ([f"FEST {101:8d}  {punkte[101][2]:12.4f}", f"FEST {105:8d}  {punkte[105][2]:12.4f}"]
+            + [f"NIV {n:8d}" + "".join("  " + wert(x) for x in werte) + (f"  {b}" if b else "")
+               for n, *werte, b in zeilen] + ["PARAM KLASSE 15"])
+
+
 def neue_punkte():
     fall, ende = "E  (Ende)", "E Ende"
     aufnahme = [(n, *linie(101, 102, n)) for n in (5001, 5002, 5003)]
@@ -224,6 +249,7 @@ def neue_punkte():
     ecken = (1003, 1005, 1006, 1004)
     zeilen += block("VR 65.00 Flächenberechnung", ["NAME      Flurstück 12/3"],
                     [f"PN    {a:8d}  {mass(a, b):12.4f}" for a, b in zip(ecken, ecken[1:] + ecken[:1])], ende)
+    zeilen += block("VR NI.00 Nivellement", [], nivellement(), ende)
     zeilen += block("3D Raumstrecke", [], ["NR3D      101       107"], fall)
     zeilen += block("3D Kanalmeßstab", [], ["NR3D     5011      5013      5050        0.8500"], fall)
     return zeilen + block("VR 24.00 Helmert- Transformation", ["NEUESSYSTEM  passpunkte.kor"],

@@ -28,9 +28,10 @@ namespace tavorena {
 
 /// @name Raw data
 /// @{
-[[nodiscard]] Konsolenbefehl GsiAusgabeBefehl();  ///< "gsi-ausgabe b.gsi --koordinaten a.kor --art 41"
+[[nodiscard]] Konsolenbefehl GsiAusgabeBefehl();   ///< "gsi-ausgabe b.gsi --koordinaten a.kor --art 41"
+[[nodiscard]] Konsolenbefehl NivellementBefehl();  ///< "nivellement a.niv --hoehen fest.hli"
 [[nodiscard]] Konsolenbefehl RohdatenBefehl();  ///< "rohdaten a.gsi": the report, and other forms of the file
-[[nodiscard]] Konsolenbefehl TheoBefehl();  ///< "theo GERÄT --rohdatendatei b.gsi": measures
+[[nodiscard]] Konsolenbefehl TheoBefehl();      ///< "theo GERÄT --rohdatendatei b.gsi": measures
 /// @}
 
 /// @name What changes points; each is one deed, wholly done or not at all

@@ -79,10 +79,11 @@ std::string Deutsch(const CLI::App& App, const CLI::ParseError& Fehler) {
 
 Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Umfeld& U) {
   const Konsolenbefehl Befehle[] = {
-      Stapelbefehl(),    Menübefehl(),       DoppelteBefehl(),        QuasiBefehl(),      BelegungBefehl(),
-      LöschBefehl(),     UmnumerierBefehl(), DoppelteMittelnBefehl(), MittelBefehl(),     VerschiebeBefehl(),
-      ÜbernahmeBefehl(), DxfBefehl(),        GesamtdateiBefehl(),     GsiAusgabeBefehl(), RohdatenBefehl(),
-      M5Befehl(),        TheoBefehl(),
+      Stapelbefehl(),      Menübefehl(),       DoppelteBefehl(),   QuasiBefehl(),
+      BelegungBefehl(),    LöschBefehl(),      UmnumerierBefehl(), DoppelteMittelnBefehl(),
+      MittelBefehl(),      VerschiebeBefehl(), ÜbernahmeBefehl(),  DxfBefehl(),
+      GesamtdateiBefehl(), GsiAusgabeBefehl(), RohdatenBefehl(),   M5Befehl(),
+      NivellementBefehl(), TheoBefehl(),
   };
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");

@@ -8,6 +8,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/rawdata/GSI.h>
+#include <tavorena/rawdata/Nivrohdaten.h>
 #include <tavorena/rawdata/Rohbericht.h>
 #include <tavorena/rawdata/Rohumwandlung.h>
 
@@ -68,12 +69,29 @@ bool Umwandlungen(const Aufruf& A, const Umfeld& U, const Rohdaten& Roh) {
          Umwandeln(Zehn, RohdatenZehnZuEins(A.Datei, Zehn, Was, &Grund), Was, Grund, U.Ausgabe);
 }
 
+bool Nivellementdatei(const Aufruf& A, const Umfeld& U, const Rohdaten& Roh) {
+  const std::string Datei = A.Wert("--niv");
+  Nivfund F;
+  std::string Grund;
+  if (Datei.empty()) return true;
+  const bool Gut = NivellementAusRohdaten(A.Datei, Datei, Roh.Form, F, &Grund) == 0;
+  for (const std::string& Hinweis : F.Hinweise) U.Ausgabe << Hinweis << '\n';
+  if (!Gut) {
+    FehlerMeldung(Datei + "\nwird nicht geschrieben !" + InKlammern(Grund));
+    return false;
+  }
+  U.Ausgabe << Sichtbar(Datei) << ": " << Anzahltext(F.Ablesungen, "Ablesung", "Ablesungen") << ", "
+            << Anzahltext(static_cast<int>(F.Höhen.size()), "Höhe", "Höhen") << " geschrieben\n";
+  return true;
+}
+
 bool Berichten(const Aufruf& A, const Umfeld& U) {
   Rohdatenwahl Wahl;
   Rohdaten Roh;
   if (!RohdatenHolen(A, Wahl, Roh)) return false;
   for (const std::string& Zeile : RohdatenBericht(Roh)) U.Ausgabe << Zeile << '\n';
-  return Satzliste(A, Wahl, Roh) && Punktdatei(A, U, Roh) && Umwandlungen(A, U, Roh);
+  return Satzliste(A, Wahl, Roh) && Punktdatei(A, U, Roh) && Umwandlungen(A, U, Roh) &&
+         Nivellementdatei(A, U, Roh);
 }
 
 bool Ausgeben(const Aufruf& A, const Umfeld& U) {
@@ -107,6 +125,9 @@ Konsolenbefehl RohdatenBefehl() {
           {{"--satzliste", "DATEI", "schreibt jede Zeile, wie sie gelesen wird", false, Dateirolle::Ausgabe},
            {"--gre", "DATEI", "schreibt eine neue GRE-Datei", false, Dateirolle::Ausgabe},
            {"--zehn-zu-eins", "DATEI", "schreibt eine neue GSI-Datei, Längen und Koordinaten mal 10", false,
+            Dateirolle::Ausgabe},
+           {"--niv", "DATEI",
+            "schreibt ein neues Feldbuch eines Nivelliers (*.niv), daneben die Höhen (*.hli)", false,
             Dateirolle::Ausgabe},
            {"--punkte", "DATEI", "schreibt die Punkte mit Koordinaten (*.kor)", false,
             Dateirolle::Ausgabe}})};

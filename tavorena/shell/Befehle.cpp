@@ -22,6 +22,7 @@
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/M5umformung.h>
+#include <tavorena/shell/Nivbefehle.h>
 #include <tavorena/shell/Punktbefehle.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
@@ -239,6 +240,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
     for (const Befehl& E : Epochenbefehle()) B.push_back(E);
+    for (const Befehl& N : Nivbefehle()) B.push_back(N);
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
