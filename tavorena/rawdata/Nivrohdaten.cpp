@@ -6,12 +6,14 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/rawdata/GSI.h>
 #include <tavorena/rawdata/Nivrohdaten.h>
 #include <tavorena/rawdata/Rohzeichen.h>
 
 namespace tavorena {
 namespace {
 
+constexpr double Höchste = 10000, HöchsteAblesung = 100;  // beyond them it is something else [m]
 constexpr double Doppelgrenze = 0.001;  // two readings of one sight may differ by so much [m]
 
 // A number as a field book can hold it: one word that is no keyword of it.
@@ -70,7 +72,8 @@ void Nivsammler::Mitteln(Blick& B, const Blick& Zweiter, const char* Name) {
 }
 
 void Nivsammler::Nehmen(char Art, const Messsatz& Satz, double Wert) {
-  const bool MitWeite = Satz.Horizontal.Da && Satz.Horizontal.Gelesen && Satz.Horizontal.Wert > 0;
+  const bool MitWeite = Satz.Horizontal.Da && Satz.Horizontal.Gelesen && Satz.Horizontal.Wert > 0 &&
+                        Satz.Horizontal.Wert < Höchste;
   const Blick Neuer{Nivnummer(Satz.Nummer.Text), 1, Wert, MitWeite ? Satz.Horizontal.Wert : KeineAblesung};
   ++F.Ablesungen;
   if (Art == '3') {
@@ -150,7 +153,8 @@ void ZeileNehmen(std::string_view Zeile, Rohform Form, Messsatz& Satz, Codeblock
   const char Art = Ablesungsart(Satz, Form);
   const Messwert& W = Form == Rohform::GRE || Art == '.' ? Satz.Höhe : Satz.Höhenunterschied;
   if (!W.Da) return;
-  if (!W.Gelesen) return S.Hinweisen("nicht verstanden: " + Zitat(Sichtbar(TrimmenSicht(Zeile))));
+  const bool Möglich = std::fabs(W.Wert) < (Art == '.' ? Höchste : HöchsteAblesung);
+  if (!W.Gelesen || !Möglich) return S.Hinweisen("nicht verstanden: " + Zitat(Sichtbar(TrimmenSicht(Zeile))));
   if (Art == '.') return S.Höhe(Satz);
   S.Nehmen(Art, Satz, W.Wert);
 }

@@ -19,8 +19,8 @@ NivellementErgebnis Gerechnet(const Feldbuch& Z, double k = 15) {
   return E;
 }
 
-// A line between two benchmarks of a public calculator, and a circuit of 30.5 km from Austin, Surveying
-// Computations: 783.213 at 5.245 km becomes 783.255.
+// A line between two benchmarks of a public calculator, and a published circuit of 30.5 km:
+// 783.213 at 5.245 km becomes 783.255.
 TEST(Nivellement, VeröffentlichteLinien) {
   const NivellementErgebnis E = Gerechnet({{"BM1", 2.337, N, N, N, N, 149.767},
                                            {"1", 1.37975, N, 1.47725},

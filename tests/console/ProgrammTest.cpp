@@ -256,6 +256,34 @@ TEST_F(Programm, Gesamtdatei) {
             std::string::npos);
 }
 
+TEST_F(Programm, Nivellement) {
+  Schreibe(Ordner.Pfad("t.gsi"),
+           "110001+00000101 83..18+18230000\r\n110002+00000101 32...8+02530000 331.28+00123450\r\n"
+           "110003+00000102 32...8+02530000 332.28+00098765\r\n110004+00000007 333.28+00050000\r\n");
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "rohdaten t.gsi --niv t.niv"), 0) << Meldungen;
+  EXPECT_TRUE(Aus.ends_with("t.niv: 3 Ablesungen, 1 Höhe geschrieben\n")) << Aus;
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "rohdaten t.gsi --niv t.niv"), 1);
+  const std::string Linie = "nivellement t.niv --hoehen t.hli";
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, Linie + " --hli b.hli --dat b.dat --protokoll n.dru"), 0) << Meldungen;
+  const std::string Block =
+      "        1.2345                                     182.3000        101  Fest\n"
+      "                   0.5000                          183.0345          7  Zwischen\n"
+      "                              0.9877               182.5469        102\n"
+      "      Summe R=    1.2345  Summe V=    0.9877\n"
+      "      Offen: 101 - 102, ohne Verbesserung  L =  0.051 km\n";
+  EXPECT_TRUE(Aus.ends_with("Bemerkung\n" + Block)) << Aus;
+  std::string Prots = Inhalt(Ordner.Pfad("n.dru"));
+  std::erase(Prots, '\r');
+  EXPECT_TRUE(Prots.ends_with(Block)) << Prots;
+  EXPECT_EQ(Inhalt(Ordner.Pfad("b.hli")),
+            "     101    182.3000\r\n       7    183.0345\r\n     102    182.5469\r\n");
+  EXPECT_EQ(Inhalt(Ordner.Pfad("b.dat")), "     101       102     0.24685     50.6\r\n");
+  Schreibe(Ordner.Pfad("u.niv"), "102 - - 1\n");
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "nivellement u.niv --hoehen t.hli"), 1);
+  EXPECT_TRUE(Meldungen.ends_with("u.niv Punkt 102 (1. Punktzeile): Rückblick fehlt davor\n")) << Meldungen;
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, Linie + " --klasse 0"), 1);
+}
+
 TEST_F(Programm, M5) {
   const std::string Vorn = "For M5|Adr 00001|PI1",
                     Mess = "|SD         10.000 m   |Hz       100.0000 gon |V1       100.0000 gon | $\n";

@@ -64,5 +64,24 @@ TEST_F(Shelltest, M5ÜberDasMenü) {
   EXPECT_EQ(Skript.Status[4], "   1 Punkt in " + Kor + "   ");
 }
 
+TEST_F(Shelltest, HöhenlistenÜberDasMenü) {
+  Öffne();
+  const std::string Hli = Ordner.Pfad("a.hli");
+  const auto Umwandeln = [&](const char* Eintrag, const char* Quelle, const char* Ziel) {
+    Skript.Formulare.push_back(
+        Bediene({{"Datei(0)", Ordner.Pfad(Quelle)}, {"Datei(1)", Ordner.Pfad(Ziel)}, {"OK", ""}}));
+    Befehl(Eintrag);
+  };
+  Schreibe(Ordner.Pfad("a.niv"), "1 1.5\n2 - - 1.25\n");
+  Umwandeln("MenüFunktSetzungsmessung(0)", "a.niv", "a");
+  EXPECT_EQ(Inhalt(Ordner.Pfad("a.dat")), "       1         2     0.25000         \r\n");
+  Schreibe(Ordner.Pfad("a.lt5"), "10 H 150.1887\nNetz\n");
+  Skript.Erwarte("1 Höhe geschrieben\n1 Zeile ohne Höhe");
+  Umwandeln("MenüFunktSetzungsmessung(1)", "a.lt5", "a");
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "-0,5"}, {"OK", ""}}));
+  Befehl("MenüFunktSetzungsmessung(2)", Hli);
+  EXPECT_EQ(Inhalt(Hli), "      10    149.6887\r\n");
+}
+
 }  // namespace
 }  // namespace tavorena::test
