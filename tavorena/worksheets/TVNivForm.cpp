@@ -89,6 +89,7 @@ TVNivForm::TVNivForm(const Blattart& BlattArt)
   HöhenDatei.Hilfe =
       "Festpunkte sind die Punkte dieser Liste; ohne Liste im Gitter bei Fest ein Zeichen tippen";
   HöhenDatei.BeiVerlassen = [this] { return HöhendateiLesen(); };
+  HöhenDatei.BeiReturn = [this] { FokusSetzen(NivGitter); };
   Klasse.BeiWahl = [this] { NeuRechnen(); };
   NivGitter.Hilfe =
       "Fest: die Höhe kommt aus der Höhenliste oder der Tabelle; eine getippte Höhe gilt als fest";

@@ -184,8 +184,9 @@ class FensterTest final : public Fensterumgebung {
          "3001\n35,2217\n97,7976\n49,8716\n\n\n\n\n\n",
          "NEUPUNKT       2041  -\r\nPWS     3001        35.2217        97.7976        49.8716");
     Fall("MenüFunktNivellement",
-         "\n15\n1001\n1,23456\n\n\n25,3\n\nx\n\n\n1002\n\n\n1,2\n\n25,1\n\n\nBolzen\n\n",
-         "NIV     1002              -              -        1.20000              -       25.10000  Bolzen");
+         "\n1001\n1,23456\n\n\n25,3\n\n\n100\n\n1002\n\n\n1,2\n\n25,1\n\n\nBolzen\n\n\n",
+         "FEST     1001      100.0000\r\nNIV     1001        1.23456              -              -       "
+         "25.30000");
     Fall("MenüKatasterArea", "N\n\n1001\n\n100,02\n1002\n-70g\n\n2003\n\n\n\n\n",
          "PN        1001      100.0200\r\nPNRIG     1002       70.0000        0.0000\r\nPN        2003");
   }
