@@ -37,7 +37,9 @@ constexpr Seite Seiten[] = {
     {3120, "grafikdruck.md"},  {4000, "rechenblatt.md"}, {4010, "editor.md"},
     {4020, "vergeben.md"},     {4030, "loeschen.md"},    {4040, "mittelbildung.md"},
     {4060, "loeschen.md"},     {4070, "rechenblatt.md"}, {5000, "index.md"},
-    {8000, "index.md"},        {8020, "optionen.md"},    {8040, "index.md"},
+    {5030, "m5.md"},           {5040, "index.md"},       {6040, "setzung.md"},
+    {6050, "index.md"},        {8000, "index.md"},       {8020, "optionen.md"},
+    {8040, "index.md"},
 };
 
 QUrl Adresse(const QString& Datei) { return QUrl("qrc:/handbuch/" + Datei); }
@@ -49,7 +51,7 @@ QString Seitentext(const QString& Datei) {
 
 // All pages in the order in which the first one names them.
 QStringList AlleSeiten() {
-  static const QRegularExpression Verweis("\\]\\(([a-z]+\\.md)\\)");
+  static const QRegularExpression Verweis("\\]\\(([a-z0-9]+\\.md)\\)");
   QStringList Alle = {Seiten[0].Datei};
   const QString Inhalt = Seitentext(Alle.first());
   for (const auto& Treffer : Verweis.globalMatch(Inhalt)) {

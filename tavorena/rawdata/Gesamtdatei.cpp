@@ -205,7 +205,6 @@ int GesamtdateiLesen(const std::string& Name, Gesamtdatei& G, Dateistand* Stand)
 int GesamtdateiSchreiben(const std::string& Name, const Gesamtdatei& G, const Dateistand& Solange) {
   std::string Grund;
   const int Ergebnis = DateiErsetzen(Name, GesamtdateiText(G), &Grund, &Solange);
-  if (Ergebnis == -2) Grund = "inzwischen von anderer Seite geändert";
   if (Ergebnis < 0) SpeicherfehlerMelden(Name, Grund, "Gesamtdatei.Schreiben");
   return Ergebnis < 0 ? -1 : 0;
 }

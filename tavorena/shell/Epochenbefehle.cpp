@@ -18,6 +18,7 @@
 namespace tavorena {
 namespace {
 
+constexpr int Epochenseite = 6040;  // of the handbook
 const char* const FilterGes = "Gesamtdatei (*.ges)|*.ges";
 
 std::string Messungstitel(bool MitLage) {
@@ -94,7 +95,7 @@ void ParameterZeigen(bool MitLage) {
 }
 
 Befehl Messbefehl(const char* Eintrag, void (*Tun)(bool), bool MitLage) {
-  return {Eintrag, true, [=] { Tun(MitLage); }};
+  return {Eintrag, true, [=] { Tun(MitLage); }, false, nullptr, Epochenseite};
 }
 
 }  // namespace
