@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QTimer>
 
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Nebenfenster.h>
@@ -19,12 +20,12 @@ Nebenfenster::Nebenfenster(Formular& Gezeigt, QMainWindow& Haupt)
   Rolle->setWidgetResizable(true);
   Rolle->setFrameShape(QFrame::NoFrame);
   Rolle->setFocusPolicy(Qt::NoFocus);
-  Rolle->setMinimumSize(Ansicht->minimumSizeHint().boundedTo(QSize(400, 260)));
+  Rolle->setMinimumSize(Ansicht->sizeHint().boundedTo(QSize(480, 320)));
   setWidget(Rolle);
   Ansicht->BeiGeschlossen = [this] {
     if (isAncestorOf(QApplication::focusWidget()) && Vorheriger != nullptr) Vorheriger->setFocus();
     hide();
-    deleteLater();
+    Löschen();
   };
   connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, this, [this] { FokusTauschen(); });
   connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, this, [this] { Drücken(); });
@@ -44,9 +45,18 @@ QList<Nebenfenster*> Nebenfenster::Offene(const QWidget& Haupt) {
   return Liste;
 }
 
+// The click that is still running may have come from a button in here.
+void Nebenfenster::Löschen() {
+  if (!Form.InArbeit()) return deleteLater();
+  QTimer::singleShot(100, this, [this] { Löschen(); });
+}
+
 void Nebenfenster::FokusTauschen() {
   if (!isAncestorOf(QApplication::focusWidget())) {
     Vorheriger = QApplication::focusWidget();
+    Steuerelement* S = Form.Fokus();
+    if (S != nullptr && !Formular::NimmtFokus(*S)) S = Form.Nachbar(*S, true);  // it was closed since
+    if (S != nullptr) Form.FokusWechseln(*S);
     Ansicht->FokusHolen();
     Ansicht->FokusMarkieren();
   } else if (Vorheriger != nullptr) {

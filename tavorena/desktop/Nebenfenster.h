@@ -24,6 +24,7 @@ class Nebenfenster final : public QDockWidget {
   void closeEvent(QCloseEvent* Ereignis) override;
 
  private:
+  void Löschen();
   void FokusTauschen();
   void Drücken();
 

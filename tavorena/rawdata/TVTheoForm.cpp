@@ -14,6 +14,8 @@ namespace {
 constexpr double Blickabstand = 0.05;      // of the receive loop [s]
 constexpr std::size_t Statuszeichen = 44;  // of a line that the status shows
 constexpr const char* Getrennt = "keine Verbindung";
+constexpr const char* Reduktionen[] = {"Keine Reduktion", "Reduktion auf LASER- Punkte",
+                                       "Reduktion auf optische Punkte"};  // by their modes
 
 std::unique_ptr<TVTheoForm> Fenster;
 
@@ -43,7 +45,7 @@ TVTheoForm::TVTheoForm() : Formular("TVTheoForm") {
   Nebenher = true;
   AnschlussAnlegen();
   AblageAnlegen();
-  Status = &BeschriftungAnlegen(Getrennt, {0, 0}, "Zustand");
+  Status = &BeschriftungAnlegen(Getrennt, {6, 0, 6});
   Status->Name = "TheoStatus";
   IO = &KnopfAnlegen("TVTheoIO", "&Verbinden", [this] { Drücken(); });
   IO->Vorgabe = true;
@@ -57,11 +59,10 @@ TVTheoForm::TVTheoForm() : Formular("TVTheoForm") {
 }
 
 void TVTheoForm::AnschlussAnlegen() {
-  const char* const Rahmen = "Anschluß";
-  const auto Neue = [&](const char* Label, const char* Name, const char* Einträge, Platz Ort) {
-    BeschriftungAnlegen(Label, Ort, Rahmen).Rechtsbündig = Ort.Spalte > 0;
-    Auswahl& A = ListeAnlegen(Name, Worte(Einträge), "", {Ort.Zeile, Ort.Spalte + 1}, Rahmen);
-    A.Zeichen = 6;
+  const auto Neue = [this](const char* Label, const char* Name, const char* Einträge, Platz Ort) {
+    BeschriftungAnlegen(Label, Ort).Rechtsbündig = Ort.Spalte > 0;
+    Auswahl& A = ListeAnlegen(Name, Worte(Einträge), "", {Ort.Zeile, Ort.Spalte + 1});
+    A.Zeichen = Ort.Zeile == 0 ? 4 : 1;
     return &A;
   };
   Port = Neue("Schnittstelle:", "TheoPort", "COM1,COM2", {0, 0});
@@ -72,22 +73,20 @@ void TVTheoForm::AnschlussAnlegen() {
 }
 
 void TVTheoForm::AblageAnlegen() {
-  Datei = &FeldAnlegen("TheoDatei", {0, 0}, "Rohdatendatei", 44);
+  BeschriftungAnlegen("Rohdatendatei:", {2, 0});
+  Datei = &FeldAnlegen("TheoDatei", {2, 1, 4}, "", 36);
   Datei->BeiVerlassen = [this] {
     Merken();
     return true;
   };
   KnopfAnlegen(
-      "TheoDateiWaehlen", "...", [this] { DateiWählen(); }, {0, 1}, "Rohdatendatei");
-  const char* const Texte[] = {"Keine Reduktion", "Reduktion auf LASER- Punkte",
-                               "Reduktion auf optische Punkte"};
-  for (int i = 0; i < 3; ++i) {
-    Auswahl& A = OptionAnlegen("TheoReduktion(" + std::to_string(i) + ")", Texte[i], {i, 0}, "Reduktion");
-    A.BeiWahl = [this] { Merken(); };
-    Reduktion.at(static_cast<std::size_t>(i)) = &A;
-  }
-  BeschriftungAnlegen("Parameter (m):", {1, 1}, "Reduktion").Rechtsbündig = true;
-  Parameter = &ZahlenfeldAnlegen("TheoParameter", {1, 2}, "Reduktion", 8);
+      "TheoDateiWaehlen", "...", [this] { DateiWählen(); }, {2, 5}, "");
+  BeschriftungAnlegen("Reduktion:", {3, 0});
+  Reduktion = &ListeAnlegen("TheoReduktion", {std::begin(Reduktionen), std::end(Reduktionen)}, "", {3, 1, 5});
+  Reduktion->Zeichen = 28;
+  Reduktion->BeiWahl = [this] { Merken(); };
+  BeschriftungAnlegen("Parameter (m):", {4, 0});
+  Parameter = &ZahlenfeldAnlegen("TheoParameter", {4, 1, 2}, "", 8);
   Parameter->Text = "0.087";
   Parameter->BeiVerlassen = [this] {
     Parameter->Text = Trimmen(*Parameter->Text);
@@ -95,17 +94,18 @@ void TVTheoForm::AblageAnlegen() {
     Merken();
     return true;
   };
-  Emulation = &KästchenAnlegen("TheoEmulation", "Emulation: " + TheoEmulationsdatei, {1, 0}, "Rohdatendatei");
+  Emulation = &KästchenAnlegen("TheoEmulation", "Emulation: " + TheoEmulationsdatei, {5, 0, 6});
 }
 
 void TVTheoForm::BeiÖffnen() {
+  Gewarnt = false;
+  Verteilung = {};
   TheoOptionen T;
   if (TheoHaken.Lesen) static_cast<void>(TheoHaken.Lesen(T));
   Port->Text = T.Port == 1 ? "COM1" : "COM2";
   SettingsZeigen(T.Settings);
   Datei->Text = T.Rohdatendatei.empty() ? TheoStandarddatei() : T.Rohdatendatei;
-  for (std::size_t i = 0; i < Reduktion.size(); ++i)
-    Reduktion.at(i)->Gewählt = static_cast<int>(i) == T.Reduktion;
+  Reduktion->Text = Reduktionen[std::clamp(T.Reduktion, 0, 2)];
   Emulation->Sichtbar = DateiVorhanden(TheoEmulationsdatei);
   ZustandZeigen();
 }
@@ -144,9 +144,7 @@ void TVTheoForm::Merken() {
   Datei->Text = Trimmen(*Datei->Text);
   if (Datei->Text->empty()) Datei->Text = TheoStandarddatei();
   TheoOptionen T{Port->Text == "COM1" ? 1 : 2, Settings(), Datei->Text, 0};
-  for (std::size_t i = 0; i < Reduktion.size(); ++i) {
-    if (Reduktion.at(i)->Gewählt) T.Reduktion = static_cast<int>(i);
-  }
+  while (T.Reduktion < 2 && *Reduktion->Text != Reduktionen[T.Reduktion]) ++T.Reduktion;
   Gerät.Ablage = {T.Rohdatendatei, T.Reduktion, ZahlAusText(*Parameter->Text)};
   if (TheoHaken.Merken) TheoHaken.Merken(T);
 }
@@ -248,7 +246,8 @@ void TVTheoForm::BeiSchließen() {
 
 void TheodolitZeigen() {
   if (Fenster != nullptr && Fenster->Offen()) return;
-  if (Fenster == nullptr || !Fenster->InArbeit()) Fenster = std::make_unique<TVTheoForm>();
+  // One for the whole run: a press that is still running, and what shows it, may outlive its window.
+  if (Fenster == nullptr) Fenster = std::make_unique<TVTheoForm>();
   AnzeigePort().FormularZeigen(*Fenster, false);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -43,9 +42,8 @@ class TVTheoForm final : public Formular {
   [[nodiscard]] std::string Settings() const;
 
   Auswahl *Port = nullptr, *Baud = nullptr, *Parität = nullptr, *Datenbits = nullptr, *Stopbits = nullptr;
-  Auswahl* Emulation = nullptr;
+  Auswahl *Reduktion = nullptr, *Emulation = nullptr;
   Feld *Datei = nullptr, *Parameter = nullptr;
-  std::array<Auswahl*, 3> Reduktion{};
   Beschriftung* Status = nullptr;
   Knopf* IO = nullptr;
   Messleitung Gerät;

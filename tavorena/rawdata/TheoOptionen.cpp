@@ -1,5 +1,6 @@
 #include <cstdlib>
 
+#include <tavorena/core/Datei.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/Dateifrage.h>
 #include <tavorena/rawdata/TheoOptionen.h>
@@ -22,7 +23,7 @@ std::string TheoStandarddatei() {
     if (Ordner.empty()) Ordner = Umgebungswert(Name);
   }
   if (Ordner.empty()) Ordner = Startordner();
-  return PfadVerbinden(Ordner.empty() ? "c:\\" : Ordner, "\\tvtheo.gsi");
+  return Systempfad(PfadVerbinden(Ordner.empty() ? "c:\\" : Ordner, "\\tvtheo.gsi")).string();
 }
 
 std::string TheoGerät(int Port) {

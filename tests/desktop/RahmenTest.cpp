@@ -1,8 +1,40 @@
 // What is around the work: texts, boxes, places of windows, help, options and menus.
+#include "../support/Messgeraet.h"
 #include "Fenstertest.h"
+
+#include <ctime>
+
+#ifndef Q_MOC_RUN  // it stumbles over umlauts in an enumeration
+#include <tavorena/rawdata/Messempfaenger.h>
+#include <tavorena/rawdata/TVTheoForm.h>
+#endif
 
 using namespace tavorena;
 using namespace tavorena::test;
+
+namespace {
+
+// Takes a measurement by typing into whatever has the focus of a worksheet.
+class Tippempfänger final : public Messempfänger {
+ public:
+  explicit Tippempfänger(Formular& Ziel) : Form(Ziel) { MessempfängerSetzen(this); }
+  ~Tippempfänger() override { MessempfängerSetzen(nullptr); }
+  Formular& Blatt() override { return Form; }
+  [[nodiscard]] std::string Formname() const override { return "tvfstatform"; }
+  [[nodiscard]] Messort Fokus() const override { return Messort::Polargitter; }
+  [[nodiscard]] std::string Standpunkt() const override { return "1"; }
+  [[nodiscard]] bool StandpunktVollständig() const override { return true; }
+  void StandpunktNehmen(const std::string& /*Nummer*/, const Messwert& /*Ih*/) override {}
+  [[nodiscard]] int MessungNehmen(const Messsatz& Satz) override {
+    Form.Tippen(dynamic_cast<Eingabeelement&>(*Form.Fokus()), Satz.Nummer.Text);
+    return 0;
+  }
+
+ private:
+  Formular& Form;
+};
+
+}  // namespace
 
 class RahmenTest final : public Fensterumgebung {
   Q_OBJECT
@@ -275,6 +307,73 @@ class RahmenTest final : public Fensterumgebung {
       });
       Menü(Eintrag);
     }
+  }
+
+  // A click into the button of the link runs until its line is closed: what follows is done by a timer, each
+  // step as soon as what it waits for is there.
+  void theodolitNebenDemBlatt() {
+    const std::string Zeile = "110001+00001001 21.322+12345678 22.322+09876543 31..00+00055430\r\n";
+    std::atomic<bool> Abziehen = false;
+    Messgerät Gerät([&](Messgerät& G) {
+      G.WortAbwarten();
+      G.Senden(Zeile + "@W127\r\n");
+      G.WortAbwarten();
+      for (int i = 0; i < 500 && !Abziehen; ++i) Messgerät::Pause(10);
+      G.Senden("halb");
+      Messgerät::Pause(200);
+      G.Auflegen();
+    });
+    qputenv("TAVORENA_COM2", Gerät.Name.c_str());
+    qputenv("temp", Ordner.path().toUtf8());
+    QFile::remove(Pfad("tvtheo.gsi"));
+    Öffne("MenüKatasterLinel");
+    auto* Ansicht = dynamic_cast<FormularAnsicht*>(Fenster->findChild<QWidget*>("TVLinelForm"));
+    QVERIFY(Ansicht != nullptr);
+    Tippempfänger Empfänger(*Ansicht->Form());
+    TheodolitZeigen();
+    auto* Neben = Fenster->findChild<QDockWidget*>("TVTheoFormFenster");
+    QVERIFY(Neben != nullptr && Neben->isVisible());
+    auto* IO = Neben->findChild<QPushButton*>("TVTheoIO");
+    const auto* Status = Neben->findChild<QLabel*>("TheoStatus");
+    std::clock_t Rechenzeit = 0;
+    QElapsedTimer Uhr;
+    const std::pair<std::function<bool()>, std::function<void()>> Schritte[] = {
+        {[&] { return Status->text() == "Verbindung geöffnet" && IO->text() == "&Messen"; },
+         [&] { QTest::mouseClick(IO, Qt::LeftButton); }},
+        // The measurement was typed, and Return led on; the keys are still those of the worksheet.
+        {[&] { return Status->text() == "@W127" && FokusName() == "LinelEndPnr"; },
+         [&] { Tippe("1002"), QTest::keyClick(Fenster.get(), Qt::Key_F9); }},
+        {[&] { return Gerät.Gefragt == 2; }, [&] { Uhr.start(), Rechenzeit = std::clock(); }},
+        {[&] { return Uhr.elapsed() > 500; },
+         [&] {
+           Rechenzeit = std::clock() - Rechenzeit;
+           Antworte(Qt::Key_Return, Qt::NoModifier);
+           Abziehen = true;
+         }},
+        {[&] { return Status->text() == "keine Verbindung"; }, [] {}}};
+    std::size_t Schritt = 0;
+    QTimer Takt;
+    connect(&Takt, &QTimer::timeout, this, [&] {
+      if (Schritt < std::size(Schritte) && Schritte[Schritt].first()) Schritte[Schritt++].second();
+    });
+    QTimer::singleShot(10000, &Takt, [] { TheodolitSchließen(); });
+    Takt.start(10);
+    QTest::mouseClick(IO, Qt::LeftButton);
+    QTRY_COMPARE(Schritt, std::size(Schritte));
+    QVERIFY2(Rechenzeit < CLOCKS_PER_SEC / 4, "the loop takes the processor while it waits");
+    QCOMPARE(Feldtext(), QString("1002"));
+    QCOMPARE(Inhalt(Pfad("tvtheo.gsi")).toStdString(), Zeile + "@W127\r\nhalb\r\n");
+
+    Messgerät Neues([](Messgerät&) {});
+    qputenv("TAVORENA_COM2", Neues.Name.c_str());
+    Takt.disconnect();
+    QTimer::singleShot(300, &Takt, [&] {
+      Uhr.start();
+      QTest::mouseClick(Neben->findChild<QPushButton*>("TVTheoEnde"), Qt::LeftButton);
+    });
+    QTest::mouseClick(IO, Qt::LeftButton);
+    QVERIFY(Uhr.isValid() && Uhr.elapsed() < 200);
+    QVERIFY(!Neben->isVisible() && FokusName() == "LinelEndPnr");
   }
 
   void jederEintragIstImMenue() {

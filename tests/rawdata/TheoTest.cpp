@@ -229,13 +229,10 @@ TEST_F(Theodolit, ZeilenKommenInDieDateiUndDannInsBlatt) {
 }
 
 TEST_F(Theodolit, Reduktion) {
-  const auto Modus = [&](int m) {
-    return [=, this] {
-      Form.Wählen(Element<Auswahl>(Form, "TheoReduktion(" + std::to_string(m) + ")"), "", true);
-    };
-  };
-  Spielen({Kommt(Im + "\n", "Achtung: Rohdaten werden im Gerät reduziert !"), Kommt(Im + "\n"), Modus(2),
-           Kommt(Im + "\n", "Fehler: Rohdaten bereits im Gerät reduziert !"), Kommt(Messung + "\n")});
+  Spielen(
+      {Kommt(Im + "\n", "Achtung: Rohdaten werden im Gerät reduziert !"), Kommt(Im + "\n"),
+       [&] { Form.Wählen(Element<Auswahl>(Form, "TheoReduktion"), "Reduktion auf optische Punkte", true); },
+       Kommt(Im + "\n", "Fehler: Rohdaten bereits im Gerät reduziert !"), Kommt(Messung + "\n")});
   EXPECT_EQ(Datei(),
             Im + "\r\n" + Im + "\r\n" + Im + "\r\n" +
                 "110001+00000101 21.322+12345678 22.322+09876543 31..90+00055428 87...0+00001600\r\n");
