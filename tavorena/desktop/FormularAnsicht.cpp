@@ -101,7 +101,12 @@ void FormularAnsicht::Einsetzen(const Steuerelement& S, QWidget* W) {
   if (S.Rahmen == Knopfleiste) return Knöpfe->addWidget(W, S.Ort.Zeile, S.Ort.Spalte);
   QGridLayout* Platz = Rahmenplatz(S.Rahmen);
   if (dynamic_cast<const Gitter*>(&S) != nullptr) {
-    Platz->addWidget(W, S.Ort.Zeile, 0, 1, -1);
+    if (S.Ort.Breite > 1) {  // beside another one: they share the width
+      Platz->addWidget(W, S.Ort.Zeile, S.Ort.Spalte, 1, S.Ort.Breite);
+      Platz->setColumnStretch(S.Ort.Spalte, 10 * S.Ort.Breite);
+    } else {
+      Platz->addWidget(W, S.Ort.Zeile, 0, 1, -1);
+    }
     Kästen->setStretchFactor(Platz->parentWidget(), 1);
     return;
   }

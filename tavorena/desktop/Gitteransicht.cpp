@@ -308,7 +308,8 @@ void Gitteransicht::focusInEvent(QFocusEvent* Ereignis) {
 
 QSize Gitteransicht::sizeHint() const {
   int Breite = 2 * frameWidth() + 24;
-  for (const Gitterspalte& S : Daten.Spalten) Breite += Zeichenbreite(font(), S.Zeichen) + Zellrand;
+  for (const Gitterspalte& S : Daten.Spalten)
+    Breite += S.Sichtbar ? Zeichenbreite(font(), S.Zeichen) + Zellrand : 0;
   return {Breite, 8 * verticalHeader()->defaultSectionSize()};
 }
 
