@@ -112,7 +112,7 @@ class RahmenTest final : public Fensterumgebung {
   void bilderWieGebilligt() {
     Öffne("MenüKatasterLinel");
     Tippe("1001\n1002\n0\n0\n2003\n2004\n");
-    GrafikWahl.Nummern = GrafikWahl.Maßstabsleiste = false;
+    const Grafikwahl Vorher = std::exchange(GrafikWahl, {false, false, false});
     GrafikÖffnen(360 * TwipsJePixel, 240 * TwipsJePixel);
     for (const auto& [Name, Wahl, Dichte] :
          {std::tuple("dunkel1", Helligkeit::Dunkel, 1.0), std::tuple("dunkel2", Helligkeit::Dunkel, 2.0),
@@ -134,6 +134,7 @@ class RahmenTest final : public Fensterumgebung {
       }
       QVERIFY2(Anders < 20, qPrintable(Datei + ": " + QString::number(Anders)));
     }
+    GrafikWahl = Vorher;
   }
 
   void fensterUndProtokollKommenWieder() {
