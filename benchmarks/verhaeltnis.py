@@ -64,6 +64,8 @@ PAARE = (
     ("Flaeche/1000", ("NurFlaeche/1000",), 3.0),
     ("Zug/1000", ("NurZug/1000",), 3.0),
     ("EditorTaste/20001", ("EditorTaste/20",), 2.0),
+    ("RohdatenGsi16/20000", ("NurRohzahlen/20000",), 3.0),
+    ("RohdatenGsi16/400000", ("RohdatenGsi16/20000",), 32.0),
     ("Fenster/zu", ("Fenster/Konsole",), 4.0),
     ("Fenster/offen", ("Fenster/Konsole",), 6.0),
 )

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <tavorena/core/Datei.h>
 #include <tavorena/rawdata/GRE.h>
 #include <tavorena/rawdata/Rohbericht.h>
 #include <tavorena/rawdata/Rohumwandlung.h>
@@ -87,13 +88,14 @@ constexpr Rohform Form = FORM == GRE ? Rohform::GRE : Rohform::GSI;
 
 void Lauf(Eingabe E) {
   [[maybe_unused]] const int Wie = E.Zahl(0, 127);
-  const std::string_view Text = E.Rest();
+  const std::string Text = IstUtf8(E.Rest()) ? std::string(E.Rest()) : AusWindows1252(E.Rest());
+  const std::string_view Zeile = std::string_view(Text).substr(0, Text.find_first_of("\r\n"));
   if constexpr (FORM == CODE) {
-    Codeprobe(Text);
+    Codeprobe(Zeile);
   } else {
-    Zeilenprobe(Text.substr(0, Text.find('\n')));
+    Zeilenprobe(Zeile);
     Dateiprobe(Text, Wie % 8);
-    if (Wie >= 112) Umwandlungsprobe(Text, Wie - 112);
+    if (Wie >= 112) Umwandlungsprobe(E.Rest(), Wie - 112);
   }
 }
 

@@ -105,8 +105,7 @@ std::string_view MarkeVon(int Gruppe, const Messsatz& Satz) {
 std::string Token(std::string_view Text) {
   std::string Wort = Text.empty() ? "0" : std::string(Text);
   std::replace_if(
-      Wort.begin(), Wort.end(),
-      [](char c) { return std::string_view(" \t\0", 3).find(c) != std::string_view::npos; }, '_');
+      Wort.begin(), Wort.end(), [](char c) { return c >= 0 && c <= ' '; }, '_');
   return Wort;
 }
 

@@ -18,9 +18,10 @@ Messinfo InfoAus(std::string_view Text) {
 }
 
 int ZeilenartVon(std::string_view Zeile, const GSIForm& Form) {
-  if (Zeile.size() < Form.Mindestlänge() ||
-      ZeichenAnzahl(Zeile.substr(0, 4 * Form.Wortbreite())) < Form.Mindestlänge())
-    return ZuKurz;
+  // A character has at most four bytes.
+  const bool Lang = Zeile.size() >= 4 * Form.Mindestlänge() ||
+                    (Zeile.size() >= Form.Mindestlänge() && ZeichenAnzahl(Zeile) >= Form.Mindestlänge());
+  if (!Lang) return ZuKurz;
   return Zeile.starts_with("11") ? Messzeile : Zeile.starts_with("41") ? Codezeile : AndereZeile;
 }
 

@@ -45,7 +45,8 @@ void Messsatz::Leeren() {
     T->Info = Messtext().Info;
     T->Text.clear();
   }
-  for (const int Wort : {21, 22, 31, 32, 33, 81, 82, 83, 84, 85, 86, 87, 88}) *MesswertVon(*this, Wort) = {};
+  Hz = V = Strecke = Horizontal = Höhenunterschied = {};
+  Rechts = Hoch = Höhe = StandRechts = StandHoch = StandHöhe = Reflektorhöhe = Instrumentenhöhe = {};
 }
 
 void Codeblock::Leeren() {

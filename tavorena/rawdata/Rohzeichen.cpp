@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -53,20 +52,21 @@ int Wortindex(std::string_view Wort) {
 }
 
 bool GanzesFeld(std::string_view Feld, double& Zahl) {
+  constexpr std::size_t MaxZiffern = 18;
   const std::string_view Ganz = TrimmenSicht(Feld);
-  const bool Negativ = Ganz.starts_with('-');
-  const char* const Ab = Ganz.data() + (Negativ || Ganz.starts_with('+') ? 1 : 0);
-  const char* const Bis = Ganz.data() + Ganz.size();
+  const bool Zeichen = Ganz.starts_with('-') || Ganz.starts_with('+');
+  const std::string_view Ziffern = Ganz.substr(Zeichen ? 1 : 0);
+  bool Gut = !Ziffern.empty() && Ziffern.size() <= MaxZiffern;
+  std::size_t i = 0;
+  while (Gut && i < Ziffern.size() && Ziffern[i] == '0') ++i;  // fields are mostly filled with them
   std::int64_t n = 0;
-  const bool Ziffern = Ab != Bis && IstZiffer(*Ab);
-  if (const auto [Ende, Fehler] = std::from_chars(Ab, Bis, n);
-      Ziffern && Fehler == std::errc() && Ende == Bis) {
-    Zahl = static_cast<double>(Negativ ? -n : n);
-    return true;
+  for (; Gut && i < Ziffern.size(); ++i) {
+    n = n * 10 + (Ziffern[i] - '0');
+    Gut = IstZiffer(Ziffern[i]);
   }
-  Zahl = ZahlAusText(Feld);
+  Zahl = Gut ? static_cast<double>(Ganz[0] == '-' ? -n : n) : ZahlAusText(Feld);
   if (!std::isfinite(Zahl)) Zahl = 0;
-  return false;
+  return Gut;
 }
 
 std::string_view OhneFührendeNullen(std::string_view Text) {
