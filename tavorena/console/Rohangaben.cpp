@@ -70,8 +70,8 @@ bool RohdatenHolen(const Aufruf& A, Rohdatenwahl& Wahl, Rohdaten& Roh) {
   if (!RohwahlLesen(A, Wahl)) return false;
   std::string Grund;
   if (RohdatenLesen(A.Datei, Wahl, Roh, &Grund) == 0) return true;
-  FehlerMeldung("Rohdatendatei\n" + A.Datei + "\n" +
-                (Grund.empty() ? "nicht vorhanden !" : "nicht lesbar !" + InKlammern(Grund)));
+  Hinweis("Rohdatendatei\n" + A.Datei + "\n" +
+          (Grund.empty() ? "nicht vorhanden !" : "nicht lesbar !" + InKlammern(Grund)));
   return false;
 }
 

@@ -18,14 +18,14 @@ namespace {
 bool Ersetzen(const std::string& Datei, const std::string& Text) {
   std::string Grund;
   if (DateiErsetzen(Datei, Text, &Grund) == 0) return true;
-  FehlerMeldung(Datei + "\nläßt sich nicht schreiben !" + InKlammern(Grund));
+  Hinweis(Datei + "\nläßt sich nicht schreiben !" + InKlammern(Grund));
   return false;
 }
 
 bool Umwandeln(const std::string& Ziel, int Ergebnis, const Umwandlung& U, const std::string& Grund,
                std::ostream& Ausgabe) {
   if (Ergebnis != 0) {
-    FehlerMeldung(Ziel + "\nwird nicht geschrieben !" + InKlammern(Grund));
+    Hinweis(Ziel + "\nwird nicht geschrieben !" + InKlammern(Grund));
     return false;
   }
   Ausgabe << Sichtbar(Ziel) << ": "
@@ -58,7 +58,7 @@ bool Punktdatei(const Aufruf& A, const Umfeld& U, const Rohdaten& Roh) {
 bool Umwandlungen(const Aufruf& A, const Umfeld& U, const Rohdaten& Roh) {
   const std::string Gre = A.Wert("--gre"), Zehn = A.Wert("--zehn-zu-eins");
   if ((!Gre.empty() || !Zehn.empty()) && Roh.Form == Rohform::GRE) {
-    FehlerMeldung(A.Datei + "\nist GRE; umgewandelt wird GSI.");
+    Hinweis(A.Datei + "\nist GRE; umgewandelt wird GSI.");
     return false;
   }
   Umwandlung Was;
@@ -101,7 +101,7 @@ bool Ausgeben(const Aufruf& A, const Umfeld& U) {
     return false;
   }
   if (SelbeDatei(A.Datei, A.Koordinaten)) {
-    FehlerMeldung(A.Datei + ": die Datei des Befehls ist auch die Koordinatendatei");
+    Hinweis(A.Datei + "\nist auch die Koordinatendatei.");
     return false;
   }
   if (!Ersetzen(A.Datei, TabelleAlsGSI(static_cast<GSIAusgabe>(Art[1] - '0' + 40)))) return false;

@@ -14,7 +14,7 @@ constexpr std::size_t MaxStationen = 1000;
 
 std::string Zahl(std::size_t n) { return std::to_string(n); }
 
-// "Zeilen 3, 7, 9 ..."
+// ", Zeilen 3, 7, 9 ..."; "" where they are not known
 std::string Zeilennummern(const Fundstelle& F) {
   std::string Text;
   for (const std::size_t n : F.Zeilen) {
@@ -22,7 +22,7 @@ std::string Zeilennummern(const Fundstelle& F) {
   }
   if (Text.empty()) return "";
   const bool Eine = F.Zeilen[1] == 0;
-  return (Eine ? "Zeile " : "Zeilen ") + Text + (F.Zeilen[2] != 0 && F.Anzahl > 3 ? " ..." : "");
+  return (Eine ? ", Zeile " : ", Zeilen ") + Text + (F.Zeilen[2] != 0 && F.Anzahl > 3 ? " ..." : "");
 }
 
 std::size_t Summe(const std::vector<Fundstelle>& Liste) {
@@ -38,8 +38,7 @@ void Fundliste(std::vector<std::string>& Ziel, const std::string& Kopf,
   for (const Fundstelle& F : Liste)
     Erste += (&F == Liste.data() ? " - " : ", ") + F.Was + " (" + Zahl(F.Anzahl) + ")";
   Ziel.push_back(Erste);
-  for (const Fundstelle& F : Liste)
-    Ziel.push_back("  " + F.Was + ": " + Zahl(F.Anzahl) + ", " + Zeilennummern(F));
+  for (const Fundstelle& F : Liste) Ziel.push_back("  " + F.Was + ": " + Zahl(F.Anzahl) + Zeilennummern(F));
 }
 
 std::string Formtext(const Rohdaten& Roh) {
@@ -125,7 +124,7 @@ std::vector<std::string> RohdatenBericht(const Rohdaten& Roh) {
   Wortliste(Z, Roh);
   Z.push_back("Codeblock: " + Zahl(B.Codezeilen));
   for (const Fundstelle& F : B.Codes)
-    Z.push_back("  Code " + Sichtbar(F.Was) + ": " + Zahl(F.Anzahl) + ", " + Zeilennummern(F));
+    Z.push_back("  Code " + Sichtbar(F.Was) + ": " + Zahl(F.Anzahl) + Zeilennummern(F));
   Z.push_back("Stationen: " + Zahl(B.Stationen));
   if (B.OhneStationscode)
     Z.push_back("  kein Stationscode: Zeilen mit Standpunktkoordinaten eröffnen die Stationen");

@@ -61,7 +61,7 @@ void Rohprüfung::Art(int Zeilenart, bool Sechzehn) {
       Melden(B.NichtGelesen, "Zeile anderer Art");
   }
   if (Zeilenart >= 0 && Sechzehn) ++B.Sechzehner;
-  if (Text.find('\0') != std::string_view::npos) Melden(B.NichtGelesen, "Zeichen mit dem Code 0");
+  if (Text.find('\0') != std::string_view::npos) Zweifel("Zeichen mit dem Code 0");
 }
 
 void Rohprüfung::Feld(int Wort, char Einheit, std::string_view Daten) {
@@ -217,6 +217,9 @@ void Rohprüfung::Abschließen(std::string_view Gesamt) {
   if (std::any_of(B.Zweifel.begin(), B.Zweifel.end(), [](const Zweifelszeile& Z) { return Z.Text.empty(); }))
     TexteErgänzen(Gesamt);
   B.Punkte = Nummern.size();
+  // A code 0 inside a line, or one that ended a line.
+  if (const auto n = std::count(Gesamt.begin(), Gesamt.end(), '\0'); n > 0)
+    B.NichtGelesen.push_back({"Zeichen mit dem Code 0", static_cast<std::size_t>(n), {}});
   for (std::size_t Wort = 0; Wort < Einheiten.size(); ++Wort) {
     for (std::size_t c = 0; c < Einheiten[Wort].size(); ++c) {
       if (Einheiten[Wort][c] == 0) continue;

@@ -96,7 +96,7 @@ TEST_F(RohdatenTest, WasFehltWirdGesagt) {
       {"110001+00000001 58..00+00000001 31..00+000",
        "Wort 58 unbekannt 1|Wort am Zeilenende abgeschnitten 1|"},
       {"110001         ", "Messung ohne Punktnummer 1|"},
-      {std::string("110001+00000001 \0", 17), "Zeichen mit dem Code 0 1|Wort am Zeilenende abgeschnitten 1|"},
+      {std::string("110001+00000001 \0", 17), "Wort am Zeilenende abgeschnitten 1|Zeichen mit dem Code 0 1|"},
       {Messzeile("1", {{71, "5"}}) + Messzeile("1", {{71, "6"}}) + Messzeile("1", {{71, "7"}}),
        "Nummer mit zwei Codes 1|"},
   };
@@ -107,6 +107,8 @@ TEST_F(RohdatenTest, WasFehltWirdGesagt) {
   }
   EXPECT_EQ(Bild(Ziel("1")), "[ 0]1:0 ");
   EXPECT_EQ(Mängel(), "");
+  Bild(std::string("\n\0\n", 3));  // it ends a line here
+  EXPECT_EQ(Mängel(), "Zeichen mit dem Code 0 1|");
 }
 
 TEST_F(RohdatenTest, LagenMitteln) {
