@@ -119,8 +119,10 @@ TEST(Rohzeilen, Schreiben) {
   S.Höhenunterschied.Info[0] = '2';
   S.Höhe = {true, true, {'.', '.', '0', '0'}, 123456.789};
   S.Reflektorhöhe = {true, true, {'.', '.', '.', '.'}, 1.55};
-  EXPECT_EQ(GSIZeileSchreiben(S),
-            "11....+0000BP04 21.322+10000000 31..00+00000000 83..00+******** 87....+00001.55 ");
+  S.Code = {true, {'.', '.', '.', '.'}, "123456789"};
+  EXPECT_EQ(
+      GSIZeileSchreiben(S),
+      "11....+0000BP04 21.322+10000000 31..00+00000000 83..00+******** 87....+00001.55 71....+******** ");
   EXPECT_EQ(GREZeileSchreiben(S), " Nr     BP04 Hz 100.00000 sD   -0.001 Ho_VB ****.*** ReflH 1.55");
   Codeblock B{"12", "21", {"62", "1550", "1.600", "A"}, 4};
   EXPECT_EQ(GSICodeblockSchreiben(B),

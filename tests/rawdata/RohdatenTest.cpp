@@ -115,8 +115,9 @@ TEST_F(RohdatenTest, LagenMitteln) {
   Wahl.LagenMitteln = true;
   const std::string Text = Ziel("1", "39999900", "9950000", "1000") + Ziel("2") + Ziel("2") +
                            Ziel("1", "20000300", "30050200", "1004") + Ziel("1", "10", "9950000") +
-                           Ziel("1", "20000010", "30070000");
-  EXPECT_EQ(Bild(Text), "[ 0]1:0 2:0 2:0 1:0 1:0 ");
+                           Ziel("1", "20000010", "30070000") + Ziel("3") + Ziel("3", "21000000", "30000000") +
+                           Ziel("3", "21000000", "30000000");
+  EXPECT_EQ(Bild(Text), "[ 0]1:0 2:0 2:0 1:0 1:0 3:0 3:0 ");
   const Rohpunkt& P = Roh.Blöcke[0].Punkte[0];
   EXPECT_NEAR(P.Hz, 0.001, 1e-9);
   EXPECT_NEAR(P.V, 99.499, 1e-9);
@@ -132,6 +133,8 @@ TEST_F(RohdatenTest, KoordinatenGegenDieTabelle) {
     Bild(Messzeile("5", {{81, R}, {82, H}}));
     EXPECT_EQ(Mängel(), Soll);
   }
+  Bild(Messzeile("5", {{81, "1200000"}, {82, "80300000"}, {83, "---"}}));
+  EXPECT_TRUE(Roh.Koordinaten.at(0).Höhe.IstLeer());
   Bild("*110001+0000000000000005 81..00+0000001200000000 82..00+0000080300000000");
   EXPECT_EQ(Mängel(), "Koordinaten 1000mal zu groß 1|");
 }
