@@ -72,6 +72,18 @@ bool OrdnerVorhanden(std::string_view Name) {
   return !Name.empty() && fs::is_directory(Systempfad(Name), Fehler);
 }
 
+std::vector<std::string> DateienIm(std::string_view Ordner) {
+  std::vector<std::string> Namen;
+  std::error_code Fehler;
+  for (fs::directory_iterator i(Systempfad(Ordner), Fehler), Ende; !Fehler && i != Ende;
+       i.increment(Fehler)) {
+    std::error_code Art;
+    if (i->is_regular_file(Art)) Namen.push_back(i->path().filename().string());
+  }
+  std::sort(Namen.begin(), Namen.end());
+  return Namen;
+}
+
 int OrdnerAnlegen(std::string_view Name) {
   std::error_code Fehler;
   if (!Name.empty()) fs::create_directories(Systempfad(Name), Fehler);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The one place where files are opened. Names carry "\" or "/" and may begin with a drive letter; texts
 // are UTF-8 in memory, and the code page of a file is converted here and nowhere else.
@@ -28,6 +29,10 @@ bool SelbeDatei(std::string_view A, std::string_view B);
 
 bool DateiVorhanden(std::string_view Name);
 bool OrdnerVorhanden(std::string_view Name);
+
+/// The names of the regular files in a folder, without it, in the order of their letters; none where it can
+/// not be read.
+std::vector<std::string> DateienIm(std::string_view Ordner);
 
 /// Makes a folder and those above it. @return 0 (also if it was there); -1
 [[nodiscard]] int OrdnerAnlegen(std::string_view Name);

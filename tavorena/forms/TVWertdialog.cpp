@@ -104,6 +104,7 @@ class Dateiform final : public Dialogform {
   static bool IstAusgabe(const Dateifeld& D) { return D.Ausgabe || D.Fortgeschrieben; }
 
   static void NameWählen(Feld& F, const Dateifeld& D) {
+    if (D.Ordner) return OrdnerWählen(F, D);
     const Dateiname Teile = DateinameZerlegen(*F.Text);
     const std::string Vorgabe = F.Text->substr(Teile.Ordner.size());
     Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Vorgabe, !IstAusgabe(D), "", false};
@@ -111,11 +112,21 @@ class Dateiform final : public Dialogform {
     if (!Name.empty()) F.Text = Name;
   }
 
+  static void OrdnerWählen(Feld& F, const Dateifeld& D) {
+    std::string Name = *F.Text;
+    if (VerzeichnisWahl(D.Label, Name) == 0) F.Text = Name;
+  }
+
   // An output must not be one of the inputs, and is not written over without a question.
   void Übernehmen() {
     for (std::size_t i = 0; i < Dateien.size(); ++i) {
       const std::string Name = Trimmen(*Felder[i]->Text);
+      if (Name.empty() && Dateien[i].Leerbar) continue;
       if (Name.empty()) return FokusSetzen(*Felder[i]);
+      if (Dateien[i].Ordner && !OrdnerVorhanden(Name)) {
+        LaufzeitFehlerMeldung(Laufzeitfehler::Pfad, "Dialog.VerzeichnisWahl");
+        return FokusSetzen(*Felder[i]);
+      }
       for (std::size_t k = 0; k < i; ++k) {
         if (IstAusgabe(Dateien[i]) == IstAusgabe(Dateien[k]) || Name != Trimmen(*Felder[k]->Text)) continue;
         Hinweis("Dateiname für Ein- und Ausgabe ist gleich:\n" + Name);

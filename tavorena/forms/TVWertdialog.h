@@ -38,6 +38,8 @@ struct Dateifeld {
   std::string Filter;            ///< of its file-choosing button
   bool Ausgabe = false;          ///< an existing file is asked about; must differ from the inputs
   bool Fortgeschrieben = false;  ///< an output that is extended: it need not exist, and is not asked about
+  bool Leerbar = false;          ///< need not be given
+  bool Ordner = false;           ///< a folder that is there, chosen by VerzeichnisWahl
 };
 
 /// Asks for the file names, each with a button that chooses one. @return 0; -1 if cancelled

@@ -119,8 +119,7 @@ std::unordered_map<std::string, const Vergleichspunkt*> Einmalige(const Punkte& 
 }
 
 void Differenzen(const Dateipunkte& Datei, Übernahmeplan& Plan) {
-  Dateipunkte Tabelle;
-  for (int z = 0; z < KorAnzahl; ++z) Tabelle.push_back(TabellenPunkt(z));
+  const Dateipunkte Tabelle = Tabellenpunkte();
   const auto Hier = Einmalige(Tabelle), Dort = Einmalige(Datei);
   std::vector<double> dR, dH;
   for (const Vergleichspunkt& P : Tabelle) {
@@ -198,6 +197,12 @@ int VergleichspunkteLesen(const std::string& Datei, bool Höhenliste, std::vecto
     }
   }
   return 0;
+}
+
+std::vector<Vergleichspunkt> Tabellenpunkte() {
+  std::vector<Vergleichspunkt> Punkte;
+  for (int z = 0; z < KorAnzahl; ++z) Punkte.push_back(TabellenPunkt(z));
+  return Punkte;
 }
 
 int Übernahmeplan::Anzahl() const {

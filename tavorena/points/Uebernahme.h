@@ -30,6 +30,9 @@ enum class Übernahme {
 [[nodiscard]] int VergleichspunkteLesen(const std::string& Datei, bool Höhenliste,
                                         std::vector<Vergleichspunkt>& Punkte, int& Andere);
 
+/// The points of the table.
+[[nodiscard]] std::vector<Vergleichspunkt> Tabellenpunkte();
+
 /// What a file changes.
 struct Übernahmeplan {
   Übernahme Art = Übernahme::Koordinaten;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <numeric>
 #include <string_view>
 #include <utility>
 
@@ -248,10 +249,17 @@ std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma) {
 }
 
 std::string TabelleAlsGSI(GSIAusgabe Art) {
+  std::vector<int> Zeilen(static_cast<std::size_t>(KorAnzahl));
+  std::iota(Zeilen.begin(), Zeilen.end(), 0);
+  return TabelleAlsGSI(Art, Zeilen);
+}
+
+std::string TabelleAlsGSI(GSIAusgabe Art, const std::vector<int>& Zeilen) {
   std::string Text;
-  for (int i = 0; i < KorAnzahl; ++i) {
-    const KorSatz P = KorPunkt(i);
-    Text += KoordinateAlsGSI(Art, i + 1, P.Pnr, P.Rechts, P.Hoch, P.Hoehe, P.Symbol) + "\r\n";
+  int Nummer = 0;
+  for (const int z : Zeilen) {
+    const KorSatz P = KorPunkt(z);
+    Text += KoordinateAlsGSI(Art, ++Nummer, P.Pnr, P.Rechts, P.Hoch, P.Hoehe, P.Symbol) + "\r\n";
   }
   return Text;
 }

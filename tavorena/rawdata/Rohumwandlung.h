@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include <tavorena/rawdata/GSI.h>
 #include <tavorena/rawdata/Rohdaten.h>
@@ -58,5 +59,7 @@ struct Koordinatenbasis {
 
 /// The whole point table as lines of 16 digits for the instrument, in its order.
 [[nodiscard]] std::string TabelleAlsGSI(GSIAusgabe Art);
+/// The same of some of its rows.
+[[nodiscard]] std::string TabelleAlsGSI(GSIAusgabe Art, const std::vector<int>& Zeilen);
 
 }  // namespace tavorena

@@ -24,6 +24,7 @@
 #include <tavorena/shell/M5umformung.h>
 #include <tavorena/shell/Nivbefehle.h>
 #include <tavorena/shell/Punktbefehle.h>
+#include <tavorena/shell/Rohdatenbefehle.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
 #include <tavorena/worksheets/Blattart.h>
@@ -242,6 +243,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
     for (const Befehl& E : Epochenbefehle()) B.push_back(E);
     for (const Befehl& N : Nivbefehle()) B.push_back(N);
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
+    for (const Befehl& R : Rohdatenbefehle()) B.push_back(R);
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
         if (Menü != nullptr && *Menü != '\0') B.push_back({Menü, true, [&Art] { BlattÖffnen(Art); }});

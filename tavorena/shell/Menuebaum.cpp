@@ -187,6 +187,10 @@ constexpr Menüeintrag Baum[] = {
     {"MenüKonvertierenKat(0)", "EDBS-> KOR- Datei", 0, Konverter},
     {"MenüKonvertierenGeo", "Geographische -> ebene Koordinaten", 0, Konverter},
     {"MenüKonvertierenKor(0)", "Ebene -> geographische Koordinaten", 0, Konverter},
+    {"MenüKonvertierenRohdaten(0)", "GSI -> GRE", 1045, Konverter},
+    {"MenüKonvertierenRohdaten(1)", "Rohdaten 10:1", 1045, Konverter},
+    {"MenüKonvertierenRohdaten(2)", "Koordinaten aus Rohdaten -> KOR", 1045, Konverter},
+    {"MenüKonvertierenRohdaten(3)", "Koordinatenbasis abziehen", 1045, Konverter},
 
     {"MenüMain(8)", "&Optionen", 7000, Bar},
     {"MenüOptionenOptionen", "&Optionen", 8020, Optionsmenü},

@@ -31,15 +31,8 @@ bool PunktZuSehen() {
   return false;
 }
 
-// Behind a deed: the entry that takes it back bears its name, and the view goes where the points went.
-void Berichten(int Ergebnis, const std::string& Text) {
-  AnzeigePort().HauptfensterGeändert();
-  if (GrafikFenster.GrafikOffen && !PunktZuSehen()) GrafikZoomAnpassen();
-  if (Ergebnis == 0) StatusHilfeSetzen(Text);
-}
-
 void Ändern(const std::string& Name, int Anzahl, const std::string& Text, const std::function<int()>& Tun) {
-  if (Fragen(Name, Text, Anzahl)) Berichten(Tun(), Anzahltext(Anzahl, "Punkt", "Punkte") + " geändert");
+  if (Fragen(Name, Text, Anzahl)) TabellenBericht(Tun(), Anzahltext(Anzahl, "Punkt", "Punkte") + " geändert");
 }
 
 bool VersatzFragen(const std::string& Name, Versatz& d) {
@@ -64,6 +57,12 @@ bool AbstandFragen(const std::string& Name, double& fs) {
 }
 
 }  // namespace
+
+void TabellenBericht(int Ergebnis, const std::string& Text) {
+  AnzeigePort().HauptfensterGeändert();
+  if (GrafikFenster.GrafikOffen && !PunktZuSehen()) GrafikZoomAnpassen();
+  if (Ergebnis == 0) StatusHilfeSetzen(Text);
+}
 
 void TabelleTauschen(bool Tauschen, bool MitVersatz) {
   const std::string Name = !MitVersatz ? "Koordinaten tauschen"
@@ -92,7 +91,7 @@ void TabelleÜbernehmen(Übernahme Art) {
 
 void TabelleZurücknehmen() {
   const std::string Name = TabellenRücknahme.Name();
-  Berichten(TabellenRücknahme.Zurück(), "Zurückgenommen: " + Name);
+  TabellenBericht(TabellenRücknahme.Zurück(), "Zurückgenommen: " + Name);
 }
 
 bool IstVergleichsdatei(Übernahme Art, const std::string& Datei) {
