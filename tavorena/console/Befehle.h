@@ -28,6 +28,7 @@ namespace tavorena {
 
 /// @name Raw data
 /// @{
+[[nodiscard]] Konsolenbefehl AbsteckBefehl();  ///< "absteckung a.gsi --koordinaten soll.kor --bericht b.dru"
 [[nodiscard]] Konsolenbefehl GsiAusgabeBefehl();   ///< "gsi-ausgabe b.gsi --koordinaten a.kor --art 41"
 [[nodiscard]] Konsolenbefehl NivellementBefehl();  ///< "nivellement a.niv --hoehen fest.hli"
 [[nodiscard]] Konsolenbefehl RohdatenBefehl();  ///< "rohdaten a.gsi": the report, and other forms of the file

@@ -20,6 +20,7 @@ class Programm : public ::testing::Test {
     Schreibe(Ordner.Pfad("frage.sta"), "M VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 77\r\nE\r\n");
     Schreibe(Ordner.Pfad("leer.sta"), "C nichts\r\n");
     Schreibe(Ordner.Pfad("verirrt.sta"), "E\r\nM VR 24.40 x\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\n");
+    Schreibe(Ordner.Pfad("a.gsi"), "410001+00000060 42....+00001001 \r\n");
     fs::create_directory(Ordner.Pfad("ordner"));
     fs::create_hard_link(Ordner.Pfad("a.sta"), Ordner.Pfad("gleich"));
   }
@@ -59,6 +60,8 @@ TEST_F(Programm, Rückgabewerte) {
       {"--koordinaten a.kor frage.sta", 1, "frage.sta, Zeile 4: Frage ohne Antwort: Punkt 77"},
       {"--koordinaten a.kor leer.sta", 1, "leer.sta"},
       {"--koordinaten a.kor verirrt.sta", 1, "verirrt.sta, Zeile 1: Fehler aufgetreten im Stapel E ohne"},
+      {"absteckung a.gsi --koordinaten a.kor --bericht b.dru", 0, ""},
+      {"absteckung a.gsi --koordinaten a.kor --bericht ./a.kor", 2, "./a.kor: die Datei von --bericht ist"},
       {"dxf --koordinaten a.kor --punkte p.dxf --nach n.dxf", 0, ""},
       {"dxf --lesen n.dxf --speichern b.kor", 2, "tavorena-stapel: --speichern braucht"},
       {"dxf --lesen p.dxf --lesen-cad p.dxf", 2, "tavorena-stapel: falsche Angabe: --lesen"},
