@@ -18,7 +18,7 @@ extern Rohdatenwahl LetzteRohdatenwahl;
 inline constexpr const char* FilterRohdaten = "GSI |*.gsi|GRE |*.gre";
 
 /// Help number of the stake-out.
-inline constexpr int Absteckseite = 6040;
+inline constexpr int Absteckseite = 6050;
 
 /// @name The commands that fill files of their own
 /// @{
