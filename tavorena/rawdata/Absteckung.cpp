@@ -165,7 +165,8 @@ class Bericht {
     if (!Mehrere && Bekannt != nullptr) {
       A.Art = Stationsart::Anschluß;
       A.Bekannt = {Bekannt->Rechts, Bekannt->Hoch};
-      A.BekannteHöhe = Bekannt->Hoehe;
+      // Without that of the instrument it says nothing about the points; theirs still hold among themselves.
+      A.BekannteHöhe = S.Instrumentenhöhe.IstGegeben() ? Bekannt->Hoehe : 0;
     }
     Stand.Hindernis = StationRechnen(A, Stand.Ergebnis);
   }
@@ -179,7 +180,7 @@ class Bericht {
     P.MK = E.MK;
     P.ML = E.ML;
     P.Stand = {E.Ort.RW, E.Ort.HW, S.Standpunkt};
-    P.StandHoehe = Höhenwert(E.Höhe);
+    P.StandHoehe = S.Instrumentenhöhe.IstGegeben() ? Höhenwert(E.Höhe) : Wert();
     for (std::size_t i = 0; i < Stand.Aufgabe.Zeilen.size(); ++i) {
       const Stationsanschluß& Z = Stand.Aufgabe.Zeilen[i];
       const Stationsabweichung& V = E.Abweichungen[i];

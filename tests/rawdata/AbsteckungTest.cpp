@@ -84,6 +84,20 @@ TEST_F(Absteckung, BerichtJeStation) {
                      Zahlen.NichtGerechnet, 1));
 }
 
+// The heights of the points hold without that of the instrument, but not that of the station.
+TEST_F(Absteckung, OhneInstrumentenhöhe) {
+  Auftrag.Soll.push_back({"900", 3500100, 5600200, 100});
+  for (const std::vector<Rohpunkt>& Punkte : {Anschluss, {Anschluss[0]}}) {
+    Auftrag.Roh.Blöcke = {Block("900", Punkte)};
+    const std::string Mit = Text();
+    Auftrag.Roh.Blöcke[0].Instrumentenhöhe = {};
+    const std::string Ohne = Text();
+    EXPECT_EQ(Ohne.substr(Ohne.find('\f')), Mit.substr(Mit.find('\f')));
+    EXPECT_NE(Mit.find(" 105.000                       1 Ist"), std::string::npos) << Mit;
+    EXPECT_EQ(Ohne.find("100.000                                  900 PS"), std::string::npos);
+  }
+}
+
 TEST_F(Absteckung, SechzigZeilenJeSeite) {
   Auftrag.Roh.Blöcke = {Block("900", Anschluss), Block("900", {})};
   for (int i = 0; i < 70; ++i)
