@@ -191,6 +191,7 @@ constexpr Menüeintrag Baum[] = {
     {"MenüKonvertierenRohdaten(1)", "Rohdaten 10:1", 1045, Konverter},
     {"MenüKonvertierenRohdaten(2)", "Koordinaten aus Rohdaten -> KOR", 1045, Konverter},
     {"MenüKonvertierenRohdaten(3)", "Koordinatenbasis abziehen", 1045, Konverter},
+    {"MenüKonvertierenRohdaten(4)", "Nivellement aus GSI / GRE -> NIV", 1045, Konverter},
 
     {"MenüMain(8)", "&Optionen", 7000, Bar},
     {"MenüOptionenOptionen", "&Optionen", 8020, Optionsmenü},

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <numeric>
 #include <utility>
 #include <vector>
@@ -14,6 +15,7 @@
 #include <tavorena/points/Punkteingabe.h>
 #include <tavorena/points/TVPSelectForm.h>
 #include <tavorena/rawdata/Hoehenliste.h>
+#include <tavorena/rawdata/Nivrohdaten.h>
 #include <tavorena/rawdata/Rohumwandlung.h>
 #include <tavorena/rawdata/TVRohdatenForm.h>
 #include <tavorena/shell/Rohdatenbefehle.h>
@@ -190,6 +192,26 @@ void BasisAbziehen() {
   Melden(Ziel, Ergebnis, U, Grund);
 }
 
+void AlsNivellement() {
+  constexpr std::size_t Genannte = 10;
+  Rohquelle Q;
+  if (!QuelleFragen(FilterUmwandlung, "*.gsi", Q)) return;
+  const std::string Ziel = ZielFragen(Q, FilterUmwandlung, "*.niv");
+  if (Ziel.empty()) return;
+  Nivfund F;
+  std::string Grund;
+  const int Ergebnis = NivellementAusRohdaten(Q.Datei, Ziel, Q.Daten.Form, F, &Grund, true);
+  if (Ergebnis < 0) return Melden(Ziel, Ergebnis, {}, Grund);
+  std::string Text = Anzahltext(F.Ablesungen, "Ablesung", "Ablesungen") + " in " +
+                     Anzahltext(static_cast<int>(F.Linien.size()), "Linie", "Linien");
+  if (F.Hinweise.empty()) return StatusHilfeSetzen(Text);
+  Text += ":\n" + Ziel + "\n";
+  for (std::size_t i = 0; i < std::min(F.Hinweise.size(), Genannte); ++i) Text += "\n" + F.Hinweise[i];
+  if (F.Hinweise.size() > Genannte)
+    Text += "\nund " + std::to_string(F.Hinweise.size() - Genannte) + " weitere";
+  Hinweis(Text);
+}
+
 }  // namespace
 
 std::span<const Befehl> Rohdatenbefehle() {
@@ -210,6 +232,7 @@ std::span<const Befehl> Rohdatenbefehle() {
       {"MenüKonvertierenRohdaten(1)", false, [] { GsiUmwandeln(RohdatenZehnZuEins, "*.gsi"); }},
       {"MenüKonvertierenRohdaten(2)", false, KoordinatenAlsKor},
       {"MenüKonvertierenRohdaten(3)", false, BasisAbziehen},
+      {"MenüKonvertierenRohdaten(4)", false, AlsNivellement},
   };
   return Alle;
 }

@@ -92,6 +92,11 @@ TEST_F(Rohdatenmenü, UmwandlungFragtNachDemZiel) {
   Skript.Dateien = {Roh, Ordner.Pfad("c.gsi")};
   Skript.Erwarte("Keine Koordinatenbasis abzuziehen:");
   Befehl("MenüKonvertierenRohdaten(3)");
+  Schreibe(Roh, "110001+00000001 331.08+00133700 \r\n110002+00000002 332.08+00050000 \r\n");
+  Bericht();
+  Skript.Dateien = {Roh, Ordner.Pfad("n")};
+  Befehl("MenüKonvertierenRohdaten(4)");
+  EXPECT_NE(Inhalt(Ordner.Pfad("n.niv")).find("1.33700"), std::string::npos);
 }
 
 TEST_F(Rohdatenmenü, Entladen) {
