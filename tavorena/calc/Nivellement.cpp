@@ -1,5 +1,8 @@
 #include <algorithm>
 #include <cmath>
+#include <deque>
+#include <map>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -298,21 +301,23 @@ std::vector<NivellementPaar> NivellementPaare(const Zeilen& Zeilen, const Nivell
     return Zeilen[static_cast<std::size_t>(Zeile)].Punkt;
   };
   std::vector<NivellementPaar> Paare;
-  std::vector<bool> Vergeben(E.Abschnitte.size());
+  std::map<std::pair<std::string_view, std::string_view>, std::deque<std::size_t>> Einzelne;  // by their ends
   double Summe = 0;
   for (std::size_t i = 0; i < E.Abschnitte.size(); ++i) {
-    const NivellementAbschnitt& A = E.Abschnitte[i];
-    if (Vergeben[i] || Punkt(A.Von) == Punkt(A.Bis)) continue;
-    for (std::size_t j = i + 1; j < E.Abschnitte.size(); ++j) {
-      const NivellementAbschnitt& Z = E.Abschnitte[j];
-      if (Vergeben[j] || Punkt(Z.Von) != Punkt(A.Bis) || Punkt(Z.Bis) != Punkt(A.Von)) continue;
-      Vergeben[j] = true;
-      Paare.push_back({static_cast<int>(i), static_cast<int>(j), A.SummeDH + Z.SummeDH,
-                       (A.SummeDH - Z.SummeDH) / 2, (A.L + Z.L) / 2});
-      Summe += std::pow(1000 * Paare.back().d, 2) / Paare.back().R;
-      break;
+    const NivellementAbschnitt& Z = E.Abschnitte[i];
+    if (Punkt(Z.Von) == Punkt(Z.Bis)) continue;
+    std::deque<std::size_t>& Hin = Einzelne[{Punkt(Z.Bis), Punkt(Z.Von)}];
+    if (Hin.empty()) {
+      Einzelne[{Punkt(Z.Von), Punkt(Z.Bis)}].push_back(i);
+      continue;
     }
+    const NivellementAbschnitt& A = E.Abschnitte[Hin.front()];
+    Paare.push_back({static_cast<int>(Hin.front()), static_cast<int>(i), A.SummeDH + Z.SummeDH,
+                     (A.SummeDH - Z.SummeDH) / 2, (A.L + Z.L) / 2});
+    Hin.pop_front();
+    Summe += std::pow(1000 * Paare.back().d, 2) / Paare.back().R;
   }
+  std::ranges::sort(Paare, {}, &NivellementPaar::Hin);
   s0 = Paare.empty() ? 0 : std::sqrt(Summe / static_cast<double>(Paare.size())) / 2;
   return Paare;
 }

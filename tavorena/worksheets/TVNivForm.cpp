@@ -67,22 +67,22 @@ bool BemerkungPrüfen(std::string& Text) {
 TVNivForm::TVNivForm(const Blattart& BlattArt)
     : Listenblatt(BlattArt),
       HöhenDatei((BeschriftungAnlegen("Höhenliste:", {0, 0}, RahmenHöhen),
-                  FeldAnlegen(Mit("HöhenDatei"), {0, 1, 3}, RahmenHöhen, 46))),
+                  FeldAnlegen(Mit("HöhenDatei"), {0, 1, 3}, RahmenHöhen, 38))),
       Klasse((KnopfAnlegen(
                   Mit("Wahl"), "...", [this] { HöhendateiWählen(); }, {0, 4}, RahmenHöhen),
               BeschriftungAnlegen("FH(zul) für 1 km (mm):", {0, 5}, RahmenHöhen),
               Formular::ListeAnlegen(Mit("Klasse"), {"5", "10", "15"}, "15", {0, 6}, RahmenHöhen))),
       NivGitter(Listenblatt::ListeAnlegen(
-          {{"Punktnr.", PnrZeichen, Zellart::Nummer},
-           {"Rück", 9, Zellart::Maß, true, nullptr, Lesestellen},
-           {"Zwischen", 9, Zellart::Maß, true, nullptr, Lesestellen},
-           {"Vor", 9, Zellart::Maß, true, nullptr, Lesestellen},
-           {"sR", 8, Zellart::Maß},
-           {"sV", 8, Zellart::Maß},
-           {"Fest", 5, Zellart::Fest},
-           {"Höhe", 11, Zellart::Vorgabe, true, nullptr, Höhenstellen},
-           {"v", 9, Zellart::Ergebnis, true, nullptr, Höhenstellen},
-           {"Bem.", 16, Zellart::Wort, true, BemerkungPrüfen}},
+          {{"Punktnr.", 11, Zellart::Nummer},
+           {"Rück", 8, Zellart::Maß, true, nullptr, Lesestellen},
+           {"Zwischen", 8, Zellart::Maß, true, nullptr, Lesestellen},
+           {"Vor", 8, Zellart::Maß, true, nullptr, Lesestellen},
+           {"sR", 7, Zellart::Maß},
+           {"sV", 7, Zellart::Maß},
+           {"Fest", 4, Zellart::Fest},
+           {"Höhe", 9, Zellart::Vorgabe, true, nullptr, Höhenstellen},
+           {"v", 7, Zellart::Ergebnis, true, nullptr, Höhenstellen},
+           {"Bem.", 13, Zellart::Wort, true, BemerkungPrüfen}},
           {false, MeisteZeilen, "Mehr als 4900 Zeilen nimmt ein Nivellement nicht", "Rechnen", "&Rechnen",
            "Nivellement in Protokoll und Stapeldatei schreiben"})) {
   for (const auto& F : Felder) Ergebnisse.push_back(&Ergebnisfeld(F.Rest, F.Label, F.Ort, RahmenErgebnis));
