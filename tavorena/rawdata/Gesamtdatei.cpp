@@ -111,11 +111,18 @@ class Leser {
 
 // ---- writing ---------------------------------------------------------------------------------------
 
+// As many digits as give the same number back.
+std::string AlleStellen(double Zahl) {
+  char Puffer[400];  // the largest number has 309 digits
+  const auto Ende = std::to_chars(std::begin(Puffer), std::end(Puffer), Zahl, std::chars_format::fixed).ptr;
+  return {Puffer, Ende};
+}
+
 void WertAnhängen(std::string& Text, const std::optional<double>& Wert, int Breite) {
   std::string Feld = "-";
   if (Wert) {
     Feld = ZahlFormat(*Wert, -1, Dezimalen);
-    if (ZahlAusText(Feld) != *Wert) Feld = ZahlNachText(*Wert).Text();
+    if (ZahlAusText(Feld) != *Wert) Feld = AlleStellen(*Wert);
   }
   Text += "  " + RechtsBündig(Feld, Breite);
 }

@@ -67,7 +67,7 @@ class M5Lesung {
     Roh.Befund.Stationen = Standpunkte.size();
     for (const M5Abweichung& A : M5Vergleichen(Roh)) {
       if (!M5Auffällig(A)) continue;
-      Prüfung.MeldenAn(Roh.Befund.Auffällig, "Koordinaten des Geräts weichen über 2 mm ab", A.Zeile);
+      Prüfung.MeldenAn(Roh.Befund.Auffällig, "Gerät weicht über 2 mm ab", A.Zeile);
     }
     Prüfung.Abschließen(Text);
   }

@@ -39,12 +39,12 @@ TEST_F(GesamtdateiTest, LiestAllesOderNichts) {
   ASSERT_EQ(GesamtdateiAusText("\xEF\xBB\xBFges rhz 1.2.2003\r\n", G, Grund), -1)
       << "marks go at the door of files";
   Schreibe(A_ges,
-           "\xEF\xBB\xBFges rhz 1.2.2003 05.06.2004\r\n\r\n 12,1 3456789.12345 5600000 - - - 1234567,5\r\n");
+           "\xEF\xBB\xBFges rhz 1.2.2003 05.06.2004\r\n\r\n 12,1 3456789.12345 5600000 - - - 3777777745501066\r\n");
   ASSERT_EQ(GesamtdateiLesen(A_ges, G), 0);
   EXPECT_EQ(
       GesamtdateiText(G),
       "GES RHZ 01.02.2003 05.06.2004\r\n"
-      "    12.1  3456789.12345  5600000.0000           -             -             -  1234567.5000\r\n");
+      "    12.1  3456789.12345  5600000.0000           -             -             -  3777777745501066\r\n");
   ASSERT_EQ(GesamtdateiAusText(GesamtdateiText(G), Wieder, Grund), 0);
   EXPECT_EQ(GesamtdateiText(Wieder), GesamtdateiText(G));
 }
