@@ -8,7 +8,6 @@
 #include <tavorena/calc/FreieStationierung.h>
 #include <tavorena/core/Atempause.h>
 #include <tavorena/core/Datei.h>
-#include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
@@ -16,6 +15,7 @@
 #include <tavorena/rawdata/M5.h>
 #include <tavorena/rawdata/M5Zeile.h>
 #include <tavorena/rawdata/Rohpruefung.h>
+#include <tavorena/rawdata/Rohumwandlung.h>
 #include <tavorena/rawdata/Rohzeichen.h>
 
 namespace tavorena {
@@ -231,7 +231,6 @@ int M5TextLesen(std::string_view Text, const Rohdatenwahl& Wahl, Rohdaten& Roh) 
   Roh = {Datei, Rohform::M5, {}, {}, {}};
   const auto Lesung = std::make_unique<M5Lesung>(Wahl, NummerStehtHinten(Text), Roh);
   const bool Fertig = ZeilenDurchgehen(Text, [&](std::string_view Zeile) { Lesung->Zeile(Zeile); });
-  StatusHilfeSetzen("");
   if (!Fertig) {
     Roh = {Datei, Rohform::M5, {}, {}, {}};
     return -2;
@@ -281,16 +280,12 @@ std::vector<Rohkoordinate> M5Punkte(const Rohdaten& Roh) {
 }
 
 int M5PunkteSchreiben(const Rohdaten& Roh, const std::string& Ziel, int& Anzahl) {
-  std::string Text, Grund;
-  const std::vector<Rohkoordinate> Punkte = M5Punkte(Roh);
-  for (const Rohkoordinate& K : Punkte) {
-    std::string Nummer = K.Nummer;
-    ZeichenErsetzen(Nummer, ' ', '_');  // a file of words
-    KorZeileAnhängen(Text, Nummer, K.Rechts, K.Hoch, K.Höhe.Zahl(), K.Code, Optionen.OptNachkommaSpeichern);
-    Text += "\r\n";
-  }
-  Anzahl = static_cast<int>(Punkte.size());
-  if (DateiErsetzen(Ziel, Text, &Grund) == 0) return 0;
+  Rohdaten Punkte;
+  std::string Grund;
+  Punkte.Koordinaten = M5Punkte(Roh);
+  Anzahl = static_cast<int>(Punkte.Koordinaten.size());
+  if (DateiErsetzen(Ziel, RohkoordinatenAlsKor(Punkte, Optionen.OptNachkommaSpeichern), &Grund) == 0)
+    return 0;
   SpeicherfehlerMelden(Ziel, Grund, "M5.Schreiben");
   return -1;
 }
