@@ -35,6 +35,7 @@ bool MillimeterLesen(std::string_view Wort, double& mm) {
 void NummernLesen(std::string_view Zeile, std::vector<std::string>& Nummern) {
   for (std::string_view Wort = Wortnehmen(Zeile); !Wort.empty(); Wort = Wortnehmen(Zeile)) {
     std::string Nummer(Wort);
+    ZeichenErsetzen(Nummer, ',', '.');  // as in the file of all epochs
     if (std::find(Nummern.begin(), Nummern.end(), Nummer) == Nummern.end())
       Nummern.push_back(std::move(Nummer));
   }
@@ -219,7 +220,8 @@ std::string EpochenparameterText(const Epochenparameter& P) {
   for (const std::string& Nummer : P.Bezugspunkte) Nummern += Nummer + " ";
   return P.Titel + "  Titel der Liste\r\n" + Kurz(P.Grenzen.Sigma) +
          "  Standardabweichung einer Höhe oder Koordinate in mm\r\n" + Kurz(P.Grenzen.Zulaessig) +
-         "  zulässige Bewegung in mm, 0 = keine\r\n" + Nummern + "  Nummern der Bezugspunkte\r\n";
+         "  zulässige Bewegung in mm, 0 = keine\r\n" + Nummern +
+         "  Nummern der Bezugspunkte, durch Leerzeichen getrennt\r\n";
 }
 
 int EpochenparameterAusText(std::string_view Text, Epochenparameter& P, std::string& Fehler) {
@@ -256,7 +258,7 @@ std::vector<std::vector<std::string>> Epochenzeilen(const Gesamtdatei& G, const 
   for (const Gesamtpunkt& Punkt : G.Punkte) Reihen.push_back(Punkt.Werte);
   Epochenergebnis E;
   if (Epochenvergleich(Reihen, Bezug, P.Grenzen, E) < 0) return Absätze;
-  for (std::size_t e = 1; e < E.Bezug.size() && !P.Bezugspunkte.empty(); ++e)
+  for (std::size_t e = 1; e < E.Bezug.size() && !Bezug.empty(); ++e)
     BezugBeschreiben(G.Epochen[e], E.Bezug[e], G.MitLage, Absätze[0]);
   Absätze[0].emplace_back();
   for (std::size_t i = 0; i < G.Punkte.size(); ++i)

@@ -1,5 +1,7 @@
 #include "Testhilfe.h"
 
+#include <algorithm>
+
 #include <tavorena/rawdata/Epochenliste.h>
 #include <tavorena/records/Protokoll.h>
 
@@ -39,7 +41,8 @@ TEST_F(GesamtdateiTest, LiestAllesOderNichts) {
   ASSERT_EQ(GesamtdateiAusText("\xEF\xBB\xBFges rhz 1.2.2003\r\n", G, Grund), -1)
       << "marks go at the door of files";
   Schreibe(A_ges,
-           "\xEF\xBB\xBFges rhz 1.2.2003 05.06.2004\r\n\r\n 12,1 3456789.12345 5600000 - - - 3777777745501066\r\n");
+           "\xEF\xBB\xBFges rhz 1.2.2003 05.06.2004\r\n\r\n 12,1 3456789.12345 5600000 - - - "
+           "3777777745501066\r\n");
   ASSERT_EQ(GesamtdateiLesen(A_ges, G), 0);
   EXPECT_EQ(
       GesamtdateiText(G),
@@ -119,6 +122,19 @@ TEST_F(GesamtdateiTest, Liste) {
   ASSERT_EQ(GesamtdateiAusText(Text, G, Grund), 0);
   ASSERT_EQ(EpochenlisteSchreiben(Druck, "/b/wand.ges", G, P), 0);
   EXPECT_TRUE(GleichSoll(Inhalt(Druck), "rawdata/soll/verformung-ges.dru"));
+  // A point with more epochs than a page has lines loses none of them; only full marks without warnings.
+  G = {false, {}, {{"10", {}}}};
+  for (int i = 0; i < 120; ++i) {
+    G.Epochen.push_back("01.01." + std::to_string(1900 + i));
+    G.Punkte[0].Werte.push_back({{}, 100 + (i == 7 ? 0.011 : i == 8 ? 0.02 : 0)});
+  }
+  Optionen.OptWarnstufe = 0;
+  ASSERT_EQ(EpochenlisteSchreiben(Druck, "/b/wand.ges", G, P), 0);
+  const std::string Lange = Inhalt(Druck);
+  for (const std::string& Datum : G.Epochen) EXPECT_NE(Lange.find(Datum), std::string::npos) << Datum;
+  EXPECT_EQ(std::count(Lange.begin(), Lange.end(), '\f'), 3);
+  EXPECT_TRUE(Lange.find("   11.0\r") != std::string::npos &&
+              Lange.find("   20.0 ******") != std::string::npos);
 }
 
 }  // namespace

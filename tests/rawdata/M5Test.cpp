@@ -98,10 +98,12 @@ TEST_F(M5Test, KonstruierteDatei) {
     };
     std::vector<Rohkoordinate> Soll;
     for (int s = 0; s < 2; ++s) {
-      const double R = 3456000 + s * 50, H = 5612000, Z = 120, ih = 1.6 + s * 0.1;
+      const double R = 3456000 + s * 50, H = 5612000, Z = 120;
+      double ih = 1.6 + s * 0.1;
       Punktzeile(1 + s, "S", Feld("Y", R, "m", 3) + Feld("X", H, "m", 3) + Feld("Z", Z, "m", 3));
       Schreiben("For M5|Adr 00001|TI  INPUT                      |ih %14.3f m   ", ih);
       for (int i = 0; i < 8; ++i) {
+        if (i == 4) Schreiben("For M5|Adr 00001|TI  INPUT                      |ih %14.3f m   ", ih += 0.02);
         const double dR = W(Zufall), dH = W(Zufall), dZ = W(Zufall) / 10, th = 1.3 + 0.01 * i;
         const double Waag = std::hypot(dR, dH), Ziel = dZ - ih + th, Gon = Richtungswinkel(0, 0, dR, dH);
         const double V = WinkelGon(Waag, Ziel), Schräg = std::hypot(Waag, Ziel);
