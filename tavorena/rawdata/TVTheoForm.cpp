@@ -49,8 +49,8 @@ TVTheoForm::TVTheoForm() : Formular("TVTheoForm") {
   Status->Name = "TheoStatus";
   IO = &KnopfAnlegen("TVTheoIO", "&Verbinden", [this] { Drücken(); });
   IO->Vorgabe = true;
-  KnopfAnlegen("TVTheoStandard", "Standard&werte", [this] { Standard(); }, {0, 1});
-  KnopfAnlegen("TVTheoEnde", "Sch&ließen",
+  KnopfAnlegen("TVTheoStandard", "Standardwerte", [this] { Standard(); }, {0, 1});
+  KnopfAnlegen("TVTheoEnde", "Schließen",
                [this] {
                  if (DarfSchließen()) Schließen();
                },
