@@ -17,6 +17,7 @@ HIER = pathlib.Path(__file__).resolve().parent
 ZUFALL = random.Random(19700101)
 ZUFALL_NEU = random.Random(19700102)  # of the new points
 ZUFALL_HOEHE = random.Random(19700103)  # of the level
+ZUFALL_STATION = random.Random(19700104)  # of the total station
 URSPRUNG = (3456213.40, 5612387.15)  # Rechts, Hoch of the churchyard corner, zone 3
 DREHUNG = math.radians(14.3)  # of the main street against east
 STEMPEL = "21.11.2026   09:30"
@@ -141,7 +142,8 @@ def feld(nummer):
     """The place of a made-up point [m, and its height]."""
     x, y = {5001: (12.5, 1.1), 5002: (31.2, -1.4), 5003: (49.9, 3.2), 5011: (140.3, 10.8), 5012: (155.7, -6.1),
             5013: (170.2, 8.3), 5024: (27.3, 14.9), 5030: (96.4, 30.2), 5031: (133.0, 90.4), 5041: (60.3, 40.1),
-            5042: (128.8, 31.6), 5043: (196.2, 36.9)}[nummer]
+            5042: (128.8, 31.6), 5043: (196.2, 36.9), 5061: (83.5, 2.1), 5062: (74.2, 9.4), 5063: (88.9, 12.6),
+            5064: (96.3, -5.8), 5065: (201.4, 9.7)}[nummer]
     return (URSPRUNG[0] + x * math.cos(DREHUNG) - y * math.sin(DREHUNG),
             URSPRUNG[1] + x * math.sin(DREHUNG) + y * math.cos(DREHUNG), 182.2 + 0.011 * x + 0.02 * y)
 
@@ -177,6 +179,23 @@ def linie(a, e, n):
     """Foot and offset on a measured line."""
     w = (winkel(a, n) - winkel(a, e)) * math.pi / 200
     return round(weit(a, n) * math.cos(w), 2), round(weit(a, n) * math.sin(w), 2)
+
+
+def strahl(a, b, orientierung, breite):
+    """Direction, zenith angle, slope distance and target height from an instrument 1.58 m above a to b."""
+    weite, hoch = weit(a, b), ort(b)[2] + 1.7 - (ort(a)[2] + 1.58)
+    hz = (winkel(a, b) - orientierung + ZUFALL_STATION.gauss(0, 0.0008)) % 400
+    vk = math.atan2(weite, hoch) * 200 / math.pi + ZUFALL_STATION.gauss(0, 0.0008)
+    sd = math.hypot(weite, hoch) + ZUFALL_STATION.gauss(0, 0.004)
+    return "".join(f"{x:{breite}.4f}" for x in (hz, vk, sd, 1.7))
+
+
+def station(art, stand, anschluesse, orientierung, neu, punkte_neu):
+    """A station on known points; on a known one a single connection point."""
+    return block("VR 19.50 Freie Stationierung", [art, f"PAN {stand:8d}  {1.58:12.4f}"],
+                 [f"PSN {n:8d}{strahl(stand, n, orientierung, 14)}" for n in anschluesse] + [neu]
+                 + [f"PWS {n:8d}{strahl(stand, n, orientierung, 15)}  014  {linie}" for n, linie in punkte_neu],
+                 "E Ende")
 
 
 def neupunkt(n, symbol="015"):
@@ -252,6 +271,9 @@ def neue_punkte():
     zeilen += block("VR NI.00 Nivellement", [], nivellement(), ende)
     zeilen += block("3D Raumstrecke", [], ["NR3D      101       107"], fall)
     zeilen += block("3D Kanalmeßstab", [], ["NR3D     5011      5013      5050        0.8500"], fall)
+    zeilen += station("HELMERT", 5061, (101, 103, 104, 106), 287.1234, neupunkt(5061),
+                      ((5062, "-"), (5063, "5062"), (5064, "5063")))
+    zeilen += station("HELMERT", 104, (105,), 12.3456, "NEUPUNKT          0  -   -", ((5065, "-"),))
     return zeilen + block("VR 24.00 Helmert- Transformation", ["NEUESSYSTEM  passpunkte.kor"],
                           [f"{'KEIN' * (n == 110)}PASSP   {n:8d}" for n in range(101, 113)], ende)
 

@@ -93,6 +93,12 @@ int Aufzeichnung::GanzesStreichen(const Block& Gestrichen, Spur& Wo) {
   return Bleibt ? 1 : 0;
 }
 
+int Aufzeichnung::BlockStreichen(const Block& Gestrichen) {
+  const bool Bleibt = !ImNachlauf && Sätze.Verwerfen() < 0;
+  static_cast<void>(Protokollieren(Gestrichen));
+  return Bleibt ? 1 : 0;
+}
+
 int Aufzeichnung::Beenden() {
   Über.reset();
   return ImNachlauf ? 0 : Gesichert(Sätze.Beenden());

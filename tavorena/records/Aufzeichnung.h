@@ -61,6 +61,10 @@ class Aufzeichnung {
   /// @return 0; 1: the block stays in the batch file
   [[nodiscard]] int GanzesStreichen(const Block& Gestrichen, Spur& Wo);
 
+  /// Takes a connection back below which no row stands: its block goes out of the batch file, and Gestrichen
+  /// stands in the protocol. @return 0; 1: the block stays in the batch file
+  [[nodiscard]] int BlockStreichen(const Block& Gestrichen);
+
   /// Takes a written row back: its record goes out of the batch file, and Gestrichen, the same row with its
   /// mark, stands behind it in the protocol.
   /// @return 0; -1: the record can not be taken out, the row stays as it was

@@ -130,6 +130,7 @@ int LetztesStück() { return static_cast<int>(StapelDatei.Stücke.size()) - 1; }
 int Stapelblock::Beginnen(std::shared_ptr<const Verbindung> Neue) {
   const int Ergebnis = Beenden();
   Über = std::move(Neue);
+  Kopf = -1;
   return Ergebnis;
 }
 
@@ -141,7 +142,9 @@ int Stapelblock::Anfügen(const std::string& Satz, int& Griff) {
     return 0;
   }
   const std::string Zeile = Satz.empty() ? "" : Satz + "\r\n";
-  if (Schreiben(Über, Zeile, Offen() ? "StapelPunktzeile" : "StapelKopf") < 0) return -1;
+  const bool War = Offen();
+  if (Schreiben(Über, Zeile, War ? "StapelPunktzeile" : "StapelKopf") < 0) return -1;
+  if (!War && Offen()) Kopf = LetztesStück() - (Zeile.empty() ? 0 : 1);
   if (Satz.empty()) return 0;
   if (StapelDatei.Name.empty()) return 0;
   Griff = LetztesStück();
@@ -162,6 +165,13 @@ bool Stapelblock::AmEnde(int Griff) {
 }
 
 int Stapelblock::Entfernen(int Griff) { return StapelDatei.Name.empty() ? 0 : StückSetzen(Griff, ""); }
+
+int Stapelblock::Verwerfen() {
+  if (StapelDatei.Name.empty()) return 0;
+  if (!Offen() || !AmEnde(Kopf) || StückSetzen(Kopf, "") < 0) return -1;
+  StapelDatei.Offen.reset();
+  return 0;
+}
 
 int Stapelblock::Beenden() { return Offen() ? StapelEnde() : 0; }
 

@@ -60,11 +60,16 @@ class Stapelblock {
   ///         alone
   [[nodiscard]] static int Entfernen(int Griff);
 
+  /// Takes the open block out of the file again if no record stands in it. @return 0, also without a file;
+  /// -1: it stays
+  [[nodiscard]] int Verwerfen();
+
   /// Ends the block if it is still open. @return 0; -1 with a message
   [[nodiscard]] int Beenden();
 
  private:
   std::shared_ptr<const Verbindung> Über;
+  int Kopf = -1;  // what Entfernen takes for the head; -1: none was written
 };
 
 /// Writes a comment between blocks; an open block is ended first. Nothing happens without a file.

@@ -18,23 +18,23 @@ constexpr const char* Rahmen = "Anschlußpunkte";
 
 std::vector<Zeilenspalte> Zeilenspalten(bool MitHöhen) {
   return {{"Ein", 3, Zellart::Marke},
-          {"Punktnr.", 10, Zellart::Nummer},
-          {"Sy.", 4},
-          {"Hz", 9, Zellart::Maß},
-          {"Vk", 9, Zellart::Maß},
+          {"Punktnr.", 9, Zellart::Nummer},
+          {"Sy.", 3},
+          {"Hz", 8, Zellart::Maß},
+          {"Vk", 8, Zellart::Maß},
           {"sD", Längenbreite(4), Zellart::Maß},
-          {"t", 6, Zellart::Maß, MitHöhen},
+          {"t", 5, Zellart::Maß, MitHöhen},
           {"Rechts", Längenbreite(8)},
           {"Hoch", Längenbreite(8)},
           {"Höhe", Längenbreite(4), Zellart::Ergebnis, MitHöhen}};
 }
 
 std::vector<Gitterspalte> Abweichungsspalten(bool MitHöhen) {
-  return {{"Punktnr.", 9},
-          {"vY", 7},
-          {"vX", 7},
-          {"WL", 7},
-          {"dHo", 7, false, true, false, Gezeigt<bool>(MitHöhen)}};
+  return {{"Punktnr.", 8},
+          {"vY", 6},
+          {"vX", 6},
+          {"WL", 6},
+          {"dHo", 6, false, true, false, Gezeigt<bool>(MitHöhen)}};
 }
 
 }  // namespace

@@ -52,6 +52,16 @@ Block StationBlock(int Nachkomma, const Stationsaufgabe& A, const Stationsergebn
   return FStatAnschluss(Nachkomma, Bekannte(A, E, Pnr), dHo ? Wert(*dHo) : Wert());
 }
 
+Block StationStreichzeile(int Nachkomma, const Stationsaufgabe& A, const Stationsergebnis& E,
+                          const std::string& Pnr) {
+  const Protpunkt P{E.Ort.RW, E.Ort.HW, Pnr};
+  if (A.Art != Stationsart::Anschluß)
+    return PolarZeile(Nachkomma, {P, Getragen(true, E.Höhe), {}, 0, {}, 0}, MarkeGelöscht);
+  Block B = FStatPolarAnschluss(Nachkomma, P, E.Epsilon);
+  B.Zeilen.back() += MarkeGelöscht;
+  return B;
+}
+
 std::vector<std::string> StationSätze(const Stationsaufgabe& A, const Stationsergebnis& E,
                                       const std::string& Pnr, const std::string& Symbol) {
   FStatEingabe S;

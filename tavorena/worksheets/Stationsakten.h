@@ -14,6 +14,10 @@ namespace tavorena {
 [[nodiscard]] Block StationBlock(int Nachkomma, const Stationsaufgabe& A, const Stationsergebnis& E,
                                  const std::string& Pnr);
 
+/// The row that stands in the protocol when it is taken back.
+[[nodiscard]] Block StationStreichzeile(int Nachkomma, const Stationsaufgabe& A, const Stationsergebnis& E,
+                                        const std::string& Pnr);
+
 /// Its records in the batch file. @param[in] Symbol  of the station
 [[nodiscard]] std::vector<std::string> StationSätze(const Stationsaufgabe& A, const Stationsergebnis& E,
                                                     const std::string& Pnr, const std::string& Symbol);

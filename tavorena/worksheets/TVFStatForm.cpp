@@ -32,6 +32,8 @@ TVFStatForm::TVFStatForm(const Blattart& BlattArt)
       Polare(*this, Höhen, Kleinpunktkunde()),
       KnopfBerechnen(KnopfAnlegen(Mit("Berechnen"), "", [this] { Berechnen(); }, {0, 0})),
       KnopfArt(KnopfAnlegen("FStatArt", "", [this] { FStatArtWechseln(); }, {0, 1})),
+      KnopfZurück(KnopfAnlegen(Mit("Zurück"), "Stp.zurücknehmen",
+                               [this] { static_cast<void>(Zurücknehmen()); }, {0, 1})),
       KnopfAbw(KnopfAnlegen(Mit("AbwAnz"), "", [this] { AbwAnzWechseln(); }, {0, 2})),
       KnopfDelete(KnopfAnlegen(Mit("Delete"), "Zeile &löschen", [this] { Delete(); }, {0, 3})),
       KnopfNeu(
@@ -41,6 +43,7 @@ TVFStatForm::TVFStatForm(const Blattart& BlattArt)
   KnopfDelete.OhnePrüfung = KnopfNeu.OhnePrüfung = true;
   KnopfArt.Hilfe = "Maßstab frei (Helmert) oder fest (kongruent)";
   KnopfAbw.Hilfe = "Abweichungen oder Koordinaten der Anschlußpunkte";
+  KnopfZurück.Hilfe = "Standpunkt aus Tabelle und Stapeldatei nehmen, im Protokoll streichen";
   KnopfDelete.Hilfe = "Zeile aus Gitter und Stapeldatei nehmen, im Protokoll streichen";
   KnopfNeu.Hilfe = "Block beenden und mit dem nächsten Standpunkt beginnen";
   KnöpfeAnlegen(5);
@@ -310,6 +313,31 @@ bool TVFStatForm::StandpunktÜbernehmen() {
   return true;
 }
 
+// The rows stay, and what is typed of the polar points.
+bool TVFStatForm::Zurücknehmen() {
+  if (Vorher() || ImStapel()) return false;
+  if (Polare.HatGespeichertes()) {
+    StatusHilfeSetzen("Erst die gespeicherten polaren Punkte löschen");
+    return true;
+  }
+  Verbindung V = NeueVerbindung();
+  if (Bekannter) V.Titel = TitelFStatAnschluss;
+  Akten.Fortsetzen(std::move(V));
+  const Block Zeile = StationStreichzeile(Optionen.OptNachkommastellen, Gerechnete, Station, StandPnr.Text);
+  std::string Text =
+      Akten.BlockStreichen(Zeile) == 0 ? "Standpunkt zurückgenommen" : "Der Block bleibt in der Stapeldatei";
+  if (!Bekannter && Ablage.Zurück() < 0) Text = "Punkt " + *StandPnr.Text + " bleibt: inzwischen geändert";
+  GrafikLöschen();
+  Titel = Grundtitel;
+  Gefragt = StandPnr.Text;  // it is that of this station
+  Stand = FStatStatus::Start;
+  Bekannte.Nachsehen();
+  Rücksetzen();
+  FokusSetzen(Bekannte.Zellen);
+  StatusHilfeSetzen(Text);
+  return true;
+}
+
 bool TVFStatForm::PunkteÜbernehmen() {
   int Gespeichert = 0, Ausgelassen = 0;
   if (Polare.Übernehmen(Gespeichert, Ausgelassen) < 0) {
@@ -370,6 +398,7 @@ void TVFStatForm::ZustandZeigen() {
   KnopfBerechnen.Text = Berechnentext();
   KnopfArt.Sichtbar = Tippt && !Polar;
   KnopfArt.Aktiv = !Bekannter;
+  KnopfZurück.Sichtbar = Tippt && Polar;
   KnopfAbw.Sichtbar = Tippt && !Polar && Stand != FStatStatus::Start;
   KnopfAbw.Aktiv = Gerechnet();
   KnopfAbw.Text = Gerechnet() && !MitAbw ? "Abw.anzeigen" : "Koord.anzeigen";

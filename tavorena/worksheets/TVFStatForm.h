@@ -74,6 +74,7 @@ class TVFStatForm final : public Rechenblatt {
   [[nodiscard]] bool OffenesSchreiben() override;
   void GrafikLöschen() override;
   void BeiTabelle() override;
+  [[nodiscard]] bool Zurücknehmen() override;
 
  private:
   struct Standort {
@@ -128,7 +129,7 @@ class TVFStatForm final : public Rechenblatt {
   Stationsanzeige Anzeige;
   Anschlussgitter Bekannte;
   Kleinpunktgitter Polare;
-  Knopf &KnopfBerechnen, &KnopfArt, &KnopfAbw, &KnopfDelete, &KnopfNeu;
+  Knopf &KnopfBerechnen, &KnopfArt, &KnopfZurück, &KnopfAbw, &KnopfDelete, &KnopfNeu;
 };
 
 }  // namespace tavorena

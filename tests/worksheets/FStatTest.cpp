@@ -165,17 +165,24 @@ TEST_F(FStatTest, BerichtigenUndLoeschen) {
   Tippe(*B, "FstatStandPnr", std::string("3001\n015\n1,55\n1,6\n") + Anschluss);
   Drücken();
   Drücken();
+  Drücke(*B, "FstatZurück");  // the station, and once more
+  EXPECT_TRUE(Gleich(KorSuche(std::string_view("3001")), -1, Stapeltext(), "", *G.Sichtbar, true,
+                     Anzahl(Protokoll(), "3001 ***gelöscht"), 1));
+  Drücken();
+  Drücken();
   TippePolare();
+  EXPECT_TRUE(Gleich(Anzahl(Stapeltext(), "PAN"), 1, KorAnzahl, 9));
+  EXPECT_TRUE(Gleich(B->RücknahmeVerlangen(), true, KorAnzahl, 9));  // the points that come of it stand
   B->ZelleWechseln(Polar, 0, 3);
   Tippe(*B, "FStatPolarGitter", "59,8716\n\n\n\n");
-  EXPECT_TRUE(Gleich(Anzahl(Protokoll(), "***gelöscht"), 1, Anzahl(Stapeltext(), "49.8716"), 0,
+  EXPECT_TRUE(Gleich(Anzahl(Protokoll(), "***gelöscht"), 2, Anzahl(Stapeltext(), "49.8716"), 0,
                      Stapeltext().find("59.8716") < Stapeltext().find("53.4064"), true));
   B->ZelleWechseln(Polar, 1, 0);
   Drücke(*B, "FstatDelete");
   EXPECT_TRUE(Gleich(KorSuche(std::string_view("3011")), -1, Anzahl(Stapeltext(), "PWS"), 1));
   Drücke(*B, "FstatNeu");
   EXPECT_TRUE(Gleich(Knopftext(), "Rechnen Helmert", *G.Sichtbar, true, *Polar.Sichtbar, false));
-  EXPECT_EQ(Anzahl(Stapeltext(), "E Ende"), 1);
+  EXPECT_TRUE(Gleich(Anzahl(Stapeltext(), "E Ende"), 1, Anzahl(Protokoll(), "VR 19.50"), 1));
 }
 
 // The instrument fills the row whose number stands there.
