@@ -24,7 +24,7 @@ class TVOptionenform final : public Formular {
     Hilfenummer = 8020;
     OkUndAbbruch([this] { Übernehmen(); }, "OptEnd", "OptAbbruch");
     for (Steuerelement* S : std::initializer_list<Steuerelement*>{
-             &OptWarnstufe, &OptAbfrDruck, &OptFStatHöhen, &OptGKRed, &OptFStatAnschluss, &OptVorgabeRechts,
+             &OptWarnstufe, &OptAbfrDruck, &OptGKRed, &OptFStatAnschluss, &OptVorgabeRechts,
              &OptVorgabeHoch, &OptEDBSInfo}) {
       S->Aktiv = false;  // its value stays as it is in the file
       S->Tipp = "noch ohne Wirkung: die Berechnung, die danach fragt, ist noch nicht vorhanden";
