@@ -119,10 +119,25 @@ void AnschlussTrennen(Rohstation& S, const std::vector<bool>& Ein) {
     (Bleibt ? Bleiben : S.Messung).push_back(std::move(S.Anschluss[i]));
   }
   S.Anschluss = std::move(Bleiben);
+  std::stable_sort(S.Messung.begin(), S.Messung.end(),
+                   [](const Rohpunkt& A, const Rohpunkt& B) { return A.Zeile < B.Zeile; });
   S.Getrennt = true;
 }
 
 int Stationszahl(const std::vector<Rohstation>& Folge) { return Folge.empty() ? 0 : Folge.back().Stelle; }
+
+std::string Stationsname(const Rohstation& S, int Anzahl) {
+  return "Station " + std::to_string(S.Stelle) + " von " + std::to_string(Anzahl) +
+         (S.Standpunkt.empty() ? "" : " (" + Zitat(S.Standpunkt) + ")");
+}
+
+std::string Stationstext(const Rohstation& S, int Anzahl) {
+  const auto Zahl = [](const std::vector<Rohpunkt>& Zeilen) { return static_cast<int>(Zeilen.size()); };
+  return Stationsname(S, Anzahl) + ": " +
+         (S.Wiederholt ? "weitere Messung"
+                       : Anzahltext(Zahl(S.Anschluss), "Anschlußpunkt", "Anschlußpunkte")) +
+         ", " + Anzahltext(Zahl(S.Messung), "Punkt", "Punkte");
+}
 
 std::vector<Rohblock> DatBlöcke(std::string_view Inhalt, std::vector<std::size_t>& Fehlerhaft) {
   Fehlerhaft.clear();

@@ -32,12 +32,17 @@ struct Rohstation {
 /// block beyond OrientierungsGrenze are polar rows.
 [[nodiscard]] std::vector<Rohstation> Stationsfolge(std::vector<Rohblock> Blöcke);
 
-/// The rows of an only block that are no connection become polar rows, in their order; ticked ones beyond
-/// AnschlussGrenze too. @param[in] Ein  a tick for each row of Anschluss
+/// The rows of an only block that are no connection become polar rows, in the order of the file; ticked ones
+/// beyond AnschlussGrenze too. @param[in] Ein  a tick for each row of Anschluss
 void AnschlussTrennen(Rohstation& S, const std::vector<bool>& Ein);
 
 /// Number of stations, repeated measurements not counted.
 [[nodiscard]] int Stationszahl(const std::vector<Rohstation>& Folge);
+
+/// "Station 3 von 22 (BP05)".
+[[nodiscard]] std::string Stationsname(const Rohstation& S, int Anzahl);
+/// The same with its rows: "Station 3 von 22 (BP05): 4 Anschlußpunkte, 57 Punkte".
+[[nodiscard]] std::string Stationstext(const Rohstation& S, int Anzahl);
 
 /// The blocks of a file of measured values ("*.dat"). A line of at most three words opens a station: number,
 /// instrument height, symbol. Four to six are number, direction, zenith angle [gon], slope distance, target

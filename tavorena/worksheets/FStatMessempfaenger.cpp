@@ -1,12 +1,9 @@
-#include <tavorena/core/Zahlen.h>
 #include <tavorena/worksheets/FStatMessempfaenger.h>
 #include <tavorena/worksheets/TVFStatForm.h>
+#include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
 namespace {
-
-// To the precision in which the batch file keeps it.
-double Gerundet(double Zahl) { return ZahlAusText(ZahlFormat(Zahl, -1, 4)); }
 
 bool Brauchbar(const Messwert& W) { return W.Da && W.Gelesen; }
 
@@ -28,6 +25,7 @@ Messort FStatMessempfänger::Fokus() const {
   const Steuerelement* const S = Form.Fokus();
   const Gitter &Anschluss = Form.Anschlüsse().Zellen, &Polar = Form.Kleinpunkte().Zellen;
   if (S == &Anschluss) return Ort(Anschluss, Messort::Anschlussgitter);
+  if (Form.Schnurgerüst().HatFokus()) return Messort::Schnurgerüst;
   return S == &Polar ? Ort(Polar, Messort::Polargitter) : Messort::Außerhalb;
 }
 
@@ -38,7 +36,7 @@ bool FStatMessempfänger::StandpunktVollständig() const {
 }
 
 void FStatMessempfänger::StandpunktNehmen(const std::string& Nummer, const Messwert& Instrumentenhöhe) {
-  const Wert Höhe = Brauchbar(Instrumentenhöhe) ? Wert(Gerundet(Instrumentenhöhe.Wert)) : Wert();
+  const Wert Höhe = Brauchbar(Instrumentenhöhe) ? Wert(VierStellen(Instrumentenhöhe.Wert)) : Wert();
   Form.Ereignis([&] { static_cast<void>(Form.StandpunktSetzen(Nummer, "", Höhe)); });
 }
 
@@ -46,8 +44,8 @@ int FStatMessempfänger::MessungNehmen(const Messsatz& Satz) {
   if (!Brauchbar(Satz.Hz) || !Brauchbar(Satz.V) || !Brauchbar(Satz.Strecke) || Satz.Strecke.Wert <= 0)
     return -1;
   const double t = Brauchbar(Satz.Reflektorhöhe) ? Satz.Reflektorhöhe.Wert : Form.Reflektorhöhe();
-  const Stationsmessung M{Gerundet(Satz.Hz.Wert), Gerundet(Satz.V.Wert), Gerundet(Satz.Strecke.Wert),
-                          Gerundet(t)};
+  const Stationsmessung M{VierStellen(Satz.Hz.Wert), VierStellen(Satz.V.Wert), VierStellen(Satz.Strecke.Wert),
+                          VierStellen(t)};
   const Messort Wohin = Fokus();
   int Ergebnis = -1;
   Form.Ereignis([&] {

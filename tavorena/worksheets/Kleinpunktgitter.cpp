@@ -64,6 +64,7 @@ Gitterverhalten Kleinpunktgitter::Verhalten() {
 // ---- the rows --------------------------------------------------------------------------------------
 
 void Kleinpunktgitter::Setzen(const std::vector<Kleinpunkteingabe>& Neue) {
+  Beiseite.reset();
   Reihen.clear();
   Reihen.resize(Neue.size() + 1);
   Zellen.Leeren(static_cast<int>(Reihen.size()));
@@ -114,7 +115,51 @@ bool Kleinpunktgitter::Lesen() {
   return true;
 }
 
+int Kleinpunktgitter::Platz(std::size_t n) const {
+  int z = 0;
+  while (Reihe(z).Pnr.empty() || n-- > 0) ++z;
+  return z;
+}
+
+bool Kleinpunktgitter::Ändern(std::size_t n, const Kleinpunkteingabe& K) {
+  const int z = Platz(n);
+  if (static_cast<const Zeileneingabe&>(Reihe(z)) == Zeile(K)) return true;
+  Eingaben.EingabeZeigen(z, Zeile(K));
+  if (ZeileAbschließen(z)) return true;
+  ZeileZeigen(z);
+  return false;
+}
+
+bool Kleinpunktgitter::Entfernen(std::size_t n) { return Herausnehmen(Platz(n)); }
+
+bool Kleinpunktgitter::Hinzufügen(const Kleinpunkteingabe& K) {
+  const int z = static_cast<int>(Reihen.size()) - 1;
+  Eingaben.EingabeZeigen(z, Zeile(K));
+  if (!ZeileAbschließen(z)) return false;
+  Anhängen();
+  return true;
+}
+
+void Kleinpunktgitter::BeiseiteLegen(const std::vector<Kleinpunkteingabe>& Neue) {
+  std::vector<Rechenzeile> Alte = std::move(Reihen);
+  Setzen(Neue);
+  Beiseite = std::move(Alte);
+}
+
+std::vector<Kleinpunkteingabe> Kleinpunktgitter::Zurückholen() {
+  std::vector<Kleinpunkteingabe> Neue = Zeilen();
+  std::vector<Rechenzeile> Alte = std::move(*Beiseite);
+  Setzen({});
+  Reihen = std::move(Alte);
+  Zellen.Leeren(static_cast<int>(Reihen.size()));
+  for (int z = 0; z < std::ssize(Reihen); ++z) ZeileZeigen(z);
+  return Neue;
+}
+
 bool Kleinpunktgitter::HatOffenes() const {
+  if (Beiseite && std::any_of(Beiseite->begin(), Beiseite->end(),
+                              [](const Rechenzeile& Z) { return !Z.Pnr.empty() && !Z.Wo.Geschrieben; }))
+    return true;
   for (int z = 0; z < std::ssize(Reihen); ++z) {
     if (!Reihe(z).Wo.Geschrieben && Eingaben.HatEingabe(z)) return true;
   }
@@ -261,9 +306,12 @@ int Kleinpunktgitter::Streichen(int z) {
 }
 
 void Kleinpunktgitter::Delete() {
-  const int z = Zellen.Zeile;
   Blatt.FokusSetzen(Zellen);
-  if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return;
+  static_cast<void>(Herausnehmen(Zellen.Zeile));
+}
+
+bool Kleinpunktgitter::Herausnehmen(int z) {
+  if (Reihe(z).Wo.Geschrieben && Streichen(z) < 0) return false;
   Reihe(z) = {};
   if (z + 1 < Zellen.Zeilen()) {
     Reihen.erase(Reihen.begin() + z);
@@ -272,6 +320,7 @@ void Kleinpunktgitter::Delete() {
     ZeileZeigen(z);
   }
   Zellen.Fehlerhaft = false;
+  return true;
 }
 
 // ---- graphics --------------------------------------------------------------------------------------

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,23 @@ class Kleinpunktgitter {
   /// @return 0; -1: it can not be computed or was not to be stored, the row is empty again; -2: not written
   [[nodiscard]] int Eintragen(const Kleinpunkteingabe& K);
 
+  /// @name A row by its place among Zeilen()
+  /// @{
+  /// Puts other values there, as if they had been typed; a stored row is stored anew.
+  /// @return false with a reason: it stays
+  [[nodiscard]] bool Ändern(std::size_t n, const Kleinpunkteingabe& K);
+  /// Takes it out. @return false with a reason: it stays
+  [[nodiscard]] bool Entfernen(std::size_t n);
+  /// @}
+  /// A further row behind them. @return false with a reason: it can not be computed
+  [[nodiscard]] bool Hinzufügen(const Kleinpunkteingabe& K);
+
+  /// All rows go aside, stored or not, and Neue stand in their place.
+  void BeiseiteLegen(const std::vector<Kleinpunkteingabe>& Neue);
+  [[nodiscard]] bool HatBeiseite() const { return Beiseite.has_value(); }
+  /// The rows that went aside stand there again. @return those that stood in their place
+  std::vector<Kleinpunkteingabe> Zurückholen();
+
   [[nodiscard]] bool HatOffenes() const;
   /// A row is stored.
   [[nodiscard]] bool HatGespeichertes() const;
@@ -74,6 +92,8 @@ class Kleinpunktgitter {
   [[nodiscard]] bool ZeileAbschließen(int z);
   [[nodiscard]] int Speichern(int z);
   [[nodiscard]] int Streichen(int z);
+  [[nodiscard]] bool Herausnehmen(int z);
+  [[nodiscard]] int Platz(std::size_t n) const;
   [[nodiscard]] Block Protokollieren(const Rechenzeile& Z, const std::string& Marke) const;
   [[nodiscard]] bool ZelleVerlassen();
   void TextGeändert();
@@ -86,6 +106,7 @@ class Kleinpunktgitter {
 
   Rechenblatt& Blatt;
   Kleinpunktverhalten Kunde;
+  std::optional<std::vector<Rechenzeile>> Beiseite;
   std::vector<Rechenzeile> Reihen;  // as many as the grid has rows; a number stands where one is computed
 };
 

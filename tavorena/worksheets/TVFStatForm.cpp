@@ -37,7 +37,11 @@ TVFStatForm::TVFStatForm(const Blattart& BlattArt)
       KnopfAbw(KnopfAnlegen(Mit("AbwAnz"), "", [this] { AbwAnzWechseln(); }, {0, 2})),
       KnopfDelete(KnopfAnlegen(Mit("Delete"), "Zeile &löschen", [this] { Delete(); }, {0, 3})),
       KnopfNeu(
-          KnopfAnlegen(Mit("Neu"), "&Neue Station", [this] { static_cast<void>(NeueStation()); }, {0, 4})) {
+          KnopfAnlegen(Mit("Neu"), "&Neue Station", [this] { static_cast<void>(NeueStation()); }, {0, 4})),
+      Datei(*this),
+      Mittel(*this),
+      KnopfSchnur(KnopfAnlegen("FStatSchnur", "Schnurgerüst", [this] { SchnurBeginnen(); }, {1, 3})),
+      Schnur(*this, [this] { SchnurVerlassen(); }) {
   Grundtitel = Titel;
   KopfAnlegen();
   KnopfDelete.OhnePrüfung = KnopfNeu.OhnePrüfung = true;
@@ -45,6 +49,7 @@ TVFStatForm::TVFStatForm(const Blattart& BlattArt)
   KnopfAbw.Hilfe = "Abweichungen oder Koordinaten der Anschlußpunkte";
   KnopfZurück.Hilfe = "Standpunkt aus Tabelle und Stapeldatei nehmen, im Protokoll streichen";
   KnopfDelete.Hilfe = "Zeile aus Gitter und Stapeldatei nehmen, im Protokoll streichen";
+  KnopfSchnur.Hilfe = "Punkte messen und ihre Linienelemente auf einer Linie sehen";
   KnopfNeu.Hilfe = "Block beenden und mit dem nächsten Standpunkt beginnen";
   KnöpfeAnlegen(5);
   ZustandZeigen();
@@ -224,7 +229,9 @@ void TVFStatForm::StationErmitteln() {
 }
 
 void TVFStatForm::Berechnen() {
-  if (!Vorher()) {
+  if (Mittel.Läuft()) {
+    Mittel.Mitteln();
+  } else if (!Vorher()) {
     static_cast<void>(PunkteÜbernehmen());
   } else if (Gerechnet()) {
     static_cast<void>(StandpunktÜbernehmen());
@@ -269,7 +276,7 @@ int TVFStatForm::StandpunktSpeichern() {
 
 // The block stands in one batch block with its polar rows, and under two titles in the protocol.
 int TVFStatForm::StandpunktSchreiben() {
-  Verbindung V = NeueVerbindung(), Polar = V;
+  Verbindung V = NeueVerbindung();
   V.Sätze = StationSätze(Gerechnete, Station, StandPnr.Text, StandSym.Text);
   if (Akten.Beginnen(V) < 0) return -1;
   if (Bekannter) {
@@ -283,12 +290,30 @@ int TVFStatForm::StandpunktSchreiben() {
     B.Zeilen.insert(B.Zeilen.end(), Notiz.begin(), Notiz.end());
   }
   if (Akten.Zeile(B, "", Wo) < 0) return -1;
+  PolarFortsetzen();
+  return 0;
+}
+
+// What stands above the polar rows from now on.
+void TVFStatForm::PolarFortsetzen() {
+  Verbindung Polar = NeueVerbindung();
   Polar.Titel = TitelFStatPolar;
   Polar.HoehenRechnen = Station.Höhe != 0;
   Polar.Zeilen = FStatPolarAnschluss(Optionen.OptNachkommastellen,
                                      {Station.Ort.RW, Station.Ort.HW, StandPnr.Text}, Station.Epsilon);
   Akten.Fortsetzen(std::move(Polar));
-  return 0;
+}
+
+void TVFStatForm::SchnurBeginnen() {
+  if (!Polare.Lesen()) return FokusSetzen(Polare.Zellen);
+  Schnur.Beginnen();
+  ZustandZeigen();
+}
+
+void TVFStatForm::SchnurVerlassen() {
+  PolarFortsetzen();
+  ZustandZeigen();
+  FokusSetzen(Polare.Zellen);
 }
 
 bool TVFStatForm::StandpunktÜbernehmen() {
@@ -369,6 +394,7 @@ void TVFStatForm::Leeren() {
   StandSym.Text = "";
   StandPnr.Fehlerhaft = StandSym.Fehlerhaft = false;
   Instrument.Leeren();
+  Schnur.Leeren();
   Polare.Setzen({});
   Bekannte.Setzen({});
   Titel = Grundtitel;
@@ -384,7 +410,7 @@ std::string TVFStatForm::Berechnentext() const {
     case FStatStatus::AnschlussGerechnet:
       return "Weiter: polare P.";
     case FStatStatus::StpErzeugt:
-      return "Pkte übernehmen";
+      return Mittel.Läuft() ? "Messungen mitteln" : "Pkte übernehmen";
     case FStatStatus::Start:
     case FStatStatus::NochNichtGerechnet:
       break;
@@ -404,7 +430,11 @@ void TVFStatForm::ZustandZeigen() {
   KnopfAbw.Text = Gerechnet() && !MitAbw ? "Abw.anzeigen" : "Koord.anzeigen";
   Bekannte.Zellen.Sichtbar = !Polar;
   Bekannte.FStatAbwGitterAn(Gerechnet() && MitAbw);
-  Polare.Zellen.Sichtbar = Polar;
+  Polare.Zellen.Sichtbar = Polar && !Schnur.Offen();
+  for (Knopf* K : {&KnopfBerechnen, &KnopfDelete}) K->Sichtbar = !Schnur.Offen();
+  for (Knopf* K : {&Mittel.KnopfMitteln, &KnopfSchnur}) K->Sichtbar = Tippt && Polar && !Schnur.Offen();
+  KnopfSchnur.Aktiv = !Mittel.Läuft();
+  Datei.ZustandZeigen();
   StandPnr.NurLesen = StandSym.NurLesen = Polar || !Tippt;
   Instrument.Eingabe.NurLesen = !Höhen || Polar || !Tippt;
   Reflektor.Eingabe.NurLesen = !Höhen || !Tippt;
@@ -426,6 +456,7 @@ void TVFStatForm::Delete() {
 void TVFStatForm::GrafikLöschen() {
   Bild.Löschen();
   Polare.GrafikKleinpunktLöschen();
+  Schnur.GrafikLöschen();
 }
 
 void TVFStatForm::BeiTabelle() {
@@ -443,10 +474,13 @@ void TVFStatForm::BeiTabelle() {
 // ---- leaving ---------------------------------------------------------------------------------------
 
 bool TVFStatForm::HatOffenes() const {
-  return Vorher() ? Bekannte.Anzahl() > 0 || Bekannte.HatUnfertiges() : Polare.HatOffenes();
+  return Vorher() ? Bekannte.Anzahl() > 0 || Bekannte.HatUnfertiges()
+                  : Polare.HatOffenes() || Schnur.HatOffenes();
 }
 
 bool TVFStatForm::OffenesSchreiben() {
+  if (Schnur.HatOffenes() && !Schnur.FStatSchnurÜbernehmen()) return false;
+  if (Mittel.Läuft() && !Mittel.Mitteln()) return false;
   if (!Vorher()) return PunkteÜbernehmen();
   if (!Gerechnet()) StationErmitteln();
   return Gerechnet() && StandpunktÜbernehmen();

@@ -7,6 +7,9 @@
 
 #include <tavorena/records/FStat.h>
 #include <tavorena/worksheets/Anschlussgitter.h>
+#include <tavorena/worksheets/FStatMessdatei.h>
+#include <tavorena/worksheets/FStatMitteln.h>
+#include <tavorena/worksheets/FStatSchnur.h>
 #include <tavorena/worksheets/Kleinpunktgitter.h>
 #include <tavorena/worksheets/Messfeld.h>
 #include <tavorena/worksheets/Rechenblatt.h>
@@ -63,6 +66,8 @@ class TVFStatForm final : public Rechenblatt {
   void ZustandZeigen();
   Anschlussgitter& Anschlüsse() { return Bekannte; }
   Kleinpunktgitter& Kleinpunkte() { return Polare; }
+  FStatMitteln& Doppelmessung() { return Mittel; }
+  FStatSchnur& Schnurgerüst() { return Schnur; }
   /// @}
 
  protected:
@@ -108,6 +113,9 @@ class TVFStatForm final : public Rechenblatt {
   [[nodiscard]] bool NummerPrüfen();
   [[nodiscard]] int StandpunktSpeichern();
   [[nodiscard]] int StandpunktSchreiben();
+  void PolarFortsetzen();
+  void SchnurBeginnen();
+  void SchnurVerlassen();
   [[nodiscard]] std::string BlockNehmen(const FStatEingabe& E);
 
   const bool Höhen;  // are carried, as the options had it at the opening
@@ -130,6 +138,10 @@ class TVFStatForm final : public Rechenblatt {
   Anschlussgitter Bekannte;
   Kleinpunktgitter Polare;
   Knopf &KnopfBerechnen, &KnopfArt, &KnopfZurück, &KnopfAbw, &KnopfDelete, &KnopfNeu;
+  FStatMessdatei Datei;
+  FStatMitteln Mittel;
+  Knopf& KnopfSchnur;
+  FStatSchnur Schnur;
 };
 
 }  // namespace tavorena

@@ -18,6 +18,8 @@ std::string Längentext(const Wert& Zahl) { return ZahlFormat(Zahl, -1, Optionen
 
 int Längenbreite(int Vorkomma) { return 1 + Vorkomma + 1 + Optionen.OptNachkommastellen; }
 
+double VierStellen(double Zahl) { return ZahlAusText(ZahlFormat(Zahl, -1, Messdezimalen)); }
+
 std::string Messwerttext(double Zahl, int Dezimalen) {
   std::string Text = ZahlFormat(Zahl, -1, Dezimalen);
   if (Optionen.OptNachkommastellen < Dezimalen && Text.ends_with('0')) Text.pop_back();

@@ -19,6 +19,9 @@ int Längenbreite(int Vorkomma);
 /// Decimals of a measured value in the batch file.
 inline constexpr int Messdezimalen = 4;
 
+/// A measured value to 4 decimals, which is what the batch file keeps.
+double VierStellen(double Zahl);
+
 /// Text of a measured value in a field. It is taken to 4 decimals, or those of its kind: the precision in
 /// which the batch file keeps it, so that a replay computes with the same value; a last decimal of 0 is not
 /// shown with fewer decimals set.

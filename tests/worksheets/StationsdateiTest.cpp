@@ -1,12 +1,105 @@
 #include "Blattest.h"
 
+#include <tavorena/core/Optionen.h>
+#include <tavorena/records/Spalten.h>
 #include <tavorena/worksheets/Anschlusswahl.h>
+#include <tavorena/worksheets/Messdatei.h>
 #include <tavorena/worksheets/TVMMittForm.h>
 
 namespace tavorena::test {
 namespace {
 
-class Stationsdatei : public Blatttest {};
+// Observed from 3500140.123 5600190.456, orientation 123.4567, all of one height: station 3001, its
+// connection, its points, the points once more; then a station that no point is known of.
+const char* const Meßwerte =
+    "3001 0 015\r\n1001 191.4102 100 41.2423\r\n2003 260.5889 100 40.8191\r\n1002 290.4495 100 91.7236\r\n"
+    "3001\r\n3010 35.2217 100 49.8418 0 020\r\n3011 21.97 100 53.4062\r\n"
+    "3001\r\n3011 21.97 100 53.4162\r\n3012 100 100 20\r\n"
+    "3002\r\n77 10 100 20\r\n78 10 100 20\r\n";
+
+class Stationsdatei : public Blatttest {
+ protected:
+  Stationsdatei() {
+    LaufendeMessdatei = {};
+    Schreibe(Ordner.Pfad("a.dat"), Meßwerte);
+  }
+  ~Stationsdatei() override { LaufendeMessdatei = {}; }
+  // The button, with the file and its report where it asks for one.
+  void AusDatei(Formular& Form, bool Erste) {
+    if (Erste) {
+      Skript.Dateien.push_back(Ordner.Pfad("a.dat"));
+      Skript.Formulare.push_back(Bediene({{"RohdatenÜbernehmen", ""}}));
+    }
+    Drücke(Form, "FstatAusGSI");
+  }
+  // Without the stamp.
+  std::string Neu(const std::string& Pnr) const {
+    const int z = KorSuche(std::string_view(Pnr));
+    return z < 0 ? "" : Längentext(KorRechts[static_cast<std::size_t>(z)]);
+  }
+};
+
+TEST_F(Stationsdatei, StationFürStation) {
+  auto B = Öffne("19.50");
+  AusDatei(*B, true);
+  auto& Polar = Element<Gitter>(*B, "FStatPolarGitter");
+  EXPECT_EQ(LaufendeMessdatei.Nächste, 1U);
+  EXPECT_TRUE(Gleich(Text(*B, "FstatStandPnr"), "3001", Gitterzeile(Element<Gitter>(*B, "FStatGitter"), 2)[1],
+                     "1002", Polar.Inhalt(0, 5), "020", Text(*B, "FstatAusGSI"), "weiter aus &Meßdatei"));
+  EXPECT_NE(Text(*B, "FstatMeßdateiStand").find("Station 1 von 2 (3001): 3 Anschlußpunkte, 2 Punkte"),
+            std::string::npos);
+  for (int i = 0; i < 3; ++i)
+    Drücke(*B, "FstatBerechnen");  // calculates, takes the station over, then the points
+  const std::string Einmal = Neu("3011");
+  AusDatei(*B, false);  // once more: the rows go aside
+  EXPECT_TRUE(Gleich(Text(*B, "FstatBerechnen"), "Messungen mitteln", Polar.Inhalt(0, 3), "53.4162"));
+  Drücke(*B, "FstatBerechnen");
+  EXPECT_TRUE(Gleich(Text(*B, "FstatBerechnen"), "Pkte übernehmen", Polar.Inhalt(1, 3), "53.4112",
+                     Polar.Inhalt(2, 0), "3012", Neu("3012"), ""));
+  Drücke(*B, "FstatBerechnen");
+  // What was stored once is struck and stored anew, in the batch it stands once.
+  EXPECT_TRUE(Gleich(Neu("3011") != Einmal, true, Anzahl(Stapeltext(), "PWS     3011"), 1,
+                     Anzahl(Protokoll(), MarkeGelöscht), 1, Neu("3012").empty(), false));
+  EXPECT_TRUE(Gleich(Anzahl(Stapeltext(), "53.4112"), 1, Anzahl(Stapeltext(), "PWS     3010"), 1));
+  B->SchließenVerlangen();
+  // Later it goes on there; nothing is known of the points.
+  B = Öffne("19.50");
+  Skript.Formulare.push_back(Bediene({{"OK", ""}}));
+  Skript.Erwarte("Kein Anschlußpunkt vorhanden !");
+  AusDatei(*B, false);
+  EXPECT_TRUE(Gleich(Text(*B, "FstatStandPnr"), "3002", Text(*B, "FstatAusGSI"), "aus &Meßdatei"));
+  EXPECT_NE(Text(*B, "FstatMeßdateiStand").find("(Dateiende Meßdatei)"), std::string::npos);
+  Skript.Erwarte("Dateiende erreicht !");
+  AusDatei(*B, false);
+  EXPECT_FALSE(LaufendeMessdatei.Offen());
+}
+
+TEST_F(Stationsdatei, Schnurgerüst) {
+  auto B = Öffne("19.50");
+  AusDatei(*B, true);
+  for (int i = 0; i < 2; ++i) Drücke(*B, "FstatBerechnen");
+  Drücke(*B, "FStatSchnur");
+  EXPECT_EQ(Tippe(*B, "FStatSchnurLiniePnr", "1001\n1002\n"), "FStatSchnurPnr");
+  // 2003 itself: the 3-4-5 triangle of the example, 42 m along and 6 m to the left.
+  EXPECT_EQ(Tippe(*B, "FStatSchnurPnr", "4001\n260,5889\n100\n40,8191\n\n"), "FStatSchnurÜbernehmen");
+  EXPECT_TRUE(Gleich(Text(*B, "FStatSchnurLinie"), "42.000", Text(*B, "FStatSchnurSeitw"), "6.000",
+                     Text(*B, "FStatSchnurLinieVorige"), ""));
+  Drücke(*B, "FStatSchnurÜbernehmen");
+  Drücke(*B, "FStatSchnurNeueLinie");
+  Tippe(*B, "FStatSchnurLiniePnr", "1002\n1001\n");
+  Tippe(*B, "FStatSchnurPnr", "4002\n260,5889\n100\n40,8191\n\n");
+  EXPECT_TRUE(Gleich(Text(*B, "FStatSchnurLinie"), "58.000", Text(*B, "FStatSchnurLinieVorige"), "42.000"));
+  Drücke(*B, "FStatSchnurÜbernehmen");
+  EXPECT_EQ(Neu("4002"), Neu("2003"));
+  Drücke(*B, "FStatSchnurZurück");
+  EXPECT_TRUE(Gleich(Neu("4002"), "", Anzahl(Stapeltext(), "C  Schnurgerüst: 400"), 1,
+                     Anzahl(Protokoll(), "Linienelemente (Schnurgerüst)") > 0, true));
+  Drücke(*B, "FStatSchnurEnde");
+  Drücke(*B, "FstatBerechnen");  // the polar rows stand under their own head again
+  B->SchließenVerlangen();
+  EXPECT_TRUE(GleichSoll(Protokoll(), "worksheets/soll/fstat_schnur.dru"));
+  EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/fstat_schnur.sta"));
+}
 
 struct Liste final : Messliste {
   std::vector<Punktsatz> Alle;
