@@ -45,4 +45,7 @@ namespace tavorena {
 [[nodiscard]] Konsolenbefehl ÜbernahmeBefehl();        ///< "uebernehmen --aus b.kor --was koordinaten"
 /// @}
 
+/// "stationieren --art helmert|kongruent": a whole raw-data file, station by station.
+[[nodiscard]] Konsolenbefehl StationierBefehl();
+
 }  // namespace tavorena

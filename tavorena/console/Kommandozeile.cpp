@@ -83,7 +83,7 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
       BelegungBefehl(),    LöschBefehl(),      UmnumerierBefehl(), DoppelteMittelnBefehl(),
       MittelBefehl(),      VerschiebeBefehl(), ÜbernahmeBefehl(),  DxfBefehl(),
       GesamtdateiBefehl(), GsiAusgabeBefehl(), RohdatenBefehl(),   M5Befehl(),
-      NivellementBefehl(), TheoBefehl(),       AbsteckBefehl(),
+      NivellementBefehl(), TheoBefehl(),       AbsteckBefehl(),    StationierBefehl(),
   };
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");

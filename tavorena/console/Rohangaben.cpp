@@ -7,21 +7,6 @@
 namespace tavorena {
 namespace {
 
-// One of the words that an option takes; the first one where it is not given.
-bool WortLesen(const Aufruf& A, const char* Option, const std::vector<std::string>& Worte,
-               std::size_t& Stelle) {
-  const std::string Wort = A.Wert(Option);
-  for (Stelle = 0; Stelle < Worte.size(); ++Stelle) {
-    if (Wort.empty() || Wort == Worte[Stelle]) return true;
-  }
-  std::string Alle;
-  for (const std::string& W : Worte) {
-    if (!W.empty()) Alle += (Alle.empty() ? "" : ", ") + W;
-  }
-  FehlerMeldung(std::string(Option) + " " + Wort + " gibt es nicht, nur " + Alle);
-  return false;
-}
-
 // The number of a value in a code block.
 bool WertnummerLesen(const Aufruf& A, const char* Option, int Kleinste, int& Nummer) {
   const std::string Wort = A.Wert(Option);
@@ -37,6 +22,20 @@ bool WertnummerLesen(const Aufruf& A, const char* Option, int Kleinste, int& Num
 }
 
 }  // namespace
+
+bool WortLesen(const Aufruf& A, const char* Option, const std::vector<std::string>& Worte,
+               std::size_t& Stelle) {
+  const std::string Wort = A.Wert(Option);
+  for (Stelle = 0; Stelle < Worte.size(); ++Stelle) {
+    if (Wort.empty() || Wort == Worte[Stelle]) return true;
+  }
+  std::string Alle;
+  for (const std::string& W : Worte) {
+    if (!W.empty()) Alle += (Alle.empty() ? "" : ", ") + W;
+  }
+  FehlerMeldung(std::string(Option) + " " + Wort + " gibt es nicht, nur " + Alle);
+  return false;
+}
 
 std::vector<Angabe> MitRohangaben(const std::vector<Angabe>& Eigene) {
   std::vector<Angabe> Alle = {

@@ -141,7 +141,8 @@ Rückgabe SitzungFühren(const Konsolenbefehl& B, const Aufruf& A, const Umfeld&
   PlattformKonsole Konsole(A, U.Meldungen, U.Programmordner);
   const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole, &Konsole});
   bool Gut = false;
-  const auto Tun = [&] { Gut = Arbeiten(B, A, U, Konsole); };
+  const Umfeld Innen{U.Ausgabe, U.Meldungen, U.Programmordner, [&] { return Konsole.Mißlungen(); }};
+  const auto Tun = [&] { Gut = Arbeiten(B, A, Innen, Konsole); };
   Gut = Geschützt("Konsole", Tun) == 0 && Gut && !Konsole.Mißlungen();
   static_cast<void>(BlätterSchließen());  // that of a replay stays to be read, and here is nobody
   PortsSetzen(Vorher);

@@ -53,6 +53,8 @@ struct Umfeld {
   std::ostream& Ausgabe;
   std::ostream& Meldungen;
   std::string Programmordner;
+  /// Something failed, or a question met no answer: the command is to end.
+  std::function<bool()> Beendet = [] { return false; };
 };
 
 /// A file that a command takes beside the common ones.
