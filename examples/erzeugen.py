@@ -3,8 +3,9 @@
 
     examples/erzeugen.py [path of tavorena-stapel]
 
-Writes musterdorf.kor and musterdorf.sta beside this file, the passpoints to a new survey, and
-musterdorf.dru by replaying the batch file when the program is given. The same numbers come out every time: the measuring errors have a fixed seed.
+Writes musterdorf.kor and musterdorf.sta beside this file, the passpoints to a new survey, a day's raw data
+(tag.gsi), and, when the program is given, musterdorf.dru by replaying the batch file, tag.sta and tag.dru by
+computing the day. The same numbers come out every time: the measuring errors have a fixed seed.
 """
 import math
 import pathlib
@@ -18,6 +19,7 @@ ZUFALL = random.Random(19700101)
 ZUFALL_NEU = random.Random(19700102)  # of the new points
 ZUFALL_HOEHE = random.Random(19700103)  # of the level
 ZUFALL_STATION = random.Random(19700104)  # of the total station
+ZUFALL_TAG = random.Random(19700104)  # of the day's raw data
 URSPRUNG = (3456213.40, 5612387.15)  # Rechts, Hoch of the churchyard corner, zone 3
 DREHUNG = math.radians(14.3)  # of the main street against east
 STEMPEL = "21.11.2026   09:30"
@@ -278,18 +280,82 @@ def neue_punkte():
                           [f"{'KEIN' * (n == 110)}PASSP   {n:8d}" for n in range(101, 113)], ende)
 
 
+# ---- a day with the total station: two free stations and a known one, in the form of 16 digits
+
+
+def wort(index, wert, faktor, einheit):
+    return f"{index}...{einheit}{'-' if wert < 0 else '+'}{round(abs(wert) * faktor):016d} "
+
+
+def messung(zeilen, stand, ziel, nummer, hoehen, lage=1, code=""):
+    """A line as the instrument writes it; stand is place, height and orientation of the circle."""
+    (r, h, z, orientierung), (ih, t) = stand, hoehen
+    dr, dh, dz = ziel[0] - r, ziel[1] - h, ziel[2] + t - z - ih
+    eben = math.hypot(dr, dh)
+    hz = math.atan2(dr, dh) * 200 / math.pi - orientierung + ZUFALL_TAG.gauss(0, 0.0006)
+    v = math.atan2(eben, dz) * 200 / math.pi + ZUFALL_TAG.gauss(0, 0.0006)
+    s = math.hypot(eben, dz) + ZUFALL_TAG.gauss(0, 0.002)
+    if lage == 2:
+        hz, v = hz + 200, 400 - v
+    zeile = (f"*11{len(zeilen) + 1:04d}+{nummer:016d} " + wort(21, hz % 400, 100000, 2) + wort(22, v, 100000, 2)
+             + wort(31, s, 10000, 6) + wort(87, t, 1000, 0) + wort(88, ih, 1000, 0))
+    zeilen.append(zeile + (f"71....+{code:0>16} " if code else ""))
+
+
+def stationscode(zeilen, nummer):
+    zeilen.append(f"*41{len(zeilen) + 1:04d}+{0:016d} 42....+{60:016d} 43....+{nummer:016d} ")
+
+
+def tag():
+    zeilen = []
+    hoehen, neu = (1.57, 1.6), 6001
+    for nummer, (x, y), anschluss_nummern, orientierung, bereich in (
+            (5101, (88.0, 8.5), (101, 102, 103, 106), 61.2345, (20, 150)),
+            (5102, (205.0, -9.0), (103, 104, 105, 108), 317.8812, (160, 250)),
+            (107, (118, 118), (106, 111), 5.4321, (90, 200))):
+        stand = (*(punkte[nummer][:3] if nummer in punkte else ecke_im_dorf(x, y)), orientierung)
+        stationscode(zeilen, nummer)
+        for n in anschluss_nummern:
+            for lage in (1, 2):
+                messung(zeilen, stand, punkte[n], n, hoehen, lage)
+        stationscode(zeilen, nummer)
+        for _ in range(9):
+            x_neu = ZUFALL_TAG.uniform(*bereich)
+            y_neu = ZUFALL_TAG.uniform(-25, 25) + (100 if nummer == 107 else 0)
+            messung(zeilen, stand, ecke_im_dorf(x_neu, y_neu), neu, hoehen, 1, ZUFALL_TAG.choice(("015", "027", "")))
+            neu += 1
+    return "".join(z + "\r\n" for z in zeilen)
+
+
+def ecke_im_dorf(x, y):
+    """A place in the system of the main street."""
+    return (URSPRUNG[0] + x * math.cos(DREHUNG) - y * math.sin(DREHUNG),
+            URSPRUNG[1] + x * math.sin(DREHUNG) + y * math.cos(DREHUNG),
+            181.4 + 0.012 * x + 0.021 * y + 0.6 * math.sin(x / 45))
+
+
 def main():
     punktfeld()
     (HIER / "musterdorf.kor").write_bytes(kor(punkte).encode())
     (HIER / "musterdorf.sta").write_bytes(sta().encode())
     (HIER / "passpunkte.kor").write_bytes(kor(passpunkte()).encode())
+    (HIER / "tag.gsi").write_bytes(tag().encode())
     if len(sys.argv) > 1:
-        dru = HIER / "musterdorf.dru"
-        dru.unlink(missing_ok=True)
-        subprocess.run([str(pathlib.Path(sys.argv[1]).resolve()), "--koordinaten", "musterdorf.kor", "--protokoll",
-                        "musterdorf.dru", "musterdorf.sta"], cwd=HIER, check=True)
-        text = dru.read_bytes().decode()
-        dru.write_bytes(re.sub(r"\d\d\.\d\d\.\d{4}   \d\d:\d\d", STEMPEL, text).encode())
+        laufen(["--protokoll", "musterdorf.dru", "musterdorf.sta"], ["musterdorf.dru"])
+        laufen(["stationieren", "tag.gsi", "--art", "helmert", "--standpunkt", "orientierung", "--protokoll", "tag.dru",
+                "--stapel-ausgabe", "tag.sta"], ["tag.dru", "tag.sta"])
+
+
+def laufen(angaben, ergebnisse):
+    """Runs the program on the example coordinates; what it writes gets the stamp of the example."""
+    for name in ergebnisse:
+        (HIER / name).unlink(missing_ok=True)
+    befehl = angaben[:1] if angaben[0] == "stationieren" else []
+    subprocess.run([str(pathlib.Path(sys.argv[1]).resolve()), *befehl, "--koordinaten", "musterdorf.kor",
+                    *angaben[len(befehl):]], cwd=HIER, check=True)
+    for name in ergebnisse:
+        text = (HIER / name).read_bytes().decode()
+        (HIER / name).write_bytes(re.sub(r"\d\d\.\d\d\.\d{4}   \d\d:\d\d", STEMPEL, text).encode())
 
 
 if __name__ == "__main__":
