@@ -13,7 +13,7 @@ class TVAnschlusswahl final : public Dialogform {
  public:
   TVAnschlusswahl(const Rohstation& S, const std::string& Worum, std::vector<bool>& Haken)
       : Dialogform("TVAnschlusswahl", "Anschlußpunkte wählen"), Ein(Haken) {
-    Hilfenummer = 4300;
+    Hilfenummer = 4230;
     Kopf.Text = Worum + ": angehakte Zeilen sind Anschlußpunkte, die anderen polare Punkte";
     Liste.Markenspalte = 0;
     Liste.NurLesen = true;
