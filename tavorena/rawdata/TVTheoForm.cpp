@@ -190,7 +190,7 @@ void TVTheoForm::Empfangen() {
     Verteilen(Zeilen);
     if (!Gut || Stop) break;
     Zwischenstand();
-    if (Zeilen.empty()) AblaufPort().Warten(Blickabstand);
+    Zeilen.empty() ? AblaufPort().Warten(Blickabstand) : AblaufPort().EreignisseAbarbeiten();
   }
   Lauscht = false;
   Gerät.Trennen();
