@@ -137,7 +137,7 @@ void ProtokollZählen(const std::string& Text, Zählung& Zeilen) {
     if (Art == "VR 22.10" || TrimmenSicht(Zeile.substr(Werte, Nummer - Werte)).empty()) continue;
     if (MitNeuenPunkten(Art)) {
       const std::string_view Ganz = TrimmenSicht(Zeile);
-      if (!Ganz.ends_with(" PA") && !Ganz.ends_with(" PE"))
+      if (Ganz.find(" PA") == std::string_view::npos && !Ganz.ends_with(" PE"))
         Zeilen[Art] += Ganz.ends_with("***gelöscht") ? -1 : 1;
       continue;
     }
@@ -154,6 +154,7 @@ Zählung StapelZählen(const std::string& Text) {
   for (std::string_view Rest; Leser.Nächste(Rest);) {
     const std::string_view Wort = Wortnehmen(Rest);
     if (Wort == "M") Art = TrimmenSicht(Rest).substr(0, 8);
+    if (Art == "VR 19.50") Art = "VR 19.70";  // its rows stand under another title
     const std::string Pnr(Wortnehmen(Rest));
     if (!MitZeilen(Art)) continue;
     if (Wort == "PAN") Anfang = Pnr;

@@ -316,26 +316,36 @@ void TVFStatForm::SchnurVerlassen() {
   FokusSetzen(Polare.Zellen);
 }
 
-bool TVFStatForm::StandpunktÜbernehmen() {
-  if (!NummerPrüfen()) return false;
+// @return as StandpunktSpeichern
+int TVFStatForm::StandpunktNehmen() {
+  if (!NummerPrüfen()) return -1;
   const Stationsergebnis Gerechnet = Station;
   int Ergebnis = StandpunktSpeichern();
   if (Ergebnis == 0 && StandpunktSchreiben() < 0) {
     Ergebnis = -2;
     static_cast<void>(Ablage.Zurück());  // just stored: nobody changed it since
   }
-  if (Ergebnis < 0) {
-    Station = Gerechnet;
+  if (Ergebnis < 0) Station = Gerechnet;
+  return Ergebnis;
+}
+
+bool TVFStatForm::StandpunktÜbernehmen() {
+  if (StandpunktNehmen() < 0) {
+    FokusSetzen(StandPnr);
     return false;
   }
+  StandpunktZeigen();
+  FokusSetzen(Polare.Zellen);
+  return true;
+}
+
+void TVFStatForm::StandpunktZeigen() {
   Stand = FStatStatus::StpErzeugt;
   Bild.Löschen();
   Anzeige.Zeigen(Station, Gerechnete.Art);
   Polare.AllesRechnen();
   if (!ImStapel()) Titel = "Freie Stationierung: Polare Punkte";
   ZustandZeigen();
-  FokusSetzen(Polare.Zellen);
-  return true;
 }
 
 // The rows stay, and what is typed of the polar points.
@@ -526,18 +536,26 @@ std::string TVFStatForm::BlockNehmen(const FStatEingabe& E) {
   return "";
 }
 
+// The station counts as a row; without it those that follow are read and left out.
 int TVFStatForm::StapelZeile() {
-  if (Vorher()) {
-    if (StandpunktÜbernehmen()) {
-      ++Stapel.Bilanz.Zeilen;
-      return 0;
+  if (Vorher() && !Verweigert) {
+    const int Genommen = StandpunktNehmen();
+    if (Genommen == -2) {
+      StapelFehlerMeldung("Standpunkt nicht geschrieben");
+      return -1;
     }
-    if (Stapel.Aktiv) StapelFehlerMeldung("Standpunkt " + Zitat(*StandPnr.Text) + " nicht gespeichert");
-    return -1;
+    Verweigert = Genommen < 0;
+    if (Verweigert) {
+      StapelFallAuslassen("Standpunkt " + Zitat(*StandPnr.Text) + " nicht gespeichert");
+    } else {
+      ++Stapel.Bilanz.Zeilen;
+      StandpunktZeigen();
+    }
+    return 0;
   }
   FStatPolareingabe E;
   const int Gelesen = StapelLeseFStatPolar(E);
-  if (Gelesen < 0) return Gelesen;
+  if (Gelesen < 0 || Verweigert) return Gelesen;
   const FStatBeobachtung& B = E.Messung;
   const int Ergebnis =
       Polare.Eintragen({B.Pnr, {B.Richtung, B.Vertikal, B.Strecke, B.Zielhoehe}, E.Symbol, E.LinieNach});

@@ -111,6 +111,8 @@ class TVFStatForm final : public Rechenblatt {
   void Rücksetzen();
   void GrafikStandpunkt();
   [[nodiscard]] bool NummerPrüfen();
+  [[nodiscard]] int StandpunktNehmen();
+  void StandpunktZeigen();
   [[nodiscard]] int StandpunktSpeichern();
   [[nodiscard]] int StandpunktSchreiben();
   void PolarFortsetzen();
@@ -127,6 +129,7 @@ class TVFStatForm final : public Rechenblatt {
   Stationsergebnis Station;
   Stationsaufgabe Gerechnete;  // what it was computed from
   bool MitAbw = true;          // the residuals are shown
+  bool Verweigert = false;     // a replay stores nothing of its block
   Punktablage Ablage;          // of the station
   Aufzeichnung::Spur Wo;
   Markierung Bild;

@@ -158,6 +158,16 @@ TEST_F(FStatTest, Verweigertes) {
   });
   Drücken();
   EXPECT_TRUE(Gleich(Anzahl(Stapeltext(), "PWS"), 3, Anzahl(Protokoll(), "*** letzte Berechnung"), 2));
+  // In a replay a station that is refused takes its rows with it; the next block is replayed.
+  B->SchließenVerlangen();
+  KorAbschneiden(6);
+  Punkt("3001", 1, 1);
+  Haken.PunktVorhandenBehandeln = [](const Konflikt&) { return Konfliktantwort{}; };
+  Schreibe(StapelDatei.Name,
+           Stapeltext() + "M  VR 08.40 Polarelemente\r\nPAN 1001 0\r\nPEN 1002 0\r\nNR 2003\r\nE Ende\r\n");
+  Starten();
+  EXPECT_TRUE(Gleich(KorAnzahl, 7, Stapel.Bilanz.Blöcke, 2, Stapel.Bilanz.Zeilen, 1,
+                     Stapel.Bilanz.OhneErgebnis.size(), 1U));
 }
 
 // A stored row that is typed anew, and one that is deleted.
