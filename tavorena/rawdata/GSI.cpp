@@ -28,10 +28,10 @@ int ZeilenartVon(std::string_view Zeile, const GSIForm& Form) {
 // ddd.mmsss with five decimals in the field.
 bool SexagesimalNachGon(double Feld, double& Gon) {
   const auto a = static_cast<std::int64_t>(std::min(std::abs(Feld), 1e15));
-  const std::int64_t Minuten = a / 1000 % 100, Zehntel = a % 1000;
+  const std::int64_t Ganze = a / 100000, Minuten = a / 1000 % 100, Zehntel = a % 1000;
   if (Minuten >= 60 || Zehntel >= 600) return false;
-  const double Grad = static_cast<double>(a / 100000) + static_cast<double>(Minuten) / 60 +
-                      static_cast<double>(Zehntel) / 36000;
+  const double Grad =
+      static_cast<double>(Ganze) + static_cast<double>(Minuten) / 60 + static_cast<double>(Zehntel) / 36000;
   Gon = std::copysign(Grad, Feld) / 0.9;
   return true;
 }

@@ -26,6 +26,17 @@ std::string_view Symbol(const Messtext& Code) {
   return Keiner ? std::string_view() : std::string_view(Code.Text);
 }
 
+// Where the code line holds a station code: 1 as first of its values, 2 as data of word 1, 0 not at all.
+int Stationscode(const Codeblock& Block, const Rohdatenwahl& Wahl) {
+  const auto IstCode = [&](std::string_view Code) {
+    return std::any_of(Wahl.Stationscodes.begin(), Wahl.Stationscodes.end(), [&](const std::string& C) {
+      return !C.empty() && OhneFührendeNullen(C) == OhneFührendeNullen(Code);
+    });
+  };
+  if (Block.Anzahl > 0 && IstCode(Block.Werte[0])) return 1;
+  return Block.Wort1 != "0" && IstCode(Block.Wort1) ? 2 : 0;
+}
+
 // The extent of the point table.
 struct Ausdehnung {
   double MinR = 0, MaxR = 0, MinH = 0, MaxH = 0, Rand = 0;
@@ -111,7 +122,10 @@ void Rohlesung::Code() {
   Prüfung.Zählen(Roh.Befund.Codes, InWort1 ? Block.Wort1 + " in Wort 1" : Block.Werte[0]);
   std::string Nummer;
   Wert NeueIh;
-  if (!StationAusCodeblock(Block, Wahl, Nummer, NeueIh)) return;
+  if (!StationAusCodeblock(Block, Wahl, Nummer, NeueIh)) {
+    if (Stationscode(Block, Wahl) != 0) Prüfung.Melden(Roh.Befund.Auffällig, "Stationscode ohne Nummer");
+    return;
+  }
   MitCode = true;
   Beginnen(std::move(Nummer), NeueIh);
 }
@@ -258,16 +272,11 @@ std::string_view Rohnummer(std::string_view Nummer, const Rohdatenwahl& Wahl) {
 
 bool StationAusCodeblock(const Codeblock& Block, const Rohdatenwahl& Wahl, std::string& Nummer,
                          Wert& Instrumentenhöhe) {
-  const auto IstCode = [&](std::string_view Code) {
-    return std::any_of(Wahl.Stationscodes.begin(), Wahl.Stationscodes.end(), [&](const std::string& C) {
-      return OhneFührendeNullen(C) == OhneFührendeNullen(Code);
-    });
-  };
-  const bool Erster = Block.Anzahl > 0 && IstCode(Block.Werte[0]);
-  if (!Erster && (Block.Wort1.empty() || !IstCode(Block.Wort1))) return false;
+  const int Code = Stationscode(Block, Wahl);
+  if (Code == 0) return false;
   // Value k, the code being value 1.
   const auto Nummernwert = [&](int k) -> std::string_view {
-    const int i = k - (Erster ? 1 : 2);
+    const int i = k - Code;
     return i >= 0 && i < Block.Anzahl ? std::string_view(Block.Werte[static_cast<std::size_t>(i)])
                                       : std::string_view();
   };
@@ -275,8 +284,8 @@ bool StationAusCodeblock(const Codeblock& Block, const Rohdatenwahl& Wahl, std::
   if (Text.empty()) return false;
   Nummer = Text;
   Instrumentenhöhe = {};
-  if (const std::string_view Höhe = Wahl.Ihwert > 0 ? Nummernwert(Wahl.Ihwert) : std::string_view();
-      IstZahlwort(Höhe)) {
+  const std::string_view Höhe = Wahl.Ihwert > 0 ? Nummernwert(Wahl.Ihwert) : std::string_view();
+  if (IstZahlwort(Höhe) && std::isfinite(ZahlAusText(Höhe))) {
     const bool Meter = Höhe.find_first_of(".,") != std::string_view::npos;
     Instrumentenhöhe = ZahlAusText(Höhe) / (Meter ? 1 : 1000);
   }

@@ -62,6 +62,8 @@ TEST_F(RohdatenTest, BlöckeUndHöhen) {
   const std::string ImWort1 = "*410004+0000000000000021 42....+000000000000BP04 43....+0000000000001538\r\n";
   EXPECT_EQ(Bild(ImWort1 + Ziel("1") + "410001+00000000 42....+00000007 43....+0000BP05\r\n"),
             "[BP04 1.538]1:0 [BP05 0]");
+  Wahl.Stationscodes = {"", "7"};  // a list that ends in a comma
+  EXPECT_EQ(Bild(Station("101") + Ziel("1")), "[ 0]1:0 ");
   Wahl.OhneNullen = false;
   EXPECT_EQ(Bild("410001+00000000 42....+00000007 43....+0000BP05\r\n"), "[+0000BP05 0]");
   Wahl = {};
@@ -95,6 +97,8 @@ TEST_F(RohdatenTest, WasFehltWirdGesagt) {
       {Messzeile("1", {{87, "1500000"}}), "Höhe über 20 m 1|"},
       {"110001+00000001 58..00+00000001 31..00+000",
        "Wort 58 unbekannt 1|Wort am Zeilenende abgeschnitten 1|"},
+      {"410001+00000000 42....+00000060", "Stationscode ohne Nummer 1|"},
+      {"410001+00000060 ", "Stationscode ohne Nummer 1|"},
       {"110001         ", "Messung ohne Punktnummer 1|"},
       {std::string("110001+00000001 \0", 17), "Wort am Zeilenende abgeschnitten 1|Zeichen mit dem Code 0 1|"},
       {Messzeile("1", {{71, "5"}}) + Messzeile("1", {{71, "6"}}) + Messzeile("1", {{71, "7"}}),
