@@ -68,35 +68,26 @@ TEST_F(Rohdatenmenü, ExportGanzOderGewählt) {
 }
 
 TEST_F(Rohdatenmenü, UmwandlungFragtNachDemZiel) {
-  const std::string Gre = Ordner.Pfad("b.gre"), Kor = Ordner.Pfad("b.kor");
-  Schreibe(Gre, "alt");
-  for (const int Antwort : {KnopfNein, KnopfJa}) {
+  const auto Wandle = [&](int Index, const std::string& Ziel) {
     Bericht();
+    if (Index == 3) Bericht("OK");  // the list of modes
+    Skript.Dateien = {Roh, Ordner.Pfad(Ziel)};
+    Befehl(("MenüKonvertierenRohdaten(" + std::to_string(Index) + ")").c_str());
+    return fs::exists(Ordner.Pfad(Ziel)) ? Inhalt(Ordner.Pfad(Ziel)) : "";
+  };
+  Schreibe(Ordner.Pfad("b.gre"), "alt");
+  for (const int Antwort : {KnopfNein, KnopfJa}) {
     Skript.Erwarte("Überschreiben ?", Antwort);
-    Skript.Dateien = {Roh, Gre};
-    Befehl("MenüKonvertierenRohdaten(0)");
-    EXPECT_EQ(Inhalt(Gre) == "alt", Antwort == KnopfNein);
+    EXPECT_EQ(Wandle(0, "b.gre") == "alt", Antwort == KnopfNein);
   }
-  Bericht();
   Skript.Erwarte("Überschreiben ?", KnopfJa);
   Skript.Erwarte("Dateiname für Ein- und Ausgabe ist gleich:");
-  Skript.Dateien = {Roh, Roh};
-  Befehl("MenüKonvertierenRohdaten(1)");
-  EXPECT_EQ(Inhalt(Roh), Gsi);
-  Bericht();
-  Skript.Dateien = {Roh, Kor};
-  Befehl("MenüKonvertierenRohdaten(2)");
-  EXPECT_NE(Inhalt(Kor).find("9009"), std::string::npos);
-  Bericht();
-  Skript.Formulare.push_back(Bediene({{"OK", ""}}));
-  Skript.Dateien = {Roh, Ordner.Pfad("c.gsi")};
+  EXPECT_EQ(Wandle(1, "a.gsi"), Gsi);
+  EXPECT_NE(Wandle(2, "b.kor").find("9009"), std::string::npos);
   Skript.Erwarte("Keine Koordinatenbasis abzuziehen:");
-  Befehl("MenüKonvertierenRohdaten(3)");
+  EXPECT_EQ(Wandle(3, "c.gsi"), "");
   Schreibe(Roh, "110001+00000001 331.08+00133700 \r\n110002+00000002 332.08+00050000 \r\n");
-  Bericht();
-  Skript.Dateien = {Roh, Ordner.Pfad("n")};
-  Befehl("MenüKonvertierenRohdaten(4)");
-  EXPECT_NE(Inhalt(Ordner.Pfad("n.niv")).find("1.33700"), std::string::npos);
+  EXPECT_NE(Wandle(4, "n.niv").find("1.33700"), std::string::npos);
 }
 
 TEST_F(Rohdatenmenü, Entladen) {
