@@ -106,6 +106,10 @@ class Bericht {
       if (std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop) return -1;
       Station(S);
     }
+    if (Zahlen.Stationen == 0) {
+      Aus.Beginnen(TitelStation);
+      Aus.Schreiben({Leerzeichen(6) + "Keine Messungen vorhanden !"});
+    }
     Text = std::move(Aus.Text);
     return 0;
   }

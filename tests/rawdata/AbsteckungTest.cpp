@@ -126,6 +126,8 @@ TEST_F(Absteckung, SchreibtDenBerichtUndMeldetWasFehlt) {
             "Standpunktzeile für Standpunkt 902");
   ASSERT_EQ(RohdatenBerichtAbsteckung(Auftrag, Name, Zahlen), 0);
   EXPECT_EQ(Inhalt(Name), Text());
+  Auftrag.Roh.Blöcke.clear();
+  EXPECT_TRUE(Text().ends_with("      Keine Messungen vorhanden !\r\n"));
   Auftrag.Roh.Blöcke = {Block("", Anschluss)};  // no station code: the message without a number
   EXPECT_TRUE(StandpunktzeilenFehlen(Auftrag.Roh).ends_with("Standpunktzeile für Standpunkt "));
   Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
