@@ -16,7 +16,7 @@ inline constexpr double NivellementOhne = std::numeric_limits<double>::quiet_NaN
 /// A row of the field book. A turning point has V and R in one row, a point with R alone begins a line, one
 /// with V alone ends it, and a row with Z belongs to the set-up that is open.
 struct NivellementZeile {
-  std::string Punkt;
+  std::string Punkt;              ///< number
   double R = NivellementOhne;     ///< backsight
   double Z = NivellementOhne;     ///< intermediate sight
   double V = NivellementOhne;     ///< foresight
@@ -27,14 +27,16 @@ struct NivellementZeile {
 
 /// A set-up with back- and foresight.
 struct NivellementStand {
-  int Von = 0, Nach = 0;            ///< rows of back and fore point
+  int Von = 0;                      ///< row of the back point
+  int Nach = 0;                     ///< row of the fore point
   double dH = 0;                    ///< R - V [m]
   double Laenge = NivellementOhne;  ///< of both sights [m]; not a number when one of them is missing
 };
 
 /// A piece of a line between two points of known height, or an end of it with one alone.
 struct NivellementAbschnitt {
-  int Von = 0, Bis = 0;      ///< rows of its ends
+  int Von = 0;               ///< row of its begin
+  int Bis = 0;               ///< row of its end
   int Linie = 0;             ///< line it belongs to
   std::vector<int> Staende;  ///< its set-ups on their way
   bool Geschlossen = false;  ///< known at both ends; otherwise nothing is corrected
@@ -46,8 +48,10 @@ struct NivellementAbschnitt {
 
 /// Rows from a beginning up to the next one.
 struct NivellementLinie {
-  int Von = 0, Bis = 0;           ///< first and last row
-  double SummeR = 0, SummeV = 0;  ///< of set-ups with both sights [m]
+  int Von = 0;        ///< first row
+  int Bis = 0;        ///< last row
+  double SummeR = 0;  ///< backsights of set-ups with both sights [m]
+  double SummeV = 0;  ///< their foresights [m]
 };
 
 /// What comes out for a row.
@@ -60,10 +64,10 @@ struct NivellementWert {
 
 /// A field book as it was computed.
 struct NivellementErgebnis {
-  std::vector<NivellementWert> Zeilen;
-  std::vector<NivellementStand> Staende;
-  std::vector<NivellementAbschnitt> Abschnitte;
-  std::vector<NivellementLinie> Linien;
+  std::vector<NivellementWert> Zeilen;           ///< row by row
+  std::vector<NivellementStand> Staende;         ///< in the order of the rows
+  std::vector<NivellementAbschnitt> Abschnitte;  ///< line by line
+  std::vector<NivellementLinie> Linien;          ///< in the order of the rows
 };
 
 /// Why a field book can not be computed, or not to its end; told with a row.
@@ -80,7 +84,9 @@ enum NivellementFehler : int {
 };
 
 /// The set-ups of a field book, heights or none.
-/// @param[out] Zeile  row at fault, from 0; 0 on success
+/// @param[in]  Zeilen   field book
+/// @param[out] Staende  in the order of the rows
+/// @param[out] Zeile    row at fault, from 0; 0 on success
 /// @return 0, or a NivellementFehler; Staende is untouched on failure
 [[nodiscard]] int NivellementStaende(const std::vector<NivellementZeile>& Zeilen,
                                      std::vector<NivellementStand>& Staende, int& Zeile);
@@ -94,6 +100,7 @@ enum NivellementFehler : int {
 /// + R - Z. A section with one known end is computed from there without correction. A line without a known
 /// point starts from the mean of what the others gave. Nothing is rounded.
 ///
+/// @param[in]  Zeilen    field book
 /// @param[in]  k         tolerance of a kilometre [mm]; FHZulaessig = k·√L with L in km, a set-up without
 ///                       lengths counting 0.08 km
 /// @param[out] E         untouched on failure
@@ -108,10 +115,11 @@ enum NivellementFehler : int {
 
 /// Two sections that run between the same two points, there and back.
 struct NivellementPaar {
-  int Hin = 0, Rueck = 0;  ///< sections
-  double d = 0;            ///< sum of their differences [m]
-  double Mittel = 0;       ///< mean of their amounts, with the sign of the first [m]
-  double R = 0;            ///< mean of their lengths [km]
+  int Hin = 0;        ///< section there
+  int Rueck = 0;      ///< section back
+  double d = 0;       ///< sum of their differences [m]
+  double Mittel = 0;  ///< mean of their amounts, with the sign of the first [m]
+  double R = 0;       ///< mean of their lengths [km]
 };
 
 /// Finds the sections that were levelled both ways; each belongs to one pair at most.
@@ -125,7 +133,7 @@ struct NivellementPaar {
 
 /// The height of a point.
 struct NivellementPunkt {
-  std::string Punkt;
+  std::string Punkt;  ///< number
   double Hoehe = 0;   ///< its own, or the mean of its rows [m]
   bool Fest = false;  ///< it was known
   double Spanne = 0;  ///< greatest minus least height of its rows [m]

@@ -80,7 +80,8 @@ Nivmangel NivRechnen(const Niveingabe& E, Nivrechnung& R) {
   if (M.Fehler == 0) return M;
   M.Text = NivellementFehlertext(M.Fehler);
   M.Unfertig = M.Fehler == NivellementLeer || M.Fehler == NivellementAblesungFehlt ||
-               M.Fehler == NivellementVorblickOffen || M.Fehler == NivellementFestpunktFehlt;
+               M.Fehler == NivellementVorblickOffen || M.Fehler == NivellementVorblickFehlt ||
+               M.Fehler == NivellementFestpunktFehlt;
   return M;
 }
 

@@ -52,7 +52,10 @@ bool Eingabegitter::ZelleLesen(int z, int s) {
   double Zahl = 0;
   if (Art(s) == Zellart::Maß && Text.empty() && LeerIstNull) Text = "0";
   const bool IstMaß = Art(s) == Zellart::Maß || Art(s) == Zellart::Vorgabe;
-  if (IstMaß && !Text.empty() && !MesswertPrüfen(Text, Zahl, Messstellen(Stellen[Stelle(s)]))) return false;
+  if (IstMaß && !Text.empty()) {
+    if (!MesswertPrüfen(Text, Zahl, Messstellen(Stellen[Stelle(s)]))) return false;
+    Text = Maßtext(s, Zahl);
+  }
   if (Art(s) == Zellart::Fest && !Text.empty()) Text = "*";
   if (Art(s) == Zellart::Wort && !Wortform(Text)) return false;
   const bool EinWort = Art(s) == Zellart::Nummer || Art(s) == Zellart::Symbol;
@@ -93,7 +96,7 @@ void Eingabegitter::EingabeZeigen(int z, const Zeileneingabe& E) {
     if (Art(s) == Zellart::Wort) Zellen.InhaltSetzen(z, s, E.Wort);
     if (Art(s) != Zellart::Maß && Art(s) != Zellart::Vorgabe) continue;
     const double Zahl = Maß == E.Maße.end() ? KeinMaß : *Maß++;
-    Zellen.InhaltSetzen(z, s, std::isnan(Zahl) ? "" : Messwerttext(Zahl, Messstellen(Stellen[Stelle(s)])));
+    Zellen.InhaltSetzen(z, s, Maßtext(s, Zahl));
     if (Art(s) == Zellart::Vorgabe)
       Zellen.InhaltSetzen(z, SpalteVon(Zellart::Fest), std::isnan(Zahl) ? "" : "*");
   }
@@ -140,6 +143,12 @@ int Eingabegitter::SpalteVon(Zellart A) const {
 bool Eingabegitter::ZeigtErgebnis(int z, int s) const {
   if (Art(s) != Zellart::Vorgabe) return Art(s) == Zellart::Ergebnis;
   return TrimmenSicht(Zellen.Inhalt(z, SpalteVon(Zellart::Fest))).empty();
+}
+
+std::string Eingabegitter::Maßtext(int s, double Zahl) const {
+  if (std::isnan(Zahl)) return "";
+  const int Dezimalen = Stellen[Stelle(s)];
+  return Dezimalen < 0 ? Messwerttext(Zahl) : ZahlFormat(Zahl, -1, Dezimalen);
 }
 
 std::string Eingabegitter::Ergebnistext(int s, double Zahl) const {

@@ -20,7 +20,7 @@ struct Zeilenspalte {
   bool Sichtbar = true;
   /// Of a word: brings it into its normal form. @return false with a reason: it can not be read
   bool (*Wortform)(std::string& Text) = nullptr;
-  /// Of a measure; of a result, where it does not go by the settings. -1: 4, or the settings
+  /// Of a measure; of a result, where it does not go by the settings. -1: 4 without a last 0, or the settings
   int Dezimalen = -1;
 };
 
@@ -96,6 +96,8 @@ class Eingabegitter {
   [[nodiscard]] int SpalteVon(Zellart A) const;
   /// The cell shows a result: that of a Vorgabe, until its row is ticked.
   [[nodiscard]] bool ZeigtErgebnis(int z, int s) const;
+  /// A measure as its column shows it; not a number: "".
+  [[nodiscard]] std::string Maßtext(int s, double Zahl) const;
   /// A result [m] as its column shows it; not a number: "".
   [[nodiscard]] std::string Ergebnistext(int s, double Zahl) const;
 

@@ -155,7 +155,7 @@ void Listenblatt::VorgabeLesen(int z, int s) {
   const bool Verlangt = s == Marke && Ist && !War;
   if (Verlangt || (Eingaben->Art(s) == Zellart::Nummer && Pnr != Alt.Pnr)) {
     const double x = VorgabeFür(Pnr, Verlangt);
-    if (!std::isnan(x)) return Setzen("*", Messwerttext(x));
+    if (!std::isnan(x)) return Setzen("*", Eingaben->Maßtext(Vorgabe, x));
     if (Verlangt) Setzen("", Gezeigt);
   }
   if (s != Vorgabe || (War && Ist && !Text.empty())) return;

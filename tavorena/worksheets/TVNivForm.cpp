@@ -93,6 +93,7 @@ TVNivForm::TVNivForm(const Blattart& BlattArt)
   Klasse.BeiWahl = [this] { NeuRechnen(); };
   NivGitter.Hilfe =
       "Fest: die Höhe kommt aus der Höhenliste oder der Tabelle; eine getippte Höhe gilt als fest";
+  NivGitter.Spalten.back().Rechtsbündig = false;
   NivGitter.Auffällig = [this](int z, int s) { return Auffällig(z, s); };
   ListenknöpfeAnlegen({{"AusDatei", "aus &Datei", [this] { AusDatei(); }},
                        {"Übernehmen", "&Übernehmen", [this] { Übernehmen(); }}});

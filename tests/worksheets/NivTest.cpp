@@ -32,9 +32,9 @@ TEST_F(Nivtest, LinieAusDateiSchreibtIhreDateien) {
   EXPECT_EQ(Status(), "3 Höhen gelesen");
   Skript.Dateien = {Ordner.Pfad("a.niv")};
   Drücke(*B, "NivAusDatei");
-  EXPECT_EQ(Gitterzeile(G, 2), (Texte{"1001", "1.5000", "", "0.98765", "30.000", "25.200", "", "182.5478",
+  EXPECT_EQ(Gitterzeile(G, 2), (Texte{"1001", "1.50000", "", "0.98765", "30.000", "25.200", "", "182.5478",
                                       "0.0009", "Bolzen 3"}));
-  EXPECT_TRUE(Gleich(Höhe(0), "*182.300", Höhe(1), "181.0345", Höhe(5), "182.3489", G.Inhalt(4, 9), "Ost"));
+  EXPECT_TRUE(Gleich(Höhe(0), "*182.3000", Höhe(1), "181.0345", Höhe(5), "182.3489", G.Inhalt(4, 9), "Ost"));
   EXPECT_EQ(Höhe(6), "182.3489");
   Drücke(*B, "NivRechnen");
   EXPECT_EQ(Status(), "Zeile 7: Vorblick fehlt danach");
@@ -58,7 +58,7 @@ TEST_F(Nivtest, FestOderGerechnet) {
         "1001\n1,5\n\n\n\n\n\n\n\n2003\n\n\n1,25\n\n\n\n\n\n2003\n1\n\n\n\n\n\n\n\n77\n\n\n1,2\n\n\n\n\n\n");
   EXPECT_EQ(Höhe(0) + Höhe(1), "");
   Zelle(0, 6, "j");
-  EXPECT_TRUE(Gleich(Höhe(0), "*12.500", Höhe(1), "12.7500", Höhe(3), "12.5500"));
+  EXPECT_TRUE(Gleich(Höhe(0), "*12.5000", Höhe(1), "12.7500", Höhe(3), "12.5500"));
   Zelle(1, 7, "");  // a result that is emptied comes back, and so does one that is typed as it stands
   Zelle(1, 7, "12,75");
   EXPECT_EQ(Höhe(1), "12.7500");
@@ -66,7 +66,7 @@ TEST_F(Nivtest, FestOderGerechnet) {
   EXPECT_EQ(Status(), "Keine Höhe von 77 in Liste und Tabelle: in der Spalte Höhe tippen");
   EXPECT_EQ(Höhe(3), "12.5500");
   Zelle(3, 7, "12,56");
-  EXPECT_TRUE(Gleich(Höhe(3), "*12.560", G.Inhalt(3, 8), "", Text(*B, "NivFH"), ""));
+  EXPECT_TRUE(Gleich(Höhe(3), "*12.5600", G.Inhalt(3, 8), "", Text(*B, "NivFH"), ""));
   EXPECT_EQ(Höhe(1) + " " + Höhe(2), "12.7500 12.7600");  // each line from its own point
   Zelle(2, 7, "12,77");
   EXPECT_TRUE(Gleich(Höhe(1), "12.7700", G.Inhalt(1, 8), "0.0200", Text(*B, "NivFH"), "0.0200"));
@@ -78,7 +78,7 @@ TEST_F(Nivtest, FestOderGerechnet) {
   B->ZelleWechseln(G, 0, 7);
   B->Tippen(G, "99");
   B->TasteDrücken(Taste::Escape);
-  EXPECT_EQ(Höhe(0), "*12.600");
+  EXPECT_EQ(Höhe(0), "*12.6000");
   // Only points of the table that are not known take a height, and it can be taken back.
   Skript.Erwarte("Höhen in die Punkttabelle übernehmen ?", KnopfJa);
   Skript.Dateien = {""};
