@@ -41,10 +41,11 @@ enum class Bewegungsstufe {
 
 /// A movement, later minus earlier [mm]. A component is there if both epochs hold it.
 struct Epochendifferenz {
-  std::optional<double> dR, dH;  ///< Rechts and Hoch
-  std::optional<double> dS;      ///< their amount
-  std::optional<double> dZ;      ///< height
-  Bewegungsstufe Stufe = Bewegungsstufe::Keine;
+  std::optional<double> dR;                      ///< Rechts
+  std::optional<double> dH;                      ///< Hoch
+  std::optional<double> dS;                      ///< their amount
+  std::optional<double> dZ;                      ///< height
+  Bewegungsstufe Stufe = Bewegungsstufe::Keine;  ///< how far it is beyond the limits
 };
 
 /// A point in one epoch against others, each time those that hold the value.
@@ -58,7 +59,8 @@ struct Epochenbezug {
   int Höhenpunkte = 0;     ///< that hold a height here and before; 0: the heights stay as they are
   double dZ = 0;           ///< mean difference of their heights [mm]
   int Lagepunkte = 0;      ///< that hold a position here and before; below 2 the positions stay
-  double dR = 0, dH = 0;   ///< shift of their centroid [mm]
+  double dR = 0;           ///< shift of their centroid, Rechts [mm]
+  double dH = 0;           ///< the same, Hoch [mm]
   double DrehungMgon = 0;  ///< clockwise from before to now [mgon], -200000 to 200000
   double KlaffungMm = 0;   ///< largest distance of one of them from its old place afterwards [mm]
 };
@@ -75,6 +77,7 @@ struct Epochenergebnis {
 /// through them.
 /// @param[in]  Punkte   all of one length, the number of epochs
 /// @param[in]  Bezug    indices into Punkte; empty: the values are compared as they are
+/// @param[in]  Grenzen  what the movements are judged by
 /// @param[out] E        an epoch in which too few reference points stand is left as it is, which
 ///                      E.Bezug tells
 /// @return 0; -1 for rows of different lengths or an index beyond Punkte, E is then untouched
