@@ -75,7 +75,7 @@ int Feldbuch::Nehmen(int i) {
   }
   E.Linien.back().Bis = i;
   if (Da(P.Z)) Rueckzeile[static_cast<std::size_t>(i)] = Offen;
-  Gesehen = Da(P.Z) || (Gesehen && !R);
+  Gesehen = Da(P.Z);
   if (V) {
     const NivellementZeile& Zurueck = Zeile(Offen);
     const double s = Zurueck.sR > 0 && P.sV > 0 ? Zurueck.sR + P.sV : NivellementOhne;

@@ -125,6 +125,8 @@ TEST(Nivellement, HinUndRück) {
   const auto Punkte = NivellementHoehen(Falsch, E);
   EXPECT_NEAR(Punkte[1].Hoehe, 10.999, 1e-12);
   EXPECT_NEAR(Punkte[1].Spanne, 0.002, 1e-12);
+  const Feldbuch Schleifen = {{"A", 1, N, N, N, N, 5}, {"A", N, N, 1}, {"A", 1}, {"A", N, N, 1}};
+  EXPECT_TRUE(NivellementPaare(Schleifen, Gerechnet(Schleifen), s0).empty() && s0 == 0);
 }
 
 TEST(Nivellement, FehlerNennenIhreZeile) {
