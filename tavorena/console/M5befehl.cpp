@@ -1,6 +1,7 @@
 #include <ostream>
 
 #include <tavorena/console/Befehle.h>
+#include <tavorena/console/Rohangaben.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
@@ -12,9 +13,11 @@ namespace tavorena {
 namespace {
 
 bool Umformen(const Aufruf& A, const Umfeld& U) {
+  Rohdatenwahl Wahl;
   Rohdaten Roh;
   std::string Grund;
-  if (M5Lesen(A.Datei, {}, Roh, &Grund) < 0) {
+  if (!RohwahlLesen(A, Wahl)) return false;
+  if (M5Lesen(A.Datei, Wahl, Roh, &Grund) < 0) {
     Hinweis("Datei nicht gefunden:\n" + A.Datei + InKlammern(Grund));
     return false;
   }
@@ -42,7 +45,8 @@ Konsolenbefehl M5Befehl() {
           "Messdatei (*.m5)",
           false,
           Umformen,
-          {{"--punkte", "DATEI", "schreibt die Punkte (*.kor)", false, Dateirolle::Ausgabe}}};
+          {{"--lagen", "ART", "einzeln oder mitteln: beide Lagen eines Punkts zu einer Messung (einzeln)"},
+           {"--punkte", "DATEI", "schreibt die Punkte (*.kor)", false, Dateirolle::Ausgabe}}};
 }
 
 }  // namespace tavorena

@@ -284,6 +284,10 @@ int M5PunkteSchreiben(const Rohdaten& Roh, const std::string& Ziel, int& Anzahl)
   std::string Grund;
   Punkte.Koordinaten = M5Punkte(Roh);
   Anzahl = static_cast<int>(Punkte.Koordinaten.size());
+  if (Anzahl == 0) {
+    FehlerMeldung("Keine Punkte in der Datei:\n" + Roh.Datei);
+    return -1;
+  }
   if (DateiErsetzen(Ziel, RohkoordinatenAlsKor(Punkte, Optionen.OptNachkommaSpeichern), &Grund) == 0)
     return 0;
   SpeicherfehlerMelden(Ziel, Grund, "M5.Schreiben");

@@ -44,7 +44,8 @@ struct M5Abweichung {
 /// its coordinates, and the instrument height.
 [[nodiscard]] std::vector<Rohkoordinate> M5Punkte(const Rohdaten& Roh);
 
-/// Writes them as a KOR file, in place of one that is there. @return 0; -1 with a message
+/// Writes them as a KOR file, in place of one that is there. @return 0; -1 with a message, also without
+/// points
 [[nodiscard]] int M5PunkteSchreiben(const Rohdaten& Roh, const std::string& Ziel, int& Anzahl);
 
 }  // namespace tavorena

@@ -58,6 +58,16 @@ bool ErsetzenFragen(const Gesamtdatei& G, const std::string& Datum) {
                      KnopfNein) == KnopfJa;
 }
 
+// @return false: cancelled
+bool DatumFragen(const std::string& Titel, std::string& Datum) {
+  Datum = Zeitstempel().substr(0, 10);
+  for (;;) {
+    if (EinWert(Titel, "Datum der Messung:", Datum) < 0) return false;
+    if (DatumLesen(Datum, Datum)) return true;
+    FehlerMeldung("Kein Datum: " + Zitat(Datum));
+  }
+}
+
 void Hinzufügen(bool MitLage) {
   Dateifeld Felder[] = {{MitLage ? "KOR-Datei" : "HLI-Datei", "",
                          MitLage ? "CADdy (*.kor)|*.kor" : "Höhenliste (*.hli)|*.hli|CADdy (*.kor)|*.kor"},
@@ -68,10 +78,8 @@ void Hinzufügen(bool MitLage) {
   VerzeichnisMerken(Felder[1].Name);
   Epochenquelle Quelle;
   if (!QuelleLesen(Felder[0].Name, Quelle)) return;
-  std::string Datum = Zeitstempel().substr(0, 10), Bericht;
-  do {
-    if (EinWert(Messungstitel(MitLage), "Datum der Messung:", Datum) < 0) return;
-  } while (!DatumLesen(Datum, Datum));
+  std::string Datum, Bericht;
+  if (!DatumFragen(Messungstitel(MitLage), Datum)) return;
   const int Ergebnis = EpocheHinzufügen(Felder[1].Name, Datum, MitLage, Quelle, Bericht);
   if (Ergebnis == 0) StatusHilfeSetzen(Bericht);
   if (Ergebnis == 1) Hinweis(Bericht, Messungstitel(MitLage));
@@ -107,7 +115,7 @@ int EpocheHinzufügen(const std::string& Gesamt, const std::string& Datum, bool 
     return -1;
   };
   std::string Tag;
-  if (!DatumLesen(Datum, Tag)) return Ablehnen("Kein Datum: " + Datum);
+  if (!DatumLesen(Datum, Tag)) return Ablehnen("Kein Datum: " + Zitat(Datum));
   if (SelbeDatei(Gesamt, Quelle.Name))
     return Ablehnen("Dateiname für Ein- und Ausgabe ist gleich:\n" + Gesamt);
   Gesamtdatei G{MitLage, {}, {}};
@@ -123,7 +131,7 @@ int EpocheHinzufügen(const std::string& Gesamt, const std::string& Datum, bool 
   if (Z.Punkte == 0) return Ablehnen("Keine Punkte für eine Epoche:\n" + Quelle.Name);
   if (GesamtdateiSchreiben(Gesamt, G, Stand) < 0) return -1;
   Bericht = Berichtstext(Tag, Z, Quelle, G.MitLage);
-  return Z.OhneWert > 0 || Quelle.Andere > 0 ? 1 : 0;
+  return (Z.OhneWert > 0 && !G.MitLage) || Quelle.Andere > 0 ? 1 : 0;
 }
 
 int EpochenlisteErzeugen(const std::string& Gesamt, const std::string& Ziel) {

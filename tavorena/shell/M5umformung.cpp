@@ -58,7 +58,6 @@ void M5Umformen() {
   Rohdatenwahl Wahl;
   Rohdaten Roh;
   if (!RohdatenFragen(Datei, Wahl, Roh, Lesen)) return;
-  if (M5Punkte(Roh).empty()) return FehlerMeldung("Keine Punkte in der Datei:\n" + Datei);
   if (!StandpunkteFragen(Roh)) return;
   const Dateiname Teile = DateinameZerlegen(Datei);
   const std::string Ziel = Teile.Ordner + Teile.Grundname + ".kor";

@@ -309,7 +309,9 @@ TEST_F(Programm, M5) {
                     "b.kor: 1 Punkt geschrieben\n"))
       << Aus;
   EXPECT_EQ(Inhalt(Ordner.Pfad("b.kor")), "             7        10.000         0.000       0.000  \r\n");
-  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "m5 ordner"), 1);
+  for (const char* Worte : {"m5 ordner", "m5 a.sta --punkte b.kor"})
+    EXPECT_EQ(Laufen(TAVORENA_STAPEL, Worte), 1);
+  EXPECT_EQ(Inhalt(Ordner.Pfad("b.kor")).size(), 58U) << "not replaced by nothing";
   EXPECT_EQ(Laufen(TAVORENA_STAPEL, "m5 a.m5 --punkte a.m5"), 2);
 }
 

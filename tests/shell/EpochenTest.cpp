@@ -19,14 +19,16 @@ TEST_F(Shelltest, SetzungsmessungÜberDasMenü) {
       if (!Datum.empty()) Tippe(Form, "Wert(0)", Datum);
       Drücke(Form, "OK");
     });
+    if (Datum == "31.6.2004") Skript.Formulare.push_back(Bediene({{"Wert(0)", "5.6.2004"}, {"OK", ""}}));
     Befehl(Eintrag);
   };
   Schreibe(Hli, "10 150.1887\n12 150\n");
   Dazu("MenüFunktSetzungsmessung(3)", Hli, "");
   EXPECT_EQ(Skript.Status[4], "   01.02.2003: 2 Punkte, davon 2 neu   ");
   Schreibe(Hli, "10 150.1861\n12 150.0001\n13 ?\n");
+  Skript.Erwarte("Kein Datum: 31.6.2004");
   Skript.Erwarte("05.06.2004: 2 Punkte, davon 0 neu, 1 Zeile der Datei ohne Punkt");
-  Dazu("MenüFunktSetzungsmessung(3)", Hli, "5.6.2004");
+  Dazu("MenüFunktSetzungsmessung(3)", Hli, "31.6.2004");
   const std::string Vorher = Inhalt(Ges);
   Skript.Erwarte("Die Epoche 01.02.2003 ist schon vorhanden", KnopfNein);
   Dazu("MenüFunktVerformungsmessung(0)", A_kor, "");
