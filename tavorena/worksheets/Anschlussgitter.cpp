@@ -40,9 +40,9 @@ std::vector<Gitterspalte> Abweichungsspalten(bool MitHöhen) {
 }  // namespace
 
 Anschlussgitter::Anschlussgitter(Rechenblatt& Für, bool MitHöhen, Anschlussverhalten Wie)
-    : Eingaben(Für, Zeilenspalten(MitHöhen), Verhalten(), {"FStatGitter", {0, 0, 8}, Rahmen}),
+    : Eingaben(Für, Zeilenspalten(MitHöhen), Verhalten(), {"FStatGitter", {0, 0, 7}, Rahmen}),
       Zellen(Eingaben.Zellen),
-      Abweichungen(Für.GitterAnlegen("FStatAbwGitter", Abweichungsspalten(MitHöhen), {0, 8, 5}, Rahmen)),
+      Abweichungen(Für.GitterAnlegen("FStatAbwGitter", Abweichungsspalten(MitHöhen), {0, 7, 5}, Rahmen)),
       Blatt(Für),
       Meldungen(std::move(Wie)) {
   Zellen.Hilfe = "Return führt von Zelle zu Zelle; Leertaste oder Klick auf \"Ein\": Punkt ein, aus";

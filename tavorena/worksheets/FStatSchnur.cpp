@@ -111,6 +111,7 @@ void FStatSchnur::Leeren() {
   GrafikLöschen();
   Bezug = VorigerBezug = {};
   Punkte.clear();
+  Gespeichert = 0;
   LiniePnr.Text = "";
   LiniePnr.Fehlerhaft = false;
   MessungLeeren();
@@ -156,6 +157,7 @@ void FStatSchnur::FStatSchnurNeueLinie() {
   Verbunden = false;
   for (Schnurpunkt& P : Punkte) Fertige.Punkt({P.Punkt.Pnr, P.Punkt.Rechts, P.Punkt.Hoch, "", FarbeRot});
   Punkte.clear();
+  Gespeichert = 0;
   LiniePnr.Text = "";
   LiniePnr.Fehlerhaft = false;
   Zeigen();
@@ -269,6 +271,7 @@ int FStatSchnur::Schreiben(Schnurpunkt& P) {
     return -1;
   }
   P.Bild.Punkt({P.Punkt.Pnr, Ort.RW, Ort.HW, "", FarbeRot});
+  ++Gespeichert;
   return 0;
 }
 
@@ -281,6 +284,7 @@ void FStatSchnur::Zurück() {
     return StatusHilfeSetzen("Der Punkt bleibt: die Stapeldatei wurde von anderer Seite geändert");
   if (P.Ablage.Zurück() < 0) StatusHilfeSetzen("Punkt " + P.Punkt.Pnr + " bleibt: inzwischen geändert");
   Punkte.pop_back();
+  --Gespeichert;
   Zeigen();
   Form.FokusSetzen(Pnr);
 }

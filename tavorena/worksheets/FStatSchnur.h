@@ -35,6 +35,8 @@ class FStatSchnur {
   void MessungNehmen(const std::string& Nummer, const Stationsmessung& M, const std::string& Symbol);
   /// A measurement with a number was not taken over.
   [[nodiscard]] bool HatOffenes() const;
+  /// Points of this station were taken over.
+  [[nodiscard]] bool HatGespeichertes() const { return Gespeichert > 0; }
   /// Stores and writes the measurement. @return false with a reason: it stays
   bool FStatSchnurÜbernehmen();
   void GrafikLöschen();
@@ -89,6 +91,7 @@ class FStatSchnur {
   bool Verbunden = false;              // the line stands above the next row of the protocol
   std::optional<Stationspunkt> Punkt;  // of the measurement that is typed
   std::vector<Schnurpunkt> Punkte;     // on the present line
+  int Gespeichert = 0;                 // points of this station
   Markierung Linienbild, Bild, Fertige;
 };
 
