@@ -3,11 +3,16 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Dialogform.h>
 #include <tavorena/worksheets/Anschlusswahl.h>
-#include <tavorena/worksheets/Passpaare.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
 namespace {
+
+// -1: the table does not know it.
+int Tabellenzeile(const Rohpunkt& P) {
+  Wert Nummer(P.Nummer);
+  return KorSucheMitPunkt(Nummer);
+}
 
 class TVAnschlusswahl final : public Dialogform {
  public:
@@ -29,10 +34,9 @@ class TVAnschlusswahl final : public Dialogform {
 
  private:
   void Füllen(const Rohstation& S) {
-    const Nummernverzeichnis Tabelle = Tabellenverzeichnis();
     Liste.Leeren(0);
     for (const Rohpunkt& P : S.Anschluss) {
-      const int z = Tabelle.Suche(P.Nummer);
+      const int z = Tabellenzeile(P);
       const auto Ort = [&](const std::vector<double>& Spalte) {
         return z < 0 ? std::string() : Längentext(Spalte[static_cast<std::size_t>(z)]);
       };
@@ -77,9 +81,8 @@ class TVAnschlusswahl final : public Dialogform {
 }  // namespace
 
 std::vector<bool> AnschlussVorschlag(const Rohstation& S) {
-  const Nummernverzeichnis Tabelle = Tabellenverzeichnis();
   std::vector<bool> Ein;
-  for (const Rohpunkt& P : S.Anschluss) Ein.push_back(Tabelle.Suche(P.Nummer) >= 0);
+  for (const Rohpunkt& P : S.Anschluss) Ein.push_back(Tabellenzeile(P) >= 0);
   return Ein;
 }
 

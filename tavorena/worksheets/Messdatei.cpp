@@ -16,6 +16,10 @@ constexpr const char* FilterRohdaten =
     "Rohdaten (*.gsi *.gre *.dat)|*.gsi;*.gre;*.dat|GSI (*.gsi)|*.gsi|GRE (*.gre)|*.gre|Meßwerte "
     "(*.dat)|*.dat";
 
+Stationsmessung MessungAus(const Rohpunkt& P) {
+  return {VierStellen(P.Hz), VierStellen(P.V), VierStellen(P.Strecke), VierStellen(P.Reflektorhöhe)};
+}
+
 bool IstDat(const std::string& Datei) { return Großtext(DateinameZerlegen(Datei).Endung) == "DAT"; }
 
 // A file of measured values, as the report wants it. @return 0; -1 with a message
@@ -46,7 +50,34 @@ int Lesen(const std::string& Datei, const Rohdatenwahl& Wahl, Rohdaten& Daten) {
   return Ergebnis < 0 ? -1 : 0;
 }
 
+constexpr double Fernste = 99999.9999;  // slope distance [m]
+
+// It can be computed, and its record read again.
+bool Brauchbar(const Rohpunkt& P) {
+  const Stationsmessung M = MessungAus(P);
+  return !P.Nummer.empty() && StapelWortPaßt(P.Nummer) && M.Vk != 0 && M.Strecke > 0 &&
+         M.Strecke <= Fernste && StapelZahlPaßt(M.Hz) && StapelZahlPaßt(M.Vk) && StapelZahlPaßt(M.Zielhöhe);
+}
+
+void Sichten(std::vector<Rohblock>& Blöcke) {
+  std::size_t Weg = 0, Erste = 0;
+  for (Rohblock& B : Blöcke) {
+    if (!StapelWortPaßt(B.Standpunkt)) B.Standpunkt.clear();  // it is typed
+    if (!StapelWortPaßt(B.Symbol)) B.Symbol.clear();
+    std::erase_if(B.Punkte, [&](const Rohpunkt& P) {
+      if (Brauchbar(P)) return false;
+      if (Weg++ == 0) Erste = P.Zeile;
+      return true;
+    });
+  }
+  if (Weg == 0) return;
+  Hinweis(Anzahltext(static_cast<int>(Weg), "Messung läßt", "Messungen lassen") +
+          " sich nicht übernehmen: Punktnummer, Zenitdistanz oder Strecke (zuerst Zeile " +
+          std::to_string(Erste) + ")");
+}
+
 int Beginnen(const std::string& Datei, Rohdaten& Daten) {
+  Sichten(Daten.Blöcke);
   Messdatei Neu{Datei, Stationsfolge(std::move(Daten.Blöcke)), 0};
   if (Neu.AmEnde()) {
     Hinweis("Keine Messung in der Datei:\n" + Datei);
@@ -86,10 +117,7 @@ Kleinpunkteingabe KleinpunktAus(const Rohpunkt& P) {
   std::string_view Rest = P.Code;
   std::string Symbol(Wortnehmen(Rest));
   if (!StapelWortPaßt(Symbol)) Symbol.clear();
-  return {P.Nummer,
-          {VierStellen(P.Hz), VierStellen(P.V), VierStellen(P.Strecke), VierStellen(P.Reflektorhöhe)},
-          std::move(Symbol),
-          ""};
+  return {P.Nummer, MessungAus(P), std::move(Symbol), ""};
 }
 
 }  // namespace tavorena

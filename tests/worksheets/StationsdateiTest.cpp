@@ -15,7 +15,7 @@ const char* const Meßwerte =
     "3001 0 015\r\n1001 191.4102 100 41.2423\r\n2003 260.5889 100 40.8191\r\n1002 290.4495 100 91.7236\r\n"
     "3001\r\n3010 35.2217 100 49.8418 0 020\r\n3011 21.97 100 53.4062\r\n"
     "3001\r\n3011 21.97 100 53.4162\r\n3012 100 100 20\r\n"
-    "3002\r\n77 10 100 20\r\n78 10 100 20\r\n";
+    "3002\r\n77 10 100 20\r\n78 10 0 20\r\n79 10 100 100000\r\n";
 
 class Stationsdatei : public Blatttest {
  protected:
@@ -27,6 +27,9 @@ class Stationsdatei : public Blatttest {
   // The button, with the file and its report where it asks for one.
   void AusDatei(Formular& Form, bool Erste) {
     if (Erste) {
+      Skript.Erwarte(
+          "2 Messungen lassen sich nicht übernehmen: Punktnummer, Zenitdistanz oder Strecke (zuerst Zeile "
+          "13)");
       Skript.Dateien.push_back(Ordner.Pfad("a.dat"));
       Skript.Formulare.push_back(Bediene({{"RohdatenÜbernehmen", ""}}));
     }
