@@ -38,6 +38,8 @@ PAARE = (
     ("HelmertAlle/aussen", ("MalUndPlus",), 2.0),
     ("Transformation/20000", ("FmtListe/20000",), 3.0),
     ("Verteilen/20000", ("Doppelschleife/20000",), 2.0),
+    ("FreieStation/1000", ("Passung/1000", "SinusCosinus/4000"), 2.0),
+    ("Tagesjob/8000", ("NurTag/8000",), 2.0),
     ("FreieStationierungPnr/50", ("KorSuche/50", "FreieStationierung/50"), 1.1),
     ("PolarpunktPnr", ("KorSuche/2", "Polarpunkt"), 1.1),
     ("Konsole/ohne", ("NurRechnen/ohne",), 3.0),
