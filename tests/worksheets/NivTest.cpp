@@ -51,6 +51,14 @@ TEST_F(Nivtest, LinieAusDateiSchreibtIhreDateien) {
   PrüfeDateien("nivellement", 6);
 }
 
+// A turning point whose backsight is typed ahead of its foresight is no begin of a line without sights.
+TEST_F(Nivtest, WährendDesTippensKeinMangel) {
+  Tippe(*B, "NivGitter", "1001\n1,5\n\n\n\n\nx\n\n\n2003\n1,25\n");
+  EXPECT_EQ(Status().find("Vorblick"), std::string::npos) << Status();
+  Tippe(*B, "NivGitter", "\n1,1\n");
+  EXPECT_EQ(Höhe(1), "12.9000");
+}
+
 // A height is known by a tick, which takes that of the table, or because it is typed; without them it follows
 // the readings.
 TEST_F(Nivtest, FestOderGerechnet) {
