@@ -33,6 +33,7 @@ TEST_F(Shelltest, SetzungsmessungÜberDasMenü) {
   Skript.Erwarte("Die Epoche 01.02.2003 ist schon vorhanden", KnopfNein);
   Dazu("MenüFunktVerformungsmessung(0)", A_kor, "");
   EXPECT_TRUE(Gleich(Inhalt(Ges), Vorher, Skript.LetzteVorgabe, KnopfNein));
+  EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüFunktVerformungsmessung(1)")), 6040);
   Befehl("MenüFunktSetzungsmessung(6)");
   EXPECT_TRUE(Gleich(Skript.Gestartet[0], "editor", Skript.Gestartet[1], Ordner.Pfad("app\\setzung1.txt")));
   Schreibe(Ini, "Brücke\n0.5\n2\n12\n");
