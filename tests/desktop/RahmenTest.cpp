@@ -319,7 +319,7 @@ class RahmenTest final : public Fensterumgebung {
       G.WortAbwarten();
       G.Senden(Zeile + "@W127\r\n");
       G.WortAbwarten();
-      for (int i = 0; i < 500 && !Abziehen; ++i) Messgerät::Pause(10);
+      for (int i = 0; i < 2000 && !Abziehen; ++i) Messgerät::Pause(10);
       G.Senden("halb");
       Messgerät::Pause(200);
       G.Auflegen();
@@ -357,7 +357,7 @@ class RahmenTest final : public Fensterumgebung {
     connect(&Takt, &QTimer::timeout, this, [&] {
       if (Schritt < std::size(Schritte) && Schritte[Schritt].first()) Schritte[Schritt++].second();
     });
-    QTimer::singleShot(10000, &Takt, [] { TheodolitSchließen(); });
+    QTimer::singleShot(40000, &Takt, [] { TheodolitSchließen(); });
     Takt.start(10);
     QTest::mouseClick(IO, Qt::LeftButton);
     QTRY_COMPARE(Schritt, std::size(Schritte));

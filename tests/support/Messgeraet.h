@@ -14,7 +14,7 @@
 namespace tavorena::test {
 
 /// An instrument at the other end of a pseudo terminal, which plays a script in a thread of its own. It waits
-/// for nothing longer than five seconds.
+/// for nothing longer than twenty seconds.
 class Messgerät {
  public:
   explicit Messgerät(std::function<void(Messgerät&)> Skript) : Ende(posix_openpt(O_RDWR | O_NOCTTY)) {
@@ -42,7 +42,7 @@ class Messgerät {
   void WortAbwarten() {
     std::string Wort;
     pollfd Frage{Ende, POLLIN, 0};
-    while (!Wort.ends_with("Wrzlbrmpft\r") && poll(&Frage, 1, 5000) == 1) {
+    while (!Wort.ends_with("Wrzlbrmpft\r") && poll(&Frage, 1, 20000) == 1) {
       char z = 0;
       if (read(Ende, &z, 1) != 1) return;
       Wort += z;
