@@ -19,13 +19,13 @@ namespace {
 enum Spalten { SPnr, SHz, SVk, SsD, St, SSy, SLinie };
 
 std::vector<Zeilenspalte> Zeilenspalten(bool MitHöhen) {
-  return {{"Punktnr.", 10, Zellart::Nummer},
-          {"Hz", 9, Zellart::Maß},
-          {"Vk", 9, Zellart::Maß},
+  return {{"Punktnr.", 9, Zellart::Nummer},
+          {"Hz", 8, Zellart::Maß},
+          {"Vk", 8, Zellart::Maß},
           {"sD", Längenbreite(4), Zellart::Maß},
-          {"t", 6, Zellart::Maß, MitHöhen},
-          {"Sy.", 4, Zellart::Symbol},
-          {"Linie", 10, Zellart::Wort, true, [](std::string& Text) { return WortPrüfen(Text); }},
+          {"t", 5, Zellart::Maß, MitHöhen},
+          {"Sy.", 3, Zellart::Symbol},
+          {"Linie", 8, Zellart::Wort, true, [](std::string& Text) { return WortPrüfen(Text); }},
           {"Rechts", Längenbreite(8)},
           {"Hoch", Längenbreite(8)},
           {"Höhe", Längenbreite(4), Zellart::Ergebnis, MitHöhen}};
