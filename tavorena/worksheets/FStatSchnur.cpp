@@ -39,28 +39,28 @@ FStatSchnur::FStatSchnur(TVFStatForm& Für, std::function<void()> BeiEnde)
       Ende(std::move(BeiEnde)),
       Davor(Für.Steuerelemente().size()),
       LiniePnr(EingabeAnlegen(Für, "FStatSchnurLiniePnr", "Linie, Punktnr.:", {0, 0}, PnrZeichen)),
-      Jetzige(ErgebnisAnlegen("FStatSchnurBezug", "Linie:", {0, 2}, 2 * PnrZeichen)),
-      Vorige(ErgebnisAnlegen("FStatSchnurBezugVorige", "Vorige:", {0, 4}, 2 * PnrZeichen)),
+      Jetzige(ErgebnisAnlegen("FStatSchnurBezug", "Linie:", {0, 2}, PnrZeichen + 6)),
+      Vorige(ErgebnisAnlegen("FStatSchnurBezugVorige", "Vorige:", {0, 4}, PnrZeichen + 6)),
       Pnr(EingabeAnlegen(Für, "FStatSchnurPnr", "Punktnr.:", {1, 0}, PnrZeichen)),
       Hz(Für, "SchnurHz", "Hz:", {1, 2}, Rahmen),
       Vk(Für, "SchnurVk", "Vk:", {1, 4}, Rahmen),
-      sD(Für, "SchnursD", "sD:", {1, 6}, Rahmen),
-      Sy(EingabeAnlegen(Für, "FStatSchnurSy", "Sy.:", {1, 8}, 5)),
+      sD(Für, "SchnursD", "sD:", {2, 0}, Rahmen),
+      Sy(EingabeAnlegen(Für, "FStatSchnurSy", "Sy.:", {2, 2}, 5)),
       Übernehmen(Für.KnopfAnlegen(
-          "FStatSchnurÜbernehmen", "Übernehmen", [this] { FStatSchnurÜbernehmen(); }, {1, 10}, Rahmen)),
-      Rechts(ErgebnisAnlegen("FStatSchnurRechts", "Rechts:", {2, 0}, Längenbreite(8))),
-      Hoch(ErgebnisAnlegen("FStatSchnurHoch", "Hoch:", {2, 2}, Längenbreite(8))),
-      Hoehe(ErgebnisAnlegen("FStatSchnurHöhe", "Höhe:", {2, 4}, Längenbreite(5))),
-      Linie(ErgebnisAnlegen("FStatSchnurLinie", "Linie:", {3, 0}, Längenbreite(6))),
-      Seitw(ErgebnisAnlegen("FStatSchnurSeitw", "Seitw.:", {3, 2}, Längenbreite(6))),
-      LinieVorige(ErgebnisAnlegen("FStatSchnurLinieVorige", "Linie (vorige):", {3, 4}, Längenbreite(6))),
-      SeitwVorige(ErgebnisAnlegen("FStatSchnurSeitwVorige", "Seitw. (vorige):", {3, 6}, Längenbreite(6))),
+          "FStatSchnurÜbernehmen", "Übernehmen", [this] { FStatSchnurÜbernehmen(); }, {2, 4, 2}, Rahmen)),
+      Rechts(ErgebnisAnlegen("FStatSchnurRechts", "Rechts:", {3, 0}, Längenbreite(8))),
+      Hoch(ErgebnisAnlegen("FStatSchnurHoch", "Hoch:", {3, 2}, Längenbreite(8))),
+      Hoehe(ErgebnisAnlegen("FStatSchnurHöhe", "Höhe:", {3, 4}, Längenbreite(5))),
+      Linie(ErgebnisAnlegen("FStatSchnurLinie", "Linie:", {4, 0}, Längenbreite(6))),
+      Seitw(ErgebnisAnlegen("FStatSchnurSeitw", "Seitw.:", {4, 2}, Längenbreite(6))),
+      LinieVorige(ErgebnisAnlegen("FStatSchnurLinieVorige", "Linie (vorige):", {5, 0}, Längenbreite(6))),
+      SeitwVorige(ErgebnisAnlegen("FStatSchnurSeitwVorige", "Seitw. (vorige):", {5, 2}, Längenbreite(6))),
       NeueLinie(Für.KnopfAnlegen(
-          "FStatSchnurNeueLinie", "Neue Linie", [this] { FStatSchnurNeueLinie(); }, {0, 10}, Rahmen)),
+          "FStatSchnurNeueLinie", "Neue Linie", [this] { FStatSchnurNeueLinie(); }, {6, 0, 2}, Rahmen)),
       Rücknehmen(Für.KnopfAnlegen(
-          "FStatSchnurZurück", "Letzten zurücknehmen", [this] { Zurück(); }, {2, 10}, Rahmen)),
+          "FStatSchnurZurück", "Letzten zurücknehmen", [this] { Zurück(); }, {6, 2, 2}, Rahmen)),
       Beenden(Für.KnopfAnlegen(
-          "FStatSchnurEnde", "Schnurgerüst beenden", [this] { FStatSchnurEnde(); }, {3, 10}, Rahmen)) {
+          "FStatSchnurEnde", "Schnurgerüst beenden", [this] { FStatSchnurEnde(); }, {6, 4, 2}, Rahmen)) {
   Verhalten();
   Sichtbar(false);
 }
