@@ -10,8 +10,8 @@ namespace tavorena {
 /// What these commands did to the table of the open file; = {} when it is closed.
 extern Rücknahme TabellenRücknahme;
 
-/// Behind a deed: the entry that takes it back bears its name, the view goes where the points went, and if the
-/// deed was done (0), the status help tells the text.
+/// Behind a deed: the entry that takes it back bears its name, the view goes where the points went, and if
+/// the deed was done (0), the status help tells the text.
 void TabellenBericht(int Ergebnis, const std::string& Text);
 
 /// Shifts all points by three typed values, exchanges Rechts and Hoch, or both.
