@@ -15,8 +15,8 @@ namespace {
 
 class Testblatt final : public Formular, public Messempfänger {
  public:
-  Testblatt() : Formular("TVFStatForm") { MessempfängerSetzen(this); }
-  ~Testblatt() override { MessempfängerSetzen(nullptr); }
+  Testblatt() : Formular("TVFStatForm") { MessempfängerAnmelden(*this); }
+  ~Testblatt() override { MessempfängerAbmelden(*this); }
   Testblatt(const Testblatt&) = delete;
   Testblatt& operator=(const Testblatt&) = delete;
   Formular& Blatt() override { return *this; }

@@ -266,8 +266,8 @@ void FormularAnsicht::FeldAnschließen(Eingabefeld& Zeile, Eingabeelement& E) {
 
 // The user is in a control: the form reads the one before, and may send the focus back.
 void FormularAnsicht::FokusMelden(Steuerelement& S) {
-  if (Modell == nullptr || Auffrischend || Modell->Fokus() == &S) return;
-  if (!FokusWidget(S)->hasFocus()) return;
+  if (Modell == nullptr || Auffrischend || !FokusWidget(S)->hasFocus()) return;
+  if (Modell->Fokus() == &S) return Modell->BeiFokus();
   const QScopedValueRollback Liest(Lesetiefe, Lesetiefe + 1);
   Modell->FokusWechseln(S);
   FokusZeigen();

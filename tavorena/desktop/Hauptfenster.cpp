@@ -353,8 +353,8 @@ void Hauptfenster::Auffrischen() {
     if (A->isSeparator()) continue;
     A->setVisible(Kern().Sichtbar(*E));
     QString Titel = QString::fromStdString(Kern().Titel(*E));
-    // A disabled entry leaves its letter to the others, with which Qt would let it take turns.
-    if (!Kern().Aktiv(*E)) Titel = OhneBuchstabe(Titel);
+    // A disabled or hidden entry leaves its letter to the others, with which Qt would let it take turns.
+    if (!Kern().Aktiv(*E) || !Kern().Sichtbar(*E)) Titel = OhneBuchstabe(Titel);
     A->setEnabled(Kern().Aktiv(*E));
     A->setText(Titel);
     const std::string_view Grund = Kern().Grund(*E);

@@ -183,6 +183,7 @@ void Formular::Öffnen() {
 }
 
 void Formular::FokusWechseln(Steuerelement& Neu) {
+  BeiFokus();
   if (&Neu == Aktuell || !NimmtFokus(Neu)) return;
   Ausführen([&] {
     const auto* K = dynamic_cast<const Knopf*>(&Neu);

@@ -106,6 +106,8 @@ class Formular {
 
   /// The form appears: its activation runs and the first control takes the focus.
   void Öffnen();
+  /// The user is in this form: one of its controls has the focus.
+  virtual void BeiFokus() {}
   /// The user moved to another control. The one before is read first; if its value fails, the focus
   /// stays there.
   void FokusWechseln(Steuerelement& Neu);

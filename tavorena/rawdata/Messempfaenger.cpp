@@ -1,16 +1,21 @@
-#include <utility>
+#include <vector>
 
 #include <tavorena/rawdata/Messempfaenger.h>
 
 namespace tavorena {
 namespace {
 
-Messempfänger* Gemeldet = nullptr;
+std::vector<Messempfänger*> Gemeldete;  // the last one takes
 
 }  // namespace
 
-Messempfänger* MessempfängerJetzt() { return Gemeldet; }
+Messempfänger* MessempfängerJetzt() { return Gemeldete.empty() ? nullptr : Gemeldete.back(); }
 
-Messempfänger* MessempfängerSetzen(Messempfänger* Neuer) { return std::exchange(Gemeldet, Neuer); }
+void MessempfängerAnmelden(Messempfänger& E) {
+  MessempfängerAbmelden(E);
+  Gemeldete.push_back(&E);
+}
+
+void MessempfängerAbmelden(Messempfänger& E) { std::erase(Gemeldete, &E); }
 
 }  // namespace tavorena

@@ -11,8 +11,8 @@ class Formular;
 /// Where the focus of a worksheet stands, as far as a measurement is concerned.
 enum class Messort { Außerhalb, Nummernspalte, Anschlussgitter, Polargitter, Schnurgerüst };
 
-/// What the instrument link asks of the open worksheet. A worksheet that takes measurements registers itself
-/// while it is open; without one a measurement only goes into the raw-data file.
+/// What the instrument link asks of the open worksheet. Without one a measurement only goes into the raw-data
+/// file.
 class Messempfänger {
  public:
   virtual ~Messempfänger() = default;
@@ -34,7 +34,9 @@ class Messempfänger {
 
 /// The one that takes measurements now; nullptr: none.
 Messempfänger* MessempfängerJetzt();
-/// Registers one and gives the one before.
-Messempfänger* MessempfängerSetzen(Messempfänger* Neuer);
+/// This one takes them from now on, as long as no other does: whenever the user turns to it.
+void MessempfängerAnmelden(Messempfänger& E);
+/// It takes none any more; the one that did before it goes on.
+void MessempfängerAbmelden(Messempfänger& E);
 
 }  // namespace tavorena

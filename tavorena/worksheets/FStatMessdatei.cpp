@@ -56,12 +56,12 @@ FStatMessdatei::FStatMessdatei(TVFStatForm& Für)
   KnopfEnde.Hilfe = "Nicht weiter in dieser Meßdatei; die nächste wird erfragt";
 }
 
-void FStatMessdatei::ZustandZeigen() {
+void FStatMessdatei::ZustandZeigen(bool Zeigen) {
   const Messdatei& M = LaufendeMessdatei;
   KnopfDatei.Text = M.Offen() && !M.AmEnde() ? "weiter aus &Meßdatei" : "aus &Meßdatei";
   KnopfDatei.Aktiv = !Form.ImStapel();
-  KnopfEnde.Sichtbar = M.Offen();
-  Stand.Sichtbar = M.Offen();
+  KnopfDatei.Sichtbar = Zeigen;
+  KnopfEnde.Sichtbar = Stand.Sichtbar = Zeigen && M.Offen();
   if (!M.Offen()) return;
   const std::string Weg = M.AmEnde() ? "(Dateiende Meßdatei)" : "weiter aus Meßdatei";
   Stand.Text = (Zuletzt.empty() ? "" : Zuletzt + "   ") + Weg + ": " + M.Name;

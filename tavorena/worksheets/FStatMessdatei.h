@@ -23,7 +23,7 @@ class FStatMessdatei {
   /// The button: asks for a file, or goes on in the running one.
   void FstatAusGSI();
   /// Captions and state as they are now.
-  void ZustandZeigen();
+  void ZustandZeigen(bool Zeigen);
 
  private:
   void Weiter();

@@ -2,6 +2,7 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/Punktnummer.h>
+#include <tavorena/rawdata/TVTheoForm.h>
 #include <tavorena/worksheets/FStatMessempfaenger.h>
 #include <tavorena/worksheets/Standpunktfrage.h>
 #include <tavorena/worksheets/TVFStatForm.h>
@@ -37,21 +38,25 @@ TVFStatForm::TVFStatForm(const Blattart& BlattArt)
       Datei(*this),
       Mittel(*this),
       KnopfSchnur(KnopfAnlegen("FStatSchnur", "Schnurgerüst", [this] { SchnurBeginnen(); }, {1, 3})),
+      KnopfTheo(KnopfAnlegen("FStatTheo", "&Theodolit", [] { TheodolitZeigen(); }, {1, 4})),
       Schnur(*this, [this] { SchnurVerlassen(); }) {
   Grundtitel = Titel;
   KopfAnlegen();
-  KnopfDelete.OhnePrüfung = KnopfNeu.OhnePrüfung = true;
+  KnopfDelete.OhnePrüfung = KnopfNeu.OhnePrüfung = KnopfTheo.OhnePrüfung = true;
   KnopfArt.Hilfe = "Maßstab frei (Helmert) oder fest (kongruent)";
   KnopfAbw.Hilfe = "Abweichungen oder Koordinaten der Anschlußpunkte";
   KnopfZurück.Hilfe = "Standpunkt aus Tabelle und Stapeldatei nehmen, im Protokoll streichen";
   KnopfDelete.Hilfe = "Zeile aus Gitter und Stapeldatei nehmen, im Protokoll streichen";
   KnopfSchnur.Hilfe = "Punkte messen und ihre Linienelemente auf einer Linie sehen";
+  KnopfTheo.Hilfe = "Messungen vom Instrument in die Zelle mit dem Fokus nehmen";
   KnopfNeu.Hilfe = "Block beenden und mit dem nächsten Standpunkt beginnen";
   KnöpfeAnlegen(5);
   ZustandZeigen();
 }
 
-TVFStatForm::~TVFStatForm() = default;
+TVFStatForm::~TVFStatForm() {
+  if (Empfänger) MessempfängerAbmelden(*Empfänger);
+}
 
 void TVFStatForm::KopfAnlegen() {
   StandPnr.IstPnr = true;
@@ -90,11 +95,16 @@ void TVFStatForm::BeiÖffnen() {
   Rechenblatt::BeiÖffnen();
   if (ImStapel()) return;
   Empfänger = std::make_unique<FStatMessempfänger>(*this);
-  MessempfängerSetzen(Empfänger.get());
+  MessempfängerAnmelden(*Empfänger);
+}
+
+// Of two stations that are open the one takes measurements that is being worked in.
+void TVFStatForm::BeiFokus() {
+  if (Empfänger && Offen()) MessempfängerAnmelden(*Empfänger);
 }
 
 void TVFStatForm::BeiSchließen() {
-  if (Empfänger && MessempfängerJetzt() == Empfänger.get()) MessempfängerSetzen(nullptr);
+  if (Empfänger) MessempfängerAbmelden(*Empfänger);
   Rechenblatt::BeiSchließen();
 }
 
@@ -210,7 +220,8 @@ void TVFStatForm::ZustandZeigen() {
   for (Knopf* K : {&KnopfBerechnen, &KnopfDelete}) K->Sichtbar = Tippt && !Schnur.Offen();
   for (Knopf* K : {&Mittel.KnopfMitteln, &KnopfSchnur}) K->Sichtbar = Tippt && Polar && !Schnur.Offen();
   KnopfSchnur.Aktiv = !Mittel.Läuft();
-  Datei.ZustandZeigen();
+  Datei.ZustandZeigen(!Schnur.Offen());
+  KnopfTheo.Sichtbar = Tippt;
   StandPnr.NurLesen = StandSym.NurLesen = Polar || !Tippt;
   Instrument.Eingabe.NurLesen = !Höhen || Polar || !Tippt;
   Reflektor.Eingabe.NurLesen = !Höhen || !Tippt;

@@ -36,6 +36,8 @@ class TVFStatForm final : public Rechenblatt {
   explicit TVFStatForm(const Blattart& BlattArt);
   ~TVFStatForm() override;
 
+  void BeiFokus() override;
+
   /// @name What raw data, the instrument and the Schnurgerüst need
   /// @{
   [[nodiscard]] FStatStatus Status() const { return Stand; }
@@ -143,7 +145,7 @@ class TVFStatForm final : public Rechenblatt {
   Knopf &KnopfBerechnen, &KnopfArt, &KnopfZurück, &KnopfAbw, &KnopfDelete, &KnopfNeu;
   FStatMessdatei Datei;
   FStatMitteln Mittel;
-  Knopf& KnopfSchnur;
+  Knopf &KnopfSchnur, &KnopfTheo;
   FStatSchnur Schnur;
 };
 

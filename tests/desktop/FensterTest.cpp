@@ -201,6 +201,38 @@ class FensterTest final : public Fensterumgebung {
     QVERIFY(!Tasten.contains("3001") || KorSuche(std::string_view("3001")) >= 0);
   }
 
+  // The day's raw data: report, connection, station, polar points.
+  void stationAusMessdatei() {
+    Öffne("MenüKatasterFStat");
+    Schreibe(Pfad("tag.gsi"),
+             "410001+00000060 42....+00002041\r\n"
+             "110002+00001001 21.322+19141020 22.322+09791690 31..06+00412646\r\n"
+             "110003+00001002 21.322+29044950 22.322+09864680 31..06+00917443\r\n"
+             "410004+00000060 42....+00002041\r\n"
+             "110005+00003001 21.322+03522170 22.322+09779760 31..06+00498716\r\n");
+    Wähle(Pfad("tag.gsi"));
+    Dialoge.push_back([] {
+      QTest::mouseClick(VordererDialog()->findChild<QPushButton*>("RohdatenÜbernehmen"), Qt::LeftButton);
+    });
+    Drücke(Qt::Key_M, Qt::AltModifier);
+    QTRY_VERIFY(Dialoge.empty());
+    QTRY_COMPARE(Fenster->findChild<QTableView*>("FStatGitter")->model()->rowCount(), 3);
+    for (const char* Schritt : {"Rechnen Helmert", "Stp.übernehmen", "Pkte übernehmen"}) {
+      auto* Knopf = Fenster->findChild<QPushButton*>("FstatBerechnen");
+      QTRY_COMPARE(Knopf->text(), QString(Schritt));
+      QTRY_VERIFY(Fenster->isActiveWindow());
+      Knopf->setFocus();
+      Drücke(Qt::Key_Return);
+    }
+    QTRY_VERIFY(KorSuche(std::string_view("3001")) >= 0);
+    Drücke(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(!BlätterOffen());
+    for (const char* Satz :
+         {"PSN     1001      191.4102", "NEUPUNKT       2041", "PWS     3001        35.2217"})
+      QVERIFY2(Inhalt(Pfad("a.sta")).contains(Satz), Inhalt(Pfad("a.sta")));
+    QVERIFY(Inhalt(Pfad("a.dru")).contains("VR 19.70  Polare Punkte"));
+  }
+
   // Passpoints are sorted by a heading and unticked by the space bar.
   void passpunkteMitMausUndTastatur() {
     Öffne("MenüKatasterHelmert");

@@ -122,9 +122,9 @@ class Empfängerblatt final : public Formular, public Messempfänger {
       return T == Taste::Return && (G.ZeileAnhängen(), G.Zeile = G.Zeilen() - 1, true);
     };
     Öffnen();
-    MessempfängerSetzen(this);
+    MessempfängerAnmelden(*this);
   }
-  ~Empfängerblatt() override { MessempfängerSetzen(nullptr); }
+  ~Empfängerblatt() override { MessempfängerAbmelden(*this); }
   Formular& Blatt() override { return *this; }
   [[nodiscard]] std::string Formname() const override { return "tvfstatform"; }
   [[nodiscard]] Messort Fokus() const override { return Ort; }

@@ -202,6 +202,13 @@ TEST_F(FStatTest, MessungVomInstrument) {
   Messsatz S;
   for (auto [W, Zahl] : {std::pair{&S.Hz, 191.41024}, {&S.V, 97.9169}, {&S.Strecke, 41.2646}})
     *W = {true, true, {'.', '.', '.', '.'}, Zahl};
+  auto Zweite = Öffne("19.50");
+  EXPECT_EQ(&MessempfängerJetzt()->Blatt(), Zweite.get());
+  B->FokusWechseln(*B->Fokus());  // the one that is being worked in
+  EXPECT_EQ(MessempfängerJetzt(), E);
+  Zweite->FokusWechseln(*Zweite->Fokus());
+  Zweite.reset();
+  EXPECT_EQ(MessempfängerJetzt(), E);
   EXPECT_FALSE(E->StandpunktVollständig());
   E->StandpunktNehmen("3001", {true, true, {'.', '.', '.', '.'}, 1.55});
   EXPECT_TRUE(Gleich(E->StandpunktVollständig(), true, Text(*B, "FstatStandPnr"), "3001"));
