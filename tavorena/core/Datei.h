@@ -82,10 +82,16 @@ Dateiblick DateiAnsehen(std::string_view Name);
 /// Appends Text in one piece; the file is made if it is missing and keeps the coding that it has
 /// (UTF-8 or Windows-1252). A write that fails leaves it at its old length.
 /// @param[out] Danach  the state in which the file is left, where it is wanted
-/// @param[in] Eben     what was seen of the file just now: one that somebody wrote since is left alone
-/// @return 0; -1; -2: it is not as in Eben any more
+/// @param[in] Eben     what was seen of the file just now: it is not looked at once more
+/// @return 0 or -1
 [[nodiscard]] int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund = nullptr,
                                Dateistand* Danach = nullptr, const Dateiblick* Eben = nullptr);
+
+/// The same for a file that other programs extend too: one that somebody wrote since it was seen is left
+/// alone.
+/// @return 0; -1; -2: it is not as in Eben any more
+[[nodiscard]] int TextAnhängenSolange(std::string_view Name, std::string_view Text, const Dateiblick& Eben,
+                                      std::string* Grund = nullptr, Dateistand* Danach = nullptr);
 
 /// The same for bytes that stay as they are, whatever the coding of the file.
 [[nodiscard]] int BytesAnhängen(std::string_view Name, std::string_view Bytes, std::string* Grund = nullptr);

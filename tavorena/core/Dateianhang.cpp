@@ -79,33 +79,38 @@ int Öffnen(Anhangspur& Spur, std::string& Grund) {
   return 0;
 }
 
-// Opens it where that is needed, and holds it: nobody else who asks first extends or replaces it until it is
-// let go. Two programs may write the same file.
+// Opens it where that is needed. @return 0 or -1
+int Bereitmachen(Anhangspur& Spur, const Dateiblick* Eben, std::string& Grund) {
+  struct stat Stand {};
+  const auto WieGelassen = [&] {
+    if (Eben != nullptr) return *Eben == Spur.Blick;
+    return stat(Spur.Pfad.c_str(), &Stand) == 0 && DateiblickAus(Stand) == Spur.Blick;
+  };
+  return Spur.K && WieGelassen() ? 0 : Öffnen(Spur, Grund);
+}
+
+// The same, and holds it: nobody else who asks first extends or replaces it until it is let go.
 // @return 0; -1; -2: it is not as in Eben any more
-int Ergreifen(Anhangspur& Spur, const Dateiblick* Eben, std::string& Grund) {
+int Ergreifen(Anhangspur& Spur, const Dateiblick& Eben, std::string& Grund) {
   for (int i = 0; i < 100; ++i) {
     if (!Spur.K && Öffnen(Spur, Grund) < 0) return -1;
     Festhalten(Spur.K);
     struct stat Stand {};
-    const Dateiblick Jetzt =
-        stat(Spur.Pfad.c_str(), &Stand) == 0 ? DateiblickAus(Stand) : Dateiblick{};  // not that of Spur.K
-    const bool EbenGemacht = Eben != nullptr && *Eben == Dateiblick{} && Jetzt.Stand.Länge == 0;
-    if (Eben != nullptr && Jetzt != *Eben && !EbenGemacht) {
-      Loslassen(Spur.K);
-      return -2;
-    }
-    if (Jetzt == Spur.Blick) return 0;
+    const bool Gilt = fstat(Spur.K.Nummer(), &Stand) == 0 && Stand.st_nlink > 0;
+    const bool Gemacht = Eben == Dateiblick{} && Stand.st_size == 0;
+    if (Gilt && DateiblickAus(Stand) == Spur.Blick && (Spur.Blick == Eben || Gemacht)) return 0;
     Spur.K = Deskriptor();
+    if (i > 0 && Gilt) return -2;  // what is opened anew is what the name leads to
   }
-  Grund = "wird von anderer Seite geschrieben";
-  return -1;
+  return -2;
 }
 
 enum class Umsetzung { Keine, InKodierung };
 
-int Anhängen(Anhangspur& Spur, std::string_view Text, Umsetzung Wie, const Dateiblick* Eben,
+int Anhängen(Anhangspur& Spur, std::string_view Text, Umsetzung Wie, const Dateiblick* Eben, bool Geteilt,
              std::string& Grund) {
-  if (const int Ergebnis = Ergreifen(Spur, Eben, Grund); Ergebnis < 0) return Ergebnis;
+  const int Bereit = Geteilt ? Ergreifen(Spur, *Eben, Grund) : Bereitmachen(Spur, Eben, Grund);
+  if (Bereit < 0) return Bereit;
   struct stat Stand {};
   const bool Umsetzen = Wie == Umsetzung::InKodierung && Spur.Art == Kodierung::Windows1252;
   const std::string Bytes = Umsetzen ? NachWindows1252(Text) : std::string(Text);
@@ -115,17 +120,17 @@ int Anhängen(Anhangspur& Spur, std::string_view Text, Umsetzung Wie, const Date
     return -1;
   }
   if (fstat(Spur.K.Nummer(), &Stand) == 0) Spur.Blick = DateiblickAus(Stand);
-  Loslassen(Spur.K);
+  if (Geteilt) Loslassen(Spur.K);
   if (Spur.Art == Kodierung::Ascii) Spur.Art = KodierungVon(Bytes);
   return 0;
 }
 
 int AnDatei(std::string_view Name, std::string_view Text, Umsetzung Wie, std::string* Grund,
-            Dateistand* Danach, const Dateiblick* Eben) {
+            Dateistand* Danach, const Dateiblick* Eben, bool Geteilt = false) {
   if (Name.empty()) return -1;
   Anhangspur& Spur = SpurVon(Name);
   std::string Wort;
-  const int Ergebnis = Anhängen(Spur, Text, Wie, Eben, Wort);
+  const int Ergebnis = Anhängen(Spur, Text, Wie, Eben, Geteilt, Wort);
   if (Ergebnis == 0 && Danach != nullptr) *Danach = Spur.Blick.Stand;
   if (Ergebnis != -1) return Ergebnis;
   Spur = Anhangspur{Spur.Name, Spur.Pfad, Deskriptor(), {}, Kodierung::Ascii};
@@ -138,6 +143,11 @@ int AnDatei(std::string_view Name, std::string_view Text, Umsetzung Wie, std::st
 int TextAnhängen(std::string_view Name, std::string_view Text, std::string* Grund, Dateistand* Danach,
                  const Dateiblick* Eben) {
   return AnDatei(Name, Text, Umsetzung::InKodierung, Grund, Danach, Eben);
+}
+
+int TextAnhängenSolange(std::string_view Name, std::string_view Text, const Dateiblick& Eben,
+                        std::string* Grund, Dateistand* Danach) {
+  return AnDatei(Name, Text, Umsetzung::InKodierung, Grund, Danach, &Eben, true);
 }
 
 int BytesAnhängen(std::string_view Name, std::string_view Bytes, std::string* Grund) {

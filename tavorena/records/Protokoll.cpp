@@ -19,8 +19,6 @@ std::string DateinameProtokollTemp;
 
 namespace {
 
-constexpr int MeisteVersuche = 100;  // to write at a moment when nobody else does
-
 constexpr int ZeilenJeSeite = 50;
 const std::string ProtRahmen = "|";
 
@@ -101,16 +99,11 @@ class Eintrag {
     Neu.Darüber = V;
   }
 
-  // @param[in] Drängt  written in any case
-  // @return 0; -1; -2: another program wrote meanwhile, what has to stand above is to be thought over
-  [[nodiscard]] int Abschließen(bool Drängt) {
+  [[nodiscard]] int Abschließen() {
     if (Puffer.empty()) return 0;
     std::string Grund;
-    const Dateiblick* Blick = Drängt ? nullptr : &Eben;
-    for (;;) {
-      const int Ergebnis = TextAnhängen(Neu.Datei, Puffer, &Grund, &Neu.Stand, std::exchange(Blick, nullptr));
-      if (Ergebnis == 0) break;
-      if (Ergebnis == -2) return -2;
+    const Dateiblick* Blick = &Eben;
+    while (TextAnhängen(Neu.Datei, Puffer, &Grund, &Neu.Stand, std::exchange(Blick, nullptr)) < 0) {
       const int Antwort = SchreibfehlerFrage(Neu.Datei, Grund, "");
       if (Antwort == KnopfOhne) Alt.Datei.clear();
       if (Antwort != KnopfNochmals) return Antwort == KnopfOhne ? 0 : -1;
@@ -143,13 +136,10 @@ class Eintrag {
 
 template <typename Arbeit>
 int Eintragen(Protokoll& P, Arbeit Tun) {
-  int Ergebnis = P.Datei.empty() ? 0 : -2;
-  for (int Versuch = 0; Ergebnis == -2; ++Versuch) {
-    Eintrag E(P);
-    Tun(E);
-    Ergebnis = E.Abschließen(Versuch == MeisteVersuche);
-  }
-  return Ergebnis;
+  if (P.Datei.empty()) return 0;
+  Eintrag E(P);
+  Tun(E);
+  return E.Abschließen();
 }
 
 }  // namespace

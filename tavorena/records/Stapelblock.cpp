@@ -104,7 +104,8 @@ int Schreiben(const std::shared_ptr<const Verbindung>& V, const std::string& Tex
     std::string Grund, Alles;
     for (const std::string& Stück : Neue) Alles += Stück;
     const bool Anders = D.Stücke.empty() || Eben.Stand != D.Stand;
-    Ergebnis = TextAnhängen(D.Name, Alles, &Grund, &D.Stand, Versuch < MeisteVersuche ? &Eben : nullptr);
+    Ergebnis = Versuch < MeisteVersuche ? TextAnhängenSolange(D.Name, Alles, Eben, &Grund, &D.Stand)
+                                        : TextAnhängen(D.Name, Alles, &Grund, &D.Stand);
     if (Ergebnis == 0) {
       if (Anders) D.Fremde = D.Stücke.size();
       if (Anders) D.Ab = Eben.Stand.Länge;
