@@ -40,7 +40,12 @@ auto& Eines(Eingabe& E, const Liste& L) {
 }
 
 // Answers every question by the next byte. In a replay none is foreseen.
-class Bediener final : public Rückfragen, public Anzeige, public Ablauf, public Umgebung, public Leitungen {
+class Bediener final : public Rückfragen,
+                       public Anzeige,
+                       public Ablauf,
+                       public Umgebung,
+                       public Leitungen,
+                       public Druckwerk {
  public:
   explicit Bediener(Eingabe& Bytes) : E(Bytes), Vorher(PortsSetzen(PortsVon(*this))) {}
   ~Bediener() override { PortsSetzen(Vorher); }

@@ -33,7 +33,7 @@ void Eindeutschen(CLI::App& App) {
 
 void Gemeinsames(CLI::App& App, Aufruf& A) {
   App.get_help_ptr()->group("Optionen");
-  App.add_option("--koordinaten", A.Koordinaten, "Koordinatendatei (*.kor, *.lt4, *.alk)")
+  App.add_option("--koordinaten", A.Koordinaten, "Koordinatendatei (*.kor, *.lt4, *.alk, *.eds)")
       ->type_name("DATEI");
   App.add_option("--protokoll", A.Protokoll, "Protokolldatei (*.dru); eine vorhandene wird fortgeschrieben")
       ->type_name("DATEI");
@@ -48,6 +48,7 @@ void Gemeinsames(CLI::App& App, Aufruf& A) {
 
 void DateiAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
   if (B.Datei != nullptr) App.add_option("datei", A.Datei, B.Datei)->type_name("");
+  if (B.Ziel != nullptr) App.add_option("ziel", A.Ziel, B.Ziel)->type_name("");
 }
 
 void EigenesAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {

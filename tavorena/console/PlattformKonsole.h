@@ -11,7 +11,11 @@ namespace tavorena {
 
 /// The program without a screen: messages go to a stream, a line each that begins with the file it is about,
 /// and a question that the command line did not answer ends the run. Nothing waits for a key.
-class PlattformKonsole final : public Rückfragen, public Anzeige, public Umgebung, public Leitungen {
+class PlattformKonsole final : public Rückfragen,
+                               public Anzeige,
+                               public Umgebung,
+                               public Leitungen,
+                               public Druckwerk {
  public:
   /// A message that names a file of the call is about it and tells a failure; one that can not be written
   /// ends the run.

@@ -51,6 +51,7 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   if (B.MitKoordinaten && A.Koordinaten.empty()) return Ich + "--koordinaten fehlt";
   if (B.Datei != nullptr && A.Datei.empty()) return Ich + "die " + B.Datei + " fehlt";
   if (B.Datei == nullptr && !A.Datei.empty()) return Ich + "unbekannte Angabe: " + A.Datei;
+  if (B.Ziel != nullptr && A.Ziel.empty()) return Ich + "die " + B.Ziel + " fehlt";
   for (const Angabe& G : B.Angaben) {
     if (G.Nötig && A.Wert(G.Name).empty()) return Ich + G.Name + " fehlt";
   }
@@ -69,7 +70,8 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   std::vector<Rolle> Rollen = {{"die Datei von --speichern", A.Speichern, true},
                                {"das Protokoll", A.Protokoll, true},
                                {"die Koordinatendatei", A.Koordinaten, false},
-                               {"die Datei des Befehls", A.Datei, false}};
+                               {"die Datei des Befehls", A.Datei, false},
+                               {"die Ausgabedatei", A.Ziel, true}};
   for (const Angabe& G : B.Angaben) {
     if (G.Rolle != Dateirolle::Keine)
       Rollen.push_back(

@@ -26,6 +26,7 @@ struct Aufruf {
   std::string Speichern;  ///< file for the table afterwards
   bool Trotzdem = false;  ///< "Ja" to the questions that warn of a loss
   std::string Datei;      ///< the file that the command itself works on
+  std::string Ziel = {};  ///< the file that it writes
   std::map<std::string, std::string> Werte = {};  ///< of the command's own options; "ja" of a switch
 
   /// The value of an option; "" if it was not given.
@@ -75,6 +76,7 @@ struct Konsolenbefehl {
   /// Works on the table that was read. @return false if it was not done wholly
   std::function<bool(const Aufruf& A, const Umfeld& U)> Tun;
   std::vector<Angabe> Angaben = {};
+  const char* Ziel = nullptr;  ///< tells what Aufruf::Ziel is, which then must be given; nullptr: it has none
 };
 
 /// Runs a command: looks at the call, reads the coordinates, takes the protocol, works, and saves the table

@@ -58,8 +58,8 @@ struct Punktworte {
   std::string_view Pnr, Rechts, Hoch;
 };
 
-Punktworte PunktworteVon(std::string_view Zeile, Dateiformat Format) {
-  if (Format == Dateiformat::Lt4) {
+Punktworte PunktworteVon(std::string_view Zeile, Punktformat Format) {
+  if (Format == Punktformat::Lt4) {
     if (Zeile.starts_with('#') || KürzerAls(Zeile, 64)) return {};
     return {TrimmenSicht(Spalten(Zeile, 9, 18)), TrimmenSicht(Spalten(Zeile, 24, 34)),
             TrimmenSicht(Spalten(Zeile, 36, 46))};
@@ -68,9 +68,10 @@ Punktworte PunktworteVon(std::string_view Zeile, Dateiformat Format) {
   return {Wortnehmen(Zeile), Wortnehmen(Zeile), Wortnehmen(Zeile)};
 }
 
-Dateibefund Befunden(std::string_view Inhalt, Dateiformat Format) {
+Dateibefund Befunden(std::string_view Inhalt, Punktformat Format) {
   Dateibefund B;
   B.MitNull = Inhalt.find('\0') != std::string_view::npos;
+  if (Format != Punktformat::Kor && Format != Punktformat::Lt4) return B;  // mostly something else besides
   Zeilenleser Leser(Inhalt);
   std::string_view Zeile;
   for (int Nummer = 1; Leser.Nächste(Zeile); ++Nummer) {
@@ -79,7 +80,7 @@ Dateibefund Befunden(std::string_view Inhalt, Dateiformat Format) {
     const bool Null =
         B.MitNull && Inhalt.substr(0, Ende + 1).find('\0', Ende - Zeile.size()) != std::string_view::npos;
     if (!Null && TrimmenSicht(Zeile).empty()) continue;
-    if (!Null && Format == Dateiformat::Lt4 && Zeile.starts_with('#')) {
+    if (!Null && Format == Punktformat::Lt4 && Zeile.starts_with('#')) {
       if (B.Bemerkungen++ == 0) B.ErsteBemerkung = Nummer;
       continue;
     }
@@ -102,40 +103,46 @@ int ZeilenZählen(std::string_view Text) {
   return Anzahl;
 }
 
-bool WirdGelesen(Dateiformat Format) { return Format == Dateiformat::Kor || Format == Dateiformat::Lt4; }
-
-// One run of KorLesen over the text of a file.
+// One run of KorLesen over a file.
 class Lesung {
  public:
-  Lesung(std::string_view Text, Lesemodus Modus, Dateiformat Format,
-         const std::function<bool(std::string_view)>& Nimmt)
-      : Inhalt(Text), LeseModus(Modus), Zeilenart(Format), Test(Nimmt) {}
+  Lesung(const Punktquelle& Quelle, Lesemodus Modus, const Formatzugang& Format,
+         const std::function<bool(std::string_view)>& Nimmt, Lesebericht& B)
+      : Datei(Quelle), LeseModus(Modus), Zugang(Format), Test(Nimmt), Bericht(B) {}
 
-  enum class Ende { Gut, Gestoppt, Voll };
+  enum class Ende { Gut, Gestoppt, Voll, Unlesbar };
 
   Ende Laufen() {
-    Zeilenleser Leser(Inhalt);
-    std::string_view Zeile;
-    KorInfoSatz Info;
-    while (Leser.Nächste(Zeile)) {
-      if (KorAnzahl >= KorGrenze) return Ende::Voll;
-      KorSatz Satz;
-      if (!Zerlegen(Zeile, Satz, Info) || Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) continue;
-      if (KorAnzahl % 100 == 0 && Angehalten()) return Ende::Gestoppt;
+    if (Zugang.Lesen != nullptr) {
+      if (Zugang.Lesen(
+              Datei, [this](const KorSatz& S) { return Nehmen(S); }, Bericht) < 0)
+        return Ende::Unlesbar;
+    } else {
+      ZeilenLesen();
     }
-    return Ende::Gut;
+    return Schluß;
   }
 
  private:
-  bool Zerlegen(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) const {
-    if (Zeilenart == Dateiformat::Lt4) {
-      S.Hoehe =
-          KorHoehe[static_cast<std::size_t>(KorAnzahl)];  // the row keeps the height that it had, on purpose
-      return Lt4Zerlegen(Zeile, S, Info);
+  void ZeilenLesen() {
+    Zeilenleser Leser(Datei.Inhalt);
+    std::string_view Zeile;
+    KorInfoSatz Info;
+    for (int Nummer = 1; Leser.Nächste(Zeile); ++Nummer) {
+      KorSatz Satz;
+      if (KorAnzahl < KorGrenze && !Zugang.ZeileLesen(Zeile, Satz, Info)) {
+        if (!TrimmenSicht(Zeile).empty() && Bericht.Übergangen++ == 0) Bericht.ErsteÜbergangene = Nummer;
+        continue;
+      }
+      if (!Nehmen(Satz)) return;
     }
-    if (!KorZerlegen(Zeile, S)) return false;
-    Info.Punktart = KurzAusText(S.Symbol);  // and no other attribute
-    S.Info = &Info;
+  }
+
+  bool Nehmen(const KorSatz& Satz) {
+    if (KorAnzahl >= KorGrenze) return Schluß = Ende::Voll, false;
+    if (Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) return true;
+    ++Bericht.Gelesen;
+    if (KorAnzahl % 100 == 0 && Angehalten()) return Schluß = Ende::Gestoppt, false;
     return true;
   }
 
@@ -147,18 +154,20 @@ class Lesung {
   bool Angehalten() {
     if (!Pause.Fällig()) return false;
     // The lines are counted when there is somebody to show them to.
-    if (LeseModus == Lesemodus::Ersetzen && Zusatz.empty()) {
-      Zusatz = " von " + std::to_string(ZeilenZählen(Inhalt)) + " Punkten   ";
+    if (LeseModus == Lesemodus::Ersetzen && Zusatz.empty() && !Datei.Inhalt.empty()) {
+      Zusatz = " von " + std::to_string(ZeilenZählen(Datei.Inhalt)) + " Punkten   ";
     }
     KorAnzahlAnzeigen(Zusatz);
     AblaufPort().EreignisseAbarbeiten();
     return std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop;
   }
 
-  std::string_view Inhalt;
+  const Punktquelle& Datei;
   Lesemodus LeseModus;
-  Dateiformat Zeilenart;
+  const Formatzugang& Zugang;
   const std::function<bool(std::string_view)>& Test;
+  Lesebericht& Bericht;
+  Ende Schluß = Ende::Gut;
   std::string Zusatz;
   Atempause Pause{0.5};
 };
@@ -229,61 +238,103 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
 }
 
+Formatzugang KorZugang() {
+  Formatzugang F{Punktformat::Kor};
+  F.ZeileLesen = [](std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
+    if (!KorZerlegen(Zeile, S)) return false;
+    Info.Punktart = KurzAusText(S.Symbol);  // and no other attribute
+    S.Info = &Info;
+    return true;
+  };
+  F.ZeileSchreiben = [](const KorSatz& S, int Nachkomma, std::string& Ziel) {
+    KorZeileAnhängen(Ziel, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol, Nachkomma);
+  };
+  return F;
+}
+
+Formatzugang Lt4Zugang() {
+  Formatzugang F{Punktformat::Lt4};
+  F.ZeileLesen = [](std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
+    S.Hoehe =
+        KorHoehe[static_cast<std::size_t>(KorAnzahl)];  // the row keeps the height that it had, on purpose
+    return Lt4Zerlegen(Zeile, S, Info);
+  };
+  F.ZeileSchreiben = [](const KorSatz& S, int, std::string& Ziel) {
+    std::string Zeile;
+    Lt4ZeileSchreiben(S.Pnr, S.Rechts, S.Hoch, *S.Info, Zeile);
+    Ziel += Zeile;
+  };
+  return F;
+}
+
 namespace {
 
-// The rows of a file, sorted into the table; what was stopped is taken back.
-Lesung::Ende TabelleFüllen(std::string_view Inhalt, Lesemodus Modus, Dateiformat Format,
-                           const std::function<bool(std::string_view)>& Nimmt) {
+// The rows of a file, sorted into the table; what was stopped or is no such file is taken back.
+Lesung::Ende TabelleFüllen(const Punktquelle& Quelle, Lesemodus Modus, const Formatzugang& Format,
+                           const std::function<bool(std::string_view)>& Nimmt, Lesebericht& Bericht) {
   const Beschäftigung Lang;
   if (Modus == Lesemodus::Ersetzen) KorAbschneiden(0);
   const int AlteAnzahl = KorAnzahl;
-  const Lesung::Ende Ende = Lesung(Inhalt, Modus, Format, Nimmt).Laufen();
-  if (Ende == Lesung::Ende::Gestoppt) KorAbschneiden(AlteAnzahl);
+  const Lesung::Ende Ende = Lesung(Quelle, Modus, Format, Nimmt, Bericht).Laufen();
+  const bool Zurück = Ende == Lesung::Ende::Gestoppt || Ende == Lesung::Ende::Unlesbar;
+  if (Zurück) KorAbschneiden(AlteAnzahl);
   if (Ende == Lesung::Ende::Voll) {
     Hinweis("Maximale Anzahl von \n\n" + std::to_string(KorGrenze) + "\n\nPunkten überschritten !");
   }
-  if (Ende != Lesung::Ende::Gestoppt) KorSortieren();
-  KorGeaendertSetzen(Modus != Lesemodus::Ersetzen);
+  if (!Zurück) KorSortieren();
+  if (Ende != Lesung::Ende::Unlesbar || Modus == Lesemodus::Ersetzen)
+    KorGeaendertSetzen(Modus != Lesemodus::Ersetzen);
   return Ende;
+}
+
+// What the reader of a format gets. @return 0; -1 with the reason
+int InhaltHolen(const std::string& Dateiname, const Formatzugang& Format, std::string& Inhalt,
+                std::string& Grund) {
+  if (Format.Lesen == nullptr || Format.Was == Formatzugang::Zufuhr::Text)
+    return TextdateiLesen(Dateiname, Inhalt, &Grund);
+  if (Format.Was == Formatzugang::Zufuhr::Bytes) return DateiLesen(Dateiname, Inhalt, &Grund);
+  return DateiVorhanden(Dateiname) ? 0 : -1;
 }
 
 }  // namespace
 
-int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
+int KorLesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Format,
              const std::function<bool(std::string_view)>& Nimmt,
-             const std::function<bool(const Dateibefund&)>& Prüfen) {
+             const std::function<bool(const Dateibefund&)>& Prüfen, Lesebericht* Bericht) {
   if (Dateiname.empty()) return -1;
-  if (!WirdGelesen(Format)) {
+  const Formatzugang* Zugang = FormatFinden(Format);
+  if (Zugang == nullptr || (Zugang->ZeileLesen == nullptr && Zugang->Lesen == nullptr)) {
     FehlerMeldung("Das Format der Datei wird nicht gelesen:\n" + Dateiname);
     return -1;
   }
   std::string Inhalt, Grund;
-  if (TextdateiLesen(Dateiname, Inhalt, &Grund) < 0) {
+  if (InhaltHolen(Dateiname, *Zugang, Inhalt, Grund) < 0) {
     Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !" + InKlammern(Grund));
     return -1;
   }
-  if (Prüfen && !Prüfen(Befunden(Inhalt, Format))) return -2;
-  const Lesung::Ende Ende = TabelleFüllen(Inhalt, Modus, Format, Nimmt);
+  if (Prüfen && Zugang->Was != Formatzugang::Zufuhr::Name && !Prüfen(Befunden(Inhalt, Format))) return -2;
+  Lesebericht B;
+  const Lesung::Ende Ende = TabelleFüllen({Dateiname, Inhalt}, Modus, *Zugang, Nimmt, B);
+  B.Gestoppt = Ende == Lesung::Ende::Gestoppt;
+  if (B.Gestoppt) B.Gelesen = 0;
+  if (Bericht != nullptr) *Bericht = B;
   KorAnzahlAnzeigen();
-  if (Ende == Lesung::Ende::Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
+  if (Ende == Lesung::Ende::Unlesbar) return -1;
+  if (B.Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
   if (DoppelteVorhanden()) Hinweis("Achtung, doppelte Punkte vorhanden !");
   return 0;
 }
 
-int KorText(Dateiformat Format, int Nachkomma, std::string& Text) {
-  if (!WirdGelesen(Format)) return -1;
-  std::string Zeile;
+int KorText(Punktformat Format, int Nachkomma, std::string& Text) {
+  const Formatzugang* Zugang = FormatFinden(Format);
   Text.clear();
+  if (Zugang == nullptr || (Zugang->Schreiben == nullptr && Zugang->ZeileSchreiben == nullptr)) return -1;
+  if (Zugang->Schreiben != nullptr) return Zugang->Schreiben(Nachkomma, Text), 0;
   Text.reserve(static_cast<std::size_t>(KorAnzahl) * 64);
   for (int i = 0; i < KorAnzahl; ++i) {
-    const KorSatz S = KorPunkt(i);
-    if (Format == Dateiformat::Kor) {
-      KorZeileAnhängen(Text, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol, Nachkomma);
-    } else {
-      Lt4ZeileSchreiben(S.Pnr, S.Rechts, S.Hoch, *S.Info, Zeile);
-      Text += Zeile;
-    }
-    Text += "\r\n";
+    const std::size_t Vorher = Text.size();
+    Zugang->ZeileSchreiben(KorPunkt(i), Nachkomma, Text);
+    if (Text.size() > Vorher) Text += "\r\n";
   }
   return 0;
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tavorena/core/Formate.h>
 #include <tavorena/core/Punkt.h>
 #include <tavorena/core/Wert.h>
 
@@ -56,22 +57,38 @@ struct Dateibefund {
   bool MitNull = false;    ///< a code 0 stands in the file: it is no text
 };
 
-/// Reads a coordinate file into the table and sorts it. A missing file, the limit of 20000 points and
+/// Reads a file of points into the table and sorts it. A missing file, the limit of 20000 points and
 /// double points are told in a message; every point that was read stays. The stop button rolls back; a table
 /// that was to be replaced is then empty.
-/// @param[in] Format  KOR or LT4
-/// @param[in] Nimmt   reads only the points whose number passes this test; none if empty
-/// @param[in] Prüfen  looks at the file before the table changes; false: it is not read
+/// @param[in] Nimmt     reads only the points whose number passes this test; none if empty
+/// @param[in] Prüfen    looks at the file before the table changes; false: it is not read. A file whose
+///                      format opens it by itself is not looked at
+/// @param[out] Bericht  what the reading came to, where it is wanted
 /// @return 0; -1 no name, no file, a format that is not read, or stopped while replacing; -2 by Prüfen, the
 ///         table is then as it was
-[[nodiscard]] int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
+[[nodiscard]] int KorLesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Format,
                            const std::function<bool(std::string_view)>& Nimmt = {},
-                           const std::function<bool(const Dateibefund&)>& Prüfen = {});
+                           const std::function<bool(const Dateibefund&)>& Prüfen = {},
+                           Lesebericht* Bericht = nullptr);
+[[nodiscard]] inline int KorLesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
+                                  const std::function<bool(std::string_view)>& Nimmt = {},
+                                  const std::function<bool(const Dateibefund&)>& Prüfen = {}) {
+  return KorLesen(Dateiname, Modus, PunktformatVon(Format), Nimmt, Prüfen);
+}
 
-/// The whole table, in its order, as the text of a coordinate file.
-/// @param[in] Nachkomma  decimals of the KOR format, 0 to 15; LT4 always has 3
+/// The whole table, in its order, as the text of a file.
+/// @param[in] Nachkomma  decimals, 0 to 15, where the format has no number of its own
 /// @return 0; -1 for a format that is not written
-[[nodiscard]] int KorText(Dateiformat Format, int Nachkomma, std::string& Text);
+[[nodiscard]] int KorText(Punktformat Format, int Nachkomma, std::string& Text);
+[[nodiscard]] inline int KorText(Dateiformat Format, int Nachkomma, std::string& Text) {
+  return KorText(PunktformatVon(Format), Nachkomma, Text);
+}
+
+/// @{
+/// The two formats that this folder reads and writes by itself.
+[[nodiscard]] Formatzugang KorZugang();
+[[nodiscard]] Formatzugang Lt4Zugang();
+/// @}
 
 /// Point numbers that a file would not give back.
 struct Nummernverlust {

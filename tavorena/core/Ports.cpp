@@ -43,6 +43,7 @@ Anzeige& AnzeigePort() { return Offen(Gesetzt.Schirm); }
 Ablauf& AblaufPort() { return Offen(Gesetzt.Takt); }
 Umgebung& UmgebungPort() { return Offen(Gesetzt.Rechner); }
 Leitungen& LeitungenPort() { return Offen(Gesetzt.Draht); }
+Druckwerk& DruckwerkPort() { return Offen(Gesetzt.Presse); }
 
 Ports PortsSetzen(const Ports& Neue) { return std::exchange(Gesetzt, Neue); }
 

@@ -3,8 +3,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
-// What the lower layers ask of the program around them: five small doors, each silent by itself. The window,
+// What the lower layers ask of the program around them: six small doors, each silent by itself. The window,
 // the console and the tests open the ones that they have an answer for.
 
 namespace tavorena {
@@ -20,14 +21,17 @@ inline constexpr int KnopfAbbruch = 2, KnopfNochmals = 4, KnopfOhne = 5, KnopfJa
 /// What a file dialog is asked for.
 struct Dateiauftrag {
   std::string Titel;
-  std::string Filter;          ///< "text|pattern|text|pattern", patterns of one entry separated by ";"
-  std::string Ordner;          ///< folder to start in
-  std::string Vorgabe;         ///< name or pattern to start with, such as "*.kor"
-  bool NurVorhandene = true;   ///< the file must exist
-  std::string Zusatz;          ///< caption of a check box below the list; none if empty
-  bool ZusatzGewählt = false;  ///< out: the check box was set
-  bool ZusatzIstWahl = false;  ///< it says something about the file; else it stands for no file at all
-  int Hilfenummer = 0;         ///< of its page in the handbook; 0: that of what is open
+  std::string Filter;            ///< "text|pattern|text|pattern", patterns of one entry separated by ";"
+  std::string Ordner;            ///< folder to start in
+  std::string Vorgabe;           ///< name or pattern to start with, such as "*.kor"
+  bool NurVorhandene = true;     ///< the file must exist
+  std::string Zusatz;            ///< caption of a check box below the list; none if empty
+  bool ZusatzGewählt = false;    ///< out: the check box was set
+  bool ZusatzIstWahl = false;    ///< it says something about the file; else it stands for no file at all
+  int Hilfenummer = 0;           ///< of its page in the handbook; 0: that of what is open
+  std::string Listentitel = {};  ///< caption of a list below that; none if empty
+  std::vector<std::string> Liste = {};  ///< its entries
+  int ListeGewählt = 0;                 ///< in and out: the chosen one, from 0
 };
 
 /// Questions to the user. Silent: every one is broken off.
@@ -140,6 +144,26 @@ class Leitungen {
   }
 };
 
+/// A text as pages of paper: A4 upright, six characters of left margin, 12 points from line to line.
+struct Druckseiten {
+  double Schrift = 10;                           ///< size of all its lines [points], 6 to 10
+  std::vector<std::vector<std::string>> Seiten;  ///< the lines of each page
+};
+
+/// Paper and PDF. Silent: nothing is printed.
+class Druckwerk {
+ public:
+  virtual ~Druckwerk() = default;
+  /// Shows pages and lets them go to a printer or into a PDF file; without a screen they become one.
+  /// @param[in] Titel      of window and document: a file name without its folder
+  /// @param[in] Vorschlag  name that is proposed for the PDF file
+  /// @return 0; -1: nothing was printed
+  [[nodiscard]] virtual int Drucken(const Druckseiten& /*Seiten*/, const std::string& /*Titel*/,
+                                    const std::string& /*Vorschlag*/) {
+    return -1;
+  }
+};
+
 /// The doors in use; nullptr: the silent one.
 struct Ports {
   Rückfragen* Fragen = nullptr;
@@ -147,6 +171,7 @@ struct Ports {
   Ablauf* Takt = nullptr;
   Umgebung* Rechner = nullptr;
   Leitungen* Draht = nullptr;
+  Druckwerk* Presse = nullptr;
 };
 
 /// @{
@@ -156,6 +181,7 @@ Anzeige& AnzeigePort();
 Ablauf& AblaufPort();
 Umgebung& UmgebungPort();
 Leitungen& LeitungenPort();
+Druckwerk& DruckwerkPort();
 /// @}
 
 /// Sets all doors and gives the ones before.
@@ -164,7 +190,7 @@ Ports PortsSetzen(const Ports& Neue);
 /// The doors of an object that answers all of them.
 template <typename Plattform>
 Ports PortsVon(Plattform& P) {
-  return {&P, &P, &P, &P, &P};
+  return {&P, &P, &P, &P, &P, &P};
 }
 
 }  // namespace tavorena

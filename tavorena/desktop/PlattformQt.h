@@ -7,7 +7,12 @@ namespace tavorena {
 class Hauptfenster;
 
 /// What the program asks of the window system.
-class PlattformQt : public Rückfragen, public Anzeige, public Ablauf, public Umgebung, public Leitungen {
+class PlattformQt : public Rückfragen,
+                    public Anzeige,
+                    public Ablauf,
+                    public Umgebung,
+                    public Leitungen,
+                    public Druckwerk {
  public:
   explicit PlattformQt(Hauptfenster& Haupt) : Fenster(Haupt) {}
 

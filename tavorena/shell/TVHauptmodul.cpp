@@ -9,6 +9,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/exchange/Formattafel.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/graphics/GrafDesign.h>
@@ -106,6 +107,7 @@ void MittelEintragen(const Mittelpunkt& M) {
 }  // namespace
 
 void HauptAnschließen() {
+  FormateAnmelden();
   Haken.FormEinzelKorein = FormEinzelKorein;
   Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
   Haken.MittelEintragen = MittelEintragen;

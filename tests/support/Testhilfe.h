@@ -60,7 +60,8 @@ class PlattformSkript final : public Rückfragen,
                               public Anzeige,
                               public Ablauf,
                               public Umgebung,
-                              public Leitungen {
+                              public Leitungen,
+                              public Druckwerk {
  public:
   PlattformSkript() : Vorher(PortsSetzen(PortsVon(*this))) {}
   ~PlattformSkript() override;
