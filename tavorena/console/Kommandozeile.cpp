@@ -53,14 +53,15 @@ void DateiAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
 
 void EigenesAnmelden(CLI::App& App, const Konsolenbefehl& B, Aufruf& A) {
   for (const Angabe& G : B.Angaben) {
+    CLI::Option* Neu = nullptr;
     if (G.Art != nullptr) {
-      CLI::Option* Neu = App.add_option(G.Name, A.Werte[G.Name], G.Beschreibung)->type_name(G.Art);
-      if (G.Statt != nullptr) Neu->excludes(G.Statt);
+      Neu = App.add_option(G.Name, A.Werte[G.Name], G.Beschreibung)->type_name(G.Art);
     } else {
-      App.add_flag_callback(
-             G.Name, [&A, &G] { A.Werte[G.Name] = "ja"; }, G.Beschreibung)
-          ->disable_flag_override();
+      Neu = App.add_flag_callback(
+                   G.Name, [&A, &G] { A.Werte[G.Name] = "ja"; }, G.Beschreibung)
+                ->disable_flag_override();
     }
+    if (G.Statt != nullptr) Neu->excludes(G.Statt);
   }
 }
 

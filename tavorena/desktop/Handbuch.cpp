@@ -18,27 +18,10 @@
 
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Handbuch.h>
-#include <tavorena/worksheets/Blattart.h>
+#include <tavorena/shell/Handbuchseiten.h>
 
 namespace tavorena {
 namespace {
-
-// From the first help number of a page on, up to the next row.
-struct Seite {
-  int Ab;
-  const char* Datei;
-};
-constexpr Seite Seiten[] = {
-    {0, "index.md"},          {1000, "datei.md"},       {1030, "bearbeiten.md"},    {1035, "punktauswahl.md"},
-    {1040, "datei.md"},       {1045, "rohdaten.md"},    {1046, "datei.md"},         {1080, "stapel.md"},
-    {1090, "protokoll.md"},   {1100, "datei.md"},       {2000, "bearbeiten.md"},    {2010, "editor.md"},
-    {2020, "tabelle.md"},     {3000, "ansicht.md"},     {3010, "punktlisten.md"},   {3100, "grafik.md"},
-    {3110, "dxf.md"},         {3120, "grafikdruck.md"}, {4000, "rechenblatt.md"},   {4010, "editor.md"},
-    {4020, "vergeben.md"},    {4030, "loeschen.md"},    {4040, "mittelbildung.md"}, {4060, "loeschen.md"},
-    {4070, "rechenblatt.md"}, {4090, "theodolit.md"},   {4100, "rechenblatt.md"},   {5000, "index.md"},
-    {5030, "m5.md"},          {5040, "index.md"},       {6040, "setzung.md"},       {6050, "absteckung.md"},
-    {6060, "index.md"},       {8000, "index.md"},       {8020, "optionen.md"},      {8040, "index.md"},
-};
 
 QUrl Adresse(const QString& Datei) { return QUrl("qrc:/handbuch/" + Datei); }
 
@@ -50,7 +33,7 @@ QString Seitentext(const QString& Datei) {
 // All pages in the order in which the first one names them.
 QStringList AlleSeiten() {
   static const QRegularExpression Verweis("\\]\\(([a-z0-9]+\\.md)\\)");
-  QStringList Alle = {Seiten[0].Datei};
+  QStringList Alle = {Handbuchseite(0)};
   const QString Inhalt = Seitentext(Alle.first());
   for (const auto& Treffer : Verweis.globalMatch(Inhalt)) {
     if (!Alle.contains(Treffer.captured(1))) Alle << Treffer.captured(1);
@@ -149,7 +132,7 @@ class Handbuchfenster final : public QWidget {
   void LeisteBauen(QToolBar& Leiste) {
     QAction* Inhalt = Befehl("Inhalt", Qt::ALT | Qt::Key_Home, [this] {
       Suche->clear();
-      Öffnen(Seiten[0].Datei);
+      Öffnen(Handbuchseite(0));
     });
     QAction* Zurück = Befehl("Zurück", Qt::ALT | Qt::Key_Left, [this] { Seite->backward(); });
     QAction* Vor = Befehl("Vor", Qt::ALT | Qt::Key_Right, [this] { Seite->forward(); });
@@ -187,18 +170,6 @@ class Handbuchfenster final : public QWidget {
 };
 
 }  // namespace
-
-QString Handbuchseite(int Hilfenummer) {
-  const char* Datei = Seiten[0].Datei;
-  for (const Seite& S : Seiten) {
-    if (Hilfenummer >= S.Ab) Datei = S.Datei;
-  }
-  // A worksheet has a page of its own, for the ten numbers from its own one on.
-  for (const Blattart& Art : Blattarten()) {
-    if (Hilfenummer >= Art.Hilfenummer && Hilfenummer < Art.Hilfenummer + 10) Datei = Art.Seite;
-  }
-  return Datei;
-}
 
 void HandbuchZeigen(int Hilfenummer) {
   static QPointer<Handbuchfenster> Fenster;

@@ -11,7 +11,6 @@
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/TVWertdialog.h>
 #include <tavorena/points/TVPSelectForm.h>
-#include <tavorena/rawdata/TVTheoForm.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
@@ -153,12 +152,6 @@ void AnsichtProtokoll() { Ansehen(Prot.Datei); }
 void AnsichtStapel() { Ansehen(StapelDatei.Name); }
 void AnsichtKoordinaten() { Ansehen(KoordinatendateiName); }
 
-void AnsichtAllgemein() {
-  if (UmgebungPort().ProgrammStarten(Optionen.DateinameEditorNT, "") < 0) {
-    LaufzeitFehlerMeldung(Laufzeitfehler::DateiNichtGefunden, "Haupt.Ansicht");
-  }
-}
-
 void BlattÖffnen(const Blattart& Art) {
   if (StapelSchreibenOffen()) return StatusHilfeSetzen("Stapel noch nicht abgeschlossen");
   BlattZeigen(Art.Neu(Art));
@@ -194,18 +187,10 @@ void TexteditorWählen() {
 
 void Über() { Hinweis("Tavorena für PC\nVersion 3.0\nRelease 4"); }
 
-void Projektstand() {
-  Hinweis(
-      "Zu beachten:\n- Grafik für alle Katasterprogramme eingeführt\n  (Anschalten in \"Optionen | "
-      "Grafikfenster\")\n"
-      "- Hilfefunktion in der \"Statusleiste\" am unteren Bildrand\n  ist neu");
-}
-
 const Befehl Befehle[] = {
     {"MenüDateiNeu", false, DateiNeu},
     {"MenüDateiLesen(0)", false, [] { DateiLesenMit(Dateiformat::Kor, FilterKor, "*.kor"); }},
     {"MenüDateiLesen(2)", false, [] { DateiLesenMit(Dateiformat::Lt4, FilterEdbs, "*.alk"); }},
-    {"MenüDateiTheo", false, TheodolitZeigen, false, nullptr, 4090},
     {"MenüDateiSpeichern(0)", true, DateiSpeichern},
     {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},
     {"MenüDateiStapel", true, Stapelbearbeitung},
@@ -217,10 +202,6 @@ const Befehl Befehle[] = {
     {"MenüDateiHinzuLesenPunktbereich", true, HinzuPunktbereich, true},
     {"MenüDateiHinzuLesenPunktselektion", true, HinzuPunktselektion, true},
     {"MenüAnsichtGrafik(1)", true, [] { AnzeigePort().GrafikZeigen(); }},
-    {"MenüAnsichtTextPad(0)", true, AnsichtProtokoll},
-    {"MenüAnsichtTextPad(1)", true, AnsichtStapel},
-    {"MenüAnsichtTextPad(2)", true, AnsichtKoordinaten},
-    {"MenüAnsichtTextPad(3)", true, AnsichtAllgemein},
     {"MenüAnsichtKoordinatendatei", true, AnsichtKoordinaten},
     {"MenüAnsichtProtokolldatei", true, AnsichtProtokoll},
     {"MenüAnsichtStapeldatei", true, AnsichtStapel},
@@ -228,8 +209,6 @@ const Befehl Befehle[] = {
     {"MenüFunktErsetzen", true, TextErsetzen},
     {"MenüOptionenOptionen", false, TVOptionenformZeigen},
     {"MenüOptionenDateinamen(0)", false, TexteditorWählen},
-    {"MenüInfoÜberAlt", false, Über},
-    {"MenüInfoProjektstand", false, Projektstand},
     {"MenüInfoHandbuch", false, [] { AnzeigePort().HandbuchZeigen(); }},
     {"MenüInfoÜber", false, Über},
 };

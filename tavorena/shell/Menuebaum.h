@@ -6,11 +6,11 @@ namespace tavorena {
 
 /// An entry of the menu tree. The order of the table is the order in the menu.
 struct Menüeintrag {
-  const char* Name;        ///< control name; of an array with its index
-  const char* Titel;       ///< caption; "" a separator
-  int Hilfe;               ///< help number; 0 that of its menu
-  const char* Eltern;      ///< name of the menu it stands in; "" the menu bar
-  bool Verborgen = false;  ///< kept for building the same tree, not shown at start
+  const char* Name;                 ///< control name; of an array with its index
+  const char* Titel;                ///< caption; "" a separator
+  int Hilfe;                        ///< help number; 0 that of its menu
+  const char* Eltern;               ///< name of the menu it stands in; "" the menu bar
+  const char* Verborgen = nullptr;  ///< why it is never shown: kept for building the same tree
 };
 std::span<const Menüeintrag> Menübaum();
 

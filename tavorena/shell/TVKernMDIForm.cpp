@@ -25,7 +25,6 @@ int IndexVon(std::string_view Name) {
 }
 
 constexpr std::string_view OhneDatei = "keine Koordinatendatei offen";
-constexpr std::string_view Fehlt = "noch nicht vorhanden";
 constexpr std::string_view Rücknahmebefehl = "MenüBearbeitenRück";
 
 bool IstHist(const Menüeintrag& E) { return std::string_view(E.Name).starts_with("MenüDateiHist("); }
@@ -62,38 +61,31 @@ void TVKernMDIForm::DateiOffen() {
   AnzeigePort().HauptfensterGeändert();
 }
 
-bool TVKernMDIForm::Sichtbar(const Menüeintrag& E) const {
+std::string_view TVKernMDIForm::VerborgenWeil(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
-  if (IstHist(E)) return HistIndex(IndexVon(Name)) >= 0;
-  if (Name.starts_with("MenüDateiCondorLesen")) return Optionen.CondorfensterAn;
+  if (E.Verborgen != nullptr) return E.Verborgen;
+  if (IstHist(E)) return HistIndex(IndexVon(Name)) >= 0 ? "" : "leerer Eintrag";
+  if (Name.starts_with("MenüDateiCondorLesen"))
+    return Optionen.CondorfensterAn ? "" : "nur mit Condorfenster";
   if (IstEinerVon(Name, {"MenüMain(5)", "MenüMain(6)", "MenüDateiImportierenMain", "MenüDateiExportierenMain",
                          "MenüBearbeiten3D"}))
-    return Offen;
-  return !E.Verborgen;
+    return Offen ? "" : "erst mit offener Koordinatendatei";
+  const Menüeintrag* Eltern = MenüFinden(E.Eltern);
+  return Eltern != nullptr && Eltern->Verborgen != nullptr ? Eltern->Verborgen : "";
 }
 
 std::string_view TVKernMDIForm::Grund(const Menüeintrag& E) const {
   const std::string_view Name = E.Name;
+  if (const std::string_view Warum = VerborgenWeil(E); !Warum.empty()) return Warum;
   if (Lang) return "langer Lauf";
-  if (Name.starts_with("MenüMain(")) {
-    return Offen || !IstEinerVon(Name,
-                                 {"MenüMain(2)", "MenüMain(3)", "MenüMain(4)", "MenüMain(9)", "MenüMain(10)"})
-               ? ""
-               : OhneDatei;
-  }
-  if (IstHist(E))
-    return HistIndex(IndexVon(Name)) < 0 ? "kein Eintrag" : Offen ? "Koordinatendatei offen" : "";
-  if (Offen && Name == Rücknahmebefehl && TabellenRücknahme.Leer()) return "nichts zurückzunehmen";
+  if (IstHist(E)) return Offen ? "erst die Koordinatendatei schließen" : "";
+  if (Name == Rücknahmebefehl && Offen && TabellenRücknahme.Leer()) return "nichts zurückzunehmen";
   if (const Befehl* B = BefehlFinden(Name)) return Offen || !B->MitDatei ? "" : OhneDatei;
-  // A submenu can be opened when one of its entries can be used; else what helps most is told.
-  std::string_view Warum = Fehlt;
-  for (const Menüeintrag& U : Menübaum()) {
-    if (U.Eltern != Name || !Sichtbar(U)) continue;
-    const std::string_view G = Grund(U);
-    if (G.empty() || G == OhneDatei) Warum = G;
-    if (G.empty()) break;
-  }
-  return Warum;
+  // A menu can be opened when one of its entries can be used.
+  const auto Frei = [&](const Menüeintrag& U) {
+    return U.Eltern == Name && *U.Titel != '\0' && Grund(U).empty();
+  };
+  return std::any_of(Menübaum().begin(), Menübaum().end(), Frei) ? "" : OhneDatei;
 }
 
 std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
@@ -108,11 +100,12 @@ std::string TVKernMDIForm::Titel(const Menüeintrag& E) const {
 }
 
 std::string_view TVKernMDIForm::Grund(const Werkzeug& W) const {
-  if (std::string_view(W.Name) == "ImageStop") return Lang || Stapel.Aktiv ? "" : "kein langer Lauf";
+  if (std::string_view(W.Name) == "ImageStop")
+    return Lang || Stapel.Aktiv ? "" : "nur während eines langen Laufs";
   if (BlätterOffen() && IstEinerVon(W.Name, {"ImageProgrammende", "ImageDateiLesen", "ImageOptionen"}))
     return "Rechenblatt offen";
   const Menüeintrag* E = MenüFinden(W.Eintrag);
-  return E != nullptr ? Grund(*E) : Fehlt;
+  return E != nullptr ? Grund(*E) : OhneDatei;
 }
 
 std::string TVKernMDIForm::Hinweis(const Werkzeug& W) const {

@@ -25,10 +25,12 @@ class TVKernMDIForm {
   [[nodiscard]] bool IstBeschäftigt() const { return Lang; }
 
   // ---- what the window shows
-  [[nodiscard]] bool Sichtbar(const Menüeintrag& E) const;
+  /// Why an entry is not shown; "" if it is, or stands in a menu that comes with an open file.
+  [[nodiscard]] std::string_view VerborgenWeil(const Menüeintrag& E) const;
+  [[nodiscard]] bool Sichtbar(const Menüeintrag& E) const { return VerborgenWeil(E).empty(); }
   /// @{
   /// Why an entry or an image can not be used, in words for the user; "" if it can. Menus, tool tips, the
-  /// help text of the status bar and the console all tell this one.
+  /// help text of the status bar and the console all tell this one. A hidden entry can not be used.
   [[nodiscard]] std::string_view Grund(const Menüeintrag& E) const;
   [[nodiscard]] std::string_view Grund(const Werkzeug& W) const;
   /// @}

@@ -347,7 +347,7 @@ TEST_F(Programm, MenüWieImFenster) {
        {"MenüDateiNeu\tKoordinatendatei &neu ...\tMenüMain(1)\tfrei\t\n",
         "MenüDateiStrich1\t\tMenüMain(1)\tStrich\t\n",
         "MenüKatasterLinel\t&Linienelemente\tMenüMain(4)\tgesperrt\tkeine Koordinatendatei offen\n",
-        "MenüTestPanik\t&Panik-Exit\tMenüMain(10)\tverborgen\tnoch nicht vorhanden\n",
+        "MenüTestPanik\t&Panik-Exit\tMenüMain(10)\tverborgen\tgehört nur zum Baum\n",
         "ImageFStat\tFreie Stationierung / Polarer Anschluß\tSymbolleiste\tgesperrt\tkeine "
         "Koordinatendatei offen\n"}) {
     EXPECT_NE(Aus.find(Zeile), std::string::npos) << Zeile;

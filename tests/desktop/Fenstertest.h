@@ -15,6 +15,7 @@
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Handbuch.h>
+#include <tavorena/shell/Handbuchseiten.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/forms/Punktnummer.h>

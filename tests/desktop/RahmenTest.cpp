@@ -239,8 +239,8 @@ class RahmenTest final : public Fensterumgebung {
     QVERIFY(Dialoge.empty());
     static const QRegularExpression Verweis("\\]\\(([^)]+)\\)");
     for (int Nummer = 0; Nummer < 9000; Nummer += 10) {
-      const QByteArray Seite = Inhalt(":/handbuch/" + Handbuchseite(Nummer));
-      QVERIFY2(!Seite.isEmpty(), qPrintable(Handbuchseite(Nummer)));
+      const QByteArray Seite = Inhalt(QString(":/handbuch/") + Handbuchseite(Nummer));
+      QVERIFY2(!Seite.isEmpty(), Handbuchseite(Nummer));
       for (const auto& Treffer : Verweis.globalMatch(QString::fromUtf8(Seite))) {
         QVERIFY2(QFile::exists(":/handbuch/" + Treffer.captured(1)), qPrintable(Treffer.captured(1)));
       }
