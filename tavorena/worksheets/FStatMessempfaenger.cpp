@@ -1,3 +1,4 @@
+#include <tavorena/rawdata/Rohzeichen.h>
 #include <tavorena/worksheets/FStatMessempfaenger.h>
 #include <tavorena/worksheets/TVFStatForm.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
@@ -11,6 +12,12 @@ bool Brauchbar(const Messwert& W) { return W.Da && W.Gelesen; }
 std::string Symbol(const Messtext& Code) {
   const bool Keiner = !Code.Da || Code.Text.find_first_not_of('-') == std::string::npos || Code.Text == "0";
   return Keiner ? "" : Code.Text;
+}
+
+// As the worksheets have it; one of zeros alone is none.
+std::string Punktnummer(const Messtext& Nummer) {
+  const std::string_view Rest = OhneFührendeNullen(Nummer.Text);
+  return !Nummer.Da || Rest == "0" ? "" : std::string(Rest);
 }
 
 Messort Ort(const Gitter& G, Messort Zelle) {
@@ -51,6 +58,10 @@ int FStatMessempfänger::MessungNehmen(const Messsatz& Satz) {
   Form.Ereignis([&] {
     if (Wohin == Messort::Anschlussgitter) Ergebnis = Form.Anschlüsse().MessungNehmen(M);
     if (Wohin == Messort::Polargitter) Ergebnis = Form.Kleinpunkte().MessungNehmen(M, Symbol(Satz.Code));
+    if (Wohin != Messort::Schnurgerüst) return;
+    Form.ReflektorhöheSetzen(M.Zielhöhe);  // there is no cell for it there
+    Form.Schnurgerüst().MessungNehmen(Punktnummer(Satz.Nummer), M, Symbol(Satz.Code));
+    Ergebnis = 0;
   });
   return Ergebnis;
 }

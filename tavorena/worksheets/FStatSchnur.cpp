@@ -241,6 +241,7 @@ bool FStatSchnur::FStatSchnurÜbernehmen() {
   };
   if (!Bezug.Ganz()) return Fehlt(LiniePnr, "Linie fehlt");
   if (Pnr.Text->empty()) return Fehlt(Pnr, "Punktnummer fehlt");
+  if (!WortPrüfen(Pnr.Text)) return Form.FokusSetzen(Pnr), false;
   if (!Punkt) return Fehlt(Hz.Eingabe, "Messung fehlt");
   Schnurpunkt Neu;
   Neu.Punkt.Pnr = *Pnr.Text;

@@ -33,6 +33,8 @@ class FStatSchnur {
   [[nodiscard]] bool HatFokus() const;
   /// A measurement of the instrument. @param[in] Nummer, Symbol  "": that which is typed stays
   void MessungNehmen(const std::string& Nummer, const Stationsmessung& M, const std::string& Symbol);
+  /// The point of the measurement that is typed, with the reflector height as it is now.
+  void Rechnen();
   /// A measurement with a number was not taken over.
   [[nodiscard]] bool HatOffenes() const;
   /// Points of this station were taken over.
@@ -65,7 +67,6 @@ class FStatSchnur {
   [[nodiscard]] bool FStatSchnurSetzeLinienPunkt();
   void FStatSchnurNeueLinie();
   void FStatSchnurEnde();
-  void Rechnen();
   void Zeigen();
   void ElementeZeigen(const Bezugslinie& L, Feld& Längs, Feld& Quer) const;
   void MessungLeeren();

@@ -75,6 +75,7 @@ void TVFStatForm::KopfAnlegen() {
   Instrument.Eingabe.Hilfe = "Kippachse über dem Standpunkt in m";
   Reflektor.Eingabe.Hilfe = "Zielhöhe neuer Zeilen in m";
   Instrument.BeiWechsel = [this] { Wechsel(false); };
+  Reflektor.BeiWechsel = [this] { Schnur.Rechnen(); };
   for (Messfeld* M : {&Instrument, &Reflektor}) M->Eingabe.Zeichen = 8;
 }
 
@@ -127,6 +128,10 @@ bool TVFStatForm::StandpunktLesen() {
   Bekannter.reset();
   Rücksetzen();
   return true;
+}
+
+void TVFStatForm::ReflektorhöheSetzen(double Höhe) {
+  if (Höhen && Höhe != Reflektor.Zahl()) Reflektor.Setzen(Höhe);
 }
 
 bool TVFStatForm::StandpunktSetzen(const std::string& Pnr, const std::string& Symbol, const Wert& Höhe,

@@ -45,6 +45,8 @@ class TVFStatForm final : public Rechenblatt {
   [[nodiscard]] std::string Standpunkt() const { return *StandPnr.Text; }
   [[nodiscard]] Wert Instrumentenhöhe() const;
   [[nodiscard]] double Reflektorhöhe() const { return Reflektor.Zahl(); }
+  /// That of the next row [m]; nothing where no heights are carried.
+  void ReflektorhöheSetzen(double Höhe);
   [[nodiscard]] bool StandpunktBekannt() const { return Bekannter.has_value(); }
   /// The station as it was computed; only from FStatStatus::Gerechnet on.
   [[nodiscard]] const Stationsergebnis& Ergebnis() const { return Station; }

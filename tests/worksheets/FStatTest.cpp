@@ -73,6 +73,13 @@ TEST_F(FStatTest, FreieStation) {
   EXPECT_TRUE(Gleich(Text(*B, "FstatAbwAnz"), "Abw.anzeigen", *Abw.Sichtbar, false));
   EXPECT_EQ(Drücken(), "FStatPolarGitter");
   EXPECT_TRUE(Gleich(B->Titel, "Freie Stationierung: Polare Punkte", Knopftext(), "Pkte übernehmen"));
+  Drücke(*B, "FStatSchnur");
+  Tippe(*B, "FStatSchnurHz", "35,2217\n97,7976\n49,8716\n");
+  for (const auto& [t, Höhe] : {std::pair{"2,6\n", "11.875"}, {"1,6\n", "12.875"}}) {
+    Tippe(*B, "FStatReflektorHöhe", t);  // changed behind the measurement
+    EXPECT_EQ(Text(*B, "FStatSchnurHöhe"), Höhe);
+  }
+  Drücke(*B, "FStatSchnurEnde");
   Tippe(*B, "FStatPolarGitter", "3010\n35,2217\n97,7976\n49,8716\n\n020\n\n");
   Tippe(*B, "FStatPolarGitter", "3011\n21,97\n100,1788\n53,4064\n\n\n3010\n");
   EXPECT_EQ(KorAnzahl, 7);  // nothing but the station is stored before the button

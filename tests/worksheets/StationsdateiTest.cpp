@@ -1,6 +1,8 @@
 #include "Blattest.h"
 
 #include <tavorena/core/Optionen.h>
+#include <tavorena/rawdata/GSI.h>
+#include <tavorena/rawdata/Messempfaenger.h>
 #include <tavorena/records/Spalten.h>
 #include <tavorena/worksheets/Anschlusswahl.h>
 #include <tavorena/worksheets/Messdatei.h>
@@ -90,7 +92,14 @@ TEST_F(Stationsdatei, Schnurgerüst) {
   Drücke(*B, "FStatSchnurÜbernehmen");
   Drücke(*B, "FStatSchnurNeueLinie");
   Tippe(*B, "FStatSchnurLiniePnr", "1002\n1001\n");
-  Tippe(*B, "FStatSchnurPnr", "4002\n260,5889\n100\n40,8191\n\n");
+  Messsatz Satz;
+  GSIZeileLesen8(
+      "110001+00004002 21.322+26058890 22.322+10000000 31...6+00408191 71....+00000018 87..10+00001500",
+      Satz);
+  ASSERT_EQ(MessempfängerJetzt()->MessungNehmen(Satz), 0);
+  B->TasteDrücken(Taste::Return);
+  EXPECT_TRUE(Gleich(B->Fokus()->Name, "FStatSchnurÜbernehmen", Text(*B, "FStatSchnurSy"), "18",
+                     Text(*B, "FStatReflektorHöhe"), "1.500"));
   EXPECT_TRUE(Gleich(Text(*B, "FStatSchnurLinie"), "58.000", Text(*B, "FStatSchnurLinieVorige"), "42.000"));
   Drücke(*B, "FStatSchnurÜbernehmen");
   EXPECT_EQ(Neu("4002"), Neu("2003"));
