@@ -157,7 +157,6 @@ void FStatSchnur::FStatSchnurNeueLinie() {
   Verbunden = false;
   for (Schnurpunkt& P : Punkte) Fertige.Punkt({P.Punkt.Pnr, P.Punkt.Rechts, P.Punkt.Hoch, "", FarbeRot});
   Punkte.clear();
-  Gespeichert = 0;
   LiniePnr.Text = "";
   LiniePnr.Fehlerhaft = false;
   Zeigen();

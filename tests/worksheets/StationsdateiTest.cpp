@@ -107,6 +107,8 @@ TEST_F(Stationsdatei, Schnurgerüst) {
   EXPECT_TRUE(Gleich(Neu("4002"), "", Anzahl(Stapeltext(), "C  Schnurgerüst: 400"), 1,
                      Anzahl(Protokoll(), "Linienelemente (Schnurgerüst)") > 0, true));
   Drücke(*B, "FStatSchnurEnde");
+  Drücke(*B, "FstatZurück");  // 4001 stands on it, though its line is done
+  EXPECT_EQ(Text(*B, "FstatBerechnen"), "Pkte übernehmen");
   Drücke(*B, "FstatBerechnen");  // the polar rows stand under their own head again
   B->SchließenVerlangen();
   EXPECT_TRUE(GleichSoll(Protokoll(), "worksheets/soll/fstat_schnur.dru"));
