@@ -18,7 +18,7 @@ bool Umformen(const Aufruf& A, const Umfeld& U) {
   std::string Grund;
   if (!RohwahlLesen(A, Wahl)) return false;
   if (M5Lesen(A.Datei, Wahl, Roh, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + A.Datei + InKlammern(Grund));
+    LesefehlerMelden(A.Datei, Grund);
     return false;
   }
   for (const std::string& Zeile : RohdatenBericht(Roh)) U.Ausgabe << Zeile << '\n';

@@ -378,7 +378,7 @@ int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maxi
   Listen = {};
   std::string Inhalt, Grund;
   if (TextdateiLesen(Dateiname, Inhalt, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Dateiname + InKlammern(Grund));
+    LesefehlerMelden(Dateiname, Grund);
     return -1;
   }
   Zeilenleser Leser(Inhalt);

@@ -31,6 +31,7 @@ const char* Beschreibung(Laufzeitfehler Fehler) {
 }
 
 const char* const Fehlertitel = "Tavorena Fehlermeldung";
+const char* const Schreibfehler = "Fehler aufgetreten beim Schreiben in";
 
 std::string Fehlertext(Laufzeitfehler Fehler, const std::string& Ort) {
   return "Fehler " + std::to_string(static_cast<int>(Fehler)) + " in " + Ort +
@@ -64,7 +65,7 @@ void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Zitat(Pn
 int AktenSichern() {
   std::string Name;
   if (AnhängeSichern(&Name) == 0) return 0;
-  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Name);
+  SchreibfehlerMelden(Name);
   return -1;
 }
 
@@ -81,11 +82,19 @@ std::string InKlammern(const std::string& Grund) { return Grund.empty() ? "" : "
 int SchreibfehlerFrage(const std::string& Datei, const std::string& Grund, const std::string& Stelle) {
   const std::string Was = "\n" + Datei + (Grund.empty() ? "" : "\n(" + Grund + ")");
   if (Stelle.empty()) {
-    return FragenPort().Meldung("Fehler aufgetreten beim Schreiben in" + Was, Knöpfe::NochmalsOhneProtokoll,
-                                "Tavorena", KnopfNochmals);
+    return FragenPort().Meldung(Schreibfehler + Was, Knöpfe::NochmalsOhneProtokoll, "Tavorena",
+                                KnopfNochmals);
   }
   return FragenPort().Meldung(Fehlertext(Laufzeitfehler::EinAusgabe, Stelle) + Was,
                               Knöpfe::NochmalsOhneStapel, Fehlertitel, KnopfNochmals);
+}
+
+void LesefehlerMelden(const std::string& Datei, const std::string& Grund) {
+  Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+}
+
+void SchreibfehlerMelden(const std::string& Datei, const std::string& Grund) {
+  Hinweis(Schreibfehler + ("\n" + Datei) + InKlammern(Grund));
 }
 
 void SpeicherfehlerMelden(const std::string& Datei, const std::string& Grund, const std::string& Ort) {

@@ -56,6 +56,10 @@ std::string InKlammern(const std::string& Grund);
 /// stands in front of all.
 void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort, const std::string& Vorspann = "");
 
+/// A file can not be read: "Datei nicht gefunden:", its name and the reason.
+void LesefehlerMelden(const std::string& Datei, const std::string& Grund);
+/// What was to go into a file did not: "Fehler aufgetreten beim Schreiben in", its name and the reason.
+void SchreibfehlerMelden(const std::string& Datei, const std::string& Grund = "");
 /// A file could not be written: its name and the reason, and number 70, or 76 where its folder is missing.
 void SpeicherfehlerMelden(const std::string& Datei, const std::string& Grund, const std::string& Ort);
 

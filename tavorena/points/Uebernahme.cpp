@@ -184,7 +184,7 @@ int VergleichspunkteLesen(const std::string& Datei, bool Höhenliste, std::vecto
   Andere = 0;
   std::string Inhalt, Grund;
   if (TextdateiLesen(Datei, Inhalt, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+    LesefehlerMelden(Datei, Grund);
     return -1;
   }
   Zeilenleser Leser(Inhalt);

@@ -13,6 +13,7 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/rawdata/Absteckung.h>
+#include <tavorena/rawdata/Rohzeichen.h>
 #include <tavorena/rawdata/Stationsfolge.h>
 #include <tavorena/rawdata/Stationsrechnung.h>
 #include <tavorena/records/FStat.h>
@@ -84,18 +85,13 @@ struct Standort {
   std::string Hindernis = "Kein Anschlußpunkt vorhanden !";  // why it was not computed; "" it was
 };
 
-// The log may write a number as the instrument does, or as it was read.
-std::string_view OhneNullen(std::string_view Pnr) {
-  return Pnr.substr(std::min(Pnr.find_first_not_of('0'), Pnr.size()));
-}
-
 Wert Höhenwert(double Höhe) { return Höhe != 0 ? Wert(Höhe) : Wert(); }
 
 class Bericht {
  public:
   Bericht(const Absteckauftrag& A, Absteckzahlen& Z) : Auftrag(A), Zahlen(Z), Aus(A.SollDatei) {
     for (const Vergleichspunkt& P : A.Soll) Soll.try_emplace(P.Pnr, &P);
-    for (const FlgBlock& B : A.Flg) Log[OhneNullen(B.Standpunkt)].push_back(&B);
+    for (const FlgBlock& B : A.Flg) Log[OhneFührendeNullen(B.Standpunkt)].push_back(&B);
   }
 
   [[nodiscard]] int Schreiben(std::string& Text) {
@@ -137,7 +133,7 @@ class Bericht {
   void StationBestimmen(const Rohstation& S) {
     ++Zahlen.Stationen;
     Aus.Beginnen(TitelStation);
-    if (const auto B = Log.find(OhneNullen(S.Standpunkt)); B != Log.end()) {
+    if (const auto B = Log.find(OhneFührendeNullen(S.Standpunkt)); B != Log.end()) {
       for (const FlgBlock* Stück : B->second) Aus.Reihe(FlgZeilen(*Stück));
     }
     Rechnen(S);
@@ -260,7 +256,8 @@ class Bericht {
   Absteckzahlen& Zahlen;
   Seiten Aus;
   std::unordered_map<std::string, const Vergleichspunkt*> Soll;
-  std::unordered_map<std::string_view, std::vector<const FlgBlock*>> Log;  // by number
+  // By number, which may stand there as the instrument writes it, or as it was read.
+  std::unordered_map<std::string_view, std::vector<const FlgBlock*>> Log;
   Standort Stand;
 };
 
@@ -305,7 +302,7 @@ int RohdatenBerichtAbsteckung(const Absteckauftrag& A, const std::string& Datei,
   std::string Text, Grund;
   if (Absteckbericht(A, Text, Zahlen) < 0) return -1;
   if (DateiErsetzen(Datei, Text, &Grund) == 0) return 0;
-  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei + InKlammern(Grund));
+  SchreibfehlerMelden(Datei, Grund);
   return -1;
 }
 

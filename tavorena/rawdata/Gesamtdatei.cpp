@@ -198,7 +198,7 @@ int GesamtdateiLesen(const std::string& Name, Gesamtdatei& G, Dateistand* Stand)
   const Dateistand Vorher = DateistandVon(Name);
   std::string Text, Grund;
   if (TextdateiLesen(Name, Text, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Name + InKlammern(Grund));
+    LesefehlerMelden(Name, Grund);
     return -1;
   }
   if (GesamtdateiAusText(Text, G, Grund) < 0) {

@@ -14,7 +14,7 @@ template <typename Funktion>
 int ZeilenLesen(const std::string& Datei, const Funktion& Nehmen) {
   std::string Inhalt, Grund;
   if (TextdateiLesen(Datei, Inhalt, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+    LesefehlerMelden(Datei, Grund);
     return -1;
   }
   Zeilenleser Leser(Inhalt);

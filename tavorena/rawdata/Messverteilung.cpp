@@ -8,17 +8,12 @@
 #include <tavorena/rawdata/GSI.h>
 #include <tavorena/rawdata/Messempfaenger.h>
 #include <tavorena/rawdata/Messverteilung.h>
+#include <tavorena/rawdata/Rohzeichen.h>
 
 namespace tavorena {
 namespace {
 
 constexpr std::string_view Stationscode = "60", Stationsblatt = "tvfstatform";
-
-// Numbers are compared as the worksheet has them.
-std::string OhneNullen(const std::string& Nummer) {
-  const std::size_t Ab = Nummer.find_first_not_of("+0");
-  return Ab != std::string::npos ? Nummer.substr(Ab) : "0";
-}
 
 bool Vollständig(const Messsatz& S) {
   const std::array<const Messwert*, 3> Nötig{&S.Hz, &S.V, &S.Strecke};
@@ -53,12 +48,13 @@ void Messverteilung::Codezeileverteilen(Messempfänger& E, const Codeblock& Bloc
 
 void Messverteilung::Standpunkt(Messempfänger& E, const std::string& Nummer,
                                 const Messwert& Instrumentenhöhe) {
-  if (!E.Standpunkt().empty() && OhneNullen(E.Standpunkt()) != OhneNullen(Nummer)) {
+  const std::string Neue(OhneFührendeNullen(Nummer));
+  if (!E.Standpunkt().empty() && OhneFührendeNullen(E.Standpunkt()) != Neue) {
     return Hinweis(
         "Für neuen Standpunkt bitte Formular verlassen und \nFreie Stationierung / Polaren Anschluß neu "
         "aufrufen !");
   }
-  E.Blatt().Ereignis([&] { E.StandpunktNehmen(OhneNullen(Nummer), Instrumentenhöhe); });
+  E.Blatt().Ereignis([&] { E.StandpunktNehmen(Neue, Instrumentenhöhe); });
 }
 
 void Messverteilung::Messzeileverteilen(Messempfänger& E) {

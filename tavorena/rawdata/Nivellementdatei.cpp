@@ -65,7 +65,7 @@ Nivzeilenart NivzeileLesen(std::string_view Zeile, Nivzeile& P, std::string& Nam
 int NivDateiLesen(const std::string& Datei, std::vector<Nivlinie>& Linien) {
   std::string Inhalt, Grund;
   if (TextdateiLesen(Datei, Inhalt, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+    LesefehlerMelden(Datei, Grund);
     return -1;
   }
   std::vector<Nivlinie> Neue(1);

@@ -20,7 +20,7 @@ constexpr int MaxWert = 9;  // of a code block
 int GsiOderGreLesen(const std::string& Datei, const Rohdatenwahl& Wahl, Rohdaten& Daten) {
   std::string Grund;
   const int Ergebnis = RohdatenLesen(Datei, Wahl, Daten, &Grund);
-  if (Ergebnis == -1) Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+  if (Ergebnis == -1) LesefehlerMelden(Datei, Grund);
   return Ergebnis;
 }
 

@@ -142,7 +142,7 @@ int PolSchreiben(const std::string& Datei, const Polnachweis& N, bool Anhängen)
 int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle) {
   std::string Bytes, Grund;
   if (DateiLesen(Datei, Bytes, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+    LesefehlerMelden(Datei, Grund);
     return -1;
   }
   Alle = PolLesen(Bytes);

@@ -193,7 +193,7 @@ int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::st
   for (const std::string& Zeile : ProtKopfzeilen(V, Name, Prot.Seite)) Text += Zeile + "\r\n";
   std::string Grund;
   if (TextAnhängen(Datei, Text, &Grund) == 0) return 0;
-  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei + InKlammern(Grund));
+  SchreibfehlerMelden(Datei, Grund);
   return -1;
 }
 

@@ -162,18 +162,17 @@ void TextErsetzen() {
   Wertfeld Felder[] = {{"zu ändernde Datei", ""}, {"Suchen nach...", ""}, {"Ersetzen durch...", ""}};
   if (DreiWerte("Tavorena Text ersetzen", Felder) < 0 || Felder[1].Wert.empty()) return;
   const std::string &Datei = Felder[0].Wert, &Such = Felder[1].Wert, &Ersatz = Felder[2].Wert;
-  std::string Bytes, Text;
-  if (DateiLesen(Datei, Bytes) < 0 || TextdateiLesen(Datei, Text) < 0)
-    return Hinweis("Datei nicht gefunden:\n" + Datei);
+  std::string Bytes, Text, Grund;
+  if (DateiLesen(Datei, Bytes, &Grund) < 0 || TextdateiLesen(Datei, Text, &Grund) < 0)
+    return LesefehlerMelden(Datei, Grund);
   int Anzahl = 0;
   for (std::size_t i = Text.find(Such); i != std::string::npos; i = Text.find(Such, i + Ersatz.size())) {
     Text.replace(i, Such.size(), Ersatz);
     ++Anzahl;
   }
   if (Anzahl == 0) return Hinweis("Kein Eintrag \"" + Such + "\"\n" + Datei + "\ngefunden");
-  if (DateiErsetzen(Datei, IstUtf8(Bytes) ? Text : NachWindows1252(Text)) < 0) {
-    return Hinweis("Fehler aufgetreten beim Schreiben in\n" + Datei);
-  }
+  if (DateiErsetzen(Datei, IstUtf8(Bytes) ? Text : NachWindows1252(Text), &Grund) < 0)
+    return SchreibfehlerMelden(Datei, Grund);
   Hinweis(std::to_string(Anzahl) + " mal \"" + Such + "\" durch \"" + Ersatz + "\"\n" + Datei + "\nersetzt");
 }
 

@@ -29,7 +29,7 @@ int Ablegen(const std::string& Ziel, const std::string& Bytes) {
   if (Antwort < 0) return -1;
   std::string Grund;
   if ((Antwort == 0 ? BytesAnhängen(Ziel, Bytes, &Grund) : DateiErsetzen(Ziel, Bytes, &Grund)) == 0) return 0;
-  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Ziel + InKlammern(Grund));
+  SchreibfehlerMelden(Ziel, Grund);
   return -1;
 }
 

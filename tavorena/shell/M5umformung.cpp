@@ -19,7 +19,7 @@ constexpr const char* M5Titel = "Tavorena Trimble-M5->örtliche Koordinaten";
 int Lesen(const std::string& Datei, const Rohdatenwahl& Wahl, Rohdaten& Roh) {
   std::string Grund;
   const int Ergebnis = M5Lesen(Datei, Wahl, Roh, &Grund);
-  if (Ergebnis == -1) Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+  if (Ergebnis == -1) LesefehlerMelden(Datei, Grund);
   return Ergebnis;
 }
 

@@ -134,7 +134,7 @@ std::string ZielFragen(const Rohquelle& Q, const char* Filter, const std::string
 // What a conversion did: where something was lost, in a box.
 void Melden(const std::string& Ziel, int Ergebnis, const Umwandlung& U, const std::string& Grund) {
   if (Ergebnis == -2) return StatusHilfeSetzen("angehalten, nichts geschrieben");
-  if (Ergebnis < 0) return Hinweis("Fehler aufgetreten beim Schreiben in\n" + Ziel + InKlammern(Grund));
+  if (Ergebnis < 0) return SchreibfehlerMelden(Ziel, Grund);
   const auto Zahl = [](std::size_t n, const char* Eins, const char* Viele) {
     return Anzahltext(static_cast<int>(n), Eins, Viele);
   };

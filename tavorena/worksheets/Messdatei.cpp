@@ -26,7 +26,7 @@ bool IstDat(const std::string& Datei) { return Großtext(DateinameZerlegen(Datei
 int DatLesen(const std::string& Datei, const Rohdatenwahl& /*Wahl*/, Rohdaten& Daten) {
   std::string Text, Grund;
   if (TextdateiLesen(Datei, Text, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+    LesefehlerMelden(Datei, Grund);
     return -1;
   }
   Rohdaten Neu;
@@ -46,7 +46,7 @@ int Lesen(const std::string& Datei, const Rohdatenwahl& Wahl, Rohdaten& Daten) {
   if (IstDat(Datei)) return DatLesen(Datei, Wahl, Daten);
   std::string Grund;
   const int Ergebnis = RohdatenLesen(Datei, Wahl, Daten, &Grund);
-  if (Ergebnis == -1) Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
+  if (Ergebnis == -1) LesefehlerMelden(Datei, Grund);
   return Ergebnis < 0 ? -1 : 0;
 }
 
