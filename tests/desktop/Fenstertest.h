@@ -88,7 +88,10 @@ inline void Drücke(Qt::Key Taste, Qt::KeyboardModifiers Mit = Qt::NoModifier) {
   QCoreApplication::processEvents();
 }
 
-inline QString Feldtext() { return qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(); }
+inline QString Feldtext() {
+  const auto* F = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  return F != nullptr ? F->text() : QString();
+}
 
 inline void Schreibe(const QString& Name, const QByteArray& Bytes) {
   QFile Datei(Name);
