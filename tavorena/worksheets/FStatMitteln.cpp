@@ -52,10 +52,19 @@ bool FStatMitteln::Mitteln() {
   Kleinpunktgitter& G = Form.Kleinpunkte();
   if (!G.Lesen()) return false;
   const std::vector<Kleinpunkteingabe> Zweite = G.Zurückholen(), Erste = G.Zeilen();
-  const std::vector<Kleinpunkteingabe> Alle = MessungenMitteln(Standpunkt(), Erste, Zweite);
+  const std::vector<std::optional<std::size_t>> Paare = Messpaare(Erste, Zweite);
+  std::vector<bool> Gemittelt(Zweite.size());
   bool Gut = true;
-  for (std::size_t i = 0; i < Alle.size(); ++i)
-    Gut = (i < Erste.size() ? G.Ändern(i, Alle[i]) : G.Hinzufügen(Alle[i])) && Gut;
+  for (std::size_t i = 0; i < Erste.size(); ++i) {
+    if (!Paare[i]) continue;
+    const std::size_t j = *Paare[i];
+    const int Ergebnis = G.Ändern(i, ZeilenMitteln(Standpunkt(), {Erste[i], Zweite[j]}));
+    Gemittelt[j] = Ergebnis >= 0;
+    Gut = Ergebnis == 0 && Gut;
+  }
+  for (std::size_t j = 0; j < Zweite.size(); ++j) {  // nothing that was measured is lost
+    if (!Gemittelt[j]) Gut = G.Hinzufügen(Zweite[j]) && Gut;
+  }
   Form.ZustandZeigen();
   return Gut;
 }
@@ -69,11 +78,13 @@ void FStatMitteln::MesspunkteMitteln(const std::vector<int>& Zeilen) {
   const std::vector<Kleinpunkteingabe> Alle = G.Zeilen();
   std::vector<Kleinpunkteingabe> Gruppe;
   for (const int z : Zeilen) Gruppe.push_back(Alle[static_cast<std::size_t>(z)]);
-  // From behind, so that the places stay; the mean stands only where the others could go.
-  for (auto z = Zeilen.rbegin(); z + 1 != Zeilen.rend(); ++z) {
-    if (!G.Entfernen(static_cast<std::size_t>(*z))) return;
-  }
-  static_cast<void>(G.Ändern(static_cast<std::size_t>(Zeilen.front()), ZeilenMitteln(Standpunkt(), Gruppe)));
+  // From behind, so that the places stay; the mean stands only where the others could go, and otherwise they
+  // stand there again.
+  std::size_t n = Zeilen.size();
+  while (n > 1 && G.Entfernen(static_cast<std::size_t>(Zeilen[n - 1]))) --n;
+  if (n == 1 && G.Ändern(static_cast<std::size_t>(Zeilen[0]), ZeilenMitteln(Standpunkt(), Gruppe)) >= 0)
+    return;
+  for (; n < Gruppe.size(); ++n) static_cast<void>(G.Hinzufügen(Gruppe[n]));
 }
 
 void FStatMitteln::MesspunktLöschen(int Zeile) {
@@ -86,7 +97,7 @@ bool FStatMitteln::MesspunktUmnummern(int Zeile, const std::string& Pnr) {
   const auto i = static_cast<std::size_t>(Zeile);
   Kleinpunkteingabe K = G.Zeilen()[i];
   K.Pnr = Pnr;
-  return G.Ändern(i, K);
+  return G.Ändern(i, K) >= 0;
 }
 
 }  // namespace tavorena

@@ -121,13 +121,14 @@ int Kleinpunktgitter::Platz(std::size_t n) const {
   return z;
 }
 
-bool Kleinpunktgitter::Ändern(std::size_t n, const Kleinpunkteingabe& K) {
+int Kleinpunktgitter::Ändern(std::size_t n, const Kleinpunkteingabe& K) {
   const int z = Platz(n);
-  if (static_cast<const Zeileneingabe&>(Reihe(z)) == Zeile(K)) return true;
+  const Zeileneingabe Vorher = Reihe(z);
+  if (Vorher == Zeile(K)) return 0;
   Eingaben.EingabeZeigen(z, Zeile(K));
-  if (ZeileAbschließen(z)) return true;
+  if (ZeileAbschließen(z)) return 0;
   ZeileZeigen(z);
-  return false;
+  return static_cast<const Zeileneingabe&>(Reihe(z)) == Vorher ? -1 : 1;
 }
 
 bool Kleinpunktgitter::Entfernen(std::size_t n) { return Herausnehmen(Platz(n)); }

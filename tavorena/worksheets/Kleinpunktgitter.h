@@ -63,8 +63,8 @@ class Kleinpunktgitter {
   /// @name A row by its place among Zeilen()
   /// @{
   /// Puts other values there, as if they had been typed; a stored row is stored anew.
-  /// @return false with a reason: it stays
-  [[nodiscard]] bool Ändern(std::size_t n, const Kleinpunkteingabe& K);
+  /// @return 0; 1: they stand there, but are not stored any more; -1 with a reason: it stays
+  [[nodiscard]] int Ändern(std::size_t n, const Kleinpunkteingabe& K);
   /// Takes it out. @return false with a reason: it stays
   [[nodiscard]] bool Entfernen(std::size_t n);
   /// @}

@@ -43,25 +43,19 @@ Kleinpunkteingabe ZeilenMitteln(const Messstandpunkt& Von, const std::vector<Kle
   return Eine;
 }
 
-std::vector<Kleinpunkteingabe> MessungenMitteln(const Messstandpunkt& Von,
-                                                const std::vector<Kleinpunkteingabe>& Erste,
-                                                const std::vector<Kleinpunkteingabe>& Zweite) {
+std::vector<std::optional<std::size_t>> Messpaare(const std::vector<Kleinpunkteingabe>& Erste,
+                                                  const std::vector<Kleinpunkteingabe>& Zweite) {
   std::unordered_map<std::string_view, std::vector<std::size_t>> Partner;
   for (std::size_t i = Zweite.size(); i-- > 0;) Partner[Zweite[i].Pnr].push_back(i);
-  std::vector<bool> Vergeben(Zweite.size());
-  std::vector<Kleinpunkteingabe> Alle = Erste;
-  for (Kleinpunkteingabe& Z : Alle) {
+  std::vector<std::optional<std::size_t>> Paare;
+  for (const Kleinpunkteingabe& Z : Erste) {
+    std::optional<std::size_t>& Neu = Paare.emplace_back();
     const auto P = Partner.find(Z.Pnr);
     if (P == Partner.end() || P->second.empty()) continue;
-    const std::size_t i = P->second.back();
+    Neu = P->second.back();
     P->second.pop_back();
-    Vergeben[i] = true;
-    Z = ZeilenMitteln(Von, {Z, Zweite[i]});
   }
-  for (std::size_t i = 0; i < Zweite.size(); ++i) {
-    if (!Vergeben[i]) Alle.push_back(Zweite[i]);
-  }
-  return Alle;
+  return Paare;
 }
 
 }  // namespace tavorena

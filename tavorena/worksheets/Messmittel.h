@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <tavorena/points/Ruecknahme.h>
@@ -32,10 +33,9 @@ struct Messstandpunkt {
 [[nodiscard]] Kleinpunkteingabe ZeilenMitteln(const Messstandpunkt& Von,
                                               const std::vector<Kleinpunkteingabe>& Zeilen);
 
-/// The rows of two measurements, paired by number in the order of the first; a row without a partner stays,
-/// those of the second one at the end.
-[[nodiscard]] std::vector<Kleinpunkteingabe> MessungenMitteln(const Messstandpunkt& Von,
-                                                              const std::vector<Kleinpunkteingabe>& Erste,
-                                                              const std::vector<Kleinpunkteingabe>& Zweite);
+/// The rows of two measurements, paired by number: for each of the first the row of the second one that
+/// belongs to it, as often as there is one.
+[[nodiscard]] std::vector<std::optional<std::size_t>> Messpaare(const std::vector<Kleinpunkteingabe>& Erste,
+                                                                const std::vector<Kleinpunkteingabe>& Zweite);
 
 }  // namespace tavorena

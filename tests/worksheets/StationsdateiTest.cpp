@@ -115,6 +115,27 @@ TEST_F(Stationsdatei, Schnurgerüst) {
   EXPECT_TRUE(GleichSoll(Stapeltext(), "worksheets/soll/fstat_schnur.sta"));
 }
 
+// Its first one stands in a batch file that somebody else changed: there is no mean, and none of them goes.
+TEST_F(Stationsdatei, ZweiteMessungBleibt) {
+  auto B = Öffne("19.50");
+  AusDatei(*B, true);
+  for (int i = 0; i < 3; ++i) Drücke(*B, "FstatBerechnen");
+  auto& Polar = Element<Gitter>(*B, "FStatPolarGitter");
+  Schreibe(StapelDatei.Name, Stapeltext() + "C von Hand\r\n");
+  B->ZelleWechseln(Polar, 2, 0);
+  Tippe(*B, "FStatPolarGitter", "3010\n35,2317\n100\n49,8418\n\n\n\n");
+  Skript.Formulare.push_back(Bediene({{"MMittMitteln", ""}, {"MMittWeiter", ""}}));
+  Drücke(*B, "FStatMitteln");
+  EXPECT_TRUE(Gleich(Polar.Inhalt(0, 1), "35.2217", Polar.Inhalt(2, 1), "35.2317"));
+  AusDatei(*B, false);
+  Drücke(*B, "FstatBerechnen");
+  EXPECT_TRUE(Gleich(Polar.Zeilen(), 6, Polar.Inhalt(1, 3), "53.4062", Polar.Inhalt(3, 3), "53.4162",
+                     Polar.Inhalt(4, 0), "3012"));
+  Skript.Erwarte("Protokoll und Stapel schreiben ? ", KnopfNein);
+  Skript.Erwarte("ohne Protokollausdruck und Stapel beenden ? ", KnopfJa);
+  B->SchließenVerlangen();
+}
+
 struct Liste final : Messliste {
   std::vector<Punktsatz> Alle;
   [[nodiscard]] std::vector<Punktsatz> Messpunkte() const override { return Alle; }
