@@ -50,7 +50,8 @@ class Formular {
   std::optional<Dialogplatz> Fest;  ///< a dialog of its own place, while which the tool bar is hidden
   bool Nebenher = false;   ///< stands beside the worksheets and leaves them the focus: a click on a button, a
                            ///< list or a choice never takes it
-  bool Ungefragt = false;  ///< a row opens it by itself: keys that were typed ahead are not meant for it
+  bool Ungefragt = false;  ///< a row or a file opens it by itself: keys that were typed ahead are not meant
+                           ///< for it
 
   [[nodiscard]] const std::vector<std::unique_ptr<Steuerelement>>& Steuerelemente() const { return Liste; }
   /// The control of that name, nullptr if there is none.

@@ -59,6 +59,7 @@ class TVRohdatenForm final : public Dialogform {
         Datei(std::move(Name)),
         Leser(std::move(L)) {
     Hilfenummer = Rohdatenseite;
+    Ungefragt = true;  // a Return behind the file dialog would take it over unseen
     FelderAnlegen(MitCodes);
     Anzahl = &BeschriftungAnlegen("", {0, 0}, RahmenBericht);
     Bericht = &GitterAnlegen("RohdatenBericht", {{"Was verstanden wurde", 100, false, false}}, {1, 0},
