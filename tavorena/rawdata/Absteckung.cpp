@@ -97,11 +97,20 @@ class Bericht {
   [[nodiscard]] int Schreiben(std::string& Text) {
     const Beschäftigung Lang;
     Atempause Pause(0.5);
-    for (const Rohstation& S : Stationsfolge(Auftrag.Roh.Blöcke)) {
-      if (Pause.Fällig()) AblaufPort().EreignisseAbarbeiten();
-      if (std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop) return -1;
+    const std::vector<Rohstation> Folge = Stationsfolge(Auftrag.Roh.Blöcke);
+    const int Anzahl = Stationszahl(Folge);
+    for (const Rohstation& S : Folge) {
+      if (Pause.Fällig()) {
+        StatusHilfeSetzen("Absteckung: " + Stationsname(S, Anzahl));
+        AblaufPort().EreignisseAbarbeiten();
+      }
+      if (std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop) {
+        StatusHilfeSetzen("angehalten, nichts geschrieben");
+        return -1;
+      }
       Station(S);
     }
+    StatusHilfeSetzen("");
     if (Zahlen.Stationen == 0) {
       Aus.Beginnen(TitelStation);
       Aus.Schreiben({Leerzeichen(6) + "Keine Messungen vorhanden !"});

@@ -38,7 +38,7 @@ struct Absteckzahlen {
 /// carried if the option for them is on and the station has one.
 ///
 /// @param[out] Text  carriage returns and line feeds end its lines, a form feed stands between pages
-/// @return 0; -1: it was stopped
+/// @return 0; -1: it was stopped, and the status says so
 [[nodiscard]] int Absteckbericht(const Absteckauftrag& A, std::string& Text, Absteckzahlen& Zahlen);
 
 /// Where the report goes: beside the raw-data file, "-absteckung.dru" behind its name.

@@ -2,8 +2,10 @@
 #include <cmath>
 #include <utility>
 
+#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/rawdata/Epochenliste.h>
@@ -250,20 +252,30 @@ int EpochenparameterLesen(const std::string& Name, bool MitLage, Epochenparamete
   return -1;
 }
 
-std::vector<std::vector<std::string>> Epochenzeilen(const Gesamtdatei& G, const Epochenparameter& P) {
-  std::vector<Absatz> Absätze(1);
+int Epochenzeilen(const Gesamtdatei& G, const Epochenparameter& P, std::vector<Absatz>& Zeilen) {
+  const Beschäftigung Lang;
+  Atempause Pause(0.5);
   std::vector<std::size_t> Bezug;
-  Absätze[0] = Vorspann(G, P, Bezug);
+  Zeilen = {Vorspann(G, P, Bezug)};
   std::vector<Epochenreihe> Reihen;
   for (const Gesamtpunkt& Punkt : G.Punkte) Reihen.push_back(Punkt.Werte);
   Epochenergebnis E;
-  if (Epochenvergleich(Reihen, Bezug, P.Grenzen, E) < 0) return Absätze;
+  if (Epochenvergleich(Reihen, Bezug, P.Grenzen, E) < 0) return 0;
   for (std::size_t e = 1; e < E.Bezug.size() && !Bezug.empty(); ++e)
-    BezugBeschreiben(G.Epochen[e], E.Bezug[e], G.MitLage, Absätze[0]);
-  Absätze[0].emplace_back();
-  for (std::size_t i = 0; i < G.Punkte.size(); ++i)
-    Absätze.push_back(Punktzeilen(G, G.Punkte[i], E.Schritte[i]));
-  return Absätze;
+    BezugBeschreiben(G.Epochen[e], E.Bezug[e], G.MitLage, Zeilen[0]);
+  Zeilen[0].emplace_back();
+  const std::string Alle = " von " + Anzahltext(static_cast<int>(G.Punkte.size()), "Punkt", "Punkten");
+  for (std::size_t i = 0; i < G.Punkte.size(); ++i) {
+    Zeilen.push_back(Punktzeilen(G, G.Punkte[i], E.Schritte[i]));
+    if (!Pause.Fällig()) continue;
+    StatusHilfeSetzen(std::to_string(i + 1) + Alle);
+    AblaufPort().EreignisseAbarbeiten();
+    if (std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Weiter) continue;
+    StatusHilfeSetzen("angehalten, nichts geschrieben");
+    return -1;
+  }
+  StatusHilfeSetzen("");
+  return 0;
 }
 
 int EpochenlisteSchreiben(const std::string& Ziel, const std::string& Quelle, const Gesamtdatei& G,
@@ -271,9 +283,11 @@ int EpochenlisteSchreiben(const std::string& Ziel, const std::string& Quelle, co
   Verbindung V;
   V.Titel = G.MitLage ? "Verformungsmessung" : "Setzungsmessung";
   V.Riß = LetzterPlan;
+  std::vector<Absatz> Absätze;
+  if (Epochenzeilen(G, P, Absätze) < 0) return -1;
   Seiten S(Quelle, V, Spaltenkopf(G.MitLage));
   bool Erster = true;
-  for (const Absatz& A : Epochenzeilen(G, P)) {
+  for (const Absatz& A : Absätze) {
     S.Anhängen(A, !Erster);
     if (Erster) S.Spalten();
     Erster = false;

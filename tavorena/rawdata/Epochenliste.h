@@ -37,12 +37,13 @@ struct Epochenparameter {
 /// values have OptNachkommastellen decimals; the movements [mm] stand against the first epoch that holds the
 /// value and the one before, each with its mark: "******>zul", "******" (above 3σd), "***" (above 2σd, with
 /// an OptWarnstufe above 1).
-[[nodiscard]] std::vector<std::vector<std::string>> Epochenzeilen(const Gesamtdatei& G,
-                                                                  const Epochenparameter& P);
+/// @return 0; -1: it was stopped, and the status says so
+[[nodiscard]] int Epochenzeilen(const Gesamtdatei& G, const Epochenparameter& P,
+                                std::vector<std::vector<std::string>>& Zeilen);
 
 /// Writes the list on pages of 50 lines, in place of a file that is there.
 /// @param[in] Quelle  the file of the epochs, for the page head
-/// @return 0; -1 with a message, an old file is then as it was
+/// @return 0; -1 with a message, or stopped: an old file is then as it was
 [[nodiscard]] int EpochenlisteSchreiben(const std::string& Ziel, const std::string& Quelle,
                                         const Gesamtdatei& G, const Epochenparameter& P);
 

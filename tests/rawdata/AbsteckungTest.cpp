@@ -130,7 +130,10 @@ TEST_F(Absteckung, SchreibtDenBerichtUndMeldetWasFehlt) {
   EXPECT_TRUE(Text().ends_with("      Keine Messungen vorhanden !\r\n"));
   Auftrag.Roh.Blöcke = {Block("", Anschluss)};  // no station code: the message without a number
   EXPECT_TRUE(StandpunktzeilenFehlen(Auftrag.Roh).ends_with("Standpunktzeile für Standpunkt "));
-  Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
+  Skript.BeiEreignissen = [&] {
+    EXPECT_EQ(Skript.Status[4], "   Absteckung: Station 1 von 1   ");
+    KorStop = Laufwunsch::Stop;
+  };
   EXPECT_EQ(RohdatenBerichtAbsteckung(Auftrag, Name, Zahlen), -1);
   EXPECT_EQ(KorStop, Laufwunsch::Weiter);
 }

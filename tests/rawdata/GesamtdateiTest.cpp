@@ -135,6 +135,10 @@ TEST_F(GesamtdateiTest, Liste) {
   EXPECT_EQ(std::count(Lange.begin(), Lange.end(), '\f'), 3);
   EXPECT_TRUE(Lange.find("   11.0\r") != std::string::npos &&
               Lange.find("   20.0 ******") != std::string::npos);
+  Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
+  fs::remove(Druck);
+  EXPECT_EQ(EpochenlisteSchreiben(Druck, "/b/wand.ges", G, P), -1);
+  EXPECT_TRUE(Gleich(fs::exists(Druck), false, KorStop == Laufwunsch::Weiter, true));
 }
 
 }  // namespace
