@@ -16,7 +16,7 @@ inline constexpr int DruckzeilenJeSeite = 60;
 /// that has no line. Tabs go to columns of eight, blanks at the end of a line are left out. If a line is too
 /// long for 10 points, all take the largest size in half points in which it fits, down to 6; what is longer
 /// still goes on in the next line. A control character becomes "?", a code 26 at the end is no line.
-/// @param[in] Text  UTF-8
+/// @param[in] Text  UTF-8; what is not valid is taken for Windows-1252
 /// @return no page at all for a text without a line
 [[nodiscard]] Druckseiten SeitenTeilen(std::string_view Text);
 
