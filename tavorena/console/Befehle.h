@@ -26,6 +26,9 @@ namespace tavorena {
 /// "m5 a.m5 --punkte b.kor": the report of a file, its points.
 [[nodiscard]] Konsolenbefehl M5Befehl();
 
+/// "pdf a.dru aus.pdf", "pdf --koordinaten a.kor aus.pdf": a text file or the list of points as PDF.
+[[nodiscard]] Konsolenbefehl PdfBefehl();
+
 /// @name Raw data
 /// @{
 [[nodiscard]] Konsolenbefehl AbsteckBefehl();  ///< "absteckung a.gsi --koordinaten soll.kor --bericht b.dru"

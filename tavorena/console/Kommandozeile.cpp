@@ -86,6 +86,7 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
       MittelBefehl(),      VerschiebeBefehl(), ÜbernahmeBefehl(),  DxfBefehl(),
       GesamtdateiBefehl(), GsiAusgabeBefehl(), RohdatenBefehl(),   M5Befehl(),
       NivellementBefehl(), TheoBefehl(),       AbsteckBefehl(),    StationierBefehl(),
+      PdfBefehl(),
   };
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");
@@ -96,6 +97,7 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
   for (const Konsolenbefehl& B : Befehle) {
     if (&B == &Befehle[0]) {
       DateiAnmelden(App, B, A);
+      EigenesAnmelden(App, B, A);
       continue;
     }
     CLI::App* Unter = App.add_subcommand(B.Name, B.Beschreibung)->group(B.Thema);
@@ -111,6 +113,8 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
     U.Meldungen << "tavorena-stapel: " << Sichtbar(Deutsch(App, Fehler)) << " (mehr mit --help)\n";
     return FalscherAufruf;
   }
+  // Where the coordinate file stands for the file, the only name is that of the output.
+  if (Gewählt->OderKoordinaten && !A.Koordinaten.empty() && A.Ziel.empty()) std::swap(A.Datei, A.Ziel);
   return SitzungFühren(*Gewählt, A, U);
 }
 

@@ -5,6 +5,7 @@
 #include <tavorena/console/SerielleLeitung.h>
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/exchange/Pdf.h>
 #include <tavorena/forms/Formular.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Konfiguration.h>
@@ -38,6 +39,16 @@ std::unique_ptr<Leitung> PlattformKonsole::LeitungÖffnen(const std::string& Ger
   return SerielleLeitung(Gerät, Einstellungen);
 }
 
+int PlattformKonsole::Drucken(const Druckseiten& Seiten, const std::string& Titel,
+                              const std::string& Vorschlag) {
+  std::string Grund;
+  if (PdfSchreiben(Vorschlag, Seiten, Titel, &Grund) == 0) return 0;
+  Arbeitet(Vorschlag);
+  Melden("Das PDF läßt sich nicht schreiben (" + Grund + ").");
+  Fehler = true;
+  return -1;
+}
+
 void PlattformKonsole::Melden(const std::string& Text) {
   if (Still || !Gesagt.insert(Text).second) return;
   std::string Datei = AnDatei, Worte;
@@ -51,7 +62,7 @@ void PlattformKonsole::Melden(const std::string& Text) {
     const bool Eigene = std::any_of(A.Werte.begin(), A.Werte.end(),
                                     [Stück](const auto& Option) { return Option.second == Stück; });
     if (Eigene || Stück == A.Koordinaten || Stück == A.Protokoll || Stück == A.Speichern ||
-        Stück == A.Datei) {
+        Stück == A.Datei || Stück == A.Ziel) {
       Datei = Stück;
       Fehler = true;
     } else if (Stück == DateinameOptionen) {

@@ -27,6 +27,9 @@ class PlattformKonsole final : public Rückfragen,
   std::string ProgrammOrdner() override { return Programm; }
   std::unique_ptr<Leitung> LeitungÖffnen(const std::string& Gerät, const std::string& Einstellungen) override;
 
+  /// The pages become the file of the proposed name, which the caller had from the command line.
+  int Drucken(const Druckseiten& Seiten, const std::string& Titel, const std::string& Vorschlag) override;
+
   /// The file that is at work from now on; "" none.
   void Arbeitet(const std::string& Datei) { AnDatei = Datei; }
   /// A message, on one line behind its file; what was said already is not said again.

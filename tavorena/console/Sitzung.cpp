@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <map>
 #include <ostream>
 #include <utility>
@@ -49,9 +50,16 @@ std::function<Konfliktantwort(const Konflikt&)> Antwortgeber(const std::string& 
 std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   const std::string Ich = "tavorena-stapel: ";
   if (B.MitKoordinaten && A.Koordinaten.empty()) return Ich + "--koordinaten fehlt";
-  if (B.Datei != nullptr && A.Datei.empty()) return Ich + "die " + B.Datei + " fehlt";
+  const bool Ersetzt = B.OderKoordinaten && !A.Koordinaten.empty();
+  if (Ersetzt && !A.Datei.empty()) return Ich + "--koordinaten oder " + A.Datei + ", nicht beide";
+  if (B.Datei != nullptr && A.Datei.empty() && !Ersetzt) return Ich + "die " + B.Datei + " fehlt";
   if (B.Datei == nullptr && !A.Datei.empty()) return Ich + "unbekannte Angabe: " + A.Datei;
   if (B.Ziel != nullptr && A.Ziel.empty()) return Ich + "die " + B.Ziel + " fehlt";
+  for (const auto& [Name, Wert] : A.Werte) {
+    const auto Eigene = [&Name = Name](const Angabe& G) { return Name == G.Name; };
+    if (!Wert.empty() && std::none_of(B.Angaben.begin(), B.Angaben.end(), Eigene))
+      return Ich + "unbekannte Angabe: " + Name;
+  }
   for (const Angabe& G : B.Angaben) {
     if (G.Nötig && A.Wert(G.Name).empty()) return Ich + G.Name + " fehlt";
   }
@@ -62,6 +70,7 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
     return Ich + "--vorhanden " + A.Vorhanden + " gibt es nicht, nur " + Worte;
   }
   if (!A.Speichern.empty() && A.Koordinaten.empty()) return Ich + "--speichern braucht --koordinaten";
+  if (!A.Wert("--pdf").empty() && A.Protokoll.empty()) return Ich + "--pdf braucht --protokoll";
   // An output must not destroy what is read or written besides; the table may go back to its file.
   struct Rolle {
     std::string Wort, Name;
@@ -119,7 +128,7 @@ std::string Arbeitsdatei(const Konsolenbefehl& B, const Aufruf& A) {
   for (const Angabe& G : B.Angaben) {
     if (G.Rolle == Dateirolle::Eingabe && !A.Wert(G.Name).empty()) return A.Wert(G.Name);
   }
-  return B.Datei != nullptr ? A.Datei : A.Koordinaten;
+  return A.Datei.empty() ? A.Koordinaten : A.Datei;
 }
 
 bool Arbeiten(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U, PlattformKonsole& Konsole) {
@@ -141,7 +150,7 @@ Rückgabe SitzungFühren(const Konsolenbefehl& B, const Aufruf& A, const Umfeld&
     return FalscherAufruf;
   }
   PlattformKonsole Konsole(A, U.Meldungen, U.Programmordner);
-  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole, &Konsole});
+  const Ports Vorher = PortsSetzen({&Konsole, &Konsole, nullptr, &Konsole, &Konsole, &Konsole});
   bool Gut = false;
   const Umfeld Innen{U.Ausgabe, U.Meldungen, U.Programmordner, [&] { return Konsole.Mißlungen(); }};
   const auto Tun = [&] { Gut = Arbeiten(B, A, Innen, Konsole); };

@@ -96,6 +96,26 @@ Listentext KoordinatenlisteText(int Nachkomma) {
   return T;
 }
 
+std::string Koordinatenseiten(int Nachkomma) {
+  constexpr std::size_t JeSeite = 50;
+  Verbindung V;
+  V.Titel = "Aktuelle Koordinaten";
+  V.Riß = LetzterPlan;
+  const Listentext Liste = KoordinatenlisteText(Nachkomma);
+  std::string Text;
+  const auto Zeile = [&Text](const std::string& Inhalt) { Text += Inhalt + "\r\n"; };
+  int Seite = 0;
+  for (std::size_t i = 0; i < Liste.Zeilen.size(); ++i) {
+    if (i % JeSeite == 0) {
+      if (i > 0) Text += '\f';
+      for (const std::string& Z : ProtKopfzeilen(V, KoordinatendateiName, ++Seite)) Zeile(Z);
+      for (const std::string& Z : Liste.Kopf) Zeile(Z);
+    }
+    Zeile(Liste.Zeilen[i]);
+  }
+  return Text;
+}
+
 Listentext BelegungText(const std::vector<Nummernlauf>& Läufe) {
   Listentext T;
   for (const Nummernlauf& L : Läufe) {

@@ -47,6 +47,8 @@ struct Listentext {
 [[nodiscard]] Listentext PunktlisteText(const std::vector<Listenzeile>& Liste, int Nachkomma);
 /// All points of the table with so many decimals.
 [[nodiscard]] Listentext KoordinatenlisteText(int Nachkomma);
+/// The same on pages of 50 points, each below the head of a protocol with its own page numbers.
+[[nodiscard]] std::string Koordinatenseiten(int Nachkomma);
 /// Runs of numbers; no head.
 [[nodiscard]] Listentext BelegungText(const std::vector<Nummernlauf>& Läufe);
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Seiten.h>
 
@@ -104,20 +104,25 @@ Druckseiten SeitenTeilen(std::string_view Text) {
   return Seiten;
 }
 
-int DruckdateiLesen(const std::string& Name, Druckseiten& Seiten, std::string* Grund) {
-  std::string Text, Warum;
+int DruckdateiLesen(const std::string& Name, Druckseiten& Seiten) {
+  std::string Text, Grund;
   int Ergebnis = 0;
   if (Großtext(DateinameZerlegen(Name).Endung) == "POL") {
-    Ergebnis = DateiLesen(Name, Text, &Warum);
+    Ergebnis = DateiLesen(Name, Text, &Grund);
     if (!IstUtf8(Text)) Text = AusCodepage850(Text);
   } else {
-    Ergebnis = TextdateiLesen(Name, Text, &Warum);
+    Ergebnis = TextdateiLesen(Name, Text, &Grund);
   }
-  if (Ergebnis == 0 && !Teilen(Text, Seiten, MeisteSeiten)) Warum = "mehr als 10000 Seiten";
-  if (Ergebnis == 0 && Warum.empty() && Seiten.Seiten.empty()) Warum = "ist leer";
-  if (Ergebnis == 0 && Warum.empty()) return 0;
+  if (Ergebnis < 0) {
+    Hinweis("Datei nicht gefunden:\n" + Name + InKlammern(Grund));
+    return -1;
+  }
+  Grund.clear();
+  if (!Teilen(Text, Seiten, MeisteSeiten)) Grund = "Der Text hat mehr als 10000 Seiten:\n";
+  if (Seiten.Seiten.empty()) Grund = "In der Datei steht nichts zu drucken:\n";
+  if (Grund.empty()) return 0;
   Seiten = {};
-  if (Grund != nullptr) *Grund = std::move(Warum);
+  Hinweis(Grund + Name);
   return -1;
 }
 

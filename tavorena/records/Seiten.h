@@ -24,8 +24,7 @@ inline constexpr int DruckzeilenJeSeite = 60;
 [[nodiscard]] int Druckspalten(double Schrift);
 
 /// The pages of a text file; one that ends in "pol" is in code page 850, unless it is UTF-8.
-/// @param[out] Grund  why not, in a few words; "" if there is no such file
-/// @return 0; -1: it can not be read, has no line, or more than 10,000 pages
-[[nodiscard]] int DruckdateiLesen(const std::string& Name, Druckseiten& Seiten, std::string* Grund = nullptr);
+/// @return 0; -1 with a message: it can not be read, has no line, or more than 10,000 pages
+[[nodiscard]] int DruckdateiLesen(const std::string& Name, Druckseiten& Seiten);
 
 }  // namespace tavorena

@@ -82,6 +82,17 @@ TEST_F(Programm, Rückgabewerte) {
        "ordner: Das Protokoll läßt sich nicht schreiben (ist ein Ordner)"},
       {"--koordinaten a.kor --protokoll /dev/full a.sta", 1, "/dev/full: "},
       {"--koordinaten a.kor --speichern nirgends/b.kor a.sta", 1, "nirgends/b.kor: "},
+      {"pdf a.sta a.pdf", 0, ""},
+      {"pdf --koordinaten a.kor k.pdf", 0, ""},
+      {"pdf a.sta", 2, "tavorena-stapel: die PDF-Datei fehlt"},
+      {"pdf a.sta ./gleich", 2, "./gleich: die Ausgabedatei ist auch die Datei des Befehls"},
+      {"pdf --koordinaten a.kor ./a.kor", 2, "./a.kor: die Ausgabedatei ist auch die Koordinatendatei"},
+      {"pdf --koordinaten a.kor a.sta a.pdf", 2, "tavorena-stapel: --koordinaten oder a.sta, nicht beide"},
+      {"pdf fehlt.txt a.pdf", 1, "fehlt.txt: Datei nicht gefunden:"},
+      {"pdf a.sta ordner", 1, "ordner: Das PDF läßt sich nicht schreiben (ist ein Ordner)"},
+      {"--koordinaten a.kor --pdf p.pdf a.sta", 2, "tavorena-stapel: --pdf braucht --protokoll"},
+      {"--koordinaten a.kor --protokoll p.dru --pdf ./p.dru a.sta", 2, "p.dru: das Protokoll ist auch"},
+      {"--pdf a.pdf menue", 2, "tavorena-stapel: unbekannte Angabe: --pdf"},
       {"", 2, "tavorena-stapel: --koordinaten fehlt"},
       {"--koordinaten a.kor", 2, "tavorena-stapel: die Stapeldatei (*.sta) fehlt"},
       {"--koordinaten", 2, "tavorena-stapel: --koordinaten: die Zahl der Werte"},
@@ -162,6 +173,28 @@ TEST_F(Programm, AuskunftOhneBildschirm) {
   EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue --help"), 0);
   EXPECT_NE(Aus.find("--trotzdem"), std::string::npos) << Aus;
   EXPECT_EQ(Aus.find("Options"), std::string::npos) << Aus;
+}
+
+TEST_F(Programm, PdfOhneBildschirm) {
+  const auto Anzahl = [this](const std::string& Stück) {
+    int n = 0;
+    for (std::size_t p = 0; (p = Aus.find(Stück, p)) != std::string::npos; ++p) ++n;
+    return n;
+  };
+  Schreibe(Ordner.Pfad("a.dru"),
+           "von gestern, Stra\xDF"
+           "e\r\n");  // in Windows-1252, and stays so
+  for (int Lauf = 0; Lauf < 2; ++Lauf) {
+    ASSERT_EQ(Laufen(TAVORENA_STAPEL, "--koordinaten a.kor --protokoll a.dru --pdf a.pdf a.sta"), 0);
+    ASSERT_EQ(Laufen("pdftotext", "-fixed 6.02 a.pdf -"), 0);
+    EXPECT_EQ(std::tuple(Anzahl("gestern"), Anzahl("|VR 24.40  x"), Anzahl("  2003\n")), std::tuple(0, 1, 1))
+        << Aus;
+  }
+  ASSERT_EQ(Laufen(TAVORENA_STAPEL, "--koordinaten a.kor --protokoll a.dru --pdf a.pdf fehler.sta"), 1);
+  ASSERT_EQ(Laufen(TAVORENA_STAPEL, "pdf --koordinaten a.kor k.pdf"), 0);
+  EXPECT_EQ(Aus, "Seiten: 1\n");
+  ASSERT_EQ(Laufen("pdftotext", "-fixed 6.02 k.pdf -"), 0);
+  EXPECT_EQ(std::tuple(Anzahl("|Aktuelle Koordinaten"), Anzahl("1002 3500160.000")), std::tuple(1, 1)) << Aus;
 }
 
 TEST_F(Programm, AnsichtOhneBildschirm) {

@@ -2,9 +2,12 @@
 
 #include <random>
 
+#include <tavorena/core/Text.h>
 #include <tavorena/core/Winkel.h>
 #include <tavorena/points/Punktlisten.h>
 #include <tavorena/points/Selektion.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Seiten.h>
 
 namespace tavorena::test {
 namespace {
@@ -132,6 +135,23 @@ TEST_F(Punktlisten, SeitenMitKopfUndNummer) {
     return Soll + std::string(33, ' ') + Nummer + "\r\n\f";
   };
   EXPECT_EQ(Text, Seite(52, "- 1 -") + Seite(2, "- 2 -"));
+}
+
+TEST_F(Punktlisten, AktuelleKoordinatenAufSeiten) {
+  LetzterPlan = {"Riß 7", "12"};
+  for (int i = 1; i <= 101; ++i) Punkt(std::to_string(i).c_str(), 1.5, 2, 3, "015");
+  const Druckseiten D = SeitenTeilen(Koordinatenseiten(2));
+  ASSERT_EQ(D.Seiten.size(), 3U);
+  for (int s = 0; s < 3; ++s) {
+    const auto& Seite = D.Seiten[static_cast<std::size_t>(s)];
+    EXPECT_EQ(Seite.size(), s < 2 ? 59U : 10U);
+    EXPECT_EQ(Seite[4], "|Aktuelle Koordinaten  (Riß 7) 12" + std::string(30, ' ') + "Seite  " +
+                            std::to_string(s + 1) + "|");
+    EXPECT_EQ(Seite[7], "      Punktnr.     Rechts          Hoch      Hoehe   Bemerkung");
+    EXPECT_EQ(Seite[9],
+              RechtsBündig(std::to_string(50 * s + 1), 14) + "         1.50         2.00       3.00  015");
+  }
+  LetzterPlan = {};
 }
 
 TEST_F(Punktlisten, Selektion) {

@@ -57,22 +57,30 @@ TEST(Seiten, Schriftgröße) {
 
 TEST(Seiten, Dateien) {
   const Testordner Ordner;
-  const std::string Pol = Ordner.Pfad("a.POL"), Dru = Ordner.Pfad("a.dru");
-  Druckseiten D;
-  std::string Grund;
-  const auto Gelesen = [&](const std::string& Name, const std::string& Bytes) {
-    Schreibe(Name, Bytes);
-    Grund.clear();
-    return DruckdateiLesen(Name, D, &Grund) == 0 ? Gezeigt(D) : Grund;
+  PlattformSkript Skript;
+  std::string Gesagt;
+  Skript.BeiMeldung = [&Gesagt](const std::string& Text) { Gesagt = Text.substr(0, Text.find(':')); };
+  const std::string Meldungen[] = {"Datei nicht gefunden", "In der Datei steht nichts zu drucken",
+                                   "Der Text hat mehr als 10000 Seiten"};
+  const struct {
+    const char* Name;
+    std::string Bytes, Seiten;
+  } Fälle[] = {
+      {"a.POL", "\xDA\xC4 \xE1\xFD", "┌─ ß²|"},
+      {"a.pol", "┌─ ß²", "┌─ ß²|"},
+      {"a.dru", "\xDF \xB2", "ß ²|"},
+      {"a.dru", "\f", Meldungen[1]},
+      {"a.dru", Mal(10000, "a\f") + "b", Meldungen[2]},
+      {"", "", Meldungen[0]},
   };
-  EXPECT_EQ(Gelesen(Pol, "\xDA\xC4 \xE1\xFD"), "┌─ ß²|");
-  EXPECT_EQ(Gelesen(Pol, "┌─ ß²"), "┌─ ß²|");
-  EXPECT_EQ(Gelesen(Dru, "\xDF \xB2"), "ß ²|");
-  EXPECT_EQ(Gelesen(Dru, "\f"), "ist leer");
-  EXPECT_EQ(Gelesen(Dru, Mal(10000, "a\f") + "b"), "mehr als 10000 Seiten");
-  EXPECT_TRUE(D.Seiten.empty());
-  EXPECT_TRUE(
-      Gleich(DruckdateiLesen(Ordner.Pfad("fehlt"), D), -1, DruckdateiLesen(Ordner.Pfad(""), D, &Grund), -1));
+  for (const auto& f : Fälle) {
+    if (*f.Name != '\0') Schreibe(Ordner.Pfad(f.Name), f.Bytes);
+    Druckseiten D;
+    Gesagt.clear();
+    if (f.Seiten.back() != '|') Skript.Erwarte(f.Seiten);
+    const bool Gut = DruckdateiLesen(Ordner.Pfad(f.Name), D) == 0;
+    EXPECT_EQ(Gut ? Gezeigt(D) : D.Seiten.empty() ? Gesagt : "halbe Seiten", f.Seiten);
+  }
 }
 
 }  // namespace
