@@ -9,7 +9,6 @@ namespace tavorena {
 namespace {
 
 constexpr const Ellipsoid& Utm = Ellipsoide[3];
-constexpr double UtmMassstab = 0.9996;
 
 // Arc of the meridian for a radian, on the average.
 constexpr double UtmA0(double c, double e2) {
@@ -136,11 +135,23 @@ int GKRueckwaerts(double Massstab, const Ellipsoid& E, double Rechts, double Hoc
   return 0;
 }
 
-int UTMVorwaerts(double Laenge, double Breite, std::int32_t& Zone, double& Easting, double& Northing) {
-  static constexpr Sinusreihe Bogen = UtmBogenreihe(Utm.c, Utm.e2);
+int UTMZone(double Laenge, std::int32_t& Zone) {
   std::int32_t Sechstel = 0;
   if (!GanzerTeil(Laenge / 6, Sechstel)) return -1;
-  const double L0 = 6.0 * Sechstel + 3, Phi = Breite * RadJeGrad;
+  Zone = Sechstel + 31;  // (L0 + 3) / 6 + 30
+  return 0;
+}
+
+int UTMVorwaerts(double Laenge, double Breite, std::int32_t& Zone, double& Easting, double& Northing) {
+  std::int32_t Eigene = 0;
+  if (UTMZone(Laenge, Eigene) < 0 || UTMInZone(Laenge, Breite, Eigene, Easting, Northing) < 0) return -1;
+  Zone = Eigene;
+  return 0;
+}
+
+int UTMInZone(double Laenge, double Breite, std::int32_t Zone, double& Easting, double& Northing) {
+  static constexpr Sinusreihe Bogen = UtmBogenreihe(Utm.c, Utm.e2);
+  const double L0 = 6.0 * (Zone - 30.0) - 3, Phi = Breite * RadJeGrad;
   const double Sinus = std::sin(Phi), Kosinus = std::cos(Phi);
   const auto [t, t2, eta2, V2, V] = Breitenwerte(Utm.e2, Sinus, Kosinus);
   const double t4 = t2 * t2, kN = UtmMassstab * Utm.c / V;
@@ -151,7 +162,6 @@ int UTMVorwaerts(double Laenge, double Breite, std::int32_t& Zone, double& Easti
       500000 +
       kN * q * (1 + q2 * ((1 - t2 + eta2) / 6 + q2 * (5 - 18 * t2 + t4 + (14 - 58 * t2) * eta2) / 120));
   if (!std::isfinite(Nord + Ost)) return -1;
-  Zone = Sechstel + 31;  // (L0 + 3) / 6 + 30
   Easting = Ost;
   Northing = Nord;
   return 0;

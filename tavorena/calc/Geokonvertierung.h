@@ -132,15 +132,27 @@ double Fusspunktbreite(const Ellipsoid& E, double Bogen);
 [[nodiscard]] int GKRueckwaerts(double Massstab, const Ellipsoid& E, double Rechts, double Hoch,
                                 double& Breite, double& Laenge, double& Konvergenz);
 
+inline constexpr double UtmMassstab = 0.9996;  ///< scale of UTM on the central meridian
+
+/// Zone of UTM that a longitude [degrees] lies in; a longitude between two zones belongs to the eastern one.
+/// @param[out] Zone  1 to 60 for -180 up to below 180 degrees, counted on beyond
+/// @return 0; -1 if the zone exceeds 32 bits
+[[nodiscard]] int UTMZone(double Laenge, std::int32_t& Zone);
+
 /// Geographic to UTM coordinates in the zone that the longitude falls in; ellipsoid of row 3, scale 0.9996.
 /// The widened zones of Norway are not followed, and the south gets no 10000 km: Northing is below 0 there.
 /// @param[in]  Laenge, Breite     [degrees]; a longitude between two zones belongs to the eastern one
-/// @param[out] Zone               1 to 60 for -180 up to below 180 degrees, counted on beyond
+/// @param[out] Zone               see UTMZone
 /// @param[out] Easting, Northing  [m], Easting with 500000
 /// @return 0; -1 if a result is not finite or the zone exceeds 32 bits
 /// Source: as GKVorwaerts; meridian arc in powers of e'^2 up to the eighth of e'.
 [[nodiscard]] int UTMVorwaerts(double Laenge, double Breite, std::int32_t& Zone, double& Easting,
                                double& Northing);
+
+/// The same into a zone that is given; the longitude may lie beside it.
+/// @return 0; -1 if a result is not finite
+[[nodiscard]] int UTMInZone(double Laenge, double Breite, std::int32_t Zone, double& Easting,
+                            double& Northing);
 
 /// UTM to geographic coordinates, the way back of UTMVorwaerts. Its eccentricity is another one on purpose
 /// (see there in the source), which is worth 0.1 mm.

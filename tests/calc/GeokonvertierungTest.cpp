@@ -6,6 +6,7 @@
 #include <proj.h>
 
 #include <tavorena/calc/Geokonvertierung.h>
+#include <tavorena/calc/Meridianstreifen.h>
 
 namespace tavorena::test {
 namespace {
@@ -45,6 +46,15 @@ TEST(Geokonvertierung, VeröffentlichtesBeispiel) {
   EXPECT_NEAR(Hin, Her, 1e-6);
 }
 
+// The exact projection, for a strip or a zone.
+std::unique_ptr<PJ, PJ* (*)(PJ*)> Projektion(bool Utm, int Nr, const std::string& Körper) {
+  const int Mitte = Utm ? 6 * (Nr - 30) - 3 : 3 * Nr;
+  const std::string Text = "+proj=tmerc +lat_0=0 +y_0=0 +lon_0=" + std::to_string(Mitte) +
+                           (Utm ? " +k_0=0.9996 +x_0=" : " +k_0=1 +x_0=" + std::to_string(Nr)) + "500000 " +
+                           Körper;
+  return {proj_create(PJ_DEFAULT_CTX, Text.c_str()), proj_destroy};
+}
+
 // PROJ's transverse Mercator is the exact projection. Every number is one of the header and the handbook: the
 // found maximum over Germany is neither above nor far below it.
 struct Vergleich {
@@ -80,6 +90,41 @@ void Vergleichen(const Vergleich& f, PJ* Zeuge, int Nr, int Mitte, double L, dou
   Konvergenz = std::max({Konvergenz, std::fabs(Hin - KonvergenzSoll), std::fabs(Her - KonvergenzSoll)});
 }
 
+// Every strip and zone over all of Germany: near the central meridian the series, beyond them a micrometre.
+TEST(Geokonvertierung, FremderStreifenGegenProj) {
+  const Streifennetz Netze[] = {Streifennetz(Ellipsoide[0]), Streifennetz()};
+  for (int Nr : {2, 3, 4, 5, 31, 32, 33}) {
+    SCOPED_TRACE(Nr);
+    const bool Utm = Nr > 30;
+    const Streifennetz& N = Netze[Utm];
+    const double Nah = Utm ? 3 : 2, Vor = Utm ? 1.1e-4 : 7e-5, Rück = Utm ? 5.2e-4 : 2.2e-5;
+    const auto Zeuge =
+        Projektion(Utm, Nr, Utm ? "+a=6378137 +b=6356752.314" : "+a=6377397.155 +b=6356078.963");
+    ASSERT_TRUE(Zeuge);
+    int Ferne = 0;
+    for (int l = 58; l <= 151; ++l) {
+      for (int b = 470; b <= 552; b += 4) {
+        const double L = l / 10.0, B = b / 10.0, Delta = std::fabs(L - Mittelmeridian(N.Art, Nr));
+        const PJ_XY Soll = proj_trans(Zeuge.get(), PJ_FWD, proj_coord(L * RadJeGrad, B * RadJeGrad, 0, 0)).xy;
+        const bool Fern = Delta > Nah + 1e-9;
+        double R = 7, H = 8, L2 = 7, B2 = 8;
+        const int Ergebnis = StreifenVorwaerts(N, Nr, L, B, R, H);
+        const int Zurück = StreifenRueckwaerts(N, Nr, Soll.x, Soll.y, L2, B2);
+        if (std::fabs(Delta - 10) < 1e-9) continue;  // on the limit either is right
+        ASSERT_TRUE(Gleich(Ergebnis, Delta > 10 ? -1 : 0, Zurück, Ergebnis)) << L;
+        if (Delta > 10) {
+          ASSERT_TRUE(Gleich(R, 7, H, 8, L2, 7, B2, 8));
+          continue;
+        }
+        ASSERT_LT(std::hypot(R - Soll.x, H - Soll.y), Fern ? 1e-6 : Vor) << L << ' ' << B;
+        ASSERT_LT(AufDerErde(L, B, L2, B2), Fern ? 1e-6 : Rück) << L << ' ' << B;
+        Ferne += Fern;
+      }
+    }
+    EXPECT_GT(Ferne, 400);
+  }
+}
+
 TEST(Geokonvertierung, DeutschlandGegenProj) {
   constexpr Vergleich Fälle[] = {
       {"GK, own strip", "+a=6377397.155 +b=6356078.963", false, 15, 0.0165, 0.003, 0.019},
@@ -93,10 +138,7 @@ TEST(Geokonvertierung, DeutschlandGegenProj) {
     double Konvergenz = 0;
     for (int Nr = f.Utm ? 31 : 2; Nr <= (f.Utm ? 33 : 5); ++Nr) {
       const int Mitte = f.Utm ? 6 * (Nr - 30) - 3 : 3 * Nr;
-      const std::string Text = "+proj=tmerc +lat_0=0 +y_0=0 +lon_0=" + std::to_string(Mitte) +
-                               (f.Utm ? " +k_0=0.9996 +x_0=" : " +k_0=1 +x_0=" + std::to_string(Nr)) +
-                               "500000 " + f.Körper;
-      const std::unique_ptr<PJ, PJ* (*)(PJ*)> Zeuge(proj_create(PJ_DEFAULT_CTX, Text.c_str()), proj_destroy);
+      const auto Zeuge = Projektion(f.Utm, Nr, f.Körper);
       ASSERT_TRUE(Zeuge);
       // 47 to 55.2 N, 5.8 to 15.1 E in steps of 0.1 degrees; an eastern edge belongs to the next strip.
       for (int l = std::max(58, 10 * Mitte - f.Neben); l <= std::min(151, 10 * Mitte + f.Neben - 1); ++l)
