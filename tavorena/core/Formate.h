@@ -52,6 +52,8 @@ using Punktnehmer = std::function<bool(const KorSatz&)>;
 struct Punktquelle {
   const std::string& Dateiname;
   std::string_view Inhalt;  ///< as Formatzugang::Was says
+  /// It takes the place of the table: what it holds besides points belongs to the open file from now on.
+  bool AlsKoordinatendatei = false;
 };
 
 /// One format. What it can not do is left nullptr.

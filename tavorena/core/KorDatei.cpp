@@ -313,14 +313,16 @@ int KorLesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Format,
     return -1;
   }
   if (Prüfen && Zugang->Was != Formatzugang::Zufuhr::Name && !Prüfen(Befunden(Inhalt, Format))) return -2;
+  const Punktquelle Quelle{Dateiname, Inhalt, Modus == Lesemodus::Ersetzen};
   Lesebericht B;
-  const Lesung::Ende Ende = TabelleFüllen({Dateiname, Inhalt}, Modus, *Zugang, Nimmt, B);
+  const Lesung::Ende Ende = TabelleFüllen(Quelle, Modus, *Zugang, Nimmt, B);
   B.Gestoppt = Ende == Lesung::Ende::Gestoppt;
   if (B.Gestoppt) B.Gelesen = 0;
   if (Bericht != nullptr) *Bericht = B;
   KorAnzahlAnzeigen();
   if (Ende == Lesung::Ende::Unlesbar) return -1;
   if (B.Gestoppt) return Modus == Lesemodus::Ersetzen ? -1 : 0;
+  if (B.Abgeschnitten) DateiendeMeldung(Dateiname);
   if (DoppelteVorhanden()) Hinweis("Achtung, doppelte Punkte vorhanden !");
   return 0;
 }
