@@ -2,6 +2,7 @@
 
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/exchange/EDBS.h>
+#include <tavorena/exchange/EDBSWandler.h>
 #include <tavorena/exchange/Formattafel.h>
 
 namespace tavorena::test {
@@ -190,6 +191,54 @@ TEST_F(EdbsTest, AnhängenZähltWeiter) {
   EXPECT_EQ(EDBSFortsetzen(Zeilen({Anfang, Erster, Ende, "Rest"})),
             Zeilen({Anfang, Erster, "Rest"}) + Satz("000042") + Ende + "\r\n");
   EXPECT_EQ(EDBSFortsetzen(Satz1 + "\x1A"), Satz1 + "\r\n" + Satz("000002"));
+}
+
+TEST_F(EdbsTest, WandelnNachDreiArten) {
+  const EDBSAuftrag Auftrag{Datei, Ordner.Pfad("aus.kor"), Ordner.Pfad("kataster.kor")};
+  const std::string Sicherungspunkt = Mit(60, "U", Mit(53, "300007"));
+  Schreibe(Datei, Zeilen({Anfang, Satz2, Sicherungspunkt, "Rest", Satz1, Ende}));
+  Schreibe(Auftrag.Kataster, "112345 1 2 3\nKopf\n9,5 1,0 2\n");
+  Schreibe(Ordner.Pfad("aus.dru"), "Job\r\n");
+  const std::string Lage = "   3500123.456   5600456.789 ", Tief = "      0.000  ";
+  const std::string Nummern[][4] = {{"  112345", "  300007", "  000112", "U"},
+                                    {"35560000112345", "35560000300007", "35560000000112", "U"},
+                                    {"  112345", "  300007", "     112", "090"}};
+  for (const EDBSNummer Art : {EDBSNummer::Klasse, EDBSNummer::KmQuadrat, EDBSNummer::Tabelle}) {
+    EDBSAuftrag A = Auftrag;
+    A.Nummer = Art;
+    EDBSWandlung W;
+    ASSERT_EQ(EDBSWandeln(A, W), 0);
+    const auto& N = Nummern[static_cast<int>(Art)];
+    const std::string Rand(6, ' '), K = Art == EDBSNummer::Tabelle ? "025" : "K";
+    EXPECT_EQ(W.Kor, Zeilen({Rand + N[0] + Lage + "    345.000  " + K, Rand + N[1] + Lage + Tief + N[3],
+                             Rand + N[2] + Lage + Tief + "5"}) +
+                         (Art == EDBSNummer::KmQuadrat ? "112345 1 2 3\r\n" : "") + "9,5 1,0 2\r\n");
+    EXPECT_TRUE(Gleich(W.Punkte, 3, W.Übergangen, 1, W.ErsteÜbergangene, 4));
+    EXPECT_TRUE(W.Protokoll.ends_with(Zeilen({Rand + N[1] + "  VA:  2 LG:3  Gemark.: 35560000  Sich.pkt.",
+                                              Rand + N[2] + "  VA:  2 LG:3  Gemark.: 35560000"})));
+    ASSERT_EQ(EDBSWandlungSchreiben(A, W), 0);
+    EXPECT_EQ(Inhalt(A.Aus), W.Kor);
+  }
+  EXPECT_TRUE(Inhalt(Ordner.Pfad("aus.dru")).starts_with("Job\r\n\f\r\n----"));
+}
+
+TEST_F(EdbsTest, WandelnLäßtStehenWasNichtGeht) {
+  EDBSWandlung W;
+  const std::string Aus = Ordner.Pfad("aus.kor");
+  Schreibe(Datei, Satz1);
+  for (const EDBSAuftrag& A : {EDBSAuftrag{Datei, Datei}, EDBSAuftrag{Aus, Ordner.Pfad("aus.dru")}}) {
+    Skript.Erwarte("Dateiname für Ein- und Ausgabe ist gleich:\n" + A.Aus);
+    EXPECT_EQ(EDBSWandeln(A, W), -1);
+  }
+  Skript.Erwarte("Datei nicht gefunden:\n" + Aus);
+  EXPECT_EQ(EDBSWandeln({Datei, Ordner.Pfad("b.kor"), Aus}, W), -1);
+  fs::create_directory(Aus);
+  ASSERT_EQ(EDBSWandeln({Datei, Aus}, W), 0);
+  Skript.Erwarte("Fehler aufgetreten beim Anlegen von\n" + Aus);
+  EXPECT_EQ(EDBSWandlungSchreiben({Datei, Aus}, W), -1);
+  EXPECT_FALSE(fs::exists(Ordner.Pfad("aus.dru")));
+  Skript.BeiEreignissen = [] { KorStop = Laufwunsch::Stop; };
+  EXPECT_EQ(EDBSWandeln({Datei, Ordner.Pfad("b.kor")}, W), -2);
 }
 
 }  // namespace
