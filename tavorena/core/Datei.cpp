@@ -4,15 +4,12 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Deskriptor.h>
+#include <tavorena/core/Zeichensatz.h>
 
 namespace fs = std::filesystem;
 
 namespace tavorena {
 namespace {
-
-bool IstUtf16(std::string_view Inhalt) {
-  return Inhalt.starts_with("\xFF\xFE") || Inhalt.starts_with("\xFE\xFF");
-}
 
 int Gescheitert(std::string* Grund, std::string Wort) {
   if (Grund != nullptr) *Grund = std::move(Wort);
@@ -101,14 +98,7 @@ int DateiLesen(std::string_view Name, std::string& Inhalt, std::string* Grund) t
 }
 
 int TextdateiLesen(std::string_view Name, std::string& Text, std::string* Grund) try {
-  if (DateiLesen(Name, Text, Grund) < 0) return -1;
-  if (IstUtf16(Text)) return Gescheitert(Grund, "ist in UTF-16 geschrieben");
-  if (!IstUtf8(Text)) {
-    Text = AusWindows1252(Text);
-  } else if (Text.starts_with("\xEF\xBB\xBF")) {
-    Text.erase(0, 3);
-  }
-  return 0;
+  return DateiLesen(Name, Text, Grund) < 0 ? -1 : AusZeichensatz(Text, Zeichensatz::Automatisch, Grund);
 } catch (const std::exception&) {
   return Gescheitert(Grund, Fehlerwort(EFBIG));
 }

@@ -3,6 +3,8 @@
 #include <span>
 
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/Text.h>
+#include <tavorena/core/Zeichensatz.h>
 
 namespace tavorena {
 namespace {
@@ -82,22 +84,35 @@ std::string AusSeite(std::string_view Bytes, std::span<const char16_t> Seite) {
   return Text;
 }
 
+// The byte of a character; -1 without a place.
+int ByteVon(char32_t Zeichen, std::span<const char16_t> Seite) {
+  if (Zeichen < 0x80 || (Zeichen >= 0x80 + Seite.size() && Zeichen <= 0xFF)) return static_cast<int>(Zeichen);
+  for (std::size_t k = 0; k < Seite.size(); ++k) {
+    if (Seite[k] == Zeichen) return static_cast<int>(0x80U + k);
+  }
+  return -1;
+}
+
 std::string NachSeite(std::string_view Text, std::span<const char16_t> Seite) {
   std::string Bytes;
+  Bytes.reserve(Text.size());
   for (std::size_t i = 0; i < Text.size();) {
-    const char32_t Zeichen = ZeichenLesen(Text, i);
-    if (Zeichen < 0x80 || (Zeichen >= 0x80 + Seite.size() && Zeichen <= 0xFF)) {
-      Bytes += static_cast<char>(Zeichen);
-      continue;
-    }
-    char Ersatz = '?';
-    for (std::size_t k = 0; k < Seite.size(); ++k) {
-      if (Seite[k] == Zeichen) Ersatz = static_cast<char>(0x80U + k);
-    }
-    Bytes += Ersatz;
+    const int Byte = ByteVon(ZeichenLesen(Text, i), Seite);
+    Bytes += Byte < 0 ? '?' : static_cast<char>(Byte);
   }
   return Bytes;
 }
+
+constexpr std::string_view Bom = "\xEF\xBB\xBF";
+
+constexpr struct {
+  Zeichensatz Satz;
+  const char *Name, *Wort;
+} Zeichensätze[] = {{Zeichensatz::Automatisch, "automatisch", "auto"},
+                    {Zeichensatz::Utf8, "UTF-8", "utf8"},
+                    {Zeichensatz::Utf8MitBom, "UTF-8 mit BOM", "utf8-bom"},
+                    {Zeichensatz::Windows1252, "Windows-1252", "1252"},
+                    {Zeichensatz::Dos850, "DOS (850)", "850"}};
 
 }  // namespace
 
@@ -126,5 +141,63 @@ std::string NachWindows1252(std::string_view Text) { return NachSeite(Text, Oben
 
 std::string AusCodepage850(std::string_view Bytes) { return AusSeite(Bytes, Oben850); }
 std::string NachCodepage850(std::string_view Text) { return NachSeite(Text, Oben850); }
+
+const char* ZeichensatzName(Zeichensatz Z) { return Zeichensätze[static_cast<std::size_t>(Z)].Name; }
+
+std::vector<std::string> Ausgabezeichensätze() {
+  std::vector<std::string> Namen;
+  for (const auto& E : Zeichensätze) {
+    if (E.Satz != Zeichensatz::Automatisch) Namen.emplace_back(E.Name);
+  }
+  return Namen;
+}
+
+bool ZeichensatzAus(std::string_view Name, Zeichensatz& Z) {
+  const std::string Gesucht = Großtext(Name);
+  for (const auto& E : Zeichensätze) {
+    if (Gesucht != Großtext(E.Name) && Gesucht != Großtext(E.Wort)) continue;
+    Z = E.Satz;
+    return true;
+  }
+  return false;
+}
+
+std::string NachZeichensatz(std::string_view Text, Zeichensatz Z) {
+  if (Z == Zeichensatz::Windows1252) return NachWindows1252(Text);
+  if (Z == Zeichensatz::Dos850) return NachCodepage850(Text);
+  return std::string(Z == Zeichensatz::Utf8MitBom ? Bom : "").append(Text);
+}
+
+std::string_view ZeichenOhnePlatz(std::string_view Text, Zeichensatz Z) {
+  if (Z != Zeichensatz::Windows1252 && Z != Zeichensatz::Dos850) return {};
+  const std::span<const char16_t> Seite =
+      Z == Zeichensatz::Dos850 ? std::span<const char16_t>(Oben850) : Oben1252;
+  for (std::size_t i = 0; i < Text.size();) {
+    const std::size_t Ab = i;
+    if (ByteVon(ZeichenLesen(Text, i), Seite) < 0) return Text.substr(Ab, i - Ab);
+  }
+  return {};
+}
+
+int AusZeichensatz(std::string& Text, Zeichensatz Z, std::string* Grund) {
+  const auto Gescheitert = [Grund](const char* Wort) {
+    if (Grund != nullptr) *Grund = Wort;
+    return -1;
+  };
+  if (Z == Zeichensatz::Dos850) {
+    Text = AusCodepage850(Text);
+  } else if (Z == Zeichensatz::Windows1252) {
+    Text = AusWindows1252(Text);
+  } else if (Text.starts_with("\xFF\xFE") || Text.starts_with("\xFE\xFF")) {
+    return Gescheitert("ist in UTF-16 geschrieben");
+  } else if (IstUtf8(Text)) {
+    if (Text.starts_with(Bom)) Text.erase(0, Bom.size());
+  } else if (Z == Zeichensatz::Automatisch) {
+    Text = AusWindows1252(Text);
+  } else {
+    return Gescheitert("ist nicht in UTF-8 geschrieben");
+  }
+  return 0;
+}
 
 }  // namespace tavorena
