@@ -1,11 +1,25 @@
 #include <tavorena/core/Formate.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/Formattafel.h>
+#include <tavorena/exchange/Freiformat.h>
+#include <tavorena/exchange/Gsipunkte.h>
+#include <tavorena/exchange/Textformate.h>
 
 namespace tavorena {
 
 void FormateAnmelden() {
-  for (const Formatzugang& F : {EDBSZugang()}) FormatAnmelden(F);
+  FormatAnmelden(EDBSZugang());
+  FormatAnmelden(CooZugang());
+  FormatAnmelden(FreiZugang());
+  FormatAnmelden(GeoMapZugang());
+  FormatAnmelden(GeografAusZugang());
+  FormatAnmelden(GeografZugang());
+  FormatAnmelden(GsiMitCodeZugang());
+  FormatAnmelden(GsiMitHöheZugang());
+  FormatAnmelden(GsiOhneHöheZugang());
+  FormatAnmelden(GsiZugang());
+  FormatAnmelden(HöhenlisteZugang());
+  FormatAnmelden(LfsZugang());
 }
 
 }  // namespace tavorena
