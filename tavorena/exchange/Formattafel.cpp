@@ -1,4 +1,5 @@
 #include <tavorena/core/Formate.h>
+#include <tavorena/exchange/CSV.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/Formattafel.h>
 #include <tavorena/exchange/Freiformat.h>
@@ -8,12 +9,13 @@
 namespace tavorena {
 
 void FormateAnmelden() {
-  FormatAnmelden(EDBSZugang());
   FormatAnmelden(CooZugang());
+  FormatAnmelden(CsvZugang());
+  FormatAnmelden(EDBSZugang());
   FormatAnmelden(FreiZugang());
-  FormatAnmelden(GeoMapZugang());
   FormatAnmelden(GeografAusZugang());
   FormatAnmelden(GeografZugang());
+  FormatAnmelden(GeoMapZugang());
   FormatAnmelden(GsiMitCodeZugang());
   FormatAnmelden(GsiMitHöheZugang());
   FormatAnmelden(GsiOhneHöheZugang());
