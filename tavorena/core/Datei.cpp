@@ -97,6 +97,21 @@ int DateiLesen(std::string_view Name, std::string& Inhalt, std::string* Grund) t
   return Gescheitert(Grund, Fehlerwort(EFBIG));
 }
 
+int DateiStückweise(std::string_view Name, const std::function<bool(std::string_view)>& Nehmen,
+                    std::string* Grund) {
+  struct stat Stand {};
+  std::string Wort;
+  const Deskriptor K = RegulärÖffnen(Systempfad(Name), O_RDONLY, Stand, Wort);
+  if (!K) return Gescheitert(Grund, errno == ENOENT || errno == ENOTDIR ? "" : Wort);
+  std::string Stück(std::size_t{1} << 16U, '\0');
+  for (;;) {
+    const ssize_t n = read(K.Nummer(), Stück.data(), Stück.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return Gescheitert(Grund, Fehlerwort(errno));
+    if (!Nehmen(std::string_view(Stück).substr(0, static_cast<std::size_t>(n))) || n == 0) return 0;
+  }
+}
+
 int TextdateiLesen(std::string_view Name, std::string& Text, std::string* Grund) try {
   return DateiLesen(Name, Text, Grund) < 0 ? -1 : AusZeichensatz(Text, Zeichensatz::Automatisch, Grund);
 } catch (const std::exception&) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -61,6 +62,12 @@ Dateiblick DateiAnsehen(std::string_view Name);
 /// @param[out] Grund  why not; "" if there is no such file
 /// @return 0; -1 if it can not be opened or read, or is too large for the memory
 [[nodiscard]] int DateiLesen(std::string_view Name, std::string& Inhalt, std::string* Grund = nullptr);
+
+/// Reads a file of any size as it stands, a piece at a time.
+/// @param[in] Nehmen  takes a piece, and "" once at the end of the file; false: no more is wanted
+/// @return 0, also where no more was wanted; -1 as DateiLesen
+[[nodiscard]] int DateiStückweise(std::string_view Name, const std::function<bool(std::string_view)>& Nehmen,
+                                  std::string* Grund = nullptr);
 
 /// Reads a text file: valid UTF-8 is taken as such (a byte-order mark is dropped), any other content as
 /// Windows-1252. @return 0; -1 as DateiLesen, and for UTF-16

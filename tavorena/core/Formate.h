@@ -37,10 +37,11 @@ enum class Punktformat : std::int16_t {
 
 /// What reading a file came to, beside its points.
 struct Lesebericht {
-  int Gelesen = 0;             ///< points that the table took
-  int Übergangen = 0;          ///< lines (objects) that are no points; empty lines do not count
-  int ErsteÜbergangene = 0;    ///< number of the first of them, from 1; 0: there is none
-  bool Gestoppt = false;       ///< by the stop button: nothing was taken
+  int Gelesen = 0;           ///< points that the table took
+  int Übergangen = 0;        ///< lines (objects) that are no points; empty lines do not count
+  int ErsteÜbergangene = 0;  ///< number of the first of them, from 1; 0: there is none
+  bool Gestoppt =
+      false;  ///< by the stop button, also where a reader of whole files saw it: nothing was taken
   bool Abgeschnitten = false;  ///< the file ends inside a record
   std::string Zusatz;          ///< what else is to be told about this file, a sentence; "" nothing
 };

@@ -117,6 +117,7 @@ class Lesung {
       if (Zugang.Lesen(
               Datei, [this](const KorSatz& S) { return Nehmen(S); }, Bericht) < 0)
         return Ende::Unlesbar;
+      if (Bericht.Gestoppt) Schluß = Ende::Gestoppt;
     } else {
       ZeilenLesen();
     }

@@ -5,6 +5,7 @@
 #include <tavorena/exchange/Freiformat.h>
 #include <tavorena/exchange/Gsipunkte.h>
 #include <tavorena/exchange/Textformate.h>
+#include <tavorena/exchange/NAS.h>
 
 namespace tavorena {
 
@@ -22,6 +23,7 @@ void FormateAnmelden() {
   FormatAnmelden(GsiZugang());
   FormatAnmelden(HöhenlisteZugang());
   FormatAnmelden(LfsZugang());
+  FormatAnmelden(NasZugang());
 }
 
 }  // namespace tavorena
