@@ -4,8 +4,8 @@
 #include <tavorena/exchange/Formattafel.h>
 #include <tavorena/exchange/Freiformat.h>
 #include <tavorena/exchange/Gsipunkte.h>
-#include <tavorena/exchange/Textformate.h>
 #include <tavorena/exchange/NAS.h>
+#include <tavorena/exchange/Textformate.h>
 
 namespace tavorena {
 
