@@ -5,6 +5,7 @@
 #include <tavorena/console/Befehle.h>
 #include <tavorena/console/Rohangaben.h>
 #include <tavorena/core/Optionen.h>
+#include <tavorena/core/Sammellauf.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -118,12 +119,15 @@ bool Stationieren(const Aufruf& A, const Umfeld& U) {
   const Messdatei Datei = std::exchange(LaufendeMessdatei, {});
   Tagesarbeit Tag(Art == 1, Wahlen[Standpunkt], U);
   bool Gut = true;
-  for (const Rohstation& S : Datei.Folge) {
-    Gut = Tag.Rechnen(S) && Gut;
-    if (U.Beendet()) break;
+  {
+    const Sammellauf Lauf;  // a day's file is computed again sooner than each of its blocks is waited for
+    for (const Rohstation& S : Datei.Folge) {
+      Gut = Tag.Rechnen(S) && Gut;
+      if (U.Beendet()) break;
+    }
+    Tag.Beenden();
   }
-  Tag.Beenden();
-  return Gut;
+  return AktenSichern() == 0 && Gut;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include <tavorena/core/Deskriptor.h>
+#include <tavorena/core/Sammellauf.h>
 
 // Appending: a file that is extended row by row stays open until it is secured.
 
@@ -32,6 +33,8 @@ struct Anhangspur {
 auto& Spuren = *new std::vector<Anhangspur>;
 constexpr std::size_t MeisteSpuren =
     16;  // files extended in turn: the protocol, the batch file, a few worksheets
+
+int Sammelläufe = 0;  // that are under way
 
 bool Sichern(Anhangspur& Spur) {
   const bool Gut = !Spur.K || fsync(Spur.K.Nummer()) == 0;
@@ -158,8 +161,12 @@ void AnhangVergessen(const fs::path& Pfad) {
   std::erase_if(Spuren, [&](const Anhangspur& S) { return S.Pfad == Pfad; });
 }
 
+Sammellauf::Sammellauf() { ++Sammelläufe; }
+Sammellauf::~Sammellauf() { --Sammelläufe; }
+
 int AnhängeSichern(std::string* Name) {
   int Ergebnis = 0;
+  if (Sammelläufe > 0) return 0;
   for (Anhangspur& Spur : Spuren) {
     if (Sichern(Spur)) continue;
     if (Name != nullptr) *Name = Spur.Pfad.string();
