@@ -64,6 +64,7 @@ class M5Lesung {
 
   void Ende(std::string_view Text) {
     BlockAbschließen();
+    StandpunkteErgänzen();
     Roh.Befund.Stationen = Standpunkte.size();
     for (const M5Abweichung& A : M5Vergleichen(Roh)) {
       if (!M5Auffällig(A)) continue;
@@ -162,6 +163,7 @@ class M5Lesung {
     if (const std::string_view Warum = Hindernis(W); !Warum.empty()) return Verworfen(Warum);
     const double Neigung = std::abs(SinGon(W.V.Zahl()));
     double V = W.V.Zahl(), Strecke = W.Schräg.Zahl();
+    if (W.V.IstGegeben() && V == 0) return Verworfen("Zenitwinkel 0");  // a row of 0 has none
     if (!W.Schräg.IstGegeben() || !W.V.IstGegeben()) {
       if (W.V.IstGegeben() && Neigung < 1e-6) return Verworfen("Zenitwinkel zu steil");
       Strecke = W.V.IstGegeben() ? W.Horizontal.Zahl() / Neigung : W.Horizontal.Zahl();
@@ -178,6 +180,20 @@ class M5Lesung {
     if (!W.X.IstGegeben() || !W.Y.IstGegeben()) return Verworfen("Koordinaten unvollständig");
     Roh.Koordinaten.push_back({std::string(Nummer), std::string(Station ? "" : Code), W.Y.Zahl(), W.X.Zahl(),
                                W.Z, Prüfung.Zeile()});
+  }
+
+  // A station that is named once more without its coordinates has those that it had before.
+  void StandpunkteErgänzen() {
+    std::unordered_map<std::string, const Rohblock*> Bekannte;
+    for (Rohblock& B : Roh.Blöcke) {
+      const Rohblock*& Vorige = Bekannte[B.Standpunkt];
+      if (Vorige != nullptr && !B.StandRechts.IstGegeben()) {
+        B.StandRechts = Vorige->StandRechts;
+        B.StandHoch = Vorige->StandHoch;
+        if (!B.StandHöhe.IstGegeben()) B.StandHöhe = Vorige->StandHöhe;
+      }
+      if (B.StandRechts.IstGegeben()) Vorige = &B;
+    }
   }
 
   void BlockAbschließen() {

@@ -123,8 +123,10 @@ TEST_F(M5Test, KonstruierteDatei) {
         Soll.push_back({std::to_string(100 * s + i), "B", R + dR, H + dH, Z + dZ, 0});
       }
     }
+    M.Pi(2, "S", "");  // once more, with the coordinates that it has
     M.Pi(900, "H", Feld("HD", 10) + Feld("Hz", 100, "gon"));
     M.Pi(901, "H", Feld("SD", 10) + Feld("Hz", 100, "gon"));
+    M.Pi(901, "H", Feld("SD", 10) + Feld("Hz", 100, "gon") + Feld("V1", 0, "gon"));
     M.Pi(902, "K", Feld("Y", 1) + Feld("X", 2));
     M.Pi(903, "K", Feld("SD", 10, "ft") + Feld("Hz", 100, "gon") + Feld("V1", 100, "gon"));
     Rohdaten Roh;
@@ -143,10 +145,10 @@ TEST_F(M5Test, KonstruierteDatei) {
     EXPECT_TRUE(
         Gleich(Vorletzte.Rechts, 3456110, Vorletzte.Höhe.IstGegeben(), false, Ist.back().Nummer, "902"));
     const Rohbefund& B = Roh.Befund;
-    ASSERT_TRUE(Gleich(B.Auffällig.size(), 1U, B.NichtGenommen.size(), 2U, B.NichtGelesen.size(), 1U));
+    ASSERT_TRUE(Gleich(B.Auffällig.size(), 1U, B.NichtGenommen.size(), 3U, B.NichtGelesen.size(), 1U));
     EXPECT_TRUE(Gleich(B.Auffällig[0].Anzahl, 2U, B.NichtGenommen[0].Was, "ohne Zenitwinkel",
-                       B.NichtGenommen[1].Was, "ohne Strecke", B.NichtGelesen[0].Was, "SD mit Einheit ft",
-                       B.Stationen, 2U, B.ZweiteLage, 4U));
+                       B.NichtGenommen[1].Was, "Zenitwinkel 0", B.NichtGenommen[2].Was, "ohne Strecke",
+                       B.NichtGelesen[0].Was, "SD mit Einheit ft", B.Stationen, 2U, B.ZweiteLage, 4U));
   }
 }
 
