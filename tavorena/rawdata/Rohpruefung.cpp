@@ -74,7 +74,7 @@ void Rohprüfung::Feld(int Wort, char Einheit, std::string_view Daten) {
   const bool Fremde = Fremd.find(Einheit) != std::string_view::npos;
   B.FremdeEinheiten = B.FremdeEinheiten || Fremde;
   if (Eigene.find(Einheit) != std::string_view::npos || (Fremde && AlleEinheiten)) return;
-  const std::string Was = std::string("Einheit ") + Einheit + " in " + Wortname(Wort);
+  const std::string Was = "Einheit " + Sichtbar(std::string(1, Einheit)) + " in " + Wortname(Wort);
   if (Wort == 87 || Wort == 88) {
     Melden(B.Auffällig, Was + ": Feld als Meter gelesen");
   } else {

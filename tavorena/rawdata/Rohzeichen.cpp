@@ -56,7 +56,9 @@ bool GanzesFeld(std::string_view Feld, double& Zahl) {
   const std::string_view Ganz = TrimmenSicht(Feld);
   const bool Zeichen = Ganz.starts_with('-') || Ganz.starts_with('+');
   const std::string_view Ziffern = Ganz.substr(Zeichen ? 1 : 0);
-  bool Gut = !Ziffern.empty() && Ziffern.size() <= MaxZiffern;
+  // Behind a sign a blank stands in the place of a lost digit: what is left would be ten times too small.
+  const bool Abgerissen = !Feld.empty() && (Feld.back() == ' ' || Feld.back() == '\t') && !IstZiffer(Feld[0]);
+  bool Gut = !Ziffern.empty() && Ziffern.size() <= MaxZiffern && !Abgerissen;
   std::size_t i = 0;
   while (Gut && i < Ziffern.size() && Ziffern[i] == '0') ++i;  // fields are mostly filled with them
   std::int64_t n = 0;

@@ -62,7 +62,7 @@ inline constexpr GSIForm Form8{8, 11}, Form16{16, 9};
 /// The number of a word index; -1 for two characters that are none.
 [[nodiscard]] int Wortindex(std::string_view Wort);
 
-/// A field of a sign, which may be blank or missing, and digits.
+/// A field of a sign, which may be blank or missing, and digits up to its end.
 /// @return false if it holds anything else, Zahl is then the number in front, or 0
 [[nodiscard]] bool GanzesFeld(std::string_view Feld, double& Zahl);
 

@@ -92,6 +92,11 @@ TEST_F(RohdatenTest, WasFehltWirdGesagt) {
       {Ziel("1", "-----", "1"), "Wort 21 ohne Zahl 1|Richtung nicht lesbar 1|"},
       {"110001+00000001 21.324+00000001 22.322+00000001 31..00+00001000",
        "Einheit 4 in Wort 21 1|Richtung nicht lesbar 1|"},
+      // A lost digit draws the blank behind the word into the field.
+      {"110001+00000001 21.322+00000001 22.322+00000001 31..00+0001000 71....+00000005",
+       "Wort 31 ohne Zahl 1|Wort am Zeilenende abgeschnitten 1|Strecke nicht lesbar 1|"},
+      {"110001+00000001 21.322+00000001 22.322+00000001 31..0\x1b+00001000",
+       "Einheit ␛ in Wort 31 1|Strecke nicht lesbar 1|"},
       {Messzeile("1", {{81, "1"}, {82, "X"}}),
        "Wort 82 mit Buchstaben im Wert 1|Koordinaten unvollständig 1|"},
       {Messzeile("1", {{87, "1500000"}}), "Höhe über 20 m 1|"},
