@@ -113,6 +113,11 @@ bool KoordinateAus(char Einheit, std::string_view Feld, Rohform Form, double& Me
   return Zahl && Meter != 0;
 }
 
+// A coordinate of 0.
+bool NichtGerechnet(std::string_view Feld) {
+  return IstZahlwort(TrimmenSicht(Feld)) && ZahlAusText(Feld) == 0;
+}
+
 // The number in as many characters as the field has, with the decimals that it has; stars if it is too long.
 std::string FeldMit(double Meter, char Einheit, std::string_view Feld, Rohform Form) {
   const std::size_t Breite = Feld.size();
@@ -227,7 +232,11 @@ int RohdatenBasisAbziehen(const std::string& Quelle, const std::string& Ziel, in
   if (!RohdatenReduktion(Modus, Rechts, Hoch, Basis)) return 1;
   const bool Fertig = Datei.Alle([&](int Wort, char Einheit, std::string_view Feld) {
     double Meter = 0;
-    if (!IstKoordinate(Wort) || !KoordinateAus(Einheit, Feld, Form, Meter)) return;
+    if (!IstKoordinate(Wort)) return;
+    if (!KoordinateAus(Einheit, Feld, Form, Meter)) {
+      U.Ohne += NichtGerechnet(Feld) ? 0 : 1;  // it keeps a base that its neighbours lose
+      return;
+    }
     const std::string Neu =
         FeldMit(Meter - (IstRechts(Wort) ? Basis.Rechts : Basis.Hoch), Einheit, Feld, Form);
     ++U.Werte;

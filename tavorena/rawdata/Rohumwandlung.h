@@ -20,7 +20,7 @@ struct Umwandlung {
   std::size_t Zeilen = 0;  ///< lines that were written, of `RohdatenKonvertieren`
   std::size_t Werte = 0;   ///< values that were changed in place
   std::size_t Sterne = 0;  ///< values that their field could not hold: they stand as stars
-  std::size_t Ohne = 0;    ///< what has no counterpart: lines left out, values that are no number
+  std::size_t Ohne = 0;    ///< what has no counterpart: lines left out, values in no known unit or no number
 };
 
 /// GSI to GRE, line by line. Lines of no known class are left out.

@@ -194,9 +194,11 @@ TEST_F(RohdatenTest, Umwandlungen) {
   EXPECT_TRUE(Gleich(RohdatenBasisAbziehen(Quelle, Ab, 1, Rohform::GSI, B, U, &Grund, true), 1));
   EXPECT_EQ(RohdatenBasisAbziehen(Quelle, Ab, 3, Rohform::GSI, B, U, &Grund, true), 1)
       << "40 m stand below 12345 m";
-  Schreibe(Quelle, "Nr 1 RW 3500100.12 HW 5600200.5\r\nNr 2 RW 3499999.00 HW 0.000\r\n");
+  Schreibe(Quelle, "Nr 1 RW 3500100.12 HW 5600200.5\r\nNr 2 RW 3499999.00 HW 0.000\r\nNr 3 RW 35001O0\r\n");
   EXPECT_EQ(RohdatenBasisAbziehen(Quelle, Ab, 2, Rohform::GRE, B, U, &Grund, true), 0);
-  EXPECT_EQ(Inhalt(Ab), "Nr 1 RW   10100.12 HW     200.5\r\nNr 2 RW    9999.00 HW 0.000\r\n");
+  EXPECT_EQ(Inhalt(Ab),
+            "Nr 1 RW   10100.12 HW     200.5\r\nNr 2 RW    9999.00 HW 0.000\r\nNr 3 RW 35001O0\r\n");
+  EXPECT_TRUE(Gleich(U.Werte, 3U, U.Ohne, 1U));
   for (const auto& [Modus, Soll] : {std::pair(1, 5600000.0), {2, 5650000.0}, {3, 5654000.0}}) {
     EXPECT_TRUE(RohdatenReduktion(Modus, 99, 5654321, B));
     EXPECT_TRUE(Gleich(B.Rechts, 0.0, B.Hoch, Soll));
