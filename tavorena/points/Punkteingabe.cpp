@@ -51,8 +51,10 @@ class Reiheneingabe {
     Wert Pnr(P.Pnr);
     const int Besitzer = KorSucheMitPunkt(Pnr);
     if (Besitzer < 0) {  // all of them are sorted at once
-      if (KorAnhängen(P.Satz()) < 0) return Voll();
-      return Merken(NeupunktCode::Neu, {0, 0, P.Pnr, P.Rechts, P.Hoch, {}}, P, P);
+      Punktsatz Neuer = P;
+      ZeichenErsetzen(Neuer.Pnr, ',', '.');  // as the sort will leave it, for those that follow
+      if (KorAnhängen(Neuer.Satz()) < 0) return Voll();
+      return Merken(NeupunktCode::Neu, {0, 0, Neuer.Pnr, P.Rechts, P.Hoch, {}}, Neuer, Neuer);
     }
     const Punktsatz Alter = PunktsatzVon(Besitzer);
     NeupunktErgebnis E;

@@ -296,8 +296,11 @@ TEST_F(Punktverwaltung, ZweiNebeneinander) {
 
 // Points of another file: one deed, one question for all taken numbers, the file's own repetitions too.
 TEST_F(Punktverwaltung, VielePunkteSindEineTat) {
-  const std::vector<Punktsatz> Neue = {
-      {"5,5", 1, 2, 0, ""}, {"1", 101, 201, 11, ""}, {"4", 3, 4, 0, "020"}, {"4", 5, 6, 0, ""}};
+  const std::vector<Punktsatz> Neue = {{"5,5", 1, 2, 0, ""},
+                                       {"1", 101, 201, 11, ""},
+                                       {"4", 3, 4, 0, "020"},
+                                       {"4", 5, 6, 0, ""},
+                                       {"5.5", 7, 8, 0, ""}};
   Haken.PunktVorhandenBehandeln = PunktVorhandenBehandeln;
   Skript.Formulare.push_back(Bediene({{"PDoppAbbruch", ""}}));
   Eingabezählung Z;
@@ -309,7 +312,7 @@ TEST_F(Punktverwaltung, VielePunkteSindEineTat) {
     Drücke(Form, "PDoppAltenLöschen");
   });
   ASSERT_EQ(PunkteEingeben(R, "Probe", Neue, Z), 0);
-  EXPECT_TRUE(Gleich(Z.Neue, 2, Z.Ersetzte, 2, Z.Verworfene, 0, Nummern(), "1 2 2 3 4 5.5 8A ", KorRechts[0],
+  EXPECT_TRUE(Gleich(Z.Neue, 2, Z.Ersetzte, 3, Z.Verworfene, 0, Nummern(), "1 2 2 3 4 5.5 8A ", KorRechts[0],
                      101, KorHoch[4], 6, R.Name(), "Probe"));
   EXPECT_EQ(R.Zurück(), 0);
   EXPECT_EQ(Tabelle(), Vorher);
