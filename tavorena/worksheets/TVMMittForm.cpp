@@ -34,6 +34,7 @@ std::vector<std::vector<int>> Mehrfachmessungen(const std::vector<Punktsatz>& Al
 TVMMittForm::TVMMittForm(Messliste& Messungen)
     : Dialogform("TVMMittForm", "Tavorena Messungen mitteln"), Liste(Messungen) {
   Hilfenummer = 4230;
+  Ungefragt = true;  // its button begins a second measurement where nothing stands twice
   PunktzeileKopf(*this, {0, 0}, RahmenAlte);
   BeschriftungAnlegen("Bem.", {0, 5}, RahmenAlte);
   for (std::size_t i = 0; i < GrößteGruppe; ++i) {

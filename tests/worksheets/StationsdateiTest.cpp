@@ -159,6 +159,7 @@ TEST_F(Stationsdatei, MittelNurUnterDenMessungen) {
   Form.Öffnen();
   EXPECT_TRUE(Gleich(Text(Form, "NeuerPunktPnr"), "7", Text(Form, "NeuerPunktRechts"), "100.233",
                      Text(Form, "AlterPunktBem(0)"), "W>D(max)", Text(Form, "AlterPunktBem(1)"), "W>D"));
+  EXPECT_TRUE(Form.Ungefragt);
   Drücke(Form, "MMittMitteln");
   EXPECT_EQ(L.Alle.size(), 7U);
   Drücke(Form, "MMittWeiter");  // the 8 stay
