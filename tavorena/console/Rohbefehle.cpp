@@ -49,9 +49,9 @@ bool Satzliste(const Aufruf& A, const Rohdatenwahl& Wahl, const Rohdaten& Roh) {
 bool Punktdatei(const Aufruf& A, const Umfeld& U, const Rohdaten& Roh) {
   const std::string Datei = A.Wert("--punkte");
   if (Datei.empty()) return true;
-  if (!Ersetzen(Datei, RohkoordinatenAlsKor(Roh, Optionen.OptNachkommaSpeichern))) return false;
-  U.Ausgabe << Sichtbar(Datei) << ": "
-            << Anzahltext(static_cast<int>(Roh.Koordinaten.size()), "Punkt", "Punkte") << " geschrieben\n";
+  int Anzahl = 0;
+  if (!Ersetzen(Datei, RohkoordinatenAlsKor(Roh, Optionen.OptNachkommaSpeichern, Anzahl))) return false;
+  U.Ausgabe << Sichtbar(Datei) << ": " << Anzahltext(Anzahl, "Punkt", "Punkte") << " geschrieben\n";
   return true;
 }
 

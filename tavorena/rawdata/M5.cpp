@@ -296,16 +296,14 @@ std::vector<Rohkoordinate> M5Punkte(const Rohdaten& Roh) {
 }
 
 int M5PunkteSchreiben(const Rohdaten& Roh, const std::string& Ziel, int& Anzahl) {
-  Rohdaten Punkte;
+  const Rohdaten Punkte{Roh.Datei, Rohform::M5, {}, M5Punkte(Roh), {}};
   std::string Grund;
-  Punkte.Koordinaten = M5Punkte(Roh);
-  Anzahl = static_cast<int>(Punkte.Koordinaten.size());
-  if (Anzahl == 0) {
+  if (Punkte.Koordinaten.empty()) {
     FehlerMeldung("Keine Punkte in der Datei:\n" + Roh.Datei);
     return -1;
   }
-  if (DateiErsetzen(Ziel, RohkoordinatenAlsKor(Punkte, Optionen.OptNachkommaSpeichern), &Grund) == 0)
-    return 0;
+  const std::string Text = RohkoordinatenAlsKor(Punkte, Optionen.OptNachkommaSpeichern, Anzahl);
+  if (DateiErsetzen(Ziel, Text, &Grund) == 0) return 0;
   SpeicherfehlerMelden(Ziel, Grund, "M5.Schreiben");
   return -1;
 }

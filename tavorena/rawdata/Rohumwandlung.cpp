@@ -246,14 +246,24 @@ int RohdatenBasisAbziehen(const std::string& Quelle, const std::string& Ziel, in
   return Fertig ? DateiErsetzen(Ziel, Inhalt, Grund) : -2;
 }
 
-std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma) {
+std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma, int& Anzahl) {
+  const auto Wort = [](std::string Text) {  // a file of words
+    ZeichenErsetzen(Text, ' ', '_');
+    return Text;
+  };
+  const auto Paßt = [&](double x) { return ZahlFormat(x, 7, Nachkomma).find('*') == std::string::npos; };
   std::string Text;
+  Anzahl = 0;
   for (const Rohkoordinate& K : Roh.Koordinaten) {
-    std::string Nummer = K.Nummer;
-    ZeichenErsetzen(Nummer, ' ', '_');  // a file of words
-    KorZeileAnhängen(Text, Nummer, K.Rechts, K.Hoch, K.Höhe.Zahl(), K.Code, Nachkomma);
+    if (!Paßt(K.Rechts) || !Paßt(K.Hoch) || !Paßt(K.Höhe.Zahl())) continue;
+    KorZeileAnhängen(Text, Wort(K.Nummer), K.Rechts, K.Hoch, K.Höhe.Zahl(), Wort(K.Code), Nachkomma);
     Text += "\r\n";
+    ++Anzahl;
   }
+  const int Ohne = static_cast<int>(Roh.Koordinaten.size()) - Anzahl;
+  if (Ohne > 0)
+    Hinweis(Anzahltext(Ohne, "Punkt fehlt", "Punkte fehlen") +
+            " in der KOR-Datei: mehr als 7 Stellen vor dem Komma\n" + Roh.Datei);
   return Text;
 }
 

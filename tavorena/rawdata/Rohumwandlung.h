@@ -53,9 +53,11 @@ struct Koordinatenbasis {
                                         Rohform Form, Koordinatenbasis& Basis, Umwandlung& U,
                                         std::string* Grund = nullptr, bool Ersetzen = false);
 
-/// The coordinates of a raw-data file as the text of a KOR file. A blank in a number becomes "_".
-/// @param[in] Nachkomma  decimals
-[[nodiscard]] std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma);
+/// The coordinates of a raw-data file as the text of a KOR file. A blank in a number or a code becomes "_".
+/// A point with a coordinate that its field can not hold is left out and told: stars would be read as 0.
+/// @param[in]  Nachkomma  decimals
+/// @param[out] Anzahl     of the points in it
+[[nodiscard]] std::string RohkoordinatenAlsKor(const Rohdaten& Roh, int Nachkomma, int& Anzahl);
 
 /// The whole point table as lines of 16 digits for the instrument, in its order.
 [[nodiscard]] std::string TabelleAlsGSI(GSIAusgabe Art);

@@ -48,9 +48,10 @@ int Übertragen(const std::string& Quelle, const Rohdaten& Daten, Entladung& E) 
   ++E.Dateien;
   if (Daten.Koordinaten.empty()) return 0;
   const std::string Kor = PfadVerbinden(Optionen.VerzeichnisRohdatenKor, Teile.Grundname + ".kor");
-  if (Ablegen(Kor, RohkoordinatenAlsKor(Daten, Optionen.OptNachkommaSpeichern)) < 0) return -1;
+  int Anzahl = 0;
+  if (Ablegen(Kor, RohkoordinatenAlsKor(Daten, Optionen.OptNachkommaSpeichern, Anzahl)) < 0) return -1;
   ++E.KorDateien;
-  E.Punkte += static_cast<int>(Daten.Koordinaten.size());
+  E.Punkte += Anzahl;
   return 0;
 }
 

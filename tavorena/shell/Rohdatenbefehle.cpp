@@ -167,9 +167,10 @@ void KoordinatenAlsKor() {
   Rohquelle Q;
   if (!QuelleFragen(FilterUmwandlung, "*.gsi", Q) || OhneKoordinaten(Q)) return;
   const std::string Ziel = ZielFragen(Q, FilterKorDatei, "*.kor");
-  if (!Ziel.empty() && Ablegen(Ziel, RohkoordinatenAlsKor(Q.Daten, Optionen.OptNachkommaSpeichern), false))
-    StatusHilfeSetzen(Anzahltext(static_cast<int>(Q.Daten.Koordinaten.size()), "Punkt", "Punkte") +
-                      " geschrieben");
+  int Anzahl = 0;
+  if (!Ziel.empty() &&
+      Ablegen(Ziel, RohkoordinatenAlsKor(Q.Daten, Optionen.OptNachkommaSpeichern, Anzahl), false))
+    StatusHilfeSetzen(Anzahltext(Anzahl, "Punkt", "Punkte") + " geschrieben");
 }
 
 void BasisAbziehen() {

@@ -146,6 +146,12 @@ TEST_F(RohdatenTest, KoordinatenGegenDieTabelle) {
   EXPECT_TRUE(Roh.Koordinaten.at(0).Höhe.IstLeer());
   Bild("*110001+0000000000000005 81..00+0000001200000000 82..00+0000080300000000");
   EXPECT_EQ(Mängel(), "Koordinaten 1000mal zu groß 1|");
+  Roh.Koordinaten.push_back({"1 A", "B C", 1, 2, {}, 1});
+  int Anzahl = 0;
+  Skript.Erwarte("1 Punkt fehlt in der KOR-Datei");
+  EXPECT_EQ(RohkoordinatenAlsKor(Roh, 1, Anzahl),
+            "           1_A         1.0         2.0       0.0  B_C\r\n");
+  EXPECT_EQ(Anzahl, 1);
 }
 
 TEST_F(RohdatenTest, DialekteUndBericht) {
