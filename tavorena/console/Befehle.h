@@ -48,6 +48,9 @@ namespace tavorena {
 [[nodiscard]] Konsolenbefehl ÜbernahmeBefehl();        ///< "uebernehmen --aus b.kor --was koordinaten"
 /// @}
 
+/// "umrechnen --von gk --nach gk4 ein aus": a file into another strip or zone, or to the globe and back.
+[[nodiscard]] Konsolenbefehl UmrechenBefehl();
+
 /// "stationieren --art helmert|kongruent": a whole raw-data file, station by station.
 [[nodiscard]] Konsolenbefehl StationierBefehl();
 

@@ -9,6 +9,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Geschuetzt.h>
 #include <tavorena/core/KorDatei.h>
+#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/points/Punktgruppen.h>
@@ -71,7 +72,7 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   }
   if (!A.Speichern.empty() && A.Koordinaten.empty()) return Ich + "--speichern braucht --koordinaten";
   if (!A.Wert("--pdf").empty() && A.Protokoll.empty()) return Ich + "--pdf braucht --protokoll";
-  // An output must not destroy what is read or written besides; the table may go back to its file.
+  // An output must not destroy what is read or written besides.
   struct Rolle {
     std::string Wort, Name;
     bool Ausgabe;
@@ -88,12 +89,15 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   }
   for (const Rolle& Aus : Rollen) {
     for (const Rolle& Andere : Rollen) {
-      const bool Zurück = &Aus == &Rollen[0] && &Andere == &Rollen[2];
-      if (!Aus.Ausgabe || &Aus == &Andere || Zurück || !SelbeDatei(Aus.Name, Andere.Name)) continue;
+      // The table may go back to its file; a file that is to become itself is told when it comes to that.
+      const bool Erlaubt = (&Aus == &Rollen[0] && &Andere == &Rollen[2]) ||
+                           (&Aus == &Rollen[4] && &Andere == &Rollen[3]);
+      if (!Aus.Ausgabe || &Aus == &Andere || Erlaubt || !SelbeDatei(Aus.Name, Andere.Name)) continue;
       return Aus.Name + ": " + Aus.Wort + " ist auch " + Andere.Wort;
     }
   }
-  return "";
+  const std::string Warum = B.Prüfen ? B.Prüfen(A) : "";
+  return Warum.empty() ? "" : Ich + Warum;
 }
 
 bool Lesen(const Aufruf& A, PlattformKonsole& Konsole) {
@@ -138,6 +142,10 @@ bool Arbeiten(const Konsolenbefehl& B, const Aufruf& A, const Umfeld& U, Plattfo
   if (auto Antwort = Antwortgeber(A.Vorhanden)) Haken.PunktVorhandenBehandeln = std::move(Antwort);
   if (!Lesen(A, Konsole) || !ProtokollBeginnen(A, Konsole)) return false;
   Konsole.Arbeitet(Arbeitsdatei(B, A));
+  if (SelbeDatei(A.Datei, A.Ziel)) {
+    Hinweis("Dateiname für Ein- und Ausgabe ist gleich:\n" + A.Ziel);
+    return false;
+  }
   // After a failure the table may be half done: the file stays as it is.
   return B.Tun(A, U) && !Konsole.Mißlungen() && Speichern(A, Konsole);
 }

@@ -78,6 +78,8 @@ struct Konsolenbefehl {
   std::vector<Angabe> Angaben = {};
   bool OderKoordinaten = false;  ///< the coordinate file can stand for Datei, which is then ""
   const char* Ziel = nullptr;  ///< tells what Aufruf::Ziel is, which then must be given; nullptr: it has none
+  /// What is wrong with the values of a call; "": nothing. Nothing was read before.
+  std::function<std::string(const Aufruf& A)> Prüfen = {};
 };
 
 /// Runs a command: looks at the call, reads the coordinates, takes the protocol, works, and saves the table

@@ -155,7 +155,8 @@ class Umrechenlauf {
       // A Rechts whose first digit is that of another strip, be it by rounding, would be read back there.
       const bool Fremd =
           Netz.Art == Netzart::GK && !(std::fabs(P.Rechts - P.Streifen * 1e6 - 500000) < 499999);
-      if (Fremd || ZuGroß(P.Rechts, Grenze7) || ZuGroß(P.Hoch, Grenze7)) Zählen(Bericht.Koordinaten, P.Pnr);
+      if (Fremd || ZuGroß(P.Rechts, Grenze7)) Zählen(Bericht.Koordinaten, P.Pnr);
+      if (ZuGroß(P.Hoch, Grenze7)) Zählen(Bericht.Koordinaten, P.Pnr);
       KorZeileAnhängen(Ziel, P.Pnr, P.Rechts, P.Hoch, P.Hoehe, P.Symbol, Was.Nachkomma);
     } else {
       GeographischAnhängen(Ziel, P);

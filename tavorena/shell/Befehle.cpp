@@ -26,6 +26,7 @@
 #include <tavorena/shell/Rohdatenbefehle.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
+#include <tavorena/shell/Umrechenbefehle.h>
 #include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
@@ -222,6 +223,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
     for (const Befehl& N : Nivbefehle()) B.push_back(N);
     for (const Befehl& P : Punktbefehle()) B.push_back(P);
     for (const Befehl& R : Rohdatenbefehle()) B.push_back(R);
+    for (const Befehl& U : Umrechenbefehle()) B.push_back(U);
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
         if (Menü != nullptr && *Menü != '\0') B.push_back({Menü, true, [&Art] { BlattÖffnen(Art); }});

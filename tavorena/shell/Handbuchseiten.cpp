@@ -18,7 +18,8 @@ constexpr Seite Seiten[] = {
     {4020, "vergeben.md"},    {4030, "loeschen.md"},    {4040, "mittelbildung.md"}, {4060, "loeschen.md"},
     {4070, "rechenblatt.md"}, {4090, "theodolit.md"},   {4100, "rechenblatt.md"},   {5000, "index.md"},
     {5030, "m5.md"},          {5040, "index.md"},       {6040, "setzung.md"},       {6050, "absteckung.md"},
-    {6060, "index.md"},       {8000, "index.md"},       {8020, "optionen.md"},      {8040, "index.md"},
+    {6060, "index.md"},       {7010, "umrechnen.md"},   {7020, "index.md"},         {8000, "index.md"},
+    {8020, "optionen.md"},    {8040, "index.md"},
 };
 
 }  // namespace
