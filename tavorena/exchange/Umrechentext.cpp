@@ -74,13 +74,12 @@ std::string Umrechentext(const Umrechnung& U, const Umrechenbericht& B, const st
 }
 
 std::string Umrechensatz(const Umrechnung& U, const std::vector<int>& Quellstreifen) {
-  const bool Utm = U.Von.Art == Koordinatenart::UTM || U.Nach.Art == Koordinatenart::UTM;
-  const std::string Ellipsoid = ", " + (Utm ? "GRS 80" : U.Ellipsoidname);
+  const std::string Körper = ", " + Ellipsoidname(U);
   const std::string Nach = Streifentext(U.Nach.Art, Gewählt(U.Nach), "nach Länge");
   if (U.Von.Art == Koordinatenart::Geographisch)
-    return "geographisch" + Ellipsoid + " -> " + Netzname(U.Nach.Art) + ", " + Nach;
+    return "geographisch" + Körper + " -> " + Netzname(U.Nach.Art) + ", " + Nach;
   const std::vector<int> Von = U.Von.Nummer > 0 ? Gewählt(U.Von) : Quellstreifen;
-  return Netzname(U.Von.Art) + Ellipsoid + ", " + Streifentext(U.Von.Art, Von, "im Rechtswert") + " -> " +
+  return Netzname(U.Von.Art) + Körper + ", " + Streifentext(U.Von.Art, Von, "im Rechtswert") + " -> " +
          (U.Nach.Art == Koordinatenart::Geographisch ? "geographisch" : Nach);
 }
 

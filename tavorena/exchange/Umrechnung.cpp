@@ -111,6 +111,8 @@ Streifennetz NetzVon(const Umrechnung& U) {
   return Eben == Koordinatenart::UTM ? Streifennetz() : Streifennetz(U.Körper);
 }
 
+constexpr std::string_view Kopfwort = "@%Reference ellipsoid:";
+
 // One run over a text.
 class Umrechenlauf {
  public:
@@ -119,13 +121,18 @@ class Umrechenlauf {
 
   void Zeile(std::string_view Text, int Nummer) {
     const std::string_view Inhalt = TrimmenSicht(Text);
-    if (Inhalt.empty() || (!VonEbene() && Inhalt.starts_with('@'))) return;
+    if (Inhalt.empty()) return;
+    if (!VonEbene() && Inhalt.starts_with('@')) return KopfLesen(Inhalt);
     const bool Gelesen = VonEbene() ? EbenLesen(Text, Was.Von, P) : GeographischLesen(Text, P);
     if (Gelesen && Rechnen() == 0) return Schreiben();
     if (Bericht.Andere++ == 0) Bericht.ErsteAndere = Nummer;
   }
 
  private:
+  void KopfLesen(std::string_view Zeile) {
+    if (Zeile.starts_with(Kopfwort)) Bericht.Kopfellipsoid = Trimmen(Zeile.substr(Kopfwort.size()));
+  }
+
   [[nodiscard]] bool VonEbene() const { return Was.Von.Art != Koordinatenart::Geographisch; }
   [[nodiscard]] bool NachEbene() const { return Was.Nach.Art != Koordinatenart::Geographisch; }
 
@@ -170,7 +177,7 @@ class Umrechenlauf {
         Utm ? P.Streifen : static_cast<int>(std::lround(Mittelmeridian(Netz.Art, P.Streifen)));
     Ziel += "@%Unit:                    m\r\n@%Coordinate type:         ";
     Ziel += Was.Kartesisch ? "Cartesian" : "Grid";
-    Ziel += "\r\n@%Reference ellipsoid:     " + (Utm ? "GRS 80" : Was.Ellipsoidname);
+    Ziel.append("\r\n").append(Kopfwort).append(5, ' ').append(Ellipsoidname(Was));
     Ziel += "\r\n@%Projection set:          " + std::string(Utm ? "UTM-" : "GK-");
     Ziel += std::to_string(Projektion) + "\r\n";
   }
@@ -182,6 +189,14 @@ class Umrechenlauf {
   Wegpunkt P;
 };
 
+// Degrees on one ellipsoid are another place on another one.
+bool EllipsoidErlaubt(const Umrechnung& U, const std::string& ImKopf) {
+  return ImKopf.empty() || ImKopf == Ellipsoidname(U) ||
+         FrageJaNein("Die Eingabe nennt das Ellipsoid " + Zitat(ImKopf) + ", gerechnet wird mit " +
+                         Ellipsoidname(U) + ".\n\nTrotzdem umrechnen ?",
+                     "Tavorena", KnopfNein) == KnopfJa;
+}
+
 // Asks whether what is lost may be lost.
 bool VerlustErlaubt(const std::vector<std::string>& Zeilen) {
   if (Zeilen.empty()) return true;
@@ -191,6 +206,11 @@ bool VerlustErlaubt(const std::vector<std::string>& Zeilen) {
 }
 
 }  // namespace
+
+std::string Ellipsoidname(const Umrechnung& U) {
+  const bool Utm = U.Von.Art == Koordinatenart::UTM || U.Nach.Art == Koordinatenart::UTM;
+  return Utm ? "GRS 80" : U.Ellipsoidname;
+}
 
 bool VerschiedeneBezugssysteme(const Umrechnung& U) {
   return U.Von.Art != Koordinatenart::Geographisch && U.Nach.Art != Koordinatenart::Geographisch &&
@@ -238,7 +258,9 @@ int DateiUmrechnen(const std::string& Ein, const std::string& Aus, const Umrechn
   const int Ergebnis = Binär ? -1 : TextUmrechnen(Text, U, Neu, Bericht);
   if (Ergebnis == -1) FehlerMeldung("Format nicht erkannt");
   if (Ergebnis == -2) StatusHilfeSetzen("angehalten, nichts geschrieben");
-  if (Ergebnis < 0 || !VerlustErlaubt(Umrechenverlust(U, Bericht))) return -1;
+  if (Ergebnis < 0 || !EllipsoidErlaubt(U, Bericht.Kopfellipsoid) ||
+      !VerlustErlaubt(Umrechenverlust(U, Bericht)))
+    return -1;
   if (DateiErsetzen(Aus, Neu, &Grund) == 0) return 0;
   Hinweis("Fehler aufgetreten beim Schreiben in\n" + Aus + InKlammern(Grund));
   return -1;

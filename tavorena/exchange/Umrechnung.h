@@ -31,6 +31,9 @@ struct Umrechnung {
   int Nachkomma = 3;                     ///< decimals of plane coordinates
 };
 
+/// The ellipsoid that is computed on.
+[[nodiscard]] std::string Ellipsoidname(const Umrechnung& U);
+
 /// Gauss-Krüger and UTM have different datums: no formula leads from one to the other.
 [[nodiscard]] bool VerschiedeneBezugssysteme(const Umrechnung& U);
 
@@ -52,6 +55,7 @@ struct Umrechenbericht {
   std::string Fernster;         ///< its number
   Zuviel Koordinaten;           ///< would come back as others, or as none
   Zuviel Höhen;
+  std::string Kopfellipsoid;  ///< that the head of a geographic file names; "": none
 };
 
 /// Converts a text.
@@ -64,7 +68,7 @@ struct Umrechenbericht {
 [[nodiscard]] std::vector<std::string> Umrechenverlust(const Umrechnung& U, const Umrechenbericht& Bericht);
 
 /// Converts a file. The new one takes its place at the end and wholly, after a question where something would
-/// be lost. Each failure is told in a message.
+/// be lost or the head of the file names another ellipsoid. Each failure is told in a message.
 /// @return 0; -1 not done, or stopped: the output is then as it was
 [[nodiscard]] int DateiUmrechnen(const std::string& Ein, const std::string& Aus, const Umrechnung& U,
                                  Umrechenbericht& Bericht);

@@ -32,6 +32,7 @@ TVGeokonvertForm::TVGeokonvertForm(Umrechenrichtung R, std::string FormTitel, Um
   NetzeAnlegen();
   DateienAnlegen();
   Satz = &BeschriftungAnlegen("", {0, 0});
+  Satz->Name = "GeoSatz";
   OkUndAbbruch([this] { Übernehmen(); });
   QuelleAnsehen();
   Darstellen();
@@ -47,6 +48,7 @@ void TVGeokonvertForm::EllipsoidAnlegen() {
     Körper.push_back(&A);
   }
   Halbachsen = &BeschriftungAnlegen("", {1, 0, 3}, RahmenKörper);
+  Halbachsen->Name = "GeoHalbachsen";
 }
 
 void TVGeokonvertForm::NetzeAnlegen() {

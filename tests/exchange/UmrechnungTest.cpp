@@ -135,6 +135,14 @@ TEST_F(UmrechnungTest, VerlusteWerdenGefragt) {
   }
 }
 
+// Degrees on Bessel's ellipsoid are 100 m away on the other.
+TEST_F(UmrechnungTest, KopfNenntAnderesEllipsoid) {
+  const std::string Text = "@%Reference ellipsoid:     Bessel\r\n1 9 51\r\n";
+  EXPECT_EQ(Laufen(Von(Geo, Gk), Text), 0);
+  Skript.Erwarte("Die Eingabe nennt das Ellipsoid Bessel, gerechnet wird mit GRS 80.\n\nTrotzdem", KnopfNein);
+  EXPECT_EQ(Laufen(Von(Geo, Utm), Text), -1);
+}
+
 TEST_F(UmrechnungTest, SchlechteDateienLassenDieAlteStehen) {
   Schreibe(Aus, "alt");
   const Umrechnung U = Von(Geo, Gk);
