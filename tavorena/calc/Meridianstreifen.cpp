@@ -103,6 +103,10 @@ double Mittelmeridian(Netzart Art, std::int32_t Nummer) {
   return Art == Netzart::GK ? 3.0 * Nummer : 6.0 * (Nummer - 30.0) - 3;
 }
 
+double Mittenabstand(Netzart Art, std::int32_t Nummer, double Laenge) {
+  return std::remainder(Laenge - Mittelmeridian(Art, Nummer), 360);
+}
+
 int StreifenNachLaenge(Netzart Art, double Laenge, std::int32_t& Nummer) {
   double Delta = 0;
   return Art == Netzart::GK ? GKStreifen(Laenge, Delta, Nummer) : UTMZone(Laenge, Nummer);
@@ -110,7 +114,7 @@ int StreifenNachLaenge(Netzart Art, double Laenge, std::int32_t& Nummer) {
 
 int StreifenVorwaerts(const Streifennetz& N, std::int32_t Nummer, double Laenge, double Breite,
                       double& Rechts, double& Hoch) {
-  const double Delta = Laenge - Mittelmeridian(N.Art, Nummer);
+  const double Delta = Mittenabstand(N.Art, Nummer, Laenge);
   if (!Gültig(Delta, Breite)) return -1;
   double y = 0, x = 0, Konvergenz = 0;
   if (std::fabs(Delta) > Reihengrenze(N.Art)) {
@@ -118,7 +122,7 @@ int StreifenVorwaerts(const Streifennetz& N, std::int32_t Nummer, double Laenge,
   } else if (N.Art == Netzart::GK) {
     return GKVorwaerts(1, N.E, Nummer, Breite * RadJeGrad, Delta * RadJeGrad, Rechts, Hoch, Konvergenz);
   } else {
-    return UTMInZone(Laenge, Breite, Nummer, Rechts, Hoch);
+    return UTMInZone(Mittelmeridian(N.Art, Nummer) + Delta, Breite, Nummer, Rechts, Hoch);
   }
   if (!std::isfinite(x + y)) return -1;
   Rechts = y * Massstab(N.Art) + Versatz(N.Art, Nummer);

@@ -43,6 +43,9 @@ struct Streifennetz {
 /// Central meridian of a strip or zone [degrees].
 [[nodiscard]] double Mittelmeridian(Netzart Art, std::int32_t Nummer);
 
+/// How far east of it a longitude lies [degrees, -180 to 180].
+[[nodiscard]] double Mittenabstand(Netzart Art, std::int32_t Nummer, double Laenge);
+
 /// Strip or zone that a longitude lies in; one between two belongs to the eastern one.
 /// @return 0; -1 if the number exceeds 32 bits, Nummer is then untouched
 [[nodiscard]] int StreifenNachLaenge(Netzart Art, double Laenge, std::int32_t& Nummer);

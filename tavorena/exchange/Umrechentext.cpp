@@ -56,6 +56,9 @@ std::vector<std::string> Umrechenverlust(const Umrechnung& U, const Umrechenberi
   if (B.Koordinaten.Anzahl > 0)
     Zeilen.push_back(Verlustzeile(B.Koordinaten, "Koordinate paßt nicht", "Koordinaten passen nicht"));
   if (B.Höhen.Anzahl > 0) Zeilen.push_back(Verlustzeile(B.Höhen, "Höhe paßt nicht", "Höhen passen nicht"));
+  if (B.Nummern.Anzahl > 0)
+    Zeilen.push_back(Anzahltext(B.Nummern.Anzahl, "Punktnummer beginnt", "Punktnummern beginnen") +
+                     " mit @ (Punkt " + Zitat(B.Nummern.Erster) + ")");
   // The eastings bear no zone number.
   if (U.Nach.Art == Koordinatenart::UTM && U.Nach.Nummer == 0 && B.Streifen.size() > 1)
     Zeilen.push_back("Punkte liegen in den Zonen " + Anzahlen(B.Streifen));

@@ -60,7 +60,7 @@ bool GeographischLesen(std::string_view Zeile, Wegpunkt& P) {
   if (Anzahl == 8 || Anzahl == 4) {
     if (!ZahlLesen(Worte[Anzahl - 1], P.Hoehe)) return false;
   }
-  return Gelesen && std::fabs(P.Breite) <= 90 && P.Laenge >= -180 && P.Laenge < 180;
+  return Gelesen && std::fabs(P.Breite) <= 90 && std::fabs(P.Laenge) <= 180;
 }
 
 bool EbenLesen(std::string_view Zeile, const Koordinatenform& Von, Wegpunkt& P) {
@@ -139,6 +139,7 @@ class Umrechenlauf {
   [[nodiscard]] int Rechnen() {
     if (VonEbene() && StreifenRueckwaerts(Netz, P.Streifen, P.Rechts, P.Hoch, P.Laenge, P.Breite) < 0)
       return -1;
+    if (P.Laenge >= 180) P.Laenge -= 360;
     if (!NachEbene()) return 0;
     std::int32_t Neuer = Was.Nach.Nummer;
     if (Neuer == 0 && StreifenNachLaenge(Netz.Art, P.Laenge, Neuer) < 0) return -1;
@@ -151,7 +152,7 @@ class Umrechenlauf {
   void Schreiben() {
     ++Bericht.Punkte;
     ++Bericht.Streifen[P.Streifen];
-    const double Abstand = std::fabs(P.Laenge - Mittelmeridian(Netz.Art, P.Streifen));
+    const double Abstand = std::fabs(Mittenabstand(Netz.Art, P.Streifen, P.Laenge));
     if (Bericht.Punkte == 1 || Abstand > Bericht.Abstand) {
       Bericht.Abstand = Abstand;
       Bericht.Fernster = P.Pnr;
@@ -166,6 +167,7 @@ class Umrechenlauf {
       if (ZuGroß(P.Hoch, Grenze7)) Zählen(Bericht.Koordinaten, P.Pnr);
       KorZeileAnhängen(Ziel, P.Pnr, P.Rechts, P.Hoch, P.Hoehe, P.Symbol, Was.Nachkomma);
     } else {
+      if (P.Pnr.starts_with('@')) Zählen(Bericht.Nummern, P.Pnr);
       GeographischAnhängen(Ziel, P);
     }
     Ziel += "\r\n";

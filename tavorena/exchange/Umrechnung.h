@@ -42,7 +42,7 @@ struct Umrechnung {
 
 /// What became of the lines. Empty lines and, in geographic files, those that begin with "@" do not count.
 struct Umrechenbericht {
-  /// Points whose value does not fit.
+  /// What the new file would not give back.
   struct Zuviel {
     int Anzahl = 0;
     std::string Erster;  ///< number of the first
@@ -53,8 +53,9 @@ struct Umrechenbericht {
   std::map<int, int> Streifen;  ///< strips or zones of the plane coordinates, and how many points each has
   double Abstand = 0;           ///< of the farthest point from its central meridian [degrees], without sign
   std::string Fernster;         ///< its number
-  Zuviel Koordinaten;           ///< would come back as others, or as none
+  Zuviel Koordinaten;           ///< do not fit, or belong to another strip as they stand
   Zuviel Höhen;
+  Zuviel Nummern;             ///< begin with "@": in a geographic file their lines are none
   std::string Kopfellipsoid;  ///< that the head of a geographic file names; "": none
 };
 

@@ -45,7 +45,7 @@ TEST_F(UmrechnungTest, Zeilen) {
       {Geo, Gk, "7 -9 -1 0 51 0 0", ""},
       {Geo, Gk, "7 9.5 51.5 0 0 0 0", ""},  // other columns
       {Geo, Gk, "7 9 90.001", ""},
-      {Geo, Gk, "7 180 51", ""},
+      {Geo, Gk, "7 180.1 51", ""},
       {Geo, Gk, "7 9 51 1e999", ""},
       {Geo, Gk, "7 9 51x", ""},
       {Geo, Gk, "7 9", ""},
@@ -120,6 +120,7 @@ TEST_F(UmrechnungTest, VerlusteWerdenGefragt) {
       {Von(Geo, Gk), "1 9 51\n2 39 51\n3 -9 51", "2 Koordinaten passen nicht in ihr Feld (Punkt 2)"},
       {Von(Geo, GkIn(2)), "1 12 47\n2 14 47",
        "1 Koordinate paßt nicht in ihr Feld (Punkt 2)"},  // in strip 3's million
+      {Von(Gk, Geo), "1 3500000 5651505\n@1 3500000 5651505", "1 Punktnummer beginnt mit @ (Punkt @1)"},
       {Von(Gk, Geo), "1 3500000 5651505 100000\n", "1 Höhe paßt nicht in ihr Feld (Punkt 1)"},
   };
   for (const Fall& f : Fälle) {
