@@ -50,6 +50,8 @@ namespace tavorena {
 
 /// "umrechnen --von gk --nach gk4 ein aus": a file into another strip or zone, or to the globe and back.
 [[nodiscard]] Konsolenbefehl UmrechenBefehl();
+/// "wandeln --von lfs --nach kor ein aus": a file of points in another format.
+[[nodiscard]] Konsolenbefehl WandelBefehl();
 
 /// "stationieren --art helmert|kongruent": a whole raw-data file, station by station.
 [[nodiscard]] Konsolenbefehl StationierBefehl();

@@ -86,7 +86,7 @@ Rückgabe KommandozeileAusführen(int Anzahl, const char* const* Worte, const Um
       MittelBefehl(),      VerschiebeBefehl(), ÜbernahmeBefehl(),  DxfBefehl(),
       GesamtdateiBefehl(), GsiAusgabeBefehl(), RohdatenBefehl(),   M5Befehl(),
       NivellementBefehl(), TheoBefehl(),       AbsteckBefehl(),    StationierBefehl(),
-      PdfBefehl(),         UmrechenBefehl(),
+      PdfBefehl(),         UmrechenBefehl(),   WandelBefehl(),
   };
   Aufruf A;
   CLI::App App(Befehle[0].Beschreibung, "tavorena-stapel");

@@ -25,16 +25,6 @@ struct {
   int Punkte = 0;  // behind the last row of the table
 } Verlust;
 
-// A file of whatever kind gives some points; taken for a job, it would be saved over.
-bool DarfGelesenWerden(const std::string& Dateiname, const Dateibefund& B) {
-  if (!B.MitNull && B.Lesbar >= B.Andere) return true;
-  return FrageJaNein("Die Datei sieht nicht wie eine Koordinatendatei aus:\n" + Dateiname + "\n" +
-                         std::to_string(B.Lesbar) + " von " + std::to_string(B.Lesbar + B.Andere) +
-                         " Zeilen sind lesbar (erste andere: Zeile " + std::to_string(B.ErsteAndere) +
-                         ").\n\nTrotzdem lesen ?",
-                     "Tavorena", KnopfNein) == KnopfJa;
-}
-
 void ZeilenMelden(const Dateibefund& B) {
   const int Anzahl = B.Andere + B.Bemerkungen;
   if (Anzahl == 0) return;
@@ -74,6 +64,19 @@ bool DarfÜberschreiben(const std::string& Dateiname) {
 }
 
 }  // namespace
+
+// A file of whatever kind gives some points; taken for a job, it would be saved over.
+bool DarfGelesenWerden(const std::string& Dateiname, const Dateibefund& B) {
+  if (!B.MitNull && B.Lesbar >= B.Andere) return true;
+  const int Zeilen = B.Lesbar + B.Andere;
+  const std::string Warum = Zeilen > 0 ? std::to_string(B.Lesbar) + " von " + std::to_string(Zeilen) +
+                                             " Zeilen sind lesbar (erste andere: Zeile " +
+                                             std::to_string(B.ErsteAndere) + ")."
+                                       : "Sie enthält das Zeichen 0, das in keinem Text steht.";
+  return FrageJaNein("Die Datei sieht nicht wie eine Koordinatendatei aus:\n" + Dateiname + "\n" + Warum +
+                         "\n\nTrotzdem lesen ?",
+                     "Tavorena", KnopfNein) == KnopfJa;
+}
 
 int KoordinatendateiLesen(bool Fragen) {
   const std::string Name = KoordinatendateiName;

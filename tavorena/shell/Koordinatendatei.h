@@ -18,6 +18,10 @@ namespace tavorena {
 ///         then.
 [[nodiscard]] int KoordinatendateiLesen(bool Fragen = true);
 
+/// Asks about a file that does not look like one of points: most of its lines are something else, or it is no
+/// text. @return whether it may be read
+[[nodiscard]] bool DarfGelesenWerden(const std::string& Dateiname, const Dateibefund& B);
+
 /// Reads points of another file into the table, with the same question. What is wrong with the file is told,
 /// the table is then as it was.
 void KoordinatenHinzulesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
