@@ -206,7 +206,7 @@ TEST_F(Programm, PdfOhneBildschirm) {
   ASSERT_EQ(Laufen(TAVORENA_STAPEL, "pdf --koordinaten a.kor k.pdf"), 0);
   EXPECT_EQ(Aus, "Seiten: 1\n");
   ASSERT_EQ(Laufen("pdftotext", "-fixed 6.02 k.pdf -"), 0);
-  EXPECT_EQ(std::tuple(Anzahl("|Aktuelle Koordinaten"), Anzahl("1002 3500160.000")), std::tuple(1, 1)) << Aus;
+  EXPECT_EQ(std::tuple(Anzahl("|Aktuelle Koordinaten"), Anzahl("1002   3500160.000")), std::tuple(1, 1)) << Aus;
 }
 
 TEST_F(Programm, AnsichtOhneBildschirm) {
