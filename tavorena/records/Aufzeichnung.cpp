@@ -2,6 +2,7 @@
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/records/Aufzeichnung.h>
 #include <tavorena/records/Stapelleser.h>
 
@@ -45,6 +46,7 @@ void Aufzeichnung::Fortsetzen(Verbindung Neue) {
 int Aufzeichnung::Protokollieren(const Block& Zeile) {
   if (Prot.Datei.empty()) return 0;
   const int Ergebnis = Schreiben(Prot, Über, Zeile);
+  if (!Erste) Erste = Über;
   if (Schreiben(Eigenes, Über, Zeile) < 0) Eigenes.Datei.clear();  // told once, and then done without
   return Ergebnis;
 }
@@ -97,6 +99,13 @@ int Aufzeichnung::BlockStreichen(const Block& Gestrichen) {
   const bool Bleibt = !ImNachlauf && Sätze.Verwerfen() < 0;
   static_cast<void>(Protokollieren(Gestrichen));
   return Bleibt ? 1 : 0;
+}
+
+std::string Aufzeichnung::Drucktext() const {
+  std::string Zeilen, Text;
+  if (!Eigenes.HatInhalt || TextdateiLesen(EigeneDatei, Zeilen) < 0 || Zeilen.empty()) return "";
+  for (const std::string& Zeile : ProtKopfzeilen(*Erste, KoordinatendateiName, 1)) Text += Zeile + "\r\n";
+  return Text + Zeilen;
 }
 
 int Aufzeichnung::Beenden() {

@@ -70,6 +70,10 @@ class Aufzeichnung {
   /// @return 0; -1: the record can not be taken out, the row stays as it was
   [[nodiscard]] int Streichen(const Block& Gestrichen, Spur& Wo);
 
+  /// What stands in its second target, below the head that belongs in front of it, as it is printed; "" where
+  /// nothing was written or it can not be read.
+  [[nodiscard]] std::string Drucktext() const;
+
   /// The connection is done: its batch block is ended. @return 0; -1 with a message
   [[nodiscard]] int Beenden();
 
@@ -79,6 +83,7 @@ class Aufzeichnung {
   void EigeneDateiEntfernen();
 
   std::shared_ptr<const Verbindung> Über;
+  std::shared_ptr<const Verbindung> Erste;  // whose head belongs in front of the second target
   Protokoll Eigenes;
   std::string EigeneDatei;
   Stapelblock Sätze;  // its block of the batch file

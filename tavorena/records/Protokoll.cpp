@@ -71,10 +71,11 @@ class Eintrag {
   }
 
   void ProtKopf(const Verbindung& V) {
+    const bool InDatei = !Neu.OhneKopf || Neu.HatKopf;
     // A fresh page has its number already: ProtNeueSeite raised it.
     const int Seite = Neu.SeiteFrisch ? Neu.Seite - 1 : Neu.Seite++;
     for (const std::string& Zeile : ProtKopfzeilen(V, KoordinatendateiName, Seite)) {
-      ProtZeile(Zeile);
+      if (InDatei) ProtZeile(Zeile);
       ++Neu.Zeilen;  // a head is never broken
     }
     Neu.HatKopf = true;
@@ -91,7 +92,7 @@ class Eintrag {
   // What has to stand above the next line.
   void Stellen(const std::shared_ptr<const Verbindung>& V) {
     if (V == Neu.Darüber) return;
-    if (!Neu.OhneKopf && (!Neu.Darüber || !UnterDemKopf(*V))) {
+    if (!Neu.Darüber || !UnterDemKopf(*V)) {
       if (!IstAnfang() && !Neu.SeiteFrisch) ProtNeueSeite();
       ProtKopf(*V);
     }
@@ -188,9 +189,10 @@ int ProtLeerzeile(Protokoll& P) {
   return Eintragen(P, [](Eintrag& E) { E.ProtZeile(""); });
 }
 
-int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::string& Name) {
+int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::string& Name, int Seite) {
   std::string Text;
-  for (const std::string& Zeile : ProtKopfzeilen(V, Name, Prot.Seite)) Text += Zeile + "\r\n";
+  for (const std::string& Zeile : ProtKopfzeilen(V, Name, Seite > 0 ? Seite : Prot.Seite))
+    Text += Zeile + "\r\n";
   std::string Grund;
   if (TextAnhängen(Datei, Text, &Grund) == 0) return 0;
   SchreibfehlerMelden(Datei, Grund);

@@ -24,7 +24,7 @@ struct Protokoll {
   bool ZeilenNummern = false;  ///< line numbers behind each line; false in normal work
   bool HatInhalt = false;      ///< something was written since the file was taken
   bool HatKopf = false;        ///< a page head was written since
-  bool OhneKopf = false;       ///< the blocks alone, without page heads: a worksheet's own target
+  bool OhneKopf = false;       ///< its first head is put in front when it is printed, and counts all the same
   bool ImFenster = false;      ///< the protocol window shows its lines too
   int Marken = 0;              ///< tolerance marks of the calculations recorded here
   std::shared_ptr<const Verbindung> Darüber;  ///< what stands above the next line; null: nothing known
@@ -69,7 +69,9 @@ std::string Zeitstempel();
                                                       int Seite);
 
 /// The head that the job's protocol would get, for the coordinate file Name, in front of another file.
+/// @param[in] Seite  its page number; 0: that of the protocol
 /// @return 0; -1 with a message
-[[nodiscard]] int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::string& Name);
+[[nodiscard]] int ProtKopfAusgabe(const std::string& Datei, const Verbindung& V, const std::string& Name,
+                                  int Seite = 0);
 
 }  // namespace tavorena

@@ -1,5 +1,6 @@
 #include "Aktentest.h"
 
+#include <tavorena/records/Aufzeichnung.h>
 #include <tavorena/records/Dis.h>
 #include <tavorena/records/Linel.h>
 #include <tavorena/records/Neupunktblock.h>
@@ -145,6 +146,22 @@ TEST_F(ProtokollTest, EigenesZielHatNurDieBlöcke) {
                      1, DateiVorhanden(Prot.Datei), false));
 }
 
+// Printed alone a worksheet's records look as they do in the protocol, page for page.
+TEST_F(ProtokollTest, EigenesZielWirdGedrucktWieDasProtokoll) {
+  DateinameProtokollTemp = Ordner.Pfad("prot.tmp");
+  Aufzeichnung Akten;
+  Aufzeichnung::Spur Wo;
+  Akten.Öffnen(false);
+  EXPECT_EQ(Akten.Drucktext(), "");
+  for (const char* Titel : {"VR 19.70 Polare Punkte", Polar}) {
+    ASSERT_EQ(Akten.Beginnen(*Über(Titel, {{"Anschluß"}})), 0);
+    for (int i = 0; i < 60; ++i) ASSERT_EQ(Akten.Zeile({{"z"}}, "", Wo), 0);
+    ASSERT_EQ(Akten.Beenden(), 0);
+  }
+  EXPECT_TRUE(Gleich(Akten.Drucktext(), Ist(), Anzahl("\f"), 3, Anzahl("Seite  3|"), 1));
+  DateinameProtokollTemp.clear();
+}
+
 TEST_F(ProtokollTest, LangerPfadImKopfWirdVornGekürzt) {
   Optionen.AbfrageRiss = false;
   KoordinatendateiName = std::string(71, 'p');
@@ -152,8 +169,9 @@ TEST_F(ProtokollTest, LangerPfadImKopfWirdVornGekürzt) {
   EXPECT_NE(Ist().find("|..." + std::string(67, 'p') + "|\r\n|Ausgleichende Gerade "), std::string::npos);
   EXPECT_TRUE(Ist().ends_with("-\r\n      \r\n"));  // no table head for this title
   const std::string Druck = Ordner.Pfad("druck.tmp");
-  ASSERT_EQ(ProtKopfAusgabe(Druck, *Über(Linien), "/a.kor"), 0);
-  EXPECT_NE(Inhalt(Druck).find("|VR 24.40  Linienelemente "), std::string::npos);
+  for (const int Seite : {0, 17}) ASSERT_EQ(ProtKopfAusgabe(Druck, *Über(Linien), "/a.kor", Seite), 0);
+  for (const char* Stück : {"|VR 24.40  Linienelemente ", "Seite  2|", "Seite 17|"})
+    EXPECT_NE(Inhalt(Druck).find(Stück), std::string::npos) << Stück;
 }
 
 TEST_F(ProtokollTest, FensterZeigtOhneDruckrand) {
