@@ -23,14 +23,19 @@ std::string Rahmenlinie(const char* Ecke) {
 }
 
 Zeilen Seitenkopf(const Polnachweis& N, int Seite) {
-  return {Leerzeichen(33) + "- Seite" + ZahlFeld(Seite, 3) + " -",
-          Rahmenlinie("┌"),
-          "      │             F l ä c h e n n a c h w e i s",
-          "      │ Name:   " + N.Name + (Seite > N.Seite ? Fortsetzung : ""),
-          "      │ Bem.:   " + N.Bemerkung,
-          "      │ Fläche: " + ZahlFormat(N.Flaeche, 9, N.NachkommaFlaeche) + " m²",
-          Rahmenlinie("└"),
-          "        Punktnummer     Rechtswert       Hochwert        Grenzlänge"};
+  Zeilen Kopf =
+      Kastenkopf(Seite, "F l ä c h e n n a c h w e i s",
+                 {"Name:   " + N.Name + (Seite > N.Seite ? Fortsetzung : ""), "Bem.:   " + N.Bemerkung,
+                  "Fläche: " + ZahlFormat(N.Flaeche, 9, N.NachkommaFlaeche) + " m²"});
+  Kopf.emplace_back("        Punktnummer     Rechtswert       Hochwert        Grenzlänge");
+  return Kopf;
+}
+
+int Nachkommastellen(std::string_view Wort) {
+  const std::size_t Punkt = Wort.find_first_of(".,");
+  return Punkt == std::string_view::npos
+             ? 0
+             : static_cast<int>(std::min<std::size_t>(Wort.size() - Punkt - 1, 5));
 }
 
 Zeilen Kantenzeilen(const Polkante& K, int NK) {
@@ -49,11 +54,12 @@ Zeilen Kantenzeilen(const Polkante& K, int NK) {
 }
 
 // @return false: the line is no row
-bool ZeileNehmen(std::string_view Zeile, Polkante& K) {
+bool ZeileNehmen(std::string_view Zeile, Polkante& K, int& Nachkomma) {
   K = {};
   K.Punkt.Pnr = Wortnehmen(Zeile);
   const std::string_view Rechts = Wortnehmen(Zeile), Hoch = Wortnehmen(Zeile);
   if (!IstZahlwort(Rechts) || !IstZahlwort(Hoch)) return false;
+  Nachkomma = Nachkommastellen(Rechts);
   K.Punkt.Rechts = ZahlAusText(Rechts);
   K.Punkt.Hoch = ZahlAusText(Hoch);
   K.Laenge = ZahlAusText(Wortnehmen(Zeile));
@@ -63,17 +69,32 @@ bool ZeileNehmen(std::string_view Zeile, Polkante& K) {
   return Art == "BOGEN" || Art == "LINIE";
 }
 
-// The line behind an arc: "r=", the radius, "G" for the long arc.
-void RadiusNehmen(std::string_view Zeile, Polkante& K) {
-  const std::size_t Ab = Zeile.find(" r=");
-  if (K.Art == Kantenart::Linie || K.Radius != 0 || Ab == std::string_view::npos) return;
-  Zeile.remove_prefix(Ab + 3);
-  const std::string_view Wort = Wortnehmen(Zeile);
+// What stands behind a mark such as " r=".
+std::string_view Wortbehinter(std::string_view Zeile, std::string_view Marke) {
+  const std::size_t Ab = Zeile.find(Marke);
+  if (Ab == std::string_view::npos) return {};
+  Zeile.remove_prefix(Ab + Marke.size());
+  return Wortnehmen(Zeile);
+}
+
+// The line behind an arc: its centre, "r=" with the radius and "G" for the long arc, the chord.
+void BogenNehmen(std::string_view Zeile, Polkante& K) {
+  if (K.Art == Kantenart::Linie || K.Radius != 0) return;
+  const std::string_view Wort = Wortbehinter(Zeile, " r=");
   const double Radius = ZahlAusText(Wort);
   if (Radius == 0) return;
   const bool Lang = Wort.ends_with('G') || Wort.ends_with('g');
   K.Radius = std::fabs(Radius);
   K.Art = KantenartVon(Radius, Lang);
+  K.MitteHoch = ZahlAusText(Wortbehinter(Zeile, " mx="));
+  K.MitteRechts = ZahlAusText(Wortbehinter(Zeile, " my="));
+  K.Sehne = ZahlAusText(Wortbehinter(Zeile, " s="));
+}
+
+// A row whose numbers are stars.
+bool IstUnlesbareZeile(std::string_view Zeile) {
+  const std::string_view Ende = TrimmenSicht(Zeile);
+  return Ende.ends_with("LINIE") || Ende.ends_with("BOGEN");
 }
 
 // What stands in a line of the box behind its word.
@@ -86,7 +107,17 @@ bool KopfNehmen(std::string_view Zeile, std::string_view Wort, std::string& Text
 
 }  // namespace
 
-std::string PolText(const Polnachweis& N) {
+std::vector<std::string> Kastenkopf(int Seite, const std::string& Titel, const Zeilen& Innen) {
+  Zeilen Kopf = {Leerzeichen(33) + "- Seite" + ZahlFeld(Seite, 3) + " -", Rahmenlinie("┌"),
+                 "      │             " + Titel};
+  for (const std::string& Zeile : Innen) Kopf.push_back("      │ " + Zeile);
+  Kopf.push_back(Rahmenlinie("└"));
+  return Kopf;
+}
+
+std::string PolText(const Polnachweis& N) { return NachCodepage850(PolSeiten(N)); }
+
+std::string PolSeiten(const Polnachweis& N) {
   std::string Text;
   int Seite = N.Seite, Frei = 0;
   const auto Schreiben = [&](const Zeilen& Neue) {
@@ -103,10 +134,11 @@ std::string PolText(const Polnachweis& N) {
     Schreiben(Neue);
   }
   if (!Text.empty()) Text += '\f';
-  return NachCodepage850(Text);
+  return Text;
 }
 
-std::vector<Polnachweis> PolLesen(std::string_view Bytes) {
+std::vector<Polnachweis> PolLesen(std::string_view Bytes, int* Unlesbar) {
+  if (Unlesbar != nullptr) *Unlesbar = 0;
   const std::string Inhalt = IstUtf8(Bytes) ? std::string(Bytes) : AusCodepage850(Bytes);
   std::vector<Polnachweis> Alle(1);
   Zeilenleser Leser(Inhalt);
@@ -114,14 +146,23 @@ std::vector<Polnachweis> PolLesen(std::string_view Bytes) {
   std::string Text;
   for (std::string_view Zeile; Leser.Nächste(Zeile);) {
     Polnachweis& N = Alle.back();
-    if (ZeileNehmen(Zeile, K)) {
+    int Nachkomma = 0;
+    if (ZeileNehmen(Zeile, K, Nachkomma)) {
+      if (N.Kanten.empty()) N.NachkommaKoordinaten = Nachkomma;
       N.Kanten.push_back(K);
     } else if (KopfNehmen(Zeile, "Name:", Text)) {
       if (Text != Trimmen(N.Name + Fortsetzung)) Alle.emplace_back().Name = Text;
     } else if (KopfNehmen(Zeile, "Bem.:", Text)) {
       N.Bemerkung = Text;
+    } else if (KopfNehmen(Zeile, "Fläche:", Text)) {
+      std::string_view Rest = Text;
+      const std::string_view Wort = Wortnehmen(Rest);
+      N.Flaeche = ZahlAusText(Wort);
+      N.NachkommaFlaeche = Nachkommastellen(Wort);
+    } else if (Unlesbar != nullptr && IstUnlesbareZeile(Zeile)) {
+      ++*Unlesbar;
     } else if (!N.Kanten.empty()) {
-      RadiusNehmen(Zeile, N.Kanten.back());
+      BogenNehmen(Zeile, N.Kanten.back());
     }
   }
   std::erase_if(Alle, [](const Polnachweis& N) { return N.Kanten.empty(); });
@@ -139,13 +180,13 @@ int PolSchreiben(const std::string& Datei, const Polnachweis& N, bool Anhängen)
   return -1;
 }
 
-int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle) {
+int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle, int* Unlesbar) {
   std::string Bytes, Grund;
   if (DateiLesen(Datei, Bytes, &Grund) < 0) {
     LesefehlerMelden(Datei, Grund);
     return -1;
   }
-  Alle = PolLesen(Bytes);
+  Alle = PolLesen(Bytes, Unlesbar);
   if (!Alle.empty()) return 0;
   Hinweis("Kein Flächennachweis in der Datei:\n" + Datei);
   return -1;

@@ -16,8 +16,8 @@ struct Polkante {
   double Laenge = 0;
   Kantenart Art = Kantenart::Linie;
   double Radius = 0;                      ///< absolute
-  double MitteRechts = 0, MitteHoch = 0;  ///< of an arc; only printed
-  double Sehne = 0;                       ///< of an arc; only printed
+  double MitteRechts = 0, MitteHoch = 0;  ///< of an arc
+  double Sehne = 0;                       ///< of an arc
 };
 
 /// What is printed.
@@ -29,20 +29,28 @@ struct Polnachweis {
   int NachkommaKoordinaten = 2, NachkommaFlaeche = 0;  ///< 0 to 5
 };
 
+/// The head of a printed page: its number, and a box with a title and lines.
+[[nodiscard]] std::vector<std::string> Kastenkopf(int Seite, const std::string& Titel,
+                                                  const std::vector<std::string>& Zeilen);
+
 /// The pages, at most 60 lines each, behind each a form feed: what comes after them begins on a new page.
-/// @return the bytes of a file in code page 850
+[[nodiscard]] std::string PolSeiten(const Polnachweis& N);
+/// The same as the bytes of a file in code page 850.
 [[nodiscard]] std::string PolText(const Polnachweis& N);
 
-/// The proofs that stand in such a file, also within other text: name, remark, and the edges with number,
-/// coordinates, length, kind and radius. Lines that are none are passed over.
-/// @param[in] Bytes  of the file, in code page 850 or UTF-8
-[[nodiscard]] std::vector<Polnachweis> PolLesen(std::string_view Bytes);
+/// The proofs that stand in such a file, also within other text: all that is printed but the page numbers.
+/// Lines that are none are passed over.
+/// @param[in]  Bytes     of the file, in code page 850 or UTF-8
+/// @param[out] Unlesbar  rows with stars in place of a number
+[[nodiscard]] std::vector<Polnachweis> PolLesen(std::string_view Bytes, int* Unlesbar = nullptr);
 
 /// Writes the pages of a proof into a file, which is replaced as a whole. @param[in] Anhängen  behind what it
 /// holds @return number of pages; -1 with a message
 [[nodiscard]] int PolSchreiben(const std::string& Datei, const Polnachweis& N, bool Anhängen);
 
-/// Reads the proofs of a file. @return 0; -1 with a message: it can not be read, or holds none
-[[nodiscard]] int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle);
+/// Reads the proofs of a file. @param[out] Unlesbar  as in PolLesen
+/// @return 0; -1 with a message: it can not be read, or holds none
+[[nodiscard]] int PolDateiLesen(const std::string& Datei, std::vector<Polnachweis>& Alle,
+                                int* Unlesbar = nullptr);
 
 }  // namespace tavorena
