@@ -5,12 +5,14 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QProcess>
@@ -136,6 +138,22 @@ QString QtFilter(const std::string& Filter) {
   return Einträge.join(";;");
 }
 
+// The list below the names; nullptr: there is none.
+QComboBox* ListeAnfügen(QFileDialog& Dialog, const Dateiauftrag& Auftrag) {
+  auto* Platz = qobject_cast<QGridLayout*>(Dialog.layout());
+  if (Auftrag.Liste.empty() || Platz == nullptr) return nullptr;
+  auto* Titel = new QLabel(Q(Auftrag.Listentitel), &Dialog);
+  auto* Liste = new QComboBox(&Dialog);
+  for (const std::string& Eintrag : Auftrag.Liste) Liste->addItem(Q(Eintrag));
+  Liste->setCurrentIndex(Auftrag.ListeGewählt);
+  Liste->setAccessibleName(Q(Auftrag.Listentitel));
+  Titel->setBuddy(Liste);
+  const int Zeile = Platz->rowCount();
+  Platz->addWidget(Titel, Zeile, 0);
+  Platz->addWidget(Liste, Zeile, 1);
+  return Liste;
+}
+
 // What a file dialog starts with: a pattern chooses its filter, a name stands in the field.
 void VorgabeSetzen(QFileDialog& Dialog, const QString& Vorgabe) {
   if (Vorgabe.isEmpty()) return;
@@ -241,9 +259,11 @@ std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
   Dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks in its own words
   Dialog.setLabelText(QFileDialog::Accept, Auftrag.NurVorhandene ? "Ö&ffnen" : "Ü&bernehmen");
   Dialog.setLabelText(QFileDialog::Reject, "&Abbrechen");
+  // Only Qt's own dialog has room for more.
+  if (!Auftrag.Zusatz.empty() || !Auftrag.Liste.empty()) Dialog.setOption(QFileDialog::DontUseNativeDialog);
+  const QComboBox* Liste = ListeAnfügen(Dialog, Auftrag);
   QCheckBox* Zusatz = nullptr;
   if (!Auftrag.Zusatz.empty()) {
-    Dialog.setOption(QFileDialog::DontUseNativeDialog);
     Zusatz = new QCheckBox(Q(Auftrag.Zusatz), &Dialog);
     if (auto* Platz = qobject_cast<QGridLayout*>(Dialog.layout()))
       Platz->addWidget(Zusatz, Platz->rowCount(), 0, 1, -1);
@@ -251,6 +271,7 @@ std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
   }
   const bool Gewählt = Dialog.exec() == QDialog::Accepted;
   Auftrag.ZusatzGewählt = Zusatz != nullptr && Zusatz->isChecked();
+  if (Liste != nullptr) Auftrag.ListeGewählt = Liste->currentIndex();
   if (!Gewählt || (Auftrag.ZusatzGewählt && !Auftrag.ZusatzIstWahl) || Dialog.selectedFiles().isEmpty())
     return {};
   return Dialog.selectedFiles().constFirst().toStdString();

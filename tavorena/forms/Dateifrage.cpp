@@ -23,11 +23,26 @@ bool ÜberschreibenFragen(const std::string& Name) {
                                               "Tavorena", KnopfNein) == KnopfJa;
 }
 
+void ZeichensatzAnbieten(Dateiauftrag& Auftrag) {
+  Auftrag.Listentitel = "Zeichensatz:";
+  Auftrag.Liste = Ausgabezeichensätze();
+  Auftrag.ListeGewählt = 0;
+}
+
+Zeichensatz ZeichensatzGewählt(const Dateiauftrag& Auftrag) {
+  Zeichensatz Satz = Zeichensatz::Utf8;
+  const auto i = static_cast<std::size_t>(Auftrag.ListeGewählt);
+  if (i < Auftrag.Liste.size()) static_cast<void>(ZeichensatzAus(Auftrag.Liste[i], Satz));
+  return Satz;
+}
+
 std::string DateiFragen(const std::string& Titel, const std::string& Filter, const std::string& Vorgabe,
-                        bool Schreiben, bool* Anhängen) {
+                        bool Schreiben, bool* Anhängen, Zeichensatz* Satz) {
   Dateiauftrag Auftrag{Titel, Filter, Startordner(), Vorgabe, !Schreiben, "", false};
+  if (Satz != nullptr) ZeichensatzAnbieten(Auftrag);
   std::string Name = FragenPort().DateiWählen(Auftrag);
   if (Name.empty()) return "";
+  if (Satz != nullptr) *Satz = ZeichensatzGewählt(Auftrag);
   if (Schreiben) EndungErgänzen(Name, Vorgabe);
   if (Anhängen != nullptr) {
     const int Antwort = DateiVorhanden(Name) ? DateiVorhandenFrage(Name) : 1;

@@ -14,6 +14,7 @@
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/records/Stapelblock.h>
 #include <tavorena/records/Stapelleser.h>
+#include <tavorena/shell/Austauschbefehle.h>
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
@@ -219,6 +220,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   // Besides the commands of the tables each kind of worksheet has one.
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
+    for (const Befehl& A : Austauschbefehle()) B.push_back(A);
     for (const Befehl& E : Epochenbefehle()) B.push_back(E);
     for (const Befehl& N : Nivbefehle()) B.push_back(N);
     for (const Befehl& P : Punktbefehle()) B.push_back(P);

@@ -43,11 +43,13 @@ void VerzeichnisMerken(const std::string& Name) {
 }
 
 int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter, const std::string& Vorgabe,
-              std::string& Name, bool* Anhängen) {
+              std::string& Name, bool* Anhängen, Zeichensatz* Satz) {
   Dateiauftrag Auftrag{TitelFür(Sorte, Modus),    Filter, Startordner(), Vorgabe,
                        Modus == Wahlmodus::Lesen, "",     false};
+  if (Satz != nullptr) ZeichensatzAnbieten(Auftrag);
   std::string Gewählt = FragenPort().DateiWählen(Auftrag);
   if (Gewählt.empty()) return Abbruch();
+  if (Satz != nullptr) *Satz = ZeichensatzGewählt(Auftrag);
   if (Modus != Wahlmodus::Lesen) EndungErgänzen(Gewählt, Vorgabe);
   if ((Modus == Wahlmodus::Schreiben || Modus == Wahlmodus::Neu) && DateiVorhanden(Gewählt)) {
     const int Antwort = DateiVorhandenFrage(Gewählt);

@@ -17,9 +17,11 @@ inline const char* const FilterEdbs = "EDBS- Dateien |*.ed?";
 /// The chooser of the commands: starts in the last folder, keeps the folder of the name chosen. In mode
 /// "w" and "n" an existing file is asked about; it is not deleted, saving replaces it as a whole.
 /// @param[out] Anhängen  the file exists and is to be extended; may be left out
+/// @param[in,out] Satz   of an export: the code page that is chosen beside the name; may be left out
 /// @return 0; -1 if cancelled (also left in Dialogergebnis)
 [[nodiscard]] int DateiWahl(Dateisorte Sorte, Wahlmodus Modus, const std::string& Filter,
-                            const std::string& Vorgabe, std::string& Name, bool* Anhängen = nullptr);
+                            const std::string& Vorgabe, std::string& Name, bool* Anhängen = nullptr,
+                            Zeichensatz* Satz = nullptr);
 
 /// The chooser of the protocol, with a check box for no protocol at all; Name is then empty.
 [[nodiscard]] int ProtokollWahl(std::string& Name, const std::string& Ordner = Startordner());

@@ -11,7 +11,7 @@ struct Seite {
 };
 constexpr Seite Seiten[] = {
     {0, "index.md"},          {1000, "datei.md"},       {1030, "bearbeiten.md"},    {1035, "punktauswahl.md"},
-    {1040, "datei.md"},       {1045, "rohdaten.md"},    {1046, "datei.md"},         {1080, "stapel.md"},
+    {1040, "austausch.md"}, {1045, "rohdaten.md"}, {1046, "austausch.md"}, {1060, "datei.md"}, {1080, "stapel.md"},
     {1090, "protokoll.md"},   {1100, "datei.md"},       {2000, "bearbeiten.md"},    {2010, "editor.md"},
     {2020, "tabelle.md"},     {3000, "ansicht.md"},     {3010, "punktlisten.md"},   {3100, "grafik.md"},
     {3110, "dxf.md"},         {3120, "grafikdruck.md"}, {4000, "rechenblatt.md"},   {4010, "editor.md"},

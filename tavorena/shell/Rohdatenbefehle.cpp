@@ -77,9 +77,13 @@ void Importieren() {
 
 // ---- files from the table --------------------------------------------------------------------------
 
-bool Ablegen(const std::string& Name, const std::string& Text, bool Anhängen) {
+// What is extended keeps its coding.
+bool Ablegen(const std::string& Name, const std::string& Text, bool Anhängen,
+             Zeichensatz Satz = Zeichensatz::Utf8) {
   std::string Grund;
-  if ((Anhängen ? TextAnhängen(Name, Text, &Grund) : DateiErsetzen(Name, Text, &Grund)) == 0) return true;
+  if ((Anhängen ? TextAnhängen(Name, Text, &Grund)
+                : DateiErsetzen(Name, NachZeichensatz(Text, Satz), &Grund)) == 0)
+    return true;
   Hinweis("Fehler aufgetreten beim Speichern der Datei " + Name + InKlammern(Grund));
   return false;
 }
@@ -96,10 +100,11 @@ bool ZeilenFragen(std::vector<int>& Zeilen) {
 void AlsGsi(GSIAusgabe Art) {
   std::vector<int> Zeilen;
   bool Anhängen = false;
+  Zeichensatz Satz = Zeichensatz::Utf8;
   if (!ZeilenFragen(Zeilen)) return;
   const std::string Name =
-      DateiFragen("GSI-Datei zum Schreiben auswählen", FilterGsi, "*.gsi", true, &Anhängen);
-  if (!Name.empty() && Ablegen(Name, TabelleAlsGSI(Art, Zeilen), Anhängen))
+      DateiFragen("GSI-Datei zum Schreiben auswählen", FilterGsi, "*.gsi", true, &Anhängen, &Satz);
+  if (!Name.empty() && Ablegen(Name, TabelleAlsGSI(Art, Zeilen), Anhängen, Satz))
     StatusHilfeSetzen(Anzahltext(static_cast<int>(Zeilen.size()), "Punkt", "Punkte") + " geschrieben");
 }
 
@@ -115,9 +120,10 @@ void AlsHöhenliste() {
   }
   if (Anzahl == 0) return Hinweis("Kein Punkt hat eine Höhe !");
   bool Anhängen = false;
-  const std::string Name =
-      DateiFragen("Höhenliste zum Schreiben auswählen", "Höhenliste (*.hli)|*.hli", "*.hli", true, &Anhängen);
-  if (!Name.empty() && Ablegen(Name, Text, Anhängen))
+  Zeichensatz Satz = Zeichensatz::Utf8;
+  const std::string Name = DateiFragen("Höhenliste zum Schreiben auswählen", "Höhenliste (*.hli)|*.hli",
+                                       "*.hli", true, &Anhängen, &Satz);
+  if (!Name.empty() && Ablegen(Name, Text, Anhängen, Satz))
     StatusHilfeSetzen(Anzahltext(Anzahl, "Höhe", "Höhen") + " geschrieben");
 }
 
