@@ -1,0 +1,48 @@
+#include "Fuzzhilfe.h"
+
+#include <cmath>
+
+#include <tavorena/core/KorDatei.h>
+#include <tavorena/exchange/CSV.h>
+
+namespace tavorena::fuzz {
+namespace {
+
+// Fields that hold their value, which all but the largest do.
+bool AllePassen() {
+  for (int i = 0; i < KorAnzahl; ++i) {
+    const KorSatz S = KorPunkt(i);
+    for (const double Wert : {S.Rechts, S.Hoch, S.Hoehe}) {
+      if (!(std::fabs(Wert) < 1e12)) return false;
+    }
+  }
+  return true;
+}
+
+void Lauf(Eingabe E) {
+  KorLeeren();
+  FormatAnmelden(CsvZugang());
+  CsvAchsen = static_cast<Csvachsen>(E.Zahl(0, 3));
+  Lesebericht B;
+  if (KorLesen(Datei("a.csv", E.Rest()), Lesemodus::Alle, Punktformat::Csv, {}, {}, &B) < 0)
+    return Prüfen(KorAnzahl == 0, "was nicht gelesen wird, gibt keine Punkte");
+  Prüfen(B.Gelesen == KorAnzahl, "der Bericht nennt die Punkte");
+  TabellePrüfen();
+  if (!AllePassen()) return;
+  std::string Text, Wieder;
+  Prüfen(KorText(Punktformat::Csv, 3, Text) == 0, "CSV wird geschrieben");
+  const int Anzahl = KorAnzahl;
+  KorLeeren();
+  Prüfen(KorLesen(Datei("b.csv", Text), Lesemodus::Alle, Punktformat::Csv, {}, {}, &B) == 0,
+         "und wieder gelesen");
+  Prüfen(KorAnzahl == Anzahl && B.Übergangen == 0 && !B.Abgeschnitten, "kein Punkt geht verloren");
+  Prüfen(KorText(Punktformat::Csv, 3, Wieder) == 0 && Wieder == Text, "es kommt wieder, was geschrieben ist");
+}
+
+}  // namespace
+}  // namespace tavorena::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Daten, std::size_t Laenge) {
+  tavorena::fuzz::Lauf({Daten, Laenge});
+  return 0;
+}
