@@ -8,6 +8,7 @@
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/CSV.h>
+#include <tavorena/exchange/Textformate.h>
 
 namespace tavorena {
 
@@ -15,7 +16,7 @@ Csvachsen CsvAchsen = Csvachsen::Fragen;
 
 namespace {
 
-using Felder = std::vector<std::string_view>;
+using Csvfelder = std::vector<std::string_view>;
 
 // ---- headings --------------------------------------------------------------------------------------
 
@@ -82,13 +83,13 @@ char TrennerVon(std::string_view Zeile) {
   return ';';
 }
 
-bool Leer(const Felder& F) {
+bool Leer(const Csvfelder& F) {
   return std::all_of(F.begin(), F.end(), [](std::string_view Wort) { return Wort.empty(); });
 }
 
 // The line of headings as words; the reader then stands behind it.
 Csvkopf KopfLesen(Csvleser& Leser, char Trenner, std::vector<std::string>& Kopf) {
-  Felder F;
+  Csvfelder F;
   bool Da = false;
   do Da = Leser.Nächster(F);
   while (Da && Leer(F));
@@ -115,11 +116,6 @@ char TrennerDesTextes(std::string_view Text) {
 }
 
 // ---- rows ------------------------------------------------------------------------------------------
-
-// Sign, digits and one point or comma. An exponent would be that of a table program which has dropped digits.
-bool IstKoordinate(std::string_view Wort) {
-  return Wort.find_first_of("eE") == std::string_view::npos && IstZahlwort(Wort);
-}
 
 class Csvtabelle {
  public:
@@ -160,19 +156,15 @@ class Csvtabelle {
   }
 
   bool Punkt(KorSatz& S) {
-    const std::string_view Rechts = Wort(Kopf.Rechts), Hoch = Wort(Kopf.Hoch), Höhe = Wort(Kopf.Hoehe);
     // More fields than headings: a comma of a number was taken for a separator.
     const bool Zuviel = std::any_of(F.begin() + std::min(Kopf.Felder, static_cast<int>(F.size())), F.end(),
                                     [](std::string_view Überzähliges) { return !Überzähliges.empty(); });
-    if (Zuviel || Wort(Kopf.Pnr).empty() || !IstKoordinate(Rechts) || !IstKoordinate(Hoch)) return false;
-    S = {Wort(Kopf.Pnr), ZahlAusText(Rechts), ZahlAusText(Hoch)};
-    if (IstKoordinate(Höhe)) S.Hoehe = ZahlAusText(Höhe);
-    S.Symbol = Wort(Kopf.Symbol);
-    Info.Punktart = KurzAusText(S.Symbol);
+    const Punktfelder Felder{Wort(Kopf.Pnr), Wort(Kopf.Rechts), Wort(Kopf.Hoch), Wort(Kopf.Hoehe),
+                             Wort(Kopf.Symbol)};
+    if (Zuviel || !PunktAusFeldern(Felder, S, Info)) return false;
     for (std::size_t i = 0; i < Merkmale.size(); ++i) {
       if (Attribute[i] >= 0) MerkmalSetzen(Merkmale[i], Wort(Attribute[i]));
     }
-    S.Info = &Info;
     return true;
   }
 
@@ -186,7 +178,7 @@ class Csvtabelle {
   char Trenner;
   Csvleser Leser;
   std::array<int, Merkmale.size()> Attribute{};
-  Felder F;
+  Csvfelder F;
   KorInfoSatz Info;
 };
 

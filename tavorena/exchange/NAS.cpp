@@ -430,7 +430,6 @@ class Nastabelle {
   static std::string KurzeNummer(const std::string& Kennung) {
     if (ZeichenAnzahl(Kennung) < 15) return Kennung;
     const std::string_view Sechs = TextTeil(Kennung, 9, 6);
-    if (!Sechs.starts_with('0')) return std::string(Sechs);
     const std::size_t Erste = Sechs.find_first_not_of('0');
     return Erste == std::string_view::npos ? "0" : std::string(Sechs.substr(Erste));
   }

@@ -42,7 +42,7 @@ TEST_F(CsvTest, KöpfeUndTrenner) {
       {"y\tx\tz\tpnr\tCode\n1\t2\t\t 9 \t\n", "9 1 2 0 []"},
       {"\"Name\",\"Easting\",\"Northing\",\"Code\"\n\"A \"\"7\"\"\" ,\"3,5\",4,\"x,\r\ny\"\n",
        "A \"7\" 3.5 4 0 [x,  y]"},
-      {"Pnr;\"Rechts;Ost\";E;N;Höhe\n7;0;2;3;k. A.;;\n", "7 2 3 0 []"},
+      {"Pnr,\"Rechts;Ost\",E,N,Höhe\n7,0,2,3,k. A.,,\n", "7 2 3 0 []"},
   };
   for (const auto& [Text, Soll] : Fälle) {
     EXPECT_EQ(Lies(Text), 0) << Text;
@@ -66,6 +66,7 @@ TEST_F(CsvTest, WasKeinPunktIstWirdGezählt) {
   // A mark that closes nothing takes no row away.
   EXPECT_EQ(Lies(Kopf + "1,2,3,\"a\r\n2,3,4,\"b\"\r\n3,4,5,\"c\r\n4,5,6,7\"\r\n5,6,7\r\n"), 0);
   EXPECT_EQ(Tabelle(), "1 2 3 0 [\"a]|2 3 4 0 [b]|3 4 5 0 [c  4,5,6,7]|5 6 7 0 []");
+  Skript.Erwarte("Unerwartetes Dateiende");
   EXPECT_EQ(Lies(Kopf + "1,2,3,\"a\r\n2,3,4\r\n"), 0);
   EXPECT_EQ(Tabelle(), "1 2 3 0 [\"a]|2 3 4 0 []");
   EXPECT_TRUE(B.Abgeschnitten);
@@ -108,6 +109,7 @@ TEST_F(CsvTest, VertauschteAchsenWerdenGefragt) {
   }
   EXPECT_EQ(Lies(Gedreht.substr(0, Gedreht.find("3;"))), 0);  // half of them
   EXPECT_EQ(Lies("nr;rechts;hoch\n1;5600000;477000\n"), 0);   // in so many words
+  EXPECT_EQ(Lies("nr;x;y\n1;5600000;5600000\n"), 0);
   CsvAchsen = Csvachsen::XY;
   EXPECT_EQ(Lies(Deutsch), 0);
   EXPECT_EQ(Tabelle().substr(0, Falsch.size()), Falsch);

@@ -20,7 +20,8 @@ class NasTest : public TabellenTest {
     return "<" + std::string(Art) + " gml:id=\"" + Id +
            "\">\n <lebenszeitintervall><AA_Lebenszeitintervall><beginnt>2010-01-01T00:00:00Z</beginnt>" +
            Ende + "</AA_Lebenszeitintervall></lebenszeitintervall>\n <punktkennung>" + Kennung +
-           "</punktkennung><abmarkung_Marke>" + Marke + "</abmarkung_Marke></" + Art + ">\n";
+           "</punktkennung>" + (Marke.empty() ? "" : "<abmarkung_Marke>" + Marke + "</abmarkung_Marke>") +
+           "</" + Art + ">\n";
   }
   static std::string Ort(const std::string& Id, const std::string& Punkt, const std::string& System,
                          const std::string& Pos, const std::string& Status = "1000",
@@ -55,8 +56,11 @@ class NasTest : public TabellenTest {
     return Alle;
   }
   const std::string Datei = Ordner.Pfad("a.xml"), Utm = "ETRS89_UTM32", Gk = "DE_DHDN_3GK3";
-  const std::string Einer =
-      Punktobjekt("P1", "324775600100012", "1110") + Ort("O1", "P1", Utm, "477000.123 5600000.456");
+  const std::string Einer = Punktobjekt("P1", "324775600100012", "1110") +
+                            Ort("", "P1", "ETRS89_Lat-Lon", "50.5 8.5") +
+                            Ort("", "P1", "ETRS89_X-Y-Z", "3990000 580000 4920000") +
+                            Ort("", "P1", "ETRS89_X-Y-Z", "3990000 580000 4920000") +
+                            Ort("O1", "P1", Utm, "477000.123 5600000.456");
   Lesebericht B;
 };
 
@@ -67,16 +71,17 @@ TEST_F(NasTest, PunkteFindenIhreOrte) {
   const std::string Nach = Ort("O5", "P2", "DE_DHHN2016_NH", "101.125", "2000", "AX_PunktortAU") +
                            Ort("O6", "P2", "DE_DHHN2016_NH", "101.5", "1000", "AX_PunktortAG") +
                            Ort("O7", "P2", Utm + "*DE_DHHN2016_NH", "32478000 5600002");
-  const std::string Text = Auszug(
-      Vor + Punktobjekt("P1", "324775600100012", "1110") +
-      Punktobjekt("P2", "324775600200007", "", "AX_Aufnahmepunkt") + Punktobjekt("P3", "324775600000008") +
-      Punktobjekt("P3", "324775600000009", "1600") +  // a later version
-      Punktobjekt("P3", "324775600000010", "", "AX_Sicherungspunkt", "<endet>2020-01-01T00:00:00Z</endet>") +
-      Nach + Ort("O8", "P3", "ETRS89_Lat-Lon", "50.5 8.5") + Ort("O9", "P3", Utm, "32478001 5600003") +
-      Punktobjekt("P4", "324775600100013") + Ort("O10", "P4", Gk, "3477000 5601000") +
-      Ort("O11", "P4", Utm, "33477000 5600000") +  // of the other zone
-      Punktobjekt("P5", "") + Ort("O12", "P5", Utm, "32477000 5600000") +
-      Ort("O13", "weg", Utm, "32477000 5600000"));
+  const std::string Text =
+      Auszug(Vor + Punktobjekt("P1", "324775600100012", "1110") + Punktobjekt("P3", "324775600000008") +
+             Punktobjekt("P3", "324775600000009", "1600") +  // a later version
+             Punktobjekt("P3", "324775600000010", "1700", "AX_Sicherungspunkt",
+                         "<endet>2020-01-01T00:00:00Z</endet>") +
+             Punktobjekt("P2", "324775600200007", "", "AX_Aufnahmepunkt") + Nach +
+             Ort("O8", "P3", "ETRS89_Lat-Lon", "50.5 8.5") + Ort("O9", "P3", Utm, "32478001 5600003") +
+             Punktobjekt("P4", "324775600100013") + Ort("O10", "P4", Gk, "3477000 5601000") +
+             Ort("O11", "P4", Utm, "33477000 5600000") +  // of the other zone
+             Punktobjekt("P5", "") + Ort("O12", "P5", Utm, "32477000 5600000") +
+             Ort("O13", "weg", Utm, "32477000 5600000"));
   const std::string Soll =
       "9 478001.000 5600003.000 0.000 [1600]|100012 477001.500 5600001.500 12.250 [1110]|"
       "200007 478000.000 5600002.000 101.500 []|";
@@ -133,20 +138,17 @@ TEST_F(NasTest, WasKeinGanzesXmlIstGibtNichts) {
   std::string Tief;
   for (int i = 0; i < 100'000; ++i) Tief += "<a>";
   for (const std::string& Schlecht :
-       {std::string("\0\1", 2), "<!--" + std::string(6 << 20, ' '), "<a>" + Tief,
-        "<a b=\"" + std::string(6 << 20, ' '),
-        "<!DOCTYPE a [<!ENTITY a \"" + std::string(5000, 'x') + "\"><!ENTITY b \"" +
-            [] {
-              std::string s;
-              for (int i = 0; i < 5000; ++i) s += "&a;";
-              return s;
-            }() +
-            "\">]><a>&b;</a>"}) {
+       {std::string("\0\1", 2), "<!--" + std::string(6 << 20, ' ') + "-->" + Text,
+        Tief, "<!DOCTYPE a [<!ENTITY a \"" + std::string(5000, 'x') + "\"><!ENTITY b \"" + [] {
+          std::string s;
+          for (int i = 0; i < 5000; ++i) s += "&a;";
+          return s;
+        }() + "\">]><a>&b;</a>"}) {
     Skript.Erwarte("Format nicht erkannt");
     EXPECT_EQ(Lies(Schlecht), -1) << Schlecht.substr(0, 20);
   }
   std::string Verweis = Text;
-  Verweis.insert(Verweis.find("<AX_B"), "<!DOCTYPE a [<!ENTITY f SYSTEM \"fremd\">]>");
+  Verweis.insert(Verweis.find("<AX_B"), "<!DOCTYPE a [<!ENTITY f SYSTEM \"" + Ordner.Pfad("fremd") + "\">]>");
   Verweis.insert(Verweis.find("1110"), "&f;");
   EXPECT_EQ(Lies(Verweis), 0);
   EXPECT_EQ(Tabelle(), "100012 477000.123 5600000.456 0.000 [1110]|");
