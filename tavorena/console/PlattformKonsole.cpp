@@ -14,8 +14,10 @@ namespace tavorena {
 
 int PlattformKonsole::Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) {
   if (Art == Knöpfe::OK) {
+    const bool Bisher = Fehler;
     Melden(Text);
     if (Titel == "Tavorena Fehlermeldung") Fehler = true;
+    if (Vorgabe == KnopfNein) Fehler = Bisher || !A.Trotzdem;
     return 1;
   }
   if (Art == Knöpfe::NochmalsOhneProtokoll || Art == Knöpfe::NochmalsOhneStapel) {

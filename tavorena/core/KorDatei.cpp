@@ -256,8 +256,8 @@ Formatzugang KorZugang() {
 Formatzugang Lt4Zugang() {
   Formatzugang F{Punktformat::Lt4};
   F.ZeileLesen = [](std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
-    S.Hoehe =
-        KorHoehe[static_cast<std::size_t>(KorAnzahl)];  // the row keeps the height that it had, on purpose
+    // The row keeps the height that it had, on purpose.
+    if (KorAnzahl < KorZeilen) S.Hoehe = KorHoehe[static_cast<std::size_t>(KorAnzahl)];
     return Lt4Zerlegen(Zeile, S, Info);
   };
   F.ZeileSchreiben = [](const KorSatz& S, int, std::string& Ziel) {
@@ -374,34 +374,61 @@ Dateiformat FormatNachEndung(std::string_view Name, Dateiformat Sonst) {
   return Sonst;
 }
 
-int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,
-                     bool Sortieren) {
-  Anzahl = 0;
-  if (Dateiname.empty()) return 0;
-  Listen = {};
+namespace {
+
+// The points of a file, one after the other, until one is refused. @return 0; -1 with a message
+int PunkteDurchgehen(const std::string& Dateiname, const Formatzugang& Zugang, const Punktnehmer& Nehmen) {
   std::string Inhalt, Grund;
-  if (TextdateiLesen(Dateiname, Inhalt, &Grund) < 0) {
+  if (InhaltHolen(Dateiname, Zugang, Inhalt, Grund) < 0) {
     LesefehlerMelden(Dateiname, Grund);
     return -1;
   }
+  Lesebericht B;
+  if (Zugang.Lesen != nullptr) return Zugang.Lesen({Dateiname, Inhalt}, Nehmen, B);
   Zeilenleser Leser(Inhalt);
   std::string_view Zeile;
-  KorSatz F;
+  KorInfoSatz Info;
   while (Leser.Nächste(Zeile)) {
-    if (!KorZerlegen(Zeile, F) || F.Pnr.empty()) continue;
-    if (Anzahl == Maximum) {
-      Hinweis("Zu viele Punkte in " + Dateiname + "\n\nMaximalwert:" + ZahlFeld(Maximum, 8) + " Punkte");
-      return -1;
-    }
-    Listen.Pnr.emplace_back(F.Pnr);
-    Listen.Rechts.push_back(F.Rechts);
-    Listen.Hoch.push_back(F.Hoch);
-    Listen.Hoehe.push_back(F.Hoehe);
-    Listen.Symbol.emplace_back(F.Symbol);
+    KorSatz S;
+    if (Zugang.ZeileLesen(Zeile, S, Info) && !Nehmen(S)) return 0;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int PunkteInListen(const std::string& Dateiname, Punktformat Format, Punktlisten& Listen, int Maximum,
+                   int& Anzahl, bool Sortieren) {
+  Anzahl = 0;
+  if (Dateiname.empty()) return 0;
+  Listen = {};
+  const Formatzugang* Zugang = FormatFinden(Format);
+  if (Zugang == nullptr) return -1;
+  bool Zuviel = false;
+  const auto Nehmen = [&](const KorSatz& S) {
+    if (TrimmenSicht(S.Pnr).empty()) return true;
+    Zuviel = Anzahl == Maximum;
+    if (Zuviel) return false;
+    Listen.Pnr.emplace_back(S.Pnr);
+    Listen.Rechts.push_back(S.Rechts);
+    Listen.Hoch.push_back(S.Hoch);
+    Listen.Hoehe.push_back(Format == Punktformat::Lt4 ? 0 : S.Hoehe);
+    Listen.Symbol.emplace_back(S.Symbol);
     ++Anzahl;
+    return true;
+  };
+  if (PunkteDurchgehen(Dateiname, *Zugang, Nehmen) < 0) return -1;
+  if (Zuviel) {
+    Hinweis("Zu viele Punkte in " + Dateiname + "\n\nMaximalwert:" + ZahlFeld(Maximum, 8) + " Punkte");
+    return -1;
   }
   if (Sortieren) ListenOrdnen(Listen);
   return 0;
+}
+
+int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum, int& Anzahl,
+                     bool Sortieren) {
+  return PunkteInListen(Dateiname, Punktformat::Kor, Listen, Maximum, Anzahl, Sortieren);
 }
 
 }  // namespace tavorena

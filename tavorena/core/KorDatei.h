@@ -105,17 +105,21 @@ struct Nummernverlust {
 ///         then as it was
 [[nodiscard]] int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma);
 
-/// Caller-owned columns of a KOR file.
+/// Caller-owned columns of a file of points.
 struct Punktlisten {
   std::vector<std::string> Pnr;
   std::vector<double> Rechts, Hoch, Hoehe;
   std::vector<std::string> Symbol;
 };
 
-/// Reads a KOR file into lists without touching the table.
+/// Reads a file of points into lists without touching the table.
 /// @param[in] Maximum    most points that the lists take
 /// @param[in] Sortieren  false keeps the order of the file
-/// @return 0; -1 with a message if the file is missing or holds more points. An empty name does nothing.
+/// @return 0; -1 with a message if the file can not be read or holds more points. An empty name does nothing.
+[[nodiscard]] int PunkteInListen(const std::string& Dateiname, Punktformat Format, Punktlisten& Listen,
+                                 int Maximum, int& Anzahl, bool Sortieren = true);
+
+/// The same of a KOR file.
 [[nodiscard]] int KorDateiInListen(const std::string& Dateiname, Punktlisten& Listen, int Maximum,
                                    int& Anzahl, bool Sortieren = true);
 

@@ -58,7 +58,9 @@ void Hinweis(const std::string& Text, const std::string& Titel) {
 
 void FehlerMeldung(const std::string& Text) { Hinweis("Fehler aufgetreten:\n" + Text); }
 
-void DateiendeMeldung(const std::string& Datei) { Hinweis("Unerwartetes Dateiende in:\n" + Datei); }
+void DateiendeMeldung(const std::string& Datei) {
+  FragenPort().Meldung("Unerwartetes Dateiende in:\n" + Datei, Knöpfe::OK, "Tavorena", KnopfNein);
+}
 
 void PunktVorhandenMeldung(const std::string& Pnr) { Hinweis("Punkt " + Zitat(Pnr) + "schon vorhanden !"); }
 

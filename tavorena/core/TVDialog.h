@@ -18,6 +18,8 @@ extern int Dialogergebnis;
                               int Vorgabe = 0);
 void Hinweis(const std::string& Text, const std::string& Titel = "Tavorena");
 void FehlerMeldung(const std::string& Text);
+/// A file ends too early. It warns of a loss as a question that stands on "Nein" does: for the console it is
+/// a failure without --trotzdem.
 void DateiendeMeldung(const std::string& Datei);
 void PunktVorhandenMeldung(const std::string& Pnr);
 

@@ -331,16 +331,10 @@ int EDBSLesen(const Punktquelle& Quelle, const Punktnehmer& Nehmen, Lesebericht&
 
 std::string MitZeilenende(const std::string& Satz) { return Satz.empty() ? "" : Satz + "\r\n"; }
 
-std::string Verschlüsselt(const EDBSRahmen& R, std::string Text) {
-  if (R.MitBom) Text.insert(0, Bom);
-  return R.Windows1252 ? NachWindows1252(Text) : Text;
-}
-
 void EDBSTabelleSchreiben(int /*Nachkomma*/, std::string& Ziel) {
-  std::string Text = MitZeilenende(EDBSOffen.Anfang);
-  TabelleAnhängen(Text, 0);
-  Text += MitZeilenende(EDBSOffen.Ende);
-  Ziel += Verschlüsselt(EDBSOffen, std::move(Text));
+  Ziel += MitZeilenende(EDBSOffen.Anfang);
+  TabelleAnhängen(Ziel, 0);
+  Ziel += MitZeilenende(EDBSOffen.Ende);
 }
 
 // The running number of a record; 0 where there is none.
@@ -364,6 +358,11 @@ int EDBSPunkteLesen(std::string_view Bytes, const std::function<bool(const EDBSS
   return 0;
 }
 
+std::string EDBSVerschlüsseln(const EDBSRahmen& R, const std::string& Text) {
+  if (R.Windows1252) return NachWindows1252(Text);
+  return R.MitBom ? std::string(Bom) + Text : Text;
+}
+
 std::string EDBSFortsetzen(std::string_view Bytes) {
   EDBSRahmen R;
   std::string Ablage;
@@ -384,7 +383,7 @@ std::string EDBSFortsetzen(std::string_view Bytes) {
   if (EndeAb != std::string::npos) Text.erase(EndeAb, EndeBis - EndeAb);
   if (!Text.empty() && !Text.ends_with('\n') && !Text.ends_with('\r')) Text += "\r\n";
   TabelleAnhängen(Text, Letzter);
-  return Verschlüsselt(R, Text + MitZeilenende(R.Ende));
+  return EDBSVerschlüsseln(R, Text + MitZeilenende(R.Ende));
 }
 
 Formatzugang EDBSZugang() {
@@ -392,6 +391,15 @@ Formatzugang EDBSZugang() {
   F.Lesen = EDBSLesen;
   F.Was = Formatzugang::Zufuhr::Bytes;
   F.Schreiben = EDBSTabelleSchreiben;
+  F.ZeileLesen = [](std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
+    EDBSSatz Satz;
+    if (EDBSZeileArt(Zeile) != EDBSZeile::Punkt || EDBSSatzLesen(Zeile, Satz) < 0) return false;
+    S = Satz.Satz();
+    Info = Satz.Info;
+    S.Info = &Info;
+    return true;
+  };
+  F.ZeileSchreiben = [](const KorSatz& S, int, std::string& Ziel) { EDBSSatzAnhängen(Ziel, 1, S); };
   return F;
 }
 

@@ -67,11 +67,15 @@ extern EDBSRahmen EDBSOffen;
 [[nodiscard]] int EDBSPunkteLesen(std::string_view Bytes, const std::function<bool(const EDBSSatz&)>& Nehmen,
                                   Lesebericht& B, EDBSRahmen* R = nullptr);
 
+/// A text in the coding of a file, with its byte-order mark.
+[[nodiscard]] std::string EDBSVerschlüsseln(const EDBSRahmen& R, const std::string& Text);
+
 /// A file with the table behind its points: its records stay, the count goes on, its closing record comes
 /// last. The coding is that of the file.
 /// @param[in] Bytes  the whole file as it stands
 [[nodiscard]] std::string EDBSFortsetzen(std::string_view Bytes);
 
+/// The text of the whole table stands between the records of EDBSOffen; it is not yet in that coding.
 [[nodiscard]] Formatzugang EDBSZugang();
 
 }  // namespace tavorena

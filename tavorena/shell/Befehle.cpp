@@ -63,11 +63,15 @@ void DateiSpeichernUnter() {
   const char* Vorgabe = Koordinatendateiformat == Dateiformat::Lt4    ? "*.alk"
                         : Koordinatendateiformat == Dateiformat::Edbs ? "*.eds"
                                                                       : "*.kor";
+  const char* Filter = Koordinatendateiformat == Dateiformat::Edbs ? FilterEdbs : FilterKor;
   std::string Name;
   bool Anhängen = false;
-  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Schreiben, FilterKor, Vorgabe, Name, &Anhängen) < 0) return;
+  if (DateiWahl(Dateisorte::Kor, Wahlmodus::Schreiben, Filter, Vorgabe, Name, &Anhängen) < 0) return;
   const Dateiformat Format = FormatNachEndung(Name);
   if (KoordinatenExportieren(Name, Format, Anhängen) < 0) return;
+  if (Format == Dateiformat::Kor && Koordinatendateiformat != Dateiformat::Kor)
+    StatusHilfeSetzen(Anzahltext(KorAnzahl, "Punkt", "Punkte") +
+                      " gespeichert, ohne Attribute: sie bleiben in " + KoordinatendateiName);
   KoordinatendateiName = Name;
   Koordinatendateiformat = Format;
   KoordinatendateiStandMerken(Name);
@@ -131,9 +135,7 @@ void HinzuPunktselektion() {
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, FilterKor, "*.kor", Name) < 0) return;
   Punktlisten Listen;
   int Anzahl = 0;
-  if (FormatNachEndung(Name) != Dateiformat::Kor)
-    return FehlerMeldung("Punkte werden nur aus KOR-Dateien ausgewählt:\n" + Name);
-  if (KorDateiInListen(Name, Listen, KorGrenze, Anzahl) < 0) return;
+  if (PunkteInListen(Name, PunktformatVon(FormatNachEndung(Name)), Listen, KorGrenze, Anzahl) < 0) return;
   std::vector<int> Zeilen;
   if (PunkteAuswählen(Listen, Zeilen) < 0) return;
   std::vector<std::string> Gewählt;
@@ -191,6 +193,7 @@ void Über() { Hinweis("Tavorena für PC\nVersion 3.0\nRelease 4"); }
 const Befehl Befehle[] = {
     {"MenüDateiNeu", false, DateiNeu},
     {"MenüDateiLesen(0)", false, [] { DateiLesenMit(Dateiformat::Kor, FilterKor, "*.kor"); }},
+    {"MenüDateiLesen(1)", true, [] { DateiLesenMit(Dateiformat::Edbs, FilterEdbs, "*.ed?"); }},
     {"MenüDateiLesen(2)", false, [] { DateiLesenMit(Dateiformat::Lt4, FilterEdbs, "*.alk"); }},
     {"MenüDateiSpeichern(0)", true, DateiSpeichern},
     {"MenüDateiSpeichernUnter", true, DateiSpeichernUnter},

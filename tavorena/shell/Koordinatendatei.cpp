@@ -6,6 +6,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/exchange/EDBS.h>
 #include <tavorena/shell/Koordinatendatei.h>
 
 namespace tavorena {
@@ -33,6 +34,22 @@ void ZeilenMelden(const Dateibefund& B) {
   StatusHilfeSetzen(
       Anzahltext(Anzahl, "Zeile der Datei ist kein Punkt", "Zeilen der Datei sind keine Punkte") +
       ", die erste ist Zeile " + std::to_string(Erste));
+}
+
+// Of a file that is mostly something else besides points, only its reading tells what they are.
+void Ergänzen(Dateibefund& Befund, const Lesebericht& B, Dateiformat Format) {
+  if (Format != Dateiformat::Edbs) return;
+  Befund.Andere = B.Übergangen;
+  Befund.ErsteAndere = B.ErsteÜbergangene;
+}
+
+// What a file becomes: the table, behind what it holds.
+std::string Dateiinhalt(std::string Alt, const std::string& Neu, Dateiformat Format) {
+  if (Format == Dateiformat::Edbs)
+    return Alt.empty() ? EDBSVerschlüsseln(EDBSOffen, Neu) : EDBSFortsetzen(Alt);
+  if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
+  // A file that is extended keeps the coding that it has.
+  return Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu));
 }
 
 bool Trotzdem(const std::string& Was, const std::string& Dateiname) {
@@ -86,16 +103,20 @@ int KoordinatendateiLesen(bool Fragen) {
     return -1;
   }
   KoordinatendateiStandMerken(Name);
+  EDBSOffen = {};
   Dateibefund Befund;
+  Lesebericht Bericht;
   const auto Prüfen = [&](const Dateibefund& Neu) {
     Befund = Neu;
     return !Fragen || DarfGelesenWerden(Name, Neu);
   };
-  const int Ergebnis = KorLesen(Name, Lesemodus::Ersetzen, Koordinatendateiformat, {}, Prüfen);
+  const int Ergebnis =
+      KorLesen(Name, Lesemodus::Ersetzen, PunktformatVon(Koordinatendateiformat), {}, Prüfen, &Bericht);
   if (Ergebnis < 0) {
     KoordinatendateiName.clear();
     return Ergebnis;
   }
+  Ergänzen(Befund, Bericht, Koordinatendateiformat);
   Verlust = {Name, Befund.Andere + Befund.Bemerkungen, std::max(Befund.Punkte - KorGrenze, 0)};
   ZeilenMelden(Befund);
   return 0;
@@ -104,11 +125,14 @@ int KoordinatendateiLesen(bool Fragen) {
 void KoordinatenHinzulesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
                            const std::function<bool(std::string_view)>& Nimmt) {
   Dateibefund Befund;
+  Lesebericht Bericht;
   const auto Prüfen = [&](const Dateibefund& Neu) {
     Befund = Neu;
     return DarfGelesenWerden(Dateiname, Neu);
   };
-  if (KorLesen(Dateiname, Modus, Format, Nimmt, Prüfen) == 0) ZeilenMelden(Befund);
+  if (KorLesen(Dateiname, Modus, PunktformatVon(Format), Nimmt, Prüfen, &Bericht) < 0) return;
+  Ergänzen(Befund, Bericht, Format);
+  ZeilenMelden(Befund);
 }
 
 void KoordinatendateiStandMerken(const std::string& Dateiname) {
@@ -133,11 +157,8 @@ int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, boo
   const int Gewählt = Optionen.OptNachkommaSpeichern;
   const int Nachkomma = Gewählt >= 0 && Gewählt <= 6 ? Gewählt : OptionenSatz().OptNachkommaSpeichern;
   bool Gut = KorText(Format, Nachkomma, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
-  if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
-  // A file that is extended keeps the coding that it has.
   if (Gut) {
-    const int Ergebnis =
-        DateiErsetzen(Dateiname, Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu)), &Grund, &Eben);
+    const int Ergebnis = DateiErsetzen(Dateiname, Dateiinhalt(std::move(Alt), Neu, Format), &Grund, &Eben);
     // Written by somebody else since the question: what it said does not hold any more.
     if (Ergebnis == -2) return KoordinatenExportieren(Dateiname, Format, Anhängen);
     Gut = Ergebnis == 0;

@@ -39,7 +39,6 @@ void KoordinatendateiStandMerken(const std::string& Dateiname);
 
 /// The common writer behind saving and exports. It asks by SpeichernErlaubt, and tells the number of points
 /// in the status help.
-/// @param[in] Format KOR or LT4
 /// @return 0; -1, an old file is then as it was
 int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen = false);
 

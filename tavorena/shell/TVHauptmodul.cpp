@@ -9,6 +9,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/Formattafel.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/forms/TVWertdialog.h>
@@ -80,6 +81,7 @@ void TitelZeigen() {
 
 void OhnePunkte() {
   KorAbschneiden(0);
+  EDBSOffen = {};
   KorGeaendertSetzen(false);
 }
 

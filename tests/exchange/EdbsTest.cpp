@@ -41,7 +41,7 @@ class EdbsTest : public TabellenTest {
   static std::string Text() {
     std::string Bytes;
     EXPECT_EQ(KorText(Punktformat::Edbs, 3, Bytes), 0);
-    return Bytes;
+    return EDBSVerschlüsseln(EDBSOffen, Bytes);
   }
   const std::string Datei = Ordner.Pfad("a.eds");
   Lesebericht Bericht;
