@@ -76,10 +76,10 @@ struct Konsolenbefehl {
   /// Works on the table that was read. @return false if it was not done wholly
   std::function<bool(const Aufruf& A, const Umfeld& U)> Tun;
   std::vector<Angabe> Angaben = {};
-  bool OderKoordinaten = false;  ///< the coordinate file can stand for Datei, which is then ""
   const char* Ziel = nullptr;  ///< tells what Aufruf::Ziel is, which then must be given; nullptr: it has none
   /// What is wrong with the values of a call; "": nothing. Nothing was read before.
   std::function<std::string(const Aufruf& A)> Prüfen = {};
+  bool OderKoordinaten = false;  ///< the coordinate file can stand for Datei, which is then ""
 };
 
 /// Runs a command: looks at the call, reads the coordinates, takes the protocol, works, and saves the table
