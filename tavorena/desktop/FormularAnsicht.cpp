@@ -46,6 +46,8 @@ std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang, bool InGitter) {
       return Taste::Auf;
     case Qt::Key_Down:
       return Taste::Ab;
+    case Qt::Key_F2:
+      return Taste::F2;
     case Qt::Key_Space:
       return InGitter ? std::optional(Taste::Leer) : std::nullopt;
     case Qt::Key_Plus:

@@ -12,8 +12,8 @@
 namespace tavorena {
 
 /// The keys a form looks at; all others belong to the text of the field. Leer, the space bar, only comes
-/// where rows are chosen.
-enum class Taste { Return, Escape, Plus, Minus, Auf, Ab, Leer };
+/// where rows are chosen; F2 opens what belongs to the current row.
+enum class Taste { Return, Escape, Plus, Minus, Auf, Ab, Leer, F2 };
 
 /// Place of a control inside its frame, counted in rows and columns of that frame.
 struct Platz {

@@ -57,7 +57,9 @@ Editorspalte Zahlspalte(const char* Titel, std::int16_t KorInfoSatz::*Wert, int 
             const bool Ziffern =
                 std::all_of(Text.begin(), Text.end(), [](char c) { return c >= '0' && c <= '9'; });
             const double Zahl = ZahlAusText(Text);
-            if (!Ziffern || Zahl > Größte) return "nur ganze Zahlen bis " + std::to_string(Größte);
+            if (!Ziffern || Zahl > Größte)
+              return "nur ganze Zahlen bis " + std::to_string(Größte) + ", " +
+                     Anzahltext(static_cast<int>(std::to_string(Größte).size()), "Stelle", "Stellen");
             P.Info.*Wert = static_cast<std::int16_t>(Zahl);
             return "";
           }};
@@ -87,11 +89,14 @@ Editorspalte Punktartspalte() {
   return S;
 }
 
-Editorspalte Bemerkungsspalte() {
+// @param[in] EineStelle  the file has room for one digit
+Editorspalte Bemerkungsspalte(bool EineStelle) {
   return {"Bem.zur Verm.", 14, [](const KorSatz& S) { return ZahlNachText(S.Info->BemZurVerm).Text(); },
-          [](const std::string& Text, Punktsatz& P) -> std::string {
+          [EineStelle](const std::string& Text, Punktsatz& P) -> std::string {
             const double Zahl = ZahlAusText(Text);
             if ((!Text.empty() && !IstZahlwort(Text)) || !std::isfinite(Zahl)) return "keine Zahl";
+            if (EineStelle && (Zahl < 0 || Zahl > 9 || Zahl != std::floor(Zahl)))
+              return "nur ganze Zahlen bis 9, 1 Stelle";
             P.Info.BemZurVerm = Zahl;
             return "";
           }};
@@ -114,19 +119,19 @@ std::vector<Editorspalte> Editorspalten(Dateiformat Format) {
     return LängeNehmen(Text.empty() ? "0" : Text, P.Hoehe);
   };
   if (Format == Dateiformat::Kor) return Alle;
-  // The fixed columns of the one format are narrower than the values.
+  // The fixed columns of a file are narrower than the values; what LT4 has no column for stays as wide.
   const bool Lt4 = Format == Dateiformat::Lt4;
   constexpr int Ganz = std::numeric_limits<std::int16_t>::max();
   const std::vector<Editorspalte> Attribute = {
       Punktartspalte(),
-      Zahlspalte("Punktstatus", &KorInfoSatz::Punktstatus, Lt4 ? 9 : Ganz),
-      Zahlspalte("Aktualität", &KorInfoSatz::Aktualitaet, Ganz),
-      Zahlspalte("Vermarkungsart", &KorInfoSatz::Vermarkungsart, Lt4 ? 999 : Ganz),
-      Bemerkungsspalte(),
-      Wortspalte("Entstehung", &KorInfoSatz::Entstehung, 20),
+      Zahlspalte("Punktstatus", &KorInfoSatz::Punktstatus, 9),
+      Zahlspalte("Aktualität", &KorInfoSatz::Aktualitaet, Lt4 ? Ganz : 9),
+      Zahlspalte("Vermarkungsart", &KorInfoSatz::Vermarkungsart, Lt4 ? 999 : 9),
+      Bemerkungsspalte(!Lt4),
+      Wortspalte("Entstehung", &KorInfoSatz::Entstehung, Lt4 ? 20 : 1),
       Wortspalte("Lagestatus", &KorInfoSatz::Lagestatus, 3),
-      Wortspalte("Lagegenauigk.", &KorInfoSatz::Lagegenauigkeit, Lt4 ? 1 : 20),
-      Zahlspalte("Art d.Höhenb.", &KorInfoSatz::ArtHoehenbestimmung, Ganz),
+      Wortspalte("Lagegenauigk.", &KorInfoSatz::Lagegenauigkeit, 1),
+      Zahlspalte("Art d.Höhenb.", &KorInfoSatz::ArtHoehenbestimmung, Lt4 ? Ganz : 99),
   };
   Alle.insert(Alle.end(), Attribute.begin(), Attribute.end());
   for (Editorspalte& S : Alle) S.Zeichen = std::max(S.Zeichen, static_cast<int>(ZeichenAnzahl(S.Titel)) + 1);

@@ -9,6 +9,7 @@
 #include <tavorena/forms/TVEinzelKoreinForm.h>
 #include <tavorena/points/Punkteingabe.h>
 #include <tavorena/points/Punktverwaltung.h>
+#include <tavorena/points/TVEDBSPunktForm.h>
 #include <tavorena/points/TVKernKoordinatenEditor.h>
 
 namespace tavorena {
@@ -65,7 +66,11 @@ void TVKernKoordinatenEditor::KnöpfeAnlegen() {
     Fort.Hilfe = "Punkt der Zeile löschen; Rückgängig holt ihn wieder";
     Fort.OhnePrüfung = true;
   }
-  KnopfAnlegen("EditorEnd", "&Schließen", [this] { SchließenVerlangen(); }, {0, 3}).OhnePrüfung = true;
+  if (Koordinatendateiformat != Dateiformat::Kor) {
+    Knopf& K = KnopfAnlegen("EditorAttribute", "&Attribute", [this] { AttributeZeigen(); }, {0, 3});
+    K.Hilfe = "Alle Angaben zum Punkt der Zeile (F2)";
+  }
+  KnopfAnlegen("EditorEnd", "&Schließen", [this] { SchließenVerlangen(); }, {0, 4}).OhnePrüfung = true;
 }
 
 void TVKernKoordinatenEditor::BeiÖffnen() {
@@ -183,25 +188,32 @@ bool TVKernKoordinatenEditor::ZelleVerlassen() {
 }
 
 bool TVKernKoordinatenEditor::Ändern(int z) {
-  const int s = Zellen->Spalte, i = Platz(z);
+  const int s = Zellen->Spalte;
+  int i = Platz(z);
   if (Zellen->Inhalt(z, s) == Zellentext(z, s)) {
     Zellen->EntwurfVerwerfen();
     return true;
   }
   if (!DarfÄndern()) return false;
-  int t = Zeilen.Tabellenzeile(i);
+  const int t = Zeilen.Tabellenzeile(i);
   if (t < 0) return true;  // gone, and told between two events
-  const int Vorher = t;
   Punktsatz P = PunktsatzVon(t);
   const Punktsatz Alt = P;
   if (!ZelleNehmen(z, s, P)) return false;
   if ((P.Rechts != Alt.Rechts || P.Hoch != Alt.Hoch) && !FernNehmen(z, P)) return false;
+  return Setzen(i, t, P);
+}
+
+// A shown point gets other values, row t of the table. @param[in,out] i  its place
+bool TVKernKoordinatenEditor::Setzen(int& i, int t, const Punktsatz& P) {
+  const int Vorher = t;
   if (PunktÄndern(R, t, P) < 0) return false;
   Zellen->EntwurfVerwerfen();
   Zeilen.Setzen(i, PunktsatzVon(t));
   if (Modus == Editormodus::Bearbeiten && t != Vorher) {
     Zellen->ZeileUmziehen(Vorher, t);
     StatusHilfeSetzen("Punkt " + Zitat(P.Pnr) + " steht jetzt in Zeile " + std::to_string(t + 1));
+    i = t;
   }
   Merken();
   Getan(0);
@@ -335,6 +347,36 @@ void TVKernKoordinatenEditor::GeheZu(const std::string& Pnr) {
   } while (TrimmenSicht(KorPnr(t)) != TrimmenSicht(Gesucht.Text()));
   FokusSetzen(*Zellen);
   ZelleWechseln(*Zellen, t + (Neu >= 0 && t >= Neu ? 1 : 0), Zellen->Spalte);
+}
+
+bool TVKernKoordinatenEditor::TasteUnten(Steuerelement& /*S*/, Taste T) {
+  if (T != Taste::F2) return false;
+  if (Koordinatendateiformat != Dateiformat::Kor) AttributeZeigen();
+  return true;
+}
+
+// All there is of the point in the current row, and its neighbours.
+void TVKernKoordinatenEditor::AttributeZeigen() {
+  FokusSetzen(*Zellen);
+  if (!Lesen(*Zellen)) return;
+  if (Zellen->Zeile >= Zellen->Zeilen() || Zellen->Zeile == Neu)
+    return StatusHilfeSetzen("Diese Zeile ist noch kein Punkt");
+  EDBSPunktzugriff Zugriff{Zeilen.Anzahl(), [this](int i) { return Zeilen.Satz(i); }, {}};
+  if (Modus != Editormodus::Ansicht)
+    Zugriff.Ändern = [this](int& i, const Punktsatz& P) { return AttributeÄndern(i, P); };
+  int i = Platz(Zellen->Zeile);
+  EDBSPunktZeigen(Zugriff, i);
+  ZelleSetzen(i + (Neu >= 0 && i >= Neu ? 1 : 0), Zellen->Spalte);
+}
+
+bool TVKernKoordinatenEditor::AttributeÄndern(int& i, const Punktsatz& P) {
+  const int t = Zeilen.Tabellenzeile(i);
+  if (t < 0 || !DarfÄndern()) return false;
+  const Punktsatz Alt = PunktsatzVon(t);
+  if (P == Alt) return true;
+  if ((P.Rechts != Alt.Rechts || P.Hoch != Alt.Hoch) && !FernpunktFrage(P.Pnr, P.Rechts, P.Hoch))
+    return false;
+  return Setzen(i, t, P);
 }
 
 // In the table a picked point is gone to; among new ones its number is taken.

@@ -32,6 +32,7 @@ class TVKernKoordinatenEditor final : public Punktform {
   void BeiTabelle() override;
   void NachTat() override;
   bool Zurücknehmen() override;
+  bool TasteUnten(Steuerelement& S, Taste T) override;
 
  private:
   void KnöpfeAnlegen();
@@ -48,6 +49,7 @@ class TVKernKoordinatenEditor final : public Punktform {
   [[nodiscard]] bool ZelleVerlassen();
   [[nodiscard]] bool ZelleNehmen(int z, int s, Punktsatz& P);
   [[nodiscard]] bool Ändern(int z);
+  [[nodiscard]] bool Setzen(int& i, int t, const Punktsatz& P);
   [[nodiscard]] bool Angefangen(int z) const;
   [[nodiscard]] bool NeueVerlassen();
   [[nodiscard]] bool NeueSchreiben();
@@ -59,6 +61,8 @@ class TVKernKoordinatenEditor final : public Punktform {
   void Einfügen();
   void Löschen();
   void Abgreifen(const std::string& Pnr);
+  void AttributeZeigen();
+  [[nodiscard]] bool AttributeÄndern(int& i, const Punktsatz& P);
 
   const Editormodus Modus;
   const std::vector<Editorspalte> Spalten;

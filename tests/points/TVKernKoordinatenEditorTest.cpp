@@ -212,5 +212,64 @@ TEST_F(Koordinateneditor, AttributeEinerKatasterdatei) {
   NimmAllesZurück();
 }
 
+TEST_F(Koordinateneditor, AlleAttributeEinesPunktes) {
+  Koordinatendateiformat = Dateiformat::Edbs;
+  Optionen.OptNachkommastellen = 1;
+  const KorInfoSatz Info{15, 1, 0, 2, 3, "4", "100", "5", 60};
+  ASSERT_EQ(KorZeileSetzen(3, {"3", 3500030.456, 5600000.123, 0, "015", &Info}), 0);
+  Vorher = Tabelle();
+  const auto Werte = [](const Gitter& A, int s) {
+    std::string Alle;
+    for (int z = 0; z < A.Zeilen(); ++z) Alle += A.Inhalt(z, s) + "|";
+    return Alle;
+  };
+  const std::string Namen =
+      "Punktnummer|Rechts|Hoch|Höhe|Punktart(Symbol)|Punktstatus|Aktualität|Vermarkungsart|Bem.zur Verm.|"
+      "Entstehung|Lagestatus|Lagegenauigk.|Art d.Höhenb.|";
+  Öffne(Editormodus::Bearbeiten);
+  Gehe(3, 2);
+  Skript.Formulare.push_back([&](Formular& F) {
+    F.Öffnen();
+    Gitter& A = Gitterfeld(F);
+    EXPECT_TRUE(Gleich(Werte(A, 0), Namen, Werte(A, 1), "3|3500030.5|5600000.1||15|1|0|2|3|4|100|5|60|"));
+    const std::tuple<int, const char*, const char*> Fälle[] = {
+        {5, "10", "Punktstatus \"10\": nur ganze Zahlen bis 9, 1 Stelle"},
+        {6, "-1", "1 Stelle"},
+        {7, "10", "1 Stelle"},
+        {8, "2,5", "bis 9, 1 Stelle"},
+        {9, "12", "höchstens 1 Zeichen"},
+        {10, "1000", "höchstens 3 Zeichen"},
+        {11, "12", "höchstens 1 Zeichen"},
+        {12, "100", "bis 99, 2 Stellen"}};
+    for (const auto& [z, Getippt, Meldung] : Fälle) {
+      F.ZelleWechseln(A, z, 1);
+      Skript.Erwarte(Meldung);
+      test::Tippe(F, "EDBSFlexgitter", std::string(Getippt) + "\n");
+      EXPECT_TRUE(Gleich(*A.Zeile, z, *A.Fehlerhaft, true));
+      F.TasteDrücken(Taste::Escape);
+    }
+    F.ZelleWechseln(A, 7, 1);
+    test::Tippe(F, "EDBSFlexgitter", "9\n");
+    Drücke(F, "EDBSUebernehmen");
+    EXPECT_TRUE(Gleich(KorInfo[3].Vermarkungsart, 9, KorRechts[3], 3500030.456, KorHoch[3], 5600000.123));
+    test::Tippe(F, "EDBSFlexgitter", "7");  // in the row of the remark
+    Skript.Erwarte("Änderungen an Punkt 3 übernehmen ?", KnopfNein);
+    Drücke(F, "EDBSNaechster");
+    EXPECT_TRUE(
+        Gleich(A.Inhalt(0, 1), "8A", KorInfo[3].BemZurVerm, 3, Drücke(F, "EDBSNaechster"), "EDBSFlexgitter"));
+    Drücke(F, "EDBSEnd");
+  });
+  Form->TasteDrücken(Taste::F2);
+  EXPECT_EQ(Zelle(), Paar(4, 2));
+  NimmAllesZurück();
+  Öffne(Editormodus::Ansicht);
+  Skript.Formulare.push_back([&](Formular& F) {
+    F.Öffnen();
+    EXPECT_TRUE(Gleich(*Gitterfeld(F).NurLesen, true, *Element(F, "EDBSUebernehmen").Sichtbar, false));
+    F.Schließen();
+  });
+  Drücke(*Form, "EditorAttribute");
+}
+
 }  // namespace
 }  // namespace tavorena::test
