@@ -6,6 +6,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/Dateifrage.h>
 #include <tavorena/forms/Dialogform.h>
 #include <tavorena/forms/TVWertdialog.h>
 
@@ -93,21 +94,38 @@ class Dateiform final : public Dialogform {
       F.Text = D.Name;
       Felder.push_back(&F);
       KnopfAnlegen(
-          "Waehlen" + Index, "...", [&F, &D] { NameWählen(F, D); }, {Zeile, 2}, "")
+          "Waehlen" + Index, "...",
+          [this, &F, &D] {
+            NameWählen(F, D);
+            Vorschlagen();
+          },
+          {Zeile, 2}, "")
           .OhnePrüfung = true;
       ++Zeile;
     }
+    Felder[0]->BeiVerlassen = [this] { return Vorschlagen(), true; };
     OkUndAbbruch([this] { Übernehmen(); });
   }
 
  private:
+  // Names that follow the first one, as long as nobody gave another.
+  void Vorschlagen() {
+    const Dateiname Teile = DateinameZerlegen(Trimmen(*Felder[0]->Text));
+    for (std::size_t i = 1; i < Dateien.size(); ++i) {
+      const bool Frei = Felder[i]->Text->empty() || *Felder[i]->Text == Vorschlag;
+      if (Dateien[i].Endung.empty() || Teile.Grundname.empty() || !Frei) continue;
+      Felder[i]->Text = Vorschlag = Teile.Ordner + Teile.Grundname + "." + Dateien[i].Endung;
+    }
+  }
+
   static bool IstAusgabe(const Dateifeld& D) { return D.Ausgabe || D.Fortgeschrieben; }
 
   static void NameWählen(Feld& F, const Dateifeld& D) {
     if (D.Ordner) return OrdnerWählen(F, D);
     const Dateiname Teile = DateinameZerlegen(*F.Text);
     const std::string Vorgabe = F.Text->substr(Teile.Ordner.size());
-    Dateiauftrag Auftrag{D.Label, D.Filter, Teile.Ordner, Vorgabe, !IstAusgabe(D), "", false};
+    const std::string Ordner = Teile.Ordner.empty() ? Startordner() : Teile.Ordner;
+    Dateiauftrag Auftrag{D.Label, D.Filter, Ordner, Vorgabe, !IstAusgabe(D), "", false};
     const std::string Name = FragenPort().DateiWählen(Auftrag);
     if (!Name.empty()) F.Text = Name;
   }
@@ -144,6 +162,7 @@ class Dateiform final : public Dialogform {
 
   std::span<Dateifeld> Dateien;
   std::vector<Feld*> Felder;
+  std::string Vorschlag;  // that stands in a field
 };
 
 class Listenform final : public Dialogform {

@@ -40,6 +40,7 @@ struct Dateifeld {
   bool Fortgeschrieben = false;  ///< an output that is extended: it need not exist, and is not asked about
   bool Leerbar = false;          ///< need not be given
   bool Ordner = false;           ///< a folder that is there, chosen by VerzeichnisWahl
+  std::string Endung = {};       ///< while it is empty, the first name with this ending is proposed; "" none
 };
 
 /// Asks for the file names, each with a button that chooses one. @return 0; -1 if cancelled

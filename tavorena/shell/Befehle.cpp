@@ -18,6 +18,7 @@
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Edbsbefehle.h>
 #include <tavorena/shell/Epochenbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
@@ -224,6 +225,7 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
     for (const Befehl& A : Austauschbefehle()) B.push_back(A);
+    for (const Befehl& E : Edbsbefehle()) B.push_back(E);
     for (const Befehl& E : Epochenbefehle()) B.push_back(E);
     for (const Befehl& N : Nivbefehle()) B.push_back(N);
     for (const Befehl& P : Punktbefehle()) B.push_back(P);

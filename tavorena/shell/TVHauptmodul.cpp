@@ -81,7 +81,6 @@ void TitelZeigen() {
 
 void OhnePunkte() {
   KorAbschneiden(0);
-  EDBSOffen = {};
   KorGeaendertSetzen(false);
 }
 
@@ -121,6 +120,7 @@ void HauptAnschließen() {
 void HauptInitialisierung() {
   DateinamenAbleiten();
   KorLeeren();
+  EDBSOffen = {};
   TabellenRücknahme = {};
   ProtokollNehmen("");
   Protokollfenster.Leeren();
