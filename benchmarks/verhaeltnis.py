@@ -22,6 +22,8 @@ PAARE = (
     ("GrafikPunktSuchen/letzte", ("LineareSuche/letzte",), 0.02),
     ("GrafikPunktSuchen/weit", ("LineareSuche/weit",), 2.0),
     ("Index/20000", ("StdSort/20000",), 2.0),
+    ("EdbsLesen/20000", ("NurSpalten/20000",), 4.0),
+    ("EdbsText/20000", ("FmtEdbs/20000",), 3.0),
     ("DxfPunkte/20000", ("FmtDxf/20000",), 3.0),
     ("KorSuche/letzte", ("StdFind/letzte",), 3.0),
     ("KorSuche/fehlt", ("StdFind/fehlt",), 3.0),
