@@ -7,6 +7,8 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zeichensatz.h>
+#include <tavorena/exchange/EDBS.h>
+#include <tavorena/exchange/EDBSWandler.h>
 #include <tavorena/exchange/Freiformat.h>
 #include <tavorena/shell/Austausch.h>
 
@@ -77,6 +79,18 @@ std::string Freieinwände(const Aufruf& A) {
   return Grund.empty() ? "" : "--frei: " + Grund;
 }
 
+// The converter, past the table.
+bool IstEdbsWandlung(const Aufruf& A) {
+  return A.Wert("--von") == "edbs" && A.Wert("--nach") == "kor" && Gegeben(A, "--nummer");
+}
+
+std::string Nummerneinwand(const Aufruf& A) {
+  const bool Nas = A.Wert("--von") == "nas" && A.Wert("--nummer") == "km2";
+  if (Gegeben(A, "--nummer") && !IstEdbsWandlung(A) && !Nas)
+    return "--nummer gehört zu --von edbs --nach kor, mit km2 auch zu --von nas";
+  return Gegeben(A, "--kataster") && !IstEdbsWandlung(A) ? "--kataster braucht --nummer und --von edbs" : "";
+}
+
 std::string Einwand(const Aufruf& A) {
   const std::string Von = A.Wert("--von"), Nach = A.Wert("--nach"), Stellen = A.Wert("--nachkomma");
   Zeichensatz Satz = Zeichensatz::Utf8;
@@ -89,8 +103,9 @@ std::string Einwand(const Aufruf& A) {
     return "--zeichensatz " + A.Wert("--zeichensatz") + " gibt es nicht, nur utf8, utf8-bom, 1252, 850";
   if (!Stellen.empty() && (Stellen.size() != 1 || Stellen[0] < '0' || Stellen[0] > '6'))
     return "--nachkomma " + Stellen + ": erwartet wird 0 bis 6";
-  for (const std::string& Text : {Worteinwand(A, "--achsen", {"yx", "xy"}),
-                                  Worteinwand(A, "--nummer", {"art", "km2", "lfs"}), Freieinwände(A)}) {
+  for (const std::string& Text :
+       {Worteinwand(A, "--achsen", {"yx", "xy"}), Worteinwand(A, "--nummer", {"art", "km2", "lfs"}),
+        Nummerneinwand(A), Freieinwände(A)}) {
     if (!Text.empty()) return Text;
   }
   return "";
@@ -105,19 +120,42 @@ void Einstellen(const Aufruf& A, const Wandelformat& Von) {
   if (Gegeben(A, "--frei")) static_cast<void>(FreiformatLesen(A.Wert("--frei"), LetztesFreiformat, Grund));
 }
 
+bool EdbsNachKor(const Aufruf& A, const Umfeld& U) {
+  const std::string Art = A.Wert("--nummer");
+  const EDBSAuftrag Auftrag{A.Datei, A.Ziel, A.Wert("--kataster"),
+                            Art == "art"   ? EDBSNummer::Klasse
+                            : Art == "km2" ? EDBSNummer::KmQuadrat
+                                           : EDBSNummer::Tabelle};
+  EDBSWandlung W;
+  // A file that was cut is a failure by now, unless the call takes it.
+  if (EDBSWandeln(Auftrag, W) < 0 || U.Beendet() || EDBSWandlungSchreiben(Auftrag, W) < 0) return false;
+  U.Ausgabe << "Punkte: " << W.Punkte << "  übergangen: " << W.Übergangen << '\n';
+  return true;
+}
+
+// That of the call, else for EDBS the coding of the file it comes from.
+Zeichensatz ZeichensatzFür(const Aufruf& A, Punktformat Nach) {
+  Zeichensatz Satz = Zeichensatz::Utf8;
+  if (Gegeben(A, "--zeichensatz")) {
+    static_cast<void>(ZeichensatzAus(A.Wert("--zeichensatz"), Satz));
+  } else if (Nach == P::Edbs && EDBSOffen.Windows1252) {
+    Satz = Zeichensatz::Windows1252;
+  }
+  return Satz;
+}
+
 bool Wandeln(const Aufruf& A, const Umfeld& U) {
   const Wandelformat &Von = *FormatVon(A.Wert("--von"), &Wandelformat::Von),
                      &Nach = *FormatVon(A.Wert("--nach"), &Wandelformat::Nach);
-  Zeichensatz Satz = Zeichensatz::Utf8;
-  static_cast<void>(ZeichensatzAus(A.Wert("--zeichensatz"), Satz));
   Einstellen(A, Von);
+  if (IstEdbsWandlung(A)) return EdbsNachKor(A, U);
   Lesebericht B;
   if (PunkteEinlesen(A.Datei, Lesemodus::Ersetzen, Von.Von, B) < 0) return false;
   if (B.Abgeschnitten && !A.Trotzdem) {
     DateiendeMeldung(A.Datei);
     return false;
   }
-  if (TabelleAusgeben(A.Ziel, Nach.Nach, Satz) < 0) return false;
+  if (TabelleAusgeben(A.Ziel, Nach.Nach, ZeichensatzFür(A, Nach.Nach)) < 0) return false;
   U.Ausgabe << "Punkte: " << B.Gelesen << "  übergangen: " << B.Übergangen << '\n';
   if (!B.Zusatz.empty()) U.Ausgabe << Sichtbar(B.Zusatz) << '\n';
   return true;

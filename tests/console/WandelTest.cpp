@@ -58,5 +58,31 @@ TEST_F(Wandelbefehl, LäßtDieAusgabeStehen) {
   EXPECT_EQ(Gesagt, Ein + ": Dateiname für Ein- und Ausgabe ist gleich:\n");
 }
 
+TEST_F(Wandelbefehl, EdbsHinUndHer) {
+  const std::string Satz =
+      "EDBS01080000BSPE000001  0000ULPUHESS00010001355600001123451K102001003 3500123456 "
+      "56004567892+345000010001\r\n";
+  const std::string Ganz = "EDBS00540000AKND Gr\xFCn\r\n" + Satz + "EDBS00280000AEND\r\n";
+  const std::string Kataster = Ordner.Pfad("k.kor"), Lage = "   3500123.456   5600456.789     345.000  ";
+  Schreibe(Ein, Ganz);
+  Schreibe(Kataster, "9 1 2\r\n");
+  EXPECT_EQ(Rufe("edbs", "edbs"), 0);
+  EXPECT_TRUE(Inhalt(Aus) == Ganz);
+  EXPECT_EQ(Rufe("edbs", "kor", {"--nummer", "km2", "--kataster", Kataster.c_str()}), 0);
+  EXPECT_TRUE(Gleich(Gesagt, "Punkte: 1  übergangen: 0\n", Inhalt(Aus),
+                     "      35560000112345" + Lage + "K\r\n9 1 2\r\n"));
+  EXPECT_EQ(Rufe("edbs", "lfs", {"--nummer", "art"}), 2);
+  // A cut file becomes nothing unless the call takes it.
+  Schreibe(Ein, Ganz.substr(0, Ganz.size() - 30));
+  for (const auto& [Ergebnis, Wort] : {std::pair{1, "--nachkomma=3"}, std::pair{0, "--trotzdem"}}) {
+    for (const char* Nummer : {"--nummer=lfs", "--nachkomma=3"}) {
+      Schreibe(Aus, "alt");
+      EXPECT_EQ(Rufe("edbs", "kor", {Nummer, Wort}), Ergebnis) << Gesagt;
+      EXPECT_NE(Gesagt.find("Unerwartetes Dateiende in:"), std::string::npos);
+      EXPECT_EQ(Inhalt(Aus), Ergebnis == 1 ? "alt" : "        112345" + Lage + "025\r\n");
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tavorena::test
