@@ -12,6 +12,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Ansichtdatei.h>
+#include <tavorena/desktop/Druckquelle.h>
 #include <tavorena/desktop/Malflaeche.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/graphics/Grafikmodul.h>
@@ -21,8 +22,7 @@
 namespace tavorena {
 namespace {
 
-constexpr int Auflösung = 96;  // units of the picture per inch
-constexpr int Feinheit = 10;   // steps of a unit on paper: lines as fine as on the screen
+constexpr int Feinheit = 10;  // steps of a unit on paper: lines as fine as on the screen
 
 // A picture of one piece, and how sharp it is as PNG.
 struct Stück {
@@ -69,14 +69,14 @@ void AlsPng(QIODevice& Ziel, const Stück& S) {
   Blatt.save(&Ziel, "PNG");
 }
 
-using Schreiber = std::function<void(QIODevice& Ziel)>;
+using Schreiber = std::function<int(QIODevice& Ziel)>;  // negative: stopped
 
-// The file appears as a whole. @return 0; -1 with a message
+// The file appears as a whole. @return 0; -1 with a message; -2 stopped
 int Ersetzen(const std::string& Name, const Schreiber& Schreiben) {
   QByteArray Bytes;
   QBuffer Puffer(&Bytes);
   Puffer.open(QIODevice::WriteOnly);
-  Schreiben(Puffer);
+  if (Schreiben(Puffer) < 0) return -2;
   std::string Grund = "zu groß";
   if (!Bytes.isEmpty() &&
       DateiErsetzen(Name, std::string_view(Bytes.constData(), static_cast<std::size_t>(Bytes.size())),
@@ -92,7 +92,12 @@ QString EndungVon(const std::string& Name) { return QString::fromStdString(Name)
 Schreiber SchreiberVon(const std::string& Name, const Stück& S) {
   const QString Endung = EndungVon(Name);
   const auto Art = Endung == "pdf" ? AlsPdf : Endung == "svg" ? AlsSvg : Endung == "png" ? AlsPng : nullptr;
-  if (Art != nullptr) return [Art, &S](QIODevice& Ziel) { Art(Ziel, S); };
+  if (Art != nullptr) {
+    return [Art, &S](QIODevice& Ziel) {
+      Art(Ziel, S);
+      return 0;
+    };
+  }
   FehlerMeldung("Die Ansicht wird als pdf, svg oder png gespeichert:\n" + Name);
   return {};
 }
@@ -129,20 +134,12 @@ QPageLayout Papierformat(Blatt Papier) {
           Quer ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
 }
 
-bool SeitenMalen(QPagedPaintDevice& Auf, const Seitenauftrag& Auftrag, const Seitenplan& Plan) {
-  QPainter Maler;
-  if (!Maler.begin(&Auf)) return false;
-  const double Faktor = static_cast<double>(Auf.logicalDpiX()) / Auflösung;
-  for (int Seite = 0; Seite < Plan.Seiten(); ++Seite) {
-    if (Seite > 0 && !Auf.newPage()) return false;
-    Maler.save();
-    Malen(Maler, Faktor, [&](Zeichenfläche& F) { SeiteZeichnen(F, Auftrag, Plan, Seite); });
-    Maler.restore();
-  }
-  return Maler.end();
+void SeiteMalen(QPainter& Maler, const Seitenauftrag& Auftrag, const Seitenplan& Plan, int Seite) {
+  Malfläche Fläche(Maler, Papierfarben());
+  SeiteZeichnen(Fläche, Auftrag, Plan, Seite);
 }
 
-int SeitenSchreiben(const std::string& Name, const Seitenauftrag& Auftrag) {
+int SeitenSchreiben(const std::string& Name, const Seitenauftrag& Auftrag, const Blattbereich* Welche) {
   Seitenplan Plan;
   std::string Grund;
   if (SeitenPlanen(Auftrag, Plan, Grund) != 0) {
@@ -155,7 +152,8 @@ int SeitenSchreiben(const std::string& Name, const Seitenauftrag& Auftrag) {
       Blätter.setResolution(Feinheit * Auflösung);
       Blätter.setPageLayout(Papierformat(Auftrag.Papier));
       Blätter.setTitle(QString::fromStdString(Auftrag.Titel));
-      static_cast<void>(SeitenMalen(Blätter, Auftrag, Plan));  // into memory
+      return BlätterMalen(Blätter, Welche != nullptr ? *Welche : Blattbereich{0, Plan.Seiten() - 1},
+                          [&](QPainter& Maler, int Seite) { SeiteMalen(Maler, Auftrag, Plan, Seite); });
     });
   }
   const Stück S{QSizeF(Plan.Breite, Plan.Hoehe) / TwipsJePixel, 2,

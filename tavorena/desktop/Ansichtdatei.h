@@ -7,9 +7,11 @@
 
 #include <tavorena/graphics/Grafikseite.h>
 
-class QPagedPaintDevice;
+class QPainter;
 
 namespace tavorena {
+
+struct Blattbereich;
 
 /// Writes what the graphics view shows, in light colours, as PDF, SVG (in both text stays text) or PNG, by
 /// the end of the name. The file appears as a whole.
@@ -19,12 +21,14 @@ int AnsichtSchreiben(const std::string& Name);
 /// Fills in file and time of a job, and the file's name as its title.
 void SeitenkopfSetzen(Seitenauftrag& Auftrag);
 
-/// Writes a job of pages: as PDF all of them, as SVG or PNG one.
-/// @return 0; -1 with a message
-int SeitenSchreiben(const std::string& Name, const Seitenauftrag& Auftrag);
+/// Writes a job of pages: as PDF several of them, as SVG or PNG one.
+/// @param[in] Welche  nullptr: all
+/// @return 0; -1 with a message; -2 stopped
+int SeitenSchreiben(const std::string& Name, const Seitenauftrag& Auftrag,
+                    const Blattbereich* Welche = nullptr);
 
-/// Draws the pages of a job on paper, one after the other. @return whether the paper took them
-bool SeitenMalen(QPagedPaintDevice& Auf, const Seitenauftrag& Auftrag, const Seitenplan& Plan);
+/// Draws a page of a job from the upper left corner of the sheet on, counted from 0.
+void SeiteMalen(QPainter& Maler, const Seitenauftrag& Auftrag, const Seitenplan& Plan, int Seite);
 
 /// Sheet and direction of the paper.
 [[nodiscard]] QPageLayout Papierformat(Blatt Papier);

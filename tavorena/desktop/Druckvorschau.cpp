@@ -1,32 +1,22 @@
-#include <algorithm>
-#include <cmath>
-
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPainter>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QScreen>
+#include <QShortcut>
 #include <QSpinBox>
 
 #include <tavorena/core/TVDialog.h>
-#include <tavorena/desktop/Ansichtdatei.h>
-#include <tavorena/desktop/Aussehen.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/desktop/Blattansicht.h>
 #include <tavorena/desktop/Druckvorschau.h>
-#include <tavorena/desktop/Malflaeche.h>
-#include <tavorena/forms/Dateifrage.h>
 
 namespace tavorena {
 namespace {
-
-constexpr int Steg = 12;  // around a sheet [pixels]
-
-QString Q(const std::string& Text) { return QString::fromStdString(Text); }
 
 template <typename Widget>
 Widget* Benannt(Widget* W, const char* Name) {
@@ -36,152 +26,162 @@ Widget* Benannt(Widget* W, const char* Name) {
 
 }  // namespace
 
-Seitenbild::Seitenbild(QWidget* Eltern) : QWidget(Eltern) {
-  setObjectName("Seitenbild");
-  setMinimumSize(360, 300);
-}
-
-void Seitenbild::Zeigen(const Seitenauftrag& Neuer, const Seitenplan& NeuerPlan, int NeueSeite) {
-  Auftrag = Neuer;
-  Plan = NeuerPlan;
-  Seite = NeueSeite;
-  Grund.clear();
-  update();
-}
-
-void Seitenbild::Absagen(const QString& NeuerGrund) {
-  Grund = NeuerGrund;
-  update();
-}
-
-void Seitenbild::paintEvent(QPaintEvent*) {
-  QPainter Maler(this);
-  Maler.fillRect(rect(), palette().color(QPalette::Window).darker(115));
-  const QRectF Platz = QRectF(rect()).adjusted(Steg, Steg, -Steg, -Steg);
-  if (!Grund.isEmpty()) return Maler.drawText(Platz, Qt::AlignCenter | Qt::TextWordWrap, Grund);
-  const QSizeF Papier = QSizeF(Plan.Breite, Plan.Hoehe) / TwipsJePixel;
-  const double Faktor = std::min(Platz.width() / Papier.width(), Platz.height() / Papier.height());
-  Maler.translate(Platz.center() - QPointF(Papier.width(), Papier.height()) * Faktor / 2);
-  Maler.scale(Faktor, Faktor);
-  Maler.fillRect(QRectF(QPointF(0, 0), Papier), Qt::white);
-  Malfläche Fläche(Maler, Papierfarben());
-  SeiteZeichnen(Fläche, Auftrag, Plan, Seite);
-}
-
-Druckvorschau::Druckvorschau(QWidget* Eltern)
+Druckvorschau::Druckvorschau(Druckquelle& Zeigt, QWidget* Eltern)
     : QDialog(Eltern),
-      GrafInhalt(Benannt(new QComboBox, "GrafInhalt")),
-      GrafBlatt(Benannt(new QComboBox, "GrafBlatt")),
-      GrafDrucker(Benannt(new QComboBox, "GrafDrucker")),
-      GrafTitel(Benannt(new QLineEdit, "GrafTitel")),
-      GrafMassstab(Benannt(new QLineEdit, "GrafMassstab")),
-      GrafSeite(Benannt(new QSpinBox, "GrafSeite")),
+      Davor(std::exchange(Letzte, this)),
+      Quelle(Zeigt),
+      Bild(new Blattansicht(Zeigt)),
+      Felder(new QWidget),
+      Druckerliste(Benannt(new QComboBox, "DruckDrucker")),
+      Blatt(Benannt(new QSpinBox, "DruckSeite")),
+      Von(Benannt(new QSpinBox, "DruckVon")),
+      Bis(Benannt(new QSpinBox, "DruckBis")),
       Anzahl(new QLabel),
-      GrafDruck(Benannt(new QPushButton("&Drucken"), "GrafDruck")),
-      GrafPdf(Benannt(new QPushButton("Als &PDF ..."), "GrafPdf")),
-      Bild(new Seitenbild(this)) {
-  setObjectName("GrafDruckform");
-  setProperty("Hilfenummer", GrafDruckhilfe);
-  setWindowTitle("Grafik drucken");
+      Stand(Benannt(new QLabel, "DruckStand")),
+      Druck(Benannt(new QPushButton("&Drucken ..."), "DruckDrucken")),
+      Pdf(Benannt(new QPushButton("als &PDF ..."), "DruckPdf")),
+      Zu(Benannt(new QPushButton("S&chließen"), "DruckSchließen")),
+      Stop(Benannt(new QPushButton("&Stop"), "DruckStop")) {
+  setObjectName("Druckvorschau");
+  setProperty("Hilfenummer", Quelle.Hilfenummer());
+  setWindowTitle(Quelle.Fenstertitel());
   setWindowModality(Qt::WindowModal);
-  resize(QSize(1040, 700).boundedTo(screen()->availableSize() - QSize(40, 80)));
-  Vorbelegen();
-  Anordnen();
-  for (QComboBox* Liste : {GrafInhalt, GrafBlatt})
-    connect(Liste, &QComboBox::currentIndexChanged, this, &Druckvorschau::Auffrischen);
-  for (QLineEdit* Feld : {GrafTitel, GrafMassstab})
-    connect(Feld, &QLineEdit::textChanged, this, &Druckvorschau::Auffrischen);
-  connect(GrafSeite, &QSpinBox::valueChanged, this, &Druckvorschau::Auffrischen);
-  connect(GrafDruck, &QPushButton::clicked, this, &Druckvorschau::Drucken);
-  connect(GrafPdf, &QPushButton::clicked, this, &Druckvorschau::Speichern);
-  Auffrischen();
-}
-
-void Druckvorschau::Vorbelegen() {
-  GrafInhalt->addItems({"Alle Punkte", "Ausschnitt der Grafik"});
-  GrafBlatt->addItems({"A4 hoch", "A4 quer", "A3 hoch", "A3 quer"});
-  GrafBlatt->setCurrentIndex(static_cast<int>(Blatt::A4quer));
-  GrafDrucker->addItems(QPrinterInfo::availablePrinterNames());
-  GrafDrucker->setPlaceholderText("keiner eingerichtet");
-  GrafDrucker->setEnabled(GrafDrucker->count() > 0);
-  GrafDrucker->setCurrentText(QPrinterInfo::defaultPrinterName());
-  Seitenauftrag A;
-  SeitenkopfSetzen(A);
-  GrafTitel->setText(Q(A.Titel));
-  GrafMassstab->setPlaceholderText("eingepaßt");
-  GrafMassstab->setToolTip(
-      "Zahl hinter 1: ; leer: der größte runde Maßstab, in dem alles auf ein Blatt paßt");
-  GrafMassstab->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,9}"), this));
-  GrafSeite->setMinimum(1);
-}
-
-void Druckvorschau::Anordnen() {
-  auto* Felder = new QFormLayout;
-  Felder->addRow("&Inhalt:", GrafInhalt);
-  Felder->addRow("&Blatt:", GrafBlatt);
-  Felder->addRow("&Maßstab 1:", GrafMassstab);
-  Felder->addRow("&Titel:", GrafTitel);
-  auto* Blättern = new QHBoxLayout;
-  Blättern->addWidget(GrafSeite);
-  Blättern->addWidget(Anzahl, 1);
-  auto* Seite = new QLabel("&Seite:");
-  Seite->setBuddy(GrafSeite);
-  Felder->addRow(Seite, Blättern);
-  Felder->addRow("D&rucker:", GrafDrucker);
-  auto* Zu = new QPushButton("S&chließen");
+  resize(QSize(1160, 740).boundedTo(screen()->availableSize() - QSize(40, 60)));
+  FelderAnlegen();
+  KnöpfeAnlegen();
+  TastenAnlegen();
   auto* Links = new QVBoxLayout;
-  Links->addLayout(Felder);
+  Links->addWidget(Felder);
   Links->addStretch(1);
-  for (QPushButton* K : {GrafDruck, GrafPdf, Zu}) {
-    K->setAutoDefault(false);
-    Links->addWidget(K);
-  }
+  for (QWidget* W : std::initializer_list<QWidget*>{Stand, Druck, Pdf, Zu, Stop}) Links->addWidget(W);
   auto* Platz = new QHBoxLayout(this);
   Platz->addLayout(Links);
   Platz->addWidget(Bild, 1);
-  connect(Zu, &QPushButton::clicked, this, &QDialog::reject);
+  Bild->BeiBlatt = [this] {
+    const QSignalBlocker Still(Blatt);
+    Blatt->setValue(Bild->Blatt() + 1);
+  };
+  Auffrischen();
+  Sperren(false);
+  Bild->setFocus();
 }
 
-Seitenauftrag Druckvorschau::Auftrag() const {
-  Seitenauftrag A;
-  SeitenkopfSetzen(A);
-  A.Papier = static_cast<Blatt>(GrafBlatt->currentIndex());
-  A.AllePunkte = GrafInhalt->currentIndex() == 0;
-  A.Maßstabszahl = GrafMassstab->text().toDouble();
-  A.Titel = GrafTitel->text().toStdString();
-  return A;
+Druckvorschau::~Druckvorschau() { Letzte = Davor; }
+
+void Druckvorschau::FelderAnlegen() {
+  auto* Reihen = new QFormLayout(Felder);
+  Reihen->setContentsMargins({});
+  Quelle.FelderAnlegen(*Reihen, [this] { Auffrischen(); });
+  const auto Reihe = [&](const char* Text, QWidget* Erstes, std::initializer_list<QWidget*> Weitere) {
+    auto* Neben = new QHBoxLayout;
+    Neben->addWidget(Erstes);
+    for (QWidget* W : Weitere) Neben->addWidget(W);
+    Neben->addStretch(1);
+    auto* Beschriftung = new QLabel(Text);
+    Beschriftung->setBuddy(Erstes);
+    Reihen->addRow(Beschriftung, Neben);
+  };
+  Reihe("&Seite:", Blatt, {Anzahl});
+  Reihe("Seiten &von:", Von, {new QLabel("bis:"), Bis});
+  Druckerliste->addItems(QPrinterInfo::availablePrinterNames());
+  Druckerliste->setPlaceholderText("keiner eingerichtet");
+  Druckerliste->setEnabled(Druckerliste->count() > 0);
+  Druckerliste->setCurrentText(QPrinterInfo::defaultPrinterName());
+  Reihen->addRow("D&rucker:", Druckerliste);
+  connect(Blatt, &QSpinBox::valueChanged, Bild, [this](int Neues) { Bild->BlattZeigen(Neues - 1); });
+  for (QSpinBox* Feld : {Von, Bis}) {
+    Feld->setKeyboardTracking(false);  // half a number is no range
+    connect(Feld, &QSpinBox::valueChanged, this, [this, Feld] { BereichNehmen(*Feld); });
+  }
+}
+
+// None of them is pressed by a Return that was typed ahead.
+void Druckvorschau::KnöpfeAnlegen() {
+  for (QPushButton* K : {Druck, Pdf, Zu, Stop}) K->setAutoDefault(false);
+  connect(Druck, &QPushButton::clicked, this, &Druckvorschau::Drucken);
+  connect(Pdf, &QPushButton::clicked, this, [this] {
+    if (Quelle.AlsPdf(Bereich()) == 0) accept();
+  });
+  for (QPushButton* K : {Zu, Stop}) connect(K, &QPushButton::clicked, this, &Druckvorschau::reject);
+}
+
+// They lead through the sheets wherever the focus is; a field has its own Home and End.
+void Druckvorschau::TastenAnlegen() {
+  const auto Taste = [this](const QKeySequence& Folge, auto Tun) {
+    connect(new QShortcut(Folge, this), &QShortcut::activated, Bild, Tun);
+  };
+  Taste(Qt::Key_PageUp, [this] { Bild->Blättern(false); });
+  Taste(Qt::Key_PageDown, [this] { Bild->Blättern(true); });
+  Taste(Qt::Key_Home, [this] { Bild->Anfang(); });
+  Taste(Qt::Key_End, [this] { Bild->Ende(); });
+  Taste(Qt::CTRL | Qt::Key_Plus, [this] { Bild->Zoomen(true); });
+  Taste(Qt::CTRL | Qt::Key_Minus, [this] { Bild->Zoomen(false); });
+  Taste(Qt::CTRL | Qt::Key_0, [this] { Bild->Einpassen(); });
 }
 
 void Druckvorschau::Auffrischen() {
-  const Seitenauftrag A = Auftrag();
-  std::string Grund;
-  const bool Gut = SeitenPlanen(A, Plan, Grund) == 0;
-  GrafPdf->setEnabled(Gut);
-  GrafSeite->setEnabled(Gut && Plan.Seiten() > 1);
-  GrafDruck->setEnabled(Gut && GrafDrucker->count() > 0);
-  GrafDruck->setToolTip(GrafDrucker->count() > 0 ? "" : "kein Drucker eingerichtet");
-  if (!Gut) return Bild->Absagen(Q(Grund));
-  const QSignalBlocker Still(GrafSeite);
-  GrafSeite->setMaximum(Plan.Seiten());
-  Anzahl->setText(QString("von %1, Maßstab 1:%2").arg(Plan.Seiten()).arg(Plan.Maßstabszahl, 0, 'g', 9));
-  Bild->Zeigen(A, Plan, GrafSeite->value() - 1);
+  const int Alle = Quelle.Blätter(), Letztes = std::max(Alle, 1);
+  const bool Ganz = Bisherige == 0 || (Von->value() == 1 && Bis->value() == Bisherige);
+  {
+    const QSignalBlocker Stille[] = {QSignalBlocker(Blatt), QSignalBlocker(Von), QSignalBlocker(Bis)};
+    for (QSpinBox* Feld : {Blatt, Von, Bis}) {
+      Feld->setRange(1, Letztes);
+      Feld->setEnabled(Alle > 1);
+    }
+    if (Ganz) Von->setValue(1);
+    if (Ganz) Bis->setValue(Letztes);
+  }
+  Bisherige = Alle;
+  Pdf->setEnabled(Alle > 0);
+  Druck->setEnabled(Alle > 0 && Druckerliste->count() > 0);
+  Druck->setToolTip(Druckerliste->count() > 0 ? "" : "kein Drucker eingerichtet");
+  const QString Zusatz = Quelle.Zusatz();
+  Anzahl->setText(Alle == 0 ? "" : QString("von %1").arg(Alle) + (Zusatz.isEmpty() ? "" : ", " + Zusatz));
+  Bild->Auffrischen();
+}
+
+// The field that was typed stands, the other one follows.
+void Druckvorschau::BereichNehmen(const QSpinBox& Geändert) {
+  if (Von->value() <= Bis->value()) return;
+  (&Geändert == Von ? Bis : Von)->setValue(Geändert.value());
+}
+
+Blattbereich Druckvorschau::Bereich() {
+  for (QSpinBox* Feld : {Von, Bis}) Feld->interpretText();
+  return {Von->value() - 1, Bis->value() - 1};
 }
 
 void Druckvorschau::Drucken() {
-  QPrinter Drucker(QPrinterInfo::printerInfo(GrafDrucker->currentText()), QPrinter::HighResolution);
-  const Seitenauftrag A = Auftrag();
+  const Blattbereich Welche = Bereich();
+  QPrinter Drucker(QPrinterInfo::printerInfo(Druckerliste->currentText()), QPrinter::HighResolution);
+  QPrintDialog Dialog(&Drucker, this);
+  Dialog.setOptions({});  // which sheets, is said here
+  if (Dialog.exec() != QDialog::Accepted) return;
   Drucker.setFullPage(true);
-  Drucker.setPageLayout(Papierformat(A.Papier));
-  Drucker.setDocName(Q(A.Titel));
-  if (SeitenMalen(Drucker, A, Plan)) return accept();
-  FehlerMeldung("Der Drucker nimmt nichts an:\n" + GrafDrucker->currentText().toStdString());
+  Drucker.setPageLayout(Quelle.Papier());
+  Drucker.setDocName(Quelle.Titel());
+  const int Ergebnis =
+      BlätterMalen(Drucker, Welche, [this](QPainter& Maler, int i) { Quelle.Zeichnen(Maler, i); });
+  if (Ergebnis == 0) return accept();
+  if (Ergebnis == -2) return static_cast<void>(Drucker.abort());
+  FehlerMeldung("Der Drucker nimmt nichts an:\n" + Drucker.printerName().toStdString());
 }
 
-void Druckvorschau::Speichern() {
-  const std::string Name = DateiFragen("Grafik als PDF speichern", "PDF (*.pdf)|*.pdf", "*.pdf", true);
-  if (Name.empty() || SeitenSchreiben(Name, Auftrag()) < 0) return;
-  StatusHilfeSetzen("Gespeichert: " + Name);
-  accept();
+void Druckvorschau::Sperren(bool An) {
+  for (QWidget* W : std::initializer_list<QWidget*>{Felder, Bild}) W->setEnabled(!An);
+  for (QPushButton* K : {Druck, Pdf, Zu}) K->setVisible(!An);
+  Stop->setVisible(An);
+  Stand->setVisible(An);
+  Stand->clear();
+  (An ? static_cast<QWidget*>(Stop) : Bild)->setFocus();
+}
+
+void Druckvorschau::StandZeigen(const QString& Text) { Stand->setText(Text.trimmed()); }
+
+// While sheets go out it stays, and they stop.
+void Druckvorschau::reject() {
+  if (Stop->isHidden()) return QDialog::reject();
+  KorStop = Laufwunsch::Stop;
 }
 
 }  // namespace tavorena

@@ -1,59 +1,52 @@
 #pragma once
 
-#include <string>
-
 #include <QDialog>
 
-#include <tavorena/graphics/Grafikseite.h>
+#include <tavorena/desktop/Druckquelle.h>
 
 class QComboBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QSpinBox;
 
 namespace tavorena {
 
-inline constexpr int GrafDruckhilfe = 3120;  ///< help number
+class Blattansicht;
 
-/// A sheet of a job as it will look on paper, or why there is none.
-class Seitenbild final : public QWidget {
- public:
-  explicit Seitenbild(QWidget* Eltern);
-  void Zeigen(const Seitenauftrag& Neuer, const Seitenplan& NeuerPlan, int NeueSeite);
-  void Absagen(const QString& NeuerGrund);
-
- protected:
-  void paintEvent(QPaintEvent* Ereignis) override;
-
- private:
-  Seitenauftrag Auftrag;
-  Seitenplan Plan;
-  QString Grund;
-  int Seite = 0;
-};
-
-/// The command "Drucken ...": what is printed, on which paper, at which scale; with the sheets as they will
-/// be.
+/// Everything that is printed is seen here first: sheets as they will be on paper, which of them are wanted,
+/// and the ways to a printer and to PDF.
 class Druckvorschau final : public QDialog {
  public:
-  explicit Druckvorschau(QWidget* Eltern);
+  Druckvorschau(Druckquelle& Zeigt, QWidget* Eltern);
+  ~Druckvorschau() override;
+
+  /// The preview that is open; nullptr: none.
+  [[nodiscard]] static Druckvorschau* Offene() { return Letzte; }
+  /// Sheets go out: only "Stop" can be used.
+  void Sperren(bool An);
+  /// How far they are.
+  void StandZeigen(const QString& Text);
+  void reject() override;
 
  private:
-  void Vorbelegen();
-  void Anordnen();
+  void FelderAnlegen();
+  void KnöpfeAnlegen();
+  void TastenAnlegen();
   void Auffrischen();
+  void BereichNehmen(const QSpinBox& Geändert);
   void Drucken();
-  void Speichern();
-  [[nodiscard]] Seitenauftrag Auftrag() const;
+  [[nodiscard]] Blattbereich Bereich();
 
-  QComboBox *GrafInhalt, *GrafBlatt, *GrafDrucker;
-  QLineEdit *GrafTitel, *GrafMassstab;
-  QSpinBox* GrafSeite;
-  QLabel* Anzahl;
-  QPushButton *GrafDruck, *GrafPdf;
-  Seitenbild* Bild;
-  Seitenplan Plan;
+  inline static Druckvorschau* Letzte = nullptr;
+  Druckvorschau* Davor;
+  Druckquelle& Quelle;
+  Blattansicht* Bild;
+  QWidget* Felder;
+  QComboBox* Druckerliste;
+  QSpinBox *Blatt, *Von, *Bis;
+  QLabel *Anzahl, *Stand;
+  QPushButton *Druck, *Pdf, *Zu, *Stop;
+  int Bisherige = 0;  // sheets
 };
 
 }  // namespace tavorena

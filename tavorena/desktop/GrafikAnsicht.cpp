@@ -21,6 +21,7 @@
 #include <tavorena/desktop/Druckvorschau.h>
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/GrafikAnsicht.h>
+#include <tavorena/desktop/Grafikdruck.h>
 #include <tavorena/desktop/Malflaeche.h>
 #include <tavorena/graphics/GrafDesign.h>
 #include <tavorena/graphics/Grafikfenster.h>
@@ -332,7 +333,11 @@ void GrafikAnsicht::BefehleAnlegen() {
   Befehl(*Zeichenleiste, "GrafDXFLesen", "DXF lesen ...", "DXF ←", GrafDXFLesen, GrafDXFHilfe);
   Befehl(*Zeichenleiste, "GrafAnsichtSpeichern", "Ansicht speichern ...", "Speichern", AnsichtSpeichern);
   Befehl(
-      *Zeichenleiste, "GrafDrucken", "Drucken ...", "Drucken", [this] { Druckvorschau(window()).exec(); },
+      *Zeichenleiste, "GrafDrucken", "Drucken ...", "Drucken",
+      [this] {
+        Grafikdruck Was;
+        Druckvorschau(Was, window()).exec();
+      },
       GrafDruckhilfe);
 }
 

@@ -427,6 +427,15 @@ void Hauptfenster::BlattStellen(QMdiSubWindow& Neues, QSize Wunsch) {
   }
 }
 
+bool Hauptfenster::BlattSchließt() const {
+  const auto Alle = findChildren<QWidget*>();
+  return std::any_of(Alle.begin(), Alle.end(), [](const QWidget* W) {
+    const auto* Ansicht = dynamic_cast<const FormularAnsicht*>(W);
+    return Ansicht != nullptr && Ansicht->Form() != nullptr && Ansicht->Form()->InArbeit() &&
+           !Ansicht->Form()->Offen();
+  });
+}
+
 void Hauptfenster::StatusSetzen(Statusfeld Feld, const QString& Text) {
   Statusfelder.at(Feld)->setText(Text);
 }

@@ -38,6 +38,8 @@ class Hauptfenster final : public QMainWindow {
   void BlattZeigen(Formular& Form);
   /// Shows a form beside the worksheets, at the side of the window, where it leaves them the focus.
   void NebenherZeigen(Formular& Form);
+  /// A form is on its way out: what it asks now comes by itself.
+  [[nodiscard]] bool BlattSchließt() const;
   void StatusSetzen(Statusfeld Feld, const QString& Text);
   /// Shows the lines of the protocol when a burst of them is over.
   void ProtokollSpäterZeigen() {

@@ -12,7 +12,6 @@ namespace tavorena {
 namespace {
 
 constexpr int Weiß = 0xFFFFFF;
-constexpr double Auflösung = 96;      // units of the painter to an inch
 constexpr double Strichbreite = 1.2;  // units of the painter
 
 double Einheit(double Twips) { return Twips / TwipsJePixel; }
@@ -70,7 +69,7 @@ void Malfläche::Text(double x, double y, std::string_view Inhalt, int Schriftgr
   StiftSetzen(Farbe, Strich::Durchgezogen);
   if (Schriftgrad != LetzterGrad) {
     QFont Schrift = Zahlenschrift();
-    Schrift.setPointSizeF(Schriftgrad * Auflösung / Maler.device()->logicalDpiY());
+    Schrift.setPointSizeF(static_cast<double>(Schriftgrad) * Auflösung / Maler.device()->logicalDpiY());
     Maler.setFont(Schrift);
     LetzterGrad = Schriftgrad;
     const QFontMetricsF Maß = Maler.fontMetrics();

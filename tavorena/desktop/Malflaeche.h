@@ -9,6 +9,8 @@ class QPainter;
 
 namespace tavorena {
 
+inline constexpr int Auflösung = 96;  ///< units of a painter to an inch, on every device
+
 /// Draws the graphics view with a painter, on a screen, on paper or into a file: 15 twips are a unit of the
 /// painter.
 class Malfläche final : public Zeichenfläche {

@@ -28,6 +28,7 @@
 #include <tavorena/core/Datei.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Dialogvorrang.h>
+#include <tavorena/desktop/Druckvorschau.h>
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
@@ -35,6 +36,7 @@
 #include <tavorena/desktop/LeitungQt.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/desktop/Tastensperre.h>
+#include <tavorena/desktop/Textdruck.h>
 #include <tavorena/graphics/Abgriff.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/shell/TVKernMDIForm.h>
@@ -210,7 +212,7 @@ int PlattformQt::Meldung(const std::string& Text, Knöpfe Art, const std::string
   Kasten.setWindowModality(Qt::WindowModal);
   Kasten.setTextInteractionFlags(Qt::TextSelectableByMouse);
   Kasten.setTextFormat(Qt::PlainText);
-  if (FormularAnsicht::LiestEingabe()) new Tastensperre(Kasten);
+  if (FormularAnsicht::LiestEingabe() || Fenster.BlattSchließt()) new Tastensperre(Kasten);
   if (Art == Knöpfe::OK) {
     Kasten.addButton("&OK", QMessageBox::AcceptRole);
     Kasten.exec();
@@ -300,10 +302,19 @@ void PlattformQt::Beschäftigt(bool An) {
     QApplication::restoreOverrideCursor();
   }
   Fenster.Sperren(An);
+  if (auto* Vorschau = Druckvorschau::Offene()) Vorschau->Sperren(An);
+}
+
+int PlattformQt::Drucken(const Druckseiten& Seiten, const std::string& Titel, const std::string& Vorschlag) {
+  Textdruck Was(Seiten, Titel, Vorschlag);
+  return Druckvorschau(Was, Davor(Fenster)).exec() == QDialog::Accepted ? 0 : -1;
 }
 
 void PlattformQt::StatusSetzen(Statusfeld Feld, const std::string& Text) {
   Fenster.StatusSetzen(Feld, Q(Text));
+  // The status bar may lie behind it.
+  auto* Vorschau = Druckvorschau::Offene();
+  if (Vorschau != nullptr && Feld == Statusfeld::StatusHilfe) Vorschau->StandZeigen(Q(Text));
 }
 void PlattformQt::FenstertitelSetzen(const std::string& Titel) { Fenster.setWindowTitle(Q(Titel)); }
 void PlattformQt::HauptfensterGeändert() { Fenster.Auffrischen(); }

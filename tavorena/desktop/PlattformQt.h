@@ -38,6 +38,7 @@ class PlattformQt : public Rückfragen,
   std::string Heimordner() override;
   std::string Dokumentordner() override;
   std::unique_ptr<Leitung> LeitungÖffnen(const std::string& Gerät, const std::string& Einstellungen) override;
+  int Drucken(const Druckseiten& Seiten, const std::string& Titel, const std::string& Vorschlag) override;
   void ProgrammBeenden() override;
   bool StapelHält() override { return true; }
 

@@ -38,7 +38,9 @@ Zeichensatz ZeichensatzGewählt(const Dateiauftrag& Auftrag) {
 
 std::string DateiFragen(const std::string& Titel, const std::string& Filter, const std::string& Vorgabe,
                         bool Schreiben, bool* Anhängen, Zeichensatz* Satz) {
-  Dateiauftrag Auftrag{Titel, Filter, Startordner(), Vorgabe, !Schreiben, "", false};
+  const std::string Bei = DateinameZerlegen(Vorgabe).Ordner;
+  Dateiauftrag Auftrag{
+      Titel, Filter, Bei.empty() ? Startordner() : Bei, Vorgabe.substr(Bei.size()), !Schreiben, "", false};
   if (Satz != nullptr) ZeichensatzAnbieten(Auftrag);
   std::string Name = FragenPort().DateiWählen(Auftrag);
   if (Name.empty()) return "";

@@ -25,6 +25,7 @@ void ZeichensatzAnbieten(Dateiauftrag& Auftrag);
 
 /// Asks for a file, and keeps its folder for the next dialog. With Schreiben the ending is added where it was
 /// not typed, and a file that is there is asked about.
+/// @param[in] Vorgabe  name or pattern to start with; one with a folder starts there
 /// @param[out] Anhängen  the file is there and is to be extended; left out: it is only replaced
 /// @param[out] Satz      of an export: the code page
 /// @return its name; "" if cancelled

@@ -586,7 +586,7 @@ class FensterTest final : public Fensterumgebung {
     // Printed by the keyboard, on as many sheets as the scale asks for.
     Dialoge.push_back([this] {
       QWidget* Vorschau = QApplication::activeModalWidget();
-      auto* Blätter = Vorschau->findChild<QSpinBox*>("GrafSeite");
+      auto* Blätter = Vorschau->findChild<QSpinBox*>("DruckSeite");
       QVERIFY(!Blätter->isEnabled());
       QTest::keyClick(Vorschau, Qt::Key_M, Qt::AltModifier);
       Tippe("250");
@@ -594,11 +594,13 @@ class FensterTest final : public Fensterumgebung {
       const QImage Erste = Vorschau->findChild<QWidget*>("Seitenbild")->grab().toImage();
       QTest::keyClick(Blätter, Qt::Key_Up);
       QVERIFY(Vorschau->findChild<QWidget*>("Seitenbild")->grab().toImage() != Erste);
+      QTest::keyClick(Vorschau, Qt::Key_V, Qt::AltModifier);
+      Tippe("3");
       Wähle(Pfad("plan.pdf"));
       QTest::keyClick(Vorschau, Qt::Key_P, Qt::AltModifier);
     });
     Fenster->findChild<QAction*>("GrafDrucken")->trigger();
-    QVERIFY(Inhalt(Pfad("plan.pdf")).contains("/Count 8"));
+    QVERIFY(Inhalt(Pfad("plan.pdf")).contains("/Count 6"));
     // A point that comes is seen, closing the file closes the view.
     const QImage Ohne = Bild->grab().toImage();
     QCOMPARE(KorZeileSetzen(0, {"1001", 3500120, 5600260, 0, "", nullptr}), 0);

@@ -39,7 +39,8 @@ class Testplattform final : public PlattformQt {
   Zeitpunkt Jetzt() override { return {2003, 2, 1, 10, 15}; }
   double Zeitgeber() override { return Sekunden += 1; }
   void EreignisseAbarbeiten() override {
-    if (StopDrücken) QTest::keyClick(&Fenster, Qt::Key_Escape);
+    QWidget* Vorn = VordererDialog();
+    if (StopDrücken) QTest::keyClick(Vorn != nullptr ? Vorn : &Fenster, Qt::Key_Escape);
     PlattformQt::EreignisseAbarbeiten();
   }
   void GrafikAnsehen() override {
@@ -116,6 +117,12 @@ class Fensterumgebung : public QObject {
   QPointer<QWidget> Bedient;
 
   QString Pfad(const char* Name) const { return Ordner.filePath(Name); }
+  // The lines of a PDF as a reader of somebody else finds them.
+  QString PdfText(const char* Name) const {
+    QProcess Zeuge;
+    Zeuge.start("pdftotext", {"-layout", Pfad(Name), "-"});
+    return Zeuge.waitForFinished() ? QString::fromUtf8(Zeuge.readAllStandardOutput()) : QString();
+  }
   void Menü(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
 
   // Chooses a file in the file dialog by typing its name.

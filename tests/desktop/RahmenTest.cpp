@@ -4,6 +4,11 @@
 
 #include <ctime>
 
+#include <QPdfWriter>
+
+#include <tavorena/desktop/Textdruck.h>
+#include <tavorena/records/Seiten.h>
+
 #ifndef Q_MOC_RUN  // it stumbles over umlauts in an enumeration
 #include <tavorena/rawdata/TVTheoForm.h>
 #endif
@@ -270,6 +275,100 @@ class RahmenTest final : public Fensterumgebung {
     Antworte(Qt::Key_J);
     Antworte(Qt::Key_N);
     QVERIFY(Fenster->close());
+  }
+
+  // The question comes by itself: a Return that was typed ahead does not answer it, nor press a button.
+  void berechnungWirdGedruckt() {
+    Öffne("MenüKatasterLinel");
+    Optionen.AbfrageDruck = true;
+    Tippe("1001\n1002\n0\n0\n2003\n");
+    Dialoge.push_back([] {
+      auto* Frage = qobject_cast<QMessageBox*>(VordererDialog());
+      QVERIFY(Frage != nullptr && Frage->text() == "Berechnung drucken ?");
+      QTest::keyClick(Frage, Qt::Key_J, Qt::AltModifier);
+    });
+    Dialoge.push_back([] {
+      QCOMPARE(VordererDialog()->windowTitle(), QString("a.dru drucken"));
+      Tippe("\n\n");
+      QTest::keyClick(VordererDialog(), Qt::Key_P, Qt::AltModifier);
+    });
+    Dialoge.push_back([] {
+      auto* Name = QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit");
+      QCOMPARE(Name->text(), QString("a-Linel.pdf"));
+      QTest::keyClick(Name, Qt::Key_Return);
+    });
+    const auto Schließen = [] { Drücke(Qt::Key_S, Qt::AltModifier); };
+    QMetaObject::invokeMethod(qApp, Schließen, Qt::QueuedConnection);
+    TippeVoraus("\n\n");
+    QTRY_VERIFY(Fenster->findChild<QMdiSubWindow*>() == nullptr);
+    QVERIFY(PdfText("a-Linel.pdf").contains("|VR 24.40  Linienelemente "));
+    QVERIFY(PdfText("a-Linel.pdf").contains("3500130.000  5600230.000       42.000        6.000      2003"));
+  }
+
+  // Four pages, led through by the keys; two of them go out, the same lines on paper and as PDF.
+  void vorschauMitDerTastatur() {
+    QByteArray Lang;
+    for (int i = 1; i <= 200; ++i) Lang += "Zeile " + QByteArray::number(i) + " ╔═╗ Straße 12 m²\r\n";
+    Schreibe(Pfad("lang.txt"), Lang);
+    const QString Pdf = Pfad("aus.pdf");
+    Wähle(Pfad("lang.txt"));
+    Dialoge.push_back([this] {
+      QWidget* Vorschau = VordererDialog();
+      const auto* Seite = Vorschau->findChild<QSpinBox*>("DruckSeite");
+      auto* Bild = Vorschau->findChild<QAbstractScrollArea*>("Seitenbild");
+      const QScrollBar* Balken = Bild->verticalScrollBar();
+      const auto* Druck = Vorschau->findChild<QPushButton*>("DruckDrucken");
+      QCOMPARE(Druck->isEnabled(), Druck->toolTip() != "kein Drucker eingerichtet");
+      QCOMPARE(Seite->maximum(), 4);
+      QVERIFY(Bild->hasFocus());
+      Drücke(Qt::Key_PageDown);
+      QVERIFY(Seite->value() == 1 && Balken->value() > 0);  // the lower half of the page is read too
+      for (int i = 0; i < 3 && Seite->value() == 1; ++i) Drücke(Qt::Key_PageDown);
+      QCOMPARE(Seite->value(), 2);
+      Drücke(Qt::Key_PageUp);
+      QVERIFY(Seite->value() == 1 && Balken->value() > 0);
+      Drücke(Qt::Key_End);
+      QVERIFY(Seite->value() == 4 && Balken->value() == Balken->maximum());
+      Drücke(Qt::Key_Home);
+      QVERIFY(Seite->value() == 1 && Balken->value() == 0);
+      Drücke(Qt::Key_Down);
+      QCOMPARE(Balken->value(), Balken->singleStep());
+      const int Bisher = Balken->maximum();
+      Drücke(Qt::Key_Plus, Qt::ControlModifier);
+      QVERIFY(Balken->maximum() > Bisher);
+      Drücke(Qt::Key_Minus, Qt::ControlModifier);
+      Drücke(Qt::Key_Minus, Qt::ControlModifier);
+      QVERIFY(Balken->maximum() < Bisher);
+      Drücke(Qt::Key_0, Qt::ControlModifier);
+      QCOMPARE(Balken->maximum(), Bisher);
+      QTest::keyClick(Vorschau, Qt::Key_V, Qt::AltModifier);
+      Tippe("3");
+      Plattform->StopDrücken = true;
+      QTest::keyClick(Vorschau, Qt::Key_P, Qt::AltModifier);
+    });
+    Wähle(Pdf);
+    Dialoge.push_back([=, this] {
+      QVERIFY(!QFile::exists(Pdf));
+      Plattform->StopDrücken = false;
+      QTest::keyClick(VordererDialog(), Qt::Key_P, Qt::AltModifier);
+    });
+    Wähle(Pdf);
+    Menü("MenüDateiDrucken(20)");
+    const QString Text = PdfText("aus.pdf");
+    QVERIFY(Text.contains("Zeile 121 ╔═╗ Straße 12 m²\n") && Text.contains("Zeile 200 "));
+    QVERIFY(!Text.contains("Zeile 120 "));
+
+    Druckseiten Seiten;
+    QCOMPARE(DruckdateiLesen(Pfad("lang.txt").toStdString(), Seiten), 0);
+    const Textdruck Was(Seiten, "lang.txt", "");
+    QPdfWriter Papier(Pfad("papier.pdf"));
+    Papier.setPageLayout(Was.Papier());
+    const auto Zeichnen = [&](QPainter& Maler, int Blatt) { Was.Zeichnen(Maler, Blatt); };
+    QCOMPARE(BlätterMalen(Papier, {2, 3}, Zeichnen), 0);
+    QCOMPARE(PdfText("papier.pdf"), Text);
+    Plattform->StopDrücken = true;
+    QPdfWriter Angehalten(Pfad("halt.pdf"));
+    QCOMPARE(BlätterMalen(Angehalten, {0, 3}, Zeichnen), -2);
   }
 
   void musterWaehltDenFilter() {

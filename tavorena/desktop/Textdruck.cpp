@@ -1,0 +1,48 @@
+#include <QPageSize>
+#include <QPainter>
+
+#include <tavorena/core/TVDialog.h>
+#include <tavorena/desktop/Malflaeche.h>
+#include <tavorena/desktop/Textdruck.h>
+#include <tavorena/exchange/Pdf.h>
+#include <tavorena/forms/Dateifrage.h>
+
+namespace tavorena {
+namespace {
+
+constexpr double Punkt = Auflösung / 72.0;  // units of the painter
+
+}  // namespace
+
+QPageLayout Textdruck::Papier() const {
+  return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()};
+}
+
+void Textdruck::Zeichnen(QPainter& Maler, int Blatt) const {
+  QFont Schrift(Druckschrift);
+  Schrift.setStyleHint(QFont::TypeWriter);
+  Schrift.setPointSizeF(Seiten.Schrift * Auflösung / Maler.device()->logicalDpiY());
+  // Widths as in the font: rounded to the pixels of a screen a long line would leave its sheet.
+  Schrift.setHintingPreference(QFont::PreferNoHinting);
+  Maler.setFont(Schrift);
+  Maler.setPen(Qt::black);
+  QPointF Stelle(Randzeichen * Zeichenbreite * Seiten.Schrift * Punkt, ErsteGrundlinie * Punkt);
+  for (const std::string& Zeile : Seiten.Seiten[static_cast<std::size_t>(Blatt)]) {
+    Maler.drawText(Stelle, QString::fromStdString(Zeile));
+    Stelle.ry() += Zeilenabstand * Punkt;
+  }
+}
+
+int Textdruck::AlsPdf(Blattbereich Welche) const {
+  const std::string Datei = DateiFragen("Als PDF speichern", "PDF (*.pdf)|*.pdf", Vorschlag, true);
+  if (Datei.empty()) return -1;
+  const auto Erste = Seiten.Seiten.begin() + Welche.Von;
+  const Druckseiten Teil{Seiten.Schrift, {Erste, Erste + Welche.Anzahl()}};
+  std::string Grund;
+  const int Ergebnis = PdfSchreiben(Datei, Teil, Name, &Grund);
+  if (Ergebnis == -1) SpeicherfehlerMelden(Datei, Grund, "Druckvorschau.Pdf");
+  StatusHilfeSetzen(Ergebnis == 0 ? "Gespeichert: " + Datei : "");
+  return Ergebnis == 0 ? 0 : -1;
+}
+
+}  // namespace tavorena
