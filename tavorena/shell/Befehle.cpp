@@ -18,6 +18,7 @@
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Druckbefehle.h>
 #include <tavorena/shell/Edbsbefehle.h>
 #include <tavorena/shell/Epochenbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
@@ -224,13 +225,10 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   // Besides the commands of the tables each kind of worksheet has one.
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
-    for (const Befehl& A : Austauschbefehle()) B.push_back(A);
-    for (const Befehl& E : Edbsbefehle()) B.push_back(E);
-    for (const Befehl& E : Epochenbefehle()) B.push_back(E);
-    for (const Befehl& N : Nivbefehle()) B.push_back(N);
-    for (const Befehl& P : Punktbefehle()) B.push_back(P);
-    for (const Befehl& R : Rohdatenbefehle()) B.push_back(R);
-    for (const Befehl& U : Umrechenbefehle()) B.push_back(U);
+    for (const std::span<const Befehl> Tafel :
+         {Austauschbefehle(), Druckbefehle(), Edbsbefehle(), Epochenbefehle(), Nivbefehle(), Punktbefehle(),
+          Rohdatenbefehle(), Umrechenbefehle()})
+      B.insert(B.end(), Tafel.begin(), Tafel.end());
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {
         if (Menü != nullptr && *Menü != '\0') B.push_back({Menü, true, [&Art] { BlattÖffnen(Art); }});

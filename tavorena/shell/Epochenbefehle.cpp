@@ -12,6 +12,7 @@
 #include <tavorena/rawdata/Gesamtdatei.h>
 #include <tavorena/records/Protokoll.h>
 #include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Druckbefehle.h>
 #include <tavorena/shell/Epochenbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
 
@@ -89,7 +90,7 @@ void Drucken(bool MitLage) {
   const std::string Datei = DateiFragen(Messungstitel(MitLage), FilterGes, "*.ges", false);
   if (Datei.empty()) return;
   const std::string Ziel = EpochenlisteName(Datei);
-  if (EpochenlisteErzeugen(Datei, Ziel) == 0) Ansehen(Ziel);
+  if (EpochenlisteErzeugen(Datei, Ziel) == 0) DateiDrucken(Ziel);
 }
 
 void ParameterZeigen(bool MitLage) {

@@ -89,6 +89,11 @@ class PlattformSkript final : public Rückfragen,
     Gestartet = {Programm, Datei};
     return 0;
   }
+  int Drucken(const Druckseiten& Seiten, const std::string& Name, const std::string& Vorschlag) override {
+    Gedruckt = {Name, Vorschlag};
+    for (const auto& S : Seiten.Seiten) Gedruckt.insert(Gedruckt.end(), S.begin(), S.end());
+    return 0;
+  }
 
   /// A question to come: piece of its text and the button that answers it.
   void Erwarte(const std::string& Stück, int Antwort = 1) { Offen.emplace_back(Stück, Antwort); }
@@ -106,6 +111,7 @@ class PlattformSkript final : public Rückfragen,
   std::vector<Dateiauftrag> Aufträge;
   std::string Fenstertitel, Programmordner;
   std::vector<std::string> Gestartet;  ///< a program and its file
+  std::vector<std::string> Gedruckt;   ///< title, proposed name, the lines
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
   bool Hält = false;
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
