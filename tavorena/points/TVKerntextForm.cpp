@@ -15,6 +15,7 @@
 #include <tavorena/points/Punktverwaltung.h>
 #include <tavorena/points/Satzsuche.h>
 #include <tavorena/points/TVKerntextForm.h>
+#include <tavorena/records/Seiten.h>
 
 namespace tavorena {
 namespace {
@@ -92,7 +93,8 @@ TVKerntextForm::TVKerntextForm(const Textauftrag& Was) : Punktform("TVKerntextFo
     Rückgängig = &RückgängigAnlegen("TextanzeigeRückgängig", {0, 3});
   }
   KnopfAnlegen("MenüSpeichern", "Liste &speichern ...", [this] { MenüSpeichern_Click(); }, {0, 4});
-  KnopfAnlegen("TextanzeigeSchließen", "S&chließen", [this] { SchließenVerlangen(); }, {0, 5});
+  KnopfAnlegen("TextanzeigeDrucken", "Drucke&n ...", [this] { Drucken(); }, {0, 5});
+  KnopfAnlegen("TextanzeigeSchließen", "S&chließen", [this] { SchließenVerlangen(); }, {0, 6});
   PlustextSetzeArttext();
   Auflisten();
 }
@@ -286,6 +288,13 @@ void TVKerntextForm::MenüSpeichern_Click() {
   if (DateiErsetzen(Name, Textseiten(Liste), &Grund) < 0)
     return SpeicherfehlerMelden(Name, Grund, "KerntextForm.Speichern");
   StatusHilfeSetzen("Gespeichert: " + Name);
+}
+
+void TVKerntextForm::Drucken() {
+  Nachführen();
+  const Dateiname Teile = DateinameZerlegen(KoordinatendateiName);
+  static_cast<void>(DruckwerkPort().Drucken(SeitenTeilen(Textseiten(Liste)), *Titel,
+                                            Teile.Ordner + Teile.Grundname + "-liste.pdf"));
 }
 
 // ---- opening ---------------------------------------------------------------------------------------

@@ -26,6 +26,8 @@ class TVKerntextForm final : public Punktform {
   void PlustextPunktlöschen();
   /// Gives them one number, which is asked for.
   void PlustextPunktegleichePnr();
+  /// Shows the list as it is saved on its pages, to be printed.
+  void Drucken();
   /// Saves the list as a text.
   void MenüSpeichern_Click();
 

@@ -145,6 +145,12 @@ TEST_F(TVKerntextFormTest, Speichern) {
   EXPECT_TRUE(GleichSoll(Inhalt(Ordner.Pfad("liste.txt")), "points/soll/quasi.txt"));
   Skript.Erwarte("Fehler 76 in KerntextForm.Speichern");
   Drücke(*Form, "MenüSpeichern");
+  Drücke(*Form, "TextanzeigeDrucken");
+  const std::vector<std::string>& Gedruckt = Skript.Gedruckt;
+  ASSERT_GT(Gedruckt.size(), 5U);
+  EXPECT_TRUE(Gleich(Gedruckt[0], "Ansicht quasiidentischer Punkte", Gedruckt[1], "a-liste.pdf"));
+  std::string Text = Inhalt(Ordner.Pfad("liste.txt"));
+  for (std::size_t i = 2; i < Gedruckt.size(); ++i) EXPECT_NE(Text.find(Gedruckt[i]), std::string::npos);
 }
 
 TEST_F(TVKerntextFormTest, NichtsZuZeigen) {
