@@ -23,12 +23,6 @@ class TVOptionenform final : public Formular {
     Titel = "Tavorena Optionen";
     Hilfenummer = 8020;
     OkUndAbbruch([this] { Übernehmen(); }, "OptEnd", "OptAbbruch");
-    for (Steuerelement* S :
-         std::initializer_list<Steuerelement*>{&OptWarnstufe, &OptAbfrDruck, &OptGKRed, &OptFStatAnschluss,
-                                               &OptVorgabeRechts, &OptVorgabeHoch, &OptEDBSInfo}) {
-      S->Aktiv = false;  // its value stays as it is in the file
-      S->Tipp = "noch ohne Wirkung: die Berechnung, die danach fragt, ist noch nicht vorhanden";
-    }
   }
 
  protected:

@@ -1,9 +1,13 @@
 #include <tavorena/core/Atempause.h>
+#include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/TVWertdialog.h>
+#include <tavorena/records/Protokoll.h>
+#include <tavorena/records/Seiten.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/worksheets/Rechenblatt.h>
 
@@ -196,6 +200,17 @@ void Rechenblatt::BeiSchließen() {
   // A block that can not be ended was told; the worksheet closes all the same.
   static_cast<void>(Akten.Beenden());
   GrafikLöschen();
+  if (!VomStapel && Optionen.AbfrageDruck) DruckFragen();
+}
+
+// What it wrote goes with it, and can be printed before.
+void Rechenblatt::DruckFragen() {
+  const std::string Text = Akten.Drucktext();
+  if (Text.empty() || FrageJaNein("Berechnung drucken ?") != KnopfJa) return;
+  const std::string Name = Prot.Datei.empty() ? KoordinatendateiName : Prot.Datei;
+  const Dateiname Teile = DateinameZerlegen(Name);
+  static_cast<void>(DruckwerkPort().Drucken(SeitenTeilen(Text), Name.substr(Teile.Ordner.size()),
+                                            Teile.Ordner + Teile.Grundname + "-" + Art.Präfix + ".pdf"));
 }
 
 }  // namespace tavorena

@@ -58,6 +58,7 @@ class Rechenblatt : public Formular {
   void StapelZeilenRechnen();
   void StapelBlattEnde();
   void RissFragen();
+  void DruckFragen();
   void RissZeigen();
 
   const Blattart& Art;

@@ -48,6 +48,39 @@ TEST_F(BlattTest, LinienelementeSchreibenIhreDateien) {
   EXPECT_EQ(*Blätter.back()->Titel, "Tavorena Linienelemente [Stapel]");
 }
 
+// A worksheet that wrote something, and only such a one, asks when it goes; what it wrote is printed.
+TEST_F(BlattTest, DruckfrageBeimSchließen) {
+  Optionen.AbfrageDruck = true;
+  Verbinde("24.40")->SchließenVerlangen();
+  const auto Rechne = [this](int Antwort) {
+    auto B = Verbinde("24.40");
+    Tippe(*B, "LinelGitter", "2003\n");
+    if (Antwort != 0) Skript.Erwarte("Berechnung drucken ?", Antwort);
+    Antwort == KnopfJa ? B->Schließen() : B->SchließenVerlangen();
+    EXPECT_FALSE(B->Offen());
+  };
+  Rechne(KnopfNein);
+  EXPECT_EQ(Skript.Gedruckt, Texte{});
+  const std::string Bisher = Protokoll();
+  Rechne(KnopfJa);
+  const Texte& Druck = Skript.Gedruckt;
+  ASSERT_GT(Druck.size(), 9U);
+  EXPECT_TRUE(Gleich(Druck[0], "a.dru", Druck[1], Ordner.Pfad("a-Linel.pdf")));
+  std::string Text;
+  for (std::size_t i = 2; i < Druck.size(); ++i) Text += Druck[i] + "\r\n";
+  EXPECT_TRUE(Text.ends_with(Protokoll().substr(Bisher.size())));
+  EXPECT_NE(Text.find("|VR 24.40  Linienelemente "), std::string::npos);
+  Skript.Gedruckt.clear();
+  EXPECT_NE(Nachlauf(), "");
+  Blätter.clear();
+  ProtokollNehmen("");
+  Rechne(0);
+  Optionen.AbfrageDruck = false;
+  ProtokollNehmen(Ordner.Pfad("b.dru"));
+  Rechne(0);
+  EXPECT_EQ(Skript.Gedruckt, Texte{});
+}
+
 TEST_F(BlattTest, PolarelementeSchreibenIhreDateien) {
   auto B = Öffne("08.40");
   Tippe(*B, "PolelAnfPnr", "1001\n1002\n12,5\n99.98\n2003\n2004\n");
