@@ -38,6 +38,10 @@ void FStatMitteln::Drücken() {
 bool FStatMitteln::FStatDoppelteMessung(const std::vector<Kleinpunkteingabe>& Neue) {
   Kleinpunktgitter& G = Form.Kleinpunkte();
   if (!G.Lesen()) return false;
+  if (Läuft()) {  // a third one in its place would take the first rows away
+    StatusHilfeSetzen("Erst die Messungen mitteln");
+    return false;
+  }
   if (G.Zeilen().size() > MessmittelGrenze || Neue.size() > MessmittelGrenze) {
     Hinweis("Zu viele Messungen !");
     return false;

@@ -20,7 +20,8 @@ class FStatMitteln final : public Messliste {
   Knopf& KnopfMitteln;
 
   /// A second measurement begins: the rows go aside, and Neue stand in their place.
-  /// @return false with a message: there are too many rows, nothing has changed
+  /// @return false with a reason: there are too many rows, or the one before is not averaged yet; nothing has
+  ///         changed
   bool FStatDoppelteMessung(const std::vector<Kleinpunkteingabe>& Neue);
   /// The rows of a second measurement stand in the grid.
   [[nodiscard]] bool Läuft() const;

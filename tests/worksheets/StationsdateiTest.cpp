@@ -128,6 +128,9 @@ TEST_F(Stationsdatei, ZweiteMessungBleibt) {
   Drücke(*B, "FStatMitteln");
   EXPECT_TRUE(Gleich(Polar.Inhalt(0, 1), "35.2217", Polar.Inhalt(2, 1), "35.2317"));
   AusDatei(*B, false);
+  LaufendeMessdatei.Nächste = 1;
+  AusDatei(*B, false);  // a third one does not come before the second is averaged
+  EXPECT_EQ(LaufendeMessdatei.Nächste, 1U);
   Drücke(*B, "FstatBerechnen");
   EXPECT_TRUE(Gleich(Polar.Zeilen(), 6, Polar.Inhalt(1, 3), "53.4062", Polar.Inhalt(3, 3), "53.4162",
                      Polar.Inhalt(4, 0), "3012"));
