@@ -29,7 +29,9 @@ void Lauf(Eingabe E) {
   Prüfen(GesamtdateiAusText(Text, Wieder, Fehler) == 0 && GleicheMenge(G, Wieder) &&
              GesamtdateiText(Wieder) == Text,
          "Geschriebenes wird wieder gelesen");
-  for (const auto& Absatz : Epochenzeilen(G, P)) {
+  std::vector<std::vector<std::string>> Absätze;
+  Prüfen(Epochenzeilen(G, P, Absätze) == 0, "niemand hält an");
+  for (const auto& Absatz : Absätze) {
     for (const std::string& Zeile : Absatz)
       Prüfen(Zeile.find('\n') == std::string::npos, "eine Zeile ist eine Zeile");
   }
