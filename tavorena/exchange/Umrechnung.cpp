@@ -252,7 +252,7 @@ int DateiUmrechnen(const std::string& Ein, const std::string& Aus, const Umrechn
   }
   std::string Text, Neu, Grund;
   if (TextdateiLesen(Ein, Text, &Grund) < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Ein + InKlammern(Grund));
+    LesefehlerMelden(Ein, Grund);
     return -1;
   }
   // A code 0 stands in no text.
@@ -264,7 +264,7 @@ int DateiUmrechnen(const std::string& Ein, const std::string& Aus, const Umrechn
       !VerlustErlaubt(Umrechenverlust(U, Bericht)))
     return -1;
   if (DateiErsetzen(Aus, Neu, &Grund) == 0) return 0;
-  Hinweis("Fehler aufgetreten beim Schreiben in\n" + Aus + InKlammern(Grund));
+  SpeicherfehlerMelden(Aus, Grund, "Umrechnung.Schreiben");
   return -1;
 }
 

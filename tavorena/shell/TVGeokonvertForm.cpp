@@ -211,7 +211,7 @@ void TVGeokonvertForm::Übernehmen() {
   if (VerschiedeneBezugssysteme(Neu.Was)) return FehlerMeldung(Bezugssystemtext());
   if (Neu.Ein.empty()) return FokusSetzen(*Ein);
   if (!DateiVorhanden(Neu.Ein)) {
-    Hinweis("Datei nicht gefunden:\n" + Neu.Ein);
+    LesefehlerMelden(Neu.Ein, "");
     return FokusSetzen(*Ein);
   }
   if (Neu.Aus.empty()) return FokusSetzen(*Aus);
