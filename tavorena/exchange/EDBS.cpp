@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
@@ -34,13 +35,22 @@ constexpr std::pair<std::string_view, char> Klassen[] = {{"01", '1'}, {"02", '2'
 bool IstZiffer(char c) { return c >= '0' && c <= '9'; }
 bool NurZiffern(std::string_view Text) { return std::all_of(Text.begin(), Text.end(), IstZiffer); }
 
+// Each character of a text is one byte.
+bool EinByteJeZeichen(std::string_view Text) {
+  std::uint64_t Oben = 0, Acht = 0;
+  std::size_t i = 0;
+  for (; i + sizeof Acht <= Text.size(); i += sizeof Acht) {
+    std::memcpy(&Acht, Text.data() + i, sizeof Acht);
+    Oben |= Acht;
+  }
+  for (; i < Text.size(); ++i) Oben |= static_cast<unsigned char>(Text[i]);
+  return (Oben & 0x8080808080808080U) == 0;
+}
+
 // The columns of a line, counted from 1.
 class Spalten {
  public:
-  explicit Spalten(std::string_view Z)
-      : Zeile(Z), EinByte(std::none_of(Z.begin(), Z.end(), [](char c) {
-          return static_cast<unsigned char>(c) >= 0x80U;
-        })) {}
+  explicit Spalten(std::string_view Z) : Zeile(Z), EinByte(EinByteJeZeichen(Z)) {}
   [[nodiscard]] std::size_t Anzahl() const { return EinByte ? Zeile.size() : ZeichenAnzahl(Zeile); }
   [[nodiscard]] std::string_view Teil(std::size_t Von, std::size_t Bis) const {
     if (!EinByte) return TextTeil(Zeile, Von - 1, Bis - Von + 1);
@@ -49,18 +59,40 @@ class Spalten {
 
  private:
   std::string_view Zeile;
-  bool EinByte;  // each character is one byte
+  bool EinByte;
 };
 
 std::string_view OhneLeerzeichenHinten(std::string_view Zeile) {
   return Zeile.substr(0, Zeile.find_last_not_of(' ') + 1);  // npos + 1 is 0
 }
 
+// What nearly every column holds: digits alone. @return -1: anything else
+double NurGanzzahl(std::string_view Feld) {
+  if (Feld.empty() || Feld.size() > 15) return -1;
+  std::int64_t Zahl = 0;
+  for (const char z : Feld) {
+    if (!IstZiffer(z)) return -1;
+    Zahl = Zahl * 10 + (z - '0');
+  }
+  return static_cast<double>(Zahl);
+}
+
+double Ganzzahl(std::string_view Feld) {
+  const double Zahl = NurGanzzahl(Feld.substr(Feld.starts_with('+') ? 1 : 0));
+  return Zahl >= 0 ? Zahl : ZahlAusText(Feld);
+}
+
+std::int16_t Kurzzahl(std::string_view Feld) {
+  const double Zahl = Feld.size() < 5 ? NurGanzzahl(Feld) : -1;
+  return Zahl >= 0 ? static_cast<std::int16_t>(Zahl) : KurzAusText(Feld);
+}
+
 // Millimetres. @return false: there is no number
 bool MillimeterLesen(std::string_view Feld, double& Meter) {
   Feld = TrimmenSicht(Feld);
-  if (!IstZahlwort(Feld)) return false;
-  Meter = ZahlAusText(Feld) / 1000;
+  const double Zahl = NurGanzzahl(Feld);
+  if (Zahl < 0 && !IstZahlwort(Feld)) return false;
+  Meter = (Zahl >= 0 ? Zahl : ZahlAusText(Feld)) / 1000;
   return std::isfinite(Meter);
 }
 
@@ -69,8 +101,8 @@ void HöheLesen(const Spalten& Z, EDBSSatz& S) {
   const std::size_t n = Z.Anzahl();
   const bool Verschoben = n > GanzerSatz && Z.Teil(n - 3, n) == Satzende;
   const std::size_t Bis = Verschoben ? n - 6 : 98;  // last column of the height
-  S.Hoehe = n >= Bis ? ZahlAusText(Z.Teil(93, Bis)) / 1000 : 0;
-  S.Info.ArtHoehenbestimmung = n >= Bis + 2 ? KurzAusText(Z.Teil(Bis + 1, Bis + 2)) : std::int16_t{0};
+  S.Hoehe = n >= Bis ? Ganzzahl(TrimmenSicht(Z.Teil(93, Bis))) / 1000 : 0;
+  S.Info.ArtHoehenbestimmung = n >= Bis + 2 ? Kurzzahl(Z.Teil(Bis + 1, Bis + 2)) : std::int16_t{0};
 }
 
 // Stars are a text that had no room.
@@ -210,11 +242,11 @@ int EDBSSatzLesen(std::string_view Zeile, EDBSSatz& S) {
   S.Pnr = MitKlasse ? S.Kennung : OhneFührendeNullen(Z.Teil(54, 58));
   S.Art = Z.Teil(60, 60);
   S.Symbol = SymbolVon(S.Art);
-  S.Info.Punktart = KurzAusText(S.Symbol);
-  S.Info.Punktstatus = KurzAusText(Z.Teil(61, 61));
-  S.Info.Aktualitaet = KurzAusText(Z.Teil(62, 62));
-  S.Info.Vermarkungsart = KurzAusText(Z.Teil(63, 63));
-  S.Info.BemZurVerm = ZahlAusText(Z.Teil(64, 64));
+  S.Info.Punktart = Kurzzahl(S.Symbol);
+  S.Info.Punktstatus = Kurzzahl(Z.Teil(61, 61));
+  S.Info.Aktualitaet = Kurzzahl(Z.Teil(62, 62));
+  S.Info.Vermarkungsart = Kurzzahl(Z.Teil(63, 63));
+  S.Info.BemZurVerm = Ganzzahl(Z.Teil(64, 64));
   S.Info.Entstehung = Textspalte(Z.Teil(65, 65));
   S.Info.Lagestatus = Textspalte(Z.Teil(66, 68));
   S.Info.Lagegenauigkeit = Textspalte(Z.Teil(69, 69));

@@ -200,6 +200,7 @@ bool Eingabegitter::TasteNehmen(Taste T) {
       return true;
     case Taste::Plus:
     case Taste::Minus:
+    case Taste::F2:
       break;
   }
   return false;

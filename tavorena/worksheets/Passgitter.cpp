@@ -208,6 +208,7 @@ bool Passgitter::TasteNehmen(Taste T) {
       return true;
     case Taste::Plus:
     case Taste::Minus:
+    case Taste::F2:
       break;
   }
   return false;
