@@ -7,9 +7,11 @@
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zeichensatz.h>
+#include <tavorena/exchange/CSV.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/EDBSWandler.h>
 #include <tavorena/exchange/Freiformat.h>
+#include <tavorena/exchange/NAS.h>
 #include <tavorena/shell/Austausch.h>
 
 namespace tavorena {
@@ -105,7 +107,8 @@ std::string Einwand(const Aufruf& A) {
     return "--nachkomma " + Stellen + ": erwartet wird 0 bis 6";
   for (const std::string& Text :
        {Worteinwand(A, "--achsen", {"yx", "xy"}), Worteinwand(A, "--nummer", {"art", "km2", "lfs"}),
-        Nummerneinwand(A), Freieinwände(A)}) {
+        Nummerneinwand(A), Freieinwände(A),
+        std::string(Gegeben(A, "--achsen") && Von != "csv" ? "--achsen gehört zum Format csv" : "")}) {
     if (!Text.empty()) return Text;
   }
   return "";
@@ -115,6 +118,10 @@ std::string Einwand(const Aufruf& A) {
 void Einstellen(const Aufruf& A, const Wandelformat& Von) {
   std::string Grund;
   Koordinatendateiformat = Von.Datei;
+  CsvAchsen = A.Wert("--achsen") == "xy"   ? Csvachsen::XY
+              : A.Wert("--achsen") == "yx" ? Csvachsen::YX
+                                           : Csvachsen::Ablehnen;
+  NasNummer = A.Wert("--nummer") == "km2" ? Nasnummer::Km2 : Nasnummer::Kurz;
   if (Gegeben(A, "--nachkomma"))
     Optionen.OptNachkommaSpeichern = static_cast<std::int16_t>(A.Wert("--nachkomma")[0] - '0');
   if (Gegeben(A, "--frei")) static_cast<void>(FreiformatLesen(A.Wert("--frei"), LetztesFreiformat, Grund));
@@ -149,8 +156,11 @@ bool Wandeln(const Aufruf& A, const Umfeld& U) {
                      &Nach = *FormatVon(A.Wert("--nach"), &Wandelformat::Nach);
   Einstellen(A, Von);
   if (IstEdbsWandlung(A)) return EdbsNachKor(A, U);
+  Punktformat Format = Von.Von;
+  Freiformat Vermutet;  // given by the option
+  if (Gegeben(A, "--frei")) CsvFormatKlären(A.Datei, Format, Vermutet);
   Lesebericht B;
-  if (PunkteEinlesen(A.Datei, Lesemodus::Ersetzen, Von.Von, B) < 0) return false;
+  if (PunkteEinlesen(A.Datei, Lesemodus::Ersetzen, Format, B) < 0) return false;
   if (B.Abgeschnitten && !A.Trotzdem) {
     DateiendeMeldung(A.Datei);
     return false;

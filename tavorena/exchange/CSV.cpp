@@ -103,6 +103,7 @@ Csvkopf KopfLesen(Csvleser& Leser, char Trenner, std::vector<std::string>& Kopf)
   K.Symbol = Spalte(Kopf, WorteSymbol);
   K.Zeile = Leser.Zeile();
   K.Felder = static_cast<int>(Kopf.size());
+  K.Punkt = std::count_if(Kopf.begin(), Kopf.end(), IstZahlwort) >= 2;
   K.NurXY = K.Rechts >= 0 && K.Hoch >= 0 && Kopf[static_cast<std::size_t>(K.Rechts)] == "Y" &&
             Kopf[static_cast<std::size_t>(K.Hoch)] == "X";
   return K;
@@ -331,6 +332,25 @@ Csvkopf CsvKopf(std::string_view Text) {
   Csvleser Leser(Text, Trenner);
   std::vector<std::string> Worte;
   return KopfLesen(Leser, Trenner, Worte);
+}
+
+Freiformat CsvAlsFreiformat(const Csvkopf& Kopf) {
+  const int Spalten[] = {Kopf.Pnr, Kopf.Rechts, Kopf.Hoch, Kopf.Hoehe, Kopf.Symbol};  // as Freiwert counts
+  Freiformat F;
+  F.Trenner = Kopf.Trenner;
+  F.Überspringen = std::min(Kopf.Punkt ? Kopf.Zeile - 1 : Kopf.Zeile, FreiMaxZeilen);
+  if (std::all_of(std::begin(Spalten), std::end(Spalten), [](int i) { return i < 0; })) return F;
+  for (std::size_t i = 0; i < Freiwerte; ++i) F.Werte[i] = {Spalten[i] + 1, 0};
+  return F;
+}
+
+int CsvFortsetzen(std::string_view Alt, std::string& Text) {
+  if (Alt.starts_with("\xEF\xBB\xBF")) Alt.remove_prefix(3);
+  const std::size_t Kopf = Text.find('\r');
+  const std::string_view Dort = Alt.substr(0, Alt.find_first_of("\r\n"));
+  if (Dort != std::string_view(Text).substr(0, Kopf)) return TrimmenSicht(Alt).empty() ? 0 : -1;
+  Text.erase(0, Kopf + 2);
+  return 0;
 }
 
 Formatzugang CsvZugang() {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <tavorena/core/Formate.h>
+#include <tavorena/exchange/Freiformat.h>
 
 // Lists with a line of headings, fields between ";", tabs or ",", quoted as in RFC 4180. Coordinates in
 // metres.
@@ -26,7 +27,8 @@ struct Csvkopf {
   char Trenner = ';';
   int Pnr = -1, Rechts = -1, Hoch = -1, Hoehe = -1, Symbol = -1;
   int Zeile = 1;       ///< number of the line
-  int Felder = 0;      ///< of the line
+  int Felder = 0;      ///< of the line; 0: there is none
+  bool Punkt = false;  ///< the line is no heading: it has numbers in its fields
   bool NurXY = false;  ///< Rechts and Hoch are told by "y" and "x" alone
 
   /// Number and coordinates have their columns.
@@ -35,6 +37,14 @@ struct Csvkopf {
 
 /// Looks at the headings of a text.
 [[nodiscard]] Csvkopf CsvKopf(std::string_view Text);
+
+/// What the free format can go by where the headings are not known: the separator, the columns that are, or
+/// the first five in their order, and the lines before the first point.
+[[nodiscard]] Freiformat CsvAlsFreiformat(const Csvkopf& Kopf);
+
+/// Before a CSV file is extended: the new text loses its line of headings where the file has the same.
+/// @return 0; -1 if the file has others, Text is then untouched
+[[nodiscard]] int CsvFortsetzen(std::string_view Alt, std::string& Text);
 
 /// Cuts a text into records and fields. A field is quoted where a quotation mark begins it and another one
 /// ends it; a mark that is never closed so is a character. Line ends of all kinds end a record.

@@ -491,7 +491,6 @@ int Lesen(const Punktquelle& Quelle, const Punktnehmer& Nehmen, Lesebericht& B) 
         B.Gestoppt = true;
         return 0;
       case Nasende::Abgerissen:
-        B.Abgeschnitten = true;
         DateiendeMeldung(Quelle.Dateiname);
         return -1;
       case Nasende::Fehlerhaft:

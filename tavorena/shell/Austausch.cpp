@@ -3,6 +3,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/exchange/CSV.h>
 #include <tavorena/shell/Austausch.h>
 #include <tavorena/shell/Koordinatendatei.h>
 
@@ -32,6 +33,15 @@ int PunkteEinlesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Fo
   return Ergebnis == -2 ? -2 : -1;
 }
 
+void CsvFormatKlären(const std::string& Dateiname, Punktformat& Format, Freiformat& Frei) {
+  std::string Text;
+  if (Format != Punktformat::Csv || TextdateiLesen(Dateiname, Text) < 0) return;
+  const Csvkopf Kopf = CsvKopf(Text);
+  if (Kopf.Erkannt() || Kopf.Felder == 0 || Text.find('\0') != std::string::npos) return;
+  Format = Punktformat::Frei;
+  Frei = CsvAlsFreiformat(Kopf);
+}
+
 std::string LeseberichtText(const Lesebericht& B) {
   std::string Text = Anzahltext(B.Gelesen, "Punkt", "Punkte") + " gelesen";
   if (B.Übergangen > 0) Text += ", " + Anzahltext(B.Übergangen, "Zeile", "Zeilen") + " übergangen";
@@ -45,9 +55,14 @@ int TabelleAusgeben(const std::string& Dateiname, Punktformat Format, Zeichensat
   bool Gut = KorText(Format, Optionen.OptNachkommaSpeichern, Neu) == 0 &&
              (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
   if (Gut && Anhängen) Satz = FortgesetztIn(Alt, Satz);
+  Neu = NachZeichensatz(Neu, Satz);
+  if (Gut && Anhängen && Format == Punktformat::Csv && CsvFortsetzen(Alt, Neu) < 0) {
+    Hinweis("Die Datei hat andere Überschriften, angehängt wird nichts:\n" + Dateiname);
+    return -1;
+  }
   if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
   if (Gut) {
-    const int Ergebnis = DateiErsetzen(Dateiname, Alt + NachZeichensatz(Neu, Satz), &Grund, &Eben);
+    const int Ergebnis = DateiErsetzen(Dateiname, Alt + Neu, &Grund, &Eben);
     if (Ergebnis == -2) return TabelleAusgeben(Dateiname, Format, Satz, Anhängen);
     Gut = Ergebnis == 0;
   }

@@ -5,6 +5,7 @@
 #include <tavorena/core/Formate.h>
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Zeichensatz.h>
+#include <tavorena/exchange/Freiformat.h>
 
 // Files of any format of points, read into the table and written from it: what menu and console share.
 
@@ -16,6 +17,10 @@ namespace tavorena {
 ///         to be extended is as it was, one that was to be replaced is empty.
 [[nodiscard]] int PunkteEinlesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Format,
                                  Lesebericht& Bericht);
+
+/// Where the headings of a CSV file are not known, it is a list like any other: Format becomes the free one,
+/// Frei what is known of its columns. Any other format, and a file that can not be read, stay as they are.
+void CsvFormatKlären(const std::string& Dateiname, Punktformat& Format, Freiformat& Frei);
 
 /// "1204 Punkte gelesen, 3 Zeilen übergangen (erste: Zeile 1)", and what else is to be told of a file.
 [[nodiscard]] std::string LeseberichtText(const Lesebericht& B);

@@ -68,13 +68,13 @@ void Exportieren(const Austauschart& A) {
 
 void PunkteImportieren(const std::string& Datei, Punktformat Format) {
   Freiformat Frei = LetztesFreiformat;
+  CsvFormatKlären(Datei, Format, Frei);
   if (Format == Punktformat::Frei && FreiformatFragenLesen(Datei, Frei) < 0) return;
   const Dateiname Teile = DateinameZerlegen(Datei);
   Punkttat Tat{"Import " + Teile.Grundname + (Teile.Endung.empty() ? "" : "." + Teile.Endung), {}};
   Lesebericht B;
-  const int Ergebnis = TabellenRücknahme.Ausführen(
-      Tat, [&] { return PunkteEinlesen(Datei, Lesemodus::Alle, Format, B); });
-  if (B.Abgeschnitten) DateiendeMeldung(Datei);
+  const int Ergebnis =
+      TabellenRücknahme.Ausführen(Tat, [&] { return PunkteEinlesen(Datei, Lesemodus::Alle, Format, B); });
   TabellenBericht(Ergebnis, LeseberichtText(B));
   if (B.Gestoppt) StatusHilfeSetzen("angehalten, nichts gelesen");
 }

@@ -84,5 +84,34 @@ TEST_F(Wandelbefehl, EdbsHinUndHer) {
   }
 }
 
+TEST_F(Wandelbefehl, CsvUndNasNachIhrenAngaben) {
+  const std::string Kopf = "Punktnummer;Rechts;Hoch;Höhe;Symbol\r\n";
+  const auto Gibt = [&](const char* Von, std::vector<const char*> Angaben, const std::string& Soll) {
+    const int Ergebnis = Soll.starts_with("7;") || Soll.starts_with("3") ? 0 : Soll.starts_with("--") ? 2 : 1;
+    Angaben.insert(Angaben.end(), {"--nachkomma", "0"});
+    EXPECT_EQ(Rufe(Von, "csv", Angaben), Ergebnis) << Soll;
+    if (Ergebnis == 0) return EXPECT_EQ(Inhalt(Aus), Kopf + Soll), void();
+    EXPECT_NE(Gesagt.find(Soll), std::string::npos) << Gesagt;
+  };
+  Schreibe(Ein, "nr;x;y\n7;477000;5600000\n");
+  Gibt("csv", {}, "ist in dieser Datei x der Rechtswert und y der Hochwert: --achsen xy");
+  Gibt("csv", {"--achsen", "xy"}, "7;477000;5600000;;\r\n");
+  Gibt("csv", {"--achsen", "yx"}, "7;5600000;477000;;\r\n");
+  Gibt("lfs", {"--achsen", "yx"}, "--achsen gehört zum Format csv");
+  Schreibe(Ein, "Wer;Wo;Hoch\n7;1;2\n");
+  Gibt("csv", {}, "Format nicht erkannt");
+  Gibt("csv", {"--frei", "trenner=; pnr=1 rechts=2 hoch=3"}, "7;1;2;;\r\n");
+  Schreibe(
+      Ein,
+      "<a xmlns:g=\"g\" xmlns:x=\"x\"><AX_Grenzpunkt g:id=\"P\"><punktkennung>324775600000007</punktkennung>"
+      "</AX_Grenzpunkt><AX_PunktortTA g:id=\"O\"><istTeilVon x:href=\"urn:adv:oid:P\"/><g:pos>32000001 2 3"
+      "</g:pos></AX_PunktortTA></a>");
+  Gibt("nas", {}, "7;1;2;3;\r\n");
+  EXPECT_NE(Gesagt.find("übergangen: 0\nLagesystem ohne Namen, Zonennummer 32 von"), std::string::npos)
+      << Gesagt;
+  Gibt("nas", {"--nummer", "km2"}, "324775600000007;1;2;3;\r\n");
+  Gibt("nas", {"--nummer", "lfs"}, "--nummer gehört zu");
+}
+
 }  // namespace
 }  // namespace tavorena::test

@@ -1,6 +1,7 @@
 #include "Testhilfe.h"
 
 #include <algorithm>
+#include <array>
 
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Zahlen.h>
@@ -116,6 +117,23 @@ TEST_F(CsvTest, VertauschteAchsenWerdenGefragt) {
   CsvAchsen = Csvachsen::Ablehnen;
   Skript.Erwarte("--achsen xy");
   EXPECT_TRUE(Gleich(Lies(Gedreht), -1, KorAnzahl, 0));
+}
+
+TEST_F(CsvTest, WasNichtWeiterkommt) {
+  using Felder = std::array<Freispalte, Freiwerte>;
+  const auto Gibt = [](const char* Text, char Trenner, int Zeilen, const Felder& Werte) {
+    const Freiformat F = CsvAlsFreiformat(CsvKopf(Text));
+    EXPECT_TRUE(Gleich(F.Trenner, Trenner, F.Überspringen, Zeilen, F.Werte == Werte, true)) << Text;
+  };
+  Gibt("\n7,1.5,2\n", ',', 1, Freiformat().Werte);  // no heading: the first point
+  Gibt("a\tb\tc\n", '\t', 1, Freiformat().Werte);
+  Gibt("Wo;Nr;y;Höhe\n", ';', 1, {{{2, 0}, {3, 0}, {0, 0}, {4, 0}, {0, 0}}});
+  std::string Text, Alt = "Nr;Hoch;Rechts\r\n";
+  ASSERT_EQ(KorText(Punktformat::Csv, 3, Text), 0);
+  EXPECT_EQ(CsvFortsetzen(Alt, Text), -1);
+  EXPECT_EQ(CsvFortsetzen("", Text), 0);
+  Alt = "\xEF\xBB\xBF" + Text;
+  EXPECT_TRUE(Gleich(CsvFortsetzen(Alt, Text += "1;2;3\r\n"), 0, Text, "1;2;3\r\n"));
 }
 
 }  // namespace
