@@ -133,4 +133,6 @@ int FlaecheGKReduziert(std::span<const double> RW, std::span<const double> HW, i
   return 0;
 }
 
+double Abstandstiefe(double Wandhoehe, double Faktor) { return std::max(Wandhoehe * Faktor, 3.0); }
+
 }  // namespace tavorena

@@ -104,4 +104,7 @@ struct Flaechenwerte {
 [[nodiscard]] int FlaecheGKReduziert(std::span<const double> RW, std::span<const double> HW, int Anzahl,
                                      double Flaeche, double& Reduziert);
 
+/// Depth of the area that stays free in front of a wall: its height times a factor, at least 3 m [m].
+[[nodiscard]] double Abstandstiefe(double Wandhoehe, double Faktor);
+
 }  // namespace tavorena

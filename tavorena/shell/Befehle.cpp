@@ -21,6 +21,7 @@
 #include <tavorena/shell/Druckbefehle.h>
 #include <tavorena/shell/Edbsbefehle.h>
 #include <tavorena/shell/Epochenbefehle.h>
+#include <tavorena/shell/Funktionsbefehle.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/M5umformung.h>
@@ -226,8 +227,8 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
     for (const std::span<const Befehl> Tafel :
-         {Austauschbefehle(), Druckbefehle(), Edbsbefehle(), Epochenbefehle(), Nivbefehle(), Punktbefehle(),
-          Rohdatenbefehle(), Umrechenbefehle()})
+         {Austauschbefehle(), Druckbefehle(), Edbsbefehle(), Epochenbefehle(), Funktionsbefehle(),
+          Nivbefehle(), Punktbefehle(), Rohdatenbefehle(), Umrechenbefehle()})
       B.insert(B.end(), Tafel.begin(), Tafel.end());
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {

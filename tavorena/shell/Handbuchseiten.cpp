@@ -44,7 +44,7 @@ constexpr Seite Seiten[] = {
     {5040, "index.md"},
     {6040, "setzung.md"},
     {6050, "absteckung.md"},
-    {6060, "index.md"},
+    {6060, "funktionen.md"},
     {7010, "umrechnen.md"},
     {7020, "index.md"},
     {8000, "index.md"},

@@ -1,6 +1,9 @@
 #include "Shelltest.h"
 
+#include <algorithm>
+
 #include <tavorena/core/Text.h>
+#include <tavorena/graphics/Grafikmodul.h>
 
 namespace tavorena::test {
 namespace {
@@ -45,6 +48,67 @@ TEST_F(Shelltest, SetzungsmessungÜberDasMenü) {
   Optionen.DateinameVerformung = Ordner.Pfad("neu/v.txt");
   Befehl("MenüFunktVerformungsmessung(3)");
   EXPECT_TRUE(Inhalt(Optionen.DateinameVerformung).starts_with("Verformungsmessung  Titel der Liste\r\n3  "));
+}
+
+// Typed again until each is a measure; the least depth; one head for several walls.
+TEST_F(Shelltest, AbstandsflächenUndTagebuch) {
+  Öffne();
+  Skript.Erwarte("Tagebuch- Datenbank nicht vorhanden !");
+  Befehl("MenüFunktTagebuch");
+  Optionen.DateinameTagebuch = A_kor;
+  Skript.Erwarte("Tagebuch- Datenbank kann nicht gelesen werden !");
+  Befehl("MenüFunktTagebuch");
+  const auto Wand = [&](const char* Länge, const char* Höhe) {
+    Skript.Formulare.push_back(Bediene({{"Wert(0)", Länge}, {"Wert(1)", Höhe}, {"OK", ""}}));
+  };
+  Wand("12,5", "0");
+  Wand("12,5", "-");
+  Wand("12,5", "6");
+  Skript.Erwarte("Wandhöhe: eine Zahl über 0 und unter 10000, nicht 0");
+  Skript.Erwarte("nicht -");
+  Skript.Formulare.push_back(Bediene({{"Wert(0)", "0.4"}, {"OK", ""}}));
+  Skript.Erwarte("Tiefe: 3.000 m (Wandhöhe mal Faktor, mindestens 3 m)\nFläche: 37.500 m²");
+  Befehl("MenüFunktionalitätenAbstandsflächen");
+  Wand("10", "6");
+  Skript.Formulare.push_back(Bediene({{"OK", ""}}));  // the factor is 1
+  Skript.Erwarte("Tiefe: 6.000 m");
+  Befehl("MenüFunktionalitätenAbstandsflächen");
+  const std::string Dru = Inhalt(A_dru);
+  EXPECT_EQ(Dru.find("Abstandsflächen"), Dru.rfind("Abstandsflächen"));
+  EXPECT_NE(
+      Dru.find(
+          "      Wand   12.500 x    6.000 m  Faktor 0.400  Tiefe     3.000 m  Fläche       37.500 m²\r\n"
+          "      Wand   10.000 x    6.000 m  Faktor 1.000  Tiefe     6.000 m  Fläche       60.000 m²\r\n"),
+      std::string::npos)
+      << Dru;
+}
+
+// Beside the Condor window: by what a file holds, whatever its name; what is nothing of it changes nothing.
+TEST_F(Shelltest, CondorDateienNachInhalt) {
+  Öffne();
+  const std::string Datei = Ordner.Pfad("x.dat"),
+                    Lt4 = "000 45590000000007 000 3500100.000 5600200.000               0  \r\n";
+  using Fall = std::tuple<std::string, bool, int>;
+  for (const auto& [Text, NurKor, Punkte] :
+       {Fall{"Flur 7\n5 1.0 2.0\n6 3.0 4.0\n", true, 2}, Fall{"5 1.0 2.0\n", false, 1},
+        Fall{"# x\n" + Lt4, false, 1},
+        Fall{"EDBS01080000BSPE000001  0000ULPUHESS000100013556000000011235102001003 3500123456 56004567892  "
+             "0000010001\r\n",
+             false, 1},
+        Fall{"999\nx\n  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n 10\n1.0\n 20\n2.0\n 11\n3.0\n 21\n4.0\n  "
+             "0\nENDSEC\n  0\nEOF\n",
+             false, 0},
+        Fall{"Lieber Herr Maier,\nanbei 3 4\n", false, -1}, Fall{Lt4, true, -1}, Fall{"", false, -1},
+        Fall{std::string("5 1.0 2.0\n\0", 11), true, -1}}) {
+    SCOPED_TRACE(Text);
+    Schreibe(Datei, Text);
+    const int Vorher = KorAnzahl;
+    const std::size_t Linien = GrafikFreieLinien().size();
+    if (Punkte < 0) Skript.Erwarte("Format nicht erkannt");
+    Befehl(NurKor ? "MenüDateiCondorLesen(0)" : "MenüDateiCondorLesen(1)", Datei);
+    EXPECT_TRUE(Gleich(KorAnzahl - Vorher, std::max(Punkte, 0), GrafikFreieLinien().size() - Linien,
+                       Punkte == 0 ? 1U : 0U));
+  }
 }
 
 // The file beside the input, through the report; a station that the file does not place is asked for.
