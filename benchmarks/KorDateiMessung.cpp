@@ -13,6 +13,7 @@
 #include <fmt/format.h>
 
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Verlust.h>
 
 namespace tavorena::messung {
 namespace {
@@ -112,6 +113,17 @@ void KorSchreibenMessen(benchmark::State& Stand) {
   }
 }
 
+// The question before a file is written; the points come back from it.
+void VerlustMessen(benchmark::State& Stand, Punktformat Format) {
+  TabelleFüllen();
+  int Verloren = 0;
+  for (auto _ : Stand) {
+    const Verlustliste V = TabellenVerlust(*FormatFinden(Format), 3);
+    Verloren = V[Verlustart::Koordinaten].Anzahl + V[Verlustart::NummernAnders].Anzahl;
+  }
+  if (Verloren != 0) Stand.SkipWithError("Die Datei gäbe die Punkte zurück.");
+}
+
 // Of all points the table knows all but the last: with one from the middle the table would be full before
 // the end of the file, and the read would stop there.
 constexpr int Fehlender = static_cast<int>(Punktzahl) - 1;
@@ -144,6 +156,7 @@ constexpr auto ms = benchmark::kMillisecond;
 BENCHMARK_CAPTURE(KorLesenMessen, geordnet, false, "\r\n")->Name("KorLesen/geordnet")->Unit(ms);
 BENCHMARK_CAPTURE(KorLesenMessen, gemischt, true, "\r\n")->Name("KorLesen/gemischt")->Unit(ms);
 BENCHMARK_CAPTURE(KorLesenMessen, unix, false, "\n")->Name("KorLesen/unix")->Unit(ms);
+BENCHMARK_CAPTURE(VerlustMessen, kor, Punktformat::Kor)->Name("Verlust/kor")->Unit(ms);
 BENCHMARK_CAPTURE(NurZahlenMessen, geordnet, false)->Name("NurZahlen/geordnet")->Unit(ms);
 BENCHMARK_CAPTURE(NurZahlenMessen, gemischt, true)->Name("NurZahlen/gemischt")->Unit(ms);
 BENCHMARK(KorTextMessen)->Name("KorText")->Unit(ms);

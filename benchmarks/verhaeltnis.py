@@ -12,6 +12,7 @@ PAARE = (
     ("KorLesen/gemischt", ("NurZahlen/gemischt",), 5.0),
     ("KorLesen/unix", ("KorLesen/geordnet",), 1.1),
     ("KorText", ("FmtText",), 3.0),
+    ("Verlust/kor", ("KorText",), 0.1),
     ("CsvLesen", ("KorLesen/geordnet",), 2.0),
     ("Zeichnen/20001", ("QPainter/20001",), 2.0),
     ("Zeichnen/200", ("Zeichnen/20001",), 0.05),

@@ -11,6 +11,7 @@
 #include <tavorena/rawdata/Nivrohdaten.h>
 #include <tavorena/rawdata/Rohbericht.h>
 #include <tavorena/rawdata/Rohumwandlung.h>
+#include <tavorena/shell/Koordinatendatei.h>
 
 namespace tavorena {
 namespace {
@@ -104,7 +105,10 @@ bool Ausgeben(const Aufruf& A, const Umfeld& U) {
     Hinweis(A.Datei + "\nist auch die Koordinatendatei.");
     return false;
   }
-  if (!Ersetzen(A.Datei, TabelleAlsGSI(static_cast<GSIAusgabe>(Art[1] - '0' + 40)))) return false;
+  const auto Form = static_cast<GSIAusgabe>(Art[1] - '0' + 40);
+  if (!SpeichernErlaubt(A.Datei, static_cast<Punktformat>(Form), false) ||
+      !Ersetzen(A.Datei, TabelleAlsGSI(Form)))
+    return false;
   U.Ausgabe << Sichtbar(A.Datei) << ": " << Anzahltext(KorAnzahl, "Punkt", "Punkte") << " geschrieben\n";
   return true;
 }

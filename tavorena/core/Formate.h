@@ -40,6 +40,7 @@ struct Lesebericht {
   int Gelesen = 0;           ///< points that the table took
   int Übergangen = 0;        ///< lines (objects) that are no points; empty lines do not count
   int ErsteÜbergangene = 0;  ///< number of the first of them, from 1; 0: there is none
+  int Überzählig = 0;        ///< points that found the table full
   bool Gestoppt =
       false;  ///< by the stop button, also where a reader of whole files saw it: nothing was taken
   bool Abgeschnitten = false;  ///< the file ends inside a record
@@ -55,6 +56,13 @@ struct Punktquelle {
   std::string_view Inhalt;  ///< as Formatzugang::Was says
   /// It takes the place of the table: what it holds besides points belongs to the open file from now on.
   bool AlsKoordinatendatei = false;
+};
+
+/// What is known of a row before it is written.
+enum class Rückkehr {
+  Unklar,      ///< it has to be written and read back to see
+  OhneNullen,  ///< all of it comes back, the number perhaps with other zeros in front
+  Ganz,        ///< all of it comes back, the number to the letter
 };
 
 /// One format. What it can not do is left nullptr.
@@ -74,6 +82,14 @@ struct Formatzugang {
   void (*ZeileSchreiben)(const KorSatz& S, int Nachkomma, std::string& Ziel) = nullptr;
   /// Appends the whole table where lines are not enough.
   void (*Schreiben)(int Nachkomma, std::string& Ziel) = nullptr;
+  // What a file would not give back is found by writing a line and reading it (Verlust.h).
+  /// Reads a line of ZeileSchreiben, where that is not ZeileLesen.
+  bool (*ZurückLesen)(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) = nullptr;
+  /// Spares that for the rows that surely come back; asked for every row, so it must be quick.
+  Rückkehr (*Voraussage)(const KorSatz& S, int Nachkomma) = nullptr;
+  /// How many attributes the columns of the format did not keep; nullptr: it has none.
+  int (*AttributeVerloren)(const KorInfoSatz& Vorher, const KorInfoSatz& Zurück) = nullptr;
+  unsigned Angesagt = 0;  ///< losses that the caption of its command announces, by Verlustbit
 };
 
 /// Adds a format, or replaces the one of its number.

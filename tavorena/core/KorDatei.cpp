@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 #include <tavorena/core/Atempause.h>
@@ -12,6 +10,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/core/Zahlen.h>
 
 namespace tavorena {
@@ -131,16 +130,21 @@ class Lesung {
     KorInfoSatz Info;
     for (int Nummer = 1; Leser.Nächste(Zeile); ++Nummer) {
       KorSatz Satz;
-      if (KorAnzahl < KorGrenze && !Zugang.ZeileLesen(Zeile, Satz, Info)) {
+      if (!Zugang.ZeileLesen(Zeile, Satz, Info)) {
+        Satz = {};
         if (!TrimmenSicht(Zeile).empty() && Bericht.Übergangen++ == 0) Bericht.ErsteÜbergangene = Nummer;
-        continue;
+        if (KorAnzahl < KorGrenze) continue;
       }
       if (!Nehmen(Satz)) return;
     }
   }
 
   bool Nehmen(const KorSatz& Satz) {
-    if (KorAnzahl >= KorGrenze) return Schluß = Ende::Voll, false;
+    if (KorAnzahl >= KorGrenze) {  // the others are counted: they are lost where the file is replaced
+      Schluß = Ende::Voll;
+      Bericht.Überzählig += Verworfen(Satz.Pnr) ? 0 : 1;
+      return true;
+    }
     if (Verworfen(Satz.Pnr) || KorAnhängen(Satz) < 0) return true;
     ++Bericht.Gelesen;
     if (KorAnzahl % 100 == 0 && Angehalten()) return Schluß = Ende::Gestoppt, false;
@@ -239,6 +243,36 @@ void Lt4ZeileSchreiben(const Wert& Pnr, double Rechts, double Hoch, const KorInf
   Zeile += std::to_string(Info.Punktstatus) + " " + FeldLinks(Info.Lagegenauigkeit, 1);
 }
 
+namespace {
+
+bool NurZiffern(std::string_view Text) {
+  return std::all_of(Text.begin(), Text.end(), [](char z) { return z >= '0' && z <= '9'; });
+}
+
+Rückkehr KorVoraussage(const KorSatz& S, int /*Nachkomma*/) {
+  return IstSchlicht(S) ? Rückkehr::Ganz : Rückkehr::Unklar;
+}
+
+Rückkehr Lt4Voraussage(const KorSatz& S, int /*Nachkomma*/) {
+  const KorInfoSatz& I = *S.Info;
+  const bool Gut = IstSchlicht(S) && S.Pnr.size() <= 10 && NurZiffern(S.Pnr) && S.Hoehe == 0 &&
+                   (S.Symbol.empty() || S.Symbol == "2") && I.Lagestatus.size() <= 3 &&
+                   NurZiffern(I.Lagestatus) && I.Vermarkungsart >= 0 && I.Vermarkungsart <= 999 &&
+                   I.Punktstatus >= 0 && I.Punktstatus <= 9 && I.Lagegenauigkeit.size() <= 1 &&
+                   NurZiffern(I.Lagegenauigkeit);
+  if (!Gut) return Rückkehr::Unklar;
+  return S.Pnr.size() == 10 ? Rückkehr::Ganz : Rückkehr::OhneNullen;
+}
+
+int Lt4AttributeVerloren(const KorInfoSatz& Vorher, const KorInfoSatz& Zurück) {
+  return int{TextVerloren(Vorher.Lagestatus, Zurück.Lagestatus)} +
+         int{TextVerloren(Vorher.Lagegenauigkeit, Zurück.Lagegenauigkeit)} +
+         int{Vorher.Vermarkungsart != 0 && Vorher.Vermarkungsart != Zurück.Vermarkungsart} +
+         int{Vorher.Punktstatus != 0 && Vorher.Punktstatus != Zurück.Punktstatus};
+}
+
+}  // namespace
+
 Formatzugang KorZugang() {
   Formatzugang F{Punktformat::Kor};
   F.ZeileLesen = [](std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
@@ -250,6 +284,7 @@ Formatzugang KorZugang() {
   F.ZeileSchreiben = [](const KorSatz& S, int Nachkomma, std::string& Ziel) {
     KorZeileAnhängen(Ziel, S.Pnr, S.Rechts, S.Hoch, S.Hoehe, S.Symbol, Nachkomma);
   };
+  F.Voraussage = KorVoraussage;
   return F;
 }
 
@@ -265,6 +300,9 @@ Formatzugang Lt4Zugang() {
     Lt4ZeileSchreiben(S.Pnr, S.Rechts, S.Hoch, *S.Info, Zeile);
     Ziel += Zeile;
   };
+  F.ZurückLesen = Lt4Zerlegen;  // a height that no column holds
+  F.Voraussage = Lt4Voraussage;
+  F.AttributeVerloren = Lt4AttributeVerloren;
   return F;
 }
 
@@ -340,26 +378,6 @@ int KorText(Punktformat Format, int Nachkomma, std::string& Text) {
     if (Text.size() > Vorher) Text += "\r\n";
   }
   return 0;
-}
-
-Nummernverlust Lt4Nummernverlust() {
-  std::vector<std::string> Zurück;  // the number that each row would be read back with
-  std::unordered_map<std::string, std::string_view> Nummern;
-  std::unordered_set<std::string> Mehrfache;
-  std::string Zeile;
-  for (int i = 0; i < KorAnzahl; ++i) {
-    Lt4ZeileSchreiben(KorPnr(i), 0, 0, {}, Zeile);
-    Zurück.emplace_back(Spalten(Zeile, 9, 18));
-    const std::string_view Pnr = TrimmenSicht(KorPnr(i));
-    if (Nummern.try_emplace(Zurück.back(), Pnr).first->second != Pnr) Mehrfache.insert(Zurück.back());
-  }
-  Nummernverlust V;
-  for (int i = 0; i < KorAnzahl; ++i) {
-    const std::string& Neu = Zurück[static_cast<std::size_t>(i)];
-    if (Neu.ends_with(TrimmenSicht(KorPnr(i))) && !Mehrfache.contains(Neu)) continue;
-    if (V.Anzahl++ == 0) V.Erste = Trimmen(KorPnr(i));
-  }
-  return V;
 }
 
 int KorSchreiben(const std::string& Dateiname, Dateiformat Format, int Nachkomma) {

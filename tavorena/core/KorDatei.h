@@ -90,16 +90,6 @@ struct Dateibefund {
 [[nodiscard]] Formatzugang Lt4Zugang();
 /// @}
 
-/// Point numbers that a file would not give back.
-struct Nummernverlust {
-  int Anzahl = 0;
-  std::string Erste;
-};
-
-/// The numbers of the table that an LT4 file does not keep: the key of its lines makes them those of other
-/// points, or takes their letters.
-[[nodiscard]] Nummernverlust Lt4Nummernverlust();
-
 /// Writes the whole table to a file that is replaced safely.
 /// @return the number of rows; -1 if the format is not written or the file can not be written, an old file is
 ///         then as it was

@@ -40,6 +40,11 @@ std::string_view TrimmenSicht(std::string_view Text) {
   return Text;
 }
 
+std::string_view Nullenlos(std::string_view Text) {
+  Text = TrimmenSicht(Text);
+  return Text.substr(std::min(Text.find_first_not_of('0'), Text.size()));
+}
+
 std::string Trimmen(const Wert& Eingabe) {
   return std::string(TrimmenSicht(Eingabe.IstText() ? Eingabe.Text() : ZahlNachText(Eingabe).Text()));
 }

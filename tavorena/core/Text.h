@@ -20,6 +20,9 @@ std::string_view TextTeil(std::string_view Text, std::size_t Ab, std::size_t Anz
 /// Text without blanks and tabs at both ends, as a view into Text: for the loops that must not allocate.
 std::string_view TrimmenSicht(std::string_view Text);
 
+/// The same without the zeros in front: what is left of a number of zeros is "".
+std::string_view Nullenlos(std::string_view Text);
+
 /// Blanks and tabs removed at both ends; a Wert that is not a text goes through ZahlNachText first.
 std::string Trimmen(const Wert& Eingabe);
 

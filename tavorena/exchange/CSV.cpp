@@ -1,11 +1,14 @@
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 #include <variant>
+#include <vector>
 
 #include <tavorena/core/Ports.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/CSV.h>
 #include <tavorena/exchange/Textformate.h>
@@ -243,6 +246,18 @@ void MerkmaleAnhängen(std::string& Ziel, const KorInfoSatz& Info) {
   }
 }
 
+void ZeileSchreiben(const KorSatz& S, int Nachkomma, std::string& Ziel, std::string& Feld) {
+  FeldAnhängen(Ziel, TrimmenSicht(S.Pnr));
+  Ziel += ';';
+  ZahlAnhängen(Ziel, S.Rechts, Nachkomma, Feld);
+  Ziel += ';';
+  ZahlAnhängen(Ziel, S.Hoch, Nachkomma, Feld);
+  Ziel += ';';
+  if (S.Hoehe != 0) ZahlAnhängen(Ziel, S.Hoehe, Nachkomma, Feld);
+  Ziel += ';';
+  FeldAnhängen(Ziel, S.Symbol);
+}
+
 void Schreiben(int Nachkomma, std::string& Ziel) {
   const bool MitMerkmalen = Koordinatendateiformat != Dateiformat::Kor;
   std::string Feld;
@@ -252,18 +267,28 @@ void Schreiben(int Nachkomma, std::string& Ziel) {
   Ziel += "\r\n";
   for (int z = 0; z < KorAnzahl; ++z) {
     const KorSatz S = KorPunkt(z);
-    FeldAnhängen(Ziel, TrimmenSicht(S.Pnr));
-    Ziel += ';';
-    ZahlAnhängen(Ziel, S.Rechts, Nachkomma, Feld);
-    Ziel += ';';
-    ZahlAnhängen(Ziel, S.Hoch, Nachkomma, Feld);
-    Ziel += ';';
-    if (S.Hoehe != 0) ZahlAnhängen(Ziel, S.Hoehe, Nachkomma, Feld);
-    Ziel += ';';
-    FeldAnhängen(Ziel, S.Symbol);
+    ZeileSchreiben(S, Nachkomma, Ziel, Feld);
     if (MitMerkmalen) MerkmaleAnhängen(Ziel, *S.Info);
     Ziel += "\r\n";
   }
+}
+
+bool ZurückLesen(std::string_view Zeile, KorSatz& S, KorInfoSatz& Info) {
+  static std::optional<Csvleser> Leser;  // the views of S lie in what it holds
+  std::vector<std::string_view> W;
+  Leser.emplace(Zeile, ';');
+  if (!Leser->Nächster(W) || W.size() != 5) return false;
+  Punktfelder F;
+  F.Pnr = W[0];
+  F.Rechts = W[1];
+  F.Hoch = W[2];
+  F.Hoehe = W[3];
+  F.Symbol = W[4];
+  return PunktAusFeldern(F, S, Info);
+}
+
+Rückkehr Voraussage(const KorSatz& S, int /*Nachkomma*/) {
+  return IstSchlicht(S) && S.Pnr.find('"') == std::string_view::npos ? Rückkehr::Ganz : Rückkehr::Unklar;
 }
 
 }  // namespace
@@ -358,6 +383,12 @@ Formatzugang CsvZugang() {
   F.Nummer = Punktformat::Csv;
   F.Lesen = Lesen;
   F.Schreiben = Schreiben;
+  F.ZeileSchreiben = [](const KorSatz& S, int Nachkomma, std::string& Ziel) {
+    std::string Feld;
+    ZeileSchreiben(S, Nachkomma, Ziel, Feld);
+  };
+  F.ZurückLesen = ZurückLesen;
+  F.Voraussage = Voraussage;
   return F;
 }
 

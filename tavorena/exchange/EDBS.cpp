@@ -7,6 +7,7 @@
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/EDBS.h>
 
@@ -418,6 +419,41 @@ std::string EDBSFortsetzen(std::string_view Bytes) {
   return EDBSVerschlüsseln(R, Text + MitZeilenende(R.Ende));
 }
 
+namespace {
+
+// Comes back as what it says: no text, a digit, or a code of the list.
+bool SymbolBleibt(std::string_view Symbol) {
+  if (!NurZiffern(Symbol)) return false;
+  if (Symbol.size() <= 1) return true;
+  const int Code = Symbol.size() == 3 && Symbol[0] == '0' ? (Symbol[1] - '0') * 10 + Symbol[2] - '0' : 0;
+  return Code == 99 || (Code > 0 && Code % 5 == 0 && Code != 75);
+}
+
+Rückkehr Voraussage(const KorSatz& S, int /*Nachkomma*/) {
+  const KorInfoSatz& I = *S.Info;
+  const auto Stelle = [](double Zahl) { return Zahl >= 0 && Zahl <= 9; };
+  const auto Text = [](const std::string& T, std::size_t n) { return T.size() <= n && NurZiffern(T); };
+  const bool Gut = IstSchlicht(S) && S.Pnr.size() <= 6 && NurZiffern(S.Pnr) && SymbolBleibt(S.Symbol) &&
+                   Stelle(I.Punktstatus) && Stelle(I.Aktualitaet) && Stelle(I.Vermarkungsart) &&
+                   Stelle(I.BemZurVerm) && I.BemZurVerm == std::floor(I.BemZurVerm) &&
+                   Text(I.Entstehung, 1) && Text(I.Lagestatus, 3) && Text(I.Lagegenauigkeit, 1) &&
+                   I.ArtHoehenbestimmung >= 0 && I.ArtHoehenbestimmung <= 99;
+  if (!Gut) return Rückkehr::Unklar;
+  return S.Pnr.front() != '0' ? Rückkehr::Ganz : Rückkehr::OhneNullen;
+}
+
+int AttributeVerloren(const KorInfoSatz& Vorher, const KorInfoSatz& Zurück) {
+  const auto Zahl = [](double Alt, double Neu) { return int{Alt != 0 && Alt != Neu}; };
+  return Zahl(Vorher.Punktstatus, Zurück.Punktstatus) + Zahl(Vorher.Aktualitaet, Zurück.Aktualitaet) +
+         Zahl(Vorher.Vermarkungsart, Zurück.Vermarkungsart) + Zahl(Vorher.BemZurVerm, Zurück.BemZurVerm) +
+         Zahl(Vorher.ArtHoehenbestimmung, Zurück.ArtHoehenbestimmung) +
+         int{TextVerloren(Vorher.Entstehung, Zurück.Entstehung)} +
+         int{TextVerloren(Vorher.Lagestatus, Zurück.Lagestatus)} +
+         int{TextVerloren(Vorher.Lagegenauigkeit, Zurück.Lagegenauigkeit)};
+}
+
+}  // namespace
+
 Formatzugang EDBSZugang() {
   Formatzugang F{Punktformat::Edbs};
   F.Lesen = EDBSLesen;
@@ -432,6 +468,8 @@ Formatzugang EDBSZugang() {
     return true;
   };
   F.ZeileSchreiben = [](const KorSatz& S, int, std::string& Ziel) { EDBSSatzAnhängen(Ziel, 1, S); };
+  F.Voraussage = Voraussage;
+  F.AttributeVerloren = AttributeVerloren;
   return F;
 }
 

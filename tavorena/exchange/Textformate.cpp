@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/Textformate.h>
 #include <tavorena/rawdata/Hoehenliste.h>
@@ -62,6 +63,20 @@ void HöheSchreiben(const KorSatz& S, int, std::string& Ziel) {
   if (S.Hoehe == 0) return;
   Ziel += Höhenzeile({std::string(S.Pnr), S.Hoehe, std::string(S.Symbol)});
   OhneBlanksAmEnde(Ziel);
+}
+
+// A word that no separator cuts.
+bool OhneTrenner(std::string_view Wort) { return Wort.find_first_of(";,\"") == std::string_view::npos; }
+
+Rückkehr ListeVoraussage(const KorSatz& S, int /*Nachkomma*/) {
+  return IstSchlicht(S) && OhneTrenner(S.Pnr) && OhneTrenner(S.Symbol) ? Rückkehr::Ganz : Rückkehr::Unklar;
+}
+
+bool HöheZurückLesen(std::string_view Zeile, KorSatz& S, KorInfoSatz& /*Info*/) {
+  S.Pnr = Wortnehmen(Zeile);
+  const bool Gut = FeldzahlLesen(Wortnehmen(Zeile), S.Hoehe);
+  S.Symbol = TrimmenSicht(Zeile);
+  return Gut;
 }
 
 Formatzugang Leser(Punktformat Nummer, decltype(Formatzugang::ZeileLesen) ZeileLesen) {
@@ -142,12 +157,23 @@ void ZeileÜbergehen(std::string_view Zeile, int Nummer, Lesebericht& B) {
 Formatzugang LfsZugang() {
   Formatzugang F = Leser(Punktformat::Lfs, ListenzeileLesen<false, false>);
   F.ZeileSchreiben = LfsZeileSchreiben;
+  F.Voraussage = ListeVoraussage;
   return F;
 }
 Formatzugang CooZugang() { return Leser(Punktformat::Coo, ListenzeileLesen<false, false>); }
 Formatzugang GeoMapZugang() { return Leser(Punktformat::GeoMap, ListenzeileLesen<true, false>); }
 Formatzugang GeografZugang() { return Leser(Punktformat::Geograf, ListenzeileLesen<true, true>); }
-Formatzugang GeografAusZugang() { return Schreiber(Punktformat::GeografAus, GeografZeileSchreiben); }
-Formatzugang HöhenlisteZugang() { return Schreiber(Punktformat::Höhenliste, HöheSchreiben); }
+Formatzugang GeografAusZugang() {
+  Formatzugang F = Schreiber(Punktformat::GeografAus, GeografZeileSchreiben);
+  F.ZurückLesen = ListenzeileLesen<true, true>;
+  F.Voraussage = ListeVoraussage;
+  return F;
+}
+Formatzugang HöhenlisteZugang() {
+  Formatzugang F = Schreiber(Punktformat::Höhenliste, HöheSchreiben);
+  F.ZurückLesen = HöheZurückLesen;
+  F.Angesagt = Verlustbit(Verlustart::Koordinaten);
+  return F;
+}
 
 }  // namespace tavorena

@@ -27,6 +27,8 @@ int PunkteEinlesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Fo
   const int Ergebnis = KorLesen(
       Dateiname, Modus, Format, {}, [&](const Dateibefund& B) { return DarfGelesenWerden(Dateiname, B); },
       &Bericht);
+  if (Ergebnis == 0 && Modus == Lesemodus::Ersetzen)
+    AusgelassenMerken(Dateiname, Bericht.Übergangen, Bericht.Überzählig);
   if (Ergebnis == 0 && Bericht.Gelesen > 0) return 0;
   if (Ergebnis == 0 && !Bericht.Gestoppt) FehlerMeldung("Format nicht erkannt");
   KorGeaendertSetzen(Geändert);
@@ -55,6 +57,7 @@ int TabelleAusgeben(const std::string& Dateiname, Punktformat Format, Zeichensat
   bool Gut = KorText(Format, Optionen.OptNachkommaSpeichern, Neu) == 0 &&
              (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
   if (Gut && Anhängen) Satz = FortgesetztIn(Alt, Satz);
+  if (Gut && !SpeichernErlaubt(Dateiname, Format, Anhängen, Satz)) return -1;
   Neu = NachZeichensatz(Neu, Satz);
   if (Gut && Anhängen && Format == Punktformat::Csv && CsvFortsetzen(Alt, Neu) < 0) {
     Hinweis("Die Datei hat andere Überschriften, angehängt wird nichts:\n" + Dateiname);

@@ -6,6 +6,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/shell/Koordinatendatei.h>
 
@@ -44,16 +45,17 @@ void Ergänzen(Dateibefund& Befund, const Lesebericht& B, Dateiformat Format) {
 }
 
 // What a file becomes: the table, behind what it holds.
-std::string Dateiinhalt(std::string Alt, const std::string& Neu, Dateiformat Format) {
+std::string Dateiinhalt(std::string Alt, const std::string& Neu, Dateiformat Format, Zeichensatz Satz) {
   if (Format == Dateiformat::Edbs)
     return Alt.empty() ? EDBSVerschlüsseln(EDBSOffen, Neu) : EDBSFortsetzen(Alt);
   if (!Alt.empty() && !Alt.ends_with('\n') && !Alt.ends_with('\r')) Alt += "\r\n";
-  // A file that is extended keeps the coding that it has.
-  return Alt + (IstUtf8(Alt) ? Neu : NachWindows1252(Neu));
+  return Alt + NachZeichensatz(Neu, Satz);
 }
 
-bool Trotzdem(const std::string& Was, const std::string& Dateiname) {
-  return FrageJaNein(Was + ". Trotzdem speichern ?\n\n" + Dateiname, "Tavorena", KnopfNein) == KnopfJa;
+// A file that is extended keeps the coding that it has, and so does an EDBS file that is replaced.
+Zeichensatz SatzDerDatei(const std::string& Alt, Dateiformat Format) {
+  const bool Offene = Format == Dateiformat::Edbs && Alt.empty();
+  return (Offene ? EDBSOffen.Windows1252 : !IstUtf8(Alt)) ? Zeichensatz::Windows1252 : Zeichensatz::Utf8;
 }
 
 // Another program wrote the file that was read here: its points are not in the table.
@@ -62,22 +64,10 @@ bool FremdGeändert(const std::string& Dateiname) {
   return SelbeDatei(Dateiname, Bekannt.Name) && Jetzt != Bekannt.Stand && Jetzt != Dateistand{};
 }
 
-bool DarfÜberschreiben(const std::string& Dateiname) {
-  // What it holds now, nobody here knows: one question is enough.
-  if (FremdGeändert(Dateiname)) {
-    return FrageJaNein("Die Datei wurde inzwischen von einem anderen Programm geändert. Überschreiben ?\n\n" +
-                           Dateiname,
-                       "Tavorena", KnopfNein) == KnopfJa;
-  }
-  if (!SelbeDatei(Dateiname, Verlust.Name)) return true;
-  if (Verlust.Zeilen > 0 && !Trotzdem(Anzahltext(Verlust.Zeilen, "Zeile der Datei ist kein Punkt",
-                                                 "Zeilen der Datei sind keine Punkte"),
-                                      Dateiname))
-    return false;
-  return Verlust.Punkte == 0 ||
-         Trotzdem(Anzahltext(Verlust.Punkte, "Punkt der Datei steht nicht in der Tabelle und geht verloren",
-                             "Punkte der Datei stehen nicht in der Tabelle und gehen verloren"),
-                  Dateiname);
+// Whatever an option came to, coordinates are not rounded to metres by it.
+int Speicherstellen() {
+  const int Gewählt = Optionen.OptNachkommaSpeichern;
+  return Gewählt >= 0 && Gewählt <= 6 ? Gewählt : OptionenSatz().OptNachkommaSpeichern;
 }
 
 }  // namespace
@@ -117,7 +107,7 @@ int KoordinatendateiLesen(bool Fragen) {
     return Ergebnis;
   }
   Ergänzen(Befund, Bericht, Koordinatendateiformat);
-  Verlust = {Name, Befund.Andere + Befund.Bemerkungen, std::max(Befund.Punkte - KorGrenze, 0)};
+  AusgelassenMerken(Name, Befund.Andere + Befund.Bemerkungen, Bericht.Überzählig);
   ZeilenMelden(Befund);
   return 0;
 }
@@ -140,25 +130,39 @@ void KoordinatendateiStandMerken(const std::string& Dateiname) {
   if (SelbeDatei(Dateiname, Verlust.Name)) Verlust = {};
 }
 
-bool SpeichernErlaubt(const std::string& Dateiname, Dateiformat Format, bool Anhängen) {
-  if (!Anhängen && !DarfÜberschreiben(Dateiname)) return false;
-  if (Format != Dateiformat::Lt4) return true;
-  const Nummernverlust V = Lt4Nummernverlust();
-  return V.Anzahl == 0 || Trotzdem(Anzahltext(V.Anzahl, "Punktnummer geht", "Punktnummern gehen") +
-                                       " im Format LT4 verloren (erste: " + Zitat(V.Erste) + ")",
-                                   Dateiname);
+void AusgelassenMerken(const std::string& Dateiname, int Zeilen, int Punkte) {
+  Verlust = {Dateiname, Zeilen, Punkte};
+  VerlusteVergessen();
+}
+
+bool SpeichernErlaubt(const std::string& Dateiname, Punktformat Format, bool Anhängen, Zeichensatz Satz,
+                      const std::vector<int>* Zeilen) {
+  const bool Fremd = !Anhängen && FremdGeändert(Dateiname);
+  if (Fremd &&
+      FrageJaNein(
+          "Die Datei wurde inzwischen von einem anderen Programm geändert. Überschreiben ?\n\n" + Dateiname,
+          "Tavorena", KnopfNein) != KnopfJa)
+    return false;
+  const Formatzugang* Zugang = FormatFinden(Format);
+  if (Zugang == nullptr) return true;  // nothing is written
+  Verlustliste V = TabellenVerlust(*Zugang, Speicherstellen(), Satz, Zeilen);
+  const bool Selbe = SelbeDatei(Dateiname, Verlust.Name);
+  // What a foreign file holds now, nobody here knows: that question was enough.
+  if (Selbe && !Anhängen && !Fremd) V[Verlustart::Zeilen].Anzahl = Verlust.Zeilen;
+  if (!Selbe || (!Anhängen && !Fremd)) V[Verlustart::Punkte].Anzahl = Verlust.Punkte;
+  return VerlustErlaubt(Dateiname, V, Satz);
 }
 
 int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, bool Anhängen) {
   const Dateistand Eben = DateistandVon(Dateiname);
-  if (!SpeichernErlaubt(Dateiname, Format, Anhängen)) return -1;
   std::string Alt, Neu, Grund;
-  // Whatever an option came to, coordinates are not rounded to metres by it.
-  const int Gewählt = Optionen.OptNachkommaSpeichern;
-  const int Nachkomma = Gewählt >= 0 && Gewählt <= 6 ? Gewählt : OptionenSatz().OptNachkommaSpeichern;
-  bool Gut = KorText(Format, Nachkomma, Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
+  bool Gut = !Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0;
+  const Zeichensatz Satz = SatzDerDatei(Alt, Format);
+  if (Gut && !SpeichernErlaubt(Dateiname, PunktformatVon(Format), Anhängen, Satz)) return -1;
+  Gut = Gut && KorText(Format, Speicherstellen(), Neu) == 0;
   if (Gut) {
-    const int Ergebnis = DateiErsetzen(Dateiname, Dateiinhalt(std::move(Alt), Neu, Format), &Grund, &Eben);
+    const int Ergebnis =
+        DateiErsetzen(Dateiname, Dateiinhalt(std::move(Alt), Neu, Format, Satz), &Grund, &Eben);
     // Written by somebody else since the question: what it said does not hold any more.
     if (Ergebnis == -2) return KoordinatenExportieren(Dateiname, Format, Anhängen);
     Gut = Ergebnis == 0;

@@ -6,6 +6,7 @@
 
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Punkt.h>
+#include <tavorena/core/Verlust.h>
 
 // The coordinate file of the job: what was seen when it was read, and what would be lost by writing over it.
 
@@ -30,12 +31,20 @@ void KoordinatenHinzulesen(const std::string& Dateiname, Lesemodus Modus, Dateif
 /// The file stands as this program knows it, and the table holds all of it.
 void KoordinatendateiStandMerken(const std::string& Dateiname);
 
-/// Asks about each thing that writing the table to a file would lose: what another program wrote in the
-/// meantime; lines and points of the file that are not in the table; point numbers that LT4 does not keep.
-/// The default is "Nein" each time.
+/// A file was read in place of the table: its lines that are no points, and its points behind the last row,
+/// are lost where the table is written.
+void AusgelassenMerken(const std::string& Dateiname, int Zeilen, int Punkte);
+
+/// Asks whether the table may be written to a file: what another program wrote in the meantime; and in one
+/// question what the format would not give back (Verlust.h), and the lines and points of the file that was
+/// read that are not in the table. The default is "Nein" each time.
 /// @param[in] Anhängen  the file is extended: what it holds stays
+/// @param[in] Satz      its coding
+/// @param[in] Zeilen    the rows that are written; nullptr: all
 /// @return false: it must not be written
-[[nodiscard]] bool SpeichernErlaubt(const std::string& Dateiname, Dateiformat Format, bool Anhängen);
+[[nodiscard]] bool SpeichernErlaubt(const std::string& Dateiname, Punktformat Format, bool Anhängen,
+                                    Zeichensatz Satz = Zeichensatz::Utf8,
+                                    const std::vector<int>* Zeilen = nullptr);
 
 /// The common writer behind saving and exports. It asks by SpeichernErlaubt, and tells the number of points
 /// in the status help.

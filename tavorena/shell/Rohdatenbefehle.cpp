@@ -18,6 +18,7 @@
 #include <tavorena/rawdata/Nivrohdaten.h>
 #include <tavorena/rawdata/Rohumwandlung.h>
 #include <tavorena/rawdata/TVRohdatenForm.h>
+#include <tavorena/shell/Koordinatendatei.h>
 #include <tavorena/shell/Rohdatenbefehle.h>
 #include <tavorena/shell/Tabellenbefehle.h>
 
@@ -104,7 +105,8 @@ void AlsGsi(GSIAusgabe Art) {
   if (!ZeilenFragen(Zeilen)) return;
   const std::string Name =
       DateiFragen("GSI-Datei zum Schreiben auswählen", FilterGsi, "*.gsi", true, &Anhängen, &Satz);
-  if (!Name.empty() && Ablegen(Name, TabelleAlsGSI(Art, Zeilen), Anhängen, Satz))
+  if (!Name.empty() && SpeichernErlaubt(Name, static_cast<Punktformat>(Art), Anhängen, Satz, &Zeilen) &&
+      Ablegen(Name, TabelleAlsGSI(Art, Zeilen), Anhängen, Satz))
     StatusHilfeSetzen(Anzahltext(static_cast<int>(Zeilen.size()), "Punkt", "Punkte") + " geschrieben");
 }
 
@@ -123,7 +125,8 @@ void AlsHöhenliste() {
   Zeichensatz Satz = Zeichensatz::Utf8;
   const std::string Name = DateiFragen("Höhenliste zum Schreiben auswählen", "Höhenliste (*.hli)|*.hli",
                                        "*.hli", true, &Anhängen, &Satz);
-  if (!Name.empty() && Ablegen(Name, Text, Anhängen, Satz))
+  if (!Name.empty() && SpeichernErlaubt(Name, Punktformat::Höhenliste, Anhängen, Satz) &&
+      Ablegen(Name, Text, Anhängen, Satz))
     StatusHilfeSetzen(Anzahltext(Anzahl, "Höhe", "Höhen") + " geschrieben");
 }
 

@@ -9,6 +9,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/Formattafel.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
@@ -122,6 +123,7 @@ void HauptInitialisierung() {
   KorLeeren();
   EDBSOffen = {};
   TabellenRücknahme = {};
+  VerlusteVergessen();
   ProtokollNehmen("");
   Protokollfenster.Leeren();
   StapelDatei = {};

@@ -49,7 +49,9 @@ TEST_F(Programm, Rückgabewerte) {
       {"--koordinaten a.kor --protokoll a.dru --speichern a.kor a.sta", 0, ""},
       {"menue --koordinaten a.kor", 0, ""},
       {"--koordinaten kopf.kor --speichern ./kopf.kor a.sta", 1,
-       "./kopf.kor: Frage ohne Antwort: 1 Zeile der Datei ist kein Punkt. Trotzdem speichern ?"},
+       "./kopf.kor: Frage ohne Antwort: Beim Speichern gehen Angaben verloren: 1 Zeile der Datei ist kein "
+       "Punkt "
+       "Trotzdem speichern ? (Ja mit --trotzdem)"},
       {"--koordinaten kopf.kor --speichern ./kopf.kor --trotzdem a.sta", 0, ""},
       {"menue --koordinaten brief.kor", 1, "brief.kor: Frage ohne Antwort: Die Datei sieht nicht"},
       {"menue --koordinaten brief.kor --trotzdem", 0, ""},

@@ -202,9 +202,9 @@ TEST_F(Haupt, VerlusteFragenVorDemSpeichern) {
   std::string Viele;
   for (int i = 0; i < KorGrenze + 2; ++i) Viele += std::to_string(i + 1) + " 1.0 2.0\n";
   for (const auto& [Name, Text, Frage] :
-       {std::tuple{"kopf.kor", std::string("Flur 7\n1 2.0 3.0\n"), "1 Zeile der Datei ist kein Punkt."},
-        {"c.lt4", Lt4Zeile + "#\n# x\n", "2 Zeilen der Datei sind keine Punkte."},
-        {"viele.kor", Viele, "2 Punkte der Datei stehen nicht in der Tabelle und gehen verloren."}}) {
+       {std::tuple{"kopf.kor", std::string("Flur 7\n1 2.0 3.0\n"), "1 Zeile der Datei ist kein Punkt\n"},
+        {"c.lt4", Lt4Zeile + "#\n# x\n", "2 Zeilen der Datei sind keine Punkte\n"},
+        {"viele.kor", Viele, "2 Punkte der Datei stehen nicht in der Tabelle\n"}}) {
     SCOPED_TRACE(Name);
     const std::string Datei = Ordner.Pfad(Name);
     Schreibe(Datei, Text);
@@ -212,7 +212,9 @@ TEST_F(Haupt, VerlusteFragenVorDemSpeichern) {
     ASSERT_EQ(HauptDateiÖffnen(Datei, Dateiformat::Kor), 0);
     EXPECT_EQ(KoordinatenExportieren(Datei, Koordinatendateiformat, true), 0);  // what it holds stays
     const std::string Ganz = Inhalt(Datei);
-    Skript.Erwarte(std::string(Frage) + " Trotzdem speichern ?\n\n", KnopfNein);
+    Skript.Erwarte("Beim Speichern gehen Angaben verloren:\n" + std::string(Frage) + "\n" +
+                       Ordner.Pfad("app/../") + Name,
+                   KnopfNein);
     EXPECT_EQ(KoordinatenExportieren(Ordner.Pfad("app/../") + Name, Koordinatendateiformat), -1);
     EXPECT_TRUE(Gleich(Skript.LetzteVorgabe, KnopfNein, Inhalt(Datei), Ganz));
     Skript.Erwarte(Frage, KnopfJa);
@@ -221,14 +223,24 @@ TEST_F(Haupt, VerlusteFragenVorDemSpeichern) {
   }
 }
 
-// A key of LT4 that makes two numbers one, or takes the letters of a number.
-TEST_F(HauptOffen, NummernFürLt4) {
-  for (const char* Pnr : {"7A", "001001", "123456789012"}) Punkt(Pnr, 1, 2);
+// What the format itself does not keep is part of the same question, for a file of any name; points behind
+// the table's end too, lines only where they are replaced.
+TEST_F(Haupt, VerlusteDesFormats) {
+  std::string Viele;
+  for (int i = 0; i < KorGrenze + 1; ++i) Viele += std::to_string(i + 1) + " 1.0 2.0\n";
+  Schreibe(A_kor, Viele);
+  Skript.Erwarte("Maximale Anzahl");
+  ASSERT_EQ(HauptDateiÖffnen(A_kor, Dateiformat::Kor), 0);
+  ASSERT_EQ(KorZeileSetzen(6, {"7A", 32477000.123, 2}), 0);
   for (const int Antwort : {KnopfNein, KnopfJa}) {
-    Skript.Erwarte("4 Punktnummern gehen im Format LT4 verloren (erste: 7A). Trotzdem speichern ?", Antwort);
+    Skript.Erwarte(
+        "verloren:\n1 Koordinate paßt nicht in ihr Feld (Punkt 7A)\n1 Punktnummer ändert sich (Punkt 7A)\n"
+        "1 Punkt der Datei steht nicht in der Tabelle\n\n",
+        Antwort);
     Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
     EXPECT_EQ(DateiVorhanden(Ordner.Pfad("b.lt4")), Antwort == KnopfJa);
   }
+  Befehl("MenüDateiSpeichern(0)");  // was answered
 }
 
 TEST_F(Haupt, MisslungenesLesenLäßtDenTitelStehen) {
@@ -272,6 +284,7 @@ TEST_F(Haupt, NeueDateiSpeichern) {
                      "   1 Punkt gespeichert   "));
   EXPECT_EQ(Inhalt(Ordner.Pfad("neu.kor")), "             7         1.000         2.000       3.000  ß\r\n");
   EXPECT_FALSE(KoordinatenGeaendert);
+  Skript.Erwarte("1 Höhe geht verloren (Punkt 7)\n1 Symbol geht verloren (Punkt 7)", KnopfJa);
   Befehl("MenüDateiSpeichernUnter", Ordner.Pfad("b.lt4"));
   EXPECT_EQ(Koordinatendateiformat, Dateiformat::Lt4);
   EXPECT_TRUE(Inhalt(Ordner.Pfad("b.lt4")).starts_with("000 45590000000007"));
