@@ -1,4 +1,5 @@
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -78,14 +79,26 @@ bool EbenLesen(std::string_view Zeile, const Koordinatenform& Von, Wegpunkt& P) 
   return true;
 }
 
+void GanzzahlAnhängen(std::string& Ziel, std::int32_t Zahl, std::size_t Breite) {
+  std::array<char, 12> Puffer{};
+  const auto Ende = std::to_chars(Puffer.data(), Puffer.data() + Puffer.size(), Zahl).ptr;
+  const auto Länge = static_cast<std::size_t>(Ende - Puffer.data());
+  Ziel.append(Länge < Breite ? Breite - Länge : 0, ' ').append(Puffer.data(), Länge);
+}
+
 // Rounded to the decimals of the seconds first: no field ever shows 60.
 void GMSAnhängen(std::string& Ziel, double Wert) {
   constexpr double JeGrad = 3600e5;
   std::int32_t Grad = 0, Minuten = 0;
   double Sekunden = 0;
   const bool OhneGrad = GradInGMS(std::round(Wert * JeGrad) / JeGrad, Grad, Minuten, Sekunden) == 1;
-  Ziel.append(1, ' ').append(OhneGrad ? "  -0" : ZahlFeld(Grad, 4));
-  Ziel.append(1, ' ').append(ZahlFeld(Minuten, 3)).append(1, ' ');
+  if (OhneGrad) {
+    Ziel += "   -0";
+  } else {
+    GanzzahlAnhängen(Ziel, Grad, 5);
+  }
+  GanzzahlAnhängen(Ziel, Minuten, 4);
+  Ziel += ' ';
   ZahlFormatAnhängen(Ziel, Sekunden, 3, 5);
 }
 
