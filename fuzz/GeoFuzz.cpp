@@ -19,8 +19,10 @@ int Zeilen(const std::string& Text) { return static_cast<int>(std::count(Text.be
 bool Umkehrbar(const Umrechnung& U, const Umrechenbericht& B) {
   const bool Ziffer = B.Streifen.begin()->first >= 1 && B.Streifen.rbegin()->first <= 9;
   const bool Gk = U.Nach.Art == Koordinatenart::GK;
-  return Umrechenverlust(U, B).empty() &&
-         (Gk ? Ziffer : U.Nach.Art == Koordinatenart::Geographisch || U.Nach.Nummer > 0);
+  const Verlustliste V = Umrechenverlust(U, B);
+  const bool Ganz = V.Weitere.empty() && std::all_of(V.Posten.begin(), V.Posten.end(),
+                                                     [](const Verlustposten& P) { return P.Anzahl == 0; });
+  return Ganz && (Gk ? Ziffer : U.Nach.Art == Koordinatenart::Geographisch || U.Nach.Nummer > 0);
 }
 
 void Zurück(const Umrechnung& U, const std::string& Ziel, const Umrechenbericht& B) {

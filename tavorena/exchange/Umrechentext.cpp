@@ -27,10 +27,6 @@ std::string Anzahlen(const std::map<int, int>& Streifen) {
   return Aufzählung(Teile);
 }
 
-std::string Verlustzeile(const Umrechenbericht::Zuviel& Z, const char* Eine, const char* Viele) {
-  return Anzahltext(Z.Anzahl, Eine, Viele) + " in ihr Feld (Punkt " + Zitat(Z.Erster) + ")";
-}
-
 const char* Netzname(Koordinatenart Art) { return Art == Koordinatenart::GK ? "Gauß-Krüger" : "UTM"; }
 
 const char* Streifenwort(Koordinatenart Art, bool Mehrere) {
@@ -51,18 +47,12 @@ std::vector<int> Gewählt(const Koordinatenform& Form) {
 
 }  // namespace
 
-std::vector<std::string> Umrechenverlust(const Umrechnung& U, const Umrechenbericht& B) {
-  std::vector<std::string> Zeilen;
-  if (B.Koordinaten.Anzahl > 0)
-    Zeilen.push_back(Verlustzeile(B.Koordinaten, "Koordinate paßt nicht", "Koordinaten passen nicht"));
-  if (B.Höhen.Anzahl > 0) Zeilen.push_back(Verlustzeile(B.Höhen, "Höhe paßt nicht", "Höhen passen nicht"));
-  if (B.Nummern.Anzahl > 0)
-    Zeilen.push_back(Anzahltext(B.Nummern.Anzahl, "Punktnummer beginnt", "Punktnummern beginnen") +
-                     " mit @ (Punkt " + Zitat(B.Nummern.Erster) + ")");
+Verlustliste Umrechenverlust(const Umrechnung& U, const Umrechenbericht& B) {
+  Verlustliste V = B.Verluste;
   // The eastings bear no zone number.
   if (U.Nach.Art == Koordinatenart::UTM && U.Nach.Nummer == 0 && B.Streifen.size() > 1)
-    Zeilen.push_back("Punkte liegen in den Zonen " + Anzahlen(B.Streifen));
-  return Zeilen;
+    V.Weitere.push_back("Punkte liegen in den Zonen " + Anzahlen(B.Streifen));
+  return V;
 }
 
 std::string Umrechentext(const Umrechnung& U, const Umrechenbericht& B, const std::string& Datei) {

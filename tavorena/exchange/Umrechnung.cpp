@@ -115,10 +115,6 @@ bool ZuGroß(double Zahl, double Grenze) { return !(Zahl < Grenze) || !(Zahl > -
 
 constexpr double Grenze7 = 1e7, Grenze5 = 1e5;
 
-void Zählen(Umrechenbericht::Zuviel& Z, std::string_view Pnr) {
-  if (Z.Anzahl++ == 0) Z.Erster = Pnr;
-}
-
 Streifennetz NetzVon(const Umrechnung& U) {
   const Koordinatenart Eben = U.Nach.Art == Koordinatenart::Geographisch ? U.Von.Art : U.Nach.Art;
   return Eben == Koordinatenart::UTM ? Streifennetz() : Streifennetz(U.Körper);
@@ -162,6 +158,11 @@ class Umrechenlauf {
     return StreifenVorwaerts(Netz, Neuer, P.Laenge, P.Breite, P.Rechts, P.Hoch);
   }
 
+  void Verlieren(Verlustart Art) {
+    Verlustposten& V = Bericht.Verluste[Art];
+    if (V.Anzahl++ == 0) V.Erste = P.Pnr;
+  }
+
   void Schreiben() {
     ++Bericht.Punkte;
     ++Bericht.Streifen[P.Streifen];
@@ -171,16 +172,16 @@ class Umrechenlauf {
       Bericht.Fernster = P.Pnr;
     }
     if (!NachEbene() && Bericht.Punkte == 1) Kopf();
-    if (ZuGroß(P.Hoehe, NachEbene() ? Grenze7 : Grenze5)) Zählen(Bericht.Höhen, P.Pnr);
+    if (ZuGroß(P.Hoehe, NachEbene() ? Grenze7 : Grenze5)) Verlieren(Verlustart::Höhen);
     if (NachEbene()) {
       // A Rechts whose first digit is that of another strip, be it by rounding, would be read back there.
       const bool Fremd =
           Netz.Art == Netzart::GK && !(std::fabs(P.Rechts - P.Streifen * 1e6 - 500000) < 499999);
-      if (Fremd || ZuGroß(P.Rechts, Grenze7)) Zählen(Bericht.Koordinaten, P.Pnr);
-      if (ZuGroß(P.Hoch, Grenze7)) Zählen(Bericht.Koordinaten, P.Pnr);
+      if (Fremd || ZuGroß(P.Rechts, Grenze7)) Verlieren(Verlustart::Koordinaten);
+      if (ZuGroß(P.Hoch, Grenze7)) Verlieren(Verlustart::Koordinaten);
       KorZeileAnhängen(Ziel, P.Pnr, P.Rechts, P.Hoch, P.Hoehe, P.Symbol, Was.Nachkomma);
     } else {
-      if (P.Pnr.starts_with('@')) Zählen(Bericht.Nummern, P.Pnr);
+      if (P.Pnr.starts_with('@')) Verlieren(Verlustart::NummernAnders);
       GeographischAnhängen(Ziel, P);
     }
     Ziel += "\r\n";
@@ -210,14 +211,6 @@ bool EllipsoidErlaubt(const Umrechnung& U, const std::string& ImKopf) {
          FrageJaNein("Die Eingabe nennt das Ellipsoid " + Zitat(ImKopf) + ", gerechnet wird mit " +
                          Ellipsoidname(U) + ".\n\nTrotzdem umrechnen ?",
                      "Tavorena", KnopfNein) == KnopfJa;
-}
-
-// Asks whether what is lost may be lost.
-bool VerlustErlaubt(const std::vector<std::string>& Zeilen) {
-  if (Zeilen.empty()) return true;
-  std::string Frage = "Beim Speichern gehen Angaben verloren:\n";
-  for (const std::string& Zeile : Zeilen) Frage += "\n" + Zeile;
-  return FrageJaNein(Frage + "\n\nTrotzdem speichern ?", "Tavorena", KnopfNein) == KnopfJa;
 }
 
 }  // namespace
@@ -274,7 +267,7 @@ int DateiUmrechnen(const std::string& Ein, const std::string& Aus, const Umrechn
   if (Ergebnis == -1) FehlerMeldung("Format nicht erkannt");
   if (Ergebnis == -2) StatusHilfeSetzen("angehalten, nichts geschrieben");
   if (Ergebnis < 0 || !EllipsoidErlaubt(U, Bericht.Kopfellipsoid) ||
-      !VerlustErlaubt(Umrechenverlust(U, Bericht)))
+      !VerlustErlaubt(Aus, Umrechenverlust(U, Bericht)))
     return -1;
   if (DateiErsetzen(Aus, Neu, &Grund) == 0) return 0;
   SpeicherfehlerMelden(Aus, Grund, "Umrechnung.Schreiben");

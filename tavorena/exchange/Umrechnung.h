@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <tavorena/calc/Meridianstreifen.h>
+#include <tavorena/core/Verlust.h>
 
 // Files of points from geographic into plane coordinates, back, and from one strip or zone into another. Line
 // to line: the order of the file stays, and neither the point table nor its limit has a part in it.
@@ -42,20 +43,15 @@ struct Umrechnung {
 
 /// What became of the lines. Empty lines and, in geographic files, those that begin with "@" do not count.
 struct Umrechenbericht {
-  /// What the new file would not give back.
-  struct Zuviel {
-    int Anzahl = 0;
-    std::string Erster;  ///< number of the first
-  };
   int Punkte = 0;
   int Andere = 0;               ///< lines that were passed over
   int ErsteAndere = 0;          ///< number of the first of them, from 1; 0: there is none
   std::map<int, int> Streifen;  ///< strips or zones of the plane coordinates, and how many points each has
   double Abstand = 0;           ///< of the farthest point from its central meridian [degrees], without sign
   std::string Fernster;         ///< its number
-  Zuviel Koordinaten;           ///< do not fit, or belong to another strip as they stand
-  Zuviel Höhen;
-  Zuviel Nummern;             ///< begin with "@": in a geographic file their lines are none
+  /// What the new file would not give back: coordinates that do not fit or belong to another strip as they
+  /// stand, heights, and numbers that make a geographic line a comment.
+  Verlustliste Verluste;
   std::string Kopfellipsoid;  ///< that the head of a geographic file names; "": none
 };
 
@@ -65,8 +61,8 @@ struct Umrechenbericht {
 [[nodiscard]] int TextUmrechnen(std::string_view Text, const Umrechnung& U, std::string& Ziel,
                                 Umrechenbericht& Bericht);
 
-/// What the new file would not give back, a line each; empty: nothing.
-[[nodiscard]] std::vector<std::string> Umrechenverlust(const Umrechnung& U, const Umrechenbericht& Bericht);
+/// All that the new file would not give back, points in several zones included.
+[[nodiscard]] Verlustliste Umrechenverlust(const Umrechnung& U, const Umrechenbericht& Bericht);
 
 /// Converts a file. The new one takes its place at the end and wholly, after a question where something would
 /// be lost or the head of the file names another ellipsoid. Each failure is told in a message.

@@ -33,6 +33,9 @@ TVGeokonvertForm::TVGeokonvertForm(Umrechenrichtung R, std::string FormTitel, Um
   DateienAnlegen();
   Satz = &BeschriftungAnlegen("", {0, 0});
   Satz->Name = "GeoSatz";
+  Ausweg = &BeschriftungAnlegen("", {1, 0});
+  Ausweg->Name = "GeoAusweg";
+  Ausweg->PlatzHalten = true;
   OkUndAbbruch([this] { Übernehmen(); });
   QuelleAnsehen();
   Darstellen();
@@ -65,7 +68,7 @@ void TVGeokonvertForm::NetzeAnlegen() {
   };
   Netz = NetzAnlegen("GeoNetz", RahmenNetz, Eben ? Neu.Was.Von.Art : Neu.Was.Nach.Art);
   if (Eben)
-    AusZone = &NummernlisteAnlegen("GeoAusZone", "&aus Zone:", {ImRechtswert, "31", "32", "33"},
+    AusZone = &NummernlisteAnlegen("GeoAusZone", "aus Zo&ne:", {ImRechtswert, "31", "32", "33"},
                                    Neu.Was.Von.Nummer, {0, 2}, RahmenNetz);
   if (Richtung == Umrechenrichtung::NachGeographisch) {
     for (const bool Cartesian : {false, true}) {
@@ -203,7 +206,10 @@ void TVGeokonvertForm::Darstellen() {
     Streifen->Aktiv = !IstUtm(W.Nach.Art);
     Zone->Aktiv = IstUtm(W.Nach.Art);
   }
-  Satz->Text = Falsch ? Bezugssystemtext() : Umrechensatz(W, Quellstreifen);
+  const std::string Warum = Bezugssystemtext();
+  const std::size_t Weg = Warum.find("Über");
+  Satz->Text = Falsch ? Warum.substr(0, Weg) : Umrechensatz(W, Quellstreifen);
+  Ausweg->Text = Falsch ? Warum.substr(Weg) : "";
 }
 
 void TVGeokonvertForm::Übernehmen() {

@@ -45,7 +45,7 @@ class TVGeokonvertForm final : public Dialogform {
   std::vector<int> Quellstreifen;  ///< of the input
   std::string Angesehen;           ///< the file that they stand in, and how it was understood
   std::vector<Auswahl*> Körper, Netz, Zielnetz;
-  Beschriftung *Halbachsen = nullptr, *Satz = nullptr;
+  Beschriftung *Halbachsen = nullptr, *Satz = nullptr, *Ausweg = nullptr;
   Auswahl *AusZone = nullptr, *Streifen = nullptr, *Zone = nullptr, *Kartesisch = nullptr;
   Feld *Ein = nullptr, *Aus = nullptr;
 };

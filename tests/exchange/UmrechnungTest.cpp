@@ -121,13 +121,14 @@ TEST_F(UmrechnungTest, VerlusteWerdenGefragt) {
       {Von(Geo, Gk), "1 9 51\n2 39 51\n3 -9 51", "2 Koordinaten passen nicht in ihr Feld (Punkt 2)"},
       {Von(Geo, GkIn(2)), "1 12 47\n2 14 47",
        "1 Koordinate paßt nicht in ihr Feld (Punkt 2)"},  // in strip 3's million
-      {Von(Gk, Geo), "1 3500000 5651505\n@1 3500000 5651505", "1 Punktnummer beginnt mit @ (Punkt @1)"},
-      {Von(Gk, Geo), "1 3500000 5651505 100000\n", "1 Höhe paßt nicht in ihr Feld (Punkt 1)"},
+      {Von(Gk, Geo), "1 3500000 5651505\n@1 3500000 5651505", "1 Punktnummer ändert sich (Punkt @1)"},
+      {Von(Gk, Geo), "1 3500000 5651505 100000\n", "1 Höhe geht verloren (Punkt 1)"},
   };
   for (const Fall& f : Fälle) {
     Schreibe(Aus, "alt");
-    const std::string Frage =
-        std::string("Beim Speichern gehen Angaben verloren:\n\n") + f.Verlust + "\n\nTrotzdem speichern ?";
+    VerlusteVergessen();
+    const std::string Frage = std::string("Beim Speichern gehen Angaben verloren:\n") + f.Verlust + "\n\n" +
+                              Aus + "\n\nTrotzdem speichern ?";
     Skript.Erwarte(Frage, KnopfNein);
     EXPECT_EQ(Laufen(f.U, f.Text), -1);
     EXPECT_TRUE(Gleich(Skript.LetzteVorgabe, KnopfNein, Inhalt(Aus), "alt"));

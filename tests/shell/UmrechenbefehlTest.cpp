@@ -51,7 +51,7 @@ TEST_F(Umrechenmenü, StreifenWechseln) {
     Fülle(Form, Kor, Kor);
     EXPECT_EQ(Text(Form, "GeoSatz"), "Gauß-Krüger, Bessel, Streifen 3 -> Streifen 4");
     Wähle(Form, "GeoZielnetz(1)");
-    EXPECT_TRUE(Text(Form, "GeoSatz").ends_with("transformieren: VR 24.00 Helmert- Transformation"));
+    EXPECT_EQ(Text(Form, "GeoAusweg"), "Über Paßpunkte transformieren: VR 24.00 Helmert- Transformation");
     Drücke(Form, "OK");
     Wähle(Form, "GeoZielnetz(0)");
     Schreibe(Kor, "7 500000 5651505.565\r\n");
