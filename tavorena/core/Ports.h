@@ -112,6 +112,14 @@ class Umgebung {
   [[nodiscard]] virtual int ProgrammStarten(const std::string& /*Programm*/, const std::string& /*Datei*/) {
     return -1;
   }
+  /// Runs a program to its end, without a shell in between; a name without a folder is looked for where
+  /// programs are. @param[out] Meldungen  what it wrote
+  /// @return its exit status, 1 also where it took more than half a minute; -1: it does not start
+  [[nodiscard]] virtual int ProgrammAusführen(const std::string& /*Programm*/,
+                                              const std::vector<std::string>& /*Worte*/,
+                                              std::string& /*Meldungen*/) {
+    return -1;
+  }
   /// Folder of the executable.
   virtual std::string ProgrammOrdner() { return {}; }
   /// Folders of the user.

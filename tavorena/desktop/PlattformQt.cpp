@@ -346,6 +346,21 @@ int PlattformQt::ProgrammStarten(const std::string& Programm, const std::string&
   return QDesktopServices::openUrl(QUrl::fromLocalFile(Pfad(Datei))) ? 0 : -1;
 }
 
+int PlattformQt::ProgrammAusführen(const std::string& Programm, const std::vector<std::string>& Worte,
+                                   std::string& Meldungen) {
+  constexpr int LängsteZeit = 30000;  // [ms]
+  QStringList Angaben;
+  for (const std::string& Wort : Worte) Angaben << Q(Wort);
+  QProcess Lauf;
+  Lauf.setProcessChannelMode(QProcess::MergedChannels);
+  Lauf.setStandardInputFile(QProcess::nullDevice());
+  Lauf.start(Pfad(Programm), Angaben);
+  if (!Lauf.waitForStarted(LängsteZeit)) return -1;
+  const bool Beendet = Lauf.waitForFinished(LängsteZeit);
+  Meldungen = Beendet ? Lauf.readAll().trimmed().toStdString() : "keine Antwort";
+  return Beendet && Lauf.exitStatus() == QProcess::NormalExit ? Lauf.exitCode() : 1;
+}
+
 std::string PlattformQt::ProgrammOrdner() { return QCoreApplication::applicationDirPath().toStdString(); }
 std::string PlattformQt::Heimordner() {
   return QStandardPaths::writableLocation(QStandardPaths::HomeLocation).toStdString();

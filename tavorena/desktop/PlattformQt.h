@@ -34,6 +34,8 @@ class PlattformQt : public Rückfragen,
   void HauptfensterGröße(int& Breite, int& Hoehe) override;
   void BildschirmGröße(int& Breite, int& Hoehe) override;
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override;
+  int ProgrammAusführen(const std::string& Programm, const std::vector<std::string>& Worte,
+                        std::string& Meldungen) override;
   std::string ProgrammOrdner() override;
   std::string Heimordner() override;
   std::string Dokumentordner() override;

@@ -58,6 +58,7 @@ std::span<const Befehl> Druckbefehle() {
        [] { Wählen("Protokolldatei zum Drucken", "Protokolldateien (*.dru)|*.dru", "*.dru", Prot.Datei); }},
       {"MenüDateiDrucken(20)", false,
        [] { Wählen("Text-Datei zum Drucken", "Textdateien (*.txt)|*.txt", "*.*", ""); }},
+      {"MenüDateiDrucken(30)", false, DruckdateiSenden},
   };
   return Alle;
 }

@@ -14,6 +14,10 @@ namespace tavorena {
 /// read gave a message
 int DateiDrucken(const std::string& Name);
 
+/// Asks for a file that is made for its printer and hands it on byte for byte: to the command of the house
+/// where there is one, else to the print service of the system.
+void DruckdateiSenden();
+
 /// The name that is proposed for the PDF of a file: "a.dru" -> "a-dru.pdf", beside it.
 [[nodiscard]] std::string PdfVorschlag(const std::string& Name);
 

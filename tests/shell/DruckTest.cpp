@@ -35,5 +35,25 @@ TEST_F(Shelltest, DruckenÜberDasMenü) {
   Befehl("MenüDateiDrucken(12)", Ordner.Pfad("fehlt.dru"));
 }
 
+// No shell reads what stands in a name.
+TEST_F(Shelltest, FertigeDateiAnDenDrucker) {
+  const std::string Datei = Ordner.Pfad("a'b $(x).prn");
+  const auto Senden = [&](const char* Anschluß) {
+    Skript.Formulare.push_back(Bediene({{"Wert(0)", Anschluß}, {"OK", ""}}));
+    Befehl("MenüDateiDrucken(30)", Datei);
+    return Skript.Ausgeführt;
+  };
+  EXPECT_EQ(Senden("1"), (Texte{"lp", "-o", "raw", Datei}));
+  setenv("TAVORENA_LPT2", "Plotter", 1);
+  EXPECT_EQ(Senden("2"), (Texte{"lp", "-o", "raw", "-d", "Plotter", Datei}));
+  unsetenv("TAVORENA_LPT2");
+  Skript.Laufergebnis = 1;
+  Skript.Erwarte("Die Datei wurde nicht gedruckt:\n" + Datei + "\n\nvon lp");
+  Senden("3");
+  Skript.Laufergebnis = -1;
+  Skript.Erwarte("Fehler 53");
+  Senden("3");
+}
+
 }  // namespace
 }  // namespace tavorena::test

@@ -95,6 +95,14 @@ class PlattformSkript final : public Rückfragen,
     return 0;
   }
 
+  int ProgrammAusführen(const std::string& Programm, const std::vector<std::string>& Worte,
+                        std::string& Meldungen) override {
+    Ausgeführt = Worte;
+    Ausgeführt.insert(Ausgeführt.begin(), Programm);
+    Meldungen = "von " + Programm;
+    return Laufergebnis;
+  }
+
   /// A question to come: piece of its text and the button that answers it.
   void Erwarte(const std::string& Stück, int Antwort = 1) { Offen.emplace_back(Stück, Antwort); }
 
@@ -110,8 +118,10 @@ class PlattformSkript final : public Rückfragen,
   int LetzteVorgabe = 0;  ///< default button of the last message box
   std::vector<Dateiauftrag> Aufträge;
   std::string Fenstertitel, Programmordner;
-  std::vector<std::string> Gestartet;  ///< a program and its file
-  std::vector<std::string> Gedruckt;   ///< title, proposed name, the lines
+  std::vector<std::string> Gestartet;   ///< a program and its file
+  std::vector<std::string> Ausgeführt;  ///< a program and its arguments
+  int Laufergebnis = 0;                 ///< its exit status
+  std::vector<std::string> Gedruckt;    ///< title, proposed name, the lines
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
   bool Hält = false;
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
