@@ -5,22 +5,15 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/records/Kastenseiten.h>
 #include <tavorena/records/Pol.h>
 
 namespace tavorena {
 namespace {
 
-constexpr int ZeilenJeSeite = 60;
-constexpr int BreiteRahmen = 66;
 const char* const Fortsetzung = " (Fortsetzung)";
 
 using Zeilen = std::vector<std::string>;
-
-std::string Rahmenlinie(const char* Ecke) {
-  std::string Linie = std::string("      ") + Ecke;
-  for (int i = 0; i < BreiteRahmen; ++i) Linie += "─";
-  return Linie;
-}
 
 Zeilen Seitenkopf(const Polnachweis& N, int Seite) {
   Zeilen Kopf =
@@ -107,35 +100,14 @@ bool KopfNehmen(std::string_view Zeile, std::string_view Wort, std::string& Text
 
 }  // namespace
 
-std::vector<std::string> Kastenkopf(int Seite, const std::string& Titel, const Zeilen& Innen) {
-  Zeilen Kopf = {Leerzeichen(33) + "- Seite" + ZahlFeld(Seite, 3) + " -", Rahmenlinie("┌"),
-                 "      │             " + Titel};
-  for (const std::string& Zeile : Innen) Kopf.push_back("      │ " + Zeile);
-  Kopf.push_back(Rahmenlinie("└"));
-  return Kopf;
+std::string PolSeiten(const Polnachweis& N) {
+  std::vector<Zeilen> Kanten;  // an arc is not torn
+  for (const Polkante& K : N.Kanten) Kanten.push_back(Kantenzeilen(K, N.NachkommaKoordinaten));
+  return Kastenseiten(
+      N.Seite, [&](int Seite) { return Seitenkopf(N, Seite); }, Kanten);
 }
 
 std::string PolText(const Polnachweis& N) { return NachCodepage850(PolSeiten(N)); }
-
-std::string PolSeiten(const Polnachweis& N) {
-  std::string Text;
-  int Seite = N.Seite, Frei = 0;
-  const auto Schreiben = [&](const Zeilen& Neue) {
-    for (const std::string& Zeile : Neue) Text += Zeile + "\r\n";
-    Frei -= static_cast<int>(Neue.size());
-  };
-  for (const Polkante& K : N.Kanten) {
-    const Zeilen Neue = Kantenzeilen(K, N.NachkommaKoordinaten);
-    if (Frei < std::ssize(Neue)) {  // an arc is not torn
-      if (!Text.empty()) Text += '\f';
-      Frei = ZeilenJeSeite;
-      Schreiben(Seitenkopf(N, Seite++));
-    }
-    Schreiben(Neue);
-  }
-  if (!Text.empty()) Text += '\f';
-  return Text;
-}
 
 std::vector<Polnachweis> PolLesen(std::string_view Bytes, int* Unlesbar) {
   if (Unlesbar != nullptr) *Unlesbar = 0;

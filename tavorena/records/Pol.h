@@ -29,10 +29,6 @@ struct Polnachweis {
   int NachkommaKoordinaten = 2, NachkommaFlaeche = 0;  ///< 0 to 5
 };
 
-/// The head of a printed page: its number, and a box with a title and lines.
-[[nodiscard]] std::vector<std::string> Kastenkopf(int Seite, const std::string& Titel,
-                                                  const std::vector<std::string>& Zeilen);
-
 /// The pages, at most 60 lines each, behind each a form feed: what comes after them begins on a new page.
 [[nodiscard]] std::string PolSeiten(const Polnachweis& N);
 /// The same as the bytes of a file in code page 850.

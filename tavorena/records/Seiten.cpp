@@ -114,7 +114,7 @@ int DruckdateiLesen(const std::string& Name, Druckseiten& Seiten) {
     Ergebnis = TextdateiLesen(Name, Text, &Grund);
   }
   if (Ergebnis < 0) {
-    Hinweis("Datei nicht gefunden:\n" + Name + InKlammern(Grund));
+    LesefehlerMelden(Name, Grund);
     return -1;
   }
   Grund.clear();

@@ -18,6 +18,7 @@
 #include <tavorena/shell/Befehle.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
+#include <tavorena/shell/Druckaufbereitung.h>
 #include <tavorena/shell/Druckbefehle.h>
 #include <tavorena/shell/Edbsbefehle.h>
 #include <tavorena/shell/Epochenbefehle.h>
@@ -227,8 +228,8 @@ const Befehl* BefehlFinden(std::string_view Eintrag) {
   static const std::vector<Befehl> Alle = [] {
     std::vector<Befehl> B(std::begin(Befehle), std::end(Befehle));
     for (const std::span<const Befehl> Tafel :
-         {Austauschbefehle(), Druckbefehle(), Edbsbefehle(), Epochenbefehle(), Funktionsbefehle(),
-          Nivbefehle(), Punktbefehle(), Rohdatenbefehle(), Umrechenbefehle()})
+         {Austauschbefehle(), Druckaufbereitungsbefehle(), Druckbefehle(), Edbsbefehle(), Epochenbefehle(),
+          Funktionsbefehle(), Nivbefehle(), Punktbefehle(), Rohdatenbefehle(), Umrechenbefehle()})
       B.insert(B.end(), Tafel.begin(), Tafel.end());
     for (const Blattart& Art : Blattarten()) {
       for (const char* Menü : {Art.Menü, Art.WeiteresMenü}) {

@@ -25,24 +25,26 @@ bool Nehmen(const std::string& Text, int Von, int Bis, int& Zahl) {
   return true;
 }
 
-// @return false: cancelled
-bool SeiteFragen(Polnachweis& N) {
-  Wertfeld Felder[] = {{"Start bei:", std::to_string(N.Seite), -1, 0},
-                       {"NK Koord.:", std::to_string(N.NachkommaKoordinaten), -1, 0},
-                       {"NK Fläche:", std::to_string(N.NachkommaFlaeche), -1, 0}};
-  while (DreiWerte("Start der Seitennumerierung und Nachkommastellen", Felder) == 0) {
-    if (Nehmen(Felder[0].Wert, 1, 999, N.Seite) && Nehmen(Felder[1].Wert, 0, 5, N.NachkommaKoordinaten) &&
-        Nehmen(Felder[2].Wert, 0, 5, N.NachkommaFlaeche))
-      return true;
-    Hinweis("Die erste Seite muß zwischen 1 und 999 liegen, die Nachkommastellen zwischen 0 und 5.");
-  }
-  return false;
-}
-
 }  // namespace
 
+int SeitenangabenFragen(int& Seite, int* NachkommaKoordinaten, int& NachkommaFlaeche) {
+  std::vector<Wertfeld> Felder = {{"Start bei:", std::to_string(Seite), -1, 0}};
+  if (NachkommaKoordinaten != nullptr)
+    Felder.push_back({"NK Koord.:", std::to_string(*NachkommaKoordinaten), -1, 0});
+  Felder.push_back({"NK Fläche:", std::to_string(NachkommaFlaeche), -1, 0});
+  while (Wertdialog("Start der Seitennumerierung und Nachkommastellen", Felder) == 0) {
+    const bool Koordinaten =
+        NachkommaKoordinaten == nullptr || Nehmen(Felder[1].Wert, 0, 5, *NachkommaKoordinaten);
+    if (Nehmen(Felder.front().Wert, 1, 999, Seite) && Koordinaten &&
+        Nehmen(Felder.back().Wert, 0, 5, NachkommaFlaeche))
+      return 0;
+    Hinweis("Die erste Seite muß zwischen 1 und 999 liegen, die Nachkommastellen zwischen 0 und 5.");
+  }
+  return -1;
+}
+
 int NachweisSchreiben(Polnachweis& N) {
-  if (!SeiteFragen(N)) return -1;
+  if (SeitenangabenFragen(N.Seite, &N.NachkommaKoordinaten, N.NachkommaFlaeche) < 0) return -1;
   bool Anhängen = false;
   const std::string Name = DateiFragen(Dateititel, Filter, "*.pol", true, &Anhängen);
   if (Name.empty()) return -1;

@@ -7,6 +7,11 @@
 
 namespace tavorena {
 
+/// Asks for the first page number and the decimals of a printed list, up to a good answer.
+/// @param[in,out] NachkommaKoordinaten  nullptr: the list has none
+/// @return 0; -1: cancelled
+[[nodiscard]] int SeitenangabenFragen(int& Seite, int* NachkommaKoordinaten, int& NachkommaFlaeche);
+
 /// Asks for pages, decimals and the file, and writes the proof, behind what the file holds if that is wanted.
 /// @param[in,out] N  Seite and decimals are proposed; afterwards what the next proof begins with
 /// @return 0; -1: broken off, or not written with a message
