@@ -50,18 +50,6 @@ std::string Nasdatei() {
   return Name;
 }
 
-// The most memory that this process has held since the last call [KiB].
-long Speicherspitze() {
-  std::string Wort;
-  std::ifstream Stand("/proc/self/status");
-  long Spitze = 0;
-  while (Stand >> Wort) {
-    if (Wort == "VmHWM:") Stand >> Spitze;
-  }
-  std::ofstream("/proc/self/clear_refs") << "5";
-  return Spitze;
-}
-
 void NasMessen(benchmark::State& Stand) {
   constexpr long Erlaubt = 4 << 10;  // [KiB]
   const std::string Name = Nasdatei();

@@ -117,6 +117,17 @@ bool TabelleIstGanz() {
   return Gleich;
 }
 
+long Speicherspitze() {
+  std::string Wort;
+  std::ifstream Stand("/proc/self/status");
+  long Spitze = 0;
+  while (Stand >> Wort) {
+    if (Wort == "VmHWM:") Stand >> Spitze;
+  }
+  std::ofstream("/proc/self/clear_refs") << "5";
+  return Spitze;
+}
+
 double Prozessorzeit() {
   timespec t{};
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);

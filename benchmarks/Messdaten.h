@@ -33,6 +33,9 @@ bool TabelleIstGanz();
 /// How often this process has taken memory from the heap.
 std::int64_t Zuteilungen();
 
+/// The most memory that this process has held since the last call [KiB].
+long Speicherspitze();
+
 /// Processor time of this thread [s]: what other programs do on the machine does not count.
 double Prozessorzeit();
 

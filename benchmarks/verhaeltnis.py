@@ -26,6 +26,7 @@ PAARE = (
     ("EdbsLesen/20000", ("NurSpalten/20000",), 4.0),
     ("EdbsText/20000", ("FmtEdbs/20000",), 3.0),
     ("DxfPunkte/20000", ("FmtDxf/20000",), 3.0),
+    ("Pdf/1000", ("Pdf/100",), 12.0),
     ("KorSuche/letzte", ("StdFind/letzte",), 3.0),
     ("KorSuche/fehlt", ("StdFind/fehlt",), 3.0),
     ("Neupunkt", ("AnhaengenUndSortieren",), 0.05),
