@@ -79,7 +79,9 @@ bool SeitenZeichnen(cairo_t* Zeichnung, const Druckseiten& Seiten) {
 int PdfErzeugen(const Druckseiten& Seiten, const std::string& Titel, std::string& Bytes, std::string& Grund) {
   const Fläche Blätter(cairo_pdf_surface_create_for_stream(Anhängen, &Bytes, Blattbreite, Blatthöhe),
                        cairo_surface_destroy);
-  cairo_pdf_surface_set_metadata(Blätter.get(), CAIRO_PDF_METADATA_TITLE, Titel.c_str());
+  // A file name can hold any bytes, a title can not.
+  const std::string Lesbar = IstUtf8(Titel) ? Titel : AusWindows1252(Titel);
+  cairo_pdf_surface_set_metadata(Blätter.get(), CAIRO_PDF_METADATA_TITLE, Lesbar.c_str());
   cairo_pdf_surface_set_metadata(Blätter.get(), CAIRO_PDF_METADATA_CREATE_DATE, Datum().c_str());
   const Stift Zeichnung(cairo_create(Blätter.get()), cairo_destroy);
   if (!SchriftWählen(Zeichnung.get(), Seiten.Schrift)) {
