@@ -17,6 +17,8 @@ constexpr Seite Seiten[] = {
     {1040, "austausch.md"},
     {1045, "rohdaten.md"},
     {1046, "austausch.md"},
+    {1047, "csv.md"},
+    {1050, "austausch.md"},
     {1060, "datei.md"},
     {1080, "stapel.md"},
     {1090, "protokoll.md"},
