@@ -14,10 +14,11 @@ TMPDIR=$(mktemp -d "${TMPDIR:-/tmp}/tavorena-fuzz-XXXXXX")
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 mkdir -p build/fuzz/befunde
-for EINTRAG in antwort:2048 blatt:2048 codeblock:512 csv:2048 dat:2048 dxf:4096 edbs:2048 flg:2048 geo:1024 ges:4096 \
-  gre:2048 gsi:4096 hli:4096 ini:4096 konsole:8192 kor:4096 lt4:4096 m5:4096 nas:4096 niv:2048 passpunkte:2048 pol:4096 seiten:4096 sel:2048 \
-  sortierung:4096 sta:4096 text:512 theo:1024 ta_linien:512 ta_messlinie:512 ta_schnitte:512 \
-  ta_einschnitte:512 ta_flaeche:2048 ta_transformation:2048 ta_stationierung:2048 ta_geo:512; do
+for EINTRAG in antwort:2048 blatt:2048 codeblock:512 csv:2048 dat:2048 dxf:4096 edbs:2048 flg:2048 \
+  frei:2048 geo:1024 ges:4096 gre:2048 gsi:4096 hli:4096 ini:4096 konsole:8192 kor:4096 liste:4096 \
+  lt4:4096 m5:4096 nas:4096 niv:2048 passpunkte:2048 pol:4096 seiten:4096 sel:2048 sortierung:4096 \
+  sta:4096 text:512 theo:1024 ta_linien:512 ta_messlinie:512 ta_schnitte:512 ta_einschnitte:512 \
+  ta_flaeche:2048 ta_transformation:2048 ta_stationierung:2048 ta_geo:512; do
   ZIEL=${EINTRAG%:*}
   SAAT=fuzz/saat/$ZIEL
   [ -d "$SAAT" ] || SAAT=
