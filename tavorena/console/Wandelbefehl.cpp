@@ -3,7 +3,6 @@
 
 #include <tavorena/console/Befehle.h>
 #include <tavorena/core/Optionen.h>
-#include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zeichensatz.h>
@@ -160,11 +159,8 @@ bool Wandeln(const Aufruf& A, const Umfeld& U) {
   Freiformat Vermutet;  // given by the option
   if (Gegeben(A, "--frei")) CsvFormatKlären(A.Datei, Format, Vermutet);
   Lesebericht B;
-  if (PunkteEinlesen(A.Datei, Lesemodus::Ersetzen, Format, B) < 0) return false;
-  if (B.Abgeschnitten && !A.Trotzdem) {
-    DateiendeMeldung(A.Datei);
-    return false;
-  }
+  // A file that was cut is a failure by now, unless the call takes it.
+  if (PunkteEinlesen(A.Datei, Lesemodus::Ersetzen, Format, B) < 0 || U.Beendet()) return false;
   if (TabelleAusgeben(A.Ziel, Nach.Nach, ZeichensatzFür(A, Nach.Nach)) < 0) return false;
   U.Ausgabe << "Punkte: " << B.Gelesen << "  übergangen: " << B.Übergangen << '\n';
   if (!B.Zusatz.empty()) U.Ausgabe << Sichtbar(B.Zusatz) << '\n';

@@ -144,10 +144,11 @@ QString QtFilter(const std::string& Filter) {
 QComboBox* ListeAnfügen(QFileDialog& Dialog, const Dateiauftrag& Auftrag) {
   auto* Platz = qobject_cast<QGridLayout*>(Dialog.layout());
   if (Auftrag.Liste.empty() || Platz == nullptr) return nullptr;
-  auto* Titel = new QLabel(Q(Auftrag.Listentitel), &Dialog);
+  auto* Titel = new QLabel("&" + Q(Auftrag.Listentitel), &Dialog);
   auto* Liste = new QComboBox(&Dialog);
   for (const std::string& Eintrag : Auftrag.Liste) Liste->addItem(Q(Eintrag));
   Liste->setCurrentIndex(Auftrag.ListeGewählt);
+  Liste->setObjectName("Dateiliste");
   Liste->setAccessibleName(Q(Auftrag.Listentitel));
   Titel->setBuddy(Liste);
   const int Zeile = Platz->rowCount();

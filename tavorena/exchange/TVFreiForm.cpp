@@ -60,7 +60,8 @@ class TVFreiForm final : public Dialogform {
                               {1, 0}, RahmenVorschau);
     Vorschau->NurLesen = true;
     Vorschau->Auffällig = [this](int z, int s) {
-      return Zweifel[static_cast<std::size_t>(z)][static_cast<std::size_t>(s)];
+      const auto Zeile = static_cast<std::size_t>(z);
+      return Zeile < Zweifel.size() && Zweifel[Zeile][static_cast<std::size_t>(s)];
     };
     OkUndAbbruch([this] { Übernehmen(); }, "FreiOK", "FreiAbbruch");
     Darstellen();

@@ -30,7 +30,8 @@ int PunkteEinlesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Fo
   if (Ergebnis == 0 && Modus == Lesemodus::Ersetzen)
     AusgelassenMerken(Dateiname, Bericht.Übergangen, Bericht.Überzählig);
   if (Ergebnis == 0 && Bericht.Gelesen > 0) return 0;
-  if (Ergebnis == 0 && !Bericht.Gestoppt) FehlerMeldung("Format nicht erkannt");
+  // That the table is full was told.
+  if (Ergebnis == 0 && !Bericht.Gestoppt && Bericht.Überzählig == 0) FehlerMeldung("Format nicht erkannt");
   KorGeaendertSetzen(Geändert);
   return Ergebnis == -2 ? -2 : -1;
 }

@@ -384,6 +384,24 @@ class RahmenTest final : public Fensterumgebung {
     }
   }
 
+  void zeichensatzBeimExport() {
+    Öffne();
+    const QString Ziel = Pfad("zeichen.lfs");
+    Dialoge.push_back([Ziel] {
+      QWidget* Dialog = VordererDialog();
+      auto* Feld = Dialog->findChild<QLineEdit*>("fileNameEdit");
+      Feld->setText(Ziel);
+      QTest::keyClick(Dialog, Qt::Key_Z, Qt::AltModifier);
+      auto* Liste = Dialog->findChild<QComboBox*>("Dateiliste");
+      QVERIFY(Liste->hasFocus());
+      QCOMPARE(Liste->currentText(), "UTF-8");
+      QTest::keyClick(Liste, Qt::Key_Down);
+      QTest::keyClick(Feld, Qt::Key_Return);
+    });
+    Menü("MenüDateiExportieren(0)");
+    QVERIFY(Inhalt(Ziel).startsWith("\xEF\xBB\xBF    1001 3500100.000"));
+  }
+
   // A click into the button of the link runs until its line is closed: what follows is done by a timer, each
   // step as soon as what it waits for is there.
   void theodolitNebenDemBlatt() {

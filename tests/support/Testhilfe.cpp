@@ -88,6 +88,7 @@ void PlattformSkript::FormularZeigen(Formular& Form, bool Modal) {
 
 std::string PlattformSkript::DateiWählen(Dateiauftrag& Auftrag) {
   Aufträge.push_back(Auftrag);
+  if (!Auftrag.Liste.empty()) Auftrag.ListeGewählt = Listeneintrag;
   return Nehmen(Dateien, "file dialog: " + Auftrag.Titel);
 }
 

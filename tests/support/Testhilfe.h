@@ -115,6 +115,7 @@ class PlattformSkript final : public Rückfragen,
   std::function<std::unique_ptr<Leitung>(const std::string&)> BeiLeitung = [](auto&) { return nullptr; };
   std::array<std::string, 8> Status;
   std::vector<std::string> Titel;
+  int Listeneintrag = 0;  ///< chosen in the list of a file dialog
   int LetzteVorgabe = 0;  ///< default button of the last message box
   std::vector<Dateiauftrag> Aufträge;
   std::string Fenstertitel, Programmordner;
