@@ -18,7 +18,7 @@ constexpr Seite Seiten[] = {
     {1045, "rohdaten.md"},
     {1046, "austausch.md"},
     {1047, "csv.md"},
-    {1050, "austausch.md"},
+    {1048, "austausch.md"},
     {1060, "datei.md"},
     {1080, "stapel.md"},
     {1090, "protokoll.md"},
