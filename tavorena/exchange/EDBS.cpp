@@ -38,11 +38,12 @@ bool NurZiffern(std::string_view Text) { return std::all_of(Text.begin(), Text.e
 
 // Each character of a text is one byte.
 bool EinByteJeZeichen(std::string_view Text) {
-  std::uint64_t Oben = 0, Acht = 0;
+  std::array<std::uint64_t, 4> Worte{};
+  std::uint64_t Oben = 0;
   std::size_t i = 0;
-  for (; i + sizeof Acht <= Text.size(); i += sizeof Acht) {
-    std::memcpy(&Acht, Text.data() + i, sizeof Acht);
-    Oben |= Acht;
+  for (; i + sizeof Worte <= Text.size(); i += sizeof Worte) {
+    std::memcpy(Worte.data(), Text.data() + i, sizeof Worte);
+    Oben |= (Worte[0] | Worte[1]) | (Worte[2] | Worte[3]);
   }
   for (; i < Text.size(); ++i) Oben |= static_cast<unsigned char>(Text[i]);
   return (Oben & 0x8080808080808080U) == 0;
@@ -51,11 +52,14 @@ bool EinByteJeZeichen(std::string_view Text) {
 // The columns of a line, counted from 1.
 class Spalten {
  public:
-  explicit Spalten(std::string_view Z) : Zeile(Z), EinByte(EinByteJeZeichen(Z)) {}
+  explicit Spalten(std::string_view Z) : Spalten(Z, EinByteJeZeichen(Z)) {}
+  /// Of a text that is known.
+  Spalten(std::string_view Z, bool EinByteJeZeichen) : Zeile(Z), EinByte(EinByteJeZeichen) {}
   [[nodiscard]] std::size_t Anzahl() const { return EinByte ? Zeile.size() : ZeichenAnzahl(Zeile); }
   [[nodiscard]] std::string_view Teil(std::size_t Von, std::size_t Bis) const {
     if (!EinByte) return TextTeil(Zeile, Von - 1, Bis - Von + 1);
-    return Von <= Zeile.size() ? Zeile.substr(Von - 1, Bis - Von + 1) : std::string_view();
+    const std::size_t Ab = std::min(Von - 1, Zeile.size());
+    return {Zeile.data() + Ab, std::min(Bis, Zeile.size()) - Ab};
   }
 
  private:
@@ -69,13 +73,21 @@ std::string_view OhneLeerzeichenHinten(std::string_view Zeile) {
 
 // What nearly every column holds: digits alone. @return -1: anything else
 double NurGanzzahl(std::string_view Feld) {
-  if (Feld.empty() || Feld.size() > 15) return -1;
+  static constexpr std::int64_t Wert[] = {
+      1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000, 10000000000, 100000000000};
+  if (Feld.empty() || Feld.size() > std::size(Wert)) return -1;
   std::int64_t Zahl = 0;
-  for (const char z : Feld) {
-    if (!IstZiffer(z)) return -1;
-    Zahl = Zahl * 10 + (z - '0');
+  bool Ziffern = true;
+  for (std::size_t i = 0; i < Feld.size(); ++i) {  // no digit waits for the one before it
+    Ziffern &= IstZiffer(Feld[i]);
+    Zahl += (Feld[i] - '0') * Wert[Feld.size() - 1 - i];
   }
-  return static_cast<double>(Zahl);
+  return Ziffern ? static_cast<double>(Zahl) : -1;
+}
+
+std::string_view OhneLeerzeichenVorn(std::string_view Feld) {
+  while (Feld.starts_with(' ')) Feld.remove_prefix(1);
+  return Feld;
 }
 
 double Ganzzahl(std::string_view Feld) {
@@ -84,14 +96,17 @@ double Ganzzahl(std::string_view Feld) {
 }
 
 std::int16_t Kurzzahl(std::string_view Feld) {
+  if (Feld.size() == 1 && IstZiffer(Feld.front())) return static_cast<std::int16_t>(Feld.front() - '0');
+  if (Feld.empty()) return 0;
   const double Zahl = Feld.size() < 5 ? NurGanzzahl(Feld) : -1;
   return Zahl >= 0 ? static_cast<std::int16_t>(Zahl) : KurzAusText(Feld);
 }
 
 // Millimetres. @return false: there is no number
 bool MillimeterLesen(std::string_view Feld, double& Meter) {
-  Feld = TrimmenSicht(Feld);
+  Feld = OhneLeerzeichenVorn(Feld);
   const double Zahl = NurGanzzahl(Feld);
+  if (Zahl < 0) Feld = TrimmenSicht(Feld);
   if (Zahl < 0 && !IstZahlwort(Feld)) return false;
   Meter = (Zahl >= 0 ? Zahl : ZahlAusText(Feld)) / 1000;
   return std::isfinite(Meter);
@@ -102,13 +117,14 @@ void HöheLesen(const Spalten& Z, EDBSSatz& S) {
   const std::size_t n = Z.Anzahl();
   const bool Verschoben = n > GanzerSatz && Z.Teil(n - 3, n) == Satzende;
   const std::size_t Bis = Verschoben ? n - 6 : 98;  // last column of the height
-  S.Hoehe = n >= Bis ? Ganzzahl(TrimmenSicht(Z.Teil(93, Bis))) / 1000 : 0;
+  S.Hoehe = n >= Bis ? Ganzzahl(OhneLeerzeichenVorn(Z.Teil(93, Bis))) / 1000 : 0;
   S.Info.ArtHoehenbestimmung = n >= Bis + 2 ? Kurzzahl(Z.Teil(Bis + 1, Bis + 2)) : std::int16_t{0};
 }
 
-// Stars are a text that had no room.
-std::string_view Textspalte(std::string_view Feld) {
-  return Feld.find_first_not_of('*') == std::string_view::npos ? std::string_view() : Feld;
+// Stars are a text that had no room. What the record before had is seldom another text.
+void TextspalteLesen(std::string_view Feld, std::string& Text) {
+  if (Feld.find_first_not_of('*') == std::string_view::npos) Feld = {};
+  if (Text != Feld) Text = Feld;
 }
 
 std::string_view SymbolVon(std::string_view Art) {
@@ -219,10 +235,9 @@ void TabelleAnhängen(std::string& Ziel, int Vorher) {
   }
 }
 
-}  // namespace
+// ---- reading ---------------------------------------------------------------------------------------
 
-EDBSZeile EDBSZeileArt(std::string_view Zeile) {
-  const Spalten Z(Zeile.substr(0, 160));  // 40 characters at least
+EDBSZeile ArtVon(const Spalten& Z) {
   const std::string_view Kennung = Z.Teil(13, 16), Information = Z.Teil(29, 36);
   if (Kennung == "AKND") return EDBSZeile::Anfang;
   if (Kennung == "AEND") return EDBSZeile::Ende;
@@ -232,8 +247,7 @@ EDBSZeile EDBSZeileArt(std::string_view Zeile) {
   return Information.starts_with("ULP") || Eigene() ? EDBSZeile::Punkt : EDBSZeile::Andere;
 }
 
-int EDBSSatzLesen(std::string_view Zeile, EDBSSatz& S) {
-  const Spalten Z(OhneLeerzeichenHinten(Zeile));
+int SatzLesen(const Spalten& Z, EDBSSatz& S) {
   if (Z.Anzahl() < KürzesterSatz || !MillimeterLesen(Z.Teil(70, 80), S.Rechts) ||
       !MillimeterLesen(Z.Teil(81, 91), S.Hoch))
     return -1;
@@ -247,12 +261,20 @@ int EDBSSatzLesen(std::string_view Zeile, EDBSSatz& S) {
   S.Info.Punktstatus = Kurzzahl(Z.Teil(61, 61));
   S.Info.Aktualitaet = Kurzzahl(Z.Teil(62, 62));
   S.Info.Vermarkungsart = Kurzzahl(Z.Teil(63, 63));
-  S.Info.BemZurVerm = Ganzzahl(Z.Teil(64, 64));
-  S.Info.Entstehung = Textspalte(Z.Teil(65, 65));
-  S.Info.Lagestatus = Textspalte(Z.Teil(66, 68));
-  S.Info.Lagegenauigkeit = Textspalte(Z.Teil(69, 69));
+  S.Info.BemZurVerm = Kurzzahl(Z.Teil(64, 64));
+  TextspalteLesen(Z.Teil(65, 65), S.Info.Entstehung);
+  TextspalteLesen(Z.Teil(66, 68), S.Info.Lagestatus);
+  TextspalteLesen(Z.Teil(69, 69), S.Info.Lagegenauigkeit);
   HöheLesen(Z, S);
   return 0;
+}
+
+}  // namespace
+
+EDBSZeile EDBSZeileArt(std::string_view Zeile) { return ArtVon(Spalten(Zeile)); }
+
+int EDBSSatzLesen(std::string_view Zeile, EDBSSatz& S) {
+  return SatzLesen(Spalten(OhneLeerzeichenHinten(Zeile)), S);
 }
 
 void EDBSSatzAnhängen(std::string& Ziel, int Nummer, const KorSatz& S) {
@@ -291,7 +313,7 @@ namespace {
 // The text of a file, in its bytes or in Ablage, and its coding.
 std::string_view Entschlüsselt(std::string_view Bytes, EDBSRahmen& R, std::string& Ablage) {
   if (Bytes.ends_with('\x1A')) Bytes.remove_suffix(1);
-  R.Windows1252 = !IstUtf8(Bytes);
+  R.Windows1252 = !EinByteJeZeichen(Bytes) && !IstUtf8(Bytes);
   R.MitBom = !R.Windows1252 && Bytes.starts_with(Bom);
   if (R.Windows1252) return Ablage = AusWindows1252(Bytes);
   return Bytes.substr(R.MitBom ? Bom.size() : 0);
@@ -306,6 +328,7 @@ class EDBSLesung {
   EDBSRahmen R;
 
   void Laufen(std::string_view Text) {
+    Schlicht = EinByteJeZeichen(Text);
     Zeilenleser Leser(Text);
     std::string_view Zeile, Letzte;
     while (Leser.Nächste(Zeile)) {
@@ -326,7 +349,9 @@ class EDBSLesung {
 
  private:
   void ZeileNehmen(std::string_view Zeile) {
-    switch (EDBSZeileArt(Zeile)) {
+    const std::string_view Kurz = OhneLeerzeichenHinten(Zeile);
+    const Spalten Z(Kurz, Schlicht || EinByteJeZeichen(Kurz));
+    switch (ArtVon(Z)) {
       case EDBSZeile::Anfang:
         return RahmenNehmen(R.Anfang, Zeile);
       case EDBSZeile::Ende:
@@ -334,7 +359,7 @@ class EDBSLesung {
       case EDBSZeile::Punkt:
         ++Punktzeilen;
         if (!Weiter) return;  // the closing record is still looked for
-        if (EDBSSatzLesen(Zeile, S) < 0) return Übergehen();
+        if (SatzLesen(Z, S) < 0) return Übergehen();
         Weiter = Nehmen(S);
         return;
       case EDBSZeile::Andere:
@@ -354,6 +379,7 @@ class EDBSLesung {
   EDBSSatz S;
   int Zeilennummer = 0, Punktzeilen = 0;
   bool Weiter = true;
+  bool Schlicht = false;  // the whole text has one byte for each character
 };
 
 int EDBSLesen(const Punktquelle& Quelle, const Punktnehmer& Nehmen, Lesebericht& B) {
