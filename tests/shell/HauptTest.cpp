@@ -252,7 +252,7 @@ TEST_F(Haupt, MisslungenesLesenLäßtDenTitelStehen) {
   Skript.Erwarte("nicht vorhanden ! (ist ein Ordner)");
   Befehl("MenüDateiLesen(0)", Ordner.Pfad("app/.."));
   Schreibe(Ordner.Pfad("a.eds"), "x");
-  Skript.Erwarte("Das Format der Datei wird nicht gelesen");
+  Skript.Erwarte("Format nicht erkannt");
   Befehl("MenüDateiLesen(0)", Ordner.Pfad("a.eds"));
   EXPECT_EQ(Historie[0].Dateiname, "");
 }
