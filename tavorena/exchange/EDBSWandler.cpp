@@ -62,6 +62,7 @@ class Wandler {
     };
     if (EDBSPunkteLesen(Bytes, Nehmen, B) < 0) return -1;
     if (Gestoppt) return -2;
+    W.Verlust = Prüfer.Liste();
     W.Übergangen = B.Übergangen;
     W.ErsteÜbergangene = B.ErsteÜbergangene;
     if (B.Abgeschnitten) DateiendeMeldung(A.Ein);
@@ -96,8 +97,9 @@ class Wandler {
     std::string Pnr(Tabelle ? S.Pnr : S.Kennung);
     if (A.Nummer == EDBSNummer::KmQuadrat) Pnr.insert(0, S.KmQuadrat);
     Pnr = AlsWort(Pnr);
-    KorZeileAnhängen(W.Kor, Pnr, S.Rechts, S.Hoch, S.Hoehe, TrimmenSicht(Tabelle ? S.Symbol : S.Art),
-                     Optionen.OptNachkommaSpeichern);
+    const std::string_view Symbol = TrimmenSicht(Tabelle ? S.Symbol : S.Art);
+    KorZeileAnhängen(W.Kor, Pnr, S.Rechts, S.Hoch, S.Hoehe, Symbol, Optionen.OptNachkommaSpeichern);
+    Prüfer.Punkt({Pnr, S.Rechts, S.Hoch, S.Hoehe, Symbol});
     W.Kor += "\r\n";
     ProtokollzeileAnhängen(S, Pnr);
     Nummern.insert(std::move(Pnr));
@@ -125,6 +127,7 @@ class Wandler {
   const EDBSAuftrag& A;
   EDBSWandlung& W;
   Verbindung V;
+  Verlustprüfer Prüfer{*FormatFinden(Punktformat::Kor), Optionen.OptNachkommaSpeichern};
   std::unordered_set<std::string> Nummern;  // of the converted points
   Atempause Pause{0.5};
 };
@@ -140,6 +143,7 @@ int EDBSWandeln(const EDBSAuftrag& Auftrag, EDBSWandlung& W) {
 }
 
 int EDBSWandlungSchreiben(const EDBSAuftrag& Auftrag, const EDBSWandlung& W) {
+  if (!VerlustErlaubt(Auftrag.Aus, W.Verlust)) return -1;
   const std::string Protokoll = Protokollname(Auftrag.Aus);
   const auto Scheitern = [](const std::string& Datei, const std::string& Grund) {
     Hinweis("Fehler aufgetreten beim Anlegen von\n" + Datei + InKlammern(Grund));

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include <tavorena/core/Verlust.h>
+
 // EDBS to KOR, line by line in the order of the file: the point table is not touched, and its limit does not
 // hold.
 
@@ -27,6 +29,7 @@ struct EDBSWandlung {
   int Kataster = 0;            ///< of the other one
   int Übergangen = 0;          ///< lines of the EDBS file that are no points
   int ErsteÜbergangene = 0;    ///< number of the first of them, from 1
+  Verlustliste Verlust;        ///< what the output does not keep of the points of the EDBS file
 };
 
 /// Reads the files. A file that ends inside a record is told by DateiendeMeldung, what was read stays. Long
@@ -35,8 +38,9 @@ struct EDBSWandlung {
 ///         -2 stopped
 [[nodiscard]] int EDBSWandeln(const EDBSAuftrag& Auftrag, EDBSWandlung& W);
 
-/// Replaces the output, and extends the protocol that stands beside it with the ending "dru".
-/// @return 0; -1 with a message, the files are then as they were
+/// Asks about what the output does not keep, replaces it, and extends the protocol that stands beside it with
+/// the ending "dru".
+/// @return 0; -1 by the answer or with a message, the files are then as they were
 [[nodiscard]] int EDBSWandlungSchreiben(const EDBSAuftrag& Auftrag, const EDBSWandlung& W);
 
 }  // namespace tavorena

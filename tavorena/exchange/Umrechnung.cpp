@@ -10,6 +10,7 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
+#include <tavorena/core/Verlust.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/Umrechnung.h>
 
