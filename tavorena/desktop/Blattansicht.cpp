@@ -14,7 +14,8 @@ namespace tavorena {
 namespace {
 
 constexpr double Steg = 12;  // around a sheet [pixels]
-constexpr double Zoomstufe = 1.2, KleinsterZoom = 0.2, GrößterZoom = 5, BreitesterZoom = 1.5;
+constexpr double Zoomstufe = 1.2, KleinsterZoom = 0.2, GrößterZoom = 5;
+constexpr double LesbarerZoom = 1, BreitesterZoom = 1.5;  // of a text at the beginning
 
 }  // namespace
 
@@ -32,12 +33,12 @@ double Blattansicht::Höhe() const { return Papier().height() * Zoom; }
 // The upper edge of a sheet, from that of all [pixels].
 double Blattansicht::Oben(int Welches) const { return Steg + Welches * (Höhe() + Steg); }
 
-// The largest zoom at which a sheet, or its width, is seen.
+// The largest zoom at which a sheet, or its width, is seen; a text can be read in any case.
 double Blattansicht::Passend() const {
   const QSizeF Platz = maximumViewportSize() - QSizeF(2 * Steg, 2 * Steg);
   const double Breite = (Platz.width() - verticalScrollBar()->sizeHint().width()) / Papier().width();
   return Quelle.Übersicht() ? std::min(Breite, Platz.height() / Papier().height())
-                            : std::min(Breite, BreitesterZoom);
+                            : std::clamp(Breite, LesbarerZoom, BreitesterZoom);
 }
 
 void Blattansicht::Auffrischen() {

@@ -120,7 +120,7 @@ class Fensterumgebung : public QObject {
   // The lines of a PDF as a reader of somebody else finds them.
   QString PdfText(const char* Name) const {
     QProcess Zeuge;
-    Zeuge.start("pdftotext", {"-layout", Pfad(Name), "-"});
+    Zeuge.start("pdftotext", {"-fixed", "6.02", Pfad(Name), "-"});
     return Zeuge.waitForFinished() ? QString::fromUtf8(Zeuge.readAllStandardOutput()) : QString();
   }
   void Menü(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
