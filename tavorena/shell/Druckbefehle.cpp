@@ -57,7 +57,7 @@ std::span<const Befehl> Druckbefehle() {
       {"MenüDateiDrucken(12)", false,
        [] { Wählen("Protokolldatei zum Drucken", "Protokolldateien (*.dru)|*.dru", "*.dru", Prot.Datei); }},
       {"MenüDateiDrucken(20)", false,
-       [] { Wählen("Text-Datei zum Drucken", "Textdateien (*.txt)|*.txt", "*.*", ""); }},
+       [] { Wählen("Text-Datei zum Drucken", "Textdateien (*.txt)|*.txt", "*", ""); }},
       {"MenüDateiDrucken(30)", false, DruckdateiSenden},
   };
   return Alle;
