@@ -48,6 +48,8 @@ constexpr Seite Seiten[] = {
     {6040, "setzung.md"},
     {6050, "absteckung.md"},
     {6060, "funktionen.md"},
+    {6070, "index.md"},
+    {7000, "menuepunkte.md"},
     {7010, "umrechnen.md"},
     {7020, "index.md"},
     {8000, "index.md"},

@@ -401,6 +401,9 @@ TEST_F(Programm, MenüWieImFenster) {
         "Koordinatendatei offen\n"}) {
     EXPECT_NE(Aus.find(Zeile), std::string::npos) << Zeile;
   }
+  // The page of the handbook is what the tree says.
+  EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue --seite"), 0);
+  EXPECT_EQ(Aus, Inhalt(TAVORENA_HANDBUCH "/menuepunkte.md"));
   EXPECT_EQ(Laufen(TAVORENA_STAPEL, "menue --koordinaten a.kor"), 0);
   EXPECT_NE(Aus.find("MenüKatasterLinel\t&Linienelemente\tMenüMain(4)\tfrei\t\n"), std::string::npos);
 }

@@ -69,7 +69,8 @@ TEST_F(Haupt, Menüzustände) {
   for (const bool Offen : {false, true}) {
     SCOPED_TRACE(Offen);
     if (Offen) Öffne();
-    for (const char* Name : {"MenüMain(4)", "MenüDateiSpeichern(0)", "MenüKatasterLinel"})
+    for (const char* Name :
+         {"MenüMain(4)", "MenüDateiLesen(1)", "MenüDateiSpeichern(0)", "MenüKatasterLinel"})
       EXPECT_EQ(Aktiv(Name), Offen) << Name;
     for (const char* Name : {"MenüDateiNeu", "MenüOptionenOptionen", "MenüOptionenDateinam"})
       EXPECT_TRUE(Aktiv(Name)) << Name;
@@ -80,7 +81,7 @@ TEST_F(Haupt, Menüzustände) {
   }
 }
 
-// Each entry works, or says in one of these words why not.
+// Each entry works, or says in one of these words why not; each has its page.
 TEST_F(Haupt, JederMenüpunktOderSeinGrund) {
   const TVKernMDIForm& Kern = TVKernMDIForm::Fenster();
   const std::set<std::string_view> Sperren = {"keine Koordinatendatei offen",
@@ -94,7 +95,14 @@ TEST_F(Haupt, JederMenüpunktOderSeinGrund) {
       if (*E.Titel == '\0') continue;
       SCOPED_TRACE(E.Name);
       const std::string_view Grund = Kern.Grund(E);
+      const bool Menü = std::any_of(Menübaum().begin(), Menübaum().end(), [&](const Menüeintrag& U) {
+        return std::string_view(U.Eltern) == E.Name;
+      });
+      const bool Hist = std::string_view(E.Name).starts_with("MenüDateiHist(");
+      EXPECT_TRUE(!Grund.empty() || Menü || Hist || BefehlFinden(E.Name) != nullptr);
       EXPECT_TRUE(Grund.empty() || (Kern.Sichtbar(E) ? Sperren : Verstecke).contains(Grund)) << Grund;
+      EXPECT_TRUE(!Kern.Sichtbar(E) || Menü || E.Eltern == std::string_view("MenüMain(18)") ||
+                  Handbuchseite(Kern.Hilfe(E)) != std::string_view("index.md"));
     }
     for (const Werkzeug& W : Symbolleiste()) {
       const std::string_view Grund = Kern.Grund(W);
