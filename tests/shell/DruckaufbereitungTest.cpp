@@ -24,7 +24,7 @@ TEST_F(Druckaufbereitung, Flächenliste) {
   Schreibe(Flt,
            "Flurst\xFC"
            "ck;Fl\xE4"
-           "che\r\n12/3;1234,5\r\n12/4, 100\r\n12/5\t  7.25\r\n12/6,1000;\r\n12/7 1234,5\r\n\r\n"
+           "che\r\n12/3;1234,5\r\n12/4, 100\r\n12/5\t  7.25\r\n12/6,1000\r\n12/7 1234,5\r\n\r\n"
            "Flur 3 9/1 200\r\n12/8 \r\n;5\r\n");
   Skript.Erwarte("5 Flurstücke gelesen, 4 Zeilen übergangen (erste: Zeile 1)");
   Angaben({"12", "1"});
@@ -55,11 +55,10 @@ TEST_F(Druckaufbereitung, Flächennachweis) {
   const std::string Pol = Ordner.Pfad("a.pol"), Dru = Ordner.Pfad("a-pol.dru");
   Polnachweis N{"Flurstück 1", "", 600, {}, 1, 2, 0};
   for (int i = 0; i < 60; ++i) {  // many points on its last side
-    const Lage Ort = i == 0   ? Lage{3500000, 5600000}
-                     : i == 1 ? Lage{3500030, 5600000}
-                     : i == 2 ? Lage{3500030, 5600020.05}
-                              : Lage{3500000, 5600020.05 - i * 0.25};
-    N.Kanten.push_back({{Ort.RW, Ort.HW, std::to_string(i)}, 1.25, Kantenart::Linie});
+    const double RW = i == 1 || i == 2 ? 3500030 : 3500000, HW = 5600020.05 - (i < 2    ? 20.05
+                                                                               : i == 2 ? 0
+                                                                                        : i * 0.25);
+    N.Kanten.push_back({{RW, HW, std::to_string(i)}, 1.25, Kantenart::Linie});
   }
   Polnachweis Zweiter{"Ünder", "Ost", 12.5, {N.Kanten[0], N.Kanten[1]}, 1, 2, 2};
   Zweiter.Kanten[1] = {{3500030, 5600000, "B"}, 9, Kantenart::InnenLang, 20.5, 3500001, 5600002, 3};
