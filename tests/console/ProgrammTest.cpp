@@ -87,7 +87,7 @@ TEST_F(Programm, Rückgabewerte) {
       {"pdf a.sta a.pdf", 0, ""},
       {"pdf --koordinaten a.kor k.pdf", 0, ""},
       {"pdf a.sta", 2, "tavorena-stapel: die PDF-Datei fehlt"},
-      {"pdf a.sta ./gleich", 2, "./gleich: die Ausgabedatei ist auch die Datei des Befehls"},
+      {"pdf a.sta ./gleich", 1, "./gleich: Dateiname für Ein- und Ausgabe ist gleich:"},
       {"pdf --koordinaten a.kor ./a.kor", 2, "./a.kor: die Ausgabedatei ist auch die Koordinatendatei"},
       {"pdf --koordinaten a.kor a.sta a.pdf", 2, "tavorena-stapel: --koordinaten oder a.sta, nicht beide"},
       {"pdf fehlt.txt a.pdf", 1, "fehlt.txt: Datei nicht gefunden:"},
@@ -200,17 +200,22 @@ TEST_F(Programm, PdfOhneBildschirm) {
   Schreibe(Ordner.Pfad("a.dru"),
            "von gestern, Stra\xDF"
            "e\r\n");  // in Windows-1252, and stays so
+  Schreibe(Ordner.Pfad("u.sta"), "M VR 24.40 Straße\r\nPAN 1001\r\nPEN 1002\r\nNR 2003\r\nE\r\n");
   for (int Lauf = 0; Lauf < 2; ++Lauf) {
-    ASSERT_EQ(Laufen(TAVORENA_STAPEL, "--koordinaten a.kor --protokoll a.dru --pdf a.pdf a.sta"), 0);
+    ASSERT_EQ(Laufen(TAVORENA_STAPEL, "--koordinaten a.kor --protokoll a.dru --pdf a.pdf u.sta"), 0);
     ASSERT_EQ(Laufen("pdftotext", "-fixed 6.02 a.pdf -"), 0);
-    EXPECT_EQ(std::tuple(Anzahl("gestern"), Anzahl("|VR 24.40  x"), Anzahl("  2003\n")), std::tuple(0, 1, 1))
+    EXPECT_EQ(std::tuple(Anzahl("gestern"), Anzahl("|VR 24.40  Straße"), Anzahl("  2003\n")),
+              std::tuple(0, 1, 1))
         << Aus;
   }
   ASSERT_EQ(Laufen(TAVORENA_STAPEL, "--koordinaten a.kor --protokoll a.dru --pdf a.pdf fehler.sta"), 1);
+  ASSERT_EQ(Laufen("pdftotext", "-fixed 6.02 a.pdf -"), 0);
+  EXPECT_EQ(Anzahl("Straße"), 1);  // as it was
   ASSERT_EQ(Laufen(TAVORENA_STAPEL, "pdf --koordinaten a.kor k.pdf"), 0);
   EXPECT_EQ(Aus, "Seiten: 1\n");
   ASSERT_EQ(Laufen("pdftotext", "-fixed 6.02 k.pdf -"), 0);
-  EXPECT_EQ(std::tuple(Anzahl("|Aktuelle Koordinaten"), Anzahl("1002   3500160.000")), std::tuple(1, 1)) << Aus;
+  EXPECT_EQ(std::tuple(Anzahl("|Aktuelle Koordinaten"), Anzahl("1002   3500160.000")), std::tuple(1, 1))
+      << Aus;
 }
 
 TEST_F(Programm, AnsichtOhneBildschirm) {

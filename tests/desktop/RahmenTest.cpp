@@ -371,6 +371,16 @@ class RahmenTest final : public Fensterumgebung {
     QCOMPARE(BlätterMalen(Angehalten, {0, 3}, Zeichnen), -2);
   }
 
+  // Words reach a program as they are, what it says comes back.
+  void programmMitWorten() {
+    std::string Meldungen;
+    QCOMPARE(
+        Plattform->ProgrammAusführen("sh", {"-c", "echo \"$1\" >&2; exit 3", "x", "a'b $(c) ä"}, Meldungen),
+        3);
+    QCOMPARE(Meldungen, std::string("a'b $(c) ä"));
+    QCOMPARE(Plattform->ProgrammAusführen("gibt-es-nicht", {}, Meldungen), -1);
+  }
+
   void musterWaehltDenFilter() {
     for (const auto& [Eintrag, Filter] : {std::pair{"MenüDateiLesen(0)", "CADdy (*.kor *.KOR)"},
                                           std::pair{"MenüDateiLesen(2)", "ALK (*.alk *.ALK)"}}) {
