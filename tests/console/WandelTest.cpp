@@ -29,7 +29,12 @@ TEST_F(Wandelbefehl, WandeltUndZählt) {
   EXPECT_EQ(Rufe("lfs", "kor", {"--nachkomma", "1", "--zeichensatz", "850"}), 0);
   EXPECT_TRUE(Gleich(Gesagt, "Punkte: 1  übergangen: 1\n", Inhalt(Aus),
                      "             7         1.5         2.0       3.0  Gr\x81n\r\n"));
-  EXPECT_EQ(Rufe("lfs", "frei", {"--frei", "trenner=; symbol=1 pnr=2 hoch=3 rechts=4"}), 0);
+  const char* const Frei = "trenner=; symbol=1 pnr=2 hoch=3 rechts=4";
+  EXPECT_EQ(Rufe("lfs", "frei", {"--frei", Frei}), 1);
+  EXPECT_NE(Gesagt.find("verloren: 1 Höhe geht verloren (Punkt 7) Trotzdem speichern ?"), std::string::npos)
+      << Gesagt;
+  EXPECT_TRUE(Inhalt(Aus).ends_with("Gr\x81n\r\n"));
+  EXPECT_EQ(Rufe("lfs", "frei", {"--frei", Frei, "--trotzdem"}), 0);
   EXPECT_EQ(Inhalt(Aus), "Grün;7;2.000;1.500\r\n");
 }
 

@@ -62,10 +62,10 @@ TEST_F(Shelltest, AbstandsflächenUndTagebuch) {
     Skript.Formulare.push_back(Bediene({{"Wert(0)", Länge}, {"Wert(1)", Höhe}, {"OK", ""}}));
   };
   Wand("12,5", "0");
-  Wand("12,5", "-");
+  Wand("12,5", "x");
   Wand("12,5", "6");
   Skript.Erwarte("Wandhöhe: eine Zahl über 0 und unter 10000, nicht 0");
-  Skript.Erwarte("nicht -");
+  Skript.Erwarte("nicht x");
   Skript.Formulare.push_back(Bediene({{"Wert(0)", "0.4"}, {"OK", ""}}));
   Skript.Erwarte("Tiefe: 3.000 m (Wandhöhe mal Faktor, mindestens 3 m)\nFläche: 37.500 m²");
   Befehl("MenüFunktionalitätenAbstandsflächen");
@@ -86,11 +86,12 @@ TEST_F(Shelltest, AbstandsflächenUndTagebuch) {
 // Beside the Condor window: by what a file holds, whatever its name; what is nothing of it changes nothing.
 TEST_F(Shelltest, CondorDateienNachInhalt) {
   Öffne();
+  Optionen.CondorfensterAn = true;
   const std::string Datei = Ordner.Pfad("x.dat"),
                     Lt4 = "000 45590000000007 000 3500100.000 5600200.000               0  \r\n";
   using Fall = std::tuple<std::string, bool, int>;
   for (const auto& [Text, NurKor, Punkte] :
-       {Fall{"Flur 7\n5 1.0 2.0\n6 3.0 4.0\n", true, 2}, Fall{"5 1.0 2.0\n", false, 1},
+       {Fall{"Flur\n5 1.0 2.0\n6 3.0 4.0\n", true, 2}, Fall{"8 1.0 2.0\n", false, 1},
         Fall{"# x\n" + Lt4, false, 1},
         Fall{"EDBS01080000BSPE000001  0000ULPUHESS000100013556000000011235102001003 3500123456 56004567892  "
              "0000010001\r\n",
@@ -98,8 +99,8 @@ TEST_F(Shelltest, CondorDateienNachInhalt) {
         Fall{"999\nx\n  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n 10\n1.0\n 20\n2.0\n 11\n3.0\n 21\n4.0\n  "
              "0\nENDSEC\n  0\nEOF\n",
              false, 0},
-        Fall{"Lieber Herr Maier,\nanbei 3 4\n", false, -1}, Fall{Lt4, true, -1}, Fall{"", false, -1},
-        Fall{std::string("5 1.0 2.0\n\0", 11), true, -1}}) {
+        Fall{"Lieber Herr Maier,\nwie besprochen\nanbei 3 4\n", false, -1}, Fall{Lt4, true, -1},
+        Fall{"", false, -1}, Fall{std::string("5 1.0 2.0\n\0", 11), true, -1}}) {
     SCOPED_TRACE(Text);
     Schreibe(Datei, Text);
     const int Vorher = KorAnzahl;

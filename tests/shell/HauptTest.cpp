@@ -398,6 +398,7 @@ TEST_F(HauptOffen, GanzeTabelleUndZurück) {
   EXPECT_EQ(KorSuche(Wert("1001")), -1);
   // A replay has the table to itself.
   Stapel.Aktiv = true;
+  Optionen.CondorfensterAn = true;  // shows its entries
   const std::uint64_t Stand = KorStand;
   int Gesperrt = 0;
   for (const Menüeintrag& E : Menübaum()) {
