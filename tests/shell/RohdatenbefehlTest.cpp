@@ -65,6 +65,15 @@ TEST_F(Rohdatenmenü, ExportGanzOderGewählt) {
   EXPECT_NE(Text.find("*110001+0000000000001002 81"), std::string::npos);
   Befehl("MenüDateiExportieren(60)", Hli);
   EXPECT_EQ(Inhalt(Hli + ".hli"), "    1001     12.5000  015\r\n");  // the others have no height
+  Punkt("x234567890123456789", 1, 2, 1e6);
+  for (const auto& [Eintrag, Verlust] :
+       {std::pair{"MenüDateiExportieren(43)", "1 Punktnummer ändert sich (Punkt x23"},
+        std::pair{"MenüDateiExportieren(60)", "1 Höhe geht verloren (Punkt x23"}}) {
+    if (std::string_view(Eintrag).ends_with("43)")) Skript.Erwarte("Alle Punkte exportieren ?", KnopfJa);
+    Skript.Erwarte(Verlust, KnopfNein);
+    Befehl(Eintrag, Ordner.Pfad("c"));
+  }
+  EXPECT_FALSE(fs::exists(Ordner.Pfad("c.gsi")) || fs::exists(Ordner.Pfad("c.hli")));
 }
 
 TEST_F(Rohdatenmenü, UmwandlungFragtNachDemZiel) {
