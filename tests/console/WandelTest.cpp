@@ -58,6 +58,10 @@ TEST_F(Wandelbefehl, LäßtDieAusgabeStehen) {
   Scheitert(2, "--nach coo gibt es nicht", "coo");
   Scheitert(2, "erwartet wird 0 bis 6", "kor", {"--nachkomma", "9"});
   Scheitert(2, "--zeichensatz latin gibt es nicht", "kor", {"--zeichensatz", "latin"});
+  std::string Viele;
+  for (int i = 0; i <= KorGrenze; ++i) Viele += std::to_string(i + 1) + " 1 2\n";
+  Schreibe(Ein, Viele);
+  Scheitert(1, "1 Punkt der Datei steht nicht in der Tabelle");
   Aus = Ein;
   EXPECT_EQ(Rufe("lfs", "kor"), 1);
   EXPECT_EQ(Gesagt, Ein + ": Dateiname für Ein- und Ausgabe ist gleich:\n");
