@@ -10,7 +10,9 @@
 namespace tavorena {
 namespace {
 
-constexpr double Punkt = Auflösung / 72.0;  // units of the painter
+// Fonts have whole pixels: in thirds of a unit half points are such.
+constexpr int Feinheit = 3;
+constexpr double Punkt = Feinheit * Auflösung / 72.0;
 
 }  // namespace
 
@@ -21,9 +23,10 @@ QPageLayout Textdruck::Papier() const {
 void Textdruck::Zeichnen(QPainter& Maler, int Blatt) const {
   QFont Schrift(Druckschrift);
   Schrift.setStyleHint(QFont::TypeWriter);
-  Schrift.setPointSizeF(Seiten.Schrift * Auflösung / Maler.device()->logicalDpiY());
+  Schrift.setPixelSize(qRound(Seiten.Schrift * Punkt));
   // Widths as in the font: rounded to the pixels of a screen a long line would leave its sheet.
   Schrift.setHintingPreference(QFont::PreferNoHinting);
+  Maler.scale(1.0 / Feinheit, 1.0 / Feinheit);
   Maler.setFont(Schrift);
   Maler.setPen(Qt::black);
   QPointF Stelle(Randzeichen * Zeichenbreite * Seiten.Schrift * Punkt, ErsteGrundlinie * Punkt);

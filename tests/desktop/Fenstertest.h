@@ -15,7 +15,6 @@
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Handbuch.h>
-#include <tavorena/shell/Handbuchseiten.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/PlattformQt.h>
 #include <tavorena/forms/Punktnummer.h>
@@ -26,6 +25,7 @@
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Blaetter.h>
+#include <tavorena/shell/Handbuchseiten.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
@@ -118,10 +118,16 @@ class Fensterumgebung : public QObject {
 
   QString Pfad(const char* Name) const { return Ordner.filePath(Name); }
   // The lines of a PDF as a reader of somebody else finds them.
-  QString PdfText(const char* Name) const {
+  QString PdfText(const char* Name, const QStringList& Wie = {"-fixed", "6.02"}) const {
     QProcess Zeuge;
-    Zeuge.start("pdftotext", {"-fixed", "6.02", Pfad(Name), "-"});
+    Zeuge.start("pdftotext", QStringList(Wie) << Pfad(Name) << "-");
     return Zeuge.waitForFinished() ? QString::fromUtf8(Zeuge.readAllStandardOutput()) : QString();
+  }
+  // Where a word stands on its sheet [points].
+  QPointF PdfOrt(const char* Name, const QString& Wort) const {
+    static const QString Muster("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>%1<");
+    const auto Ort = QRegularExpression(Muster.arg(Wort)).match(PdfText(Name, {"-bbox"}));
+    return {Ort.captured(1).toDouble(), Ort.captured(2).toDouble()};
   }
   void Menü(const char* Name) { Fenster->findChild<QAction*>(Name)->trigger(); }
 
