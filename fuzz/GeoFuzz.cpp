@@ -20,8 +20,9 @@ bool Umkehrbar(const Umrechnung& U, const Umrechenbericht& B) {
   const bool Ziffer = B.Streifen.begin()->first >= 1 && B.Streifen.rbegin()->first <= 9;
   const bool Gk = U.Nach.Art == Koordinatenart::GK;
   const Verlustliste V = Umrechenverlust(U, B);
-  const bool Ganz = V.Weitere.empty() && std::all_of(V.Posten.begin(), V.Posten.end(),
-                                                     [](const Verlustposten& P) { return P.Anzahl == 0; });
+  const bool Ganz =
+      V.Weitere.empty() && B.Fremde.Anzahl == 0 &&
+      std::all_of(V.Posten.begin(), V.Posten.end(), [](const Verlustposten& P) { return P.Anzahl == 0; });
   return Ganz && (Gk ? Ziffer : U.Nach.Art == Koordinatenart::Geographisch || U.Nach.Nummer > 0);
 }
 

@@ -5,6 +5,7 @@
 #include <tavorena/console/Worte.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVDialog.h>
+#include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/Umrechnung.h>
 #include <tavorena/shell/Umrechenbefehle.h>
@@ -90,6 +91,7 @@ bool Umrechnen(const Aufruf& A, const Umfeld& U) {
   }
   if (DateiUmrechnen(A.Datei, A.Ziel, Was, B) < 0) return false;
   U.Ausgabe << "Punkte: " << B.Punkte << "  übergangen: " << B.Andere << '\n';
+  if (B.Fremde.Anzahl > 0) U.Ausgabe << Sichtbar(Umrechenhinweis(B)) << '\n';
   return true;
 }
 

@@ -55,6 +55,13 @@ Verlustliste Umrechenverlust(const Umrechnung& U, const Umrechenbericht& B) {
   return V;
 }
 
+std::string Umrechenhinweis(const Umrechenbericht& B) {
+  if (B.Fremde.Anzahl == 0) return "";
+  return Anzahltext(B.Fremde.Anzahl, "Rechtswert beginnt", "Rechtswerte beginnen") +
+         " mit der Ziffer eines anderen Streifens (Punkt " + Zitat(B.Fremde.Erste) +
+         "): über 500 km neben dem Mittelmeridian";
+}
+
 std::string Umrechentext(const Umrechnung& U, const Umrechenbericht& B, const std::string& Datei) {
   const Koordinatenart Eben = U.Nach.Art == Koordinatenart::Geographisch ? U.Von.Art : U.Nach.Art;
   std::string Text = Anzahltext(B.Punkte, "Punkt", "Punkte") + " geschrieben:\n" + Datei + "\n\n";
@@ -62,8 +69,9 @@ std::string Umrechentext(const Umrechnung& U, const Umrechenbericht& B, const st
     Text += Anzahltext(B.Andere, "Zeile", "Zeilen") + " übergangen (erste: Zeile " +
             std::to_string(B.ErsteAndere) + ")\n";
   Text += Streifenwort(Eben, B.Streifen.size() > 1) + Anzahlen(B.Streifen) + "\n";
-  return Text + "Am weitesten vom Mittelmeridian: Punkt " + Zitat(B.Fernster) + ", " +
-         ZahlFormat(B.Abstand, -1, 2) + " Grad";
+  Text += "Am weitesten vom Mittelmeridian: Punkt " + Zitat(B.Fernster) + ", " +
+          ZahlFormat(B.Abstand, -1, 2) + " Grad";
+  return B.Fremde.Anzahl > 0 ? Text + "\n\n" + Umrechenhinweis(B) : Text;
 }
 
 std::string Umrechensatz(const Umrechnung& U, const std::vector<int>& Quellstreifen) {

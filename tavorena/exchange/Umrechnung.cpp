@@ -159,10 +159,10 @@ class Umrechenlauf {
     return StreifenVorwaerts(Netz, Neuer, P.Laenge, P.Breite, P.Rechts, P.Hoch);
   }
 
-  void Verlieren(Verlustart Art) {
-    Verlustposten& V = Bericht.Verluste[Art];
+  void Zählen(Verlustposten& V) {
     if (V.Anzahl++ == 0) V.Erste = P.Pnr;
   }
+  void Verlieren(Verlustart Art) { Zählen(Bericht.Verluste[Art]); }
 
   void Schreiben() {
     ++Bericht.Punkte;
@@ -175,10 +175,14 @@ class Umrechenlauf {
     if (!NachEbene() && Bericht.Punkte == 1) Kopf();
     if (ZuGroß(P.Hoehe, NachEbene() ? Grenze7 : Grenze5)) Verlieren(Verlustart::Höhen);
     if (NachEbene()) {
-      // A Rechts whose first digit is that of another strip, be it by rounding, would be read back there.
+      // A Rechts whose first digit is that of another strip, be it by rounding, looks like one of that strip.
       const bool Fremd =
           Netz.Art == Netzart::GK && !(std::fabs(P.Rechts - P.Streifen * 1e6 - 500000) < 499999);
-      if (Fremd || ZuGroß(P.Rechts, Grenze7)) Verlieren(Verlustart::Koordinaten);
+      if (ZuGroß(P.Rechts, Grenze7)) {
+        Verlieren(Verlustart::Koordinaten);
+      } else if (Fremd) {
+        Zählen(Bericht.Fremde);
+      }
       if (ZuGroß(P.Hoch, Grenze7)) Verlieren(Verlustart::Koordinaten);
       KorZeileAnhängen(Ziel, P.Pnr, P.Rechts, P.Hoch, P.Hoehe, P.Symbol, Was.Nachkomma);
     } else {

@@ -49,8 +49,10 @@ struct Umrechenbericht {
   std::map<int, int> Streifen;  ///< strips or zones of the plane coordinates, and how many points each has
   double Abstand = 0;           ///< of the farthest point from its central meridian [degrees], without sign
   std::string Fernster;         ///< its number
-  /// What the new file would not give back: coordinates that do not fit or belong to another strip as they
-  /// stand, heights, and numbers that make a geographic line a comment.
+  /// Eastings of Gauss-Krüger whose first digit is that of another strip: more than 500 km from the meridian.
+  Verlustposten Fremde;
+  /// What the new file would not give back: coordinates and heights that do not fit, and numbers that make a
+  /// geographic line a comment.
   Verlustliste Verluste;
   std::string Kopfellipsoid;  ///< that the head of a geographic file names; "": none
 };
@@ -72,6 +74,9 @@ struct Umrechenbericht {
 
 /// The strips or zones that stand in front of the eastings of a file; empty if it is large or not understood.
 [[nodiscard]] std::vector<int> StreifenDerDatei(const std::string& Name, const Koordinatenform& Von);
+
+/// What has to be known about eastings that look like those of another strip; "": there are none.
+[[nodiscard]] std::string Umrechenhinweis(const Umrechenbericht& Bericht);
 
 /// What became of a file, for the box at the end.
 [[nodiscard]] std::string Umrechentext(const Umrechnung& U, const Umrechenbericht& Bericht,

@@ -32,7 +32,7 @@ def umrechnen(von, nach, zeilen):
     with tempfile.TemporaryDirectory() as ordner:
         ein, aus = pathlib.Path(ordner, "ein"), pathlib.Path(ordner, "aus")
         ein.write_text("".join(zeilen))
-        subprocess.run([PROGRAMM, "umrechnen", "--von", von, "--nach", nach, "--nachkomma", "6", "--trotzdem", ein, aus],
+        subprocess.run([PROGRAMM, "umrechnen", "--von", von, "--nach", nach, "--nachkomma", "6", ein, aus],
                        check=True, capture_output=True)
         worte = [z.split() for z in aus.read_text().splitlines() if not z.startswith("@")]
     return {int(w[0]): [float(x) for x in w[1:]] for w in worte}
