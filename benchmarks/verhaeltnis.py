@@ -15,6 +15,7 @@ PAARE = (
     ("Verlust/kor", ("KorText",), 0.1),
     ("CsvLesen", ("KorLesen/geordnet",), 2.0),
     ("LfsLesen", ("KorLesen/geordnet",), 2.0),
+    ("Umrechnen/Konsole", ("Wandeln/kor-kor",), 2.0),
     ("Wandeln/edbs-kor", ("Wandeln/kor-kor",), 2.0),
     ("Wandeln/kor-edbs", ("Wandeln/kor-kor",), 2.0),
     ("Zeichnen/20001", ("QPainter/20001",), 2.0),
