@@ -62,7 +62,7 @@ bool GeographischLesen(std::string_view Zeile, Wegpunkt& P) {
   if (Anzahl == 8 || Anzahl == 4) {
     if (!ZahlLesen(Worte[Anzahl - 1], P.Hoehe)) return false;
   }
-  return Gelesen && std::fabs(P.Breite) <= 90 && std::fabs(P.Laenge) <= 180;
+  return Gelesen && std::fabs(P.Laenge) <= 180;  // the grid refuses latitudes
 }
 
 bool EbenLesen(std::string_view Zeile, const Koordinatenform& Von, Wegpunkt& P) {
