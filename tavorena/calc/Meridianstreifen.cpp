@@ -67,9 +67,12 @@ void KrügerRueckwaerts(const Streifennetz& N, double y, double x, double& Delta
   Breite = std::atan(Ellipsoidisch(N.K.e, std::sin(xi) / std::hypot(sh, c))) * GradJeRad;
 }
 
-bool Gültig(double Delta, double Breite) {
-  return std::fabs(Delta) <= StreifenGrenze && std::fabs(Breite) <= 90;
+bool Gültig(double Delta, double Breite, double Grenze) {
+  return std::fabs(Delta) <= Grenze && std::fabs(Breite) <= 90;
 }
+
+// A point on the limit comes back out of a file of whole metres.
+constexpr double RückGrenze = StreifenGrenze + 1e-5;
 
 }  // namespace
 
@@ -115,7 +118,7 @@ int StreifenNachLaenge(Netzart Art, double Laenge, std::int32_t& Nummer) {
 int StreifenVorwaerts(const Streifennetz& N, std::int32_t Nummer, double Laenge, double Breite,
                       double& Rechts, double& Hoch) {
   const double Delta = Mittenabstand(N.Art, Nummer, Laenge);
-  if (!Gültig(Delta, Breite)) return -1;
+  if (!Gültig(Delta, Breite, StreifenGrenze)) return -1;
   double y = 0, x = 0, Konvergenz = 0;
   if (std::fabs(Delta) > Reihengrenze(N.Art)) {
     KrügerVorwaerts(N, Delta, Breite, y, x);
@@ -146,7 +149,7 @@ int StreifenRueckwaerts(const Streifennetz& N, std::int32_t Nummer, double Recht
     KrügerRueckwaerts(N, y, Hoch / Massstab(N.Art), L, B);
     L += Mitte;
   }
-  if (!std::isfinite(L + B) || !Gültig(L - Mitte, B)) return -1;
+  if (!std::isfinite(L + B) || !Gültig(L - Mitte, B, RückGrenze)) return -1;
   Laenge = L;
   Breite = B;
   return 0;
