@@ -124,5 +124,39 @@ TEST_F(Austauschmenü, FreiesFormatZeigtWasGelesenWird) {
   EXPECT_TRUE(Inhalt(Datei).starts_with("\r\n7;1.500;2.500\r\n9;5.000;6.000\r\n1001;3500100.000;"));
 }
 
+TEST_F(Austauschmenü, CsvFragtWasDieKopfzeileNichtSagt) {
+  Öffne();
+  Skript.Formulare.push_back([](Formular& Form) {
+    Form.Öffnen();
+    EXPECT_EQ(Feld(Form, "FreiVon(1)").Text, "");
+    Tippe(Form, "FreiVon(1)", "1");
+    EXPECT_EQ(Gitterzeile(Gitterfeld(Form), 0),
+              (std::vector<std::string>{"2", "9", "1.000", "2.000", "", "", "1;9;2"}));
+    Drücke(Form, "FreiOK");
+  });
+  Lies("MenüDateiImportieren(30)", "Wo;Nr;Hoch\r\n1;9;2\r\n");
+  EXPECT_TRUE(Gleich(Nummern(), "9 1001 1002 2003 ", KorRechts[0], 1, KorHoch[0], 2));
+  Skript.Erwarte("x als Rechtswert lesen ?", KnopfAbbruch);
+  Lies("MenüDateiImportieren(30)", "nr;x;y\r\n10;477000;5600000\r\n");
+  EXPECT_EQ(Nummern(), "9 1001 1002 2003 ");
+  Lies("MenüDateiImportieren(31)",
+       "<a xmlns:g='g' xmlns:x='x'><AX_Grenzpunkt g:id='P'><punktkennung>TP</punktkennung></AX_Grenzpunkt>"
+       "<AX_PunktortTA><istTeilVon x:href='P'/><g:pos>32000001 2</g:pos></AX_PunktortTA></a>");
+  EXPECT_TRUE(
+      Gleich(KorSuche(Wert("TP")) >= 0, true, Hilfe(),
+             "1 Punkt gelesen. Lagesystem ohne Namen, Zonennummer 32 von den Rechtswerten abgetrennt"));
+  // Behind other headings Rechts and Hoch would change places.
+  KorAbschneiden(0);
+  ASSERT_EQ(KorAnhängen({"1", 2, 3}), 0);
+  for (const std::string Alt : {"Nr;Hoch;Rechts\r\n", "Punktnummer;Rechts;Hoch;H\xF6he;Symbol\r\n"}) {
+    const bool Fremd = Alt.starts_with("Nr");
+    Schreibe(Datei, Alt);
+    Knopf(0);
+    if (Fremd) Skript.Erwarte("Die Datei hat andere Überschriften");
+    Befehl("MenüDateiExportieren(30)", Datei);
+    EXPECT_EQ(Inhalt(Datei), Alt + (Fremd ? "" : "1;2.000;3.000;;\r\n"));
+  }
+}
+
 }  // namespace
 }  // namespace tavorena::test
