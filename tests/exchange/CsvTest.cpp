@@ -1,37 +1,16 @@
-#include "Testhilfe.h"
+#include "Lesetest.h"
 
-#include <algorithm>
 #include <array>
 
-#include <tavorena/core/KorDatei.h>
-#include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/CSV.h>
 
 namespace tavorena::test {
 namespace {
 
-class CsvTest : public TabellenTest {
+class CsvTest : public Lesetest {
  protected:
-  CsvTest() { FormatAnmelden(CsvZugang()); }
+  CsvTest() : Lesetest(CsvZugang()) {}
   ~CsvTest() override { CsvAchsen = {}; }
-  int Lies(const std::string& Text) {
-    KorLeeren();
-    Schreibe(Datei, Text);
-    return KorLesen(Datei, Lesemodus::Alle, Punktformat::Csv, {}, {}, &B);
-  }
-  // "number Rechts Hoch Hoehe [symbol]|...", values without zeros behind.
-  static std::string Tabelle() {
-    std::string Alle;
-    for (int z = 0; z < KorAnzahl; ++z) {
-      const KorSatz S = KorPunkt(z);
-      Alle += (z > 0 ? "|" : "") + std::string(S.Pnr);
-      for (const double w : {S.Rechts, S.Hoch, S.Hoehe}) Alle += " " + ZahlNachText(w).Text();
-      Alle += " [" + std::string(S.Symbol) + "]";
-    }
-    return Alle;
-  }
-  const std::string Datei = Ordner.Pfad("a.csv");
-  Lesebericht B;
 };
 
 TEST_F(CsvTest, KöpfeUndTrenner) {
