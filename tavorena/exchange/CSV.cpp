@@ -20,6 +20,7 @@ Csvachsen CsvAchsen = Csvachsen::Fragen;
 namespace {
 
 using Csvfelder = std::vector<std::string_view>;
+constexpr std::size_t MaxFelder = 1000;  // of a record: what follows in a line of 200 MB is not kept
 
 // ---- headings --------------------------------------------------------------------------------------
 
@@ -342,7 +343,8 @@ bool Csvleser::Nächster(std::vector<std::string_view>& Felder) {
   if (Ab >= Text.size()) return false;
   Beginn = Nummer;
   for (;;) {
-    Felder.push_back(Feld(Felder.size()));
+    const std::string_view Neues = Feld(Felder.size());
+    if (Felder.size() < MaxFelder) Felder.push_back(Neues);
     if (Ab >= Text.size()) return true;
     const char z = Text[Ab++];
     if (z == Trenner) continue;
