@@ -313,13 +313,13 @@ bool Csvleser::Angeführt(std::size_t Von, std::size_t Stelle, std::string_view&
   if (Danach < Text.size() && !Endet(Text[Danach])) return false;
   Feld = Text.substr(Von + 1, Bis - Von - 1);
   Ab = Danach;
-  if (Feld.find_first_of("\"\r\n\t") == std::string_view::npos) return true;
+  if (Feld.find_first_of("\"\r\n") == std::string_view::npos) return true;
   if (Eigene.size() <= Stelle) Eigene.resize(Stelle + 1);
   std::string& Eigenes = Eigene[Stelle];
   Eigenes.clear();
   for (std::size_t i = 0; i < Feld.size(); ++i) {
     if (Feld[i] == '\n' || (Feld[i] == '\r' && !Feld.substr(i + 1).starts_with('\n'))) ++Nummer;
-    Eigenes += Feld[i] == '\r' || Feld[i] == '\n' || Feld[i] == '\t' ? ' ' : Feld[i];
+    Eigenes += Feld[i] == '\r' || Feld[i] == '\n' ? ' ' : Feld[i];
     if (Feld[i] == '"') ++i;  // two stand for one
   }
   Feld = Eigenes;

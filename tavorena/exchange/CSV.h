@@ -52,7 +52,7 @@ class Csvleser {
  public:
   Csvleser(std::string_view Inhalt, char Trennzeichen) : Text(Inhalt), Trenner(Trennzeichen) {}
 
-  /// The next record. Its fields have no blanks at their ends, blanks for line ends and tabs inside, and live
+  /// The next record. Its fields have no blanks at their ends, blanks for line ends inside, and live
   /// until the next call. @return false at the end of the text
   [[nodiscard]] bool Nächster(std::vector<std::string_view>& Felder);
   /// Number of the line that the last record begins in, from 1.

@@ -53,13 +53,15 @@ TEST_F(CsvTest, WasKeinPunktIstWirdGezählt) {
 }
 
 TEST_F(CsvTest, GeschriebenesKommtWieder) {
-  Punkt("1001", 32477000.123, 5600000.5, -0.25, "a;\"b\"");
+  Punkt("1001", 32477000.123, 5600000.5, -0.25, "a;\"\tb\"");
   Punkt("\"A", 1, -2.0004, 0, "");
   std::string Text, Wieder;
   ASSERT_EQ(KorText(Punktformat::Csv, 3, Text), 0);
   EXPECT_EQ(Text,
             "Punktnummer;Rechts;Hoch;Höhe;Symbol\r\n\"\"\"A\";1.000;-2.000;;\r\n"
-            "1001;32477000.123;5600000.500;-0.250;\"a;\"\"b\"\"\"\r\n");
+            "1001;32477000.123;5600000.500;-0.250;\"a;\"\"\tb\"\"\"\r\n");
+  ASSERT_EQ(Lies(Text), 0);
+  EXPECT_EQ(KorPunkt(1).Symbol, "a;\"\tb\"");
   KorInfoSatz Info{12, 1, 2, 3, 4.5, "199;7", "002", "A", 6};
   ASSERT_EQ(KorZeileSetzen(0, {"5", 1, 2, 3, "12", &Info}), 0);
   Koordinatendateiformat = Dateiformat::Edbs;
