@@ -5,6 +5,7 @@
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
+#include <tavorena/core/Zahlen.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/EDBSWandler.h>
 #include <tavorena/exchange/Formattafel.h>
@@ -20,7 +21,13 @@ std::string Text() {
 
 // What was written is read again, and written as it was: no point, no column goes on the second way.
 void HinUndZurückPrüfen() {
-  const int Anzahl = KorAnzahl;
+  int Anzahl = 0;  // of those whose coordinates have room, in millimetres
+  for (std::size_t i = 0; i < static_cast<std::size_t>(KorAnzahl); ++i) {
+    const bool Platz =
+        (ZahlFormat(KorRechts[i] * 1000, 10, 0) + ZahlFormat(KorHoch[i] * 1000, 10, 0)).find('*') ==
+        std::string::npos;
+    Anzahl += Platz ? 1 : 0;
+  }
   const std::string Eins = Text(), Name = Datei("b.eds", Eins);
   if (KorLesen(Name, Lesemodus::Ersetzen, Punktformat::Edbs) < 0)
     return Prüfen(Eins.empty(), "es wird gelesen");
