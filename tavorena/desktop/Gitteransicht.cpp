@@ -310,7 +310,10 @@ QSize Gitteransicht::sizeHint() const {
   int Breite = 2 * frameWidth() + 24;
   for (const Gitterspalte& S : Daten.Spalten)
     Breite += S.Sichtbar ? Zeichenbreite(font(), S.Zeichen) + Zellrand : 0;
-  return {Breite, 8 * verticalHeader()->defaultSectionSize()};
+  // A short list of given rows is seen as a whole.
+  const bool Fest = !Daten.NimmtZeilen && !Daten.Quelle;
+  const int Zeilen = Fest ? std::clamp(Daten.Zeilen(), 7, 16) : 7;
+  return {Breite, (Zeilen + 1) * verticalHeader()->defaultSectionSize()};
 }
 
 }  // namespace tavorena
