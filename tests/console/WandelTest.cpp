@@ -82,8 +82,8 @@ TEST_F(Wandelbefehl, EdbsHinUndHer) {
                      "      35560000112345" + Lage + "K\r\n9 1 2\r\n"));
   EXPECT_EQ(Rufe("edbs", "lfs", {"--nummer", "art"}), 2);
   // A cut file becomes nothing unless the call takes it.
-  Schreibe(Ein, Ganz.substr(0, Ganz.size() - 30));
-  for (const auto& [Ergebnis, Wort] : {std::pair{1, "--nachkomma=3"}, std::pair{0, "--trotzdem"}}) {
+  Schreibe(Ein, Ganz.substr(0, Ganz.size() - 18));
+  for (const auto& [Ergebnis, Wort] : {std::pair{1, "--zeichensatz=utf8"}, std::pair{0, "--trotzdem"}}) {
     for (const char* Nummer : {"--nummer=lfs", "--nachkomma=3"}) {
       Schreibe(Aus, "alt");
       EXPECT_EQ(Rufe("edbs", "kor", {Nummer, Wort}), Ergebnis) << Gesagt;
