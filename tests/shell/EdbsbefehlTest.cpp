@@ -50,6 +50,12 @@ TEST_F(Edbsbefehl, LesenSpeichernUndWechseln) {
   Befehl("MenüDateiSpeichern(0)");
   EXPECT_TRUE(
       Inhalt(Ordner.Pfad("d.eds")).starts_with("EDBS01080000BSPE000001"));  // no record of the other file
+  Skript.Erwarte("speichern ? ", KnopfNein);
+  Schreibe(Datei, Ganz + "Rest\r\n");
+  Befehl("MenüDateiLesen(0)", Datei);
+  Skript.Erwarte("1 Zeile der Datei ist kein Punkt", KnopfNein);
+  Befehl("MenüDateiSpeichern(0)");
+  EXPECT_TRUE(Inhalt(Datei).ends_with("Rest\r\n"));
 }
 
 TEST_F(Edbsbefehl, Umwandeln) {
