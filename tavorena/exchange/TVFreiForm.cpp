@@ -159,9 +159,10 @@ class TVFreiForm final : public Dialogform {
     const std::vector<Vorschauzeile> Erste = Fehler.empty() ? Zeilen(Wahl) : std::vector<Vorschauzeile>{};
     Zweifel.assign(Erste.size(), {});
     Vorschau->Leeren(0);
+    for (std::size_t z = 0; z < Erste.size(); ++z) Vorschau->ZeileAnhängen(Zeilentexte(Erste[z], Zweifel[z]));
+    LückenMarkieren(Erste);
     std::size_t Zweifelhafte = 0;
     for (std::size_t z = 0; z < Erste.size(); ++z) {
-      Vorschau->ZeileAnhängen(Zeilentexte(Erste[z], Zweifel[z]));
       Zweifelhafte += std::find(Zweifel[z].begin(), Zweifel[z].end(), true) != Zweifel[z].end() ? 1 : 0;
     }
     Meldung->Text = !Fehler.empty() ? Fehler
@@ -195,6 +196,21 @@ class TVFreiForm final : public Dialogform {
     }
     Texte.push_back(V.Text);
     return Texte;
+  }
+
+  // Between blanks a value that is missing moves those behind it: a line without the last value that most
+  // lines have may have lost another one.
+  void LückenMarkieren(const std::vector<Vorschauzeile>& Erste) {
+    if (Wahl.InSpalten || Wahl.Trenner != ' ') return;
+    const auto Letzter = std::max_element(Wahl.Werte.begin(), Wahl.Werte.end(),
+                                          [](const auto& A, const auto& B) { return A.Von < B.Von; });
+    const int Spalte = static_cast<int>(Letzter - Wahl.Werte.begin()) + 1;
+    std::vector<std::size_t> Kürzere;
+    for (std::size_t z = 0; z < Erste.size(); ++z) {
+      if (Vorschau->Inhalt(static_cast<int>(z), Spalte).empty()) Kürzere.push_back(z);
+    }
+    if (2 * Kürzere.size() >= Erste.size()) return;
+    for (const std::size_t z : Kürzere) Zweifel[z][FreiHoehe + 1] = Zweifel[z][FreiSymbol + 1] = true;
   }
 
   void Übernehmen() {

@@ -106,12 +106,21 @@ TEST_F(Austauschmenü, FreiesFormatZeigtWasGelesenWird) {
     Drücke(Form, "FreiOK");
   });
   Lies("MenüDateiImportieren(5)", Bytes);
+  const Freiformat Gelesen = LetztesFreiformat;
   EXPECT_TRUE(Gleich(Nummern(), "7 9 1001 1002 2003 ", Hilfe(),
                      "2 Punkte gelesen, 1 Zeile übergangen (erste: Zeile 4)", KorRechts[0], 1.5));
-  Skript.Formulare.push_back(Bediene({{"FreiAbbruch", ""}}));
-  Lies("MenüDateiImportieren(5)", Bytes);
+  LetztesFreiformat.Trenner = ' ';
+  LetztesFreiformat.Werte[FreiHoehe].Von = 4;
+  LetztesFreiformat.Werte[FreiSymbol].Von = 5;
+  Skript.Formulare.push_back([&](Formular& Form) {
+    Form.Öffnen();
+    EXPECT_EQ(Zweifel(Gitterfeld(Form)), "1/4 1/5 ");  // a height is missing, or a symbol
+    Drücke(Form, "FreiAbbruch");
+  });
+  Lies("MenüDateiImportieren(5)", "Kopf\r\n7 1 2 3 a\r\n8 1 2 015\r\n9 1 2 3 c\r\n");
   EXPECT_EQ(KorAnzahl, 5);
   // The last choice stands in the form before writing, too.
+  LetztesFreiformat = Gelesen;
   Knopf(1);
   Skript.Formulare.push_back([](Formular& Form) {
     Form.Öffnen();
