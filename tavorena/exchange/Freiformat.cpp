@@ -25,6 +25,8 @@ std::string Platzfehler(const Freiformat& F, std::size_t i) {
   const Freispalte& S = F.Werte[i];
   const bool Nötig = i == FreiPnr || i == FreiRechts || i == FreiHoch;
   if (S.Von == 0 && S.Bis == 0) return Nötig ? Wertname(i) + " fehlt" : "";
+  if (F.InSpalten && (S.Von == 0 || S.Bis == 0))
+    return Wertname(i) + ": \"" + (S.Von == 0 ? "von" : "bis") + "\" fehlt";
   if (!ImBereich(S.Von) || (F.InSpalten && !ImBereich(S.Bis)))
     return Wertname(i) + ": erwartet wird eine Zahl von 1 bis " + std::to_string(FreiMaxFeld);
   if (F.InSpalten && S.Bis < S.Von) return Wertname(i) + ": \"bis\" liegt vor \"von\"";

@@ -36,6 +36,19 @@ bool FeldLesen(const Feld& F, int Größte, int& Zahl) {
   return true;
 }
 
+// What may be wrong in a row of the preview.
+using Zellen = std::array<bool, Freiwerte + 2>;
+
+// Every fifth column with its number: "....5...10...15".
+std::string Spaltenlineal() {
+  std::string Text;
+  for (int Spalte = 5; Spalte <= 200; Spalte += 5) {
+    const std::string Zahl = std::to_string(Spalte);
+    Text += std::string(5 - Zahl.size(), '.') + Zahl;
+  }
+  return Text;
+}
+
 class TVFreiForm final : public Dialogform {
  public:
   TVFreiForm(const Freiformat& F, bool ZumSchreiben, Vorschauquelle Erste)
@@ -145,7 +158,8 @@ class TVFreiForm final : public Dialogform {
       Fehler = "Zeilen überspringen: erwartet wird eine Zahl bis " + std::to_string(FreiMaxZeilen);
     if (!Fehler.empty()) return Fehler;
     const Freieinwand E = FreiformatEinwand(Wahl, Schreiben);
-    if (!E.Text.empty()) Von[E.Wert]->Fehlerhaft = true;
+    const bool OhneEnde = Wahl.InSpalten && Wahl.Werte[E.Wert].Bis == 0;
+    if (!E.Text.empty()) (OhneEnde ? Bis : Von)[E.Wert]->Fehlerhaft = true;
     return E.Text;
   }
 
@@ -156,24 +170,42 @@ class TVFreiForm final : public Dialogform {
     VonTitel->Text = Spalten ? "von" : "Nummer des Feldes";
     BisTitel->Sichtbar = Spalten;
     for (Feld* F : Bis) F->Sichtbar = Spalten;
-    const std::vector<Vorschauzeile> Erste = Fehler.empty() ? Zeilen(Wahl) : std::vector<Vorschauzeile>{};
-    Zweifel.assign(Erste.size(), {});
-    Vorschau->Leeren(0);
-    for (std::size_t z = 0; z < Erste.size(); ++z) Vorschau->ZeileAnhängen(Zeilentexte(Erste[z], Zweifel[z]));
-    LückenMarkieren(Erste);
-    std::size_t Zweifelhafte = 0;
-    for (std::size_t z = 0; z < Erste.size(); ++z) {
-      Zweifelhafte += std::find(Zweifel[z].begin(), Zweifel[z].end(), true) != Zweifel[z].end() ? 1 : 0;
-    }
-    Meldung->Text = !Fehler.empty() ? Fehler
-                    : Erste.empty() ? "keine Zeile"
-                    : Zweifelhafte == 0
-                        ? "ohne Zweifel"
-                        : Anzahltext(static_cast<int>(Zweifelhafte), "Zeile ist", "Zeilen sind") +
-                              " zweifelhaft, die Stellen sind markiert";
+    ZeilenZeigen(Fehler.empty());
+    const auto Zweifelhafte = std::count_if(Zweifel.begin(), Zweifel.end(), [](const Zellen& Z) {
+      return std::find(Z.begin(), Z.end(), true) != Z.end();
+    });
+    Meldung->Text = !Fehler.empty()   ? Fehler
+                    : Zweifel.empty() ? "keine Zeile"
+                    : Zweifelhafte > 0
+                        ? Anzahltext(static_cast<int>(Zweifelhafte), "Zeile ist", "Zeilen sind") +
+                              " zweifelhaft, die Stellen sind markiert"
+                        : "ohne Zweifel";
   }
 
-  using Zellen = std::array<bool, Freiwerte + 2>;
+  // A file is seen before it is understood: its columns have to be counted.
+  void ZeilenZeigen(bool Verstanden) {
+    Zweifel.clear();
+    Vorschau->Leeren(0);
+    if (!Verstanden && Schreiben) return;
+    if (Wahl.InSpalten) NurText("", Spaltenlineal());
+    for (const Vorschauzeile& V : Zeilen(Wahl)) {
+      if (!Verstanden) {
+        NurText(std::to_string(V.Nummer), V.Text);
+      } else {
+        Zweifel.emplace_back();
+        Vorschau->ZeileAnhängen(Zeilentexte(V, Zweifel.back()));
+      }
+    }
+    LückenMarkieren();
+  }
+
+  void NurText(std::string Nummer, std::string Text) {
+    Zweifel.emplace_back();
+    std::vector<std::string> Texte(Freiwerte + 2);
+    Texte.front() = std::move(Nummer);
+    Texte.back() = std::move(Text);
+    Vorschau->ZeileAnhängen(std::move(Texte));
+  }
 
   // A line as it would be read; what may be wrong in it is marked.
   std::vector<std::string> Zeilentexte(const Vorschauzeile& V, Zellen& Z) const {
@@ -200,16 +232,16 @@ class TVFreiForm final : public Dialogform {
 
   // Between blanks a value that is missing moves those behind it: a line without the last value that most
   // lines have may have lost another one.
-  void LückenMarkieren(const std::vector<Vorschauzeile>& Erste) {
+  void LückenMarkieren() {
     if (Wahl.InSpalten || Wahl.Trenner != ' ') return;
     const auto Letzter = std::max_element(Wahl.Werte.begin(), Wahl.Werte.end(),
                                           [](const auto& A, const auto& B) { return A.Von < B.Von; });
     const int Spalte = static_cast<int>(Letzter - Wahl.Werte.begin()) + 1;
     std::vector<std::size_t> Kürzere;
-    for (std::size_t z = 0; z < Erste.size(); ++z) {
+    for (std::size_t z = 0; z < Zweifel.size(); ++z) {
       if (Vorschau->Inhalt(static_cast<int>(z), Spalte).empty()) Kürzere.push_back(z);
     }
-    if (2 * Kürzere.size() >= Erste.size()) return;
+    if (2 * Kürzere.size() >= Zweifel.size()) return;
     for (const std::size_t z : Kürzere) Zweifel[z][FreiHoehe + 1] = Zweifel[z][FreiSymbol + 1] = true;
   }
 
