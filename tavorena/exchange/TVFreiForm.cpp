@@ -19,6 +19,7 @@ constexpr const char *RahmenTrennung = "Trennung :", *RahmenStellen = "Stellen :
 constexpr std::array<std::pair<const char*, char>, 4> Trennerliste = {
     {{"Leerzeichen", ' '}, {"Tabulator", '\t'}, {";", ';'}, {",", ','}}};
 constexpr std::size_t Vorschaubytes = std::size_t{256} << 10U;
+constexpr int Vorschauzeichen = 100;  // of a line that a cell shows
 
 /// A line of the preview.
 struct Vorschauzeile {
@@ -42,7 +43,7 @@ using Zellen = std::array<bool, Freiwerte + 2>;
 // Every fifth column with its number: "....5...10...15".
 std::string Spaltenlineal() {
   std::string Text;
-  for (int Spalte = 5; Spalte <= 200; Spalte += 5) {
+  for (int Spalte = 5; Spalte <= Vorschauzeichen; Spalte += 5) {
     const std::string Zahl = std::to_string(Spalte);
     Text += std::string(5 - Zahl.size(), '.') + Zahl;
   }
@@ -62,15 +63,16 @@ class TVFreiForm final : public Dialogform {
     StellenAnlegen();
     DateiAnlegen();
     Meldung = &BeschriftungAnlegen("", {0, 0}, RahmenVorschau);
-    Vorschau = &GitterAnlegen("FreiVorschau",
-                              {{"Zeile", 6},
-                               {Freinamen[FreiPnr], PnrZeichen},
-                               {Freinamen[FreiRechts], 14},
-                               {Freinamen[FreiHoch], 14},
-                               {Freinamen[FreiHoehe], 11},
-                               {Freinamen[FreiSymbol], 8, false, false},
-                               {Schreiben ? "wird geschrieben" : "steht in der Datei", 60, false, false}},
-                              {1, 0}, RahmenVorschau);
+    Vorschau = &GitterAnlegen(
+        "FreiVorschau",
+        {{"Zeile", 6},
+         {Freinamen[FreiPnr], PnrZeichen},
+         {Freinamen[FreiRechts], 14},
+         {Freinamen[FreiHoch], 14},
+         {Freinamen[FreiHoehe], 11},
+         {Freinamen[FreiSymbol], 8, false, false},
+         {Schreiben ? "wird geschrieben" : "steht in der Datei", Vorschauzeichen + 4, false, false}},
+        {1, 0}, RahmenVorschau);
     Vorschau->NurLesen = true;
     Vorschau->Auffällig = [this](int z, int s) {
       const auto Zeile = static_cast<std::size_t>(z);
