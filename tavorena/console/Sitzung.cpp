@@ -90,8 +90,8 @@ std::string Einwand(const Konsolenbefehl& B, const Aufruf& A) {
   for (const Rolle& Aus : Rollen) {
     for (const Rolle& Andere : Rollen) {
       // The table may go back to its file; a file that is to become itself is told when it comes to that.
-      const bool Erlaubt = (&Aus == &Rollen[0] && &Andere == &Rollen[2]) ||
-                           (&Aus == &Rollen[4] && &Andere == &Rollen[3]);
+      const bool Erlaubt =
+          (&Aus == &Rollen[0] && &Andere == &Rollen[2]) || (&Aus == &Rollen[4] && &Andere == &Rollen[3]);
       if (!Aus.Ausgabe || &Aus == &Andere || Erlaubt || !SelbeDatei(Aus.Name, Andere.Name)) continue;
       return Aus.Name + ": " + Aus.Wort + " ist auch " + Andere.Wort;
     }
