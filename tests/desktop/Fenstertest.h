@@ -208,6 +208,8 @@ class Fensterumgebung : public QObject {
       if (Offen != nullptr && Aktiv != Offen) return Offen->activateWindow();
       if (Aktiv == nullptr && Fenster != nullptr) return Fenster->activateWindow();
       if (Offen == nullptr || Offen == Bedient) return;
+      // Its sheets are on their way: it is done with.
+      if (Offen->objectName() == "Druckvorschau" && TVKernMDIForm::Fenster().IstBeschäftigt()) return;
       if (Offen->findChild<QObject*>("Tastensperre") != nullptr) return;  // it would drop the keys
       Bedient = Offen;
       if (Dialoge.empty()) Offen->close();
