@@ -48,6 +48,7 @@ QKeySequence Kurztaste(std::string_view Name) {
   if (Name == "MenüDateiNeu") return QKeySequence::New;
   if (Name == "MenüDateiLesen(0)") return QKeySequence::Open;
   if (Name == "MenüDateiSpeichern(0)") return QKeySequence::Save;
+  if (Name == "MenüDateiDrucken(0)") return QKeySequence::Print;
   if (Name == "MenüDateiBeenden") return QKeySequence::Quit;
   if (Name == "MenüBearbeitenRück") return QKeySequence::Undo;
   if (Name == "MenüInfoHandbuch") return Qt::Key_F1;

@@ -29,7 +29,7 @@ void Textdruck::Zeichnen(QPainter& Maler, int Blatt) const {
   Maler.scale(1.0 / Feinheit, 1.0 / Feinheit);
   Maler.setFont(Schrift);
   Maler.setPen(Qt::black);
-  QPointF Stelle(Randzeichen * Zeichenbreite * Seiten.Schrift * Punkt, ErsteGrundlinie * Punkt);
+  QPointF Stelle(Randzeichen * Zeichenvorschub * Seiten.Schrift * Punkt, ErsteGrundlinie * Punkt);
   for (const std::string& Zeile : Seiten.Seiten[static_cast<std::size_t>(Blatt)]) {
     Maler.drawText(Stelle, QString::fromStdString(Zeile));
     Stelle.ry() += Zeilenabstand * Punkt;

@@ -42,7 +42,7 @@ bool SchriftWählen(cairo_t* Zeichnung, double Größe) {
   cairo_text_extents_t Schmal, Breit;
   cairo_text_extents(Zeichnung, "i", &Schmal);
   cairo_text_extents(Zeichnung, "│", &Breit);
-  const double Soll = Zeichenbreite * Größe;
+  const double Soll = Zeichenvorschub * Größe;
   return std::fabs(Schmal.x_advance - Soll) < 0.02 && std::fabs(Breit.x_advance - Soll) < 0.02;
 }
 
@@ -63,7 +63,7 @@ bool SeitenZeichnen(cairo_t* Zeichnung, const Druckseiten& Seiten) {
   bool Gezeigt = false, Weiter = true;
   int Nummer = 0;
   for (const auto& Zeilen : Seiten.Seiten) {
-    SeiteZeichnen(Zeichnung, Zeilen, Randzeichen * Zeichenbreite * Seiten.Schrift);
+    SeiteZeichnen(Zeichnung, Zeilen, Randzeichen * Zeichenvorschub * Seiten.Schrift);
     ++Nummer;
     if (!Pause.Fällig()) continue;
     StatusHilfeSetzen("Seite " + std::to_string(Nummer) + " von " + std::to_string(Seiten.Seiten.size()));

@@ -44,6 +44,13 @@ class FensterTest final : public Fensterumgebung {
     QVERIFY(Protokoll.contains("WS=      0.200  D=    0.160 ******(>D)\r\n"));
     QCOMPARE(Sta.count("\nNR  ") + Sta.count("\nNND "), 6);
 
+    Dialoge.push_back([] {
+      QCOMPARE(VordererDialog()->windowTitle(), QString("a.kor drucken"));
+      Drücke(Qt::Key_Escape);
+    });
+    QTest::keyClick(Fenster.get(), Qt::Key_P, Qt::ControlModifier);
+    QVERIFY(Dialoge.empty());
+
     ProtokollNehmen(Pfad("b.dru").toStdString());
     Wähle(Pfad("a.sta"));
     Menü("MenüDateiStapel");
