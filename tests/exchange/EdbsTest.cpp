@@ -136,8 +136,9 @@ TEST_F(EdbsTest, DateiKommtBytegleichZurück) {
   int Nummer = 0;
   for (const char Art : std::string_view("123456789ASTRKPFBVJDMNCHXUZ_0")) {
     const double Höhen[] = {0, 0.123, 1.234, -12.345, 123.456, -1234.567};
-    EDBSSatz S;
-    ASSERT_EQ(EDBSSatzLesen(Mit(60, std::string(1, Art)), S), 0);
+    EDBSSatz S;  // its views lie in the record
+    const std::string Satz = Mit(60, std::string(1, Art));
+    ASSERT_EQ(EDBSSatzLesen(Satz, S), 0);
     Info.Punktart = S.Info.Punktart;
     ++Nummer;
     EDBSSatzSchreiben(Nummer, std::to_string(1000 * Nummer), 3500123.456, 5600456.789, Höhen[Nummer % 6],
