@@ -13,7 +13,7 @@ inline constexpr double Zeilenabstand = 12;
 inline constexpr double ErsteGrundlinie =
     70;  ///< of the first line, from above; the 60 lines stand in the middle
 inline constexpr double Zeichenvorschub = 0.602;  ///< of a character, in sizes of the font
-inline constexpr int Randzeichen = 6;           ///< left margin, in characters
+inline constexpr int Randzeichen = 6;             ///< left margin, in characters
 inline constexpr const char* Druckschrift = "DejaVu Sans Mono";
 /// @}
 
