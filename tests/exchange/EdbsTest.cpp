@@ -55,8 +55,9 @@ TEST_F(EdbsTest, SatzHatSeineSpalten) {
   Info2.Punktart = 25;
   EDBSSatzSchreiben(2, "112345", 3500123.456, 5600456.789, 345, "025", Info2, Zeile);
   EXPECT_EQ(Zeile, Satz2);
-  EDBSSatz S;
-  ASSERT_EQ(EDBSSatzLesen(Satz1 + "  ", S), 0);
+  EDBSSatz S;  // its views lie in the line
+  Zeile = Satz1 + "  ";
+  ASSERT_EQ(EDBSSatzLesen(Zeile, S), 0);
   EXPECT_TRUE(Gleich(S.Pnr, "112", S.Rechts, 3500123.456, S.Hoch, 5600456.789, S.Hoehe, 0, S.Symbol, "5",
                      S.Info, Info1, S.KmQuadrat, "35560000"));
   ASSERT_EQ(EDBSSatzLesen(Satz2, S), 0);
@@ -136,7 +137,7 @@ TEST_F(EdbsTest, DateiKommtBytegleichZurück) {
   int Nummer = 0;
   for (const char Art : std::string_view("123456789ASTRKPFBVJDMNCHXUZ_0")) {
     const double Höhen[] = {0, 0.123, 1.234, -12.345, 123.456, -1234.567};
-    EDBSSatz S;  // its views lie in the record
+    EDBSSatz S;
     const std::string Satz = Mit(60, std::string(1, Art));
     ASSERT_EQ(EDBSSatzLesen(Satz, S), 0);
     Info.Punktart = S.Info.Punktart;
