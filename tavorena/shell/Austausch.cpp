@@ -55,8 +55,8 @@ std::string LeseberichtText(const Lesebericht& B) {
 int TabelleAusgeben(const std::string& Dateiname, Punktformat Format, Zeichensatz Satz, bool Anhängen) {
   const Dateistand Eben = DateistandVon(Dateiname);
   std::string Alt, Neu, Grund;
-  bool Gut = KorText(Format, Optionen.OptNachkommaSpeichern, Neu) == 0 &&
-             (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
+  bool Gut =
+      KorText(Format, Speicherstellen(), Neu) == 0 && (!Anhängen || DateiLesen(Dateiname, Alt, &Grund) == 0);
   if (Gut && Anhängen) Satz = FortgesetztIn(Alt, Satz);
   if (Gut && !SpeichernErlaubt(Dateiname, Format, Anhängen, Satz)) return -1;
   Neu = NachZeichensatz(Neu, Satz);

@@ -64,13 +64,12 @@ bool FremdGeändert(const std::string& Dateiname) {
   return SelbeDatei(Dateiname, Bekannt.Name) && Jetzt != Bekannt.Stand && Jetzt != Dateistand{};
 }
 
-// Whatever an option came to, coordinates are not rounded to metres by it.
+}  // namespace
+
 int Speicherstellen() {
   const int Gewählt = Optionen.OptNachkommaSpeichern;
   return Gewählt >= 0 && Gewählt <= 6 ? Gewählt : OptionenSatz().OptNachkommaSpeichern;
 }
-
-}  // namespace
 
 // A file of whatever kind gives some points; taken for a job, it would be saved over.
 bool DarfGelesenWerden(const std::string& Dateiname, const Dateibefund& B) {

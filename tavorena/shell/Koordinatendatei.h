@@ -28,6 +28,10 @@ namespace tavorena {
 void KoordinatenHinzulesen(const std::string& Dateiname, Lesemodus Modus, Dateiformat Format,
                            const std::function<bool(std::string_view)>& Nimmt = {});
 
+/// Decimals of a file that is written: whatever the option came to, coordinates are not rounded to metres by
+/// it.
+[[nodiscard]] int Speicherstellen();
+
 /// The file stands as this program knows it, and the table holds all of it.
 void KoordinatendateiStandMerken(const std::string& Dateiname);
 
