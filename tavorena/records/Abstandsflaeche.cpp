@@ -5,7 +5,7 @@
 
 namespace tavorena {
 
-Block AbstandsflächenBlock(int Nachkomma, const Protabstand& A) {
+Block AbstandsflächenBlock(int Nachkomma, const Protabstandsfläche& A) {
   const Spalten S(Nachkomma);
   return Zahlenblock(Nachkomma, {Leerzeichen(6) + "Wand" + S.Zahl(A.Länge, 5) + " x" + S.Zahl(A.Höhe, 5) +
                                  " m  Faktor" + ZahlFormat(A.Faktor, 2, 3) + "  Tiefe" + S.Zahl(A.Tiefe, 6) +

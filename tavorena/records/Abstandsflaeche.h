@@ -7,7 +7,7 @@
 namespace tavorena {
 
 /// A wall and the area that stays free in front of it.
-struct Protabstand {
+struct Protabstandsfläche {
   double Länge = 0, Höhe = 0, Faktor = 0;  ///< of the wall [m]; of its height
   double Tiefe = 0, Fläche = 0;            ///< of the area [m], [m²]
 };
@@ -15,6 +15,6 @@ struct Protabstand {
 inline constexpr const char* TitelAbstandsflächen = "Abstandsflächen";
 
 /// Length and height of the wall, factor, depth and area, in one line.
-[[nodiscard]] Block AbstandsflächenBlock(int Nachkomma, const Protabstand& A);
+[[nodiscard]] Block AbstandsflächenBlock(int Nachkomma, const Protabstandsfläche& A);
 
 }  // namespace tavorena

@@ -58,7 +58,7 @@ void AbstandsflächeBerechnen() {
   double Länge = 0, Höhe = 0, Faktor = 0;
   if (!WandFragen(Länge, Höhe, Faktor)) return;
   const double Tiefe = Abstandstiefe(Höhe, Faktor);
-  const Protabstand A{Länge, Höhe, Faktor, Tiefe, Länge * Tiefe};
+  const Protabstandsfläche A{Länge, Höhe, Faktor, Tiefe, Länge * Tiefe};
   auto Kopf = std::make_shared<Verbindung>();
   Kopf->Titel = TitelAbstandsflächen;
   Kopf->Riß = LetzterPlan;
