@@ -184,19 +184,15 @@ int AusZeichensatz(std::string& Text, Zeichensatz Z, std::string* Grund) {
     if (Grund != nullptr) *Grund = Wort;
     return -1;
   };
-  if (Z == Zeichensatz::Dos850) {
-    Text = AusCodepage850(Text);
-  } else if (Z == Zeichensatz::Windows1252) {
-    Text = AusWindows1252(Text);
-  } else if (Text.starts_with("\xFF\xFE") || Text.starts_with("\xFE\xFF")) {
+  const bool Acht = Z == Zeichensatz::Windows1252 || Z == Zeichensatz::Dos850;
+  if (!Acht && (Text.starts_with("\xFF\xFE") || Text.starts_with("\xFE\xFF")))
     return Gescheitert("ist in UTF-16 geschrieben");
-  } else if (IstUtf8(Text)) {
+  if (!Acht && IstUtf8(Text)) {
     if (Text.starts_with(Bom)) Text.erase(0, Bom.size());
-  } else if (Z == Zeichensatz::Automatisch) {
-    Text = AusWindows1252(Text);
-  } else {
-    return Gescheitert("ist nicht in UTF-8 geschrieben");
+    return 0;
   }
+  if (!Acht && Z != Zeichensatz::Automatisch) return Gescheitert("ist nicht in UTF-8 geschrieben");
+  Text = Z == Zeichensatz::Dos850 ? AusCodepage850(Text) : AusWindows1252(Text);
   return 0;
 }
 

@@ -92,7 +92,8 @@ bool IstLt4Zeile(std::string_view Zeile) {
 
 bool IstKorZeile(std::string_view Zeile) {
   Wortnehmen(Zeile);
-  return IstZahlwort(Wortnehmen(Zeile)) && IstZahlwort(Wortnehmen(Zeile));
+  const std::string_view Rechts = Wortnehmen(Zeile), Hoch = Wortnehmen(Zeile);
+  return IstZahlwort(Rechts) && IstZahlwort(Hoch);
 }
 
 // By what most of the lines are; a line of LT4 could be one of KOR as well.

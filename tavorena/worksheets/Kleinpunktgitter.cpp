@@ -123,7 +123,8 @@ int Kleinpunktgitter::Platz(std::size_t n) const {
 
 int Kleinpunktgitter::Ändern(std::size_t n, const Kleinpunkteingabe& K) {
   const int z = Platz(n);
-  const Zeileneingabe Vorher = Reihe(z);
+  const Zeileneingabe& Alte = Reihe(z);
+  const Zeileneingabe Vorher = Alte;  // what was typed, without its result
   if (Vorher == Zeile(K)) return 0;
   Eingaben.EingabeZeigen(z, Zeile(K));
   if (ZeileAbschließen(z)) return 0;
