@@ -134,8 +134,9 @@ double Fusspunktbreite(const Ellipsoid& E, double Bogen);
 
 inline constexpr double UtmMassstab = 0.9996;  ///< scale of UTM on the central meridian
 
-/// Zone of UTM that a longitude [degrees] lies in; a longitude between two zones belongs to the eastern one.
-/// @param[out] Zone  1 to 60 for -180 up to below 180 degrees, counted on beyond
+/// Zone of UTM that a longitude lies in; one between two zones belongs to the eastern one.
+/// @param[in]  Laenge  [degrees]
+/// @param[out] Zone    1 to 60 for -180 up to below 180 degrees, counted on beyond
 /// @return 0; -1 if the zone exceeds 32 bits
 [[nodiscard]] int UTMZone(double Laenge, std::int32_t& Zone);
 

@@ -27,7 +27,11 @@ struct Krügerreihe {
   std::array<double, 6> Rück;  ///< the same, to the ellipsoid
 };
 
-enum class Netzart { GK, UTM };
+/// Strips of Gauss-Krüger, 3 degrees wide, or zones of UTM, 6 degrees wide.
+enum class Netzart {
+  GK,   ///< scale 1
+  UTM,  ///< scale 0.9996
+};
 
 /// A grid of strips or zones with all that is computed once.
 struct Streifennetz {
@@ -35,9 +39,9 @@ struct Streifennetz {
   explicit Streifennetz(const Ellipsoid& Körper);
   /// UTM: GRS 80, scale 0.9996.
   Streifennetz();
-  Netzart Art;
-  Ellipsoid E;
-  Krügerreihe K;
+  Netzart Art;    ///< strips or zones
+  Ellipsoid E;    ///< of the points
+  Krügerreihe K;  ///< its series
 };
 
 /// Central meridian of a strip or zone [degrees].
@@ -54,6 +58,7 @@ struct Streifennetz {
 inline constexpr double StreifenGrenze = 10;
 
 /// Geographic coordinates into a strip or zone.
+/// @param[in]  N               the grid
 /// @param[in]  Nummer          of the strip or zone, also another one than the point's own
 /// @param[in]  Laenge, Breite  [degrees]
 /// @param[out] Rechts, Hoch    [m]; Rechts with 500000, Gauss-Krüger with the million of the strip
@@ -63,7 +68,10 @@ inline constexpr double StreifenGrenze = 10;
                                     double& Rechts, double& Hoch);
 
 /// The way back.
-/// @param[in]  Nummer  strip or zone that the coordinates belong to, whatever million Rechts has
+/// @param[in]  N               the grid
+/// @param[in]  Nummer          strip or zone that the coordinates belong to, whatever million Rechts has
+/// @param[in]  Rechts, Hoch    [m]
+/// @param[out] Laenge, Breite  [degrees]
 /// @return as StreifenVorwaerts, by the longitude and latitude that come out
 /// The half millimetre of UTMRueckwaerts holds within 3 degrees, a micrometre beyond.
 [[nodiscard]] int StreifenRueckwaerts(const Streifennetz& N, std::int32_t Nummer, double Rechts, double Hoch,
