@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstring>
 
@@ -146,6 +147,16 @@ std::string_view OhneFührendeNullen(std::string_view Nummer) {
 
 // A whole number with zeros in front, stars where it has no room.
 void GanzzahlAnhängen(std::string& Ziel, double Zahl, std::size_t Breite) {
+  std::array<char, 8> Ziffern;
+  if (Zahl >= 0 && Zahl < 1e7 && Zahl == std::floor(Zahl)) {
+    const char* const Ende =
+        std::to_chars(Ziffern.data(), Ziffern.data() + Ziffern.size(), static_cast<int>(Zahl)).ptr;
+    const auto n = static_cast<std::size_t>(Ende - Ziffern.data());
+    if (n <= Breite) {
+      Ziel.append(Breite - n, '0').append(Ziffern.data(), n);
+      return;
+    }
+  }
   std::string Feld = ZahlFeldNull(Zahl, static_cast<int>(Breite));
   if (Feld.size() != Breite) Feld.assign(Breite, '*');  // a sign
   Ziel += Feld;
