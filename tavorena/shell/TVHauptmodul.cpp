@@ -9,7 +9,6 @@
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Text.h>
-#include <tavorena/core/Verlust.h>
 #include <tavorena/exchange/EDBS.h>
 #include <tavorena/exchange/Formattafel.h>
 #include <tavorena/forms/TVEinzelKoreinForm.h>
@@ -123,7 +122,7 @@ void HauptInitialisierung() {
   KorLeeren();
   EDBSOffen = {};
   TabellenRücknahme = {};
-  VerlusteVergessen();
+  AusgelassenMerken("", 0, 0);
   ProtokollNehmen("");
   Protokollfenster.Leeren();
   StapelDatei = {};

@@ -249,6 +249,10 @@ TEST_F(Haupt, VerlusteDesFormats) {
     EXPECT_EQ(DateiVorhanden(Ordner.Pfad("b.lt4")), Antwort == KnopfJa);
   }
   Befehl("MenüDateiSpeichern(0)");  // was answered
+  Skript.Erwarte("speichern ? ", KnopfNein);
+  Befehl("MenüDateiSchließen");
+  Punkt("1", 1, 2);
+  EXPECT_EQ(KoordinatenExportieren(Ordner.Pfad("c.kor"), Dateiformat::Kor), 0);  // another job
 }
 
 TEST_F(Haupt, MisslungenesLesenLäßtDenTitelStehen) {
