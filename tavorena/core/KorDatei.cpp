@@ -348,7 +348,7 @@ int KorLesen(const std::string& Dateiname, Lesemodus Modus, Punktformat Format,
   }
   std::string Inhalt, Grund;
   if (InhaltHolen(Dateiname, *Zugang, Inhalt, Grund) < 0) {
-    Hinweis("Koordinatendatei\n" + Dateiname + "\nnicht vorhanden !" + InKlammern(Grund));
+    KoordinatendateiFehlt(Dateiname, Grund);
     return -1;
   }
   if (Prüfen && Zugang->Was != Formatzugang::Zufuhr::Name && !Prüfen(Befunden(Inhalt, Format))) return -2;

@@ -95,6 +95,14 @@ void LesefehlerMelden(const std::string& Datei, const std::string& Grund) {
   Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
 }
 
+void KoordinatendateiFehlt(const std::string& Datei, const std::string& Grund) {
+  Hinweis("Koordinatendatei\n" + Datei + "\nnicht vorhanden !" + InKlammern(Grund));
+}
+
+void SpeichernMißlungen(const std::string& Datei, const std::string& Grund) {
+  Hinweis("Fehler aufgetreten beim Speichern der Datei " + Datei + InKlammern(Grund));
+}
+
 void SchreibfehlerMelden(const std::string& Datei, const std::string& Grund) {
   Hinweis(Schreibfehler + ("\n" + Datei) + InKlammern(Grund));
 }

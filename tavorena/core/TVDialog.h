@@ -60,6 +60,10 @@ void LaufzeitFehlerMeldung(Laufzeitfehler Fehler, const std::string& Ort, const 
 
 /// A file can not be read: "Datei nicht gefunden:", its name and the reason.
 void LesefehlerMelden(const std::string& Datei, const std::string& Grund);
+/// A file of points can not be read: its name, "nicht vorhanden !" and the reason.
+void KoordinatendateiFehlt(const std::string& Datei, const std::string& Grund);
+/// A file of the user was not saved: its name and the reason.
+void SpeichernMißlungen(const std::string& Datei, const std::string& Grund = "");
 /// What was to go into a file did not: "Fehler aufgetreten beim Schreiben in", its name and the reason.
 void SchreibfehlerMelden(const std::string& Datei, const std::string& Grund = "");
 /// A file could not be written: its name and the reason, and number 70, or 76 where its folder is missing.

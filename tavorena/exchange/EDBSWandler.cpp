@@ -51,7 +51,7 @@ class Wandler {
 
   int EdbsLesen() {
     std::string Bytes, Grund;
-    if (DateiLesen(A.Ein, Bytes, &Grund) < 0) return Fehlt(A.Ein, Grund);
+    if (DateiLesen(A.Ein, Bytes, &Grund) < 0) return LesefehlerMelden(A.Ein, Grund), -1;
     const Beschäftigung Lang;
     Lesebericht B;
     bool Gestoppt = false;
@@ -73,7 +73,7 @@ class Wandler {
   int KatasterLesen() {
     std::string Text, Grund;
     if (A.Kataster.empty()) return 0;
-    if (TextdateiLesen(A.Kataster, Text, &Grund) < 0) return Fehlt(A.Kataster, Grund);
+    if (TextdateiLesen(A.Kataster, Text, &Grund) < 0) return LesefehlerMelden(A.Kataster, Grund), -1;
     Zeilenleser Leser(Text);
     std::string_view Zeile;
     while (Leser.Nächste(Zeile)) {
@@ -87,11 +87,6 @@ class Wandler {
   }
 
  private:
-  static int Fehlt(const std::string& Datei, const std::string& Grund) {
-    Hinweis("Datei nicht gefunden:\n" + Datei + InKlammern(Grund));
-    return -1;
-  }
-
   void PunktNehmen(const EDBSSatz& S) {
     const bool Tabelle = A.Nummer == EDBSNummer::Tabelle;
     std::string Pnr(Tabelle ? S.Pnr : S.Kennung);

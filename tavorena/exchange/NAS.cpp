@@ -497,7 +497,7 @@ int Lesen(const Punktquelle& Quelle, const Punktnehmer& Nehmen, Lesebericht& B) 
         FehlerMeldung("Format nicht erkannt");
         return -1;
       case Nasende::Unlesbar:
-        Hinweis("Koordinatendatei\n" + Quelle.Dateiname + "\nnicht vorhanden !" + InKlammern(Grund));
+        KoordinatendateiFehlt(Quelle.Dateiname, Grund);
         return -1;
     }
   }

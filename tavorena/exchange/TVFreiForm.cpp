@@ -306,7 +306,7 @@ std::vector<Vorschauzeile> Dateizeilen(const std::string& Text, const Freiformat
 int FreiformatFragenLesen(const std::string& Datei, Freiformat& F) {
   std::string Bytes, Grund;
   if (DateiLesen(Datei, Bytes, &Grund) < 0) {
-    Hinweis("Koordinatendatei\n" + Datei + "\nnicht vorhanden !" + InKlammern(Grund));
+    KoordinatendateiFehlt(Datei, Grund);
     return -1;
   }
   // What the whole file is taken for holds for its beginning.

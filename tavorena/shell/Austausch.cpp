@@ -71,7 +71,7 @@ int TabelleAusgeben(const std::string& Dateiname, Punktformat Format, Zeichensat
     Gut = Ergebnis == 0;
   }
   if (Gut) return 0;
-  Hinweis("Fehler aufgetreten beim Speichern der Datei\n" + Dateiname + InKlammern(Grund));
+  SpeichernMißlungen(Dateiname, Grund);
   return -1;
 }
 

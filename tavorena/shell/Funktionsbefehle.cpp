@@ -120,8 +120,7 @@ void CondorLesen(bool NurKor) {
   std::string Name, Text, Grund;
   const char* Filter = NurKor ? "CADdy (*.kor)|*.kor" : "Alle Dateien |*.*";
   if (DateiWahl(Dateisorte::Kor, Wahlmodus::Lesen, Filter, NurKor ? "*.kor" : "*.*", Name) < 0) return;
-  if (TextdateiLesen(Name, Text, &Grund) < 0)
-    return Hinweis("Koordinatendatei\n" + Name + "\nnicht vorhanden !" + InKlammern(Grund));
+  if (TextdateiLesen(Name, Text, &Grund) < 0) return KoordinatendateiFehlt(Name, Grund);
   const Inhaltsart Art = Text.find('\0') == std::string::npos ? InhaltsartVon(Text) : Inhaltsart::Unbekannt;
   DxfErgebnis Gelesen;
   if (Art == Inhaltsart::Unbekannt || (NurKor && Art != Inhaltsart::Kor))

@@ -303,7 +303,7 @@ void OptionenMerken() {
   if (OptionenSchreiben(&Grund) == 0) {
     Gemeldet.clear();
   } else if (std::exchange(Gemeldet, DateinameOptionen) != DateinameOptionen) {
-    Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen + InKlammern(Grund));
+    SpeichernMißlungen(DateinameOptionen, Grund);
   }
 }
 
@@ -346,7 +346,7 @@ void TheoOptionenMerken(const TheoOptionen& T) {
   if (TheoOptionenSchreiben(T) == 0) {
     Gemeldete.clear();
   } else if (std::exchange(Gemeldete, Theodolitdatei()) != Theodolitdatei()) {
-    Hinweis("Fehler aufgetreten beim Speichern der Datei " + Theodolitdatei());
+    SpeichernMißlungen(Theodolitdatei());
   }
 }
 

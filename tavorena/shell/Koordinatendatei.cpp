@@ -167,7 +167,7 @@ int KoordinatenExportieren(const std::string& Dateiname, Dateiformat Format, boo
     Gut = Ergebnis == 0;
   }
   if (!Gut) {
-    Hinweis("Fehler aufgetreten beim Speichern der Datei " + Dateiname + InKlammern(Grund));
+    SpeichernMißlungen(Dateiname, Grund);
     return -1;
   }
   if (SelbeDatei(Dateiname, Bekannt.Name)) Bekannt.Stand = DateistandVon(Dateiname);

@@ -85,7 +85,7 @@ bool Ablegen(const std::string& Name, const std::string& Text, bool Anhängen,
   if ((Anhängen ? TextAnhängen(Name, Text, &Grund)
                 : DateiErsetzen(Name, NachZeichensatz(Text, Satz), &Grund)) == 0)
     return true;
-  Hinweis("Fehler aufgetreten beim Speichern der Datei " + Name + InKlammern(Grund));
+  SpeichernMißlungen(Name, Grund);
   return false;
 }
 

@@ -105,7 +105,7 @@ class TVOptionenform final : public Formular {
     }
     std::string Grund;
     if (OptionenSchreiben(&Grund) < 0)  // they hold for this run
-      Hinweis("Fehler aufgetreten beim Speichern der Datei " + DateinameOptionen + InKlammern(Grund));
+      SpeichernMißlungen(DateinameOptionen, Grund);
     AnzeigePort().HauptfensterGeändert();
     // A view that was opened by its command stays.
     if (WarAn != O.GrafikfensterAn && !KoordinatendateiName.empty())
