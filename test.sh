@@ -32,6 +32,7 @@ cmake --preset headless -DTAVORENA_TESTS=OFF -DTAVORENA_WERROR=ON -DTAVORENA_PYT
   -DPython3_EXECUTABLE=/usr/bin/python3 >/dev/null
 cmake --build build/headless --target tavorena_gemeinsam tavorena_statisch tavorena_python tavorena-stapel
 tests/paket/pruefen.sh build/headless
+tests/paket/schnittstelle.sh build/headless
 
 schritt "aus Python"
 export PYTHONPATH=build/headless/python MPLBACKEND=Agg

@@ -3,12 +3,6 @@
 
 namespace tavorena {
 
-const std::string& Wert::Text() const {
-  static const std::string Kein;
-  const auto* Gesetzt = std::get_if<std::string>(&Inhalt);
-  return Gesetzt != nullptr ? *Gesetzt : Kein;
-}
-
 double Wert::Zahl() const {
   switch (Art()) {
     case WertArt::Ganz16:

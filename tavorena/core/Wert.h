@@ -48,10 +48,14 @@ class Wert {
   [[nodiscard]] bool IstGegeben() const { return !IstLeer() && !IstNull(); }
 
   /// The text of a Wert in state Text; of any other state the empty text.
-  [[nodiscard]] const std::string& Text() const;
+  [[nodiscard]] const std::string& Text() const {
+    static const std::string Kein;
+    const auto* Gesetzt = std::get_if<std::string>(&Inhalt);
+    return Gesetzt != nullptr ? *Gesetzt : Kein;
+  }
 
   /// The numeric value: empty and null give 0, true gives -1, a text its numeric prefix (with "," read
-  /// as "."), 0 if it has none.
+  /// as "."), 0 if it has none. For the package itself: the shared library offers the class TA alone.
   [[nodiscard]] double Zahl() const;
 
   /// The same state and the same value: 1 and "1" are two things.

@@ -35,6 +35,8 @@ enmResult Abbilden(int Ergebnis) {
   return Ergebnis < 0 ? enmResult::Fehler_AnfangsUndEndpunktGleich : enmResult::ok;
 }
 
+std::weak_ptr<void> Eben;  // the Wirt of the objects that there are; as a member the library would offer it
+
 }  // namespace
 
 /// What the program around the objects had, and has again after them.
@@ -55,8 +57,7 @@ struct TA::Wirt {
 
   /// The one of all objects: a second object may outlive the first.
   static std::shared_ptr<Wirt> Beiseite() {
-    static std::weak_ptr<Wirt> Eben;
-    std::shared_ptr<Wirt> Dieser = Eben.lock();
+    auto Dieser = std::static_pointer_cast<Wirt>(Eben.lock());
     if (!Dieser) Eben = Dieser = std::make_shared<Wirt>();
     return Dieser;
   }
