@@ -19,6 +19,9 @@ pakete_sichern bauen desktop test python ${streng:+streng}
 if [ "$streng" ]; then
   schritt "Formatierung"
   git ls-files -z -- '*.h' '*.cpp' | xargs -0 clang-format-14 --dry-run -Werror
+
+  schritt "Lizenzen"
+  reuse lint
 fi
 
 schritt "g++, Sanitizer, Tests"

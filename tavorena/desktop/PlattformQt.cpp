@@ -25,7 +25,9 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <tavorena/core/Atempause.h>
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Dialogvorrang.h>
 #include <tavorena/desktop/Druckvorschau.h>
@@ -357,8 +359,16 @@ int PlattformQt::ProgrammAusführen(const std::string& Programm, const std::vect
   Lauf.setStandardInputFile(QProcess::nullDevice());
   Lauf.start(Pfad(Programm), Angaben);
   if (!Lauf.waitForStarted(LängsteZeit)) return -1;
-  const bool Beendet = Lauf.waitForFinished(LängsteZeit);
-  Meldungen = Beendet ? Lauf.readAll().trimmed().toStdString() : "keine Antwort";
+  const Beschäftigung Lang;
+  constexpr int Weile = 100;  // [ms]
+  bool Beendet = Lauf.waitForFinished(Weile), Angehalten = false;
+  for (int Zeit = Weile; !Beendet && !Angehalten && Zeit < LängsteZeit; Zeit += Weile) {
+    EreignisseAbarbeiten();
+    Angehalten = std::exchange(KorStop, Laufwunsch::Weiter) == Laufwunsch::Stop;
+    Beendet = Lauf.waitForFinished(Weile);
+  }
+  if (!Beendet) Lauf.kill();
+  Meldungen = Beendet ? Lauf.readAll().trimmed().toStdString() : Angehalten ? "angehalten" : "keine Antwort";
   return Beendet && Lauf.exitStatus() == QProcess::NormalExit ? Lauf.exitCode() : 1;
 }
 

@@ -388,6 +388,9 @@ class RahmenTest final : public Fensterumgebung {
         3);
     QCOMPARE(Meldungen, std::string("a'b $(c) ä"));
     QCOMPARE(Plattform->ProgrammAusführen("gibt-es-nicht", {}, Meldungen), -1);
+    Plattform->StopDrücken = true;  // one that does not answer
+    QCOMPARE(Plattform->ProgrammAusführen("sleep", {"20"}, Meldungen), 1);
+    QCOMPARE(Meldungen, std::string("angehalten"));
   }
 
   void musterWaehltDenFilter() {
