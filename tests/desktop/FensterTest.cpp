@@ -11,29 +11,17 @@ class FensterTest final : public Fensterumgebung {
   // Open a file, three worksheets, leave, save; look at the three files; replay the job on them.
   void einAuftragMitDerTastatur() {
     Öffne();
-    Antworte("Riss 12\n3\n");
-    QTest::keyClick(Fenster.get(), Qt::Key_R, Qt::AltModifier);
-    QVERIFY(QApplication::activePopupWidget() != nullptr);
-    for (const auto Taste : {Qt::Key_L, Qt::Key_L, Qt::Key_Return})  // the second entry of this letter
-      QTest::keyClick(QApplication::activePopupWidget(), Taste);
-    Tippe("1001\n1002\n0\n99,93\n2003\n2004\n");
+    Spiele("Alt+R L L Return Riss Leer 12 Return 3 Return 1001 Return 1002 Return 0 Return 99,93 Return");
+    Spiele("2003 Return 2004 Return");
     QVERIFY(!Fenster->findChild<QTableView*>("LinelGitter")->isColumnHidden(5));
     Drücke(Qt::Key_Plus, Qt::KeypadModifier);
-    Tippe("\n\n\n");  // 2005, then out of the grid, then the end of the connection
-    QTRY_COMPARE(FokusName(), QString("LinelAnfPnr"));
-    Drücke(Qt::Key_S, Qt::AltModifier);
-    QTRY_VERIFY(!BlätterOffen());
-    Antworte("\n\n");  // the plan stays
-    Menü("MenüKatasterPolel");
-    QTRY_COMPARE(FokusName(), QString("PolelAnfPnr"));
-    Tippe("1001\n1002\n12.5\n99.98\n2003\n2004\n\n\n");
-    Drücke(Qt::Key_S, Qt::AltModifier);
-    Antworte("\n\n");
-    Menü("MenüKatasterDis");
-    QTRY_COMPARE(FokusName(), QString("DisAnfPnr"));
-    Tippe("1001\n1002\n99.8\n2005\n0\n");
-    Drücke(Qt::Key_S, Qt::AltModifier);
-    QTRY_VERIFY(!BlätterOffen());
+    Spiele("Return Return Return");  // 2005, then out of the grid, then the end of the connection
+    QCOMPARE(FokusName(), QString("LinelAnfPnr"));
+    Spiele("Alt+S Alt+R P Return Return");  // the plan stays
+    QCOMPARE(FokusName(), QString("PolelAnfPnr"));
+    Spiele("1001 Return 1002 Return 12.5 Return 99.98 Return 2003 Return 2004 Return Return Return Alt+S");
+    Spiele("Alt+R E Return Return 1001 Return 1002 Return 99.8 Return 2005 Return 0 Return Alt+S");
+    QVERIFY(!BlätterOffen());
     QTest::keyClick(Fenster.get(), Qt::Key_S, Qt::ControlModifier);
     QVERIFY(
         Inhalt(Pfad("a.kor")).startsWith("          1001   3500100.000   5600200.000      12.500  015\r\n"));
@@ -66,6 +54,23 @@ class FensterTest final : public Fensterumgebung {
     QTRY_VERIFY(!BlätterOffen());
     QCOMPARE(Inhalt(Pfad("a.sta")), Sta);
     QCOMPARE(Inhalt(Pfad("b.dru")), Protokoll);
+  }
+
+  // What the handbook prints is either a key or typed, and nothing waits for an answer that does not come.
+  void tastenWieGedruckt() {
+    std::vector<Tastendruck> Tasten;
+    QCOMPARE(TastenfolgeLesen("Alt+R L  Strg++\nUmschalt+Tab 9,ß F12 + Return", Tasten), QString());
+    QStringList Gelesen;
+    for (const Tastendruck& T : Tasten) Gelesen << QKeySequence(T.Mit | Qt::Key(T.Taste)).toString() + T.Text;
+    QCOMPARE(Gelesen.join(' '), QString("Alt+Rr LL Ctrl++ Shift+Backtab\t 99 ,, ßß F12 ++ Return\r"));
+    QCOMPARE(TastenfolgeLesen("Alt+R Alt+Lnks", Tasten), QString("Alt+Lnks"));
+
+    Schreibe(Pfad("t.kor"), "1 3500100 5600200\r\n");
+    Schreibe(Pfad("t.dru"), "\r\n");
+    Spiele("Strg+O " + Pfad("t.kor") + " Return Alt+N");
+    QVERIFY(KorAnzahl == 1 && !Prot.Datei.empty());
+    QCOMPARE(Gespielt("Alt+O Return"), QString("offen blieb: Tavorena Optionen"));
+    QVERIFY(VordererDialog() == nullptr);
   }
 
   void fehlenderPunktUndFokus() {

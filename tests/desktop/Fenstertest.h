@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Tastenfolge.h"
+
 #include <deque>
 #include <functional>
 
@@ -164,6 +166,17 @@ class Fensterumgebung : public QObject {
     Öffne();
     Optionen.AbfrageRiss = false;
     Menü(Blatt);
+  }
+  // Plays keys as the handbook prints them; what they open they have to answer themselves.
+  QString Gespielt(const QString& Folge) {
+    Bediener.stop();
+    const QString Fehler = Tastenspieler(*Fenster).Spielen(Folge);
+    Bediener.start();
+    return Fehler;
+  }
+  void Spiele(const QString& Folge) {
+    const QString Fehler = Gespielt(Folge);
+    QVERIFY2(Fehler.isEmpty(), qPrintable(Fehler));
   }
   // Where the view shows a point.
   static QPoint Ort(const char* Pnr) {
