@@ -14,6 +14,7 @@
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 #include <tavorena/shell/Tabellenbefehle.h>
+#include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
 namespace {
@@ -117,6 +118,7 @@ std::string TVKernMDIForm::Hinweis(const Werkzeug& W) const {
 int TVKernMDIForm::Hilfe(const Menüeintrag& E) const {
   if (E.Hilfe != 0) return E.Hilfe;
   if (const Befehl* B = BefehlFinden(E.Name); B != nullptr && B->Hilfe != 0) return B->Hilfe;
+  if (const Blattart* Art = BlattartVonMenü(E.Name); Art != nullptr) return Art->Hilfenummer;
   const Menüeintrag* Eltern = MenüFinden(E.Eltern);
   return Eltern != nullptr ? Hilfe(*Eltern) : 0;
 }

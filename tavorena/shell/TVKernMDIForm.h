@@ -39,7 +39,7 @@ class TVKernMDIForm {
   [[nodiscard]] bool WerkzeugAktiv(const Werkzeug& W) const { return Grund(W).empty(); }
   /// Tool tip and help text of an image, with the reason why it can not be used.
   [[nodiscard]] std::string Hinweis(const Werkzeug& W) const;
-  /// Help number of an entry; that of its menu where it has none.
+  /// Help number of an entry: its own, that of its worksheet, else that of its menu.
   [[nodiscard]] int Hilfe(const Menüeintrag& E) const;
   /// Help number of the command that runs, such as one that asks something; 0: none runs.
   [[nodiscard]] int LaufendeHilfe() const { return Laufend; }
