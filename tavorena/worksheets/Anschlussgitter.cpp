@@ -53,7 +53,8 @@ Anschlussgitter::Anschlussgitter(Rechenblatt& Für, bool MitHöhen, Anschlussver
     if (Zellen.Zeile < Abweichungen.Zeilen()) Abweichungen.Zeile = *Zellen.Zeile;
   };
   Zellen.Markierbar = [this](int z) { return Reihen[static_cast<std::size_t>(z)].Gilt; };
-  Abweichungen.Hilfe = "Bekannt minus gerechnet; hervorgehoben: die größte Abweichung";
+  Abweichungen.Hilfe =
+      "vY, vX bekannt minus gerechnet, dHo gerechnet minus bekannt; hervorgehoben: die größte WL";
   Abweichungen.NurLesen = true;
   Abweichungen.Auffällig = [this](int z, int) { return Größte && z == *Größte; };
   Setzen({});
