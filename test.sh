@@ -48,6 +48,9 @@ if [ "$streng" ]; then
   cmake --preset clang >/dev/null
   cmake --build build/clang
 
+  schritt "noch einmal gebaut, dieselben Bytes"
+  tests/paket/gleich.sh clang
+
   schritt "ohne Qt"
   cmake --build build/headless
 
