@@ -88,6 +88,7 @@ PYBIND11_MODULE(tavorena, Modul) {
       "The methods of TA take their inputs by name, lists or arrays where there are several, and return one\n"
       "named tuple: result first, then the outputs; those that a failing method did not write are nan, 0 or\n"
       "empty.";
+  Modul.attr("__version__") = TAVORENA_FASSUNG;
   tavorena::python::Taklasse Klasse(Modul, "TA");
   Klasse.def(py::init(&tavorena::python::Anlegen),
              "Begins with an empty point table and the default settings.\n\n"
