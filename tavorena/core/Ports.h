@@ -57,6 +57,8 @@ class Anzeige {
   virtual ~Anzeige() = default;
   /// Shows a form; with Modal the call returns when the form is closed.
   virtual void FormularZeigen(Formular& /*Form*/, bool /*Modal*/) {}
+  /// Fills the work area with a form until it closes; one that is there is opened once more.
+  virtual void FüllendZeigen(Formular& /*Form*/) {}
   virtual void StatusSetzen(Statusfeld /*Feld*/, const std::string& /*Text*/) {}
   /// Title of the main window.
   virtual void FenstertitelSetzen(const std::string& /*Titel*/) {}
@@ -64,8 +66,8 @@ class Anzeige {
   virtual void HauptfensterGeändert() {}
   /// Lines of the protocol window changed; called for each line.
   virtual void ProtokollGeändert() {}
-  /// The handbook, at the page of what the user is in.
-  virtual void HandbuchZeigen() {}
+  /// The handbook, at the page of a help number; 0: of what the user is in.
+  virtual void HandbuchZeigen(int /*Hilfenummer*/) {}
   /// The graphics view: opens it, or lets it fill the work area, or gives that back.
   virtual void GrafikZeigen() {}
   /// Brings a place [m] into the middle of the graphics view, which opens where it is closed.

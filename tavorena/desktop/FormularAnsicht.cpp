@@ -33,8 +33,11 @@ QString Q(const std::string& Text) { return QString::fromStdString(Text); }
 
 // The keys that a form looks at. "+" and "-" of the number pad always step a point number; those of the
 // main keyboard only where they can not belong to the number: in an empty or wholly selected field. The space
-// bar is a key where rows are chosen.
-std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang, bool InGitter) {
+// bar is a key where rows are chosen; Delete and the digits are where nothing is typed.
+std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang, bool InGitter, bool OhneText) {
+  const bool Allein = (E.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (OhneText && Allein && E.key() >= Qt::Key_0 && E.key() <= Qt::Key_9)
+    return static_cast<Taste>(static_cast<int>(Taste::Ziffer0) + E.key() - Qt::Key_0);
   const bool Zählt = Anfang || E.modifiers().testFlag(Qt::KeypadModifier);
   switch (E.key()) {
     case Qt::Key_Return:
@@ -50,6 +53,8 @@ std::optional<Taste> TasteVon(const QKeyEvent& E, bool Anfang, bool InGitter) {
       return Taste::F2;
     case Qt::Key_Space:
       return InGitter ? std::optional(Taste::Leer) : std::nullopt;
+    case Qt::Key_Delete:
+      return OhneText ? std::optional(Taste::Entf) : std::nullopt;
     case Qt::Key_Plus:
       return Zählt ? std::optional(Taste::Plus) : std::nullopt;
     case Qt::Key_Minus:
@@ -280,7 +285,7 @@ bool FormularAnsicht::TasteGeben(Steuerelement& S, const QKeyEvent& Ereignis) {
   const bool Anfang = Zeile != nullptr && (Zeile->text().isEmpty() || Zeile->selectedText() == Zeile->text());
   auto* Markengitter = dynamic_cast<Gitter*>(&S);
   if (Markengitter != nullptr && Markengitter->Markenspalte < 0) Markengitter = nullptr;
-  const std::optional<Taste> T = TasteVon(Ereignis, Anfang, Markengitter != nullptr);
+  const std::optional<Taste> T = TasteVon(Ereignis, Anfang, Markengitter != nullptr, Zeile == nullptr);
   if (Markengitter != nullptr && MarkenZiehen(*Markengitter, Ereignis)) return true;
   if (Kopieren(S, Ereignis)) return true;
   FokusMelden(S);

@@ -31,6 +31,7 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/Nebenfenster.h>
+#include <tavorena/desktop/Tastensperre.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/TVHauptmodul.h>
@@ -71,22 +72,26 @@ QString Schlüssel(const Formular& Form, const char* Was) {
   return QString::fromStdString(Form.Platzname) + "/" + Was;
 }
 
+// A form that scrolls where it is larger than its place; what has the focus is to be seen.
+QScrollArea* Rollend(FormularAnsicht& Ansicht, QWidget* Eltern = nullptr) {
+  auto* Rolle = new QScrollArea(Eltern);
+  Rolle->setWidget(&Ansicht);
+  Rolle->setWidgetResizable(true);
+  Rolle->setFrameShape(QFrame::NoFrame);
+  Rolle->setFocusPolicy(Qt::NoFocus);
+  QObject::connect(qApp, &QApplication::focusChanged, Rolle, [&Ansicht, Rolle](QWidget*, QWidget* Neu) {
+    if (Neu != nullptr && Ansicht.isAncestorOf(Neu)) Rolle->ensureWidgetVisible(Neu, 10, 10);
+  });
+  return Rolle;
+}
+
 /// A worksheet in the work area; closing it asks the form first.
 class Blattfenster final : public QMdiSubWindow {
  public:
   explicit Blattfenster(FormularAnsicht* Zeigt) : Ansicht(Zeigt) {
-    // On a small screen the worksheet scrolls, and what has the focus is to be seen.
-    auto* Rolle = new QScrollArea;
-    Rolle->setWidget(Ansicht);
-    Rolle->setWidgetResizable(true);
-    Rolle->setFrameShape(QFrame::NoFrame);
-    Rolle->setFocusPolicy(Qt::NoFocus);
-    setWidget(Rolle);
+    setWidget(Rollend(*Ansicht));
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
-    connect(qApp, &QApplication::focusChanged, Rolle, [this, Rolle](QWidget*, QWidget* Neu) {
-      if (Neu != nullptr && Ansicht->isAncestorOf(Neu)) Rolle->ensureWidgetVisible(Neu, 10, 10);
-    });
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowIcon(Programmsymbol());
     Ansicht->BeiGeschlossen = [this, Name = QString::fromStdString(Zeigt->Form()->Platzname)] {
@@ -405,6 +410,24 @@ void Hauptfenster::NebenherZeigen(Formular& Form) {
   Neues->Öffnen(Flaeche->activeSubWindow() == nullptr);
 }
 
+void Hauptfenster::FüllendZeigen(Formular& Form) {
+  if (Grundblatt == nullptr) {
+    Grundblatt = new FormularAnsicht(Form);
+    Grundrolle = Rollend(*Grundblatt, Flaeche);
+    Grundrolle->setGeometry(Flaeche->rect());
+    Grundblatt->BeiGeschlossen = [this] {
+      Grundblatt = nullptr;
+      Grundrolle->hide();
+      std::exchange(Grundrolle, nullptr)->deleteLater();
+    };
+    new Tastensperre(*Grundblatt, true);  // what was typed before it came is not meant for it
+    Grundrolle->show();
+  }
+  Form.Öffnen();
+  // Closed worksheets and docks give the focus away first.
+  QTimer::singleShot(0, Grundblatt, [Blatt = Grundblatt] { Blatt->FokusHolen(); });
+}
+
 // A second worksheet stands beside the first one, or below it where the work area is too narrow: both are to
 // be seen.
 void Hauptfenster::BlattStellen(QMdiSubWindow& Neues, QSize Wunsch) {
@@ -444,6 +467,7 @@ void Hauptfenster::StatusSetzen(Statusfeld Feld, const QString& Text) {
 void Hauptfenster::Sperren(bool An) {
   Flaeche->setEnabled(!An);
   for (Nebenfenster* Neben : Nebenfenster::Offene(*this)) Neben->setEnabled(!An);
+  if (!An && Grundblatt != nullptr) Grundblatt->FokusHolen();  // it was closed to all keys
   Auffrischen();
 }
 
@@ -487,6 +511,8 @@ bool Hauptfenster::eventFilter(QObject* Objekt, QEvent* Ereignis) {
       static_cast<const QKeyEvent&>(*Ereignis).key() == Qt::Key_Escape &&
       QApplication::activeModalWidget() == nullptr && Grafik->isVisible() && Grafik->Verlassen())
     return true;
+  if (Objekt == Flaeche && Ereignis->type() == QEvent::Resize && Grundrolle != nullptr)
+    Grundrolle->setGeometry(Flaeche->rect());
   if (Objekt == Flaeche->viewport() && Ereignis->type() == QEvent::MouseMove) StatusHilfeSetzen("");
   return QMainWindow::eventFilter(Objekt, Ereignis);
 }

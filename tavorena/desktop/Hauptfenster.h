@@ -19,10 +19,12 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 class QPlainTextEdit;
+class QScrollArea;
 
 namespace tavorena {
 
 class Formular;
+class FormularAnsicht;
 class GrafikAnsicht;
 
 /// The main window: menus, tool bar, status bar, the worksheets and the protocol window. What can be used
@@ -38,6 +40,8 @@ class Hauptfenster final : public QMainWindow {
   void BlattZeigen(Formular& Form);
   /// Shows a form beside the worksheets, at the side of the window, where it leaves them the focus.
   void NebenherZeigen(Formular& Form);
+  /// Fills the work area with a form until it is closed; one that is there is opened again.
+  void FüllendZeigen(Formular& Form);
   /// A form is on its way out: what it asks now comes by itself.
   [[nodiscard]] bool BlattSchließt() const;
   void StatusSetzen(Statusfeld Feld, const QString& Text);
@@ -81,6 +85,8 @@ class Hauptfenster final : public QMainWindow {
   std::vector<std::pair<const Werkzeug*, QAction*>> Bilder;
   std::map<Statusfeld, QLabel*> Statusfelder;
   QMdiArea* Flaeche;
+  FormularAnsicht* Grundblatt = nullptr;  // what fills the work area, and around it
+  QScrollArea* Grundrolle = nullptr;
   QDockWidget* Protokollrahmen = nullptr;
   QPlainTextEdit* Protokolltext = nullptr;
   QDockWidget* Grafikrahmen = nullptr;

@@ -34,6 +34,7 @@
 #include <tavorena/desktop/Fensterplatz.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
+#include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/LeitungQt.h>
 #include <tavorena/desktop/PlattformQt.h>
@@ -254,6 +255,8 @@ void PlattformQt::FormularZeigen(Formular& Form, bool Modal) {
   Dialog.Zeigen();
 }
 
+void PlattformQt::FüllendZeigen(Formular& Form) { Fenster.FüllendZeigen(Form); }
+
 std::string PlattformQt::DateiWählen(Dateiauftrag& Auftrag) {
   QFileDialog Dialog(Davor(Fenster), Q(Auftrag.Titel), Pfad(Auftrag.Ordner), QtFilter(Auftrag.Filter));
   Dialog.setWindowModality(Qt::WindowModal);
@@ -323,7 +326,9 @@ void PlattformQt::FenstertitelSetzen(const std::string& Titel) { Fenster.setWind
 void PlattformQt::HauptfensterGeändert() { Fenster.Auffrischen(); }
 void PlattformQt::ProtokollGeändert() { Fenster.ProtokollSpäterZeigen(); }
 
-void PlattformQt::HandbuchZeigen() { Fenster.HilfeZeigen(); }
+void PlattformQt::HandbuchZeigen(int Hilfenummer) {
+  Hilfenummer != 0 ? tavorena::HandbuchZeigen(Hilfenummer) : Fenster.HilfeZeigen();
+}
 void PlattformQt::GrafikZeigen() { Fenster.GrafikZeigen(); }
 void PlattformQt::GrafikPunktZeigen(double Rechts, double Hoch) { Fenster.GrafikPunktZeigen(Rechts, Hoch); }
 void PlattformQt::GrafikMitDatei(bool Offen) { Fenster.GrafikÖffnenSchließen(Offen); }

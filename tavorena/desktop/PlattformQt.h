@@ -18,6 +18,7 @@ class PlattformQt : public Rückfragen,
 
   int Meldung(const std::string& Text, Knöpfe Art, const std::string& Titel, int Vorgabe) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
+  void FüllendZeigen(Formular& Form) override;
   std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override;
   void Warten(double Sekunden) override;
@@ -26,7 +27,7 @@ class PlattformQt : public Rückfragen,
   void FenstertitelSetzen(const std::string& Titel) override;
   void HauptfensterGeändert() override;
   void ProtokollGeändert() override;
-  void HandbuchZeigen() override;
+  void HandbuchZeigen(int Hilfenummer) override;
   void GrafikZeigen() override;
   void GrafikPunktZeigen(double Rechts, double Hoch) override;
   void GrafikMitDatei(bool Offen) override;

@@ -14,7 +14,8 @@ constexpr int Frist = 300;  // ms
 
 }  // namespace
 
-Tastensperre::Tastensperre(QWidget& Dialog) : QObject(&Dialog), Fenster(Dialog) {
+Tastensperre::Tastensperre(QWidget& Dialog, bool NurDarin)
+    : QObject(&Dialog), Fenster(Dialog), Darin(NurDarin) {
   setObjectName("Tastensperre");
   qApp->installEventFilter(this);
 }
@@ -26,12 +27,13 @@ bool Tastensperre::eventFilter(QObject* Objekt, QEvent* Ereignis) {
         QTimer::singleShot(Frist, this, &QObject::deleteLater);
       return false;
     case QEvent::KeyPress:
+      if (Darin && !Fenster.isAncestorOf(qobject_cast<QWidget*>(Objekt))) return false;
       QApplication::beep();
       return true;
     case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
     case QEvent::InputMethod:
-      return true;
+      return !Darin;
     default:
       return false;
   }

@@ -213,6 +213,10 @@ bool Formular::TasteDrücken(Taste T) {
   Ausführen([&] {
     if (NimmtFokus(*Aktuell)) {  // it may have been closed since
       if (TasteUnten(*Aktuell, T)) return;
+      if (T >= Taste::Entf) {
+        Genommen = false;
+        return;
+      }
       if (auto* G = dynamic_cast<Gitter*>(Aktuell); G != nullptr && GitterTaste(*G, T)) return;
       if (NummerZählen(T)) return;
       if (T == Taste::Return) return ReturnDrücken();

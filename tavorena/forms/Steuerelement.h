@@ -12,8 +12,9 @@
 namespace tavorena {
 
 /// The keys a form looks at; all others belong to the text of the field. Leer, the space bar, only comes
-/// where rows are chosen; F2 opens what belongs to the current row.
-enum class Taste { Return, Escape, Plus, Minus, Auf, Ab, Leer, F2 };
+/// where rows are chosen; F2 opens what belongs to the current row. Entf and the digits, Ziffer0 and the nine
+/// behind it, only come from a control that is not typed into, and mean nothing but what the form says.
+enum class Taste { Return, Escape, Plus, Minus, Auf, Ab, Leer, F2, Entf, Ziffer0, Ziffer9 = Ziffer0 + 9 };
 
 /// Place of a control inside its frame, counted in rows and columns of that frame.
 struct Platz {

@@ -16,6 +16,7 @@
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Austauschbefehle.h>
 #include <tavorena/shell/Befehle.h>
+#include <tavorena/shell/Beispiel.h>
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Dateiwahl.h>
 #include <tavorena/shell/Druckaufbereitung.h>
@@ -32,6 +33,7 @@
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVOptionenform.h>
 #include <tavorena/shell/Umrechenbefehle.h>
+#include <tavorena/shell/Verlauf.h>
 #include <tavorena/worksheets/Blattart.h>
 
 namespace tavorena {
@@ -88,6 +90,7 @@ void DateiSpeichernUnter() {
   }
   TitelSetzen(KoordinatendateiName);
   HauptHistSchreiben(KoordinatendateiName, Format);
+  VerlaufMerken(KoordinatendateiName, KorAnzahl);
 }
 
 void Stapelbearbeitung() {
@@ -205,6 +208,7 @@ const Befehl Befehle[] = {
     {"MenüDateiProtokoll", true, ProtokollWechseln},
     {"MenüDateiSchließen", true, DateiSchließen},
     {"MenüDateiBeenden", false, Beenden},
+    {"MenüDateiBeispiel", false, BeispielÖffnen},
     {"MenüDateiHinzuLesenKomplett", true, HinzuKomplett, true},
     {"MenüDateiHinzuLesenNurNeue", true, HinzuNurNeue, true},
     {"MenüDateiHinzuLesenPunktbereich", true, HinzuPunktbereich, true},
@@ -217,7 +221,7 @@ const Befehl Befehle[] = {
     {"MenüFunktErsetzen", true, TextErsetzen},
     {"MenüOptionenOptionen", false, TVOptionenformZeigen},
     {"MenüOptionenDateinamen(0)", false, TexteditorWählen},
-    {"MenüInfoHandbuch", false, [] { AnzeigePort().HandbuchZeigen(); }},
+    {"MenüInfoHandbuch", false, [] { AnzeigePort().HandbuchZeigen(0); }},
     {"MenüInfoÜber", false, Über},
 };
 

@@ -318,6 +318,13 @@ void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format) {
   OptionenMerken();
 }
 
+void HistorieStreichen(int Index) {
+  if (Index < 0 || Index >= HistorieAnzahl) return;
+  std::move(Historie.begin() + Index + 1, Historie.begin() + HistorieAnzahl, Historie.begin() + Index);
+  Historie[HistorieAnzahl - 1] = {};
+  OptionenMerken();
+}
+
 int TheoOptionenLesen(TheoOptionen& Gelesen) {
   Einstellungsleser K(Theodolitdatei());
   TheoOptionen Neu;

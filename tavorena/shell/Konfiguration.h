@@ -55,6 +55,9 @@ void OptionenMerken();
 /// Puts a file to the front of the history, and writes it.
 void HauptHistSchreiben(const std::string& Dateiname, Dateiformat Format);
 
+/// Takes a file off the history, and writes it; the file itself stays.
+void HistorieStreichen(int Index);
+
 /// Settings of the instrument link. @return 0; -1 when the file is missing or cut off, the record is then
 /// untouched
 int TheoOptionenLesen(TheoOptionen& Gelesen);

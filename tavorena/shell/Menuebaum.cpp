@@ -68,6 +68,7 @@ constexpr Menüeintrag Baum[] = {
     {"MenüDateiSchließen", "Koordinatendatei &schließen", 1110, Datei},
     {"MenüDateiBeenden", "&Beenden", 1120, Datei},
     {"MenüDateiStrich4", "", 0, Datei},
+    {"MenüDateiBeispiel", "Beispiel ö&ffnen", 1125, Datei},
     {"MenüDateiHist(1)", "-", 1130, Datei},
     {"MenüDateiHist(2)", "-", 1130, Datei},
     {"MenüDateiHist(3)", "-", 1130, Datei},

@@ -33,6 +33,7 @@
 #include <tavorena/shell/TVKernMDIForm.h>
 #include <tavorena/shell/TVOptionenform.h>
 #include <tavorena/shell/Tabellenbefehle.h>
+#include <tavorena/shell/Verlauf.h>
 #include <tavorena/worksheets/TVFormularmodul.h>
 
 namespace tavorena {
@@ -153,6 +154,7 @@ int HauptKoordinatendateiWechseln(bool Nachfragen) {
   }
   if (Nachfragen && GrafikSichern() < 0) return -1;
   BlätterSchließen();
+  VerlaufMerken(KoordinatendateiName);
   OhnePunkte();
   KoordinatendateiName.clear();
   return 0;
@@ -191,6 +193,7 @@ int HauptDateiÖffnen(const std::string& Name, Dateiformat Format) {
 void HauptDateiOffenSetzen() {
   VerzeichnisMerken(KoordinatendateiName);
   HauptHistSchreiben(KoordinatendateiName, Koordinatendateiformat);
+  VerlaufMerken(KoordinatendateiName, KorAnzahl);
   TVKernMDIForm::Fenster().DateiOffen();
   if (Optionen.GrafikfensterAn) AnzeigePort().GrafikMitDatei(true);
 }
@@ -198,6 +201,7 @@ void HauptDateiOffenSetzen() {
 int HauptDateiSpeichern() {
   if (KoordinatenExportieren(KoordinatendateiName, Koordinatendateiformat) < 0) return -1;
   KorGeaendertSetzen(false);
+  VerlaufMerken(KoordinatendateiName, KorAnzahl);
   return 0;
 }
 

@@ -13,6 +13,7 @@
 #include <tavorena/shell/Blaetter.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVKernMDIForm.h>
+#include <tavorena/shell/TVStartForm.h>
 #include <tavorena/shell/Tabellenbefehle.h>
 #include <tavorena/worksheets/Blattart.h>
 
@@ -49,6 +50,11 @@ TVKernMDIForm& TVKernMDIForm::Fenster() {
 
 void TVKernMDIForm::OhneKoordinaten() {
   Offen = false;
+  HistorieZeigen();
+  StartseiteZeigen();
+}
+
+void TVKernMDIForm::HistorieZeigen() {
   Hist.fill(-1);
   std::size_t Eintrag = 1;
   for (int i = 0; i < HistorieAnzahl; ++i) {
@@ -59,6 +65,7 @@ void TVKernMDIForm::OhneKoordinaten() {
 
 void TVKernMDIForm::DateiOffen() {
   Offen = true;
+  StartseiteSchließen();
   AnzeigePort().HauptfensterGeändert();
 }
 

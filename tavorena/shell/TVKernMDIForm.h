@@ -16,8 +16,11 @@ class TVKernMDIForm {
   static TVKernMDIForm& Fenster();
 
   // ---- states
-  /// No coordinates: after the start and when the file was closed. The recent files are offered.
+  /// No coordinates: after the start and when the file was closed. The recent files and the start page are
+  /// offered.
   void OhneKoordinaten();
+  /// The recent files changed.
+  void HistorieZeigen();
   /// A file is open; changing files goes through closing first.
   void DateiOffen();
   /// A long read or loop runs: only the stop button works.

@@ -198,9 +198,7 @@ bool Eingabegitter::TasteNehmen(Taste T) {
     case Taste::Leer:
       Blatt.Markieren(Zellen, Zellen.Zeile, false);
       return true;
-    case Taste::Plus:
-    case Taste::Minus:
-    case Taste::F2:
+    default:
       break;
   }
   return false;

@@ -206,9 +206,7 @@ bool Passgitter::TasteNehmen(Taste T) {
     case Taste::Leer:
       Blatt.Markieren(Zellen, Zellen.Zeile, false);
       return true;
-    case Taste::Plus:
-    case Taste::Minus:
-    case Taste::F2:
+    default:
       break;
   }
   return false;

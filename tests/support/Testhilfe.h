@@ -70,6 +70,7 @@ class PlattformSkript final : public Rückfragen,
 
   int Meldung(const std::string& Text, Knöpfe Art, const std::string& Überschrift, int Vorgabe) override;
   void FormularZeigen(Formular& Form, bool Modal) override;
+  void FüllendZeigen(Formular& Form) override { Füllend = &Form; }
   std::string DateiWählen(Dateiauftrag& Auftrag) override;
   void EreignisseAbarbeiten() override { BeiEreignissen(); }
   void Warten(double /*Sekunden*/) override { BeiEreignissen(); }
@@ -83,6 +84,7 @@ class PlattformSkript final : public Rückfragen,
   }
   void FenstertitelSetzen(const std::string& Neuer) override { Fenstertitel = Neuer; }
   std::string ProgrammOrdner() override { return Programmordner; }
+  std::string Dokumentordner() override { return Dokumente; }
   bool StapelHält() override { return Hält; }
   void HauptfensterGröße(int& B, int& H) override { B = Breite, H = Hoehe; }
   int ProgrammStarten(const std::string& Programm, const std::string& Datei) override {
@@ -118,7 +120,8 @@ class PlattformSkript final : public Rückfragen,
   int Listeneintrag = 0;  ///< chosen in the list of a file dialog
   int LetzteVorgabe = 0;  ///< default button of the last message box
   std::vector<Dateiauftrag> Aufträge;
-  std::string Fenstertitel, Programmordner;
+  std::string Fenstertitel, Programmordner, Dokumente;
+  Formular* Füllend = nullptr;          ///< what fills the work area
   std::vector<std::string> Gestartet;   ///< a program and its file
   std::vector<std::string> Ausgeführt;  ///< a program and its arguments
   int Laufergebnis = 0;                 ///< its exit status
