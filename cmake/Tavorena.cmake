@@ -7,6 +7,13 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+# The sources in which the systems differ carry the name of theirs.
+if(WIN32)
+  set(TAVORENA_SYSTEM Windows)
+else()
+  set(TAVORENA_SYSTEM Posix)
+endif()
+
 option(TAVORENA_TIDY "Run clang-tidy on the product code" OFF)
 if(TAVORENA_TIDY)
   find_program(TAVORENA_CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)

@@ -37,7 +37,7 @@ constexpr std::size_t MeisteSpuren =
 int Sammelläufe = 0;  // that are under way
 
 bool Sichern(Anhangspur& Spur) {
-  const bool Gut = !Spur.K || fsync(Spur.K.Nummer()) == 0;
+  const bool Gut = !Spur.K || AufPlatte(Spur.K);
   Spur.K = Deskriptor();
   return Gut;
 }
@@ -62,21 +62,21 @@ int Öffnen(Anhangspur& Spur, std::string& Grund) {
     Grund = Fehlerwort(ELOOP);
     return -1;
   }
-  struct stat Stand {};
-  Deskriptor K = RegulärÖffnen(Spur.Pfad, O_RDWR | O_APPEND | O_CREAT, Stand, Grund);
+  Dateilage Lage;
+  Deskriptor K = RegulärÖffnen(Spur.Pfad, Zugriff::Anfügen, Lage, Grund);
   if (!K) return -1;
-  if (!Beschreibbar(Spur.Pfad, Stand)) {
+  if (!Beschreibbar(Spur.Pfad, Lage)) {
     Grund = Fehlerwort(EROFS);
     return -1;
   }
-  if (Spur.Blick != DateiblickAus(Stand)) {
+  if (Spur.Blick != Lage.Blick) {
     std::string Alt;
     if (!Auslesen(K, Alt)) {
       Grund = Fehlerwort(errno);
       return -1;
     }
     Spur.Art = KodierungVon(Alt);
-    Spur.Blick = DateiblickAus(Stand);
+    Spur.Blick = Lage.Blick;
   }
   Spur.K = std::move(K);
   return 0;
@@ -84,10 +84,10 @@ int Öffnen(Anhangspur& Spur, std::string& Grund) {
 
 // Opens it where that is needed. @return 0 or -1
 int Bereitmachen(Anhangspur& Spur, const Dateiblick* Eben, std::string& Grund) {
-  struct stat Stand {};
+  Dateilage Lage;
   const auto WieGelassen = [&] {
     if (Eben != nullptr) return *Eben == Spur.Blick;
-    return stat(Spur.Pfad.c_str(), &Stand) == 0 && DateiblickAus(Stand) == Spur.Blick;
+    return Ansehen(Spur.Pfad, Lage) && Lage.Blick == Spur.Blick;
   };
   return Spur.K && WieGelassen() ? 0 : Öffnen(Spur, Grund);
 }
@@ -98,10 +98,10 @@ int Ergreifen(Anhangspur& Spur, const Dateiblick& Eben, std::string& Grund) {
   for (int i = 0; i < 100; ++i) {
     if (!Spur.K && Öffnen(Spur, Grund) < 0) return -1;
     Festhalten(Spur.K);
-    struct stat Stand {};
-    const bool Gilt = fstat(Spur.K.Nummer(), &Stand) == 0 && Stand.st_nlink > 0;
-    const bool Gemacht = Eben == Dateiblick{} && Stand.st_size == 0;
-    if (Gilt && DateiblickAus(Stand) == Spur.Blick && (Spur.Blick == Eben || Gemacht)) return 0;
+    Dateilage Lage;
+    const bool Gilt = Ansehen(Spur.K, Lage) && NochDerselbe(Lage, Spur.Pfad);
+    const bool Gemacht = Eben == Dateiblick{} && Lage.Blick.Stand.Länge == 0;
+    if (Gilt && Lage.Blick == Spur.Blick && (Spur.Blick == Eben || Gemacht)) return 0;
     Spur.K = Deskriptor();
     if (i > 0 && Gilt) return -2;  // what is opened anew is what the name leads to
   }
@@ -114,15 +114,15 @@ int Anhängen(Anhangspur& Spur, std::string_view Text, Umsetzung Wie, const Date
              std::string& Grund) {
   const int Bereit = Geteilt ? Ergreifen(Spur, *Eben, Grund) : Bereitmachen(Spur, Eben, Grund);
   if (Bereit < 0) return Bereit;
-  struct stat Stand {};
+  Dateilage Lage;
   const bool Umsetzen = Wie == Umsetzung::InKodierung && Spur.Art == Kodierung::Windows1252;
   const std::string Bytes = Umsetzen ? NachWindows1252(Text) : std::string(Text);
-  if (!Ausschreiben(Spur.K, Bytes)) {
+  if (!Anfügen(Spur.K, Bytes)) {
     Grund = Fehlerwort(errno);
-    static_cast<void>(ftruncate(Spur.K.Nummer(), static_cast<off_t>(Spur.Blick.Stand.Länge)) == 0);
+    static_cast<void>(LängeSetzen(Spur.K, Spur.Blick.Stand.Länge));
     return -1;
   }
-  if (fstat(Spur.K.Nummer(), &Stand) == 0) Spur.Blick = DateiblickAus(Stand);
+  if (Ansehen(Spur.K, Lage)) Spur.Blick = Lage.Blick;
   if (Geteilt) Loslassen(Spur.K);
   if (Spur.Art == Kodierung::Ascii) Spur.Art = KodierungVon(Bytes);
   return 0;
@@ -169,7 +169,7 @@ int AnhängeSichern(std::string* Name) {
   if (Sammelläufe > 0) return 0;
   for (Anhangspur& Spur : Spuren) {
     if (Sichern(Spur)) continue;
-    if (Name != nullptr) *Name = Spur.Pfad.string();
+    if (Name != nullptr) *Name = NameVon(Spur.Pfad);
     Ergebnis = -1;
   }
   return Ergebnis;

@@ -1,6 +1,4 @@
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <vector>
 
@@ -13,115 +11,95 @@ namespace fs = std::filesystem;
 namespace tavorena {
 namespace {
 
-constexpr std::time_t Tag = 24L * 3600;  // [s]
-constexpr std::string_view Zeichen = ".neu~", Eigenes = "XXXXXX";
+constexpr std::int64_t Tag = std::int64_t{24} * 3600;  // [s]
+constexpr std::string_view Zeichen = ".neu~";
+constexpr std::size_t Eigenes = 6;  // characters of EigeneAnlegen
+
+fs::path MitZeichen(fs::path Pfad) { return Pfad += fs::path(Zeichen); }
 
 // What a kill left behind is nobody's any more after a day.
 void ResteEntfernen(const fs::path& Ziel) {
-  const std::string Vorn = Ziel.filename().string() + std::string(Zeichen);
-  std::vector<fs::path> Alte;
-  std::error_code Fehler;
-  fs::directory_iterator Ordner(Ziel.has_parent_path() ? Ziel.parent_path() : fs::path("."), Fehler);
-  for (; !Fehler && Ordner != fs::directory_iterator(); Ordner.increment(Fehler)) {
-    const std::string Name = Ordner->path().filename().string();
-    struct stat Stand {};
-    if (Name.size() == Vorn.size() + Eigenes.size() && Name.starts_with(Vorn) &&
-        lstat(Ordner->path().c_str(), &Stand) == 0 && S_ISREG(Stand.st_mode) &&
-        std::time(nullptr) - Stand.st_mtim.tv_sec > Tag)
-      Alte.push_back(Ordner->path());
+  const std::string Vorn = NameVon(MitZeichen(Ziel.filename()));
+  for (const fs::path& Pfad : EinträgeIm(Ziel.has_parent_path() ? Ziel.parent_path() : fs::path("."))) {
+    const std::string Name = NameVon(Pfad.filename());
+    if (Name.size() != Vorn.size() + Eigenes || !Name.starts_with(Vorn)) continue;
+    Dateilage Lage;
+    if (AnsehenOhneVerweis(Pfad, Lage) && Lage.Art == Dateiart::Gewöhnlich &&
+        std::time(nullptr) - Lage.Blick.Stand.Zeit / 1'000'000'000 > Tag)
+      static_cast<void>(Entfernen(Pfad));
   }
-  for (const fs::path& Pfad : Alte) fs::remove(Pfad, Fehler);
-}
-
-// Rights of the old file, those of a new one where there is none. Where its group can not be kept, ours gets
-// no more than everybody.
-bool RechteGeben(const Deskriptor& K, const struct stat* Alt) {
-  const mode_t Maske = umask(0);
-  umask(Maske);
-  mode_t Rechte = 0666 & ~Maske;
-  if (Alt != nullptr) {
-    Rechte = Alt->st_mode & 0777;
-    if (fchown(K.Nummer(), Alt->st_uid, Alt->st_gid) < 0 &&
-        fchown(K.Nummer(), static_cast<uid_t>(-1), Alt->st_gid) < 0)
-      Rechte = (Rechte & 0707) | (Rechte & 0007) << 3U;
-  }
-  return fchmod(K.Nummer(), Rechte) == 0;
-}
-
-// A rename is safe only when the folder entry itself has reached the disk.
-void OrdnerAufPlatte(const fs::path& Ordner) {
-  const Deskriptor K(open(Ordner.empty() ? "." : Ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (K) fsync(K.Nummer());
 }
 
 enum class Überschrieben { Ja, Unberührt, Zerrissen };
 
 // Over the bytes of the old file, so that its other names see them. Space is taken first.
-Überschrieben AnOrt(const fs::path& Ziel, const struct stat& Alt, std::string_view Inhalt) {
-  struct stat Stand {};
+Überschrieben AnOrt(const fs::path& Ziel, const Dateilage& Alt, std::string_view Inhalt) {
+  Dateilage Lage;
   std::string Grund;
-  const Deskriptor K = RegulärÖffnen(Ziel, O_WRONLY, Stand, Grund);
+  const Deskriptor K = RegulärÖffnen(Ziel, Zugriff::Überschreiben, Lage, Grund);
   if (!K) return Überschrieben::Unberührt;
-  const auto Größe = static_cast<off_t>(Inhalt.size());
-  if (Größe > Alt.st_size) {
-    if (const int Fehler = posix_fallocate(K.Nummer(), Alt.st_size, Größe - Alt.st_size); Fehler != 0) {
-      static_cast<void>(ftruncate(K.Nummer(), Alt.st_size) == 0);  // it had that length
-      errno = Fehler;
-      return Überschrieben::Unberührt;
-    }
+  const std::uintmax_t Länge = Alt.Blick.Stand.Länge;
+  if (Inhalt.size() > Länge && !PlatzNehmen(K, Länge, Inhalt.size())) {
+    const int Fehler = errno;
+    static_cast<void>(LängeSetzen(K, Länge));  // it had that length
+    errno = Fehler;
+    return Überschrieben::Unberührt;
   }
-  const bool Gut = Ausschreiben(K, Inhalt) && ftruncate(K.Nummer(), Größe) == 0 && fsync(K.Nummer()) == 0;
+  const bool Gut = Ausschreiben(K, Inhalt) && LängeSetzen(K, Inhalt.size()) && AufPlatte(K);
   return Gut ? Überschrieben::Ja : Überschrieben::Zerrissen;
 }
 
 // The new file, safe on the disk, takes the place of the old one.
-bool Einsetzen(const std::string& Neu, const fs::path& Ziel, const struct stat* Alt, std::string_view Inhalt,
+bool Einsetzen(const fs::path& Neu, const fs::path& Ziel, const Dateilage* Alt, std::string_view Inhalt,
                std::string& Grund) {
-  if (Alt == nullptr || Alt->st_nlink == 1) {
-    if (std::rename(Neu.c_str(), Ziel.c_str()) == 0) return true;
+  if (Alt == nullptr || Alt->Namen == 1) {
+    if (Umbenennen(Neu, Ziel, Alt != nullptr)) return true;
   } else {
     const Überschrieben Wie = AnOrt(Ziel, *Alt, Inhalt);
     if (Wie == Überschrieben::Zerrissen) {  // the only whole version stays
-      Grund = Fehlerwort(errno) + ", die neue Fassung ist " + Neu;
+      Grund = Fehlerwort(errno) + ", die neue Fassung ist " + NameVon(Neu);
       return false;
     }
-    if (Wie == Überschrieben::Ja) return unlink(Neu.c_str()) == 0;
+    if (Wie == Überschrieben::Ja) return Entfernen(Neu);
   }
   Grund = Fehlerwort(errno);
-  unlink(Neu.c_str());
+  static_cast<void>(Entfernen(Neu));
   return false;
 }
 
-bool Daneben(std::string& Neu, const struct stat* Alt, std::string_view Inhalt) {
-  const Deskriptor K(mkostemp(Neu.data(), O_CLOEXEC));
-  if (!K) return false;
-  if (RechteGeben(K, Alt) && Ausschreiben(K, Inhalt) && fsync(K.Nummer()) == 0) return true;
-  const int Fehler = errno;
-  unlink(Neu.c_str());
+bool Daneben(fs::path& Neu, const Dateilage* Alt, std::string_view Inhalt) {
+  int Fehler = 0;
+  {
+    const Deskriptor K = EigeneAnlegen(Neu);
+    if (!K) return false;
+    if (RechteGeben(K, Alt) && Ausschreiben(K, Inhalt) && AufPlatte(K)) return true;
+    Fehler = errno;
+  }
+  static_cast<void>(Entfernen(Neu));
   errno = Fehler;
   return false;
 }
 
 int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, const Dateistand* Solange, std::string& Grund) {
-  std::error_code Unklar;
-  struct stat Alt {};
-  const bool War = stat(Pfad.c_str(), &Alt) == 0;
-  Grund = VerweisInsLeere(Pfad)             ? Fehlerwort(ELOOP)
-          : War && !Artwort(Alt).empty()    ? Artwort(Alt)
-          : War && !Beschreibbar(Pfad, Alt) ? Fehlerwort(EROFS)
-                                            : "";
+  Dateilage Alt;
+  const bool War = Ansehen(Pfad, Alt);
+  Grund = VerweisInsLeere(Pfad) ? Fehlerwort(ELOOP) : War ? Artwort(Alt.Art) : "";
+  if (Grund.empty() && War && !Beschreibbar(Pfad, Alt)) Grund = Fehlerwort(EROFS);
   if (!Grund.empty()) return -1;
-  const fs::path Ziel = War ? fs::canonical(Pfad, Unklar) : Pfad;  // the file at the end of the links
-  ResteEntfernen(Ziel);
-  std::string Neu = Ziel.string() + std::string(Zeichen) + std::string(Eigenes);
-  if (Unklar || !Daneben(Neu, War ? &Alt : nullptr, Inhalt)) {
+  const fs::path Ziel = War ? EndeDerVerweise(Pfad) : Pfad;
+  fs::path Neu = MitZeichen(Ziel);
+  if (!Ziel.empty()) ResteEntfernen(Ziel);
+  if (Ziel.empty() || !Daneben(Neu, War ? &Alt : nullptr, Inhalt)) {
     Grund = Fehlerwort(errno);
     return -1;
   }
-  Deskriptor Griff(War ? open(Ziel.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1);
+  std::string Egal;
+  Dateilage Jetzt;
+  Deskriptor Griff(War ? RegulärÖffnen(Ziel, Zugriff::Lesen, Jetzt, Egal) : Deskriptor());
   Festhalten(Griff);
-  if (Solange != nullptr && DateistandVon(Pfad.string()) != *Solange) {
-    unlink(Neu.c_str());
+  Jetzt = {};
+  if (Solange != nullptr && (Ansehen(Pfad, Jetzt) ? Jetzt.Blick.Stand : Dateistand{}) != *Solange) {
+    static_cast<void>(Entfernen(Neu));
     Grund = "inzwischen von anderer Seite geändert";
     return -2;
   }
@@ -134,9 +112,9 @@ int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, const Dateistand* So
 }  // namespace
 
 int EigeneDateiAnlegen(std::string& Name) {
-  std::string Neu = Name.empty() ? "" : Systempfad(Name).string() + std::string(Eigenes);
-  const Deskriptor K(mkostemp(Neu.data(), O_CLOEXEC));
-  Name = K ? Neu : "";
+  fs::path Neu = Systempfad(Name);
+  const Deskriptor K = Name.empty() ? Deskriptor() : EigeneAnlegen(Neu);
+  Name = K ? NameVon(Neu) : "";
   return K ? 0 : -1;
 }
 

@@ -1,7 +1,6 @@
-#include <sys/file.h>
-
 #include <QSerialPort>
 
+#include <tavorena/core/Deskriptor.h>
 #include <tavorena/core/Leitungswerte.h>
 #include <tavorena/desktop/LeitungQt.h>
 
@@ -25,7 +24,7 @@ class Qtleitung final : public Leitung {
                    : W.Parität == 'O' ? QSerialPort::OddParity
                                       : QSerialPort::NoParity);
     // The lock tells other programs of ours, and root too, that the device is in use.
-    return Port.open(QIODevice::ReadWrite) && flock(Port.handle(), LOCK_EX | LOCK_NB) == 0;
+    return Port.open(QIODevice::ReadWrite) && GerätNehmen(Port.handle());
   }
 
   int Senden(std::string_view Bytes) override {

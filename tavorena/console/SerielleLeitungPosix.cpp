@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <iterator>
 #include <poll.h>
-#include <sys/file.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
@@ -92,7 +91,7 @@ std::unique_ptr<Leitung> SerielleLeitung(const std::string& Gerät, const std::s
   Leitungswerte W;
   if (LeitungswerteLesen(Einstellungen, W) < 0) return nullptr;
   Deskriptor K(open(Gerät.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-  if (!K || isatty(K.Nummer()) == 0 || flock(K.Nummer(), LOCK_EX | LOCK_NB) != 0) return nullptr;
+  if (!K || isatty(K.Nummer()) == 0 || !GerätNehmen(K.Nummer())) return nullptr;
   static_cast<void>(ioctl(K.Nummer(), TIOCEXCL));  // for programs that do not look at the lock
   if (!Einstellen(K.Nummer(), W)) return nullptr;
   return std::make_unique<Geräteleitung>(std::move(K));
