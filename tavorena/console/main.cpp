@@ -1,16 +1,17 @@
-#include <filesystem>
 #include <iostream>
 
 #include <tavorena/console/Kommandozeile.h>
+#include <tavorena/core/System.h>
 
 using namespace tavorena;
 
 int main(int argc, char** argv) try {
-  std::error_code Fehler;
-  // Where the running program lies; the current folder must not count, whatever the call says.
-  const std::filesystem::path Programm = std::filesystem::read_symlink("/proc/self/exe", Fehler);
-  const Rückgabe Ergebnis =
-      KommandozeileAusführen(argc, argv, {std::cout, std::cerr, Programm.parent_path().string()});
+  const Ausgabebetrieb Betrieb;
+  const std::vector<std::string> Worte = Programmworte(argc, argv);
+  std::vector<const char*> Zeiger;
+  for (const std::string& Wort : Worte) Zeiger.push_back(Wort.c_str());
+  const Rückgabe Ergebnis = KommandozeileAusführen(static_cast<int>(Zeiger.size()), Zeiger.data(),
+                                                   {std::cout, std::cerr, Programmordner()});
   if (std::cout.flush()) return Ergebnis;
   std::cerr << "tavorena-stapel: die Ausgabe läßt sich nicht schreiben\n";
   return NichtGetan;

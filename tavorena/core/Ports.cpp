@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <tavorena/core/Ports.h>
+#include <tavorena/core/System.h>
 
 namespace tavorena {
 namespace {
@@ -19,13 +20,7 @@ Port& Offen(Port* Gesetzter) {
 }  // namespace
 
 Zeitpunkt Ablauf::Jetzt() {
-  const std::time_t Sekunden = std::time(nullptr);
-  std::tm t{};
-#ifdef _WIN32
-  localtime_s(&t, &Sekunden);
-#else
-  localtime_r(&Sekunden, &t);
-#endif
+  const std::tm t = Ortszeit(std::time(nullptr));
   return {t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min};
 }
 

@@ -1,19 +1,10 @@
-#include <cstdlib>
-
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/System.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/forms/Dateifrage.h>
 #include <tavorena/rawdata/TheoOptionen.h>
 
 namespace tavorena {
-namespace {
-
-std::string Umgebungswert(const char* Name) {
-  const char* const Wert = std::getenv(Name);
-  return Wert != nullptr ? Wert : "";
-}
-
-}  // namespace
 
 TheoAblage TheoHaken;
 
@@ -28,7 +19,7 @@ std::string TheoStandarddatei() {
 
 std::string TheoGerät(int Port) {
   const std::string Benannt = Umgebungswert(Port == 1 ? "TAVORENA_COM1" : "TAVORENA_COM2");
-  return !Benannt.empty() ? Benannt : Port == 1 ? "/dev/ttyS0" : "/dev/ttyS1";
+  return !Benannt.empty() ? Benannt : Anschlußname(Port == 1 ? 1 : 2);
 }
 
 }  // namespace tavorena

@@ -1,9 +1,9 @@
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Ports.h>
+#include <tavorena/core/System.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Zahlen.h>
 #include <tavorena/forms/Dateifrage.h>
@@ -33,12 +33,12 @@ void DruckdateiSenden() {
   const int Anschluß = AnschlußFragen();
   if (Anschluß == 0) return;
   const std::string Nummer = std::to_string(Anschluß), Datei = Systempfad(Name).string();
-  const char* const Drucker = std::getenv(("TAVORENA_LPT" + Nummer).c_str());
+  const std::string Drucker = Umgebungswert("TAVORENA_LPT" + Nummer);
   const bool ImHaus = DateiVorhanden(Hausbefehl);
   std::vector<std::string> Worte = {Datei, "lpt" + Nummer};
   if (!ImHaus) {
     Worte = {"-o", "raw"};
-    if (Drucker != nullptr && *Drucker != '\0') Worte.insert(Worte.end(), {"-d", Drucker});
+    if (!Drucker.empty()) Worte.insert(Worte.end(), {"-d", Drucker});
     Worte.push_back(Datei);
   }
   std::string Meldungen;

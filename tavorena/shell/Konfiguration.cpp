@@ -1,11 +1,11 @@
 #include <algorithm>
-#include <cstdlib>
 #include <initializer_list>
 #include <utility>
 
 #include <tavorena/core/Datei.h>
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Ports.h>
+#include <tavorena/core/System.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/core/Zahlen.h>
@@ -19,17 +19,11 @@ std::array<HistorieEintrag, 11> Historie;
 
 namespace {
 
-std::string Umgebung(const char* Name) {
-  const char* Inhalt = std::getenv(Name);
-  return Inhalt != nullptr ? Inhalt : "";
-}
-
 std::string OrdnerSuchen() {
-  if (std::string Gesetzt = Umgebung("TAVORENA_ORDNER"); !Gesetzt.empty()) return Gesetzt;
+  if (std::string Gesetzt = Umgebungswert("TAVORENA_ORDNER"); !Gesetzt.empty()) return Gesetzt;
   std::string Programm = UmgebungPort().ProgrammOrdner();
   if (!Programm.empty() && DateiVorhanden(PfadVerbinden(Programm, "\\Tavorena.ini"))) return Programm;
-  const std::string Xdg = Umgebung("XDG_CONFIG_HOME");
-  return !Xdg.empty() ? Xdg + "/tavorena" : Umgebung("HOME") + "/.config/tavorena";
+  return Einstellungsordner();
 }
 
 // An open configuration file, read line by line.
@@ -197,7 +191,7 @@ constexpr Namenszeile Namenszeilen[] = {
 void NamenVorgeben() {
   const OptionenSatz Vorgabe;
   for (const Namenszeile& N : Namenszeilen) Optionen.*N.Wert = Vorgabe.*N.Wert;
-  Optionen.DateinameEditor31 = Optionen.DateinameEditorNT = Umgebung("windir") + "\\Notepad.exe";
+  Optionen.DateinameEditor31 = Optionen.DateinameEditorNT = Umgebungswert("windir") + "\\Notepad.exe";
   Optionen.DateinameWinword31.clear();
   Optionen.DateinameWinwordNT.clear();
 }
