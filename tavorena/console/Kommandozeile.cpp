@@ -27,6 +27,7 @@ void Eindeutschen(CLI::App& App) {
   }
   Form->column_width(28);
   App.option_defaults()->group("Optionen");
+  App.allow_windows_style_options(false);  // "/" begins a file name
   App.set_help_flag("-h,--help", "Diese Hilfe");
   App.footer(Fußzeile);
 }
