@@ -12,14 +12,13 @@ namespace tavorena {
 namespace {
 
 constexpr std::int64_t Tag = std::int64_t{24} * 3600;  // [s]
-constexpr std::string_view Zeichen = ".neu~";
-constexpr std::size_t Eigenes = 6;  // characters of EigeneAnlegen
+constexpr std::size_t Eigenes = 6;                     // characters of EigeneAnlegen
 
-fs::path MitZeichen(fs::path Pfad) { return Pfad += fs::path(Zeichen); }
+fs::path Nachfolgername(fs::path Pfad) { return Pfad += fs::path(Nachfolger); }
 
 // What a kill left behind is nobody's any more after a day.
 void ResteEntfernen(const fs::path& Ziel) {
-  const std::string Vorn = NameVon(MitZeichen(Ziel.filename()));
+  const std::string Vorn = NameVon(Nachfolgername(Ziel.filename()));
   for (const fs::path& Pfad : EinträgeIm(Ziel.has_parent_path() ? Ziel.parent_path() : fs::path("."))) {
     const std::string Name = NameVon(Pfad.filename());
     if (Name.size() != Vorn.size() + Eigenes || !Name.starts_with(Vorn)) continue;
@@ -87,7 +86,7 @@ int Ersetzen(const fs::path& Pfad, std::string_view Inhalt, const Dateistand* So
   if (Grund.empty() && War && !Beschreibbar(Pfad, Alt)) Grund = Fehlerwort(EROFS);
   if (!Grund.empty()) return -1;
   const fs::path Ziel = War ? EndeDerVerweise(Pfad) : Pfad;
-  fs::path Neu = MitZeichen(Ziel);
+  fs::path Neu = Nachfolgername(Ziel);
   if (!Ziel.empty()) ResteEntfernen(Ziel);
   if (Ziel.empty() || !Daneben(Neu, War ? &Alt : nullptr, Inhalt)) {
     Grund = Fehlerwort(errno);

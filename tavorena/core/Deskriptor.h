@@ -93,6 +93,10 @@ enum class Zugriff {
 /// @return not open: refused
 Deskriptor RegulärÖffnen(const std::filesystem::path& Pfad, Zugriff Art, Dateilage& Lage, std::string& Grund);
 
+/// What stands behind the name of a file in that of its next content, before the six characters of
+/// EigeneAnlegen.
+inline constexpr std::string_view Nachfolger = ".neu~";
+
 /// Makes an empty file that nobody else has: six characters come behind the name.
 /// @param[in,out] Pfad  as it was where that fails
 Deskriptor EigeneAnlegen(std::filesystem::path& Pfad);

@@ -81,14 +81,33 @@ std::optional<std::wstring> Vollname(const fs::path& Pfad) {
   return Name;
 }
 
+// Umbenennen takes two steps, and between them there is only the next content.
+bool WirdErsetzt(const std::wstring& Name) {
+  WIN32_FIND_DATAW Fund{};
+  HANDLE Suche = FindFirstFileW((Name + Breittext(Nachfolger) + L"??????").c_str(), &Fund);
+  if (Suche == KeinGriff) return false;
+  FindClose(Suche);
+  return true;
+}
+
 Deskriptor Öffnen(const fs::path& Pfad, DWORD Rechte, DWORD Wie = OPEN_EXISTING, DWORD Zusatz = 0) {
   const auto Name = Vollname(Pfad);
   if (!Name) return Deskriptor();
-  // The flag lets folders be opened, and told from files then.
-  Deskriptor K(CreateFileW(Name->c_str(), Rechte, Geteilt, nullptr, Wie,
-                           FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS | Zusatz, nullptr));
-  static_cast<void>(Gelungen(K ? TRUE : FALSE));
-  return K;
+  const auto Versuch = [&](DWORD Art) {
+    // The flag lets folders be opened, and told from files then.
+    Deskriptor K(CreateFileW(Name->c_str(), Rechte, Geteilt, nullptr, Art,
+                             FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS | Zusatz, nullptr));
+    static_cast<void>(Gelungen(K ? TRUE : FALSE));
+    return K;
+  };
+  if (Wie == CREATE_NEW) return Versuch(Wie);
+  const ULONGLONG Ende = GetTickCount64() + Moment;
+  for (;;) {
+    Deskriptor K = Versuch(OPEN_EXISTING);
+    if (K || errno != ENOENT) return K;
+    if (!WirdErsetzt(*Name) || GetTickCount64() > Ende) return Versuch(Wie);
+    Sleep(1);
+  }
 }
 
 std::uint64_t Zusammen(DWORD Oben, DWORD Unten) { return std::uint64_t{Oben} << 32U | Unten; }
@@ -201,7 +220,9 @@ fs::path EndeDerVerweise(const fs::path& Pfad) {
   if (!K) return {};
   std::wstring Ende(32768, L'\0');
   const DWORD Länge = GetFinalPathNameByHandleW(K.Nummer(), Ende.data(), static_cast<DWORD>(Ende.size()), 0);
-  if (!Gelungen(Länge != 0 ? TRUE : FALSE)) return {};
+  Dateilage Lage;
+  if (Länge == 0)  // some file systems do not know it
+    return AnsehenOhneVerweis(Pfad, Lage) && Lage.Art != Dateiart::Andere ? Pfad : fs::path();
   Ende.resize(Länge);
   return Ende;
 }
@@ -358,11 +379,12 @@ bool Entfernen(const fs::path& Pfad) {
 }
 
 void Festhalten(const Deskriptor& K) {
-  if (!K) return;
-  static_cast<void>(Beharrlich([&K] {
-    OVERLAPPED Stelle = Sperrstelle();
-    return LockFileEx(K.Nummer(), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &Stelle);
-  }));
+  OVERLAPPED Stelle = Sperrstelle();
+  constexpr DWORD Sofort = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
+  // Counted, not timed: on a busy machine the one who holds it has his pauses too.
+  for (int i = 0;
+       i < 100 && K && !Gelungen(LockFileEx(K.Nummer(), Sofort, 0, 1, 0, &Stelle)) && errno == EBUSY; ++i)
+    Sleep(1);
 }
 
 void Loslassen(const Deskriptor& K) {
