@@ -38,7 +38,7 @@ endif()
 # What a distribution asks of the programs it builds. Sanitizers see more, and it would be in their way.
 include(CheckPIESupported)
 check_pie_supported()
-if(NOT TAVORENA_SANITIZE)
+if(NOT TAVORENA_SANITIZE AND NOT WIN32)  # there the linker's own settings hold
   set(Gehaertet $<NOT:$<CONFIG:Debug>>)
   target_compile_options(tavorena_regeln INTERFACE
     "$<${Gehaertet}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")

@@ -13,6 +13,7 @@ pakete_von() {
     bench) echo libbenchmark-dev libfmt-dev libfast-float-dev libproj-dev python3 ;;
     python) echo pybind11-dev python3-dev python3-numpy python3-matplotlib ;;
     paket) echo dpkg-dev debhelper dh-python lintian mmdebstrap doxygen git faketime xvfb xauth xdotool ;;
+    windows) echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest wine64 dpkg-dev poppler-utils ccache ;;
     fuzz) echo clang-14 libclang-rt-14-dev ;;
     *) echo "pakete.sh: unknown task $1" >&2; return 1 ;;
   esac
