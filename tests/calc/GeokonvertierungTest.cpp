@@ -3,7 +3,9 @@
 #include <limits>
 #include <memory>
 
+#ifndef _WIN32
 #include <proj.h>
+#endif
 
 #include <tavorena/calc/Geokonvertierung.h>
 #include <tavorena/calc/Meridianstreifen.h>
@@ -46,6 +48,7 @@ TEST(Geokonvertierung, VeröffentlichtesBeispiel) {
   EXPECT_NEAR(Hin, Her, 1e-6);
 }
 
+#ifndef _WIN32  // the witness is a library of this system
 // The exact projection, for a strip or a zone.
 std::unique_ptr<PJ, PJ* (*)(PJ*)> Projektion(bool Utm, int Nr, const std::string& Körper) {
   const int Mitte = Utm ? 6 * (Nr - 30) - 3 : 3 * Nr;
@@ -150,6 +153,7 @@ TEST(Geokonvertierung, DeutschlandGegenProj) {
     EXPECT_LT(Konvergenz * 3600, 2e-4);
   }
 }
+#endif
 
 TEST(Geokonvertierung, GKStreifen) {
   double Delta = 9;

@@ -14,13 +14,13 @@ namespace {
 class StapelbefehlTest : public TabellenTest {
  protected:
   StapelbefehlTest() {
-    setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1);
+    Umgebungsvariable("TAVORENA_ORDNER", Ordner.Pfad("app").c_str());
     Schreibe(Auftrag.Koordinaten = Ordner.Pfad("a.kor"),
              "1001 3500100 5600200\r\n1002 3500160 5600280\r\n2003 3500130 5600230\r\n");
     Auftrag.Datei = Ordner.Pfad("a.sta");
     Auftrag.Speichern = Ordner.Pfad("b.kor");
   }
-  ~StapelbefehlTest() override { unsetenv("TAVORENA_ORDNER"); }
+  ~StapelbefehlTest() override { Umgebungsvariable("TAVORENA_ORDNER"); }
   int Laufen(const std::string& Sta) {
     Schreibe(Auftrag.Datei, Sta);
     Aus.str("");

@@ -73,13 +73,13 @@ struct Tag {
 class Stationieren : public TabellenTest {
  protected:
   Stationieren() {
-    setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1);
+    Umgebungsvariable("TAVORENA_ORDNER", Ordner.Pfad("app").c_str());
     Ruf.Koordinaten = Ordner.Pfad("a.kor");
     Ruf.Datei = Ordner.Pfad("a.gsi");
     Ruf.Protokoll = Ordner.Pfad("a.dru");
     Ruf.Werte = {{"--art", "helmert"}, {"--stapel-ausgabe", Ordner.Pfad("a.sta")}};
   }
-  ~Stationieren() override { unsetenv("TAVORENA_ORDNER"); }
+  ~Stationieren() override { Umgebungsvariable("TAVORENA_ORDNER"); }
   int Laufen(const Konsolenbefehl& B) {
     Aus.str("");
     Meldungen.str("");

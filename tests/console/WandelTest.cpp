@@ -9,8 +9,8 @@ namespace {
 
 class Wandelbefehl : public TabellenTest {
  protected:
-  Wandelbefehl() { setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1); }
-  ~Wandelbefehl() override { unsetenv("TAVORENA_ORDNER"); }
+  Wandelbefehl() { Umgebungsvariable("TAVORENA_ORDNER", Ordner.Pfad("app").c_str()); }
+  ~Wandelbefehl() override { Umgebungsvariable("TAVORENA_ORDNER"); }
   int Rufe(const char* Von, const char* Nach, std::vector<const char*> Weitere = {}) {
     std::vector<const char*> Worte = {"tavorena-stapel", "wandeln", "--von", Von, "--nach", Nach};
     Worte.insert(Worte.end(), Weitere.begin(), Weitere.end());

@@ -151,7 +151,7 @@ class Theodolit : public TabellenTest {
     TheoHaken = {[this](TheoOptionen& T) { return T = Einstellungen, 0; },
                  [this](const TheoOptionen& T) { Einstellungen = T; }};
     Einstellungen.Rohdatendatei = Ordner.Pfad("roh.gsi");
-    setenv("TAVORENA_COM2", "/dev/gerät", 1);
+    Umgebungsvariable("TAVORENA_COM2", "/dev/gerät");
     Skript.BeiLeitung = [this](const std::string& Wie) {
       Geöffnet += Wie + ";";
       return D.Da ? std::make_unique<Skriptleitung>(D) : nullptr;

@@ -44,9 +44,9 @@ TEST_F(Shelltest, FertigeDateiAnDenDrucker) {
     return Skript.Ausgeführt;
   };
   EXPECT_EQ(Senden("1"), (Texte{"lp", "-o", "raw", Datei}));
-  setenv("TAVORENA_LPT2", "Plotter", 1);
+  Umgebungsvariable("TAVORENA_LPT2", "Plotter");
   EXPECT_EQ(Senden("2"), (Texte{"lp", "-o", "raw", "-d", "Plotter", Datei}));
-  unsetenv("TAVORENA_LPT2");
+  Umgebungsvariable("TAVORENA_LPT2");
   Skript.Laufergebnis = 1;
   Skript.Erwarte("Die Datei wurde nicht gedruckt:\n" + Datei + "\n\nvon lp");
   Senden("3");

@@ -107,22 +107,22 @@ TEST_F(Konfiguration, ÄltereDateiLäuftInDenNächstenAbschnitt) {
 TEST_F(Konfiguration, FehlendeDatei) {
   for (const auto Lesen : {OptionenLesen, HistorieLesen, DateinamenLesen, EDBSLesen}) EXPECT_EQ(Lesen(), -1);
   EXPECT_EQ(Optionen.DateinameEditorNT, "\\Notepad.exe");
-  setenv("windir", "c:\\windows", 1);
+  Umgebungsvariable("windir", "c:\\windows");
   DateinamenLesen();
   EXPECT_EQ(Optionen.DateinameEditor31, "c:\\windows\\Notepad.exe");
   EXPECT_EQ(Optionen.DateinameEditorNT, Optionen.DateinameEditor31);
 }
 
 TEST_F(Konfiguration, Anwendungsordner) {
-  unsetenv("TAVORENA_ORDNER");
-  setenv("XDG_CONFIG_HOME", "/xdg", 1);
+  Umgebungsvariable("TAVORENA_ORDNER");
+  Umgebungsvariable("XDG_CONFIG_HOME", "/xdg");
   DateinamenAbleiten();
   EXPECT_EQ(DateinameProtokollTemp, "/xdg/tavorena\\TavorenaProt.tmp");
   Skript.Programmordner = Ordner.Pfad("");
   Schreibe(Ordner.Pfad("Tavorena.ini"), "");
   DateinamenAbleiten();
   EXPECT_EQ(Anwendungsordner, Skript.Programmordner);
-  unsetenv("XDG_CONFIG_HOME");
+  Umgebungsvariable("XDG_CONFIG_HOME");
 }
 
 TEST_F(Konfiguration, Historie) {

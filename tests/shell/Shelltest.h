@@ -18,8 +18,8 @@ namespace tavorena::test {
 class Shelltest : public TabellenTest {
  protected:
   Shelltest() {
-    setenv("TAVORENA_ORDNER", Ordner.Pfad("app").c_str(), 1);
-    unsetenv("windir");
+    Umgebungsvariable("TAVORENA_ORDNER", Ordner.Pfad("app").c_str());
+    Umgebungsvariable("windir");
     Prot = {};
     Stapel = {};
     Historie = {};
@@ -31,7 +31,7 @@ class Shelltest : public TabellenTest {
     KoordinatendateiName.clear();
     StapelDatei = {};
     BlätterSchließen();
-    unsetenv("TAVORENA_ORDNER");
+    Umgebungsvariable("TAVORENA_ORDNER");
   }
 
   const std::string A_kor = Ordner.Pfad("a.kor"), A_dru = Ordner.Pfad("a.dru");

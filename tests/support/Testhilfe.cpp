@@ -5,7 +5,12 @@
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+
+#ifdef _WIN32
+#include <process.h>
+#else
 #include <unistd.h>
+#endif
 
 namespace tavorena::test {
 
@@ -20,17 +25,34 @@ Testordner::~Testordner() {
   fs::remove_all(Ort, Fehler);
 }
 
-std::string Testordner::Pfad(std::string_view Name) const { return (Ort / Name).string(); }
+std::string Testordner::Pfad(std::string_view Name) const {
+  const std::u8string Voll = (Ort / Weg(Name)).u8string();
+  return {Voll.begin(), Voll.end()};
+}
+
+fs::path Weg(std::string_view Name) { return std::u8string(Name.begin(), Name.end()); }
+
+void Umgebungsvariable(const char* Name, const char* Wert) {
+#ifdef _WIN32
+  _wputenv_s(Weg(Name).c_str(), Weg(Wert == nullptr ? "" : Wert).c_str());
+#else
+  if (Wert == nullptr) {
+    unsetenv(Name);
+  } else {
+    setenv(Name, Wert, 1);
+  }
+#endif
+}
 
 std::string Inhalt(const std::string& Datei) {
-  std::ifstream K(Datei, std::ios::binary);
+  std::ifstream K(Weg(Datei), std::ios::binary);
   std::ostringstream Text;
   Text << K.rdbuf();
   return Text.str();
 }
 
 void Schreibe(const std::string& Datei, std::string_view Bytes) {
-  std::ofstream(Datei, std::ios::binary).write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
+  std::ofstream(Weg(Datei), std::ios::binary).write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
 }
 
 ::testing::AssertionResult GleichSoll(const std::string& Ist, const std::string& SollDatei) {

@@ -37,6 +37,11 @@ class Testordner {
 std::string Inhalt(const std::string& Datei);
 void Schreibe(const std::string& Datei, std::string_view Bytes);
 
+/// A name in UTF-8 as the library of the language takes it.
+fs::path Weg(std::string_view Name);
+/// Sets a variable of the environment, or takes it away.
+void Umgebungsvariable(const char* Name, const char* Wert = nullptr);
+
 /// Compares in pairs, a value and the one expected beside it, and tells which pair is off. A variable that a
 /// call beside it writes is seen as it is after the call; what another call reads is not.
 template <int Nummer = 1, typename A, typename B, typename... Rest>

@@ -3,6 +3,12 @@
 
 #include <set>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#endif
+
 #include <tavorena/core/KorDatei.h>
 #include <tavorena/core/Text.h>
 #include <tavorena/records/Neupunktblock.h>
@@ -398,12 +404,19 @@ TEST_F(Linienblatt, BewegterAnschlussBeginntEinenBlock) {
 
 // A file that is extended stays open until it was brought to the disk.
 bool Ungesichert(const std::string& Name) {
+#ifdef _WIN32
+  int Griff = -1;  // nobody gets an open file for himself
+  if (_wsopen_s(&Griff, Weg(Name).c_str(), _O_RDONLY, _SH_DENYRW, 0) != 0) return true;
+  _close(Griff);
+  return false;
+#else
   const auto Ist = [&](const fs::directory_entry& Zahl) {
     std::error_code Fehler;
     return fs::read_symlink(Zahl, Fehler) == fs::canonical(Name);
   };
   const fs::directory_iterator Offene("/proc/self/fd");
   return std::any_of(begin(Offene), end(Offene), Ist);
+#endif
 }
 
 TEST_F(Linienblatt, ErledigtesIstAufDerPlatte) {
