@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # ./test.sh           g++ with sanitizers, all tests, the library from a foreign program and from Python
 # ./test.sh --streng  the formatting before, clang with clang-tidy, the build without Qt and the reference after
+# ./test.sh --windows the layers below the window for Windows, cross-built, with their tests under wine64
 # Warnings are errors. Safe to repeat; only what changed is built again.
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -9,10 +10,31 @@ cd "$(dirname "$0")"
 case "$#:${1-}" in
   0:) streng= ;;
   1:--streng) streng=ja ;;
-  *) echo "Aufruf: ./test.sh [--streng]" >&2; exit 2 ;;
+  1:--windows) windows=ja ;;
+  *) echo "Aufruf: ./test.sh [--streng | --windows]" >&2; exit 2 ;;
 esac
 
 schritt() { printf '\n== %s\n' "$1"; }
+
+if [ "${windows-}" ]; then
+  pakete_sichern bauen windows
+  schritt "Bibliotheken für Windows"
+  scripts/windows-bibliotheken.sh
+  schritt "g++ für Windows"
+  cmake --preset mingw >/dev/null
+  cmake --build build/mingw
+  schritt "Tests unter wine64"
+  trap 'scripts/wine.sh --ende' EXIT
+  ctest --test-dir build/mingw --output-on-failure --verbose -j "$(nproc)" >build/mingw/tests.log ||
+    { grep -E 'FAILED|Failure|rror|Timeout|Stacktrace' build/mingw/tests.log; exit 1; }
+  awk '/\[  PASSED  \]/ { n += $(NF - 1) } /Passed/ { p++ } END { print n " Tests in " p " Programmen" }' build/mingw/tests.log
+  schritt "wie auf diesem System"
+  cmake --preset headless -DTAVORENA_TESTS=OFF -DTAVORENA_WERROR=ON >/dev/null
+  cmake --build build/headless --target tavorena-stapel
+  tests/paket/windows.sh build/mingw build/headless/tavorena/console/tavorena-stapel
+  printf '\nAlles in Ordnung.\n'
+  exit
+fi
 
 pakete_sichern bauen desktop test python ${streng:+streng}
 
