@@ -78,6 +78,10 @@ if [ "$streng" ]; then
 
   schritt "Beschreibung"
   cmake --build build/headless --target doc
+
+  schritt "Handbuch"
+  cmake --build build/headless --target handbuch
+  /usr/bin/python3 tests/handbuch/pruefen.py . build/headless/docs/handbuch
 fi
 
 echo
