@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QFile>
 #include <QImage>
@@ -11,7 +12,9 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextTable>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -41,6 +44,22 @@ QStringList AlleSeiten() {
   return Alle;
 }
 
+// Name of the place with this text in a link, as docs/handbuch/werkzeug/quelle.py makes it.
+QString Ankername(const QString& Text) {
+  QString Name;
+  for (const QChar z : Text.toLower().simplified()) {
+    if (z == ' ') Name += '-';
+    if (z.isLetterOrNumber() || z == '-' || z == '_') Name += z;
+  }
+  return Name;
+}
+
+bool IstErsteZelle(const QTextBlock& Absatz) {
+  const QTextCursor Stelle(Absatz);
+  const QTextTable* Tabelle = Stelle.currentTable();
+  return Tabelle != nullptr && Tabelle->cellAt(Stelle).column() == 0;
+}
+
 // A page; pictures are never wider than the window.
 class Seitenansicht final : public QTextBrowser {
  public:
@@ -65,6 +84,21 @@ class Seitenansicht final : public QTextBrowser {
     Bild = Bild.scaledToWidth(Punkte, Qt::SmoothTransformation);
     Bild.setDevicePixelRatio(static_cast<double>(Punkte) / Breite);
     return Bild;
+  }
+  // Places are headings and the first cells of rows; Markdown gives them no names.
+  void doSetSource(const QUrl& Name, QTextDocument::ResourceType Art) override {
+    QTextBrowser::doSetSource(Name, Art);
+    const QString Anker = Name.fragment(QUrl::FullyDecoded);
+    if (Anker.isEmpty()) return;
+    for (QTextBlock Absatz = document()->begin(); Absatz.isValid(); Absatz = Absatz.next()) {
+      if ((Absatz.blockFormat().headingLevel() == 0 && !IstErsteZelle(Absatz)) ||
+          Ankername(Absatz.text()) != Anker) {
+        continue;
+      }
+      document()->documentLayout()->documentSize();  // lays the page out to its end
+      verticalScrollBar()->setValue(qRound(document()->documentLayout()->blockBoundingRect(Absatz).top()));
+      return;
+    }
   }
   void resizeEvent(QResizeEvent* Ereignis) override {
     QTextBrowser::resizeEvent(Ereignis);
@@ -136,7 +170,8 @@ class Handbuchfenster final : public QWidget {
     });
     QAction* Zurück = Befehl("Zurück", Qt::ALT | Qt::Key_Left, [this] { Seite->backward(); });
     QAction* Vor = Befehl("Vor", Qt::ALT | Qt::Key_Right, [this] { Seite->forward(); });
-    Leiste.addActions({Inhalt, Zurück, Vor});
+    QAction* Verzeichnis = Befehl("Verzeichnis", Qt::ALT | Qt::Key_V, [this] { Öffnen("verzeichnis.md"); });
+    Leiste.addActions({Inhalt, Verzeichnis, Zurück, Vor});
     for (QAction* A : {Zurück, Vor}) A->setEnabled(false);
     connect(Seite, &QTextBrowser::backwardAvailable, Zurück, &QAction::setEnabled);
     connect(Seite, &QTextBrowser::forwardAvailable, Vor, &QAction::setEnabled);

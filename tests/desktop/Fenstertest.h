@@ -27,7 +27,6 @@
 #include <tavorena/records/Protokollfenster.h>
 #include <tavorena/records/Stapelleser.h>
 #include <tavorena/shell/Blaetter.h>
-#include <tavorena/shell/Handbuchseiten.h>
 #include <tavorena/shell/Konfiguration.h>
 #include <tavorena/shell/TVHauptmodul.h>
 #include <tavorena/shell/TVKernMDIForm.h>
