@@ -23,7 +23,7 @@ import sys
 import tempfile
 
 WURZEL = pathlib.Path(sys.argv[1])
-PROGRAMME = [pathlib.Path(p) for p in sys.argv[2:] if p]
+PROGRAMME = [pathlib.Path(p) for p in sys.argv[2:] if pathlib.Path(p).is_file()]
 FENSTER = any(p.name == "tavorena" for p in PROGRAMME)
 RUF = re.compile(r"(?:^|[\s;|&(/])tavorena(-stapel)?[ \t]+[^#\s]", re.M)
 STEMPEL = re.compile(r"\d\d\.\d\d\.\d{4}   \d\d:\d\d")
