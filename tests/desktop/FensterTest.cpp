@@ -69,6 +69,8 @@ class FensterTest final : public Fensterumgebung {
     Schreibe(Pfad("t.dru"), "\r\n");
     Spiele("Strg+O " + Pfad("t.kor") + " Return Alt+N");
     QVERIFY(KorAnzahl == 1 && !Prot.Datei.empty());
+    Spiele("Alt+B E Alt+L Alt+S");  // buttons that act behind their press
+    QVERIFY(KorAnzahl == 0 && !BlätterOffen());
     QCOMPARE(Gespielt("Alt+O Return"), QString("offen blieb: Tavorena Optionen"));
     QVERIFY(VordererDialog() == nullptr);
   }

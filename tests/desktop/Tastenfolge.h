@@ -130,7 +130,6 @@ class Tastenspieler final : public QObject {
         this, [this] { Weiter(); }, Qt::QueuedConnection);
   }
 
-  // The last key is followed by what the window shows a moment later.
   bool InRuhe() {
     QWidget* const Vorn = VordererDialog();
     const bool Neu = std::exchange(Zuletzt, Vorn) != Vorn;
@@ -141,8 +140,18 @@ class Tastenspieler final : public QObject {
     const bool Arbeitet = TVKernMDIForm::Fenster().IstBeschäftigt() &&
                           (Vorn == nullptr || Vorn->objectName() == "Druckvorschau");
     const bool Gesperrt = Vorn != nullptr && Vorn->findChild<QObject*>("Tastensperre") != nullptr;
-    if (Arbeitet || Gesperrt || QGuiApplication::focusWindow() == nullptr) Ruhig = 0;
+    if (Arbeitet || Gesperrt || KnopfUnten() || QGuiApplication::focusWindow() == nullptr) Ruhig = 0;
+    // Behind the last key the window shows the protocol a moment later.
     return ++Ruhig > (Nächste < Tasten.size() ? 3 : 30);
+  }
+
+  // One that a letter pressed acts when it comes up again.
+  static bool KnopfUnten() {
+    for (const QWidget* W : QApplication::allWidgets()) {
+      const auto* Knopf = qobject_cast<const QPushButton*>(W);
+      if (Knopf != nullptr && Knopf->isDown()) return true;
+    }
+    return false;
   }
 
   void Weiter() {
