@@ -1,6 +1,8 @@
 // Work in the window driven by key presses, as a surveyor drives it. Runs with QT_QPA_PLATFORM=offscreen.
 #include "Fenstertest.h"
 
+#include <tavorena/worksheets/Blattart.h>
+
 using namespace tavorena;
 using namespace tavorena::test;
 
@@ -73,6 +75,38 @@ class FensterTest final : public Fensterumgebung {
     QVERIFY(KorAnzahl == 0 && !BlätterOffen());
     QCOMPARE(Gespielt("Alt+O Return"), QString("offen blieb: Tavorena Optionen"));
     QVERIFY(VordererDialog() == nullptr);
+  }
+
+  // The example on a worksheet's page: its keys write what the page shows behind them.
+  void blattWieGedruckt_data() {
+    QTest::addColumn<QByteArray>("Eintrag");
+    QTest::addColumn<QString>("Text");
+    QSet<QString> Bekannt;
+    for (const Blattart& Art : Blattarten()) {
+      if (Bekannt.contains(Art.Seite)) continue;  // of some kinds the first one
+      Bekannt.insert(Art.Seite);
+      const QString Text =
+          QString::fromUtf8(Inhalt(QString(TAVORENA_TESTS "/../docs/handbuch/") + Art.Seite));
+      if (Text.contains("```tasten\n")) QTest::newRow(Art.Seite) << QByteArray(Art.Menü) << Text;
+    }
+  }
+  void blattWieGedruckt() {
+    QFETCH(QByteArray, Eintrag);
+    QFETCH(QString, Text);
+    static const QRegularExpression Kasten("```tasten\n(.*?)```.*?```aus musterdorf.dru\n(.*?)```",
+                                           QRegularExpression::DotMatchesEverythingOption);
+    for (const char* Name : {"m.kor", "m.dru", "m.sta"}) QFile::remove(Pfad(Name));
+    QVERIFY(QFile::copy(TAVORENA_TESTS "/../examples/musterdorf.kor", Pfad("m.kor")));
+    Spiele("Strg+O " + Pfad("m.kor") + " Return");
+    Optionen.AbfrageRiss = false;
+    Menü(Eintrag);
+    const auto Beispiel = Kasten.match(Text);
+    QVERIFY(Beispiel.hasMatch());
+    Spiele(Beispiel.captured(1));
+    QString Protokoll = QString::fromUtf8(Inhalt(Pfad("m.dru")));
+    Protokoll.remove(QRegularExpression("[ \r]+(?=\n)"));
+    for (const QString& Teil : Beispiel.captured(2).split("...\n"))
+      QVERIFY2(Protokoll.contains('\n' + Teil), qPrintable("fehlt:\n" + Teil + "in:\n" + Protokoll));
   }
 
   void fehlenderPunktUndFokus() {

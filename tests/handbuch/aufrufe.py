@@ -8,7 +8,7 @@ Every page has a folder of its own with a copy of the example job. Its blocks, i
     sh ausführen             a script; it has to succeed, and what it prints stands in the block
     ausgabe                  behind it
     datei NAME               a file that later blocks read
-    aus NAME                 lines that stand in this file, one after the other
+    aus NAME                 lines that stand in this file, one after the other; "..." stands for others
     sh nicht ausgeführt: WHY
 
 Any other block with a call is an error. In man pages .EX and .EE enclose a block, its kind stands in a
@@ -119,7 +119,6 @@ class Seite:
                 ] if erg.stdout else []
 
     def auszug(self, zeile, name, text):
-        """A row of dots stands for rows that are left out."""
         datei = (self.ort / name).read_text(encoding="utf-8")
         stelle, ganz = 0, "\n" + "\n".join(z.rstrip() for z in datei.splitlines()) + "\n"
         for stück in re.split(r"\n *\.\.\. *\n", "\n".join(z.rstrip() for z in text)):
