@@ -95,8 +95,9 @@ class FensterTest final : public Fensterumgebung {
     QFETCH(QString, Text);
     static const QRegularExpression Kasten("```tasten\n(.*?)```.*?```aus musterdorf.dru\n(.*?)```",
                                            QRegularExpression::DotMatchesEverythingOption);
-    for (const char* Name : {"m.kor", "m.dru", "m.sta"}) QFile::remove(Pfad(Name));
+    for (const char* Name : {"m.kor", "m.dru", "m.sta", "passpunkte.kor"}) QFile::remove(Pfad(Name));
     QVERIFY(QFile::copy(TAVORENA_TESTS "/../examples/musterdorf.kor", Pfad("m.kor")));
+    QVERIFY(QFile::copy(TAVORENA_TESTS "/../examples/passpunkte.kor", Pfad("passpunkte.kor")));
     Spiele("Strg+O " + Pfad("m.kor") + " Return");
     Optionen.AbfrageRiss = false;
     Menü(Eintrag);
