@@ -9,7 +9,7 @@ pakete_von() {
     bauen) echo g++ cmake ninja-build pkg-config libcli11-dev libcairo2-dev libexpat1-dev fonts-dejavu-core ;;
     desktop) echo qt6-base-dev qt6-serialport-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins qt6-wayland qt6-translations-l10n libgl-dev fonts-dejavu-core ;;
     test) echo libgtest-dev libproj-dev proj-bin poppler-utils ccache appstream binutils abigail-tools python3-ezdxf hunspell hunspell-de-de ;;
-    streng) echo clang-14 clang-tidy-14 clang-format-14 doxygen git reuse faketime "$(pakete_von handbuch)" ;;
+    streng) echo clang-14 clang-tidy-14 clang-format-14 doxygen git reuse faketime imagemagick "$(pakete_von handbuch)" ;;
     bench) echo libbenchmark-dev libfmt-dev libfast-float-dev libproj-dev python3 ;;
     python) echo pybind11-dev python3-dev python3-numpy python3-matplotlib ;;
     paket) echo dpkg-dev debhelper dh-python lintian mmdebstrap doxygen git faketime xvfb xauth xdotool ;;

@@ -20,6 +20,7 @@ struct Tastendruck {
   int Taste = 0;
   Qt::KeyboardModifiers Mit;
   QString Text;
+  bool Zeilenende = false;  // the window gets time for what is on its way
 };
 
 // A key by the name that is printed. Text: what a keyboard sends with it
@@ -44,45 +45,51 @@ inline bool TasteVon(const QString& Name, Tastendruck& T) {
   return false;
 }
 
-inline Tastendruck Zeichentaste(QChar z, const QString& Wort) {
-  return {Wort, z.toUpper().unicode(), {}, QString(z)};
+// The keys of one word, added to the others. @return false: it is none
+inline bool WortLesen(const QString& Wort, std::vector<Tastendruck>& Tasten) {
+  static const std::pair<QString, Qt::KeyboardModifier> Umschalter[] = {
+      {"Strg+", Qt::ControlModifier}, {"Alt+", Qt::AltModifier}, {"Umschalt+", Qt::ShiftModifier}};
+  Tastendruck T{Wort, 0, {}, {}};
+  QString Rest = Wort;
+  for (bool Weiter = true; std::exchange(Weiter, false);) {
+    for (const auto& [Name, Art] : Umschalter) {
+      if (!Rest.startsWith(Name)) continue;
+      T.Mit |= Art;
+      Rest.remove(0, Name.size());
+      Weiter = true;
+    }
+  }
+  if (!TasteVon(Rest, T)) {
+    if (T.Mit == Qt::NoModifier) {
+      for (const QChar z : Wort) Tasten.push_back({Wort, z.toUpper().unicode(), {}, QString(z)});
+      return true;
+    }
+    if (Rest.size() != 1) return false;
+    T.Taste = Rest[0].toUpper().unicode();
+    T.Text = Rest.toLower();
+  }
+  if (T.Mit.testFlag(Qt::ControlModifier)) T.Text.clear();
+  if (T.Taste == Qt::Key_Tab && T.Mit.testFlag(Qt::ShiftModifier)) T.Taste = Qt::Key_Backtab;
+  Tasten.push_back(T);
+  return true;
 }
 
 /// The keys of a printed sequence: names of keys, alone or behind "Strg+", "Alt+", "Umschalt+"; every other
 /// word is typed letter by letter.
 /// @return empty; else the word that is none of them
 inline QString TastenfolgeLesen(const QString& Folge, std::vector<Tastendruck>& Tasten) {
-  static const std::pair<QString, Qt::KeyboardModifier> Umschalter[] = {
-      {"Strg+", Qt::ControlModifier}, {"Alt+", Qt::AltModifier}, {"Umschalt+", Qt::ShiftModifier}};
-  for (const QString& Wort : Folge.split(QRegularExpression("\\s+"), Qt::SkipEmptyParts)) {
-    Tastendruck T{Wort, 0, {}, {}};
-    QString Rest = Wort;
-    for (bool Weiter = true; std::exchange(Weiter, false);) {
-      for (const auto& [Name, Art] : Umschalter) {
-        if (!Rest.startsWith(Name)) continue;
-        T.Mit |= Art;
-        Rest.remove(0, Name.size());
-        Weiter = true;
-      }
+  for (const QString& Zeile : Folge.split('\n')) {
+    for (const QString& Wort : Zeile.split(QRegularExpression("\\s+"), Qt::SkipEmptyParts)) {
+      if (!WortLesen(Wort, Tasten)) return Wort;
     }
-    if (!TasteVon(Rest, T)) {
-      if (T.Mit == Qt::NoModifier) {
-        for (const QChar z : Wort) Tasten.push_back(Zeichentaste(z, Wort));
-        continue;
-      }
-      if (Rest.size() != 1) return Wort;
-      T.Taste = Rest[0].toUpper().unicode();
-      T.Text = Rest.toLower();
-    }
-    if (T.Mit.testFlag(Qt::ControlModifier)) T.Text.clear();
-    if (T.Taste == Qt::Key_Tab && T.Mit.testFlag(Qt::ShiftModifier)) T.Taste = Qt::Key_Backtab;
-    Tasten.push_back(T);
+    if (!Tasten.empty()) Tasten.back().Zeilenende = true;
   }
   return {};
 }
 
 /// Plays keys into whatever has the focus, each when the window has come to rest: nothing was drawn, laid out
-/// or handed over for a while, and the dialog in front takes keys. Goes on inside the loops of modal dialogs.
+/// or handed over for a while, longer at the end of a line, and the dialog in front takes keys. Goes on
+/// inside the loops of modal dialogs.
 class Tastenspieler final : public QObject {
  public:
   explicit Tastenspieler(QWidget& Haupt) : Fenster(Haupt) {
@@ -109,8 +116,9 @@ class Tastenspieler final : public QObject {
   }
 
  protected:
-  bool eventFilter(QObject* /*Objekt*/, QEvent* Ereignis) override {
-    if (Ereignis->type() != QEvent::Timer) Ruhig = 0;
+  // A loop that waits in steps has events of its own, none of a window.
+  bool eventFilter(QObject* Objekt, QEvent* Ereignis) override {
+    if (Objekt->isWidgetType() && Ereignis->type() != QEvent::Timer) Ruhig = 0;
     return false;
   }
 
@@ -141,8 +149,7 @@ class Tastenspieler final : public QObject {
                           (Vorn == nullptr || Vorn->objectName() == "Druckvorschau");
     const bool Gesperrt = Vorn != nullptr && Vorn->findChild<QObject*>("Tastensperre") != nullptr;
     if (Arbeitet || Gesperrt || KnopfUnten() || QGuiApplication::focusWindow() == nullptr) Ruhig = 0;
-    // Behind the last key the window shows the protocol a moment later.
-    return ++Ruhig > (Nächste < Tasten.size() ? 3 : 30);
+    return ++Ruhig > (Nächste > 0 && Tasten[Nächste - 1].Zeilenende ? 30 : 3);
   }
 
   // One that a letter pressed acts when it comes up again.
