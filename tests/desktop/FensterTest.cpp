@@ -93,8 +93,9 @@ class FensterTest final : public Fensterumgebung {
   void blattWieGedruckt() {
     QFETCH(QByteArray, Eintrag);
     QFETCH(QString, Text);
-    static const QRegularExpression Kasten("```tasten\n(.*?)```.*?```aus musterdorf.dru\n(.*?)```",
-                                           QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression Kasten(
+        "```tasten\n(.*?)```.*?```(?:ausgabe|aus musterdorf.dru)\n(.*?)```",
+        QRegularExpression::DotMatchesEverythingOption);
     for (const char* Name : {"m.kor", "m.dru", "m.sta", "passpunkte.kor"}) QFile::remove(Pfad(Name));
     QVERIFY(QFile::copy(TAVORENA_TESTS "/../examples/musterdorf.kor", Pfad("m.kor")));
     QVERIFY(QFile::copy(TAVORENA_TESTS "/../examples/passpunkte.kor", Pfad("passpunkte.kor")));
