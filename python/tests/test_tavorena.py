@@ -1,7 +1,9 @@
 """The module tavorena: PYTHONPATH=build/headless/python python3 -m unittest discover -s python/tests"""
 
+import contextlib
 import enum
 import gc
+import io
 import math
 import pathlib
 import re
@@ -23,6 +25,15 @@ class WithTa(unittest.TestCase):
     def tearDown(self):
         del self.ta
         gc.collect()
+
+
+class Handbook(unittest.TestCase):
+    def test_the_example_prints_what_its_page_shows(self):
+        page = (EXAMPLES.parent / "docs/handbuch/bibliothek.md").read_text(encoding="utf-8")
+        code, shown = re.search(r"```python\n(.*?)```.*?```ausgabe\n(.*?)```", page, re.S).groups()
+        with contextlib.chdir(EXAMPLES), contextlib.redirect_stdout(io.StringIO()) as out:
+            exec(code, {})
+        self.assertEqual(out.getvalue(), shown)
 
 
 class Surface(unittest.TestCase):
