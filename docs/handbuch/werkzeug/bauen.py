@@ -20,6 +20,7 @@ from quelle import ERSTE, ORDNER, VERZEICHNIS, ankername, seiten
 
 HIER = Path(__file__).resolve().parent
 BASIS = "handbuch:/"
+SPALTENZEICHEN = 90  # in a line of a table on paper
 
 
 def rumpf(seite):
@@ -101,6 +102,19 @@ def htmlseiten(ziel, alle, rümpfe):
         (ziel / zur_htmlseite(name, "")).write_text(verwiesen(text, zur_htmlseite), encoding="utf-8")
 
 
+def spaltenbreiten(treffer):
+    """A table with widths on paper: as much as its text asks for, never less than its longest word."""
+    zeilen = [re.findall(r"<t[hd][^>]*>(.*?)</t[hd]>", z, re.S) for z in treffer[0].split("<tr")[1:]]
+    breiten = []
+    for spalte in zip(*zeilen):
+        texte = [html.unescape(re.sub(r"<[^>]+>", "", z.replace("</a>", " (S.\u00a0100)"))) for z in spalte]
+        wort = 1.1 * max(len(w) for t in texte for w in t.split() or [""]) + 2
+        menge = SPALTENZEICHEN * sum(map(len, texte)) / sum(len(re.sub(r"<[^>]+>", "", z)) for r in zeilen for z in r)
+        breiten.append(max(wort, min(menge, max(map(len, texte)) + 2)))
+    spalten = "".join(f'<col style="width: {100 * b / sum(breiten):.1f}%">' for b in breiten)
+    return treffer[0].replace("<table>", f"<table>\n<colgroup>{spalten}</colgroup>")
+
+
 def druckfassung(alle, rümpfe, fassung):
     """All pages as one document: title page, contents, a chapter for each page."""
     erste = rümpfe[ERSTE]
@@ -111,6 +125,7 @@ def druckfassung(alle, rümpfe, fassung):
             continue
         kurz = name.removesuffix(".md")
         text = re.sub(r' id="([^"]*)"', rf' id="{kurz}--\1"', rümpfe[name])
+        text = re.sub(r"<table>.*?</table>", spaltenbreiten, text, flags=re.S)
         art = ' class="verzeichnis"' if name == VERZEICHNIS else ""
         if art:
             text = re.sub(r"(<p><strong>.*?)(?=<h2|$)", r'<div class="spalten">\n\1</div>\n', text, flags=re.S)
