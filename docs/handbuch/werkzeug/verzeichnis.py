@@ -90,16 +90,16 @@ def meldungen(alle):
             if stelle.kopf.startswith(MELDUNGSKÖPFE):
                 for text in einzelne(zellen(seite.zeilen[stelle.nummer - 1])[0]):
                     gefunden.setdefault(text, {}).setdefault(seite.name, stelle.nummer)
-    # Told on other pages too: its longest piece without a gap.
+    # Told on other pages too: all of it, or a long piece between its gaps.
     for text, orte in gefunden.items():
-        stück = max((vergleichbar(t) for t in re.split(r"\.\.\.|\*\w+\*", text)), key=len)
-        if len(stück) < 15 or klartext(text)[0].islower():
-            continue
+        stücke = [s for t in re.split(r"\.\.\.|\*\w+\*", text) if (s := vergleichbar(t))]
+        genug = 15 if len(stücke) == 1 else 20
+        stücke = [s for s in stücke if " " in s and len(s) >= genug and not klartext(text)[0].islower()]
         for seite in alle.values():
             if seite.name in (ERSTE, MENÜ, VERZEICHNIS) or seite.name in orte:
                 continue
             for nummer, zeile in seite.prosa():
-                if stück in vergleichbar(klartext(zeile)):
+                if any(s in vergleichbar(klartext(zeile)) for s in stücke):
                     orte.setdefault(seite.name, nummer)
     return gefunden
 
