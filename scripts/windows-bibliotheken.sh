@@ -88,6 +88,7 @@ bibliotheken() {
   make -s -C "$bau/pixman" install-pkgconfigDATA
   (mit_configure cairo src --enable-pdf --enable-win32 --enable-win32-font \
     --disable-{png,ps,svg,script,interpreter,trace,gobject,ft,fc,xlib,xcb,pthread,gtk-doc})
+  sed -i 's/^Libs.private:/& -lssp/' "$ziel/lib/pkgconfig/cairo.pc"  # it was built with checked calls
   cp -r /usr/src/googletest "$bau"
   mit_cmake "$bau/googletest" -DBUILD_GMOCK=OFF
   mkdir -p "$ziel/share/cmake"

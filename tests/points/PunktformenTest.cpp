@@ -45,7 +45,7 @@ class Punktformen : public Aktentest {
     EXPECT_EQ(KorZeileSetzen(Zeile, P.Satz()), 0);
   }
   // The discs in the view.
-  static long Marken() {
+  static std::ptrdiff_t Marken() {
     const auto Bild = Gezeichnet();
     return std::count_if(Bild.begin(), Bild.end(), [](const auto& B) { return B.starts_with("Scheibe"); });
   }

@@ -1,27 +1,25 @@
 #include "Testhilfe.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
-
-#ifdef _WIN32
-#include <process.h>
-#else
-#include <unistd.h>
-#endif
 
 namespace tavorena::test {
 
 Testordner::Testordner() {
-  static std::atomic<int> Zähler = 0;
-  Ort = fs::temp_directory_path() / ("tavorena-" + std::to_string(getpid()) + "-" + std::to_string(++Zähler));
-  fs::create_directories(Ort);
+  do {  // one that no killed run left
+    Ort = fs::temp_directory_path() / ("tavorena-" + std::to_string(std::random_device{}()));
+  } while (!fs::create_directories(Ort));
 }
 
 Testordner::~Testordner() {
   std::error_code Fehler;
+#ifdef _WIN32  // nobody removes there what is read-only
+  for (const auto& Eintrag : fs::recursive_directory_iterator(Ort, Fehler))
+    fs::permissions(Eintrag, fs::perms::owner_write, fs::perm_options::add, Fehler);
+#endif
   fs::remove_all(Ort, Fehler);
 }
 
