@@ -18,6 +18,9 @@ namespace {
 
 constexpr int Zellrand = 12;  // pixels of a column beside its characters
 
+// The current row is seen as a whole: rows are chosen or opened, not cells.
+bool ZeigtZeile(const Gitter& G) { return G.Markenspalte >= 0 || (G.NurLesen && G.BeiDoppelklick); }
+
 }  // namespace
 
 /// The cells of a Gitter for the table view; nothing is kept twice.
@@ -37,7 +40,7 @@ class Gittermodell final : public QAbstractTableModel {
     if (Rolle == Qt::DisplayRole) return QString::fromStdString(Daten->Inhalt(Zelle.row(), Zelle.column()));
     if (Rolle == Qt::TextAlignmentRole) return Bündig(Zelle.column());
     if (Rolle == Qt::ToolTipRole) return Gekürztes(Zelle);
-    if (Rolle == Qt::BackgroundRole && Daten->Markenspalte >= 0) return Zeilenfarbe(Zelle.row());
+    if (Rolle == Qt::BackgroundRole && ZeigtZeile(*Daten)) return Zeilenfarbe(Zelle.row());
     if (Rolle == Qt::ForegroundRole && Daten->Auffällig && Daten->Auffällig(Zelle.row(), Zelle.column()))
       return QBrush(Warnfarbe());
     return {};
@@ -160,7 +163,7 @@ QWidget* Gitteransicht::Fokusziel() {
 
 // Puts the field of the current cell into its place.
 void Gitteransicht::FeldSetzen() {
-  if (Daten.Markenspalte >= 0) viewport()->update();  // the row that was the current one is no more
+  if (ZeigtZeile(Daten)) viewport()->update();  // the row that was the current one is no more
   if (!Daten.Aktiv || !Daten.ZelleOffen()) {
     Feldzelle = QModelIndex();
     Zellfeld->hide();

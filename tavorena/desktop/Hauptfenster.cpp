@@ -413,7 +413,9 @@ void Hauptfenster::NebenherZeigen(Formular& Form) {
 void Hauptfenster::FüllendZeigen(Formular& Form) {
   if (Grundblatt == nullptr) {
     Grundblatt = new FormularAnsicht(Form);
+    Grundblatt->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
     Grundrolle = Rollend(*Grundblatt, Flaeche);
+    Grundrolle->setAlignment(Qt::AlignCenter);
     Grundrolle->setGeometry(Flaeche->rect());
     Grundblatt->BeiGeschlossen = [this] {
       Grundblatt = nullptr;

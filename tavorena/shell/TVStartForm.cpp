@@ -14,7 +14,6 @@ namespace {
 constexpr double LangerBlick = 1;  // [s]
 constexpr const char* Rahmen = "Zuletzt benutzt";
 constexpr const char* Gruß = "Willkommen";
-constexpr int SpalteStand = 4;
 
 TVKernMDIForm& Kern() { return TVKernMDIForm::Fenster(); }
 
@@ -38,24 +37,20 @@ TVStartForm& Startseite() {
 TVStartForm::TVStartForm()
     : Formular("TVStartForm"),
       Liste(GitterAnlegen("StartGitter",
-                          {{"", 2},
+                          {{"Nr.", 4},
                            {"Datei", 26, false, false},
                            {"Ordner", 48, false, false},
                            {"zuletzt offen", 13},
-                           {"", 18, false, false}},
+                           {"Stand", 18, false, false}},
                           {}, Rahmen)) {
   Titel = "Startseite";
   Hilfenummer = Startseitenhilfe;
   Liste.NurLesen = true;
   Liste.NimmtZeilen = false;
-  Liste.Auffällig = [this](int Zeile, int Spalte) {
-    const HistorieEintrag* H = EintragVon(Zeile);
-    return Spalte == SpalteStand && H != nullptr && Fehlende.contains(H->Dateiname);
-  };
   Liste.BeiDoppelklick = [this](int Zeile) { DateiÖffnen(Zeile); };
   BeschriftungAnlegen(
       "Ziffer oder Return öffnet eine Datei. Entf nimmt sie aus der Liste; auf der Platte bleibt sie.",
-      {1, 0, 2}, Rahmen);
+      {1, 0}, Rahmen);
   KnopfAnlegen(
       "StartStreichen", "Aus der &Liste nehmen", [this] { Streichen(Liste.Zeile); }, {2, 0}, Rahmen);
   BeschriftungAnlegen(
