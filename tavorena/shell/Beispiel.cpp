@@ -47,7 +47,9 @@ int BeispielKopieren(const std::string& Ordner) {
 }  // namespace
 
 void BeispielÖffnen() {
-  const std::string Ordner = UmgebungPort().Dokumentordner() + "/Tavorena-Beispiel/";
+  const std::string Dokumente = UmgebungPort().Dokumentordner();
+  if (Dokumente.empty()) return Hinweis("Der Ordner Ihrer Dokumente ist nicht bekannt.");
+  const std::string Ordner = Dokumente + "/Tavorena-Beispiel/";
   if (BeispielKopieren(Ordner) < 0 || HauptKoordinatendateiWechseln(true) < 0) return;
   HauptInitialisierung();
   HauptDateiÖffnen(Ordner + Dateien[std::size(Dateien) - 1].Kopie, Dateiformat::Kor);

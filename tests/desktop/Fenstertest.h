@@ -39,6 +39,9 @@ class Testplattform final : public PlattformQt {
   explicit Testplattform(Hauptfenster& H) : PlattformQt(H), Fenster(H) {}
   Zeitpunkt Jetzt() override { return {2003, 2, 1, 10, 15}; }
   double Zeitgeber() override { return Sekunden += 1; }
+  // Beside the program, not beside the test.
+  std::string ProgrammOrdner() override { return PlattformQt::ProgrammOrdner() + "/../tavorena/desktop"; }
+  std::string Dokumentordner() override { return Dokumente.toStdString(); }
   void EreignisseAbarbeiten() override {
     QWidget* Vorn = VordererDialog();
     if (StopDrücken) QTest::keyClick(Vorn != nullptr ? Vorn : &Fenster, Qt::Key_Escape);
@@ -49,6 +52,7 @@ class Testplattform final : public PlattformQt {
     PlattformQt::GrafikAnsehen();
   }
   bool StopDrücken = false;
+  QString Dokumente;
   std::function<void()> BeiGrafik;  // what is done while the view is looked at
 
  private:
@@ -236,6 +240,7 @@ class Fensterumgebung : public QObject {
   void init() {
     Fenster = std::make_unique<Hauptfenster>();
     Plattform = std::make_unique<Testplattform>(*Fenster);
+    Plattform->Dokumente = Pfad("Dokumente");
     PortsSetzen(PortsVon(*Plattform));
     QFile::remove(Pfad("app/Tavorena.ini"));
     Optionen = {};

@@ -495,6 +495,45 @@ class RahmenTest final : public Fensterumgebung {
     QVERIFY(!Neben->isVisible() && FokusName() == "FStatGitterFeld");
   }
 
+  // It goes with each file that opens and comes back, and what was typed ahead opens nothing.
+  void startseiteKommtUndGeht() {
+    const auto Seite = [this] { return Fenster->findChild<FormularAnsicht*>("TVStartForm"); };
+    const auto Bereit = [&] {
+      return Seite() != nullptr && Seite()->findChild<QObject*>("Tastensperre") == nullptr;
+    };
+    const auto Stand = [&] {
+      return Seite()->findChild<QTableView*>()->model()->index(0, 4).data().toString();
+    };
+    const auto Schließe = [this] {
+      Antworte(Qt::Key_N);
+      Menü("MenüDateiSchließen");
+      QTRY_COMPARE(FokusName(), QString("StartGitter"));
+    };
+    QTRY_VERIFY(Bereit() && FokusName() == "StartBeispiel");
+    Öffne();
+    QTRY_VERIFY(Seite() == nullptr);
+    Schließe();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_1);  // nobody has seen the page
+    QVERIFY(KoordinatendateiName.empty());
+    QTRY_VERIFY(Bereit());
+    QCOMPARE(Stand(), QString("5 Punkte"));
+    Fenster->resize(Fenster->size() - QSize(60, 40));
+    QTRY_COMPARE(Seite()->parentWidget()->size(), Fenster->findChild<QMdiArea*>()->size());
+    Spiele("Tab 1");  // the digits hold in the whole page
+    QTRY_VERIFY(KorAnzahl == 5 && Seite() == nullptr);
+    Schließe();
+    QTRY_VERIFY(Bereit());
+    QVERIFY(QFile::remove(Pfad("a.kor")));
+    Antworte(Qt::Key_Return, Qt::NoModifier);  // that it is gone
+    Drücke(Qt::Key_Return);
+    QTRY_COMPARE(Stand(), QString("nicht gefunden"));
+    Drücke(Qt::Key_Delete);
+    QTRY_COMPARE(FokusName(), QString("StartBeispiel"));
+    Spiele("Strg+Z Alt+V");
+    QCOMPARE(handbuch()->findChild<QTextBrowser*>()->source().fileName(), QString("viertelstunde.md"));
+    handbuch()->close();
+  }
+
   void jederEintragIstImMenue() {
     for (const Menüeintrag& E : Menübaum()) QVERIFY2(Fenster->findChild<QAction*>(E.Name) != nullptr, E.Name);
     for (const Werkzeug& W : Symbolleiste()) {

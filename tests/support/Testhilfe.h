@@ -80,7 +80,7 @@ class PlattformSkript final : public Rückfragen,
   void EreignisseAbarbeiten() override { BeiEreignissen(); }
   void Warten(double /*Sekunden*/) override { BeiEreignissen(); }
   Zeitpunkt Jetzt() override { return Uhr; }
-  double Zeitgeber() override { return Sekunden += 1; }
+  double Zeitgeber() override { return Sekunden += Weile; }
   std::unique_ptr<Leitung> LeitungÖffnen(const std::string& Gerät, const std::string& Settings) override {
     return BeiLeitung(Gerät + " " + Settings);
   }
@@ -131,6 +131,7 @@ class PlattformSkript final : public Rückfragen,
   std::vector<std::string> Ausgeführt;  ///< a program and its arguments
   int Laufergebnis = 0;                 ///< its exit status
   std::vector<std::string> Gedruckt;    ///< title, proposed name, the lines
+  double Weile = 1;                     ///< by which Zeitgeber advances [s]
   Zeitpunkt Uhr{2003, 2, 1, 10, 15};
   bool Hält = false;
   int Breite = 0, Hoehe = 0;  // of the main window in pixels
