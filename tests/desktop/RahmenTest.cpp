@@ -534,6 +534,37 @@ class RahmenTest final : public Fensterumgebung {
     handbuch()->close();
   }
 
+  // The lesson as its page prints it: the keys are played, and what they write is what the page shows.
+  void viertelstundeWieGedruckt() {
+    const QString Seite = TAVORENA_TESTS "/../docs/handbuch/viertelstunde.md";
+    const QString Auftrag = Pfad("Dokumente/Tavorena-Beispiel/"), Text = QString::fromUtf8(Inhalt(Seite));
+    static const QRegularExpression Kasten("```(tasten|ausgabe)\n(.*?)```",
+                                           QRegularExpression::DotMatchesEverythingOption);
+    QVERIFY(QDir(Auftrag).removeRecursively());
+    QTRY_COMPARE(FokusName(), QString("StartBeispiel"));
+    int Verglichen = 0;
+    for (const auto& K : Kasten.globalMatch(Text)) {
+      if (K.captured(1) == "tasten") {
+        Spiele(K.captured(2));
+        continue;
+      }
+      QString Protokoll = QString::fromUtf8(Inhalt(Auftrag + "musterdorf.dru"));
+      Protokoll.remove(QRegularExpression("^\\s*\n|[ \r]+(?=\n)|\\s+$"));
+      const QString Gezeigt =
+          QString("|/home/ute/Dokumente/Tavorena-Beispiel/musterdorf.kor").leftJustified(71);
+      Protokoll.replace(QRegularExpression("[|]\\S*/Tavorena-Beispiel/musterdorf.kor *(?=[|])"), Gezeigt);
+      Protokoll += '\n';
+      if (qEnvironmentVariableIsSet("TAVORENA_SOLL_NEU"))
+        Schreibe(Seite, QString(Text).replace(K.capturedStart(2), K.capturedLength(2), Protokoll).toUtf8());
+      QCOMPARE(K.captured(2), Protokoll);
+      ++Verglichen;
+    }
+    QVERIFY(Verglichen == 1 && !BlätterOffen());
+    // What was replayed is what was typed; the example's own batch file stays as it came.
+    QCOMPARE(Inhalt(Auftrag + "musterdorf.dru").count("WS="), 2);
+    QCOMPARE(Inhalt(Auftrag + "beispiel.sta"), Inhalt(TAVORENA_TESTS "/../examples/musterdorf.sta"));
+  }
+
   void jederEintragIstImMenue() {
     for (const Menüeintrag& E : Menübaum()) QVERIFY2(Fenster->findChild<QAction*>(E.Name) != nullptr, E.Name);
     for (const Werkzeug& W : Symbolleiste()) {
