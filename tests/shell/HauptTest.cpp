@@ -600,7 +600,7 @@ TEST(Menübaum, IstGeschlossen) {
   EXPECT_EQ(Symbolleiste().size(), 26U);
   for (const Werkzeug& W : Symbolleiste())
     EXPECT_TRUE(*W.Eintrag == '\0' || MenüFinden(W.Eintrag) != nullptr) << W.Name;
-  EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüKatasterOrtho")), 4000);
+  EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüKatasterOrtho")), 4140);
   EXPECT_EQ(TVKernMDIForm::Fenster().Hilfe(*MenüFinden("MenüAnsichtQuasi")), 3010);  // as the form has it
 }
 
