@@ -155,8 +155,8 @@ class Tastenspieler final : public QObject {
   // One that a letter pressed acts when it comes up again.
   static bool KnopfUnten() {
     for (const QWidget* W : QApplication::allWidgets()) {
-      const auto* Knopf = qobject_cast<const QPushButton*>(W);
-      if (Knopf != nullptr && Knopf->isDown()) return true;
+      const auto* Knopf = qobject_cast<const QAbstractButton*>(W);  // tool buttons may stay down
+      if (Knopf != nullptr && Knopf->isDown() && qobject_cast<const QToolButton*>(W) == nullptr) return true;
     }
     return false;
   }
