@@ -14,7 +14,8 @@ std::string TheoStandarddatei() {
     if (Ordner.empty()) Ordner = Umgebungswert(Name);
   }
   if (Ordner.empty()) Ordner = Startordner();
-  return Systempfad(PfadVerbinden(Ordner.empty() ? "c:\\" : Ordner, "\\tvtheo.gsi")).string();
+  const std::string Name = PfadVerbinden(Ordner.empty() ? "c:\\" : Ordner, "\\tvtheo.gsi");
+  return Systempfad(Name).lexically_normal().string();
 }
 
 std::string TheoGerät(int Port) {
