@@ -120,10 +120,11 @@ void UmgebungFestlegen(const QString& Ordner) {
                                    {"QT_SCALE_FACTOR", "1"},
                                    {"QT_FONT_DPI", "96"},
                                    {"FONTCONFIG_FILE", Ordner + "/fonts.conf"},
+                                   {"CUPS_SERVER", "/dev/null"},
                                    {"TAVORENA_ORDNER", Ordner + "/app"},
                                    {"QT_QPA_PLATFORM", "offscreen:configfile=" + Ordner + "/schirm.json"}})
     qputenv(Name, Wert.toUtf8());
-  for (const char* Name : {"temp", "tmp"}) qunsetenv(Name);  // the program would propose it
+  for (const char* Name : {"temp", "TEMP", "tmp", "TMP"}) qunsetenv(Name);  // the program proposes it
 }
 
 // The folder that pictures show, with the files of the examples and of this folder as copies; one picture at
@@ -163,7 +164,15 @@ class Auftragsordner {
 QPixmap Übereinander(QWidget& Haupt) {
   QPixmap Bild = Haupt.grab();
   QPainter Maler(&Bild);
-  for (QWidget* W : QApplication::topLevelWidgets()) {
+  // Whatever belongs to another one stands before it.
+  const auto Tiefe = [](const QWidget* W) {
+    int Stufen = 0;
+    for (; W->parentWidget() != nullptr; W = W->parentWidget()) ++Stufen;
+    return Stufen;
+  };
+  QWidgetList Davor = QApplication::topLevelWidgets();
+  std::sort(Davor.begin(), Davor.end(), [&](auto* A, auto* B) { return Tiefe(A) < Tiefe(B); });
+  for (QWidget* W : Davor) {
     if (W == &Haupt || !W->isVisible()) continue;
     const QRect Platz(Haupt.mapFromGlobal(W->pos()), W->size());
     Maler.drawPixmap(Platz.topLeft(), W->grab());

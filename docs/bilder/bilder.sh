@@ -25,6 +25,7 @@ machen() {
     timeout 120 "$programm" "$1" "$2" 2>"$2.txt" || { grep "^$1:" "$2.txt" || tail -3 "$2.txt"; return 1; }
     rm -f "$2.txt"
   fi
+  mogrify +dither -colors 200 -strip -define png:compression-level=9 -define png:format=png8 "$2"
 }
 
 # Nothing but the shade of a few edges may differ: a digit has more pixels than that.
@@ -42,7 +43,7 @@ for name; do
   machen "$name" "$ist" || { melden "$name: nicht gemacht"; continue; }
   gleich "$soll" "$ist" && continue
   if [ "$neu" ]; then
-    convert "$ist" +dither -colors 200 -strip -define png:compression-level=9 "png8:$soll"
+    cp "$ist" "$soll"
     echo "$name: neu"
   elif [ -f "$soll" ]; then
     melden "$name: anders ($anders), siehe $ist"
