@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # ./test.sh           g++ with sanitizers, all tests, the library from a foreign program and from Python
-# ./test.sh --streng  the formatting before, clang with clang-tidy, the build without Qt and the reference after
+# ./test.sh --streng  the formatting before, clang with clang-tidy, the pictures, the build without Qt and the reference after
 # ./test.sh --windows the layers below the window for Windows, cross-built, with their tests under wine64
 # Warnings are errors. Safe to repeat; only what changed is built again.
 set -euo pipefail
@@ -69,6 +69,9 @@ if [ "$streng" ]; then
   schritt "clang, clang-tidy"
   cmake --preset clang >/dev/null
   cmake --build build/clang
+
+  schritt "Bilder des Handbuchs"
+  BAU=build/clang docs/bilder/bilder.sh
 
   schritt "noch einmal gebaut, dieselben Bytes"
   tests/paket/gleich.sh clang
