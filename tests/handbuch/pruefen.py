@@ -41,6 +41,9 @@ def verweise(alle):
                 fehler.append(f"{name}:{zeile}: {ziel} gibt es nicht")
     for bild in sorted({f"bilder/{b.name}" for b in (ORDNER / "bilder").iterdir()} - bilder):
         fehler.append(f"{bild}: keine Seite zeigt es")
+    for name, seite in alle.items():
+        texte = [s.text for s in seite.stellen if s.stufe or s.kopf in ("Meldung", "Anzeige")]
+        fehler.extend(f"{name}: {t} steht zweimal da" for t in sorted(set(texte)) if texte.count(t) > 1)
     genannt = {ziel for _, _, ziel in alle[ERSTE].verweise()} | {ERSTE}
     fehler.extend(f"{name}: fehlt im Inhalt von {ERSTE}" for name in alle if name not in genannt)
 

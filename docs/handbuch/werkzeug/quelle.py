@@ -17,9 +17,9 @@ VERZEICHNIS = "verzeichnis.md"
 @cache
 def klartext(markdown):
     """The text of a line as a reader sees it."""
-    text = re.sub(r"!?\[([^\]]*)\]\([^)]*\)", r"\1", markdown)
-    text = re.sub(r"(?<!\\)[*`]+", lambda m: "" if m[0] in ("*", "**", "`") else m[0], text)
-    return re.sub(r"\\(.)", r"\1", text).strip()
+    teile = re.split(r"`([^`]*)`", re.sub(r"!?\[([^\]]*)\]\([^)]*\)", r"\1", markdown))
+    teile[::2] = (re.sub(r"\\(.)|\*", lambda m: m[1] or "", t) for t in teile[::2])
+    return "".join(teile).strip()
 
 
 def ankername(text):
