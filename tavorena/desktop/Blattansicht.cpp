@@ -21,6 +21,8 @@ constexpr double LesbarerZoom = 1, BreitesterZoom = 1.5;  // of a text at the be
 
 Blattansicht::Blattansicht(const Druckquelle& Zeigt) : Quelle(Zeigt) {
   setObjectName("Seitenbild");
+  setAccessibleName("Seiten");
+  setAccessibleDescription("Die Seiten, wie sie gedruckt werden: Bild auf und Bild ab blättern");
   setFocusPolicy(Qt::StrongFocus);
   setMinimumSize(360, 300);
   for (QScrollBar* Balken : {horizontalScrollBar(), verticalScrollBar()}) Balken->setSingleStep(40);

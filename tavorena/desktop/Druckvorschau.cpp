@@ -82,7 +82,13 @@ void Druckvorschau::FelderAnlegen() {
     Reihen->addRow(Beschriftung, Neben);
   };
   Reihe("&Seite:", Blatt, {Anzahl});
-  Reihe("Seiten &von:", Von, {new QLabel("bis:"), Bis});
+  auto* Bistext = new QLabel("bis:");
+  Bistext->setBuddy(Bis);
+  Reihe("Seiten &von:", Von, {Bistext, Bis});
+  Blatt->setAccessibleName("Seite");
+  Von->setAccessibleName("Seiten von");
+  Bis->setAccessibleName("Seiten bis");
+  Druckerliste->setAccessibleName("Drucker");
   Druckerliste->addItems(QPrinterInfo::availablePrinterNames());
   Druckerliste->setPlaceholderText("keiner eingerichtet");
   Druckerliste->setEnabled(Druckerliste->count() > 0);

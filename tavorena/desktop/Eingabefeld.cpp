@@ -1,7 +1,9 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyle>
 
+#include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
 
 namespace tavorena {
@@ -15,8 +17,12 @@ void Eingabefeld::TextZeigen(const QString& Ganz, bool Kürzen) {
   if (text() != Kurz) setText(Kurz);
 }
 
+QString Eingabefeld::Gekürztes() const {
+  return text() != toolTip() && text().endsWith(u'…') ? toolTip() : QString();
+}
+
 QString Eingabefeld::Auswahltext() const {
-  return hasSelectedText() && text() != toolTip() && text().endsWith(u'…') ? toolTip() : selectedText();
+  return hasSelectedText() && !Gekürztes().isEmpty() ? Gekürztes() : selectedText();
 }
 
 void Eingabefeld::ErgebnisZeigen(bool An) {
@@ -36,6 +42,19 @@ void Eingabefeld::FehlerhaftZeigen(bool An) {
 void Eingabefeld::NeuAnziehen() {
   style()->unpolish(this);
   style()->polish(this);
+}
+
+// The sign says what the colour says; it stands where the text ends last.
+void Eingabefeld::paintEvent(QPaintEvent* Ereignis) {
+  QLineEdit::paintEvent(Ereignis);
+  if (!property("fehlerhaft").toBool()) return;
+  QPainter Maler(this);
+  QFont Fett = font();
+  Fett.setBold(true);
+  Maler.setFont(Fett);
+  Maler.setPen(Warnfarbe());
+  const auto Seite = alignment().testFlag(Qt::AlignRight) ? Qt::AlignLeft : Qt::AlignRight;
+  Maler.drawText(rect().adjusted(3, 0, -3, 0), Seite | Qt::AlignVCenter, "!");
 }
 
 void Eingabefeld::keyPressEvent(QKeyEvent* Ereignis) {

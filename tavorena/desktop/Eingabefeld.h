@@ -19,13 +19,16 @@ class Eingabefeld final : public QLineEdit {
   void TextZeigen(const QString& Ganz, bool Kürzen);
   /// The marked text; the whole one of a result that is shown in part.
   [[nodiscard]] QString Auswahltext() const;
+  /// The whole of a result that is shown in part; else empty.
+  [[nodiscard]] QString Gekürztes() const;
 
   /// A result: shown flat, never typed into.
   void ErgebnisZeigen(bool An);
-  /// The value failed or exceeds its limit.
+  /// The value failed or exceeds its limit: shown by colour and a sign.
   void FehlerhaftZeigen(bool An);
 
  protected:
+  void paintEvent(QPaintEvent* Ereignis) override;
   void keyPressEvent(QKeyEvent* Ereignis) override;
   void focusInEvent(QFocusEvent* Ereignis) override;
   void focusOutEvent(QFocusEvent* Ereignis) override;

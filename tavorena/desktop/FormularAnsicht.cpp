@@ -23,6 +23,8 @@
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Gitteransicht.h>
+#include <tavorena/desktop/Vorlesen.h>
+#include <tavorena/forms/Bezeichnung.h>
 #include <tavorena/graphics/Abgriff.h>
 #include <tavorena/shell/TVKernMDIForm.h>
 
@@ -96,12 +98,36 @@ void FormularAnsicht::Aufbauen() {
     B.Widget->setSizePolicy(Regel);
     Einsetzen(*S, B.Widget);
   }
+  ListenNennen();
   for (const auto& [Titel, Platz] : Rahmen) Platz->setColumnStretch(Platz->columnCount(), 1);
   auto* Unten = new QHBoxLayout;
   Unten->addStretch(1);
   Unten->addLayout(Knöpfe);
   Kästen->addLayout(Unten);
   for (const auto& S : Modell->Steuerelemente()) SteuerelementGeändert(*S);
+  NamenSetzen();
+}
+
+// A screen reader takes the name of a list from the label that belongs to it.
+void FormularAnsicht::ListenNennen() {
+  const auto& Alle = Modell->Steuerelemente();
+  for (const auto& S : Alle) {
+    if (qobject_cast<QComboBox*>(Bilder.at(S.get()).Widget) == nullptr) continue;
+    const auto Davor = std::find_if(Alle.begin(), Alle.end(), [&](const auto& T) {
+      return dynamic_cast<Beschriftung*>(T.get()) != nullptr && T->Rahmen == S->Rahmen &&
+             T->Ort.Zeile == S->Ort.Zeile && T->Ort.Spalte + T->Ort.Breite == S->Ort.Spalte;
+    });
+    if (Davor != Alle.end())
+      qobject_cast<QLabel*>(Bilder.at(Davor->get()).Widget)->setBuddy(Bilder.at(S.get()).Widget);
+  }
+}
+
+// What a screen reader calls the controls: it follows the labels and captions.
+void FormularAnsicht::NamenSetzen() {
+  for (const auto& [S, Name] : Bezeichnungen(*Modell)) {
+    QWidget* W = Bilder.at(S).Widget;
+    if (const QString Neu = Q(Name); W->accessibleName() != Neu) W->setAccessibleName(Neu);
+  }
 }
 
 void FormularAnsicht::Einsetzen(const Steuerelement& S, QWidget* W) {
@@ -156,7 +182,7 @@ FormularAnsicht::Bild FormularAnsicht::BeschriftungErzeugen(Beschriftung& B) {
 FormularAnsicht::Bild FormularAnsicht::FeldErzeugen(Feld& F) {
   auto* Zeile = new Eingabefeld(this);
   Zeile->setFont(Zahlenschrift());
-  Zeile->setFixedWidth(Zeichenbreite(Zeile->font(), F.Zeichen) + 16);
+  Zeile->setFixedWidth(Zeichenbreite(Zeile->font(), F.Zeichen + 1) + 8);  // with the sign of a failed value
   Zeile->setAlignment(F.Rechtsbündig ? Qt::AlignRight : Qt::AlignLeft);
   FeldAnschließen(*Zeile, F);
   return {Zeile, [&F, Zeile] {
@@ -209,7 +235,8 @@ FormularAnsicht::Bild FormularAnsicht::KnopfErzeugen(Knopf& K) {
   KlickOhneFokus(*Druck);
   Druck->setAutoDefault(false);
   Druck->setDefault(K.Vorgabe);
-  if (K.Text == "...") Druck->setFixedWidth(32);
+  if (K.Text == "...")
+    Druck->setFixedWidth(std::max(32, Druck->fontMetrics().horizontalAdvance(" ... ") + 12));
   connect(Druck, &QPushButton::clicked, this, [this, &K] {
     if (Modell == nullptr) return;
     Modell->Klicken(K);
@@ -472,6 +499,11 @@ void FormularAnsicht::SteuerelementGeändert(Steuerelement& S) {
   const Bild& B = Bilder.at(&S);
   B.Widget->setVisible(S.Sichtbar);
   B.Zeigen();
+  const auto* Zeile = dynamic_cast<const Eingabefeld*>(B.Widget);
+  BeschreibungSetzen(*B.Widget, S, Zeile != nullptr ? Zeile->Gekürztes() : QString());
+  const bool Benennt =
+      dynamic_cast<const Beschriftung*>(&S) != nullptr || dynamic_cast<const Knopf*>(&S) != nullptr;
+  if (Benennt && isVisible()) NamenSetzen();
   RahmenZeigen(S.Rahmen);
 }
 
@@ -480,7 +512,10 @@ void FormularAnsicht::GitterGeändert(Gitter& G, const Gitteränderung& Was) {
   Tabelle(G).Übernehmen(Was);
 }
 
-void FormularAnsicht::TitelGeändert() { setWindowTitle(Q(Modell->Titel)); }
+void FormularAnsicht::TitelGeändert() {
+  setWindowTitle(Q(Modell->Titel));
+  setAccessibleName(windowTitle());
+}
 
 // A frame whose controls are all hidden is hidden as well.
 void FormularAnsicht::RahmenZeigen(const std::string& Titel) {

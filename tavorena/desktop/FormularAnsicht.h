@@ -61,6 +61,8 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   };
 
   void Aufbauen();
+  void ListenNennen();
+  void NamenSetzen();
   void Einsetzen(const Steuerelement& S, QWidget* W);
   QGridLayout* Rahmenplatz(const std::string& Titel);
   Bild Erzeugen(Steuerelement& S);

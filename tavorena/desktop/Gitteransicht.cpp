@@ -8,10 +8,12 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScrollArea>
+#include <QStyledItemDelegate>
 
 #include <tavorena/desktop/Aussehen.h>
 #include <tavorena/desktop/Eingabefeld.h>
 #include <tavorena/desktop/Gitteransicht.h>
+#include <tavorena/desktop/Vorlesen.h>
 
 namespace tavorena {
 namespace {
@@ -41,12 +43,13 @@ class Gittermodell final : public QAbstractTableModel {
     if (Rolle == Qt::TextAlignmentRole) return Bündig(Zelle.column());
     if (Rolle == Qt::ToolTipRole) return Gekürztes(Zelle);
     if (Rolle == Qt::BackgroundRole && ZeigtZeile(*Daten)) return Zeilenfarbe(Zelle.row());
-    if (Rolle == Qt::ForegroundRole && Daten->Auffällig && Daten->Auffällig(Zelle.row(), Zelle.column()))
-      return QBrush(Warnfarbe());
+    if (Rolle == Qt::ForegroundRole && IstAuffällig(Zelle)) return QBrush(Warnfarbe());
+    if (Rolle == Qt::AccessibleDescriptionRole) return Gesprochenes(Zelle);
     return {};
   }
   [[nodiscard]] QVariant headerData(int Spalte, Qt::Orientation Richtung, int Rolle) const override {
-    if (Daten == nullptr || Richtung != Qt::Horizontal) return {};
+    if (Daten == nullptr) return {};
+    if (Richtung == Qt::Vertical) return Rolle == Qt::DisplayRole ? QVariant(Spalte + 1) : QVariant();
     if (Rolle == Qt::DisplayRole)
       return QString::fromStdString(Daten->Spalten[static_cast<std::size_t>(Spalte)].Titel);
     if (Rolle == Qt::TextAlignmentRole) return Bündig(Spalte);
@@ -54,6 +57,18 @@ class Gittermodell final : public QAbstractTableModel {
   }
 
   void Lösen() { Daten = nullptr; }
+
+  // A figure that passes its limit.
+  [[nodiscard]] bool IstAuffällig(const QModelIndex& Zelle) const {
+    return Daten != nullptr && Daten->Auffällig && Zelle.row() < Daten->Zeilen() &&
+           Daten->Auffällig(Zelle.row(), Zelle.column());
+  }
+  // Column and row as they are read aloud, and what the cell shows by its colour.
+  [[nodiscard]] QString Gesprochenes(const QModelIndex& Zelle) const {
+    const QString Titel = headerData(Zelle.column(), Qt::Horizontal, Qt::DisplayRole).toString();
+    const QString Ort = QString("%1, Zeile %2").arg(Titel).arg(Zelle.row() + 1);
+    return IstAuffällig(Zelle) ? Ort + ", " + Auffälliges : Ort;
+  }
 
   // Rows come and go at the end; of those that stay the changed ones are told.
   void Übernehmen(const Gitteränderung& Was) {
@@ -82,7 +97,7 @@ class Gittermodell final : public QAbstractTableModel {
     const bool Aktuell = Zeile == Daten->Zeile;
     if (!Aktuell && !Daten->Markiert(Zeile)) return {};
     QColor Farbe = Ansicht->palette().color(QPalette::Highlight);
-    Farbe.setAlpha(Aktuell ? 120 : 50);
+    Farbe.setAlpha(Aktuell ? 50 : 25);
     return QBrush(Farbe);
   }
 
@@ -99,9 +114,23 @@ class Gittermodell final : public QAbstractTableModel {
   int Zeilen = 0;
 };
 
+/// Draws the cells: a figure that passes its limit has a sign besides its colour.
+class Zellmaler final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* Wie, const QModelIndex& Zelle) const override {
+    QStyledItemDelegate::initStyleOption(Wie, Zelle);
+    const auto* Zellen = static_cast<const Gittermodell*>(Zelle.model());
+    if (!Wie->text.isEmpty() && Zellen->IstAuffällig(Zelle)) Wie->text.prepend('!');
+  }
+};
+
 Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
     : QTableView(Eltern), Daten(Zeigt), Modell(new Gittermodell(Zeigt, this)), Zellfeld(Feld) {
   setModel(Modell);
+  setItemDelegate(new Zellmaler(this));
   setFont(Zahlenschrift());
   setEditTriggers(NoEditTriggers);
   setSelectionMode(Daten.Markenspalte >= 0 ? NoSelection : ContiguousSelection);
@@ -114,7 +143,7 @@ Gitteransicht::Gitteransicht(Gitter& Zeigt, Eingabefeld* Feld, QWidget* Eltern)
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   for (int s = 0; s < Modell->columnCount(); ++s) {
-    setColumnWidth(s, Zeichenbreite(font(), Daten.Spalten[static_cast<std::size_t>(s)].Zeichen) + Zellrand);
+    setColumnWidth(s, Spaltenbreite(Daten.Spalten[static_cast<std::size_t>(s)]));
   }
   Zellfeld->setParent(viewport());
   Zellfeld->setFont(font());
@@ -168,7 +197,8 @@ void Gitteransicht::FeldSetzen() {
     Feldzelle = QModelIndex();
     Zellfeld->hide();
     const QModelIndex Zelle = Modell->index(Daten.Zeile, Daten.Spalte);
-    if (Daten.NurLesen) selectionModel()->setCurrentIndex(Zelle, QItemSelectionModel::NoUpdate);
+    if (Daten.NurLesen || Daten.Markenspalte >= 0)
+      selectionModel()->setCurrentIndex(Zelle, QItemSelectionModel::NoUpdate);
     if (Daten.NurLesen) ZelleZeigen(Zelle);
     return;
   }
@@ -177,9 +207,11 @@ void Gitteransicht::FeldSetzen() {
   if (Zellfeld->text() != Text) Zellfeld->setText(Text);
   if (Zelle != Feldzelle) {
     Feldzelle = Zelle;
+    Zellfeld->setAccessibleName(Modell->Gesprochenes(Zelle));
     if (Zellfeld->hasFocus()) Zellfeld->selectAll();
   }
   Zellfeld->FehlerhaftZeigen(Daten.Fehlerhaft);
+  BeschreibungSetzen(*Zellfeld, Daten);
   FeldZeigen();
   Zellfeld->show();
 }
@@ -227,16 +259,24 @@ void Gitteransicht::FeldRücken() {
   if (Feldzelle.isValid()) Zellfeld->setGeometry(visualRect(Feldzelle));
 }
 
+// Wide enough for its texts, with the sign of those that pass a limit, and for its heading.
+int Gitteransicht::Spaltenbreite(const Gitterspalte& S) const {
+  const int Zeichen = S.Zeichen + (Daten.Auffällig && !S.Eingabe ? 1 : 0);
+  const int Titel = horizontalHeader()->fontMetrics().horizontalAdvance(QString::fromStdString(S.Titel));
+  return std::max(Zeichenbreite(font(), Zeichen), Titel) + Zellrand;
+}
+
 QList<int> Gitteransicht::Breiten() const {
   QList<int> Alle;
   for (int s = 0; s < Modell->columnCount(); ++s) Alle << (isColumnHidden(s) ? 0 : columnWidth(s));
-  return Alle;
+  return Alle << Zeichenbreite(font(), 100);
 }
 
 void Gitteransicht::BreitenSetzen(const QList<int>& Neue) {
-  if (Neue.size() != Modell->columnCount()) return;
+  if (Neue.size() != Modell->columnCount() + 1 || Neue.last() <= 0) return;
+  const double Maß = static_cast<double>(Zeichenbreite(font(), 100)) / Neue.last();
   for (int s = 0; s < Modell->columnCount(); ++s) {
-    if (Neue[s] > 0) setColumnWidth(s, Neue[s]);
+    if (Neue[s] > 0) setColumnWidth(s, qRound(Neue[s] * Maß));
   }
 }
 
@@ -311,8 +351,7 @@ void Gitteransicht::focusInEvent(QFocusEvent* Ereignis) {
 
 QSize Gitteransicht::sizeHint() const {
   int Breite = 2 * frameWidth() + 24;
-  for (const Gitterspalte& S : Daten.Spalten)
-    Breite += S.Sichtbar ? Zeichenbreite(font(), S.Zeichen) + Zellrand : 0;
+  for (const Gitterspalte& S : Daten.Spalten) Breite += S.Sichtbar ? Spaltenbreite(S) : 0;
   // A short list of given rows is seen as a whole.
   const bool Fest = !Daten.NimmtZeilen && !Daten.Quelle;
   const int Zeilen = Fest ? std::clamp(Daten.Zeilen(), 7, 16) : 7;

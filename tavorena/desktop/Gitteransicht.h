@@ -26,7 +26,8 @@ class Gitteransicht final : public QTableView {
   /// The row that a key leads to, up to the first or the last one with Ganz; Home and End lead to the first
   /// and the last one that is seen. @return -1: no such key
   [[nodiscard]] int Zielzeile(Qt::Key Taste, bool Ganz) const;
-  /// Widths of the columns [pixels]; those of another number of columns are not taken.
+  /// Widths of the columns [pixels], and behind them that of 100 characters: in letters of another size they
+  /// follow. Those of another number of columns are not taken.
   [[nodiscard]] QList<int> Breiten() const;
   void BreitenSetzen(const QList<int>& Neue);
   /// Marks one more row above or below the current one, for copying.
@@ -51,6 +52,7 @@ class Gitteransicht final : public QTableView {
 
  private:
   void SpaltenZeigen();
+  [[nodiscard]] int Spaltenbreite(const Gitterspalte& S) const;
   void ZeilenMarkieren(int Von, int Bis);
   [[nodiscard]] QString Zeilentext(int Zeile, int Von, int Bis) const;
   void FeldSetzen();

@@ -63,6 +63,10 @@ void BalkenSetzen(QScrollBar& Balken, double Von, double Bis, double Fenster, do
 
 GrafikBild::GrafikBild(QWidget* Eltern) : QWidget(Eltern) {
   setObjectName("GrafBild");
+  setAccessibleName("Grafik");
+  setAccessibleDescription(
+      "Zeichnung der Punkte: Pfeile verschieben, Plus und Minus ändern den Maßstab, Pos1 zeigt alles, F6 "
+      "führt zurück");
   setMouseTracking(true);
   setFocusPolicy(Qt::NoFocus);
   setMinimumSize(120, 120);
@@ -281,6 +285,7 @@ QAction* GrafikAnsicht::Befehl(QToolBar& In, const char* Name, const char* Text,
   A->setObjectName(Name);
   A->setIconText(Zeichen);
   A->setToolTip(QString(Text).remove('&'));
+  In.widgetForAction(A)->setAccessibleName(A->toolTip());  // on the button stands a sign
   connect(A, &QAction::triggered, &In, [Name, Tun = std::move(Tun)] {
     static_cast<void>(Geschützt(std::string("TVKernGrafikform.") + Name, Tun));  // the message is the answer
   });

@@ -65,6 +65,7 @@ class Seitenansicht final : public QTextBrowser {
  public:
   Seitenansicht() {
     setObjectName("Handbuchseite");
+    setAccessibleName("Seite des Handbuchs");
     setSearchPaths({":/handbuch"});
     setOpenExternalLinks(false);
     document()->setDocumentMargin(Rand);
@@ -122,8 +123,10 @@ class Handbuchfenster final : public QWidget {
     resize(QSize(1000, 720).boundedTo(screen()->availableSize() - QSize(20, 60)));  // with its frame
     Suche->setObjectName("Handbuchsuche");
     Suche->setPlaceholderText("Suchen in allen Seiten");
+    Suche->setAccessibleName(Suche->placeholderText());
     Suche->setClearButtonEnabled(true);
     Liste->setObjectName("Handbuchinhalt");
+    Liste->setAccessibleName("Seiten, in denen alle gesuchten Worte stehen");
     auto* Leiste = new QToolBar;
     LeisteBauen(*Leiste);
     auto* Links = new QWidget;

@@ -94,6 +94,7 @@ class TVFreiForm final : public Dialogform {
       if (Zeichen == Wahl.Trenner) Gewählt = Name;
     }
     Trenner = &ListeAnlegen("FreiTrenner", Namen, Gewählt, {0, 1}, RahmenTrennung);
+    Trenner->Bezeichnung = "Art des Trennzeichens";
     InSpalten = &OptionAnlegen("FreiSpalten", "S&palten", {0, 2}, RahmenTrennung);
     MitTrenner->Gewählt = !Wahl.InSpalten;
     InSpalten->Gewählt = Wahl.InSpalten;

@@ -37,8 +37,9 @@ struct Steuerelement {
   Steuerelement(const Steuerelement&) = delete;
   Steuerelement& operator=(const Steuerelement&) = delete;
 
-  std::string Name;    ///< name in the code; a control of an array bears its index, "OptProtokoll(0)"
-  std::string Rahmen;  ///< caption of the frame around it
+  std::string Name;         ///< name in the code; a control of an array bears its index, "OptProtokoll(0)"
+  std::string Rahmen;       ///< caption of the frame around it
+  std::string Bezeichnung;  ///< how it is read aloud, where caption, label and heading do not say it
   Platz Ort;
   int Zeichen = 12;           ///< width in characters
   std::string Hilfe;          ///< text for the status bar

@@ -171,6 +171,7 @@ class Listenform final : public Dialogform {
       : Dialogform("TVAuswahlform", FormTitel) {
     Auswahl& A = ListeAnlegen("Liste", Einträge, Einträge.empty() ? "" : Einträge.front(), {0, 0});
     A.Zeichen = 40;
+    A.Bezeichnung = FormTitel;
     OkUndAbbruch([this, &A] {
       const auto i = std::find(A.Einträge.begin(), A.Einträge.end(), *A.Text);
       Fertig(i != A.Einträge.end() ? static_cast<int>(i - A.Einträge.begin()) : -1);

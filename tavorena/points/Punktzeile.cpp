@@ -6,6 +6,7 @@
 
 #include <tavorena/core/Optionen.h>
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/forms/Bezeichnung.h>
 #include <tavorena/points/Punktzeile.h>
 
 namespace tavorena {
@@ -17,6 +18,8 @@ std::size_t Schlüssel(const KorSatz& P) {
 }
 
 // Width of a field with so many integer places, the sign included [characters].
+constexpr const char* Spaltentitel[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
+
 int Breite(int Vorkomma) { return Vorkomma + 1 + Optionen.OptNachkommastellen; }
 
 }  // namespace
@@ -35,6 +38,11 @@ Punktzeile::Punktzeile(Formular& Form, const std::string& Name, const std::strin
       Sym(Form.ErgebnisfeldAnlegen(Name + Symbolname + Index, {Ort.Zeile, Ort.Spalte + 4}, Rahmen, 5)) {
   Pnr.IstPnr = true;
   Sym.Rechtsbündig = false;
+  if (Rahmen.empty() || !Index.empty()) return;
+  // The only row of its frame, which may have no headings.
+  Feld* const Felder[] = {&Pnr, &Rechts, &Hoch, &Hoehe, &Sym};
+  for (std::size_t i = 0; i < std::size(Felder); ++i)
+    Felder[i]->Bezeichnung = Gesprochen(Rahmen) + " " + Spaltentitel[i];
 }
 
 void Punktzeile::Zeigen(const Punktsatz& P) {
@@ -59,9 +67,8 @@ void Punktzeile::PlatzHalten() {
 }
 
 void PunktzeileKopf(Formular& Form, Platz Ort, const std::string& Rahmen) {
-  const char* const Titel[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
   for (int i = 0; i < 5; ++i)
-    Form.BeschriftungAnlegen(Titel[i], {Ort.Zeile, Ort.Spalte + i}, Rahmen).Rechtsbündig = i < 4;
+    Form.BeschriftungAnlegen(Spaltentitel[i], {Ort.Zeile, Ort.Spalte + i}, Rahmen).Rechtsbündig = i < 4;
 }
 
 void Punktsammlung::Hinzu(const std::vector<int>& Zeilen) {

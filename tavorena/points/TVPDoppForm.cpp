@@ -79,6 +79,7 @@ class TVPDoppForm final : public Dialogform {
     BeschriftungAnlegen("dS:", {4, 2});
     const double dS = AchtStellen(Strecke(0, 0, dR, dH));
     Feld& DeltaS = ErgebnisfeldAnlegen("DeltaS", {4, 3}, "", PnrZeichen);
+    DeltaS.Bezeichnung = "dS";
     DeltaS.Text = Zahlentext(dS);
     DeltaS.Fehlerhaft = dS > Grenze;
     if (FürAlleJetzt() != nullptr)

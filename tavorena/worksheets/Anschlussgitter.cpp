@@ -53,6 +53,7 @@ Anschlussgitter::Anschlussgitter(Rechenblatt& Für, bool MitHöhen, Anschlussver
     if (Zellen.Zeile < Abweichungen.Zeilen()) Abweichungen.Zeile = *Zellen.Zeile;
   };
   Zellen.Markierbar = [this](int z) { return Reihen[static_cast<std::size_t>(z)].Gilt; };
+  Abweichungen.Bezeichnung = "Abweichungen";
   Abweichungen.Hilfe =
       "vY, vX bekannt minus gerechnet, dHo gerechnet minus bekannt; hervorgehoben: die größte WL";
   Abweichungen.NurLesen = true;

@@ -61,6 +61,8 @@ FStatSchnur::FStatSchnur(TVFStatForm& Für, std::function<void()> BeiEnde)
           "FStatSchnurZurück", "Letzten zurücknehmen", [this] { Zurück(); }, {6, 2, 2}, Rahmen)),
       Beenden(Für.KnopfAnlegen(
           "FStatSchnurEnde", "Schnurgerüst beenden", [this] { FStatSchnurEnde(); }, {6, 4, 2}, Rahmen)) {
+  Jetzige.Bezeichnung = "Bezugslinie";
+  Vorige.Bezeichnung = "vorige Bezugslinie";
   Verhalten();
   Sichtbar(false);
 }

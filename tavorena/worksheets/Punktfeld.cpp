@@ -22,6 +22,10 @@ Punktfeld::Punktfeld(Rechenblatt& Blatt, const std::string& Welcher, const char*
   Pnr.Hilfe = "Punktnummer; + und - zählen weiter";
   Pnr.BeiVerlassen = [this] { return Setzen() == 0; };
   Sym.Rechtsbündig = false;
+  // The rows below the first frame have no headings.
+  const std::pair<Feld*, const char*> Spalten[] = {
+      {&Pnr, "Punktnr."}, {&Rechts, "Rechts"}, {&Hoch, "Hoch"}, {&H_he, "Höhe"}, {&Sym, "Sy."}};
+  for (const auto& [F, Spalte] : Spalten) F->Bezeichnung = std::string(Label) + " " + Spalte;
 }
 
 void Punktfeld::Leeren() {

@@ -49,7 +49,10 @@ TVAusgleichForm::TVAusgleichForm(const Blattart& BlattArt, char Modus)
   const char* const Überschriften[] = {"Rechts", "Hoch", "Punktnr.", "Sy."};
   for (int i = 0; i < 4; ++i)
     BeschriftungAnlegen(Überschriften[i], {0, i + 1}, RahmenErgebnis).Rechtsbündig = i < 3;
-  if (Kreis) Radius = &Ergebnisfeld("Radius", "Radius:", {3, 0}, RahmenErgebnis);
+  if (Kreis) {
+    Radius = &Ergebnisfeld("Radius", "Radius:", {3, 0}, RahmenErgebnis);
+    Radius->Bezeichnung = "Radius";
+  }
   if (Kreis) Radius->Zeichen = Längenbreite(8);  // below the coordinates
   ListenknöpfeAnlegen();
   AusgleichGitter.BeiTaste = [this, Nehmen = std::move(AusgleichGitter.BeiTaste)](Taste T) {

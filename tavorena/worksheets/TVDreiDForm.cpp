@@ -41,8 +41,9 @@ void TVDreiDForm::PunkteAnlegen() {
     PunktAnlegen("_", NamenVon(Wie).Punkte[i - 1], RahmenPunkte, i, true, std::to_string(i));
   PunktfeldKopf(*this, RahmenPunkte);
   if (Wie != DreiDArt::Kanalmessstab) return;
-  MaßAnlegen("Abstand", "Abstand", {Anzahl + 1, 0}, RahmenPunkte).Eingabe.Hilfe =
-      "Vom unteren Ziel zur Spitze; negativ: zurück zum oberen";
+  Feld& Abstand = MaßAnlegen("Abstand", "Abstand", {Anzahl + 1, 0}, RahmenPunkte).Eingabe;
+  Abstand.Bezeichnung = "Abstand";
+  Abstand.Hilfe = "Vom unteren Ziel zur Spitze; negativ: zurück zum oberen";
 }
 
 void TVDreiDForm::WerteAnlegen() {

@@ -43,6 +43,7 @@ TVFStatForm::TVFStatForm(const Blattart& BlattArt)
   Grundtitel = Titel;
   KopfAnlegen();
   KnopfDelete.OhnePrüfung = KnopfNeu.OhnePrüfung = KnopfTheo.OhnePrüfung = true;
+  KnopfArt.Bezeichnung = "Rechenart wechseln";
   KnopfArt.Hilfe = "Maßstab frei (Helmert) oder fest (kongruent)";
   KnopfAbw.Hilfe = "Abweichungen oder Koordinaten der Anschlußpunkte";
   KnopfZurück.Hilfe = "Standpunkt aus Tabelle und Stapeldatei nehmen, im Protokoll streichen";

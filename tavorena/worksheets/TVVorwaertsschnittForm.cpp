@@ -17,6 +17,7 @@ TVVorwaertsschnittForm::Stand::Stand(TVVorwaertsschnittForm& Blatt, const std::s
   Blatt.BeschriftungAnlegen("Richtung", {0, 7}, Rahmen).Rechtsbündig = true;
   FernRichtung.Eingabe.Hilfe = "Ablesung auf dem Fernpunkt in gon";
   NeuRichtung.Eingabe.Hilfe = "Ablesung auf dem Neupunkt in gon";
+  Vertikal.Eingabe.Bezeichnung = "Vertikalwinkel, " + std::string(Rahmen);
   Vertikal.Eingabe.Hilfe = "Zenitwinkel zum Neupunkt in gon; leer: waagerecht";
 }
 
