@@ -22,6 +22,15 @@ QFont Zahlenschrift();
 /// Width of that many characters [pixels].
 int Zeichenbreite(const QFont& Schrift, int Zeichen);
 
+inline constexpr double Lesbar = 4.5;  ///< least contrast of what is to be read
+
+/// Contrast of two colours by their relative luminance, 1 to 21, as it is measured for people with weak
+/// sight.
+double Kontrast(const QColor& A, const QColor& B);
+
+/// A colour that can be read on its ground: as it is, or as much lighter or darker as it needs.
+QColor Abgesetzt(QColor Farbe, const QColor& Grund);
+
 /// The colour of what failed or passes its limit.
 QColor Warnfarbe();
 

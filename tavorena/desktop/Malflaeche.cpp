@@ -23,14 +23,15 @@ Malfläche::Malfläche(QPainter& Mit, const QPalette& Farben)
   Maler.setRenderHint(QPainter::Antialiasing);
 }
 
-// On a dark ground black is the colour of text, and what would not stand out is lightened.
+// On a dark ground black is the colour of text, and what would not stand out is lightened. On a light one the
+// colours of files stay; ours can be read.
 QColor Malfläche::FarbeVon(int Farbe) const {
   if (Farbe == FarbeSchwarz) return Vordergrund;
   if (Farbe == Weiß) return Hintergrund;
   QColor C(Farbe & 0xFF, (Farbe >> 8) & 0xFF, (Farbe >> 16) & 0xFF);
-  if (Hintergrund.lightness() < 128)
-    C = QColor::fromHslF(C.hslHueF(), C.hslSaturationF(), std::max(C.lightnessF(), 0.65F));
-  return C;
+  const bool Dunkel = Hintergrund.lightness() < 128;
+  if (Dunkel) C = QColor::fromHslF(C.hslHueF(), C.hslSaturationF(), std::max(C.lightnessF(), 0.65F));
+  return Dunkel || Farbe == FarbeRot || Farbe == FarbeBlau ? Abgesetzt(C, Hintergrund) : C;
 }
 
 void Malfläche::StiftSetzen(int Farbe, Strich Stil) {
