@@ -11,7 +11,6 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QStatusBar>
@@ -31,6 +30,7 @@
 #include <tavorena/desktop/Handbuch.h>
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/Nebenfenster.h>
+#include <tavorena/desktop/Rollflaeche.h>
 #include <tavorena/desktop/Tastensperre.h>
 #include <tavorena/graphics/Grafikfenster.h>
 #include <tavorena/records/Stapelleser.h>
@@ -72,24 +72,11 @@ QString Schlüssel(const Formular& Form, const char* Was) {
   return QString::fromStdString(Form.Platzname) + "/" + Was;
 }
 
-// A form that scrolls where it is larger than its place; what has the focus is to be seen.
-QScrollArea* Rollend(FormularAnsicht& Ansicht, QWidget* Eltern = nullptr) {
-  auto* Rolle = new QScrollArea(Eltern);
-  Rolle->setWidget(&Ansicht);
-  Rolle->setWidgetResizable(true);
-  Rolle->setFrameShape(QFrame::NoFrame);
-  Rolle->setFocusPolicy(Qt::NoFocus);
-  QObject::connect(qApp, &QApplication::focusChanged, Rolle, [&Ansicht, Rolle](QWidget*, QWidget* Neu) {
-    if (Neu != nullptr && Ansicht.isAncestorOf(Neu)) Rolle->ensureWidgetVisible(Neu, 10, 10);
-  });
-  return Rolle;
-}
-
 /// A worksheet in the work area; closing it asks the form first.
 class Blattfenster final : public QMdiSubWindow {
  public:
   explicit Blattfenster(FormularAnsicht* Zeigt) : Ansicht(Zeigt) {
-    setWidget(Rollend(*Ansicht));
+    setWidget(new Rollfläche(Ansicht, false));
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -202,6 +189,7 @@ void Hauptfenster::SymbolleisteBauen() {
     QAction* A = Leiste->addAction(Symbol(W.Name), QString(W.Hinweis));
     A->setToolTip(W.Hinweis);
     A->setObjectName(W.Name);
+    Leiste->widgetForAction(A)->setAccessibleName(QString(W.Hinweis).trimmed());
     connect(A, &QAction::triggered, this, [&W] { Kern().WerkzeugAusführen(W); });
     connect(A, &QAction::hovered, this, [&W] { StatusHilfeSetzen(Kern().Hinweis(W)); });
     Bilder.emplace_back(&W, A);
@@ -226,6 +214,8 @@ void Hauptfenster::StatusleisteBauen() {
 void Hauptfenster::ProtokollfensterBauen() {
   Protokolltext = new QPlainTextEdit(this);
   Protokolltext->setReadOnly(true);
+  Protokolltext->setAccessibleName("Protokoll");
+  Protokolltext->setAccessibleDescription("Die zuletzt geschriebenen Zeilen des Protokolls");
   Protokolltext->setUndoRedoEnabled(false);
   Protokolltext->setLineWrapMode(QPlainTextEdit::NoWrap);
   Protokollrahmen = new QDockWidget("Protokoll", this);
@@ -414,7 +404,8 @@ void Hauptfenster::FüllendZeigen(Formular& Form) {
   if (Grundblatt == nullptr) {
     Grundblatt = new FormularAnsicht(Form);
     Grundblatt->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-    Grundrolle = Rollend(*Grundblatt, Flaeche);
+    Grundrolle = new Rollfläche(Grundblatt, false);
+    Grundrolle->setParent(Flaeche);
     Grundrolle->setAlignment(Qt::AlignCenter);
     Grundrolle->setGeometry(Flaeche->rect());
     Grundblatt->BeiGeschlossen = [this] {

@@ -1,12 +1,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMainWindow>
-#include <QScrollArea>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 
 #include <tavorena/desktop/FormularAnsicht.h>
 #include <tavorena/desktop/Nebenfenster.h>
+#include <tavorena/desktop/Rollflaeche.h>
 
 namespace tavorena {
 
@@ -15,12 +16,9 @@ Nebenfenster::Nebenfenster(Formular& Gezeigt, QMainWindow& Haupt)
   setObjectName(Ansicht->objectName() + "Fenster");
   setWindowTitle(Ansicht->windowTitle());
   setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-  auto* Rolle = new QScrollArea;  // on a small screen it scrolls
-  Rolle->setWidget(Ansicht);
-  Rolle->setWidgetResizable(true);
-  Rolle->setFrameShape(QFrame::NoFrame);
-  Rolle->setFocusPolicy(Qt::NoFocus);
-  Rolle->setMinimumSize(Ansicht->sizeHint().boundedTo(QSize(480, 320)));
+  auto* Rolle = new Rollfläche(Ansicht, false);
+  Rolle->setMinimumSize(
+      Ansicht->sizeHint().boundedTo(QSize(480, 320)).boundedTo(screen()->availableSize() / 2));
   setWidget(Rolle);
   Ansicht->BeiGeschlossen = [this] {
     if (isAncestorOf(QApplication::focusWidget()) && Vorheriger != nullptr) Vorheriger->setFocus();

@@ -38,6 +38,7 @@
 #include <tavorena/desktop/Hauptfenster.h>
 #include <tavorena/desktop/LeitungQt.h>
 #include <tavorena/desktop/PlattformQt.h>
+#include <tavorena/desktop/Rollflaeche.h>
 #include <tavorena/desktop/Tastensperre.h>
 #include <tavorena/desktop/Textdruck.h>
 #include <tavorena/graphics/Abgriff.h>
@@ -58,9 +59,10 @@ class Dialogfenster final : public QDialog {
       : QDialog(Eltern), Form(Gezeigt), Ansicht(new FormularAnsicht(Gezeigt, this)) {
     auto* Platz = new QVBoxLayout(this);
     Platz->setContentsMargins(0, 0, 0, 0);
-    Platz->addWidget(Ansicht);
+    Platz->addWidget(new Rollfläche(Ansicht, true));
     setWindowModality(Qt::WindowModal);
-    setMinimumWidth(Zeichenbreite(font(), 45));  // the title is to be read
+    // The title is to be read, where the screen has room for it.
+    setMinimumWidth(std::min(Zeichenbreite(font(), 45), screen()->availableSize().width() - 20));
     setWindowTitle(Ansicht->windowTitle());
     connect(Ansicht, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
     setObjectName(Ansicht->objectName() + "Fenster");
