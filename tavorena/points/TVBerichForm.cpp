@@ -23,7 +23,9 @@ TVBerichForm::TVBerichForm()
       AltAnzahl(BeschriftungAnlegen("", {2, 2, 3}, RahmenPunkt)),
       BerichNeuPnr((BeschriftungAnlegen("Neue Punktnr.", {2, 0}, RahmenPunkt),
                     ZahlenfeldAnlegen("BerichNeuPnr", {2, 1}, RahmenPunkt, PnrZeichen))),
-      BerichPnrvon((BeschriftungAnlegen("Von Punktnr.", {0, 0}, RahmenMehrere),
+      BerichPnrvon((KnopfAnlegen(
+                        "BerichPunkt", "&Umnumerieren", [this] { PunktBerichtigen(); }, {2, 5}, RahmenPunkt),
+                    BeschriftungAnlegen("Von Punktnr.", {0, 0}, RahmenMehrere),
                     NummernfeldAnlegen("BerichPnrvon", {0, 1}))),
       BerichPnrbis((BeschriftungAnlegen("Bis Punktnr.", {0, 2}, RahmenMehrere),
                     NummernfeldAnlegen("BerichPnrbis", {0, 3}))),
@@ -43,8 +45,6 @@ TVBerichForm::TVBerichForm()
       SelektionZeigen();
     };
   }
-  KnopfAnlegen(
-      "BerichPunkt", "&Umnumerieren", [this] { PunktBerichtigen(); }, {2, 5}, RahmenPunkt);
   KnopfAnlegen(
       "BerichSelektion", "&Punktselektion ...", [this] { SelektionWählen(); }, {0, 4}, RahmenMehrere);
   KnopfAnlegen(

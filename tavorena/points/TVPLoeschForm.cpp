@@ -28,26 +28,20 @@ TVPLoeschForm::TVPLoeschForm()
                     NummernfeldAnlegen("LoeschPnrvon", {1, 1}, RahmenPunkt))),
       LoeschPnrbis((BeschriftungAnlegen("Bis Punktnr.", {1, 2}, RahmenPunkt),
                     NummernfeldAnlegen("LoeschPnrbis", {1, 3}, RahmenPunkt))),
-      Liste(GitterAnlegen("LoeschGitter",
-                          {{"M.", 4, false, false},
-                           {"Punktnr.", PnrZeichen},
-                           {"Rechts", 14},
-                           {"Hoch", 14},
-                           {"Höhe", 10},
-                           {"Sy.", 6, false, false}},
-                          {0, 0}, RahmenListe)),
+      Liste((KnöpfeAnlegen(), GitterAnlegen("LoeschGitter",
+                                            {{"M.", 4, false, false},
+                                             {"Punktnr.", PnrZeichen},
+                                             {"Rechts", 14},
+                                             {"Hoch", 14},
+                                             {"Höhe", 10},
+                                             {"Sy.", 6, false, false}},
+                                            {0, 0}, RahmenListe))),
       Stand(BeschriftungAnlegen("", {1, 0}, RahmenListe)) {
   Titel = "Tavorena Koordinatenverwaltung (VR 25.08)";
   Hilfenummer = 4060;
   LoeschPnr.Hilfe = "Punktnummer; ein Klick in der Grafik nimmt den Punkt auf";
   LoeschPnr.BeiReturn = [this] { NummerHinzu(); };
   LoeschPnrbis.BeiReturn = [this] { BereichHinzu(); };
-  KnopfAnlegen(
-      "LoeschHinzu", "&Hinzu", [this] { NummerHinzu(); }, {0, 4}, RahmenPunkt);
-  KnopfAnlegen(
-      "LoeschBereichHinzu", "Bereich hin&zu", [this] { BereichHinzu(); }, {1, 4}, RahmenPunkt);
-  KnopfAnlegen(
-      "LoeschSelektion", "&Punktselektion ...", [this] { SelektionHinzu(); }, {0, 5}, RahmenPunkt);
   Liste.Markenspalte = 0;
   Liste.NurLesen = true;
   Liste.Hilfe = "Leertaste, Return und Klick wählen: nur Punkte mit \"*\" werden gelöscht";
@@ -63,6 +57,16 @@ TVPLoeschForm::TVPLoeschForm()
   RückgängigAnlegen("LoeschRückgängig", {0, 2});
   KnopfAnlegen("LoeschEnd", "&Schließen", [this] { SchließenVerlangen(); }, {0, 3}).OhnePrüfung = true;
   StandZeigen();
+}
+
+// What adds to the list stands before it.
+void TVPLoeschForm::KnöpfeAnlegen() {
+  KnopfAnlegen(
+      "LoeschHinzu", "&Hinzu", [this] { NummerHinzu(); }, {0, 4}, RahmenPunkt);
+  KnopfAnlegen(
+      "LoeschBereichHinzu", "Bereich hin&zu", [this] { BereichHinzu(); }, {1, 4}, RahmenPunkt);
+  KnopfAnlegen(
+      "LoeschSelektion", "&Punktselektion ...", [this] { SelektionHinzu(); }, {0, 5}, RahmenPunkt);
 }
 
 Feld& TVPLoeschForm::NummernfeldAnlegen(const char* Name, Platz Ort, const char* Rahmen) {

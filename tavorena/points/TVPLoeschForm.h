@@ -20,6 +20,7 @@ class TVPLoeschForm final : public Punktform {
   void NachTat() override;
 
  private:
+  void KnöpfeAnlegen();
   Feld& NummernfeldAnlegen(const char* Name, Platz Ort, const char* Rahmen);
   void NummerHinzu();
   void BereichHinzu();

@@ -55,17 +55,17 @@ bool Davor(const Passpaar& A, const Passpaar& B, int Spalte) {
 
 Passgitter::Passgitter(Rechenblatt& Für, const char* Rahmen, const NeuesSystem& Neues, const Passung& Fit,
                        std::function<void()> BeiWechsel, std::function<void()> Hinaus)
-    : Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), {}, {1, 0}, Rahmen)),
+    : Sortiertext(Für.BeschriftungAnlegen("Sortieren nach", {0, 2}, Rahmen)),
+      Sortierung(
+          Für.ListeAnlegen(Für.Mit("Sortierung"), {Titel.begin(), Titel.end()}, Titel[SPnr], {0, 3}, Rahmen)),
+      Löschknopf(Für.KnopfAnlegen(
+          Für.Mit("Delete"), "Zeile lösc&hen", [this] { Delete(); }, {0, 4}, Rahmen)),
+      Zellen(Für.GitterAnlegen(Für.Mit("Gitter"), {}, {1, 0}, Rahmen)),
       Blatt(Für),
       System(Neues),
       Anpassung(Fit),
       Wechsel(std::move(BeiWechsel)),
-      Ende(std::move(Hinaus)),
-      Sortiertext(Für.BeschriftungAnlegen("Sortieren nach", {0, 2}, Rahmen)),
-      Sortierung(
-          Für.ListeAnlegen(Für.Mit("Sortierung"), {Titel.begin(), Titel.end()}, Titel[SPnr], {0, 3}, Rahmen)),
-      Löschknopf(Für.KnopfAnlegen(
-          Für.Mit("Delete"), "Zeile lösc&hen", [this] { Delete(); }, {0, 4}, Rahmen)) {
+      Ende(std::move(Hinaus)) {
   for (int s = 0; s < SpaltenAnzahl; ++s) {
     const bool Nummer = s == SPnr || s == SNeu;
     const int Zeichen = s == SEin ? 3 : s == SPnr ? 8 : s == SNeu ? 10 : s < SVY ? Längenbreite(6) : 6;

@@ -12,6 +12,10 @@ namespace tavorena {
 /// The passpoints of a transformation as rows: ticked, typed, deleted and sorted. The last row stands empty
 /// for the next pair.
 class Passgitter {
+  Beschriftung& Sortiertext;  // above the grid, and before it in the order of the keyboard
+  Auswahl& Sortierung;
+  Knopf& Löschknopf;
+
  public:
   /// @param[in] Neues, Fit  what the rows are looked up in, and what they show the residuals of; both stay
   /// @param[in] BeiWechsel  other pairs take part, or other coordinates: fit anew and call Zeigen
@@ -49,9 +53,6 @@ class Passgitter {
   const NeuesSystem& System;
   const Passung& Anpassung;
   std::function<void()> Wechsel, Ende;
-  Beschriftung& Sortiertext;
-  Auswahl& Sortierung;
-  Knopf& Löschknopf;
   bool Gesperrt = false;
   int Sortiert = -1;  // by this column
   bool Abwärts = false;

@@ -25,6 +25,13 @@ TVAreaForm::TVAreaForm(const Blattart& BlattArt)
       Name(Textfeld("Name", "Name:", 0)),
       Bemerkung(Textfeld("Bemerkung", "Bemerkung:", 1)) {
   Nachweis.NachkommaKoordinaten = std::min<int>(Optionen.OptNachkommastellen, 5);
+  KnopfAnlegen(
+      "AreaPol", "&POL schreiben", [this] { Pol(); }, {0, 2}, RahmenFläche)
+      .Hilfe = "Flächennachweis in eine POL-Datei schreiben";
+  KnopfAnlegen(
+      "AreaPolLesen", "POL lese&n", [this] { PolLesen(); }, {1, 2}, RahmenFläche)
+      .Hilfe = "Grenze aus dem Flächennachweis einer POL-Datei nehmen";
+  Bemerkung.BeiReturn = [this] { FokusSetzen(Zellen()); };
   Gitter& G = ListeAnlegen({{"Punktnr.", PnrZeichen, Zellart::Nummer},
                             {"Rechts", Längenbreite(8)},
                             {"Hoch", Längenbreite(8)},
@@ -52,12 +59,6 @@ TVAreaForm::TVAreaForm(const Blattart& BlattArt)
   GKred = Ergebnis("GKred", "GK-reduziert (m²):", {1, 0});
   Bogen = Ergebnis("Bogen", "Bogenfläche (m²):", {1, 2});
   ListenknöpfeAnlegen();
-  KnopfAnlegen(
-      "AreaPol", "&POL schreiben", [this] { Pol(); }, {0, 2}, RahmenFläche)
-      .Hilfe = "Flächennachweis in eine POL-Datei schreiben";
-  KnopfAnlegen(
-      "AreaPolLesen", "POL lese&n", [this] { PolLesen(); }, {1, 2}, RahmenFläche)
-      .Hilfe = "Grenze aus dem Flächennachweis einer POL-Datei nehmen";
 }
 
 Feld& TVAreaForm::Textfeld(const char* Rest, const char* Label, int Zeile) {
