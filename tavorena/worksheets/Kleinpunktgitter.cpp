@@ -327,13 +327,14 @@ bool Kleinpunktgitter::Herausnehmen(int z) {
 
 // ---- graphics --------------------------------------------------------------------------------------
 
-// The row under work is blue, the stored one red with its number and its line.
+// The row under work is blue and dashed, the stored one red with its number and its line.
 void Kleinpunktgitter::Markieren(int z) {
   Rechenzeile& Z = Reihe(z);
   const Lage Von = Kunde.Standpunkt();
   const int Farbe = Z.Wo.Geschrieben ? FarbeRot : FarbeBlau;
   Z.Bild.Löschen();
-  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe});
+  const Strich Stil = Z.Wo.Geschrieben ? Strich::Durchgezogen : Strich::Gestrichelt;
+  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe, Stil});
   Z.Bild.Punkt({Z.Wo.Geschrieben ? Z.Pnr : "", Z.Ort.RW, Z.Ort.HW, "", Farbe});
   const int Nach = Z.Wort.empty() || !Z.Wo.Geschrieben ? -1 : KorSuche(std::string_view(Z.Wort));
   if (Nach < 0) return;

@@ -49,6 +49,7 @@ Passanzeige::Passanzeige(Rechenblatt& Blatt, const Passung& Fit)
       EinzelY(Einzel(Blatt, "Y", "EinzelY", 4)),
       EinzelX(Einzel(Blatt, "X", "EinzelX", 6)),
       EinzelWo(Blatt.BeschriftungAnlegen("", {0, 8}, RahmenEinzel)) {
+  Hinweis.Bezeichnung = "Hinweis";
   Hinweis.NurLesen = EinzelY.NurLesen = EinzelX.NurLesen = true;
   for (Feld* F : {&EinzelRechts, &EinzelHoch}) {
     F->BeiVerlassen = [this] { return EinzelRechnen(); };
@@ -137,7 +138,8 @@ double Passanzeige::Zeichnen(const std::vector<Passpaar>& Paare) {
     if (!Brauchbar || P.WL == 0) continue;
     const Lage v = Anpassung.InsAlte({P.VY * Faktor, P.VX * Faktor});
     const bool Rot = Anpassung.ÜberGrenze(P, P.VY) || Anpassung.ÜberGrenze(P, P.VX);
-    Bild.Linie({P.Alt.RW, P.Alt.HW, P.Alt.RW + v.RW, P.Alt.HW + v.HW, Rot ? FarbeRot : FarbeBlau});
+    Bild.Linie({P.Alt.RW, P.Alt.HW, P.Alt.RW + v.RW, P.Alt.HW + v.HW, Rot ? FarbeRot : FarbeBlau,
+                Rot ? Strich::Breit : Strich::Durchgezogen});
   }
   if (Brauchbar)
     Bild.Bogen({Anpassung.Mitte().RW, Anpassung.Mitte().HW, Anpassung.Rand(), 0, 360, FarbeBlau});

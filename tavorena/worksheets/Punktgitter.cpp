@@ -178,12 +178,13 @@ void Punktgitter::PunktZurück(Rechenzeile& Z) {
     StatusHilfeSetzen("Punkt " + Z.Pnr + " bleibt: inzwischen geändert");
 }
 
-// The row under work is blue, the committed one red with its number.
+// The row under work is blue and dashed, the committed one red with its number.
 void Punktgitter::Markieren(int z, int Farbe) {
   Rechenzeile& Z = Reihe(z);
   const Lage Von = Kunde.Herkunft(Z);
   Z.Bild.Löschen();
-  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe});
+  const Strich Stil = Farbe == FarbeRot ? Strich::Durchgezogen : Strich::Gestrichelt;
+  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe, Stil});
   Z.Bild.Punkt({Farbe == FarbeRot ? Z.Pnr : "", Z.Ort.RW, Z.Ort.HW, "", Farbe});
 }
 

@@ -169,8 +169,10 @@ void ZugZeichnen(const Zugeingabe& E, const Zugpunkte& P, const Zugrechnung& R, 
   const auto Scheibe = [&](const std::optional<Lage>& L, const std::string& Pnr) {
     if (L) Bild.Punkt({Pnr, L->RW, L->HW, "MARK", FarbeRot});
   };
+  // What is not written yet is told by its colour and by dashes.
   const auto Linie = [&](const std::optional<Lage>& Von, const std::optional<Lage>& Bis, int Mit) {
-    if (Von && Bis) Bild.Linie({Von->RW, Von->HW, Bis->RW, Bis->HW, Mit});
+    const Strich Stil = Mit == FarbeBlau ? Strich::Gestrichelt : Strich::Durchgezogen;
+    if (Von && Bis) Bild.Linie({Von->RW, Von->HW, Bis->RW, Bis->HW, Mit, Stil});
   };
   Scheibe(P.AnfZiel, E.AnfZielPnr);
   Scheibe(P.Anf, E.AnfPnr);
