@@ -85,7 +85,7 @@ chroot_anlegen() {
   bedarf=$({
     for datei in "${pakete[@]}"; do dpkg-deb -f "$datei" Depends; done
     sed -n 's/^Depends: //p' debian/tests/control
-  } | tr ',' '\n' | sed 's/[(|].*//; s/ //g' | grep -v tavorena | sort -u | paste -sd,)
+  } | tr ',' '\n' | sed 's/[(|].*//; s/ //g' | grep -v -e tavorena -e '^$' | sort -u | paste -sd,)
   mmdebstrap --quiet --variant=essential --include="$bedarf" "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$wurzel" "$quellen" >"$probe/mmdebstrap.log" 2>&1 ||
     return 1
   mkdir "$wurzel/quelle" "$wurzel/pakete"
