@@ -18,9 +18,9 @@ for datei in "$exe" "$dll"; do
   fremd=$(sed -n 's/.*DLL Name: //p' "$probe/pe" | grep -viE '^(kernel32|user32|gdi32|msimg32|advapi32|shell32|ole32|msvcrt)\.dll$' || true)
   [ -z "$fremd" ] || { echo "$datei braucht $fremd" >&2; exit 1; }
 done
-sed -n '/\[Ordinal\/Name Pointer\]/,/^$/s/.*\] //p' "$probe/pe" | c++filt -_ >"$probe/namen"
-[ -s "$probe/namen" ]
-! grep -vE '^(tavorena::(TA|Wert)::|_?_?ZN[KS]*8tavorena(2TA|4Wert))' "$probe/namen" >&2
+sed -n '/\[Ordinal\/Name Pointer\]/,/^$/s/^[\t ]*\[[ 0-9]*\] *//p' "$probe/pe" >"$probe/namen"
+grep -q '^_ZN8tavorena2TA10PolarpunktE' "$probe/namen"
+if grep -vE '^_ZZ?NK?8tavorena2TA' "$probe/namen" >&2; then exit 1; fi
 
 cmake --install "$bau" --component dev --prefix "$probe/paket" >/dev/null
 cp "$hier/CMakeLists.txt" "$hier/fremd.cpp" "$probe"

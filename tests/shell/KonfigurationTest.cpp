@@ -115,9 +115,14 @@ TEST_F(Konfiguration, FehlendeDatei) {
 
 TEST_F(Konfiguration, Anwendungsordner) {
   Umgebungsvariable("TAVORENA_ORDNER");
+#ifdef _WIN32
+  const std::string Eigene = std::getenv("APPDATA") + std::string("\\");
+#else
+  const std::string Eigene = "/xdg/";
+#endif
   Umgebungsvariable("XDG_CONFIG_HOME", "/xdg");
   DateinamenAbleiten();
-  EXPECT_EQ(DateinameProtokollTemp, "/xdg/tavorena\\TavorenaProt.tmp");
+  EXPECT_EQ(DateinameProtokollTemp, Eigene + "tavorena\\TavorenaProt.tmp");
   Skript.Programmordner = Ordner.Pfad("");
   Schreibe(Ordner.Pfad("Tavorena.ini"), "");
   DateinamenAbleiten();

@@ -4,8 +4,8 @@
 
 namespace tavorena::test {
 
-/// Runs a program in a folder, without a display and with no settings but those of the folder. What it prints
-/// lies there in "aus" and "meldungen".
+/// Runs a program in a folder, without a display and the settings of the user as far as variables tell them.
+/// What it prints lies there in "aus" and "meldungen".
 /// @return its exit status; -1: killed, or not to be started
 int ProgrammLaufen(const std::string& Ordner, const std::string& Programm, const std::string& Worte);
 

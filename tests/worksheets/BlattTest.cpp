@@ -263,7 +263,9 @@ TEST_F(BlattTest, JedesBlattHatSeinZweitesZiel) {
   ASSERT_EQ(ZweiteZiele().size(), 2U);
   for (const std::string& Datei : ZweiteZiele()) {
     EXPECT_EQ(Anzahl(Inhalt(Datei), "2003") + Anzahl(Inhalt(Datei), "2004"), 1);
+#ifndef _WIN32
     EXPECT_EQ(fs::status(Datei).permissions(), fs::perms{0600});
+#endif
   }
   A.reset();
   EXPECT_EQ(ZweiteZiele().size(), 1U);
