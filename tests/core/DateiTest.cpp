@@ -164,7 +164,13 @@ TEST_F(Datei, AnhängenSiehtWasAndereTun) {
   Wechsel([&] { Schreibe(Name, "f\xFCr"); }, "f\xFCr\xE4");  // written over
   // another file in its place
 #ifdef _WIN32
-  Wechsel([&] { ReplaceFileW(Weg(Name).c_str(), Weg(Zweite).c_str(), nullptr, 0, nullptr, nullptr); }, "11ä");
+  const std::string Neue = Ordner.Pfad("neue"), Alte = Ordner.Pfad("alte");
+  Schreibe(Neue, "11");
+  Wechsel(
+      [&] {  // open files are put aside, but put in the place of none
+        ReplaceFileW(Weg(Name).c_str(), Weg(Neue).c_str(), Weg(Alte).c_str(), 0, nullptr, nullptr);
+      },
+      "11ä");
 #else
   Wechsel([&] { fs::rename(Zweite, Name); }, "11ä");
 #endif

@@ -17,8 +17,10 @@ Testordner::Testordner() {
 Testordner::~Testordner() {
   std::error_code Fehler;
 #ifdef _WIN32  // nobody removes there what is read-only
-  for (const auto& Eintrag : fs::recursive_directory_iterator(Ort, Fehler))
-    fs::permissions(Eintrag, fs::perms::owner_write, fs::perm_options::add, Fehler);
+  for (fs::recursive_directory_iterator i(Ort, Fehler), Ende; !Fehler && i != Ende; i.increment(Fehler)) {
+    std::error_code Bleibt;
+    fs::permissions(*i, fs::perms::owner_write, fs::perm_options::add, Bleibt);
+  }
 #endif
   fs::remove_all(Ort, Fehler);
 }
