@@ -18,6 +18,9 @@ constexpr ULONGLONG Moment = 100;                                               
 constexpr DWORD Eigenschaften =
     FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
 
+constexpr std::size_t Zufallszeichen = 6;
+constexpr int Versuche = 100;  // counted, not timed: on a busy machine the other one has his pauses too
+
 constexpr struct {
   DWORD Windows;
   int Posix;
@@ -81,13 +84,28 @@ std::optional<std::wstring> Vollname(const fs::path& Pfad) {
   return Name;
 }
 
-// Umbenennen takes two steps, and between them there is only the next content.
-bool WirdErsetzt(const std::wstring& Name) {
+// The last of the six characters behind a name that the old content has while Umbenennen takes its two steps.
+constexpr wchar_t Altzeichen = L'~';
+
+// The old content where it stands beside the name together with the next one; empty: it does not.
+std::wstring Abgelegtes(const std::wstring& Name) {
+  const std::size_t Ordner = Name.find_last_of(L'\\') + 1;
+  const std::size_t Länge = Name.size() - Ordner + Nachfolger.size() + Zufallszeichen;
   WIN32_FIND_DATAW Fund{};
-  HANDLE Suche = FindFirstFileW((Name + Breittext(Nachfolger) + L"??????").c_str(), &Fund);
-  if (Suche == KeinGriff) return false;
+  HANDLE Suche = FindFirstFileW((Name + Breittext(Nachfolger) + L"*").c_str(), &Fund);
+  if (Suche == KeinGriff) return {};
+  std::wstring Altes;
+  bool Neues = false;
+  do {
+    const std::wstring_view Eintrag = Fund.cFileName;
+    if (Eintrag.size() != Länge) continue;
+    if (Eintrag.back() == Altzeichen)
+      Altes = Name.substr(0, Ordner).append(Eintrag);
+    else
+      Neues = true;
+  } while (FindNextFileW(Suche, &Fund) != FALSE);
   FindClose(Suche);
-  return true;
+  return Neues ? Altes : L"";
 }
 
 Deskriptor Öffnen(const fs::path& Pfad, DWORD Rechte, DWORD Wie = OPEN_EXISTING, DWORD Zusatz = 0) {
@@ -101,11 +119,15 @@ Deskriptor Öffnen(const fs::path& Pfad, DWORD Rechte, DWORD Wie = OPEN_EXISTING
     return K;
   };
   if (Wie == CREATE_NEW) return Versuch(Wie);
-  const ULONGLONG Ende = GetTickCount64() + Moment;
-  for (;;) {
+  for (int i = 0;; ++i) {
     Deskriptor K = Versuch(OPEN_EXISTING);
     if (K || errno != ENOENT) return K;
-    if (!WirdErsetzt(*Name) || GetTickCount64() > Ende) return Versuch(Wie);
+    const std::wstring Altes = Abgelegtes(*Name);
+    if (Altes.empty()) return Versuch(Wie);
+    if (i == Versuche) {  // who was replacing it was ended: back with it
+      MoveFileExW(Altes.c_str(), Name->c_str(), MOVEFILE_WRITE_THROUGH);
+      return Versuch(Wie);
+    }
     Sleep(1);
   }
 }
@@ -152,8 +174,6 @@ bool Schreiben(const Deskriptor& K, std::string_view Inhalt, OVERLAPPED* Stelle)
 bool Dieselbe(const Dateilage& A, const Dateilage& B) {
   return A.Blick.Gerät == B.Blick.Gerät && A.Blick.Nummer == B.Blick.Nummer;
 }
-
-constexpr std::size_t Zufallszeichen = 6;
 
 fs::path MitZufall(std::wstring Name) {
   static std::random_device Zufall;
@@ -302,7 +322,7 @@ Deskriptor RegulärÖffnen(const fs::path& Pfad, Zugriff Art, Dateilage& Lage, s
 
 // What a folder of the user holds is his by the rights of the folder.
 Deskriptor EigeneAnlegen(fs::path& Pfad) {
-  for (int i = 0; i < 100; ++i) {
+  for (int i = 0; i < Versuche; ++i) {
     const fs::path Neu = MitZufall(Pfad.native());
     Deskriptor K = Öffnen(Neu, GENERIC_READ | GENERIC_WRITE, CREATE_NEW);
     if (K) Pfad = Neu;
@@ -346,8 +366,8 @@ bool RechteGeben(const Deskriptor& /*K*/, const Dateilage* /*Alt*/) { return tru
 // open elsewhere.
 bool Umbenennen(const fs::path& Neu, const fs::path& Ziel, bool War) {
   std::wstring Beiseite = Neu.native();
-  Beiseite.resize(Beiseite.size() - Zufallszeichen);
-  const auto Von = Vollname(Neu), Nach = Vollname(Ziel), Weg = Vollname(MitZufall(Beiseite));
+  Beiseite.back() = Altzeichen;  // the rest is nobody else's
+  const auto Von = Vollname(Neu), Nach = Vollname(Ziel), Weg = Vollname(Beiseite);
   if (!Von || !Nach || !Weg) return false;
   constexpr DWORD Flaggen = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
   DWORD Fehler = ERROR_FILE_NOT_FOUND;
@@ -381,9 +401,9 @@ bool Entfernen(const fs::path& Pfad) {
 void Festhalten(const Deskriptor& K) {
   OVERLAPPED Stelle = Sperrstelle();
   constexpr DWORD Sofort = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
-  // Counted, not timed: on a busy machine the one who holds it has his pauses too.
   for (int i = 0;
-       i < 100 && K && !Gelungen(LockFileEx(K.Nummer(), Sofort, 0, 1, 0, &Stelle)) && errno == EBUSY; ++i)
+       i < Versuche && K && !Gelungen(LockFileEx(K.Nummer(), Sofort, 0, 1, 0, &Stelle)) && errno == EBUSY;
+       ++i)
     Sleep(1);
 }
 
