@@ -21,6 +21,10 @@ std::string Programmordner();
 /// A serial port as the system calls it. @param[in] Nummer  from 1
 std::string Anschlußname(int Nummer);
 
+/// Makes a font that lies in the folder of the program known to it, where the system need not have it.
+/// @return false: there is none, or the system looks after its fonts itself
+bool SchriftAnmelden(const std::string& Datei);
+
 /// Local date and time.
 std::tm Ortszeit(std::time_t Sekunden);
 

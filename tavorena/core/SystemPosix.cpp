@@ -22,6 +22,8 @@ std::string Programmordner() {
 
 std::string Anschlußname(int Nummer) { return "/dev/ttyS" + std::to_string(Nummer - 1); }
 
+bool SchriftAnmelden(const std::string& /*Datei*/) { return false; }
+
 std::tm Ortszeit(std::time_t Sekunden) {
   std::tm Zeit{};
   localtime_r(&Sekunden, &Zeit);

@@ -41,9 +41,12 @@ std::string Umgebungswert(const std::string& Name) {
 }
 
 std::string Einstellungsordner() {
-  wchar_t Ordner[MAX_PATH] = {};
-  const bool Da = SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, Ordner) == S_OK;
-  return (Da ? AusBreittext(Ordner) : Umgebungswert("APPDATA")) + "\\tavorena";
+  std::string Ordner = Umgebungswert("APPDATA");
+  wchar_t Eigener[MAX_PATH] = {};
+  if (Ordner.empty() &&
+      SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, Eigener) == S_OK)
+    Ordner = AusBreittext(Eigener);
+  return Ordner + "\\tavorena";
 }
 
 std::string Programmordner() {
@@ -53,6 +56,11 @@ std::string Programmordner() {
 }
 
 std::string Anschlußname(int Nummer) { return "COM" + std::to_string(Nummer); }
+
+bool SchriftAnmelden(const std::string& Datei) {
+  const std::wstring Name = Breittext(Programmordner() + "\\" + Datei);
+  return AddFontResourceExW(Name.c_str(), FR_PRIVATE, nullptr) > 0;
+}
 
 std::tm Ortszeit(std::time_t Sekunden) {
   std::tm Zeit{};

@@ -5,6 +5,7 @@
 
 #include <tavorena/core/Atempause.h>
 #include <tavorena/core/Datei.h>
+#include <tavorena/core/System.h>
 #include <tavorena/core/TVDialog.h>
 #include <tavorena/core/TVKoordinatenmodul.h>
 #include <tavorena/core/Zahlen.h>
@@ -31,6 +32,7 @@ std::string Datum() {
 
 // @return false: another font stands in its place, and no column would hold
 bool SchriftWählen(cairo_t* Zeichnung, double Größe) {
+  [[maybe_unused]] static const bool Mitgebracht = SchriftAnmelden("DejaVuSansMono.ttf");
   // Widths as they are in the font: those of a screen would be rounded to its pixels.
   cairo_font_options_t* Art = cairo_font_options_create();
   cairo_font_options_set_hint_style(Art, CAIRO_HINT_STYLE_NONE);
