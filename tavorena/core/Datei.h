@@ -12,7 +12,8 @@
 
 namespace tavorena {
 
-/// Name as the file system takes it: "\" becomes the separator, a drive letter is dropped.
+/// Name as the file system takes it: "\" and "/" become its separator, and where it has no drives, the letter
+/// of one is dropped.
 std::filesystem::path Systempfad(std::string_view Name);
 
 /// The parts of a file name, split at "/" and "\". Ordner ends in its separator or is empty, Endung has
