@@ -75,6 +75,6 @@ function(tavorena_test Name)
   add_executable(test_${Name} ${ARGN})
   target_link_libraries(test_${Name} PRIVATE tavorena_regeln Tavorena::${Name} tavorena_testhilfe)
   add_test(NAME ${Name} COMMAND test_${Name} --gtest_shuffle)
-  set_tests_properties(${Name} PROPERTIES TIMEOUT 300
+  set_tests_properties(${Name} PROPERTIES TIMEOUT $<IF:$<BOOL:${WIN32}>,1800,300>
     ENVIRONMENT "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.txt")
 endfunction()

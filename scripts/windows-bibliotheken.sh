@@ -89,6 +89,9 @@ bibliotheken() {
   (mit_configure cairo src --enable-pdf --enable-win32 --enable-win32-font \
     --disable-{png,ps,svg,script,interpreter,trace,gobject,ft,fc,xlib,xcb,pthread,gtk-doc})
   sed -i 's/^Libs.private:/& -lssp/' "$ziel/lib/pkgconfig/cairo.pc"  # it was built with checked calls
+  # Where both lie side by side, the DLL would be taken.
+  cp "/usr/$wirt/lib/libz.a" "$ziel/lib"
+  sed "s|^libdir=.*|libdir=$ziel/lib|" "/usr/$wirt/lib/pkgconfig/zlib.pc" >"$ziel/lib/pkgconfig/zlib.pc"
   cp -r /usr/src/googletest "$bau"
   mit_cmake "$bau/googletest" -DBUILD_GMOCK=OFF
   mkdir -p "$ziel/share/cmake"

@@ -40,7 +40,8 @@ auftrag() {
   shift
   "$@" --koordinaten musterdorf.kor --protokoll m.dru --pdf m.pdf --speichern m.kor musterdorf.sta >aus
   "$@" stationieren tag.gsi --koordinaten musterdorf.kor --art helmert --standpunkt orientierung \
-    --protokoll t.dru --stapel-ausgabe t.sta --pdf t.pdf >>aus
+    --protokoll t.dru --stapel-ausgabe t.sta >>aus
+  "$@" pdf t.dru t.pdf >>aus
   "$@" dxf --koordinaten musterdorf.kor --punkte 'Straße 😀.dxf' >>aus
   "$@" umrechnen --von gk --nach geo musterdorf.kor m.geo >>aus
   "$@" umrechnen --von geo --nach utm32 --trotzdem m.geo u.kor >>aus
