@@ -31,16 +31,14 @@ std::tm Ortszeit(std::time_t Sekunden);
 /// The words of the command line. @param[in] Anzahl,Worte  as main got them
 std::vector<std::string> Programmworte(int Anzahl, const char* const* Worte);
 
-/// While there is one, the bytes that are written reach screen and file as they are, UTF-8.
+/// While there is one, and there is only one, the bytes that are written reach screen and file as they are,
+/// UTF-8.
 class Ausgabebetrieb {
  public:
   Ausgabebetrieb();
   ~Ausgabebetrieb();
   Ausgabebetrieb(const Ausgabebetrieb&) = delete;
   Ausgabebetrieb& operator=(const Ausgabebetrieb&) = delete;
-
- private:
-  unsigned Vorher = 0;  // code page of the screen; 0: nothing to put back
 };
 
 }  // namespace tavorena

@@ -13,6 +13,7 @@ namespace tavorena {
 namespace {
 
 constexpr std::size_t Längster = 32768;  // text that the system gives, with its end
+UINT Bildschirmseite = 0;                // code page of the screen before; 0: nothing to put back
 
 }  // namespace
 
@@ -79,13 +80,14 @@ std::vector<std::string> Programmworte(int Anzahl, const char* const* Worte) {
   return Alle;
 }
 
-Ausgabebetrieb::Ausgabebetrieb() : Vorher(GetConsoleOutputCP()) {
+Ausgabebetrieb::Ausgabebetrieb() {
+  Bildschirmseite = GetConsoleOutputCP();
   SetConsoleOutputCP(CP_UTF8);
   for (std::FILE* Strom : {stdout, stderr}) _setmode(_fileno(Strom), _O_BINARY);
 }
 
 Ausgabebetrieb::~Ausgabebetrieb() {
-  if (Vorher != 0) SetConsoleOutputCP(Vorher);
+  if (Bildschirmseite != 0) SetConsoleOutputCP(Bildschirmseite);
 }
 
 }  // namespace tavorena
