@@ -26,6 +26,7 @@ int ProgrammLaufen(const std::string& Ordner, const std::string& Programm, const
   const fs::path Datei = fs::absolute(Weg(Programm)).make_preferred();
   std::wstring Zeile = L'"' + Datei.native() + L"\" " + Weg(Worte).native();
   Umgebungsvariable("TAVORENA_ORDNER");
+  Umgebungsvariable("APPDATA", ".");
   PROCESS_INFORMATION Lauf{};
   DWORD Status = static_cast<DWORD>(-1);
   if (CreateProcessW(Datei.c_str(), Zeile.data(), nullptr, nullptr, TRUE, 0, nullptr, Weg(Ordner).c_str(),
