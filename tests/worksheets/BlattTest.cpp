@@ -663,7 +663,7 @@ TEST_F(BlattTest, MarkenInDerGrafik) {
   L->Tippen(Element<Gitter>(*L, "LinelGitter"), "2004");
   L->FokusWechseln(Element(*L, "LinelPnrvon"));  // computed, not yet written
   const auto Blau = Neues();
-  EXPECT_EQ(Blau[1], "Linie 172 284 100 230 f16711680");  // from the foot point
+  EXPECT_EQ(Blau[1], "Strichlinie 172 284 100 230 f16711680");  // from the foot point, dashed
   EXPECT_EQ(Blau.size(), Anschluß.size() + 1 + 2);
   Tippe(*L, "LinelGitter", "\n");
   EXPECT_EQ(Neues()[1], "Linie 172 284 100 230 f255");
