@@ -154,7 +154,7 @@ QGridLayout* FormularAnsicht::Rahmenplatz(const std::string& Titel) {
   if (Platz == nullptr) {
     QWidget* Kasten = Titel.empty() ? new QWidget(this) : new QGroupBox(Q(Titel), this);
     Platz = new QGridLayout(Kasten);
-    Platz->setHorizontalSpacing(8);
+    Platz->setHorizontalSpacing(6);
     Platz->setVerticalSpacing(4);
     if (Titel.empty()) Platz->setContentsMargins(0, 0, 0, 0);
     Kästen->addWidget(Kasten);
@@ -182,7 +182,7 @@ FormularAnsicht::Bild FormularAnsicht::BeschriftungErzeugen(Beschriftung& B) {
 FormularAnsicht::Bild FormularAnsicht::FeldErzeugen(Feld& F) {
   auto* Zeile = new Eingabefeld(this);
   Zeile->setFont(Zahlenschrift());
-  Zeile->setFixedWidth(Zeichenbreite(Zeile->font(), F.Zeichen + 1) + 8);  // with the sign of a failed value
+  Zeile->setFixedWidth(Zeichenbreite(Zeile->font(), F.Zeichen + 1) + 6);  // with the sign of a failed value
   Zeile->setAlignment(F.Rechtsbündig ? Qt::AlignRight : Qt::AlignLeft);
   FeldAnschließen(*Zeile, F);
   return {Zeile, [&F, Zeile] {

@@ -219,7 +219,8 @@ void GrößenPrüfen(FormularAnsicht& A, QStringList& Fehler) {
     if (!W->text().isEmpty())
       Prüfe(W, W->text() == "..." ? W->fontMetrics().size(0, " ... ") : W->sizeHint(), W->text());
   }
-  for (const auto* W : A.findChildren<QComboBox*>()) Prüfe(W, W->sizeHint(), W->currentText());
+  for (const auto* W : A.findChildren<QComboBox*>())  // beside the arrow
+    Prüfe(W, W->fontMetrics().size(0, W->currentText()) + QSize(24, 2), W->currentText());
   for (const auto& S : A.Form()->Steuerelemente()) {
     const auto* Zeile = A.findChild<Eingabefeld*>(QString::fromStdString(S->Name));
     if (Zeile != nullptr)
@@ -236,11 +237,10 @@ void GrößenPrüfen(FormularAnsicht& A, QStringList& Fehler) {
         Fehler << A.objectName() + " Spalte " + Titel;
     }
   }
-  const QWidget* Rolle = A.parentWidget()->parentWidget();
-  if (qobject_cast<const QScrollArea*>(Rolle) == nullptr || A.width() < A.minimumSizeHint().width() ||
-      A.height() < A.minimumSizeHint().height() || !A.screen()->size().isValid() ||
-      A.window()->width() > A.screen()->availableSize().width() ||
-      A.window()->height() > A.screen()->availableSize().height())
+  const QSize Schirm = A.screen()->availableSize(), Fenster = A.window()->size(), Ganz = A.minimumSizeHint();
+  const bool ImHauptfenster = qobject_cast<QMainWindow*>(A.window()) != nullptr;
+  if (qobject_cast<QScrollArea*>(A.parentWidget()->parentWidget()) == nullptr ||
+      Ganz.expandedTo(A.size()) != A.size() || (!ImHauptfenster && Fenster.boundedTo(Schirm) != Fenster))
     Fehler << A.objectName() + " paßt nicht und rollt nicht";
 }
 
