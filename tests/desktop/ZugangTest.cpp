@@ -66,7 +66,7 @@ class Schau final : public PlattformQt {
     PlattformQt::FormularZeigen(F, Modal);
     if (!Modal) Tun();
   }
-  void HandbuchZeigen() override {}
+  void HandbuchZeigen(int) override {}
   int Drucken(const Druckseiten&, const std::string&, const std::string&) override { return -1; }
   int ProgrammStarten(const std::string&, const std::string&) override { return 0; }
   void ProgrammBeenden() override {}
@@ -277,6 +277,11 @@ class ZugangTest final : public Fensterumgebung {
     }
     Datei();
     NebenwegeGehen(Ordner.path());
+    TVKernMDIForm::Fenster().Ausführen("MenüDateiSchließen");
+    QCoreApplication::processEvents();
+    auto* Start = Fenster->findChild<QWidget*>("TVStartForm");
+    QVERIFY(Start != nullptr);
+    Alle.Ansehen(dynamic_cast<FormularAnsicht&>(*Start));
     PortsSetzen(PortsVon(*Plattform));
   }
 
