@@ -27,7 +27,7 @@ if [ "${windows-}" ]; then
   trap 'scripts/wine.sh --ende' EXIT
   ctest --test-dir build/mingw --output-on-failure --verbose -j "$(nproc)" >build/mingw/tests.log ||
     { grep -E 'FAILED|Failure|rror|Timeout|Stacktrace' build/mingw/tests.log; exit 1; }
-  awk '/\[  PASSED  \]/ { n += $(NF - 1) } /Passed/ { p++ } END { print n " Tests in " p " Programmen" }' build/mingw/tests.log
+  awk '/\[  PASSED  \].* tests\.$/ { n += $(NF - 1) } /Passed/ { p++ } END { print n " Tests in " p " Programmen" }' build/mingw/tests.log
   schritt "wie auf diesem System"
   cmake --preset headless -DTAVORENA_TESTS=OFF -DTAVORENA_WERROR=ON >/dev/null
   cmake --build build/headless --target tavorena-stapel
