@@ -323,10 +323,12 @@ void Hauptfenster::ProtokollZeigen() {
   const bool Neu = Optionen.ProtokollfensterAn && Protokollrahmen->isHidden();
   Protokollrahmen->setVisible(Optionen.ProtokollfensterAn);
   QFont Schrift = Zahlenschrift();
-  Schrift.setPointSize(Optionen.SchriftgroesseProtokoll);
+  // Large letters of the system are large here too.
+  Schrift.setPointSize(std::max(Optionen.SchriftgroesseProtokoll, QFontInfo(font()).pointSize() * 4 / 5));
   Protokolltext->setFont(Schrift);
   // A line of the protocol without its print margin fits in.
-  const int Breite = Protokollbreite > 0 ? Protokollbreite : Zeichenbreite(Schrift, 74) + 30;
+  const int Breite =
+      Protokollbreite > 0 ? Protokollbreite : std::min(Zeichenbreite(Schrift, 74) + 30, width() / 2);
   if (Neu) resizeDocks({Protokollrahmen}, {Breite}, Qt::Horizontal);
   ProtokollNachziehen();
 }

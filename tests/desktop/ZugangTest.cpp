@@ -484,6 +484,11 @@ class ZugangTest final : public Fensterumgebung {
     QApplication::setFont(Doppelt);
     QStringList Fehler;
     alleFormen([&](FormularAnsicht& A) { GrößenPrüfen(A, Fehler); });
+    Fenster->ProtokollZeigen();
+    for (const auto* Text : Fenster->findChildren<QPlainTextEdit*>()) {
+      if (Text->fontInfo().pointSizeF() < 0.75 * QFontInfo(QApplication::font()).pointSizeF())
+        Fehler << Text->accessibleName() + " bleibt klein";
+    }
     QApplication::setFont(Vorher);
     for (const QString& F : Fehler) qWarning() << F;
     QVERIFY2(Fehler.isEmpty(), qPrintable(Fehler.join('\n')));
