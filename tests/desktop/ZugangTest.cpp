@@ -302,7 +302,8 @@ class ZugangTest final : public Fensterumgebung {
     Optionen.ProtokollfensterAn = true;
     Menü("MenüAnsichtGrafik(1)");
     HandbuchZeigen(0);
-    Textdruck Was(SeitenTeilen("1001\n"), "a.dru", "a.pdf");
+    const Druckseiten Seiten = SeitenTeilen("1001\n");
+    Textdruck Was(Seiten, "a.dru", "a.pdf");
     Druckvorschau Vorschau(Was, Fenster.get());
     QStringList Fehler;
     for (QWidget* Oben :

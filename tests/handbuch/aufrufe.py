@@ -54,7 +54,8 @@ def klartext(seite, zeilen):
 
 def ausführen(text, ort):
     pfad = os.pathsep.join([str(ort.parent / "programme"), os.environ["PATH"]])
-    umgebung = {"PATH": pfad, "HOME": str(ort), "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
+    umgebung = {"PATH": pfad, "HOME": str(ort), "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen",
+                "LSAN_OPTIONS": os.environ.get("LSAN_OPTIONS", "")}
     return subprocess.run(["sh", "-eu", "-c", text], cwd=ort, env=umgebung, capture_output=True, timeout=60,
                           encoding="utf-8", errors="replace", stdin=subprocess.DEVNULL)
 
