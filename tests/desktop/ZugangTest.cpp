@@ -485,7 +485,7 @@ class ZugangTest final : public Fensterumgebung {
     QApplication::setFont(Doppelt);
     QStringList Fehler;
     alleFormen([&](FormularAnsicht& A) { GrößenPrüfen(A, Fehler); });
-    Fenster->ProtokollZeigen();
+    AnzeigePort().HauptfensterGeändert();
     for (const auto* Text : Fenster->findChildren<QPlainTextEdit*>()) {
       if (Text->fontInfo().pointSizeF() < 0.75 * QFontInfo(QApplication::font()).pointSizeF())
         Fehler << Text->accessibleName() + " bleibt klein";
