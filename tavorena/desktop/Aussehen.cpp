@@ -183,10 +183,10 @@ double Kontrast(const QColor& A, const QColor& B) {
 
 QColor Abgesetzt(QColor Farbe, const QColor& Grund) {
   const double Schritt = Grund.lightness() < 128 ? 0.01 : -0.01;
-  double Hell = Farbe.lightnessF();
-  while (Kontrast(Farbe, Grund) < Lesbar && Hell > 0 && Hell < 1) {
-    Hell = std::clamp(Hell + Schritt, 0.0, 1.0);
-    Farbe = QColor::fromHslF(Farbe.hslHueF(), Farbe.hslSaturationF(), static_cast<float>(Hell));
+  double Helligkeit = Farbe.lightnessF();
+  while (Kontrast(Farbe, Grund) < Lesbar && Helligkeit > 0 && Helligkeit < 1) {
+    Helligkeit = std::clamp(Helligkeit + Schritt, 0.0, 1.0);
+    Farbe = QColor::fromHslF(Farbe.hslHueF(), Farbe.hslSaturationF(), static_cast<float>(Helligkeit));
   }
   return Farbe;
 }
