@@ -54,7 +54,7 @@ void Eingabefeld::paintEvent(QPaintEvent* Ereignis) {
   Maler.setFont(Fett);
   Maler.setPen(Warnfarbe());
   const auto Seite = alignment().testFlag(Qt::AlignRight) ? Qt::AlignLeft : Qt::AlignRight;
-  Maler.drawText(rect().adjusted(3, 0, -3, 0), Seite | Qt::AlignVCenter, "!");
+  Maler.drawText(rect().adjusted(3, 0, -3, 0), static_cast<int>(Seite | Qt::AlignVCenter), "!");
 }
 
 void Eingabefeld::keyPressEvent(QKeyEvent* Ereignis) {

@@ -497,10 +497,11 @@ void FormularAnsicht::FokusHolen() {
 void FormularAnsicht::SteuerelementGeändert(Steuerelement& S) {
   const QScopedValueRollback<bool> Sperre(Auffrischend, true);
   const Bild& B = Bilder.at(&S);
-  B.Widget->setVisible(S.Sichtbar);
+  QWidget& W = *B.Widget;
+  W.setVisible(S.Sichtbar);
   B.Zeigen();
-  const auto* Zeile = dynamic_cast<const Eingabefeld*>(B.Widget);
-  BeschreibungSetzen(*B.Widget, S, Zeile != nullptr ? Zeile->Gekürztes() : QString());
+  const auto* Zeile = dynamic_cast<const Eingabefeld*>(&W);
+  BeschreibungSetzen(W, S, Zeile != nullptr ? Zeile->Gekürztes() : QString());
   const bool Benennt =
       dynamic_cast<const Beschriftung*>(&S) != nullptr || dynamic_cast<const Knopf*>(&S) != nullptr;
   if (Benennt && isVisible()) NamenSetzen();
