@@ -38,7 +38,7 @@ bauen() {
 # The compiler cache of the user serves both folders; debhelper gives the build a home of its own.
 CCACHE_DIR=$(ccache --get-config cache_dir)
 CCACHE_MAXSIZE=$(ccache --get-config max_size)
-export CCACHE_DIR CCACHE_MAXSIZE CCACHE_BASEDIR=/ CCACHE_NOHASHDIR=1
+export CCACHE_DIR CCACHE_MAXSIZE CCACHE_BASEDIR= CCACHE_NOHASHDIR=1
 
 schritt "Pakete"
 bauen "$ziel"
