@@ -17,9 +17,9 @@ std::size_t Schlüssel(const KorSatz& P) {
   return std::hash<std::string_view>()(P.Pnr) ^ (31 * Zahl(P.Rechts)) ^ (961 * Zahl(P.Hoch));
 }
 
-// Width of a field with so many integer places, the sign included [characters].
 constexpr const char* Spaltentitel[] = {"Punktnr.", "Rechts", "Hoch", "Höhe", "Sy."};
 
+// Width of a field with so many integer places, the sign included [characters].
 int Breite(int Vorkomma) { return Vorkomma + 1 + Optionen.OptNachkommastellen; }
 
 }  // namespace
@@ -69,6 +69,11 @@ void Punktzeile::PlatzHalten() {
 void PunktzeileKopf(Formular& Form, Platz Ort, const std::string& Rahmen) {
   for (int i = 0; i < 5; ++i)
     Form.BeschriftungAnlegen(Spaltentitel[i], {Ort.Zeile, Ort.Spalte + i}, Rahmen).Rechtsbündig = i < 4;
+}
+
+std::vector<Gitterspalte> Punktwahlspalten() {
+  return {{"M.", 4, false, false}, {Spaltentitel[0], PnrZeichen}, {Spaltentitel[1], 14},
+          {Spaltentitel[2], 14},   {Spaltentitel[3], 10},         {Spaltentitel[4], 6, false, false}};
 }
 
 void Punktsammlung::Hinzu(const std::vector<int>& Zeilen) {

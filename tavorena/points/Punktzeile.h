@@ -35,6 +35,9 @@ struct Punktzeile {
 /// Headings above such rows, from this place on.
 void PunktzeileKopf(Formular& Form, Platz Ort, const std::string& Rahmen);
 
+/// Columns of a list in which points are chosen, the mark in front.
+[[nodiscard]] std::vector<Gitterspalte> Punktwahlspalten();
+
 /// Rows of the table that were gathered for something, found again by all they hold when the table changed.
 class Punktsammlung {
  public:

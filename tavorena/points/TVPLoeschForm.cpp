@@ -28,14 +28,7 @@ TVPLoeschForm::TVPLoeschForm()
                     NummernfeldAnlegen("LoeschPnrvon", {1, 1}, RahmenPunkt))),
       LoeschPnrbis((BeschriftungAnlegen("Bis Punktnr.", {1, 2}, RahmenPunkt),
                     NummernfeldAnlegen("LoeschPnrbis", {1, 3}, RahmenPunkt))),
-      Liste((KnöpfeAnlegen(), GitterAnlegen("LoeschGitter",
-                                            {{"M.", 4, false, false},
-                                             {"Punktnr.", PnrZeichen},
-                                             {"Rechts", 14},
-                                             {"Hoch", 14},
-                                             {"Höhe", 10},
-                                             {"Sy.", 6, false, false}},
-                                            {0, 0}, RahmenListe))),
+      Liste((KnöpfeAnlegen(), GitterAnlegen("LoeschGitter", Punktwahlspalten(), {0, 0}, RahmenListe))),
       Stand(BeschriftungAnlegen("", {1, 0}, RahmenListe)) {
   Titel = "Tavorena Koordinatenverwaltung (VR 25.08)";
   Hilfenummer = 4060;

@@ -116,14 +116,7 @@ class TVPSelectForm final : public Dialogform {
   }
 
   const Punktlisten& Listen;
-  Gitter& Liste = GitterAnlegen("PSelectGitter",
-                                {{"M.", 4, false, false},
-                                 {"Punktnr.", PnrZeichen},
-                                 {"Rechts", 14},
-                                 {"Hoch", 14},
-                                 {"Höhe", 10},
-                                 {"Sy.", 6, false, false}},
-                                {0, 0});
+  Gitter& Liste = GitterAnlegen("PSelectGitter", Punktwahlspalten(), {0, 0});
   Beschriftung& Stand = BeschriftungAnlegen("", {1, 0});
   Feld *Von = nullptr, *Bis = nullptr;
 };
