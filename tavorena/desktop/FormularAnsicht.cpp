@@ -73,6 +73,8 @@ FormularAnsicht::FormularAnsicht(Formular& Gezeigt, QWidget* Eltern)
   setObjectName(Q(Gezeigt.FormName));
   Kästen->setContentsMargins(10, 10, 10, 10);
   Kästen->setSpacing(8);
+  Benennung.setSingleShot(true);
+  connect(&Benennung, &QTimer::timeout, this, &FormularAnsicht::NamenSetzen);
   Aufbauen();
   TitelGeändert();
   Modell->Beobachten(this);
@@ -124,6 +126,7 @@ void FormularAnsicht::ListenNennen() {
 
 // What a screen reader calls the controls: it follows the labels and captions.
 void FormularAnsicht::NamenSetzen() {
+  if (Modell == nullptr) return;
   for (const auto& [S, Name] : Bezeichnungen(*Modell)) {
     QWidget* W = Bilder.at(S).Widget;
     if (const QString Neu = Q(Name); W->accessibleName() != Neu) W->setAccessibleName(Neu);
@@ -504,7 +507,7 @@ void FormularAnsicht::SteuerelementGeändert(Steuerelement& S) {
   BeschreibungSetzen(W, S, Zeile != nullptr ? Zeile->Gekürztes() : QString());
   const bool Benennt =
       dynamic_cast<const Beschriftung*>(&S) != nullptr || dynamic_cast<const Knopf*>(&S) != nullptr;
-  if (Benennt && isVisible()) NamenSetzen();
+  if (Benennt) Benennung.start(0);
   RahmenZeigen(S.Rahmen);
 }
 

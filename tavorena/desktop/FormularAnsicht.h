@@ -3,6 +3,7 @@
 #include <map>
 #include <unordered_map>
 
+#include <QTimer>
 #include <QWidget>
 
 #include <tavorena/forms/Formular.h>
@@ -95,6 +96,7 @@ class FormularAnsicht final : public QWidget, public FormularBeobachter {
   std::map<std::pair<std::string, int>, QButtonGroup*> Gruppen;  // options by frame and group
   QVBoxLayout* Kästen;
   QGridLayout* Knöpfe = nullptr;
+  QTimer Benennung;  // a caption changed, the names follow when the event is done
   bool Auffrischend = false;
 };
 

@@ -76,6 +76,12 @@ class Schau final : public PlattformQt {
   QString Ordner;
 };
 
+class Umbenannte final : public Formular {
+ public:
+  Umbenannte() : Formular("Umbenannte") {}
+  Knopf& Druck = KnopfAnlegen("Druck", "&Eins", [] {}, {0, 0});
+};
+
 // The forms that no command of the menu opens by itself.
 void NebenwegeGehen(const QString& Ordner) {
   Wert Pnr("77");
@@ -476,6 +482,13 @@ class ZugangTest final : public Fensterumgebung {
     QVERIFY2(Gemalt[1].toInt() + 4 < Gemalt[0].toInt(), qPrintable(Gemalt[0] + " " + Gemalt[1]));
     Drücke(Qt::Key_S, Qt::AltModifier);
     QTRY_VERIFY(!BlätterOffen());
+  }
+
+  void nameFolgtDerBeschriftung() {
+    Umbenannte Form;
+    FormularAnsicht Ansicht(Form);  // also before it is shown
+    Form.Ereignis([&Form] { Form.Druck.Text = "&Zwei"; });
+    QTRY_COMPARE(Ansicht.findChild<QPushButton*>("Druck")->accessibleName(), QString("Zwei"));
   }
 
   void nichtsIstAbgeschnitten() {
