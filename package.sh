@@ -24,12 +24,12 @@ mkdir -p "$ziel"
 
 schritt() { printf '\n== %s\n' "$1"; }
 
-# bauen FOLDER [CALL ...]: the packages of what git knows, as it lies here, into that folder.
+# bauen FOLDER [CALL ...]: the packages of what git knows, as it lies here, into that folder. The source package
+# takes the modes of its folders from here, whatever umask builds.
 bauen() {
   local baum=$1/tavorena-$fassung ordner=$1
   shift
-  mkdir -p "$baum"
-  git ls-files -z | tar --null --files-from=- -c | tar -x -C "$baum"
+  (umask 022 && mkdir -p "$baum" && git ls-files -z | tar --null --files-from=- -c | tar -x -C "$baum")
   (cd "$baum" && "$@" dpkg-buildpackage --no-sign) >"$ordner/bau.log" 2>&1 ||
     { tail -n 60 "$ordner/bau.log" >&2; exit 1; }
   rm -rf "$baum"
