@@ -37,11 +37,14 @@ struct GrafikText {
   int Farbe = FarbeSchwarz;
 };
 
+/// Sign of a mark that is computed and not stored yet: told without its colour.
+inline constexpr const char* ZeichenNeu = "×";
+
 /// A point that a worksheet marks, drawn over those of the table.
 struct GrafikMarke {
   std::string Pnr;  ///< "": no number
   double Rechts = 0, Hoch = 0;
-  std::string Symbol;  ///< "MARK": a disc; "": a cross
+  std::string Symbol;  ///< "MARK": a disc; "": a cross; ZeichenNeu
   int Farbe = FarbeRot;
 };
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <string>
 #include <utility>
 #include <vector>
 
+#include <tavorena/calc/Lage.h>
 #include <tavorena/graphics/Grafikmodul.h>
 
 namespace tavorena {
@@ -21,6 +23,16 @@ class Markierung {
   void Punkt(const GrafikMarke& M) { Merken({Art::Marke, GrafikMarkeHinzu(M)}); }
   void Linie(const GrafikLinie& L) { Merken({Art::Linie, GrafikLinieHinzu(L)}); }
   void Bogen(const GrafikBogen& B) { Merken({Art::Bogen, GrafikBogenHinzu(B)}); }
+  /// The line of a row and its point with the number: red when the row is written, else blue, dashed, and the
+  /// point a slanted cross without a number.
+  void Zeilenlinie(bool Geschrieben, Lage Von, Lage Bis) {
+    Linie({Von.RW, Von.HW, Bis.RW, Bis.HW, Geschrieben ? FarbeRot : FarbeBlau,
+           Geschrieben ? Strich::Durchgezogen : Strich::Gestrichelt});
+  }
+  void Zeilenpunkt(bool Geschrieben, const std::string& Pnr, Lage Ort) {
+    Punkt({Geschrieben ? Pnr : "", Ort.RW, Ort.HW, Geschrieben ? "" : ZeichenNeu,
+           Geschrieben ? FarbeRot : FarbeBlau});
+  }
   void Löschen() {
     for (const Stück& S : Elemente) {
       switch (S.Was) {

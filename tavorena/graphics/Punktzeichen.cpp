@@ -3,6 +3,7 @@
 #include <span>
 
 #include <tavorena/core/Zahlen.h>
+#include <tavorena/graphics/Elemente.h>
 #include <tavorena/graphics/Punktzeichen.h>
 
 namespace tavorena {
@@ -14,6 +15,7 @@ struct Zug {
 };
 
 constexpr Zug Kreuz[] = {{-1, 0, 1, 0}, {0, -1, 0, 1}};
+constexpr Zug Schräg[] = {{-0.8, -0.8, 0.8, 0.8}, {-0.8, 0.8, 0.8, -0.8}};
 constexpr Zug Quadrat[] = {{-1, -1, 1, -1}, {1, -1, 1, 1}, {1, 1, -1, 1}, {-1, 1, -1, -1}};
 constexpr Zug Dreieck[] = {{0, -1, 1, 1}, {1, 1, -1, 1}, {-1, 1, 0, -1}};
 constexpr Zug Raute[] = {{0, -1, 1, 0}, {1, 0, 0, 1}, {0, 1, -1, 0}, {-1, 0, 0, -1}};
@@ -30,6 +32,7 @@ constexpr std::array<Zeichen, 5> NachZahl{{{{}, 1, 1}, {Quadrat}, {Dreieck}, {Ra
 Zeichen ZeichenVon(std::string_view Symbol) {
   if (Symbol == "2" || Symbol == "02") return {Dreieck, Klein};
   if (Symbol == "25" || Symbol == "025") return {{}, 1, 2};
+  if (Symbol == ZeichenNeu) return {Schräg};
   if (Symbol.empty() || Symbol.front() < '0' || Symbol.front() > '9') return {Kreuz};
   return NachZahl[static_cast<std::size_t>(std::fmod(ZahlAusText(Symbol), double{NachZahl.size()}))];
 }

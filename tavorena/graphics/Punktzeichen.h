@@ -19,7 +19,7 @@ inline constexpr double Nummernreichweite = 105;
 
 /// The sign of a symbol, its centre at the place: "MARK" a disc, "2" and "02" a small triangle, "25" and
 /// "025" a double circle; other codes by their number modulo 5 a circle, square, triangle, diamond or cross;
-/// a code without a number a cross.
+/// a code without a number a cross; ZeichenNeu a slanted one.
 void PunktzeichenZeichnen(Zeichenfläche& Auf, double x, double y, std::string_view Symbol, int Farbe);
 
 }  // namespace tavorena

@@ -193,7 +193,7 @@ void OrteAnsehen(const Konflikt& Frage) {
   Markierung Beide;
   Beide.Linie({Alter.Rechts, Alter.Hoch, Frage.Rechts, Frage.Hoch, FarbeBlau});
   Beide.Punkt({"", Alter.Rechts, Alter.Hoch, "MARK", FarbeRot});
-  Beide.Punkt({Frage.Pnr + " (neu)", Frage.Rechts, Frage.Hoch, "MARK", FarbeBlau});
+  Beide.Punkt({Frage.Pnr + " (neu)", Frage.Rechts, Frage.Hoch, ZeichenNeu, FarbeBlau});
   FensterUmBeide(Alter, Frage);
   StatusHilfeSetzen("Alter Punkt rot, neuer Punkt blau: weiter mit Klick in die Grafik oder Esc");
   AnzeigePort().GrafikAnsehen();

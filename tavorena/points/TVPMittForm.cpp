@@ -161,7 +161,7 @@ void TVPMittForm::pmittrechnemittel() {
   const Punktsatz Mittel = MittelVon(Punkte);
   Neuer->Rechts.Text = Trimmen(ZahlFormat(Mittel.Rechts, 7, Optionen.OptNachkommastellen));
   Neuer->Hoch.Text = Trimmen(ZahlFormat(Mittel.Hoch, 7, Optionen.OptNachkommastellen));
-  NeuesBild.Punkt({"", Mittel.Rechts, Mittel.Hoch, "MARK", FarbeBlau});
+  NeuesBild.Punkt({"", Mittel.Rechts, Mittel.Hoch, ZeichenNeu, FarbeBlau});
   pmittsetzekoordinaten(Mittel);
 }
 

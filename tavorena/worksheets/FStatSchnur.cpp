@@ -204,7 +204,7 @@ void FStatSchnur::Zeigen() {
   LiniePnr.Aktiv = !Bezug.Ganz();
   Rücknehmen.Aktiv = !Punkte.empty();
   Bild.Löschen();
-  if (Punkt) Bild.Punkt({*Pnr.Text, Punkt->Ort.RW, Punkt->Ort.HW, "", FarbeBlau});
+  if (Punkt) Bild.Punkt({*Pnr.Text, Punkt->Ort.RW, Punkt->Ort.HW, ZeichenNeu, FarbeBlau});
 }
 
 void FStatSchnur::MessungLeeren() {

@@ -75,7 +75,7 @@ void TVFStatForm::GrafikStandpunkt() {
   for (const Stationsanschluß& Z : Gerechnete.Zeilen) {
     if (Z.Ein) Bild.Linie({S.RW, S.HW, Z.Ort.RW, Z.Ort.HW, FarbeBlau});
   }
-  Bild.Punkt({StandPnr.Text, S.RW, S.HW, "MARK", FarbeBlau});
+  Bild.Punkt({StandPnr.Text, S.RW, S.HW, ZeichenNeu, FarbeBlau});
 }
 
 // ---- taken over ------------------------------------------------------------------------------------

@@ -210,7 +210,7 @@ void Fallblatt::FallRechnen() {
   Stand = KorStand;
   Bildzeichnen();
   for (const Fallpunkt& L : Lösungen) {
-    if (L.Da()) Neubild.Punkt({L.Name, L.Ort.RW, L.Ort.HW, "", FarbeBlau});
+    if (L.Da()) Neubild.Punkt({L.Name, L.Ort.RW, L.Ort.HW, ZeichenNeu, FarbeBlau});
   }
   if (!Grund.empty() && (Ganz || !Schweigt())) StatusHilfeSetzen(Grund);
 }

@@ -327,15 +327,13 @@ bool Kleinpunktgitter::Herausnehmen(int z) {
 
 // ---- graphics --------------------------------------------------------------------------------------
 
-// The row under work is blue and dashed, the stored one red with its number and its line.
+// A stored row is joined besides with the point that its column "Linie" names.
 void Kleinpunktgitter::Markieren(int z) {
   Rechenzeile& Z = Reihe(z);
   const Lage Von = Kunde.Standpunkt();
-  const int Farbe = Z.Wo.Geschrieben ? FarbeRot : FarbeBlau;
   Z.Bild.Löschen();
-  const Strich Stil = Z.Wo.Geschrieben ? Strich::Durchgezogen : Strich::Gestrichelt;
-  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe, Stil});
-  Z.Bild.Punkt({Z.Wo.Geschrieben ? Z.Pnr : "", Z.Ort.RW, Z.Ort.HW, "", Farbe});
+  Z.Bild.Zeilenlinie(Z.Wo.Geschrieben, Von, Z.Ort);
+  Z.Bild.Zeilenpunkt(Z.Wo.Geschrieben, Z.Pnr, Z.Ort);
   const int Nach = Z.Wort.empty() || !Z.Wo.Geschrieben ? -1 : KorSuche(std::string_view(Z.Wort));
   if (Nach < 0) return;
   const KorSatz P = KorPunkt(Nach);

@@ -129,7 +129,7 @@ int Punktgitter::GitterEinzel(int z) {
   Neu.Wo = Reihe(z).Wo;
   Reihe(z) = std::move(Neu);
   ZeileZeigen(z);
-  Markieren(z, FarbeBlau);
+  Markieren(z, false);
   return 0;
 }
 
@@ -158,7 +158,7 @@ int Punktgitter::ZeileSchreiben(int z, Rechenzeile Neu) {
 int Punktgitter::GitterEnde(int z) {
   Rechenzeile& Z = Reihe(z);
   if (Kunde.NeuePunkte) {
-    Markieren(z, FarbeBlau);
+    Markieren(z, false);
     Z.Ablage = std::make_unique<Punktablage>();
     if (Z.Ablage->Eintragen(Blatt.Akten, Z.Pnr, Z.Ort, Z.Hoehe, Z.Symbol) < 0) return -3;
   }
@@ -169,7 +169,7 @@ int Punktgitter::GitterEnde(int z) {
   }
   const std::string Satz = Blatt.ImStapel() ? "" : Kunde.Satz(Z);  // a replay records none
   const bool Geschrieben = Blatt.Akten.Zeile(B, Satz, Z.Wo) == 0;
-  Markieren(z, Geschrieben ? FarbeRot : FarbeBlau);
+  Markieren(z, Geschrieben);
   return Geschrieben ? 0 : -2;
 }
 
@@ -178,14 +178,12 @@ void Punktgitter::PunktZurück(Rechenzeile& Z) {
     StatusHilfeSetzen("Punkt " + Z.Pnr + " bleibt: inzwischen geändert");
 }
 
-// The row under work is blue and dashed, the committed one red with its number.
-void Punktgitter::Markieren(int z, int Farbe) {
+void Punktgitter::Markieren(int z, bool Geschrieben) {
   Rechenzeile& Z = Reihe(z);
   const Lage Von = Kunde.Herkunft(Z);
   Z.Bild.Löschen();
-  const Strich Stil = Farbe == FarbeRot ? Strich::Durchgezogen : Strich::Gestrichelt;
-  Z.Bild.Linie({Von.RW, Von.HW, Z.Ort.RW, Z.Ort.HW, Farbe, Stil});
-  Z.Bild.Punkt({Farbe == FarbeRot ? Z.Pnr : "", Z.Ort.RW, Z.Ort.HW, "", Farbe});
+  Z.Bild.Zeilenlinie(Geschrieben, Von, Z.Ort);
+  Z.Bild.Zeilenpunkt(Geschrieben, Z.Pnr, Z.Ort);
 }
 
 void Punktgitter::GrafikKleinpunktLöschen() {

@@ -98,7 +98,7 @@ class Punktgitter {
   void TextGeändert();
   void ZeigeErgebnisse(int z, const Rechenzeile& Z);
   void ZeileZeigen(int z);
-  void Markieren(int z, int Farbe);
+  void Markieren(int z, bool Geschrieben);
   void Delete();
   [[nodiscard]] int Streichen(int z);
   void AnschlussAnAus(bool An);

@@ -165,28 +165,25 @@ std::vector<std::string> ZugSätze(Zugeingabe E) {
 void ZugZeichnen(const Zugeingabe& E, const Zugpunkte& P, const Zugrechnung& R, bool Geschrieben,
                  Markierung& Bild) {
   Bild.Löschen();
-  const int Farbe = Geschrieben ? FarbeRot : FarbeBlau;
   const auto Scheibe = [&](const std::optional<Lage>& L, const std::string& Pnr) {
     if (L) Bild.Punkt({Pnr, L->RW, L->HW, "MARK", FarbeRot});
   };
-  // What is not written yet is told by its colour and by dashes.
-  const auto Linie = [&](const std::optional<Lage>& Von, const std::optional<Lage>& Bis, int Mit) {
-    const Strich Stil = Mit == FarbeBlau ? Strich::Gestrichelt : Strich::Durchgezogen;
-    if (Von && Bis) Bild.Linie({Von->RW, Von->HW, Bis->RW, Bis->HW, Mit, Stil});
+  const auto Linie = [&](const std::optional<Lage>& Von, const std::optional<Lage>& Bis, bool Fest) {
+    if (Von && Bis) Bild.Zeilenlinie(Fest, *Von, *Bis);
   };
   Scheibe(P.AnfZiel, E.AnfZielPnr);
   Scheibe(P.Anf, E.AnfPnr);
   Scheibe(P.End, E.EndPnr);
   Scheibe(P.EndZiel, E.EndZielPnr);
-  Linie(P.AnfZiel, P.Anf, FarbeRot);
-  Linie(P.End, P.EndZiel, FarbeRot);
+  Linie(P.AnfZiel, P.Anf, true);
+  Linie(P.End, P.EndZiel, true);
   std::optional<Lage> Von = P.Anf;
   for (std::size_t i = 0; i < R.Kette.size(); Von = R.Kette[i++]) {
     const Lage L = R.Kette[i];
-    Linie(Von, L, Farbe);
-    Bild.Punkt({Geschrieben ? E.Zeilen[i].Pnr : "", L.RW, L.HW, "", Farbe});
+    Linie(Von, L, Geschrieben);
+    Bild.Zeilenpunkt(Geschrieben, E.Zeilen[i].Pnr, L);
   }
-  if (!R.Werte.Seiten.empty()) Linie(Von, P.End, Farbe);
+  if (!R.Werte.Seiten.empty()) Linie(Von, P.End, Geschrieben);
 }
 
 }  // namespace tavorena

@@ -665,6 +665,7 @@ TEST_F(BlattTest, MarkenInDerGrafik) {
   const auto Blau = Neues();
   EXPECT_EQ(Blau[1], "Strichlinie 172 284 100 230 f16711680");  // from the foot point, dashed
   EXPECT_EQ(Blau.size(), Anschluß.size() + 1 + 2);
+  EXPECT_EQ(Blau.back(), "Linie 52 278 148 182 f16711680");  // a slanted cross
   Tippe(*L, "LinelGitter", "\n");
   EXPECT_EQ(Neues()[1], "Linie 172 284 100 230 f255");
   EXPECT_EQ(Neues().back(), "Text 2004 190 230 f255");
