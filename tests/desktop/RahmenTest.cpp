@@ -527,6 +527,8 @@ class RahmenTest final : public Fensterumgebung {
     Antworte(Qt::Key_Return, Qt::NoModifier);  // that it is gone
     Drücke(Qt::Key_Return);
     QTRY_COMPARE(Stand(), QString("nicht gefunden"));
+    for (const bool An : {true, false}) Fenster->Sperren(An);  // a run that came to nothing
+    QTRY_COMPARE(FokusName(), QString("StartGitter"));
     Drücke(Qt::Key_Delete);
     QTRY_COMPARE(FokusName(), QString("StartBeispiel"));
     Spiele("Strg+Z Alt+V");
