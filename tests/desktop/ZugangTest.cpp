@@ -4,6 +4,7 @@
 #include <tavorena/desktop/Druckvorschau.h>
 #include <tavorena/desktop/Gitteransicht.h>
 #include <tavorena/desktop/Malflaeche.h>
+#include <tavorena/desktop/Rollflaeche.h>
 #include <tavorena/desktop/Textdruck.h>
 #include <tavorena/graphics/Elemente.h>
 #include <tavorena/records/Seiten.h>
@@ -489,6 +490,20 @@ class ZugangTest final : public Fensterumgebung {
     FormularAnsicht Ansicht(Form);  // also before it is shown
     Form.Ereignis([&Form] { Form.Druck.Text = "&Zwei"; });
     QTRY_COMPARE(Ansicht.findChild<QPushButton*>("Druck")->accessibleName(), QString("Zwei"));
+  }
+
+  // What is higher than the screen rolls to the control that gets the focus.
+  void fokusIstZuSehen() {
+    auto* Inhalt = new QWidget;
+    Inhalt->setMinimumSize(200, 3000);
+    auto *Oben = new QLineEdit(Inhalt), *Unten = new QLineEdit(Inhalt);
+    Unten->move(0, 2900);
+    Oben->setFocus();
+    Rollfläche Rolle(Inhalt, true);
+    Rolle.show();
+    QVERIFY(QTest::qWaitForWindowActive(&Rolle) && Unten->visibleRegion().isEmpty());
+    Unten->setFocus();
+    QTRY_VERIFY(!Unten->visibleRegion().isEmpty());
   }
 
   void nichtsIstAbgeschnitten() {

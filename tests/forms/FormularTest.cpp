@@ -2,6 +2,7 @@
 
 #include <random>
 
+#include <tavorena/forms/Bezeichnung.h>
 #include <tavorena/forms/Dialogform.h>
 #include <tavorena/forms/TVWertdialog.h>
 
@@ -209,6 +210,38 @@ TEST_F(Formulare, GitterBleibtDurchDasGesagteGleich) {
     ASSERT_EQ(Z.Zeilen, Soll) << i;
     ASSERT_TRUE(G.Zeile >= 0 && (G.Zeile == 0 || G.Zeile < G.Zeilen()));
   }
+}
+
+// What is read aloud: rows with a heading, fields behind each other, and what two frames have alike.
+TEST(Bezeichnung, AusBeschriftungUndPlatz) {
+  struct Abstandsform final : public Formular {
+    Abstandsform() : Formular("Abstandsform") {
+      Titel = "Abstand";
+      for (const char* Gerade : {"Gerade 1", "Gerade 2"}) {
+        BeschriftungAnlegen("Punktnr.", {0, 1}, Gerade);
+        BeschriftungAnlegen("Rechts", {0, 2}, Gerade);
+        BeschriftungAnlegen("&Anf.pkt.:", {1, 0}, Gerade);
+        FeldAnlegen("Pnr", {1, 1}, Gerade);
+        ErgebnisfeldAnlegen("Rechts", {1, 2}, Gerade);
+        BeschriftungAnlegen("Abstand", {2, 3}, Gerade);
+        FeldAnlegen("Abstand", {2, 4}, Gerade);
+        FeldAnlegen("Dahinter", {2, 5}, Gerade);
+      }
+      BeschriftungAnlegen("Datei:", {0, 0});
+      FeldAnlegen("Datei", {0, 1});
+      KnopfAnlegen(
+          "Wahl", "...", [] {}, {0, 2}, "");
+      KnopfAnlegen("Ende", "&Schließen ...", [] {});
+    }
+  } Form;
+  Namen Alle;
+  const auto Wie = Bezeichnungen(Form);
+  for (const auto& S : Form.Steuerelemente()) {
+    if (Wie.contains(S.get())) Alle.push_back(Wie.at(S.get()));
+  }
+  EXPECT_EQ(Alle, (Namen{"Anf.pkt. Punktnr., Gerade 1", "Anf.pkt. Rechts, Gerade 1", "Abstand, Gerade 1",
+                         "Gerade 1", "Anf.pkt. Punktnr., Gerade 2", "Anf.pkt. Rechts, Gerade 2",
+                         "Abstand, Gerade 2", "Gerade 2", "Datei", "Datei wählen", "Schließen"}));
 }
 
 }  // namespace
