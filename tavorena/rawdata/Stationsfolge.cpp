@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -61,12 +62,13 @@ bool DatZeileNehmen(std::string_view Zeile, std::size_t Nummer, std::vector<Rohb
   if (n == 0) return true;
   if (n > 6) return false;
   if (n <= 3) {
-    if (n > 1 && !IstZahlwort(W[1])) return false;
+    const double Höhe = n > 1 ? ZahlAusText(W[1]) : 0;
+    if (n > 1 && !(IstZahlwort(W[1]) && std::isfinite(Höhe))) return false;
     Rohblock& B = Blöcke.emplace_back();
     B.Standpunkt = W[0];
     B.Symbol = W[2];
     B.Zeile = Nummer;
-    if (n > 1) B.Instrumentenhöhe = ZahlAusText(W[1]);
+    if (n > 1) B.Instrumentenhöhe = Höhe;
     return true;
   }
   if (!std::all_of(W.begin() + 1, W.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(n, 5)),
@@ -80,7 +82,7 @@ bool DatZeileNehmen(std::string_view Zeile, std::size_t Nummer, std::vector<Rohb
              ZahlAusText(W[3]),
              ZahlAusText(W[4]),
              Nummer};
-  if (P.Strecke <= 0) return false;
+  if (P.Strecke <= 0 || !std::isfinite(P.Hz + P.V + P.Strecke + P.Reflektorhöhe)) return false;
   Blöcke.back().Punkte.push_back(std::move(P));
   return true;
 }

@@ -73,9 +73,10 @@ TEST(Stationsfolge, DateiMitMesswerten) {
   std::vector<std::size_t> Fehlerhaft;
   const std::vector<Rohblock> B = DatBlöcke(
       "7 10,5 100 20\r\n\r\n101 1.55 015\r\n8 12.5 99.5 30.25 1.6 020\r\n9 1 2 x\r\n"
-      "9 1 2 0\r\n8 1 2 3 4 5 6\r\n102 Haus\r\n102\r\n8 1 100 5 1.3",
+      "9 1 2 0\r\n8 1 2 3 4 5 6\r\n102 Haus\r\n102\r\n8 1 100 5 1.3\r\n"
+      "9 1 97.e7976 2\r\n103 1e999",
       Fehlerhaft);
-  EXPECT_EQ(Fehlerhaft, (std::vector<std::size_t>{5, 6, 7, 8}));
+  EXPECT_EQ(Fehlerhaft, (std::vector<std::size_t>{5, 6, 7, 8, 11, 12}));
   ASSERT_EQ(B.size(), 3U);
   EXPECT_TRUE(Gleich(B[0].Standpunkt, "", B[0].Punkte[0].Hz, 10.5, B[1].Symbol, "015", B[2].Zeile, 9U,
                      B[1].Instrumentenhöhe.Zahl(), 1.55, B[2].Instrumentenhöhe.IstLeer(), true));
