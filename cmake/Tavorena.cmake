@@ -19,9 +19,15 @@ if(TAVORENA_TIDY)
   find_program(TAVORENA_CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
 endif()
 
+option(TAVORENA_VORAB "Compile the headers of the standard library, Qt and GoogleTest once for all sources" OFF)
+
 find_program(TAVORENA_CCACHE ccache)
 if(TAVORENA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${TAVORENA_CCACHE})
+  if(TAVORENA_VORAB)  # what ccache asks for beside precompiled headers
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${TAVORENA_CCACHE})
+  endif()
 endif()
 
 add_library(tavorena_regeln INTERFACE)
@@ -51,10 +57,20 @@ if(TAVORENA_FUZZ)
   target_compile_options(tavorena_regeln INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+set(TAVORENA_VORABKOPF <algorithm> <array> <cmath> <functional> <map> <memory> <optional> <set> <string>
+  <string_view> <unordered_map> <utility> <vector>)
+
+# tavorena_vorab(target <gtest/gtest.h>): these headers and those of the standard library are compiled before its sources.
+function(tavorena_vorab Ziel)
+  if(TAVORENA_VORAB)
+    target_precompile_headers(${Ziel} PRIVATE ${TAVORENA_VORABKOPF} ${ARGN})
+  endif()
+endfunction()
+
 # tavorena_schicht(core SOURCES a.cpp b.cpp DEPS forms): the static library of one folder. Its headers
 # are included as <tavorena/core/a.h>, by itself and by the layers that name it in DEPS, by no other.
 function(tavorena_schicht Name)
-  cmake_parse_arguments(S "" "" "SOURCES;DEPS" ${ARGN})
+  cmake_parse_arguments(S "" "" "SOURCES;DEPS;VORAB" ${ARGN})
   set(Sicht ${CMAKE_BINARY_DIR}/include/${Name}/tavorena)
   file(MAKE_DIRECTORY ${Sicht})
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${Sicht}/${Name} SYMBOLIC)
@@ -62,6 +78,7 @@ function(tavorena_schicht Name)
   add_library(Tavorena::${Name} ALIAS tavorena_${Name})
   target_include_directories(tavorena_${Name} PUBLIC ${CMAKE_BINARY_DIR}/include/${Name})
   target_link_libraries(tavorena_${Name} PRIVATE tavorena_regeln)
+  tavorena_vorab(tavorena_${Name} ${S_VORAB})
   if(TAVORENA_TIDY)
     set_target_properties(tavorena_${Name} PROPERTIES CXX_CLANG_TIDY ${TAVORENA_CLANG_TIDY})
   endif()
@@ -74,6 +91,11 @@ endfunction()
 function(tavorena_test Name)
   add_executable(test_${Name} ${ARGN})
   target_link_libraries(test_${Name} PRIVATE tavorena_regeln Tavorena::${Name} tavorena_testhilfe)
+  if(TAVORENA_VORAB AND Name STREQUAL core)
+    tavorena_vorab(test_core <gtest/gtest.h>)
+  elseif(TAVORENA_VORAB)
+    target_precompile_headers(test_${Name} REUSE_FROM test_core)
+  endif()
   add_test(NAME ${Name} COMMAND test_${Name} --gtest_shuffle)
   set_tests_properties(${Name} PROPERTIES TIMEOUT $<IF:$<BOOL:${WIN32}>,1800,300>
     ENVIRONMENT "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.txt")

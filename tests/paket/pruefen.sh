@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
-# Installs the library of a build directory into a folder of its own and builds a program of somebody else against
-# it. Looks whether the built files are hardened and all tell the one version, and at the data for the desktop.
+# pruefen.sh FOLDER [PROGRAM ...]: installs the library of a build directory into a folder of its own and builds a
+# program of somebody else against it. Looks whether the built files and those programs are hardened and all tell the one
+# version, and at the data for the desktop.
 set -euo pipefail
 Bau=$(realpath "$1")
+shift
 Hier=$(dirname "$(realpath "$0")")
 Probe=$(mktemp -d)
 trap 'rm -rf "$Probe"' EXIT
@@ -13,9 +15,7 @@ CMAKE_PREFIX_PATH=$Probe/paket PKG_CONFIG_PATH=$Pc LD_LIBRARY_PATH=$(dirname "$P
 
 # No folder of the build inside, position independent, all relocations read-only, stack protector. Checked calls of the C
 # library leave no trace where the compiler proves that none is needed: the commands of the build tell them.
-for Datei in "$(dirname "$Pc")/libtavorena.so" "$Bau"/python/tavorena*.so "$Bau/tavorena/console/tavorena-stapel" \
-  "$Bau/tavorena/desktop/tavorena"; do
-  [ -e "$Datei" ] || continue
+for Datei in "$(dirname "$Pc")/libtavorena.so" "$Bau"/python/tavorena*.so "$@"; do
   readelf -hldW --dyn-syms "$Datei" >"$Probe/elf"
   if grep -qaF "$(realpath "$Hier/../..")" "$Datei"; then
     echo "$Datei: der Ordner steht darin" >&2
@@ -36,7 +36,9 @@ Datum=$(sed -n 's/^set(TAVORENA_DATUM \([-0-9]*\)).*/\1/p' "$Wurzel/CMakeLists.t
 gleich() { [ "$2" = "$3" ] || { echo "$1: \"$2\" statt \"$3\"" >&2; exit 1; }; }
 gleich "debian/changelog" "$(sed -n '1s/.*(\(.*\)).*/\1/p' "$Wurzel/debian/changelog")" "$Fassung"
 gleich "debian/changelog" "$(date -ud "$(sed -n '0,/^ -- /s/^ -- .*>  //p' "$Wurzel/debian/changelog")" +%F)" "$Datum"
-gleich "--version" "$("$Bau/tavorena/console/tavorena-stapel" --version)" "tavorena-stapel $Fassung"
+for Programm in "$@"; do
+  gleich "--version" "$("$Programm" --version)" "${Programm##*/} $Fassung"
+done
 gleich "__version__" "$(PYTHONPATH=$Bau/python /usr/bin/python3 -c 'import tavorena; print(tavorena.__version__)')" "$Fassung"
 gleich "pkg-config" "$(PKG_CONFIG_PATH=$Pc pkg-config --modversion tavorena)" "$Fassung"
 for Datei in "$Bau"/packaging/tavorena{.1,-stapel.1,.3,.metainfo.xml}; do
